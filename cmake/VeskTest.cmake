@@ -1,0 +1,17 @@
+# SPDX-License-Identifier: MIT
+
+# vesk_test(<name> SOURCES <file>... [USES <layer>...] [LIBRARIES <library>...])
+#
+# Makes the test tst_<name> of one folder of tests/ and registers it; it runs offscreen.
+function(vesk_test name)
+    cmake_parse_arguments(arg "" "" "SOURCES;USES;LIBRARIES" ${ARGN})
+    set(target tst_${name})
+    qt_add_executable(${target} ${arg_SOURCES})
+    set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    list(TRANSFORM arg_USES PREPEND vesk_ OUTPUT_VARIABLE uses)
+    target_link_libraries(${target} PRIVATE Qt6::Test ${uses} ${arg_LIBRARIES})
+    vesk_compile_options(${target})
+    add_test(NAME ${name} COMMAND ${target})
+    set_tests_properties(${name} PROPERTIES LABELS unit TIMEOUT 120
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+endfunction()

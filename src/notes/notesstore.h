@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "notes/livequery.h"
+#include "notes/note.h"
+#include "notes/prompt.h"
+#include "notes/record.h"
+#include "platform/clock.h"
+
+#include <QHash>
+#include <QObject>
+#include <QString>
+
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+namespace vesk {
+
+class Database;
+
+/// All notes and prompts: in memory, one object per identity, and in a file. Changes are taken at
+/// once and written by the next `save`.
+class NotesStore final : public QObject, private RecordObserver
+{
+    Q_OBJECT
+
+public:
+    /// Either a store or the reason why there is none.
+    struct OpenResult
+    {
+        std::unique_ptr<NotesStore> store;
+        QString error;
+    };
+
+    /// Opens the store's file, or makes it and its folder if it is missing, readable by its user
+    /// only. A file that cannot be used (not a store, damaged, of a newer version, not writable,
+    /// locked) is left as it was. `clock` has to outlive the store.
+    [[nodiscard]] static OpenResult open(const QString &path, Clock &clock);
+    /// Tries once more to write what is pending.
+    ~NotesStore() override;
+
+    /// Takes a new record over; it is durable only after `save`.
+    Note &insert(std::unique_ptr<Note> note);
+    Prompt &insert(std::unique_ptr<Prompt> prompt);
+    /// Takes the record out and deletes it. Live queries tell of it before it is gone.
+    void remove(Note &note);
+    void remove(Prompt &prompt);
+
+    /// Writes everything pending in one transaction; returns once it is on the disk. False if that
+    /// failed: nothing is lost, it stays pending in its order, and the store tries again by itself.
+    bool save();
+    [[nodiscard]] bool hasPendingChanges() const;
+
+    /// Null if there is no record of that kind with this identity.
+    [[nodiscard]] Note *findNote(const RecordId &id) const;
+    [[nodiscard]] Prompt *findPrompt(const RecordId &id) const;
+
+    /// By `updatedAt`, newest first.
+    [[nodiscard]] LiveQuery<Note> &notes() { return m_notes; }
+    /// By `createdAt`, newest first.
+    [[nodiscard]] LiveQuery<Prompt> &prompts() { return m_prompts; }
+
+    /// Prompts that are done, in no order.
+    [[nodiscard]] QList<Prompt *> donePrompts() const;
+
+private:
+    // (the implementer's)
+};
+
+} // namespace vesk

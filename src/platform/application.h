@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+
+class QWindow;
+
+namespace vesk {
+
+/// This program as one application among those of the desktop.
+class Application : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Whether one of this program's windows has the keyboard.
+    [[nodiscard]] virtual bool isActive() const = 0;
+
+    /// Whether the program was hidden and not unhidden since. It starts unhidden, with no window up.
+    [[nodiscard]] virtual bool isHidden() const = 0;
+
+    /// Takes all of the program's windows off the screen, notices excepted, and gives the keyboard
+    /// back to the window that had it before `activate`. Does nothing if already hidden.
+    virtual void hide() = 0;
+
+    /// Ends the hidden state, without showing any window by itself.
+    virtual void unhide() = 0;
+
+    /// Gives the keyboard to `window`, which is shown or being shown, and remembers the window of
+    /// another application that had it.
+    virtual void activate(QWindow &window) = 0;
+
+Q_SIGNALS:
+    /// The program has gone into the hidden state.
+    void didHide();
+    /// A window of another application has taken the keyboard from this program.
+    void didResignActive();
+    /// The user has started the program a second time; that start has ended itself.
+    void reopened();
+};
+
+} // namespace vesk
