@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/accessibility.h"
+#include "platform/clock.h"
+
+#include <QHash>
+
+#include <chrono>
+
+namespace vesk {
+
+/// Other applications' user interfaces as a test describes them.
+class MemoryAccessibility final : public Accessibility
+{
+    Q_OBJECT
+
+public:
+    /// One element as a test lays it out.
+    struct Element
+    {
+        QString role;
+        std::optional<QString> selectedText;
+        std::optional<QString> url;
+        std::optional<AccessibleElement> parent;
+    };
+
+    explicit MemoryAccessibility(Clock &clock);
+
+    [[nodiscard]] bool isProcessTrusted() const override { return m_isTrusted; }
+    void askForTrust() override { ++m_askCount; }
+    [[nodiscard]] std::optional<QString> focusedWindowTitle(qint64 processIdentifier) const override;
+    QCoro::Task<std::optional<AccessibleElement>> copyElement(AccessibleElement element,
+                                                              ElementAttribute attribute) override;
+    QCoro::Task<std::optional<QString>> copyString(AccessibleElement element,
+                                                   StringAttribute attribute) override;
+
+    void setTrusted(bool isTrusted);
+    [[nodiscard]] int askCount() const { return m_askCount; }
+    void setFocusedWindowTitle(qint64 processIdentifier, const QString &title);
+    /// Puts an element in place of what stood under its name.
+    void setElement(const AccessibleElement &name, const Element &element);
+    /// What has the keyboard, for the system-wide element and for the element's application; none
+    /// for nothing.
+    void setFocusedElement(const std::optional<AccessibleElement> &name) { m_focused = name; }
+    /// Lets every answer take this long; zero answers at once, without suspending.
+    void setDelay(std::chrono::milliseconds delay) { m_delay = delay; }
+
+private:
+    Clock &m_clock;
+    bool m_isTrusted = true;
+    int m_askCount = 0;
+    std::chrono::milliseconds m_delay{0};
+    QHash<qint64, QString> m_titles;
+    QHash<QString, Element> m_elements;
+    std::optional<AccessibleElement> m_focused;
+};
+
+} // namespace vesk

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/application.h"
+
+#include <QPointer>
+#include <QWindow>
+
+namespace vesk {
+
+/// This program among no others: it hides and shows its real windows, and a test takes the keyboard
+/// away from it.
+class MemoryApplication final : public Application
+{
+    Q_OBJECT
+
+public:
+    [[nodiscard]] bool isActive() const override { return m_isActive; }
+    [[nodiscard]] bool isHidden() const override { return m_isHidden; }
+    void hide() override;
+    void unhide() override { m_isHidden = false; }
+    void activate(QWindow &window) override;
+
+    /// Plays the user turning to another application.
+    void resignActive();
+    /// Plays a second start of the program.
+    void reopen() { Q_EMIT reopened(); }
+    /// The window that was activated last.
+    [[nodiscard]] QWindow *activatedWindow() const { return m_activatedWindow; }
+
+private:
+    bool m_isActive = false;
+    bool m_isHidden = false;
+    QPointer<QWindow> m_activatedWindow;
+};
+
+} // namespace vesk

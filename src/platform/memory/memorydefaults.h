@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/defaults.h"
+
+#include <QHash>
+
+namespace vesk {
+
+/// Choices that are forgotten when the object goes.
+class MemoryDefaults final : public Defaults
+{
+public:
+    [[nodiscard]] bool boolForKey(const QString &key) const override;
+    void setBool(bool value, const QString &key) override;
+
+private:
+    QHash<QString, bool> m_values;
+};
+
+} // namespace vesk

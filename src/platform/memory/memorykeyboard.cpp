@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "platform/memory/memorykeyboard.h"
+
+namespace vesk {
+
+bool MemoryHotKeys::registerHotKey(quint32 id, KeyCombination combination)
+{
+    m_registered.remove(id);
+    if (m_taken.contains(combination) || m_registered.values().contains(combination))
+        return false;
+    m_registered.insert(id, combination);
+    return true;
+}
+
+bool MemoryHotKeys::press(KeyCombination combination)
+{
+    for (auto entry = m_registered.cbegin(); entry != m_registered.cend(); ++entry) {
+        if (entry.value() == combination) {
+            Q_EMIT pressed(entry.key());
+            return true;
+        }
+    }
+    return false;
+}
+
+bool MemoryEventTap::start()
+{
+    m_isStarted = true;
+    return true;
+}
+
+void MemoryEventTap::press()
+{
+    if (m_isStarted)
+        Q_EMIT keyDown();
+}
+
+void MemoryEventTap::setFlags(Qt::KeyboardModifiers modifiers)
+{
+    if (m_isStarted)
+        Q_EMIT flagsChanged(modifiers);
+}
+
+QCoro::Task<bool> MemoryEventPoster::post(Command command)
+{
+    if (!m_isAllowed)
+        co_return false;
+    m_posted.append(command);
+    if (m_response)
+        m_response(command);
+    co_return true;
+}
+
+} // namespace vesk

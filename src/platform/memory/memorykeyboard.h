@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/eventposter.h"
+#include "platform/eventtap.h"
+#include "platform/hotkeys.h"
+
+#include <QHash>
+#include <QList>
+
+#include <functional>
+
+namespace vesk {
+
+/// Hot keys that a test presses.
+class MemoryHotKeys final : public HotKeys
+{
+    Q_OBJECT
+
+public:
+    bool registerHotKey(quint32 id, KeyCombination combination) override;
+    void unregisterHotKey(quint32 id) override { m_registered.remove(id); }
+
+    /// Presses a combination; true if someone has it.
+    bool press(KeyCombination combination);
+    /// Plays another application that has the combination already.
+    void setTaken(KeyCombination combination) { m_taken.append(combination); }
+    [[nodiscard]] qsizetype registrationCount() const { return m_registered.size(); }
+
+private:
+    QHash<quint32, KeyCombination> m_registered;
+    QList<KeyCombination> m_taken;
+};
+
+/// A keyboard that a test listens through.
+class MemoryEventTap final : public EventTap
+{
+    Q_OBJECT
+
+public:
+    bool start() override;
+
+    /// Plays a key; heard only once `start` was called.
+    void press();
+    void setFlags(Qt::KeyboardModifiers modifiers);
+
+private:
+    bool m_isStarted = false;
+};
+
+/// Keeps what was posted, and lets a test answer like the application that gets the keys.
+class MemoryEventPoster final : public EventPoster
+{
+public:
+    QCoro::Task<bool> post(Command command) override;
+
+    [[nodiscard]] const QList<Command> &posted() const { return m_posted; }
+    /// What the frontmost application does with a command that it gets.
+    void setResponse(std::function<void(Command)> response) { m_response = std::move(response); }
+    /// Whether commands are posted at all; if not, `post` gives false.
+    void setAllowed(bool isAllowed) { m_isAllowed = isAllowed; }
+
+private:
+    bool m_isAllowed = true;
+    QList<Command> m_posted;
+    std::function<void(Command)> m_response;
+};
+
+} // namespace vesk

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "platform/memory/memorypasteboard.h"
+
+namespace vesk {
+
+const QString MemoryPasteboard::kTextType = QStringLiteral("text/plain;charset=utf-8");
+
+QCoro::Task<QList<PasteboardItem>> MemoryPasteboard::pasteboardItems()
+{
+    co_return m_items;
+}
+
+QCoro::Task<std::optional<QString>> MemoryPasteboard::string()
+{
+    for (const PasteboardItem &item : std::as_const(m_items)) {
+        for (const PasteboardData &representation : item) {
+            if (representation.type == kTextType)
+                co_return QString::fromUtf8(representation.data);
+        }
+    }
+    co_return std::nullopt;
+}
+
+void MemoryPasteboard::clearContents()
+{
+    writeObjects({});
+}
+
+void MemoryPasteboard::setString(const QString &text)
+{
+    const PasteboardData representation{.type = kTextType, .data = text.toUtf8()};
+    writeObjects({PasteboardItem{representation}});
+}
+
+void MemoryPasteboard::writeObjects(const QList<PasteboardItem> &items)
+{
+    m_items = items;
+    ++m_changeCount;
+    if (m_reportsChanges)
+        Q_EMIT changed();
+}
+
+} // namespace vesk
