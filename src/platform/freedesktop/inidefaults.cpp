@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "platform/freedesktop/inidefaults.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+#include <QStandardPaths>
+
+namespace vesk {
+
+QString IniDefaults::standardPath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+           + QStringLiteral("/Vesk/Vesk.conf");
+}
+
+IniDefaults::IniDefaults(const QString &path)
+    : m_path(path)
+    , m_values(readFile())
+{
+    watch();
+    // The file is replaced, not written in place, so the folder tells what the file cannot.
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &IniDefaults::reload);
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &IniDefaults::reload);
+}
+
+bool IniDefaults::boolForKey(const QString &key) const
+{
+    return m_values.value(key, false);
+}
+
+void IniDefaults::setBool(bool value, const QString &key)
+{
+    // A key that was never set is written even if it is false: that the user has decided is a fact.
+    if (m_values.contains(key) && m_values.value(key) == value)
+        return;
+    m_values.insert(key, value);
+    QSettings settings(m_path, QSettings::IniFormat);
+    settings.setValue(key, value);
+    settings.sync();
+    watch();
+}
+
+QHash<QString, bool> IniDefaults::readFile() const
+{
+    QHash<QString, bool> values;
+    if (!QFileInfo::exists(m_path))
+        return values;
+    const QSettings settings(m_path, QSettings::IniFormat);
+    const QStringList keys = settings.allKeys();
+    for (const QString &key : keys)
+        values.insert(key, settings.value(key).toBool());
+    return values;
+}
+
+void IniDefaults::watch()
+{
+    const QString folder = QFileInfo(m_path).path();
+    QDir().mkpath(folder);
+    if (!m_watcher.directories().contains(folder))
+        m_watcher.addPath(folder);
+    if (QFile::exists(m_path) && !m_watcher.files().contains(m_path))
+        m_watcher.addPath(m_path);
+}
+
+void IniDefaults::reload()
+{
+    watch();
+    // A file that has just gone is about to be replaced; what it said holds until then.
+    if (!QFile::exists(m_path))
+        return;
+    QHash<QString, bool> values = readFile();
+    if (values == m_values)
+        return;
+    m_values = std::move(values);
+    Q_EMIT changedOutside();
+}
+
+} // namespace vesk

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/defaults.h"
+
+#include <QFileSystemWatcher>
+#include <QHash>
+#include <QObject>
+
+namespace vesk {
+
+/// The user's choices in an INI file, under [General]. Tells when another process has changed it.
+class IniDefaults final : public QObject, public Defaults
+{
+    Q_OBJECT
+
+public:
+    /// `/Vesk/Vesk.conf`.
+    [[nodiscard]] static QString standardPath();
+
+    explicit IniDefaults(const QString &path);
+
+    [[nodiscard]] bool boolForKey(const QString &key) const override;
+    void setBool(bool value, const QString &key) override;
+
+Q_SIGNALS:
+    /// The file was written by somebody else, and at least one value differs.
+    void changedOutside();
+
+private:
+    [[nodiscard]] QHash<QString, bool> readFile() const;
+    void watch();
+    void reload();
+
+    QString m_path;
+    QHash<QString, bool> m_values;
+    QFileSystemWatcher m_watcher;
+};
+
+} // namespace vesk
