@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/guard.h"
+#include "desktop/texteditor.h"
+
+#include <QCoreApplication>
+#include <QTest>
+
+/// Gives up this test function with the titles on the screen, which mostly say what went wrong.
+#define VERIFY_ON(desktop, condition)                                                                        \
+    QVERIFY2(condition, qPrintable(QStringLiteral("On the screen: ") + (desktop).windows().describe()))
+
+namespace vesk {
+
+/// How long the slowest of machines may take; nothing here measures speed.
+constexpr std::chrono::seconds kBound{10};
+/// The hub takes no second capture for two seconds.
+constexpr std::chrono::milliseconds kCaptureGate{2100};
+
+const auto kPanel = QStringLiteral("Vesk");
+const auto kSaved = QStringLiteral("Saved to Vesk");
+const auto kAlready = QStringLiteral("Already in Vesk");
+
+/// Runs the test object's functions, each process of them below the guard.
+template <typename Test>
+int runDesktopTest(int argc, char **argv)
+{
+    return runGuarded([&] {
+        const QCoreApplication application(argc, argv);
+        Test test;
+        return QTest::qExec(&test, argc, argv);
+    });
+}
+
+} // namespace vesk

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArrayView>
+#include <QImage>
+#include <QString>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <xcb/xcb.h>
+
+namespace vesk {
+
+/// The test's own connection to the X server, apart from all programs on the desktop.
+class DisplayConnection final
+{
+public:
+    /// Null if the server does not answer. `name` as in ":7".
+    [[nodiscard]] static std::unique_ptr<DisplayConnection> open(const QString &name);
+    ~DisplayConnection();
+    Q_DISABLE_COPY_MOVE(DisplayConnection)
+
+    /// True as soon as `condition` holds: it is asked again after each event on the root window (a
+    /// window came, went or was activated) and every 5 ms. Failure: false after `bound`.
+    [[nodiscard]] bool waitUntil(std::chrono::milliseconds bound, const std::function<bool()> &condition);
+
+    /// The text of a selection ("PRIMARY", "CLIPBOARD"); none if it has no owner, or its owner gave
+    /// no text within `bound`.
+    [[nodiscard]] std::optional<QString> readSelection(const char *selection,
+                                                       std::chrono::milliseconds bound);
+
+    /// What the whole screen shows now; null if the server refused.
+    [[nodiscard]] QImage screenshot() const;
+
+    [[nodiscard]] xcb_atom_t atom(const char *name) const;
+    [[nodiscard]] xcb_connection_t *xcb() const { return m_connection; }
+    [[nodiscard]] xcb_window_t root() const { return m_screen->root; }
+    [[nodiscard]] QSize size() const { return {m_screen->width_in_pixels, m_screen->height_in_pixels}; }
+
+private:
+    explicit DisplayConnection(xcb_connection_t *connection);
+
+    [[nodiscard]] QString takeSelectionProperty(xcb_atom_t property);
+
+    xcb_connection_t *m_connection;
+    xcb_screen_t *m_screen;
+    /// Takes the selections' texts; never shown.
+    xcb_window_t m_window;
+};
+
+/// A reply or error of xcb, which comes from malloc.
+struct FreeReply
+{
+    void operator()(void *reply) const { std::free(reply); }
+};
+
+template <typename T>
+using Reply = std::unique_ptr<T, FreeReply>;
+
+} // namespace vesk

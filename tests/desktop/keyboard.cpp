@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/keyboard.h"
+
+#include <ranges>
+#include <xcb/xtest.h>
+
+namespace vesk {
+
+Keyboard::Keyboard(DisplayConnection &display)
+    : m_display(display)
+{
+    const xcb_setup_t *setup = xcb_get_setup(display.xcb());
+    const auto cookie = xcb_get_keyboard_mapping(display.xcb(), setup->min_keycode,
+                                                 quint8(setup->max_keycode - setup->min_keycode + 1));
+    m_mapping.reset(xcb_get_keyboard_mapping_reply(display.xcb(), cookie, nullptr));
+}
+
+Keyboard::Place Keyboard::find(xcb_keysym_t key) const
+{
+    const xcb_setup_t *setup = xcb_get_setup(m_display.xcb());
+    const xcb_keysym_t *keysyms = xcb_get_keyboard_mapping_keysyms(m_mapping.get());
+    const int levels = m_mapping->keysyms_per_keycode;
+    const int keys = setup->max_keycode - setup->min_keycode + 1;
+    for (int level = 0; level < 2; ++level) {
+        for (int index = 0; index < keys; ++index) {
+            if (keysyms[index * levels + level] == key)
+                return {xcb_keycode_t(setup->min_keycode + index), level == 1};
+        }
+    }
+    return {};
+}
+
+void Keyboard::send(xcb_keysym_t key, quint8 type)
+{
+    const Place place = find(key);
+    if (place.code == 0)
+        return;
+    xcb_test_fake_input(m_display.xcb(), type, place.code, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+    xcb_flush(m_display.xcb());
+}
+
+void Keyboard::press(xcb_keysym_t key)
+{
+    send(key, XCB_KEY_PRESS);
+}
+
+void Keyboard::release(xcb_keysym_t key)
+{
+    send(key, XCB_KEY_RELEASE);
+}
+
+void Keyboard::tap(std::initializer_list<xcb_keysym_t> keys)
+{
+    for (const xcb_keysym_t key : keys)
+        press(key);
+    for (const xcb_keysym_t key : std::ranges::reverse_view(keys))
+        release(key);
+}
+
+void Keyboard::type(const QString &text)
+{
+    for (const QChar character : text) {
+        // The keysyms of Latin-1 characters are their code points.
+        const xcb_keysym_t key = character.unicode();
+        if (find(key).needsShift)
+            tap({XK_Shift_L, key});
+        else
+            tap({key});
+    }
+}
+
+bool Keyboard::isHotKeyTaken(xcb_keysym_t key) const
+{
+    // The server serves nobody else between the trial and its end, so the trial takes the key from no one.
+    xcb_connection_t *xcb = m_display.xcb();
+    const quint16 modifiers = XCB_MOD_MASK_4 | XCB_MOD_MASK_1;
+    const xcb_keycode_t code = find(key).code;
+    xcb_grab_server(xcb);
+    const xcb_void_cookie_t cookie = xcb_grab_key_checked(xcb, 0, m_display.root(), modifiers, code,
+                                                          XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    const Reply<xcb_generic_error_t> error{xcb_request_check(xcb, cookie)};
+    if (!error)
+        xcb_ungrab_key(xcb, code, m_display.root(), modifiers);
+    xcb_ungrab_server(xcb);
+    xcb_flush(xcb);
+    return error != nullptr;
+}
+
+} // namespace vesk

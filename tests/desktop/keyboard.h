@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/displayconnection.h"
+
+#include <X11/keysym.h>
+
+namespace vesk {
+
+/// The user's keyboard: each press and release goes through the X server, as one from hardware does.
+class Keyboard final
+{
+public:
+    explicit Keyboard(DisplayConnection &display);
+
+    /// Keys are named by their keysym; one that is not on the keyboard is not pressed.
+    void press(xcb_keysym_t key);
+    void release(xcb_keysym_t key);
+
+    /// Presses the keys in this order, the modifiers first, and releases them in the opposite one.
+    void tap(std::initializer_list<xcb_keysym_t> keys);
+
+    /// Types letters, digits, spaces and other characters of the keyboard's first two levels.
+    void type(const QString &text);
+
+    /// Whether another client has claimed this key together with Super and Alt.
+    [[nodiscard]] bool isHotKeyTaken(xcb_keysym_t key) const;
+
+private:
+    struct Place
+    {
+        xcb_keycode_t code = 0;
+        bool needsShift = false;
+    };
+
+    [[nodiscard]] Place find(xcb_keysym_t key) const;
+    void send(xcb_keysym_t key, quint8 type);
+
+    DisplayConnection &m_display;
+    Reply<xcb_get_keyboard_mapping_reply_t> m_mapping;
+};
+
+} // namespace vesk

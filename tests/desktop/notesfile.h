@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QMap>
+#include <QString>
+
+#include <optional>
+
+namespace vesk {
+
+/// Vesk's store as it stands in the file, read by another process than Vesk.
+class NotesFile final
+{
+public:
+    /// A row: column to value, as text.
+    using Row = QMap<QString, QString>;
+
+    explicit NotesFile(QString path);
+
+    /// All notes, the oldest first. None if the file is not there or cannot be read.
+    [[nodiscard]] std::optional<QList<Row>> notes() const;
+
+    /// The notes' texts in the same order; empty if the file cannot be read.
+    [[nodiscard]] QStringList texts() const;
+
+    /// "ok", or what SQLite found wrong.
+    [[nodiscard]] QString integrity() const;
+
+    /// Marks the store as written by a much later Vesk. False if the file cannot be written.
+    [[nodiscard]] bool raiseSchemaVersion();
+
+    [[nodiscard]] const QString &path() const { return m_path; }
+
+private:
+    QString m_path;
+};
+
+} // namespace vesk

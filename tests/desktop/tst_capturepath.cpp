@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/desktoptest.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace vesk;
+
+/// The way of a text from another application into the store and onto the panel.
+class TestCapturePath : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void selectionBecomesANoteWithItsSource();
+    void sameTextIsKeptOnce();
+    void heldKeyCapturesOnceAndTypesNothing();
+    void panelTakesTheKeyboardAndGivesItBack();
+    void composedNoteOutlivesARestart();
+
+private:
+    void capture() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_n}); }
+    void togglePanel() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}); }
+
+    const QStringList m_lines = {u"Water the lemon tree on the balcony"_s, u"Ask about the train to Ghent"_s};
+    std::unique_ptr<VirtualDesktop> m_desktop;
+    std::unique_ptr<ChildProcess> m_vesk;
+    std::unique_ptr<TextEditor> m_editor;
+};
+
+void TestCapturePath::init()
+{
+    QString problem;
+    m_desktop = VirtualDesktop::start(problem);
+    QVERIFY2(m_desktop, qPrintable(problem));
+    QVERIFY(m_desktop->prepareUser());
+    m_vesk = m_desktop->startVesk();
+    QVERIFY(m_vesk);
+    m_editor = TextEditor::open(*m_desktop, m_lines);
+    VERIFY_ON(*m_desktop, m_editor);
+}
+
+void TestCapturePath::cleanup()
+{
+    if (m_vesk && QTest::currentTestFailed())
+        qWarning().noquote() << "Vesk said:" << m_vesk->errorOutput();
+    m_editor.reset();
+    m_vesk.reset();
+    m_desktop.reset();
+}
+
+void TestCapturePath::selectionBecomesANoteWithItsSource()
+{
+    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
+    capture();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+
+    // The notice says that the note is durable, so the file has it now, not a little later.
+    const auto notes = m_desktop->notes().notes();
+    QVERIFY(notes);
+    QCOMPARE(notes->size(), 1);
+    const NotesFile::Row note = notes->constFirst();
+    QCOMPARE(note.value(u"text"_s), m_lines.at(1));
+    QCOMPARE(note.value(u"sourceApp"_s), u"Mousepad"_s);
+    QCOMPARE(note.value(u"sourceBundleID"_s), u"org.xfce.mousepad"_s);
+    QCOMPARE(note.value(u"sourceTitle"_s), m_editor->window().title);
+    QVERIFY(note.value(u"sourceURL"_s).isEmpty());
+    const qint64 createdAt = note.value(u"createdAt"_s).toLongLong() / 1000;
+    QVERIFY(qAbs(createdAt - QDateTime::currentMSecsSinceEpoch()) < 60'000);
+
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kSaved, kBound));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+}
+
+void TestCapturePath::sameTextIsKeptOnce()
+{
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    capture();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+    QTest::qWait(int(kCaptureGate.count()));
+    capture();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kAlready, kBound));
+    QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(0)});
+}
+
+void TestCapturePath::heldKeyCapturesOnceAndTypesNothing()
+{
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    Keyboard &keyboard = m_desktop->keyboard();
+    for (const xcb_keysym_t key : {XK_Super_L, XK_Alt_L, XK_n})
+        keyboard.press(key);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+    // Held past the gate: a repeated key that counted as a press would find the same text again.
+    const bool isCapturedAgain =
+        m_desktop->windows().waitViewable(kAlready, kCaptureGate + 400ms).has_value();
+    for (const xcb_keysym_t key : {XK_n, XK_Alt_L, XK_Super_L})
+        keyboard.release(key);
+
+    QVERIFY(!isCapturedAgain);
+    QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(0)});
+    QCOMPARE(m_editor->text(), m_lines.join(u'\n') + u'\n');
+}
+
+void TestCapturePath::panelTakesTheKeyboardAndGivesItBack()
+{
+    Windows &windows = m_desktop->windows();
+    for (const bool isClosedByEscape : {true, false}) {
+        togglePanel();
+        const std::optional<Window> panel = windows.waitViewable(kPanel, kBound);
+        VERIFY_ON(*m_desktop, panel);
+        VERIFY_ON(*m_desktop, windows.waitFocused(*panel, kBound));
+        const QSize screen = m_desktop->display().size();
+        QCOMPARE(panel->geometry.width(), 440);
+        QCOMPARE(screen.width() - (panel->geometry.x() + panel->geometry.width()), 10);
+        QCOMPARE(screen.height() - (panel->geometry.y() + panel->geometry.height()), 10);
+
+        if (isClosedByEscape)
+            m_desktop->keyboard().tap({XK_Escape});
+        else
+            togglePanel();
+        VERIFY_ON(*m_desktop, windows.waitGone(kPanel, kBound));
+        VERIFY_ON(*m_desktop, windows.waitActive(m_editor->window(), kBound));
+    }
+    // Its own word for it: the editor has the keyboard again, and no key of the panel's went to it.
+    QCOMPARE(m_editor->text(), m_lines.join(u'\n') + u'\n');
+}
+
+void TestCapturePath::composedNoteOutlivesARestart()
+{
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    capture();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+
+    const QString composed = u"Call Ada about the lease"_s;
+    togglePanel();
+    const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
+    VERIFY_ON(*m_desktop, panel);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
+    m_desktop->keyboard().tap({XK_Control_L, XK_n});
+    m_desktop->keyboard().type(composed);
+    m_desktop->keyboard().tap({XK_Return});
+    const QStringList expected = {m_lines.at(0), composed};
+    VERIFY_ON(*m_desktop,
+              m_desktop->display().waitUntil(kBound, [&] { return m_desktop->notes().texts() == expected; }));
+
+    QVERIFY(m_vesk->quit());
+    m_vesk = m_desktop->startVesk();
+    QVERIFY(m_vesk);
+    QCOMPARE(m_desktop->notes().texts(), expected);
+    togglePanel();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
+}
+
+int main(int argc, char **argv)
+{
+    return runDesktopTest<TestCapturePath>(argc, argv);
+}
+
+#include "tst_capturepath.moc"

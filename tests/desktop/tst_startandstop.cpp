@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/desktoptest.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+
+namespace {
+
+constexpr auto kFatal = "Could not open the notes store: ";
+
+QByteArray contentsOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+/// How Vesk starts when it runs already or its store cannot be opened, and how it ends.
+class TestStartAndStop : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void secondStartShowsTheFirstOnesPanel();
+    void unusableStoreIsSaidAndLeftAlone_data();
+    void unusableStoreIsSaidAndLeftAlone();
+
+private:
+    std::unique_ptr<VirtualDesktop> m_desktop;
+    std::unique_ptr<ChildProcess> m_vesk;
+};
+
+void TestStartAndStop::init()
+{
+    QString problem;
+    m_desktop = VirtualDesktop::start(problem);
+    QVERIFY2(m_desktop, qPrintable(problem));
+    QVERIFY(m_desktop->prepareUser());
+}
+
+void TestStartAndStop::cleanup()
+{
+    if (m_vesk && QTest::currentTestFailed())
+        qWarning().noquote() << "Vesk said:" << m_vesk->errorOutput();
+    m_vesk.reset();
+    m_desktop.reset();
+}
+
+void TestStartAndStop::secondStartShowsTheFirstOnesPanel()
+{
+    m_vesk = m_desktop->startVesk();
+    QVERIFY(m_vesk);
+    VERIFY_ON(*m_desktop, !m_desktop->windows().findViewable(kPanel));
+
+    const std::unique_ptr<ChildProcess> second = m_desktop->run(VirtualDesktop::veskProgram());
+    QVERIFY(second && second->waitForExit(kBound));
+    QCOMPARE(second->exitCode(), 0);
+    const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
+    VERIFY_ON(*m_desktop, panel);
+    QCOMPARE(panel->pid, m_vesk->pid());
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
+}
+
+void TestStartAndStop::unusableStoreIsSaidAndLeftAlone_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::newRow("a folder stands in its place") << u"folder"_s;
+    QTest::newRow("written by a later version") << u"later"_s;
+    QTest::newRow("not a database") << u"rubbish"_s;
+}
+
+void TestStartAndStop::unusableStoreIsSaidAndLeftAlone()
+{
+    QFETCH(QString, kind);
+    const QString store = m_desktop->notes().path();
+    QVERIFY(QDir().mkpath(QFileInfo(store).path()));
+    if (kind == u"folder") {
+        QVERIFY(QDir().mkpath(store + u"/kept"_s));
+    } else if (kind == u"rubbish") {
+        QVERIFY(!m_desktop
+                     ->writeFile(u"data/Vesk/Notes.store"_s,
+                                 u"No database, but dear to someone.\n"_s.repeated(99))
+                     .isEmpty());
+    } else {
+        m_vesk = m_desktop->startVesk();
+        QVERIFY(m_vesk && m_vesk->quit());
+        QVERIFY(m_desktop->notes().raiseSchemaVersion());
+    }
+    const QByteArray before = contentsOf(store);
+
+    m_vesk = m_desktop->run(VirtualDesktop::veskProgram());
+    QVERIFY(m_vesk);
+    const std::optional<Window> window = m_desktop->windows().waitViewableOf(m_vesk->pid(), {}, kBound);
+    QVERIFY2(window, qPrintable(m_vesk->errorOutput()));
+    QVERIFY2(m_vesk->errorOutput().contains(QLatin1StringView(kFatal)), qPrintable(m_vesk->errorOutput()));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*window, kBound));
+    m_desktop->keyboard().tap({XK_Escape});
+    QVERIFY(m_vesk->waitForExit(kBound));
+    QCOMPARE(m_vesk->exitCode(), 1);
+
+    QCOMPARE(contentsOf(store), before);
+    QCOMPARE(QFileInfo::exists(store + u"/kept"_s), kind == u"folder");
+}
+
+int main(int argc, char **argv)
+{
+    return runDesktopTest<TestStartAndStop>(argc, argv);
+}
+
+#include "tst_startandstop.moc"

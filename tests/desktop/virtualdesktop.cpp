@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/virtualdesktop.h"
+
+#include "desktop/guard.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace vesk {
+
+namespace {
+
+constexpr auto kStartBound = 15s;
+const auto kBusConnection = u"vesk-test-session"_s;
+
+} // namespace
+
+std::unique_ptr<VirtualDesktop> VirtualDesktop::start(QString &problem)
+{
+    std::unique_ptr<VirtualDesktop> desktop(new VirtualDesktop);
+    desktop->prepareEnvironment();
+    if (!desktop->startServer())
+        problem = u"The X server (Xvfb) did not start."_s;
+    else if (!desktop->startBus())
+        problem = u"The session bus (dbus-daemon) did not start."_s;
+    else if (!desktop->startWindowManager())
+        problem = u"The window manager (openbox) did not start."_s;
+    else if (!desktop->enableAccessibility())
+        problem = u"The accessibility bus (at-spi2-core) did not answer."_s;
+    else
+        return desktop;
+    return nullptr;
+}
+
+VirtualDesktop::VirtualDesktop()
+    : m_notes(m_home.filePath(u"data/Vesk/Notes.store"_s))
+{
+}
+
+VirtualDesktop::~VirtualDesktop()
+{
+    QDBusConnection::disconnectFromBus(kBusConnection);
+    m_keyboard.reset();
+    m_windows.reset();
+    m_display.reset();
+    m_windowManager.reset();
+    m_bus.reset();
+    m_server.reset();
+    // What the bus had started is still there.
+    endDescendants();
+}
+
+void VirtualDesktop::prepareEnvironment()
+{
+    const QProcessEnvironment system = QProcessEnvironment::systemEnvironment();
+    for (const QString &name : system.keys()) {
+        static constexpr QStringView kForeign[] = {u"XDG_", u"DBUS_", u"QT_",  u"QML_", u"GTK_",
+                                                   u"GDK_", u"LC_",   u"LANG", u"AT_",  u"WAYLAND_"};
+        const bool isForeign =
+            std::ranges::any_of(kForeign, [&](QStringView prefix) { return name.startsWith(prefix); });
+        if (!isForeign)
+            m_environment.insert(name, system.value(name));
+    }
+    const std::pair<QString, QString> folders[] = {{u"XDG_RUNTIME_DIR"_s, u"run"_s},
+                                                   {u"XDG_DATA_HOME"_s, u"data"_s},
+                                                   {u"XDG_CONFIG_HOME"_s, u"config"_s},
+                                                   {u"XDG_CACHE_HOME"_s, u"cache"_s},
+                                                   {u"XDG_STATE_HOME"_s, u"state"_s}};
+    for (const auto &[variable, folder] : folders) {
+        QDir(m_home.path()).mkdir(folder);
+        QFile::setPermissions(m_home.filePath(folder),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        m_environment.insert(variable, m_home.filePath(folder));
+    }
+    m_environment.insert(u"HOME"_s, m_home.path());
+    m_environment.insert(u"LANG"_s, u"C.UTF-8"_s);
+    m_environment.insert(u"XDG_SESSION_TYPE"_s, u"x11"_s);
+    m_environment.insert(u"GDK_BACKEND"_s, u"x11"_s);
+    m_environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
+}
+
+std::unique_ptr<ChildProcess> VirtualDesktop::run(const QString &program, const QStringList &arguments)
+{
+    const QString log = m_home.filePath(QFileInfo(program).fileName() + u".log"_s);
+    QFile::remove(log);
+    return ChildProcess::start({program, arguments, m_environment, log});
+}
+
+bool VirtualDesktop::startServer()
+{
+    m_server = run(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1600x1000x24"_s,
+                               u"-nolisten"_s, u"tcp"_s, u"-noreset"_s});
+    const QString number = m_server ? m_server->readLine(kStartBound) : QString();
+    if (number.isEmpty())
+        return false;
+    m_displayName = u":"_s + number;
+    m_environment.insert(u"DISPLAY"_s, m_displayName);
+    m_display = DisplayConnection::open(m_displayName);
+    if (!m_display)
+        return false;
+    m_windows = std::make_unique<Windows>(*m_display);
+    m_keyboard = std::make_unique<Keyboard>(*m_display);
+    return true;
+}
+
+bool VirtualDesktop::startBus()
+{
+    m_bus = run(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s});
+    m_busAddress = m_bus ? m_bus->readLine(kStartBound) : QString();
+    m_environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, m_busAddress);
+    return !m_busAddress.isEmpty();
+}
+
+bool VirtualDesktop::startWindowManager()
+{
+    m_windowManager = run(u"openbox"_s);
+    return m_windowManager && m_display->waitUntil(kStartBound, [this] {
+        const auto cookie =
+            xcb_get_property(m_display->xcb(), 0, m_display->root(),
+                             m_display->atom("_NET_SUPPORTING_WM_CHECK"), XCB_ATOM_WINDOW, 0, 1);
+        const Reply<xcb_get_property_reply_t> reply{
+            xcb_get_property_reply(m_display->xcb(), cookie, nullptr)};
+        return reply && xcb_get_property_value_length(reply.get()) > 0;
+    });
+}
+
+bool VirtualDesktop::enableAccessibility()
+{
+    QDBusConnection bus = QDBusConnection::connectToBus(m_busAddress, kBusConnection);
+    QDBusMessage call = QDBusMessage::createMethodCall(u"org.a11y.Bus"_s, u"/org/a11y/bus"_s,
+                                                       u"org.freedesktop.DBus.Properties"_s, u"Set"_s);
+    call.setArguments({u"org.a11y.Status"_s, u"IsEnabled"_s, QVariant::fromValue(QDBusVariant(true))});
+    const int bound = int(std::chrono::milliseconds(kStartBound).count());
+    return bus.call(call, QDBus::Block, bound).type() == QDBusMessage::ReplyMessage;
+}
+
+QString VirtualDesktop::veskProgram()
+{
+    return qEnvironmentVariable("VESK_PROGRAM");
+}
+
+bool VirtualDesktop::prepareUser()
+{
+    const QString folder = u"config/Vesk"_s;
+    QDir(m_home.path()).mkpath(folder);
+    if (writeFile(folder + u"/Vesk.conf"_s, u"[General]\nhasSeenGuide=true\n"_s).isEmpty())
+        return false;
+    const std::unique_ptr<ChildProcess> access = run(veskProgram(), {u"access"_s, u"allow"_s});
+    return access && access->waitForExit(kStartBound) && access->exitCode() == 0;
+}
+
+std::unique_ptr<ChildProcess> VirtualDesktop::startVesk()
+{
+    std::unique_ptr<ChildProcess> vesk = run(veskProgram());
+    if (!vesk)
+        return nullptr;
+    const bool isReady = m_display->waitUntil(kStartBound, [&] {
+        return !vesk->isRunning() || (m_keyboard->isHotKeyTaken(XK_n) && m_keyboard->isHotKeyTaken(XK_t));
+    });
+    return isReady && vesk->isRunning() ? std::move(vesk) : nullptr;
+}
+
+QString VirtualDesktop::writeFile(const QString &name, const QString &text)
+{
+    QFile file(m_home.filePath(name));
+    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) >= 0 && file.flush();
+    return isWritten ? file.fileName() : QString();
+}
+
+} // namespace vesk

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/childprocess.h"
+#include "desktop/keyboard.h"
+#include "desktop/notesfile.h"
+#include "desktop/windows.h"
+
+#include <QTemporaryDir>
+
+namespace vesk {
+
+/// A desktop of its own: an X server without a screen, a window manager, a session bus with the
+/// accessibility bus, and a home folder that starts empty. All of it ends with this object.
+class VirtualDesktop final
+{
+public:
+    /// Null if some part did not come up; `problem` then says which.
+    [[nodiscard]] static std::unique_ptr<VirtualDesktop> start(QString &problem);
+    ~VirtualDesktop();
+    Q_DISABLE_COPY_MOVE(VirtualDesktop)
+
+    /// Starts a program on this desktop; null if that failed.
+    [[nodiscard]] std::unique_ptr<ChildProcess> run(const QString &program,
+                                                    const QStringList &arguments = {});
+
+    /// Starts Vesk and waits until its hot keys are its own; null if it ended or never took them.
+    [[nodiscard]] std::unique_ptr<ChildProcess> startVesk();
+
+    /// The program under test.
+    [[nodiscard]] static QString veskProgram();
+
+    /// Lets Vesk read other applications and takes its guide for seen, as after the first run.
+    [[nodiscard]] bool prepareUser();
+
+    /// Writes a file into the home folder and returns its path.
+    [[nodiscard]] QString writeFile(const QString &name, const QString &text);
+
+    [[nodiscard]] DisplayConnection &display() { return *m_display; }
+    [[nodiscard]] Windows &windows() { return *m_windows; }
+    [[nodiscard]] Keyboard &keyboard() { return *m_keyboard; }
+    [[nodiscard]] NotesFile &notes() { return m_notes; }
+    [[nodiscard]] const QString &displayName() const { return m_displayName; }
+    [[nodiscard]] const QString &busAddress() const { return m_busAddress; }
+
+private:
+    VirtualDesktop();
+
+    void prepareEnvironment();
+    [[nodiscard]] bool startServer();
+    [[nodiscard]] bool startWindowManager();
+    [[nodiscard]] bool startBus();
+    [[nodiscard]] bool enableAccessibility();
+
+    QTemporaryDir m_home;
+    QProcessEnvironment m_environment;
+    QString m_displayName;
+    QString m_busAddress;
+    NotesFile m_notes;
+    std::unique_ptr<ChildProcess> m_server;
+    std::unique_ptr<ChildProcess> m_bus;
+    std::unique_ptr<ChildProcess> m_windowManager;
+    std::unique_ptr<DisplayConnection> m_display;
+    std::unique_ptr<Windows> m_windows;
+    std::unique_ptr<Keyboard> m_keyboard;
+};
+
+} // namespace vesk

@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/windows.h"
+
+#include <QStringList>
+
+#include <cstring>
+
+using namespace Qt::StringLiterals;
+
+namespace vesk {
+
+namespace {
+
+QString textOf(const xcb_get_property_reply_t *reply)
+{
+    if (!reply)
+        return {};
+    return QString::fromUtf8(static_cast<const char *>(xcb_get_property_value(reply)),
+                             xcb_get_property_value_length(reply));
+}
+
+quint32 numberOf(const xcb_get_property_reply_t *reply)
+{
+    quint32 number = 0;
+    if (reply && xcb_get_property_value_length(reply) >= int(sizeof number))
+        std::memcpy(&number, xcb_get_property_value(reply), sizeof number);
+    return number;
+}
+
+} // namespace
+
+Windows::Windows(DisplayConnection &display)
+    : m_display(display)
+    , m_titleAtom(display.atom("_NET_WM_NAME"))
+    , m_pidAtom(display.atom("_NET_WM_PID"))
+    , m_activeAtom(display.atom("_NET_ACTIVE_WINDOW"))
+{
+}
+
+QList<xcb_window_t> Windows::topWindows() const
+{
+    xcb_connection_t *xcb = m_display.xcb();
+    QList<xcb_window_t> windows = {m_display.root()};
+    // The root's children, and theirs: the window manager puts an application's window into a frame.
+    qsizetype level = 0;
+    for (int depth = 0; depth < 2; ++depth) {
+        const QList<xcb_window_t> parents = windows.mid(level);
+        level = windows.size();
+        QList<xcb_query_tree_cookie_t> cookies;
+        for (const xcb_window_t parent : parents)
+            cookies.append(xcb_query_tree(xcb, parent));
+        for (const xcb_query_tree_cookie_t cookie : std::as_const(cookies)) {
+            const Reply<xcb_query_tree_reply_t> tree{xcb_query_tree_reply(xcb, cookie, nullptr)};
+            if (!tree)
+                continue;
+            const xcb_window_t *children = xcb_query_tree_children(tree.get());
+            windows.append(QList(children, children + xcb_query_tree_children_length(tree.get())));
+        }
+    }
+    windows.removeFirst();
+    return windows;
+}
+
+QList<Window> Windows::all() const
+{
+    struct Questions
+    {
+        xcb_window_t id;
+        xcb_get_property_cookie_t title, pid;
+        xcb_get_window_attributes_cookie_t attributes;
+        xcb_get_geometry_cookie_t geometry;
+        xcb_translate_coordinates_cookie_t place;
+    };
+
+    xcb_connection_t *xcb = m_display.xcb();
+    QList<Questions> questions;
+    for (const xcb_window_t id : topWindows()) {
+        questions.append({id, xcb_get_property(xcb, 0, id, m_titleAtom, XCB_ATOM_ANY, 0, 1024),
+                          xcb_get_property(xcb, 0, id, m_pidAtom, XCB_ATOM_CARDINAL, 0, 1),
+                          xcb_get_window_attributes(xcb, id), xcb_get_geometry(xcb, id),
+                          xcb_translate_coordinates(xcb, id, m_display.root(), 0, 0)});
+    }
+
+    QList<Window> windows;
+    for (const Questions &question : std::as_const(questions)) {
+        const Reply<xcb_get_property_reply_t> title{xcb_get_property_reply(xcb, question.title, nullptr)};
+        const Reply<xcb_get_property_reply_t> pid{xcb_get_property_reply(xcb, question.pid, nullptr)};
+        const Reply<xcb_get_window_attributes_reply_t> attributes{
+            xcb_get_window_attributes_reply(xcb, question.attributes, nullptr)};
+        const Reply<xcb_get_geometry_reply_t> size{xcb_get_geometry_reply(xcb, question.geometry, nullptr)};
+        const Reply<xcb_translate_coordinates_reply_t> place{
+            xcb_translate_coordinates_reply(xcb, question.place, nullptr)};
+        // A window may go between two questions; then it is as if it had not been seen.
+        if (!attributes || !size || !place)
+            continue;
+        const Window window = {question.id, textOf(title.get()), numberOf(pid.get()),
+                               QRect(place->dst_x, place->dst_y, size->width, size->height),
+                               attributes->map_state == XCB_MAP_STATE_VIEWABLE};
+        if (!window.title.isEmpty() || window.pid != 0)
+            windows.append(window);
+    }
+    return windows;
+}
+
+std::optional<Window> Windows::findViewable(const QString &title) const
+{
+    for (const Window &window : all()) {
+        if (window.isViewable && window.title == title)
+            return window;
+    }
+    return std::nullopt;
+}
+
+std::optional<Window> Windows::findViewableOf(qint64 pid, const QString &part) const
+{
+    for (const Window &window : all()) {
+        if (window.isViewable && window.pid == pid && window.title.contains(part))
+            return window;
+    }
+    return std::nullopt;
+}
+
+std::optional<Window> Windows::waitViewable(const QString &title, std::chrono::milliseconds bound)
+{
+    std::optional<Window> window;
+    const bool isViewable = m_display.waitUntil(bound, [&] {
+        window = findViewable(title);
+        return window.has_value();
+    });
+    return isViewable ? window : std::nullopt;
+}
+
+std::optional<Window> Windows::waitViewableOf(qint64 pid, const QString &part,
+                                              std::chrono::milliseconds bound)
+{
+    std::optional<Window> window;
+    const bool isViewable = m_display.waitUntil(bound, [&] {
+        window = findViewableOf(pid, part);
+        return window.has_value();
+    });
+    return isViewable ? window : std::nullopt;
+}
+
+bool Windows::waitGone(const QString &title, std::chrono::milliseconds bound)
+{
+    return m_display.waitUntil(bound, [&] { return !findViewable(title); });
+}
+
+bool Windows::waitFocused(const Window &window, std::chrono::milliseconds bound)
+{
+    return m_display.waitUntil(bound, [&] { return isFocusInside(window.id); });
+}
+
+bool Windows::waitActive(const Window &window, std::chrono::milliseconds bound)
+{
+    return m_display.waitUntil(bound, [&] { return activeWindow() == window.id; });
+}
+
+void Windows::activate(const Window &window)
+{
+    constexpr quint32 kFromPager = 2;
+    xcb_client_message_event_t message = {};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window.id;
+    message.type = m_activeAtom;
+    message.data.data32[0] = kFromPager;
+    xcb_send_event(m_display.xcb(), 0, m_display.root(),
+                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   reinterpret_cast<const char *>(&message));
+    xcb_flush(m_display.xcb());
+}
+
+QString Windows::describe() const
+{
+    QStringList titles;
+    for (const Window &window : all()) {
+        if (window.isViewable)
+            titles.append(u"“%1” (process %2)"_s.arg(window.title).arg(window.pid));
+    }
+    return titles.isEmpty() ? u"no window"_s : titles.join(u", "_s);
+}
+
+bool Windows::isFocusInside(xcb_window_t window) const
+{
+    xcb_connection_t *xcb = m_display.xcb();
+    const Reply<xcb_get_input_focus_reply_t> focus{
+        xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr)};
+    // GTK gives the keyboard to a window of its own inside the one that the window manager knows.
+    xcb_window_t candidate = focus ? focus->focus : xcb_window_t(XCB_WINDOW_NONE);
+    while (candidate != window && candidate > XCB_INPUT_FOCUS_POINTER_ROOT) {
+        const Reply<xcb_query_tree_reply_t> tree{
+            xcb_query_tree_reply(xcb, xcb_query_tree(xcb, candidate), nullptr)};
+        candidate = tree ? tree->parent : xcb_window_t(XCB_WINDOW_NONE);
+    }
+    return candidate == window;
+}
+
+xcb_window_t Windows::activeWindow() const
+{
+    xcb_connection_t *xcb = m_display.xcb();
+    const auto cookie = xcb_get_property(xcb, 0, m_display.root(), m_activeAtom, XCB_ATOM_WINDOW, 0, 1);
+    const Reply<xcb_get_property_reply_t> reply{xcb_get_property_reply(xcb, cookie, nullptr)};
+    return numberOf(reply.get());
+}
+
+} // namespace vesk

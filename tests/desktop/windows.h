@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/displayconnection.h"
+
+#include <QList>
+#include <QRect>
+
+namespace vesk {
+
+/// A window as the X server has it; pixels from the top left corner of the screen, without the frame.
+struct Window
+{
+    xcb_window_t id = XCB_WINDOW_NONE;
+    QString title;
+    qint64 pid = 0;
+    QRect geometry;
+    bool isViewable = false;
+};
+
+/// The windows of the desktop, managed or not, and which of them has the user's attention.
+class Windows final
+{
+public:
+    explicit Windows(DisplayConnection &display);
+
+    /// All windows that have a title or tell their process.
+    [[nodiscard]] QList<Window> all() const;
+
+    /// The viewable window with exactly this title.
+    [[nodiscard]] std::optional<Window> findViewable(const QString &title) const;
+
+    /// The viewable window of a process whose title contains `part`; any of its windows for an empty part.
+    [[nodiscard]] std::optional<Window> findViewableOf(qint64 pid, const QString &part = {}) const;
+
+    /// Failure: none after `bound`.
+    [[nodiscard]] std::optional<Window> waitViewable(const QString &title, std::chrono::milliseconds bound);
+    [[nodiscard]] std::optional<Window> waitViewableOf(qint64 pid, const QString &part,
+                                                       std::chrono::milliseconds bound);
+
+    /// True once no window of this title is viewable. Failure: false after `bound`.
+    [[nodiscard]] bool waitGone(const QString &title, std::chrono::milliseconds bound);
+
+    /// True once the window, or one inside it, has the keyboard. Failure: false after `bound`.
+    [[nodiscard]] bool waitFocused(const Window &window, std::chrono::milliseconds bound);
+
+    /// True once the window manager says that the window is the active one. Failure: false after `bound`.
+    [[nodiscard]] bool waitActive(const Window &window, std::chrono::milliseconds bound);
+
+    /// Asks the window manager to activate the window, as a pager does.
+    void activate(const Window &window);
+
+    /// Titles of all viewable windows, for the message of a test that failed.
+    [[nodiscard]] QString describe() const;
+
+private:
+    [[nodiscard]] bool isFocusInside(xcb_window_t window) const;
+    [[nodiscard]] xcb_window_t activeWindow() const;
+    [[nodiscard]] QList<xcb_window_t> topWindows() const;
+
+    DisplayConnection &m_display;
+    xcb_atom_t m_titleAtom;
+    xcb_atom_t m_pidAtom;
+    xcb_atom_t m_activeAtom;
+};
+
+} // namespace vesk
