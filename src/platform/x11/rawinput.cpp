@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/rawinput.h"
+
+#include "platform/x11/x11connection.h"
+
+#include <xcb/xinput.h>
+
+namespace vesk {
+
+RawInput::RawInput(X11Connection &connection)
+    : m_connection(connection)
+{
+    struct
+    {
+        xcb_input_event_mask_t header;
+        uint32_t mask;
+    } const selection{
+        .header = {.deviceid = XCB_INPUT_DEVICE_ALL_MASTER, .mask_len = 1},
+        .mask = XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE
+                | XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS,
+    };
+    xcb_input_xi_select_events(connection.xcb(), connection.root(), 1, &selection.header);
+    readModifiers();
+    connect(&connection, &X11Connection::event, this, &RawInput::onEvent);
+}
+
+xcb_timestamp_t RawInput::lastPress() const
+{
+    const bool isHotKey = m_last.key == m_hotKey.key && m_last.time == m_hotKey.time;
+    return isHotKey ? m_previous.time : m_last.time;
+}
+
+void RawInput::setHotKeyPress(xcb_keycode_t key, xcb_timestamp_t time)
+{
+    m_hotKey = {.key = key, .time = time};
+}
+
+void RawInput::onEvent(const xcb_generic_event_t *event)
+{
+    const auto type = event->response_type & 0x7f;
+    if (type == XCB_MAPPING_NOTIFY) {
+        readModifiers();
+        return;
+    }
+    const auto *generic = reinterpret_cast<const xcb_ge_generic_event_t *>(event);
+    if (type != XCB_GE_GENERIC || generic->extension != m_connection.inputOpcode())
+        return;
+    if (generic->event_type == XCB_INPUT_RAW_BUTTON_PRESS) {
+        const auto *button = reinterpret_cast<const xcb_input_raw_button_press_event_t *>(event);
+        // Buttons above the third are the wheel and the like, which select nothing.
+        constexpr uint32_t kLastSelecting = 3;
+        if (button->detail <= kLastSelecting)
+            onPress({.key = 0, .time = button->time});
+        return;
+    }
+    const auto *raw = reinterpret_cast<const xcb_input_raw_key_press_event_t *>(event);
+    const auto key = static_cast<xcb_keycode_t>(raw->detail);
+    if (generic->event_type == XCB_INPUT_RAW_KEY_PRESS) {
+        if (!isModifier(key))
+            onPress({.key = key, .time = raw->time});
+        Q_EMIT keyPressed(key);
+    } else if (generic->event_type == XCB_INPUT_RAW_KEY_RELEASE) {
+        Q_EMIT keyReleased(key);
+    }
+}
+
+void RawInput::onPress(Press press)
+{
+    // A hot key that follows a hot key must not bring the first one back as the last press.
+    const bool wasHotKey = m_last.key == m_hotKey.key && m_last.time == m_hotKey.time;
+    if (!wasHotKey)
+        m_previous = m_last;
+    m_last = press;
+}
+
+void RawInput::readModifiers()
+{
+    const auto cookie = xcb_get_modifier_mapping(m_connection.xcb());
+    const XReply<xcb_get_modifier_mapping_reply_t> reply(
+        xcb_get_modifier_mapping_reply(m_connection.xcb(), cookie, nullptr));
+    if (!reply)
+        return;
+    m_modifiers.clear();
+    const xcb_keycode_t *keys = xcb_get_modifier_mapping_keycodes(reply.get());
+    for (int i = 0; i < xcb_get_modifier_mapping_keycodes_length(reply.get()); ++i) {
+        if (keys[i] != 0)
+            m_modifiers.insert(keys[i]);
+    }
+}
+
+} // namespace vesk

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QSet>
+
+#include <xcb/xcb.h>
+
+#include <array>
+
+namespace vesk {
+
+class X11Connection;
+
+/// The keys and buttons of the user's devices, heard also while another application has grabbed them.
+class RawInput final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Begins to listen at once.
+    explicit RawInput(X11Connection &connection);
+
+    /// Server time of the last press that may have changed a selection: a mouse button or a key that
+    /// is no modifier, hot keys left out. 0 before the first.
+    [[nodiscard]] xcb_timestamp_t lastPress() const;
+
+    /// Declares that the press of this key at this time was a hot key of ours, and no input of the
+    /// application's. May come before the press itself is heard.
+    void setHotKeyPress(xcb_keycode_t key, xcb_timestamp_t time);
+
+    [[nodiscard]] bool isModifier(xcb_keycode_t key) const { return m_modifiers.contains(key); }
+
+Q_SIGNALS:
+    /// A key went down; not repeated while it is held.
+    void keyPressed(xcb_keycode_t key);
+    void keyReleased(xcb_keycode_t key);
+
+private:
+    struct Press
+    {
+        /// 0 for a mouse button.
+        xcb_keycode_t key = 0;
+        xcb_timestamp_t time = 0;
+    };
+
+    void onEvent(const xcb_generic_event_t *event);
+    void onPress(Press press);
+    void readModifiers();
+
+    X11Connection &m_connection;
+    QSet<xcb_keycode_t> m_modifiers;
+    Press m_last;
+    Press m_previous;
+    Press m_hotKey;
+};
+
+} // namespace vesk

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/selectiontransfer.h"
+
+#include "platform/x11/x11connection.h"
+
+#include <QCoroSignal>
+
+#include <array>
+#include <memory>
+
+namespace vesk {
+
+namespace {
+
+/// Names for the properties of the transfers, used in turn.
+xcb_atom_t nextProperty(const X11Connection &connection)
+{
+    static constexpr std::array kNames{"VESK_SELECTION_0", "VESK_SELECTION_1", "VESK_SELECTION_2",
+                                       "VESK_SELECTION_3", "VESK_SELECTION_4", "VESK_SELECTION_5",
+                                       "VESK_SELECTION_6", "VESK_SELECTION_7"};
+    static size_t next = 0;
+    next = (next + 1) % kNames.size();
+    return connection.atom(kNames[next]);
+}
+
+} // namespace
+
+QCoro::Task<std::optional<SelectionTransfer::Data>>
+SelectionTransfer::read(X11Connection &connection, xcb_atom_t selection, xcb_atom_t target, qsizetype limit)
+{
+    const std::unique_ptr<SelectionTransfer> transfer(
+        new SelectionTransfer(connection, selection, target, limit));
+    if (!transfer->m_isFinished)
+        co_await qCoro(transfer.get(), &SelectionTransfer::finished);
+    if (!transfer->m_isComplete)
+        co_return std::nullopt;
+    co_return transfer->m_data;
+}
+
+SelectionTransfer::SelectionTransfer(X11Connection &connection, xcb_atom_t selection, xcb_atom_t target,
+                                     qsizetype limit)
+    : m_connection(connection)
+    , m_selection(selection)
+    , m_target(target)
+    , m_property(nextProperty(connection))
+    , m_limit(limit)
+{
+    m_stall.setSingleShot(true);
+    m_stall.setTimerType(Qt::PreciseTimer);
+    m_stall.setInterval(kDeadline);
+    connect(&m_stall, &QTimer::timeout, this, [this] { finish(false); });
+    connect(&connection, &X11Connection::event, this, &SelectionTransfer::onEvent);
+    xcb_delete_property(connection.xcb(), connection.window(), m_property);
+    // The time of the hot key would be refused by owners that claim a selection a little after it.
+    xcb_convert_selection(connection.xcb(), connection.window(), selection, target, m_property,
+                          XCB_CURRENT_TIME);
+    connection.flush();
+    m_stall.start();
+}
+
+void SelectionTransfer::onEvent(const xcb_generic_event_t *event)
+{
+    if (m_isFinished)
+        return;
+    const auto type = event->response_type & 0x7f;
+    if (type == XCB_SELECTION_NOTIFY) {
+        const auto *notify = reinterpret_cast<const xcb_selection_notify_event_t *>(event);
+        const bool isOurs = notify->requestor == m_connection.window() && notify->selection == m_selection
+                            && notify->target == m_target;
+        // A refusal names no property, so it cannot be told from one to an older transfer; both mean no.
+        if (isOurs && (notify->property == m_property || notify->property == XCB_ATOM_NONE))
+            onNotify(notify->property);
+    } else if (type == XCB_PROPERTY_NOTIFY && m_isIncremental) {
+        const auto *notify = reinterpret_cast<const xcb_property_notify_event_t *>(event);
+        if (notify->window == m_connection.window() && notify->atom == m_property
+            && notify->state == XCB_PROPERTY_NEW_VALUE)
+            onChunk();
+    }
+}
+
+void SelectionTransfer::onNotify(xcb_atom_t property)
+{
+    if (property == XCB_ATOM_NONE || m_isIncremental) {
+        finish(false);
+        return;
+    }
+    Data first = takeProperty();
+    if (first.type == m_connection.atom("INCR")) {
+        m_isIncremental = true;
+        m_stall.start();
+        return;
+    }
+    m_data = std::move(first);
+    finish(m_data.type != XCB_ATOM_NONE);
+}
+
+void SelectionTransfer::onChunk()
+{
+    const Data chunk = takeProperty();
+    if (chunk.bytes.isEmpty()) {
+        finish(true);
+        return;
+    }
+    m_data.type = chunk.type;
+    m_data.bytes += chunk.bytes;
+    if (m_data.bytes.size() > m_limit)
+        finish(true);
+    else
+        m_stall.start();
+}
+
+SelectionTransfer::Data SelectionTransfer::takeProperty()
+{
+    constexpr uint32_t kWhole = 1 << 28;
+    const auto cookie = xcb_get_property(m_connection.xcb(), 1, m_connection.window(), m_property,
+                                         XCB_GET_PROPERTY_TYPE_ANY, 0, kWhole);
+    const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_connection.xcb(), cookie, nullptr));
+    if (!reply)
+        return {};
+    const auto *bytes = static_cast<const char *>(xcb_get_property_value(reply.get()));
+    return {.type = reply->type, .bytes = QByteArray(bytes, xcb_get_property_value_length(reply.get()))};
+}
+
+void SelectionTransfer::finish(bool isComplete)
+{
+    if (m_isFinished)
+        return;
+    m_isFinished = true;
+    m_isComplete = isComplete;
+    m_stall.stop();
+    Q_EMIT finished();
+}
+
+} // namespace vesk

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCoroTask>
+
+#include <QByteArray>
+#include <QObject>
+#include <QTimer>
+
+#include <xcb/xcb.h>
+
+#include <chrono>
+#include <optional>
+
+namespace vesk {
+
+class X11Connection;
+
+/// One reading of a selection from its owner. Waits for the owner as long as data keeps coming, and
+/// gives up when it stalls.
+class SelectionTransfer final : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Data
+    {
+        /// The type that the owner gave the data.
+        xcb_atom_t type = XCB_ATOM_NONE;
+        QByteArray bytes;
+    };
+
+    /// The longest silence of an owner that is taken for work.
+    static constexpr std::chrono::milliseconds kDeadline{100};
+
+    /// The selection's data in the form `target`. None if there is no owner, it refuses, or stalls.
+    /// Data beyond `limit` bytes is not waited for, and what has come is returned.
+    [[nodiscard]] static QCoro::Task<std::optional<Data>>
+    read(X11Connection &connection, xcb_atom_t selection, xcb_atom_t target, qsizetype limit);
+
+Q_SIGNALS:
+    void finished();
+
+private:
+    SelectionTransfer(X11Connection &connection, xcb_atom_t selection, xcb_atom_t target, qsizetype limit);
+
+    void onEvent(const xcb_generic_event_t *event);
+    void onNotify(xcb_atom_t property);
+    void onChunk();
+    /// Takes the property of the transfer, which tells the owner that it may go on.
+    [[nodiscard]] Data takeProperty();
+    void finish(bool isComplete);
+
+    X11Connection &m_connection;
+    xcb_atom_t m_selection;
+    xcb_atom_t m_target;
+    /// Of its own for each transfer, so that a late answer to an old one is not taken for this one's.
+    xcb_atom_t m_property;
+    qsizetype m_limit;
+    QTimer m_stall;
+    bool m_isIncremental = false;
+    bool m_isFinished = false;
+    bool m_isComplete = false;
+    Data m_data;
+};
+
+} // namespace vesk

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/x11application.h"
+
+#include "platform/freedesktop/applicationservice.h"
+#include "platform/x11/ownwindows.h"
+#include "platform/x11/x11connection.h"
+#include "platform/x11/x11workspace.h"
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QWindow>
+
+namespace vesk {
+
+X11Application::X11Application(X11Connection &connection, X11Workspace &workspace,
+                               ApplicationService &service)
+    : m_connection(connection)
+    , m_workspace(workspace)
+{
+    // Long enough for a switch between windows, too short to be seen when the user clicks the desktop.
+    constexpr std::chrono::milliseconds kSwitch{100};
+    m_noWindow.setSingleShot(true);
+    m_noWindow.setInterval(kSwitch);
+    connect(&m_noWindow, &QTimer::timeout, this, [this] { setActive(false); });
+    connect(&workspace, &X11Workspace::activeWindowChanged, this, &X11Application::onActiveWindowChanged);
+    connect(&service, &ApplicationService::activated, this, &Application::reopened);
+}
+
+void X11Application::hide()
+{
+    if (m_isHidden)
+        return;
+    m_isHidden = true;
+    const bool hadKeyboard = m_isActive;
+    m_isActive = false;
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    for (QWindow *window : windows) {
+        if (!(window->flags() & Qt::WindowDoesNotAcceptFocus))
+            window->hide();
+    }
+    // Window managers differ in whom they give the keyboard to when a window goes, so it is said. A
+    // number may have been given to a new window since, which is no harm: it is looked up as it is now.
+    if (hadKeyboard && m_previousWindow && m_workspace.processOf(*m_previousWindow))
+        ownwindows::requestActivation(*m_previousWindow, m_connection.userTime());
+    m_previousWindow.reset();
+    Q_EMIT didHide();
+}
+
+void X11Application::activate(QWindow &window)
+{
+    if (const std::optional<xcb_window_t> other = foreignActiveWindow())
+        m_previousWindow = other;
+    window.requestActivate();
+    ownwindows::requestActivation(ownwindows::idOf(window), m_connection.userTime());
+}
+
+void X11Application::onActiveWindowChanged()
+{
+    const std::optional<xcb_window_t> window = m_workspace.activeWindow();
+    if (!window) {
+        m_noWindow.start();
+        return;
+    }
+    m_noWindow.stop();
+    setActive(m_workspace.processOf(*window) == QCoreApplication::applicationPid());
+}
+
+void X11Application::setActive(bool isActive)
+{
+    if (m_isActive == isActive)
+        return;
+    m_isActive = isActive;
+    if (!isActive)
+        Q_EMIT didResignActive();
+}
+
+std::optional<xcb_window_t> X11Application::foreignActiveWindow() const
+{
+    const std::optional<xcb_window_t> window = m_workspace.activeWindow();
+    if (!window || m_workspace.processOf(*window) == QCoreApplication::applicationPid())
+        return std::nullopt;
+    return window;
+}
+
+} // namespace vesk

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/application.h"
+
+#include <QTimer>
+
+#include <xcb/xcb.h>
+
+#include <optional>
+
+namespace vesk {
+
+class ApplicationService;
+class X11Connection;
+class X11Workspace;
+
+/// Vesk among the desktop's applications: active while one of its windows is the active window.
+class X11Application final : public Application
+{
+    Q_OBJECT
+
+public:
+    X11Application(X11Connection &connection, X11Workspace &workspace, ApplicationService &service);
+
+    [[nodiscard]] bool isActive() const override { return m_isActive; }
+    [[nodiscard]] bool isHidden() const override { return m_isHidden; }
+    void hide() override;
+    void unhide() override { m_isHidden = false; }
+    void activate(QWindow &window) override;
+
+private:
+    void onActiveWindowChanged();
+    void setActive(bool isActive);
+    /// The active window, if it is another application's.
+    [[nodiscard]] std::optional<xcb_window_t> foreignActiveWindow() const;
+
+    X11Connection &m_connection;
+    X11Workspace &m_workspace;
+    /// Runs while no window is active, which is so for a moment in every switch.
+    QTimer m_noWindow;
+    std::optional<xcb_window_t> m_previousWindow;
+    bool m_isActive = false;
+    bool m_isHidden = false;
+};
+
+} // namespace vesk

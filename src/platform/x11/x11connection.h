@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/x11/xreply.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QObject>
+#include <QSocketNotifier>
+#include <QString>
+
+#include <xcb/xcb.h>
+
+#include <memory>
+#include <optional>
+
+namespace vesk {
+
+/// A connection to the X server beside Qt's own: hot keys, raw input and selections are heard here,
+/// so that Qt's windows are not disturbed. Reading waits for the server at most, never for another
+/// application.
+class X11Connection final : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct OpenResult
+    {
+        std::unique_ptr<X11Connection> connection;
+        /// Why there is none, as a sentence.
+        QString error;
+    };
+
+    /// Connects to `$DISPLAY` and checks that the server has the extensions that Vesk needs.
+    [[nodiscard]] static OpenResult open();
+    ~X11Connection() override;
+
+    [[nodiscard]] xcb_connection_t *xcb() const { return m_connection; }
+    [[nodiscard]] xcb_window_t root() const { return m_screen->root; }
+    /// A window of our own that is never shown; selections are converted onto it.
+    [[nodiscard]] xcb_window_t window() const { return m_window; }
+
+    [[nodiscard]] xcb_atom_t atom(const char *name) const;
+    [[nodiscard]] QString atomName(xcb_atom_t atom) const;
+
+    /// First event number of an extension, and its major opcode for generic events.
+    [[nodiscard]] quint8 xfixesEvent() const { return m_xfixesEvent; }
+    [[nodiscard]] quint8 randrEvent() const { return m_randrEvent; }
+    [[nodiscard]] quint8 inputOpcode() const { return m_inputOpcode; }
+
+    /// The whole of a property as bytes; empty if it or the window does not exist.
+    [[nodiscard]] QByteArray property(xcb_window_t window, xcb_atom_t name) const;
+    /// The first 32-bit value of a property; none if it or the window does not exist.
+    [[nodiscard]] std::optional<quint32> property32(xcb_window_t window, xcb_atom_t name) const;
+    /// Process of the client that made a window or owns a selection with it; none if it is gone or
+    /// the server cannot tell.
+    [[nodiscard]] std::optional<qint64> clientProcess(xcb_window_t window) const;
+
+    /// The server's time of the last hot key or window change that was heard; for acting in the
+    /// user's name.
+    [[nodiscard]] xcb_timestamp_t userTime() const { return m_userTime; }
+    void setUserTime(xcb_timestamp_t time) { m_userTime = time; }
+
+    void flush() { xcb_flush(m_connection); }
+
+Q_SIGNALS:
+    /// Every event, in the server's order. Valid only while the signal is heard.
+    void event(const xcb_generic_event_t *event);
+    /// The server has gone; nothing works any more.
+    void lost();
+
+private:
+    explicit X11Connection(xcb_connection_t *connection, int screenNumber);
+
+    /// Why the server will not do; empty if it will.
+    [[nodiscard]] QString setUpExtensions();
+    void listen();
+    void readEvents();
+
+    xcb_connection_t *m_connection;
+    xcb_screen_t *m_screen = nullptr;
+    xcb_window_t m_window = XCB_WINDOW_NONE;
+    quint8 m_xfixesEvent = 0;
+    quint8 m_randrEvent = 0;
+    quint8 m_inputOpcode = 0;
+    xcb_timestamp_t m_userTime = XCB_CURRENT_TIME;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+    mutable QHash<QByteArray, xcb_atom_t> m_atoms;
+};
+
+} // namespace vesk

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/x11windows.h"
+
+#include "platform/screens.h"
+#include "platform/x11/ownwindows.h"
+#include "platform/x11/x11connection.h"
+
+#include <QRegion>
+#include <QWindow>
+
+#include <xcb/xfixes.h>
+
+#include <cmath>
+
+namespace vesk {
+
+namespace {
+
+/// Whoever owns this selection blends the windows of the first screen.
+constexpr const char *kCompositor = "_NET_WM_CM_S0";
+
+/// A rectangle with round corners, by rows of pixels.
+QRegion roundedRegion(QSize size, qreal radius)
+{
+    QRegion region;
+    const int rows = static_cast<int>(std::ceil(radius));
+    for (int row = 0; row < rows; ++row) {
+        const qreal up = radius - row - 0.5;
+        const int inset = static_cast<int>(std::lround(radius - std::sqrt(radius * radius - up * up)));
+        const int width = size.width() - 2 * inset;
+        region += QRect(inset, row, width, 1);
+        region += QRect(inset, size.height() - 1 - row, width, 1);
+    }
+    region += QRect(0, rows, size.width(), size.height() - 2 * rows);
+    return region;
+}
+
+} // namespace
+
+X11Windows::X11Windows(X11Connection &connection, const Screens &screens)
+    : m_connection(connection)
+    , m_screens(screens)
+    , m_isComposited(hasCompositor())
+{
+    constexpr uint32_t kOwnerChanges = XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER
+                                       | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY
+                                       | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE;
+    xcb_xfixes_select_selection_input(connection.xcb(), connection.window(), connection.atom(kCompositor),
+                                      kOwnerChanges);
+    connect(&connection, &X11Connection::event, this, &X11Windows::onEvent);
+}
+
+void X11Windows::prepare(QWindow &window, Kind kind)
+{
+    window.create();
+    if (kind == Kind::Notice)
+        return; // Not managed, so there is nobody to tell.
+    constexpr quint32 kEveryDesktop = 0xFFFFFFFF;
+    ownwindows::setCardinal(window, "_NET_WM_DESKTOP", kEveryDesktop);
+    ownwindows::addStates(window, {"_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"});
+}
+
+bool X11Windows::setFrame(QWindow &window, const QRectF &frame)
+{
+    window.setGeometry(m_screens.flipped(frame).toRect());
+    return true;
+}
+
+void X11Windows::setCornerRadius(QWindow &window, qreal radius)
+{
+    window.setMask(m_isComposited ? QRegion() : roundedRegion(window.size(), radius));
+}
+
+void X11Windows::onEvent(const xcb_generic_event_t *event)
+{
+    if ((event->response_type & 0x7f) != m_connection.xfixesEvent() + XCB_XFIXES_SELECTION_NOTIFY)
+        return;
+    const auto *notify = reinterpret_cast<const xcb_xfixes_selection_notify_event_t *>(event);
+    if (notify->selection != m_connection.atom(kCompositor))
+        return;
+    const bool isComposited = notify->owner != XCB_WINDOW_NONE;
+    if (m_isComposited == isComposited)
+        return;
+    m_isComposited = isComposited;
+    Q_EMIT compositedChanged();
+}
+
+bool X11Windows::hasCompositor() const
+{
+    const auto cookie = xcb_get_selection_owner(m_connection.xcb(), m_connection.atom(kCompositor));
+    const XReply<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(m_connection.xcb(), cookie, nullptr));
+    return reply && reply->owner != XCB_WINDOW_NONE;
+}
+
+} // namespace vesk

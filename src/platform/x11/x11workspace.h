@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/freedesktop/desktopentries.h"
+#include "platform/workspace.h"
+
+#include <xcb/xcb.h>
+
+namespace vesk {
+
+class X11Connection;
+
+/// The applications of the desktop as the window manager and the desktop entries tell them.
+class X11Workspace final : public Workspace
+{
+    Q_OBJECT
+
+public:
+    explicit X11Workspace(X11Connection &connection);
+
+    [[nodiscard]] std::optional<RunningApplication> frontmostApplication() const override;
+    [[nodiscard]] bool hasApplication(const QString &bundleIdentifier) const override;
+    [[nodiscard]] QIcon iconForApplication(const QString &bundleIdentifier) const override;
+    bool openUrl(const QUrl &url) override;
+    bool openApplication(const QString &bundleIdentifier) override;
+
+    /// The window that has the keyboard; none for the desktop itself, or if the window has gone (window
+    /// managers may leave its number behind).
+    [[nodiscard]] std::optional<xcb_window_t> activeWindow() const;
+    [[nodiscard]] std::optional<qint64> processOf(xcb_window_t window) const;
+    /// Title of a window; empty if it has none.
+    [[nodiscard]] QString titleOf(xcb_window_t window) const;
+    /// Server time at which the active window got the keyboard; 0 if that was before Vesk's start.
+    [[nodiscard]] xcb_timestamp_t activationTime() const { return m_activationTime; }
+    /// Reads the desktop entries now, rather than when they are first needed.
+    void warmUp() const;
+
+Q_SIGNALS:
+    /// The window manager has named another active window, or none for now.
+    void activeWindowChanged();
+
+private:
+    void onEvent(const xcb_generic_event_t *event);
+    [[nodiscard]] RunningApplication applicationOf(xcb_window_t window, qint64 processIdentifier) const;
+    [[nodiscard]] WindowIdentity identityOf(xcb_window_t window, qint64 processIdentifier) const;
+
+    X11Connection &m_connection;
+    DesktopEntries m_entries;
+    std::optional<xcb_window_t> m_lastWindow;
+    qint64 m_lastProcess = 0;
+    xcb_timestamp_t m_activationTime = 0;
+};
+
+} // namespace vesk
