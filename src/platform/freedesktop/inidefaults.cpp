@@ -39,6 +39,7 @@ void IniDefaults::setBool(bool value, const QString &key)
     QSettings settings(m_path, QSettings::IniFormat);
     settings.setValue(key, value);
     settings.sync();
+    m_isWritable = settings.status() == QSettings::NoError;
     watch();
 }
 

@@ -22,6 +22,8 @@ public:
 
     [[nodiscard]] bool boolForKey(const QString &key) const override;
     void setBool(bool value, const QString &key) override;
+    /// Whether the last choice that was set has reached the file.
+    [[nodiscard]] bool isWritable() const { return m_isWritable; }
 
 Q_SIGNALS:
     /// The file was written by somebody else, and at least one value differs.
@@ -34,6 +36,7 @@ private:
 
     QString m_path;
     QHash<QString, bool> m_values;
+    bool m_isWritable = true;
     QFileSystemWatcher m_watcher;
 };
 

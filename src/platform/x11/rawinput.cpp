@@ -10,18 +10,30 @@ namespace vesk {
 RawInput::RawInput(X11Connection &connection)
     : m_connection(connection)
 {
+    readModifiers();
+    connect(&connection, &X11Connection::event, this, &RawInput::onEvent);
+}
+
+void RawInput::setListening(bool isListening)
+{
+    m_isListening = isListening;
     struct
     {
         xcb_input_event_mask_t header;
         uint32_t mask;
-    } const selection{
+    } selection{
         .header = {.deviceid = XCB_INPUT_DEVICE_ALL_MASTER, .mask_len = 1},
-        .mask = XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE
-                | XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS,
+        .mask = 0,
     };
-    xcb_input_xi_select_events(connection.xcb(), connection.root(), 1, &selection.header);
-    readModifiers();
-    connect(&connection, &X11Connection::event, this, &RawInput::onEvent);
+    if (isListening) {
+        selection.mask = XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE
+                         | XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS;
+    } else {
+        m_last = {};
+        m_previous = {};
+    }
+    xcb_input_xi_select_events(m_connection.xcb(), m_connection.root(), 1, &selection.header);
+    m_connection.flush();
 }
 
 xcb_timestamp_t RawInput::lastPress() const

@@ -18,8 +18,12 @@ class RawInput final : public QObject
     Q_OBJECT
 
 public:
-    /// Begins to listen at once.
+    /// Does not listen yet.
     explicit RawInput(X11Connection &connection);
+
+    /// Begins or ends to listen. What was heard before is forgotten at the end.
+    void setListening(bool isListening);
+    [[nodiscard]] bool isListening() const { return m_isListening; }
 
     /// Server time of the last press that may have changed a selection: a mouse button or a key that
     /// is no modifier, hot keys left out. 0 before the first.
@@ -49,6 +53,7 @@ private:
     void readModifiers();
 
     X11Connection &m_connection;
+    bool m_isListening = false;
     QSet<xcb_keycode_t> m_modifiers;
     Press m_last;
     Press m_previous;

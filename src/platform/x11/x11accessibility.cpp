@@ -20,9 +20,11 @@ X11Accessibility::X11Accessibility(X11Connection &connection, RawInput &input, X
     , m_consent(consent)
     , m_primary(connection)
 {
-    connect(&consent, &Consent::changed, this, &X11Accessibility::onConsentChanged);
-    if (isProcessTrusted())
-        m_atSpi.start();
+    connect(&consent, &Consent::changed, this, [this] {
+        followConsent();
+        Q_EMIT trustChanged();
+    });
+    followConsent();
 }
 
 bool X11Accessibility::isProcessTrusted() const
@@ -78,13 +80,13 @@ QCoro::Task<std::optional<QString>> X11Accessibility::copyString(AccessibleEleme
     co_return co_await m_atSpi.role(element);
 }
 
-void X11Accessibility::onConsentChanged()
+void X11Accessibility::followConsent()
 {
+    m_input.setListening(isProcessTrusted());
     if (isProcessTrusted())
         m_atSpi.start();
     else
         m_atSpi.stop();
-    Q_EMIT trustChanged();
 }
 
 QCoro::Task<std::optional<QString>> X11Accessibility::selectedText(AccessibleElement element)

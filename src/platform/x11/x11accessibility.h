@@ -34,7 +34,8 @@ Q_SIGNALS:
     void trustAsked();
 
 private:
-    void onConsentChanged();
+    /// Listens to other applications and the keyboard exactly while the user agrees.
+    void followConsent();
     QCoro::Task<std::optional<QString>> selectedText(AccessibleElement element);
     /// Whether the X11 selection is what the user sees selected in this process.
     [[nodiscard]] bool isPrimaryFresh(qint64 processIdentifier) const;

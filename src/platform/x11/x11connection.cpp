@@ -30,6 +30,14 @@ const xcb_query_extension_reply_t *findExtension(xcb_connection_t *connection, x
 
 } // namespace
 
+bool X11Connection::hasServer()
+{
+    xcb_connection_t *connection = xcb_connect(nullptr, nullptr);
+    const bool isThere = xcb_connection_has_error(connection) == 0;
+    xcb_disconnect(connection);
+    return isThere;
+}
+
 X11Connection::OpenResult X11Connection::open()
 {
     int screenNumber = 0;

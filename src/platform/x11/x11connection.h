@@ -31,6 +31,10 @@ public:
         QString error;
     };
 
+    /// Whether there is a server at `$DISPLAY`. Qt ends the program, with a message that helps
+    /// nobody, where there is none.
+    [[nodiscard]] static bool hasServer();
+
     /// Connects to `$DISPLAY` and checks that the server has the extensions that Vesk needs.
     [[nodiscard]] static OpenResult open();
     ~X11Connection() override;

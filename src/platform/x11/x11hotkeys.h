@@ -33,6 +33,7 @@ private:
     [[nodiscard]] bool grab(Grab grab);
     void ungrab(Grab grab);
     void onEvent(const xcb_generic_event_t *event);
+    void onPress(const xcb_key_press_event_t &press);
     void onKeyReleased(xcb_keycode_t key);
 
     X11Connection &m_connection;
@@ -41,6 +42,8 @@ private:
     /// The key of the last press that was acted upon, until it is up; 0 for none. The server repeats
     /// a grabbed key while it is held.
     xcb_keycode_t m_heldKey = 0;
+    /// When the held key seemed to go up; a repetition goes down again at the same time.
+    xcb_timestamp_t m_releaseTime = 0;
 };
 
 } // namespace vesk

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+
+// A button of a message window.
+PressButton {
+    id: root
+
+    required property string text
+    property bool isMain: false
+
+    name: root.text
+    width: label.implicitWidth + 32
+    height: 30
+    pressedScale: 0.97
+    focusRadius: 10
+
+    Rectangle {
+        anchors.fill: parent
+        radius: 8
+        antialiasing: true
+        color: root.isMain ? Theme.accent : root.hovered ? Theme.neutralTile : Theme.fill
+    }
+
+    Text {
+        id: label
+
+        anchors.centerIn: parent
+        textFormat: Text.PlainText
+        text: root.text
+        font: Theme.strongBodyFont
+        color: root.isMain ? Theme.onAccent : Theme.primary
+        Accessible.ignored: true
+    }
+}

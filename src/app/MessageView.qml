@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Vesk.App
+import Vesk.Components
+
+// What a message window shows. The button that goes on has the keyboard at first.
+Rectangle {
+    id: root
+
+    required property string heading
+    required property string message
+    required property string acceptLabel
+    required property string rejectLabel
+
+    signal accepted
+    signal rejected
+
+    width: 440
+    height: column.height + 2 * 24
+    color: Theme.background
+    Accessible.role: Accessible.Dialog
+    Accessible.name: root.heading
+    Accessible.description: root.message
+
+    Column {
+        id: column
+
+        x: 24
+        y: 24
+        width: root.width - 48
+        spacing: 12
+
+        Text {
+            width: parent.width
+            wrapMode: Text.Wrap
+            textFormat: Text.PlainText
+            text: root.heading
+            font: Theme.headlineFont
+            color: Theme.primary
+        }
+
+        Text {
+            width: parent.width
+            wrapMode: Text.Wrap
+            textFormat: Text.PlainText
+            lineHeight: 1.15
+            text: root.message
+            font: Theme.bodyFont
+            color: Theme.secondary
+        }
+
+        Item {
+            width: parent.width
+            height: buttons.height + 8
+
+            Row {
+                id: buttons
+
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                spacing: Theme.space
+
+                MessageButton {
+                    visible: root.rejectLabel.length > 0
+                    text: root.rejectLabel
+                    onClicked: root.rejected()
+                }
+
+                MessageButton {
+                    focus: true
+                    isMain: true
+                    text: root.acceptLabel
+                    onClicked: root.accepted()
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "app/accesscommand.h"
+
+#include "platform/freedesktop/consent.h"
+#include "platform/freedesktop/inidefaults.h"
+
+#include <QTextStream>
+
+namespace vesk {
+
+using namespace Qt::StringLiterals;
+
+int runAccessCommand(const QStringList &arguments)
+{
+    constexpr int kWrongUse = 2;
+    QTextStream output(stdout);
+    QTextStream errors(stderr);
+    const QString action = arguments.value(0);
+    const bool isKnown = action == "allow"_L1 || action == "deny"_L1 || action == "status"_L1;
+    if (arguments.size() != 1 || !isKnown) {
+        errors << "Usage: vesk access allow|deny|status\n";
+        return kWrongUse;
+    }
+    IniDefaults defaults(IniDefaults::standardPath());
+    Consent consent(defaults);
+    if (action == "status"_L1) {
+        output << (consent.isGiven() ? "allowed\n" : "not allowed\n");
+        return consent.isGiven() ? 0 : 1;
+    }
+    consent.setGiven(action == "allow"_L1);
+    if (!defaults.isWritable()) {
+        errors << "The choice could not be written to " << IniDefaults::standardPath() << ".\n";
+        return 1;
+    }
+    return 0;
+}
+
+} // namespace vesk

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/messagewindow.h"
+
+#include <QObject>
+
+class QQmlEngine;
+
+namespace vesk {
+
+class Consent;
+
+/// Asks the user whether Vesk may read what is selected in other applications.
+class AccessWindow final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Hidden at first. Both have to outlive the window.
+    AccessWindow(QQmlEngine &engine, Consent &consent);
+
+    void show() { m_window.show(); }
+
+private:
+    MessageWindow m_window;
+};
+
+} // namespace vesk

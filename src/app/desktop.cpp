@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "app/desktop.h"
+
+namespace vesk {
+
+Desktop::Desktop(std::unique_ptr<X11Connection> connection, ApplicationService &service)
+    : defaults(IniDefaults::standardPath())
+    , consent(defaults)
+    , x11(std::move(connection))
+    , input(*x11)
+    , windows(*x11, screens)
+    , workspace(*x11)
+    , application(*x11, workspace, service)
+    , hotKeys(*x11, input)
+    , accessibility(*x11, input, workspace, consent)
+{
+}
+
+} // namespace vesk

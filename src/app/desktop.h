@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/freedesktop/applicationservice.h"
+#include "platform/freedesktop/canberrasounds.h"
+#include "platform/freedesktop/consent.h"
+#include "platform/freedesktop/inidefaults.h"
+#include "platform/freedesktop/portalappearance.h"
+#include "platform/freedesktop/systemclock.h"
+#include "platform/x11/rawinput.h"
+#include "platform/x11/x11accessibility.h"
+#include "platform/x11/x11application.h"
+#include "platform/x11/x11connection.h"
+#include "platform/x11/x11hotkeys.h"
+#include "platform/x11/x11screens.h"
+#include "platform/x11/x11windows.h"
+#include "platform/x11/x11workspace.h"
+
+#include <memory>
+
+namespace vesk {
+
+/// The desktop that Vesk runs on: every platform object of an X11 session, made in the order in which
+/// they need each other.
+struct Desktop
+{
+    Desktop(std::unique_ptr<X11Connection> connection, ApplicationService &service);
+
+    SystemClock clock;
+    IniDefaults defaults;
+    Consent consent;
+    PortalAppearance appearance;
+    CanberraSounds sounds;
+    std::unique_ptr<X11Connection> x11;
+    RawInput input;
+    X11Screens screens;
+    X11Windows windows;
+    X11Workspace workspace;
+    X11Application application;
+    X11HotKeys hotKeys;
+    X11Accessibility accessibility;
+};
+
+} // namespace vesk

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "app/accesscommand.h"
+#include "app/desktop.h"
+#include "app/messagewindow.h"
+#include "app/quitsignals.h"
+#include "app/veskapp.h"
+#include "components/surroundings.h"
+#include "notes/notesstore.h"
+
+#include <QCommandLineParser>
+#include <QGuiApplication>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QStandardPaths>
+#include <QTextStream>
+
+#include <algorithm>
+#include <span>
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+void say(const QString &message)
+{
+    QTextStream(stderr) << message << '\n';
+}
+
+/// Tells the user, on standard error and in a window, why Vesk does not start; returns when the user
+/// has closed it.
+void showFatal(vesk::Desktop &desktop, const QString &message)
+{
+    say(message);
+    QQmlEngine engine;
+    vesk::lendToEngine(engine, desktop.appearance, desktop.workspace, desktop.windows);
+    vesk::MessageWindow window(
+        engine,
+        {.heading = u"Vesk cannot start"_s, .message = message, .acceptLabel = u"Quit"_s, .rejectLabel = {}});
+    QObject::connect(&window, &vesk::MessageWindow::accepted, qApp, &QCoreApplication::quit);
+    QObject::connect(&window, &vesk::MessageWindow::rejected, qApp, &QCoreApplication::quit);
+    window.show();
+    QCoreApplication::exec();
+}
+
+QString storePath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Vesk/Notes.store"_s;
+}
+
+int runVesk()
+{
+    vesk::ApplicationService service;
+    switch (service.claim()) {
+    case vesk::ApplicationService::Claim::First:
+        break;
+    case vesk::ApplicationService::Claim::Forwarded:
+        return 0;
+    case vesk::ApplicationService::Claim::NoAnswer:
+        say(u"Vesk is running already, and does not answer."_s);
+        return 1;
+    case vesk::ApplicationService::Claim::NoBus:
+        say(u"Vesk needs the session's message bus, and there is none."_s);
+        return 1;
+    }
+    vesk::X11Connection::OpenResult x11 = vesk::X11Connection::open();
+    if (!x11.connection) {
+        say(u"Vesk cannot start: %1"_s.arg(x11.error));
+        return 1;
+    }
+    vesk::Desktop desktop(std::move(x11.connection), service);
+    const vesk::NotesStore::OpenResult opened = vesk::NotesStore::open(storePath(), desktop.clock);
+    if (!opened.store) {
+        showFatal(desktop, u"Could not open the notes store: %1"_s.arg(opened.error));
+        return 1;
+    }
+    const vesk::VeskApp app(desktop, *opened.store);
+    return QCoreApplication::exec();
+}
+
+int runAccess(int argc, char *argv[])
+{
+    const QCoreApplication program(argc, argv);
+    return vesk::runAccessCommand(QCoreApplication::arguments().mid(2));
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const std::span<char *> words(argv, static_cast<size_t>(argc));
+    QCoreApplication::setApplicationName(u"Vesk"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(VESK_VERSION));
+    if (words.size() > 1 && QByteArrayView(words[1]) == QByteArrayView("access"))
+        return runAccess(argc, argv);
+
+    // The windows are X11's, also where a Wayland compositor offers both.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "xcb");
+    if (!vesk::X11Connection::hasServer()) {
+        say(u"Vesk needs an X11 desktop, and there is no X server at \"%1\"."_s.arg(
+            qEnvironmentVariable("DISPLAY")));
+        return 1;
+    }
+    const bool usesGpu = std::ranges::any_of(
+        words, [](const char *word) { return QByteArrayView(word) == QByteArrayView("--gpu"); });
+    // A panel of this kind is up sooner, and takes half the memory, without the GPU.
+    if (!usesGpu)
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    const QGuiApplication program(argc, argv);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QGuiApplication::setDesktopFileName(u"org.vesk.Vesk"_s);
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        u"Keeps what you select, anywhere.\n\n"
+        "Without arguments, starts Vesk, or shows the panel of the Vesk that runs.\n"
+        "vesk access allow|deny|status: whether Vesk may read other applications."_s);
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOption(QCommandLineOption(u"gpu"_s, u"Draw the windows by the GPU."_s));
+    parser.process(program);
+
+    const vesk::QuitSignals quitSignals;
+    return runVesk();
+}

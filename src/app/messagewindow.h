@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QQuickView>
+#include <QString>
+
+class QQmlEngine;
+
+namespace vesk {
+
+/// A small window that tells the user something and has one or two buttons. Closing it, or Escape,
+/// is the same as the second button, or as the only one.
+class MessageWindow final : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Content
+    {
+        QString heading;
+        QString message;
+        QString acceptLabel;
+        /// Empty for no second button.
+        QString rejectLabel;
+    };
+
+    /// Hidden at first. The engine has to be lent its surroundings before, and to outlive the window.
+    MessageWindow(QQmlEngine &engine, const Content &content);
+    ~MessageWindow() override;
+
+    /// Shows the window, or brings it forward.
+    void show();
+    void hide();
+
+Q_SIGNALS:
+    void accepted();
+    void rejected();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QQuickView m_view;
+};
+
+} // namespace vesk

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "app/veskapp.h"
+
+#include "app/desktop.h"
+#include "components/surroundings.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+
+namespace vesk {
+
+namespace {
+
+QQmlEngine &lent(QQmlEngine &engine, Desktop &desktop)
+{
+    lendToEngine(engine, desktop.appearance, desktop.workspace, desktop.windows);
+    return engine;
+}
+
+} // namespace
+
+VeskApp::VeskApp(Desktop &desktop, NotesStore &store)
+    : m_reader(desktop.accessibility, desktop.workspace)
+    , m_panel(store, desktop.clock, desktop.defaults, desktop.application, desktop.accessibility)
+    , m_panelWindow(lent(m_engine, desktop), m_panel, desktop.application, desktop.screens, desktop.windows)
+    , m_toast(m_engine, desktop.screens, desktop.windows, desktop.clock)
+    , m_accessWindow(m_engine, desktop.consent)
+    , m_services({.clock = desktop.clock,
+                  .hotKeys = desktop.hotKeys,
+                  .accessibility = desktop.accessibility,
+                  .sounds = desktop.sounds,
+                  .store = store,
+                  .reader = m_reader,
+                  .panel = m_panel,
+                  .panelWindow = m_panelWindow,
+                  .toast = m_toast})
+{
+    connect(&desktop.application, &Application::reopened, &m_panelWindow, &PanelWindow::showPanel);
+    connect(&desktop.accessibility, &X11Accessibility::trustAsked, &m_accessWindow, &AccessWindow::show);
+    connect(desktop.x11.get(), &X11Connection::lost, qApp, &QCoreApplication::quit);
+    m_services.start();
+    QTimer::singleShot(0, this, [&desktop] { desktop.workspace.warmUp(); });
+}
+
+} // namespace vesk

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/accesswindow.h"
+#include "capture/selectionreader.h"
+#include "commands/veskservices.h"
+#include "panel/panelmodel.h"
+#include "panel/panelwindow.h"
+#include "quicknote/toast.h"
+
+#include <QObject>
+#include <QQmlEngine>
+
+namespace vesk {
+
+struct Desktop;
+
+/// The running program: the one instance of everything that the layers share.
+class VeskApp final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Arms the hot keys; the event loop does the rest. Both have to outlive it.
+    VeskApp(Desktop &desktop, NotesStore &store);
+
+private:
+    QQmlEngine m_engine;
+    SelectionReader m_reader;
+    PanelModel m_panel;
+    PanelWindow m_panelWindow;
+    Toast m_toast;
+    AccessWindow m_accessWindow;
+    VeskServices m_services;
+};
+
+} // namespace vesk
