@@ -64,10 +64,7 @@ public:
         std::ranges::sort(m_entries, before);
     }
 
-    void insert(Record &record)
-    {
-        Q_EMIT inserted(place(entryOf(record)));
-    }
+    void insert(Record &record) { Q_EMIT inserted(place(entryOf(record))); }
 
     /// `date` is the record's date before its removal.
     void remove(Record &record, Date date)
@@ -103,7 +100,10 @@ private:
         return a.date != b.date ? a.date > b.date : a.record->id() < b.record->id();
     }
 
-    [[nodiscard]] Entry entryOf(Record &record) const { return {.date = (record.*m_key)(), .record = &record}; }
+    [[nodiscard]] Entry entryOf(Record &record) const
+    {
+        return {.date = (record.*m_key)(), .record = &record};
+    }
 
     [[nodiscard]] qsizetype indexOf(const Entry &entry) const
     {
@@ -120,6 +120,7 @@ private:
     qsizetype take(const Entry &entry)
     {
         const qsizetype index = indexOf(entry);
+        Q_ASSERT(m_entries.at(static_cast<size_t>(index)).record == entry.record);
         m_entries.erase(m_entries.begin() + index);
         return index;
     }

@@ -3,12 +3,13 @@
 
 #include "notes/livequery.h"
 #include "notes/note.h"
+#include "notes/pendingchanges.h"
 #include "notes/prompt.h"
 #include "notes/record.h"
 #include "platform/clock.h"
 
-#include <QHash>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <memory>
@@ -65,7 +66,49 @@ public:
     [[nodiscard]] QList<Prompt *> donePrompts() const;
 
 private:
-    // (the implementer's)
+    /// A record with the date under which the live query has it.
+    template <typename Record>
+    struct Held
+    {
+        std::unique_ptr<Record> record;
+        Date date;
+    };
+    struct IdHash
+    {
+        size_t operator()(const RecordId &id) const noexcept { return qHash(id); }
+    };
+    template <typename Record>
+    using Shelf = std::unordered_map<RecordId, Held<Record>, IdHash>;
+
+    NotesStore(std::unique_ptr<Database> database, Clock &clock);
+
+    void noteChanged(Note &note) override;
+    void promptChanged(Prompt &prompt) override;
+
+    void load(std::vector<Note::Fields> notes, std::vector<Prompt::Fields> prompts);
+    /// Puts a record on its shelf; `key` is the date that its live query goes by.
+    template <typename Record>
+    Record &hold(Shelf<Record> &shelf, std::unique_ptr<Record> record, Date (Record::*key)() const);
+    /// Takes it down again.
+    template <typename Record>
+    [[nodiscard]] Held<Record> take(Shelf<Record> &shelf, Record &record);
+
+    [[nodiscard]] bool write();
+    /// Begins to try again by itself, unless it already does.
+    void startRetrying();
+    /// Tries until nothing is pending or `round` is no longer the current one. The store may die
+    /// meanwhile.
+    static QCoro::Task<> retry(QPointer<NotesStore> store, Clock *clock, quint64 round);
+
+    std::unique_ptr<Database> m_database;
+    Clock &m_clock;
+    Shelf<Note> m_heldNotes;
+    Shelf<Prompt> m_heldPrompts;
+    LiveQuery<Note> m_notes{&Note::updatedAt};
+    LiveQuery<Prompt> m_prompts{&Prompt::createdAt};
+    PendingChanges m_pending;
+    bool m_isRetrying = false;
+    quint64 m_retryRound = 0;
 };
 
 } // namespace vesk

@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: MIT
+#include "notes/notesstore.h"
+
+#include "notes/database.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace std::chrono_literals;
+
+namespace vesk {
+
+namespace {
+
+/// How long after a failed save the store tries again; doubled each time, up to the longest.
+constexpr std::chrono::milliseconds kFirstRetryDelay = 5s;
+constexpr std::chrono::milliseconds kLongestRetryDelay = 60s;
+
+} // namespace
+
+NotesStore::OpenResult NotesStore::open(const QString &path, Clock &clock)
+{
+    Database::OpenResult opened = Database::open(path);
+    if (!opened.database)
+        return {.store = nullptr, .error = opened.error};
+    std::unique_ptr<NotesStore> store(new NotesStore(std::move(opened.database), clock));
+    store->load(std::move(opened.notes), std::move(opened.prompts));
+    return {.store = std::move(store), .error = {}};
+}
+
+NotesStore::NotesStore(std::unique_ptr<Database> database, Clock &clock)
+    : m_database(std::move(database))
+    , m_clock(clock)
+{
+}
+
+NotesStore::~NotesStore()
+{
+    // Nobody is left to be told of a failure; it has been logged.
+    if (hasPendingChanges())
+        static_cast<void>(write());
+}
+
+void NotesStore::load(std::vector<Note::Fields> notes, std::vector<Prompt::Fields> prompts)
+{
+    std::vector<Note *> allNotes;
+    allNotes.reserve(notes.size());
+    m_heldNotes.reserve(notes.size());
+    for (Note::Fields &fields : notes) {
+        auto note = std::make_unique<Note>(m_clock, std::move(fields));
+        allNotes.push_back(&hold(m_heldNotes, std::move(note), &Note::updatedAt));
+    }
+    m_notes.load(allNotes);
+
+    std::vector<Prompt *> allPrompts;
+    allPrompts.reserve(prompts.size());
+    for (Prompt::Fields &fields : prompts) {
+        auto prompt = std::make_unique<Prompt>(std::move(fields));
+        allPrompts.push_back(&hold(m_heldPrompts, std::move(prompt), &Prompt::createdAt));
+    }
+    m_prompts.load(allPrompts);
+}
+
+Note &NotesStore::insert(std::unique_ptr<Note> note)
+{
+    Note &inserted = hold(m_heldNotes, std::move(note), &Note::updatedAt);
+    m_pending.addInserted(RecordKind::Note, inserted.id());
+    m_notes.insert(inserted);
+    return inserted;
+}
+
+Prompt &NotesStore::insert(std::unique_ptr<Prompt> prompt)
+{
+    Prompt &inserted = hold(m_heldPrompts, std::move(prompt), &Prompt::createdAt);
+    m_pending.addInserted(RecordKind::Prompt, inserted.id());
+    m_prompts.insert(inserted);
+    return inserted;
+}
+
+void NotesStore::remove(Note &note)
+{
+    const Held<Note> taken = take(m_heldNotes, note);
+    m_pending.addRemoved(RecordKind::Note, note.id());
+    m_notes.remove(note, taken.date);
+}
+
+void NotesStore::remove(Prompt &prompt)
+{
+    const Held<Prompt> taken = take(m_heldPrompts, prompt);
+    m_pending.addRemoved(RecordKind::Prompt, prompt.id());
+    m_prompts.remove(prompt, taken.date);
+}
+
+template <typename Record>
+Record &NotesStore::hold(Shelf<Record> &shelf, std::unique_ptr<Record> record, Date (Record::*key)() const)
+{
+    Q_ASSERT(!m_heldNotes.contains(record->id()) && !m_heldPrompts.contains(record->id()));
+    Record &held = *record;
+    held.setObserver(this);
+    shelf.emplace(held.id(), Held<Record>{.record = std::move(record), .date = (held.*key)()});
+    return held;
+}
+
+template <typename Record>
+NotesStore::Held<Record> NotesStore::take(Shelf<Record> &shelf, Record &record)
+{
+    auto node = shelf.extract(record.id());
+    Q_ASSERT(!node.empty() && node.mapped().record.get() == &record);
+    // What listeners still do to a record that is on its way out is of no concern here.
+    record.setObserver(nullptr);
+    return std::move(node.mapped());
+}
+
+void NotesStore::noteChanged(Note &note)
+{
+    m_pending.addChanged(RecordKind::Note, note.id());
+    const Date oldDate = std::exchange(m_heldNotes.at(note.id()).date, note.updatedAt());
+    m_notes.update(note, oldDate);
+}
+
+void NotesStore::promptChanged(Prompt &prompt)
+{
+    m_pending.addChanged(RecordKind::Prompt, prompt.id());
+    m_prompts.update(prompt, prompt.createdAt());
+}
+
+bool NotesStore::save()
+{
+    if (!hasPendingChanges() || write()) {
+        m_isRetrying = false;
+        return true;
+    }
+    startRetrying();
+    return false;
+}
+
+bool NotesStore::hasPendingChanges() const
+{
+    return !m_pending.isEmpty();
+}
+
+bool NotesStore::write()
+{
+    std::vector<Database::Change> changes;
+    for (const auto &[number, change] : m_pending.changes()) {
+        if (const Note *note = findNote(change.id))
+            changes.emplace_back(note);
+        else if (const Prompt *prompt = findPrompt(change.id))
+            changes.emplace_back(prompt);
+        else
+            changes.emplace_back(Database::Removal{.kind = change.kind, .id = change.id});
+    }
+    if (!m_database->write(changes))
+        return false;
+    m_pending.clear();
+    return true;
+}
+
+void NotesStore::startRetrying()
+{
+    if (m_isRetrying)
+        return;
+    m_isRetrying = true;
+    ++m_retryRound;
+    retry(this, &m_clock, m_retryRound);
+}
+
+QCoro::Task<> NotesStore::retry(QPointer<NotesStore> store, Clock *clock, quint64 round)
+{
+    std::chrono::milliseconds delay = kFirstRetryDelay;
+    while (true) {
+        co_await clock->sleep(delay);
+        // A save from elsewhere that has succeeded ends the round; a failure after it began another.
+        if (!store || !store->m_isRetrying || store->m_retryRound != round)
+            co_return;
+        if (store->save())
+            co_return;
+        delay = std::min(2 * delay, kLongestRetryDelay);
+    }
+}
+
+Note *NotesStore::findNote(const RecordId &id) const
+{
+    const auto held = m_heldNotes.find(id);
+    return held == m_heldNotes.end() ? nullptr : held->second.record.get();
+}
+
+Prompt *NotesStore::findPrompt(const RecordId &id) const
+{
+    const auto held = m_heldPrompts.find(id);
+    return held == m_heldPrompts.end() ? nullptr : held->second.record.get();
+}
+
+QList<Prompt *> NotesStore::donePrompts() const
+{
+    QList<Prompt *> result;
+    for (const auto &[id, held] : m_heldPrompts) {
+        if (held.record->isDone())
+            result.append(held.record.get());
+    }
+    return result;
+}
+
+} // namespace vesk

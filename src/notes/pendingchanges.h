@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "notes/record.h"
+
+#include <QHash>
+
+#include <map>
+
+namespace vesk {
+
+enum class RecordKind {
+    Note,
+    Prompt,
+};
+
+/// Which records differ from the store's file, in the order of the first change of each. What has to
+/// be done about one follows from whether it still exists. Owned by the store.
+class PendingChanges final
+{
+public:
+    struct Change
+    {
+        RecordKind kind;
+        RecordId id;
+        /// Whether the file has this record.
+        bool isStored;
+    };
+
+    void addInserted(RecordKind kind, const RecordId &id)
+    {
+        add({.kind = kind, .id = id, .isStored = false});
+    }
+    void addChanged(RecordKind kind, const RecordId &id) { add({.kind = kind, .id = id, .isStored = true}); }
+    /// A record that never came into the file is forgotten.
+    void addRemoved(RecordKind kind, const RecordId &id);
+    void clear();
+
+    [[nodiscard]] bool isEmpty() const { return m_changes.empty(); }
+    /// By a number that grows; the numbers have gaps.
+    [[nodiscard]] const std::map<quint64, Change> &changes() const { return m_changes; }
+
+private:
+    /// Does nothing if the record has changed before: its place and what the file has stay.
+    void add(const Change &change);
+
+    std::map<quint64, Change> m_changes;
+    QHash<RecordId, quint64> m_numbers;
+    quint64 m_nextNumber = 0;
+};
+
+} // namespace vesk

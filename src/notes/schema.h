@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace SQLite {
+class Database;
+}
+
+namespace vesk {
+
+/// The tables of the store's file, their version, and the way from an older version to this one.
+/// Internal to this layer; everything here throws what SQLiteCpp throws.
+namespace schema {
+
+/// Marks a file as a store of Vesk, whatever it is called: "Vesk" in ASCII.
+inline constexpr int kApplicationId = 0x5665736B;
+/// The version that this program reads and writes.
+inline constexpr int kVersion = 1;
+
+/// 0 if the file has none.
+[[nodiscard]] int applicationId(SQLite::Database &connection);
+/// 0 for a file without tables.
+[[nodiscard]] int version(SQLite::Database &connection);
+
+/// Brings a file of an older version to `kVersion`, step by step. Has to be called in a transaction.
+void migrate(SQLite::Database &connection);
+
+} // namespace schema
+} // namespace vesk

@@ -1,0 +1,412 @@
+// SPDX-License-Identifier: MIT
+#include "storefixture.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QScopeGuard>
+#include <QTest>
+
+#include <SQLiteCpp/Transaction.h>
+
+#include <cstdio>
+#include <functional>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+
+namespace {
+
+constexpr auto kHoldLock = "--hold-lock";
+constexpr qint64 kPageSize = 4096;
+/// A user without rights.
+constexpr uid_t kNobody = 65534;
+
+/// What this program does as the other program that has a database open: locks it until its input
+/// ends. Not in the test's own process, because closing a file there gives up that process's locks.
+int holdLock(const char *path, const char *statement)
+{
+    SQLite::Database connection(path, SQLite::OPEN_READWRITE);
+    connection.exec(statement);
+    std::puts("locked");
+    std::fflush(stdout);
+    while (std::getchar() != EOF) {
+    }
+    return 0;
+}
+
+std::optional<QByteArray> bytesOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    return file.readAll();
+}
+
+void write(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), bytes.size());
+}
+
+mode_t modeOf(const QString &path)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+}
+
+/// Pages are counted from 1.
+void overwritePage(const StoreFixture &fixture, qint64 page)
+{
+    QFile file(fixture.path());
+    QVERIFY(file.open(QIODevice::ReadWrite) && file.seek((page - 1) * kPageSize));
+    QCOMPARE(file.write(QByteArray(kPageSize, 'x')), kPageSize);
+}
+
+/// Leaves the store as a program does that has made `change` and then crashed.
+void copyCrashed(const QString &path, const std::function<void(SQLite::Database &)> &change)
+{
+    // The files as they are while they are open are what a crash leaves.
+    const QString other = path + u".open"_s;
+    QVERIFY(QFile::rename(path, other));
+    SQLite::Database connection(other.toStdString(), SQLite::OPEN_READWRITE);
+    connection.exec("PRAGMA journal_mode = WAL");
+    change(connection);
+    QVERIFY(QFile::copy(other + u"-wal"_s, path + u"-wal"_s));
+    QVERIFY(QFile::copy(other, path));
+}
+
+} // namespace
+
+using Preparation = std::function<void(const StoreFixture &)>;
+Q_DECLARE_METATYPE(Preparation)
+
+class TestStoreFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void isForItsUserOnly_data();
+    void isForItsUserOnly();
+    void leavesAnExistingFolderAsItIs();
+    void isMadeFromAnEmptyFile();
+    void isMadeDespiteAHalfMadeOne();
+    void isReadWithTheJournalOfACrash();
+    void refuses_data();
+    void refuses();
+    void refusesWhatItMayNotWrite();
+    void refusesALockedFile_data();
+    void refusesALockedFile();
+    void refusesAPathThatCannotBeMade();
+
+private:
+    /// A closed store with a few notes in it.
+    void makeStore();
+
+    std::unique_ptr<StoreFixture> m_fixture;
+};
+
+void TestStoreFile::init()
+{
+    m_fixture = std::make_unique<StoreFixture>();
+}
+
+void TestStoreFile::makeStore()
+{
+    QVERIFY2(m_fixture->open(), qPrintable(m_fixture->error));
+    for (int i = 0; i < 100; ++i)
+        m_fixture->addNote(QString(1000, u'a'));
+    QVERIFY(m_fixture->store->save());
+    m_fixture->close();
+    QVERIFY(!QFile::exists(m_fixture->journalPath()));
+}
+
+void TestStoreFile::isForItsUserOnly_data()
+{
+    QTest::addColumn<uint>("mask");
+    QTest::newRow("permissive") << 0U;
+    QTest::newRow("usual") << 022U;
+    QTest::newRow("odd") << 0277U;
+}
+
+void TestStoreFile::isForItsUserOnly()
+{
+    QFETCH(uint, mask);
+    const auto verifyModes = [this] {
+        m_fixture->addNote(u"a"_s);
+        QVERIFY(m_fixture->store->save());
+        QCOMPARE(modeOf(m_fixture->path()), mode_t{0600});
+        QCOMPARE(modeOf(m_fixture->journalPath()), mode_t{0600});
+        QCOMPARE(modeOf(m_fixture->path() + u"-shm"_s), mode_t{0600});
+    };
+    const mode_t before = ::umask(mask);
+    const auto restore = qScopeGuard([before] { ::umask(before); });
+    QVERIFY2(m_fixture->open(), qPrintable(m_fixture->error));
+    QCOMPARE(modeOf(QFileInfo(m_fixture->path()).path()), mode_t{0700});
+    verifyModes();
+
+    // One that came from elsewhere, such as a backup.
+    m_fixture->close();
+    QCOMPARE(::chmod(m_fixture->nativePath().c_str(), 0644), 0);
+    QVERIFY(m_fixture->open());
+    verifyModes();
+}
+
+void TestStoreFile::leavesAnExistingFolderAsItIs()
+{
+    const QString folder = QFileInfo(m_fixture->path()).path();
+    QVERIFY(QDir().mkpath(folder));
+    QCOMPARE(::chmod(QFile::encodeName(folder).constData(), 0755), 0);
+    QVERIFY(m_fixture->open());
+    QCOMPARE(modeOf(folder), mode_t{0755});
+}
+
+void TestStoreFile::isMadeFromAnEmptyFile()
+{
+    QVERIFY(QDir().mkpath(QFileInfo(m_fixture->path()).path()));
+    write(m_fixture->path(), {});
+    makeStore();
+    QVERIFY(m_fixture->open());
+    QCOMPARE(m_fixture->store->notes().count(), 100);
+}
+
+void TestStoreFile::isMadeDespiteAHalfMadeOne()
+{
+    QVERIFY(QDir().mkpath(QFileInfo(m_fixture->path()).path()));
+    write(m_fixture->path() + u".new"_s, "half");
+    write(m_fixture->path() + u".new-journal"_s, "half");
+    makeStore();
+    const QStringList files = QFileInfo(m_fixture->path()).dir().entryList(QDir::Files);
+    QCOMPARE(files, QStringList{u"Notes.store"_s});
+}
+
+void TestStoreFile::isReadWithTheJournalOfACrash()
+{
+    makeStore();
+    copyCrashed(m_fixture->path(), [](SQLite::Database &connection) {
+        connection.exec("UPDATE Note SET text = 'from the journal'");
+    });
+    QVERIFY(QFileInfo(m_fixture->journalPath()).size() > 0);
+    QVERIFY2(m_fixture->open(), qPrintable(m_fixture->error));
+    QCOMPARE(m_fixture->store->notes().count(), 100);
+    QCOMPARE(m_fixture->store->notes().first()->text(), u"from the journal"_s);
+    QCOMPARE(m_fixture->integrity(), u"ok"_s);
+}
+
+void TestStoreFile::refuses_data()
+{
+    QTest::addColumn<Preparation>("prepare");
+    QTest::addColumn<QString>("reason");
+
+    const auto row = [](const char *name, const QString &reason, Preparation prepare) {
+        QTest::newRow(name) << prepare << reason;
+    };
+    const auto execute = [](const StoreFixture &fixture, const char *statements) {
+        fixture.outsider(SQLite::OPEN_READWRITE).exec(statements);
+    };
+    const auto truncate = [](const StoreFixture &fixture, qint64 size) {
+        QVERIFY(QFile::resize(fixture.path(), size));
+    };
+    const auto makeOther = [](const StoreFixture &fixture) {
+        QVERIFY(QFile::remove(fixture.path()));
+        fixture.outsider(SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE)
+            .exec("CREATE TABLE Note (id, text); INSERT INTO Note VALUES (1, 'theirs')");
+    };
+
+    row("a folder", u"is a folder"_s, [](const StoreFixture &fixture) {
+        QVERIFY(QFile::remove(fixture.path()));
+        QVERIFY(QDir().mkdir(fixture.path()));
+    });
+    row("a pipe", u"is not an ordinary file"_s, [](const StoreFixture &fixture) {
+        QVERIFY(QFile::remove(fixture.path()));
+        QCOMPARE(::mkfifo(fixture.nativePath().c_str(), 0600), 0);
+    });
+    row("a link to nowhere", u"is a link to a file that does not exist"_s, [](const StoreFixture &fixture) {
+        QVERIFY(QFile::remove(fixture.path()));
+        QVERIFY(QFile::link(u"/nowhere/Notes.store"_s, fixture.path()));
+    });
+    row("text", u"is not a database"_s,
+        [](const StoreFixture &fixture) { write(fixture.path(), QByteArray(5000, 'x')); });
+    row("one byte", u"is damaged"_s, [](const StoreFixture &fixture) { write(fixture.path(), "S"); });
+    row("zeros", u"is not a database"_s,
+        [](const StoreFixture &fixture) { write(fixture.path(), QByteArray(8192, '\0')); });
+    row("cut within the header", u"is damaged"_s,
+        [=](const StoreFixture &fixture) { truncate(fixture, 50); });
+    row("cut after the header", u"is damaged"_s,
+        [=](const StoreFixture &fixture) { truncate(fixture, 100); });
+    row("cut within the first page", u"is damaged"_s,
+        [=](const StoreFixture &fixture) { truncate(fixture, 1000); });
+    row("cut after the first page", u"is damaged"_s,
+        [=](const StoreFixture &fixture) { truncate(fixture, kPageSize); });
+    row("cut within the last page", u"is damaged"_s, [=](const StoreFixture &fixture) {
+        truncate(fixture, QFileInfo(fixture.path()).size() - kPageSize - 1);
+    });
+    row("a page of notes overwritten", u"is damaged"_s, [](const StoreFixture &fixture) {
+        overwritePage(fixture, QFileInfo(fixture.path()).size() / kPageSize / 2);
+    });
+    row("a page of an index overwritten", u"is damaged"_s, [](const StoreFixture &fixture) {
+        const qint64 root =
+            fixture.outsider(SQLite::OPEN_READWRITE)
+                .execAndGet("SELECT rootpage FROM sqlite_schema WHERE name = 'sqlite_autoindex_Prompt_1'")
+                .getInt64();
+        overwritePage(fixture, root);
+    });
+    row("a table missing", u"is damaged"_s,
+        [=](const StoreFixture &fixture) { execute(fixture, "DROP TABLE Prompt"); });
+    row("a column missing", u"is damaged"_s,
+        [=](const StoreFixture &fixture) { execute(fixture, "ALTER TABLE Note DROP COLUMN sourceURL"); });
+    row("a note without identity", u"is damaged"_s,
+        [=](const StoreFixture &fixture) { execute(fixture, "UPDATE Note SET id = 'x' WHERE rowid = 7"); });
+    row("an identity twice", u"is damaged"_s, [=](const StoreFixture &fixture) {
+        execute(fixture, "UPDATE Note SET id = (SELECT upper(id) FROM Note WHERE rowid = 8) WHERE rowid = 7");
+    });
+    row("another program's database", u"is a database of another program"_s, makeOther);
+    row("another program's database after a crash", u"is a database of another program"_s,
+        [=](const StoreFixture &fixture) {
+            makeOther(fixture);
+            copyCrashed(fixture.path(), [](SQLite::Database &connection) {
+                connection.exec("UPDATE Note SET text = 'theirs still'");
+            });
+        });
+    row("a newer store", u"version 2 of the store; this one knows version 1"_s,
+        [=](const StoreFixture &fixture) { execute(fixture, "PRAGMA user_version = 2"); });
+    row("a newer store that does not use a journal", u"version 2147483647 of the store"_s,
+        [=](const StoreFixture &fixture) {
+            execute(fixture, "PRAGMA journal_mode = DELETE; PRAGMA user_version = 2147483647");
+        });
+    row("a newer store whose version is in the journal", u"version 3 of the store"_s,
+        [](const StoreFixture &fixture) {
+            copyCrashed(fixture.path(),
+                        [](SQLite::Database &connection) { connection.exec("PRAGMA user_version = 3"); });
+        });
+    row("nothing left but the journal", u"is missing or empty, but its journal"_s,
+        [](const StoreFixture &fixture) {
+            copyCrashed(fixture.path(),
+                        [](SQLite::Database &connection) { connection.exec("DELETE FROM Note"); });
+            QVERIFY(QFile::remove(fixture.path()));
+        });
+    row("an empty file and the journal", u"is missing or empty, but its journal"_s,
+        [](const StoreFixture &fixture) {
+            copyCrashed(fixture.path(),
+                        [](SQLite::Database &connection) { connection.exec("DELETE FROM Note"); });
+            QVERIFY(QFile::resize(fixture.path(), 0));
+        });
+}
+
+void TestStoreFile::refuses()
+{
+    QFETCH(Preparation, prepare);
+    QFETCH(QString, reason);
+    makeStore();
+    prepare(*m_fixture);
+    const bool isFile = QFileInfo(m_fixture->path()).isFile();
+    const std::optional<QByteArray> file = isFile ? bytesOf(m_fixture->path()) : std::nullopt;
+    const std::optional<QByteArray> journal = bytesOf(m_fixture->journalPath());
+    const mode_t mode = modeOf(m_fixture->path());
+
+    QVERIFY(!m_fixture->open());
+    QVERIFY2(m_fixture->error.contains(reason), qPrintable(m_fixture->error));
+    QVERIFY(m_fixture->error.contains(m_fixture->path()) && m_fixture->error.endsWith(u'.'));
+
+    QCOMPARE(modeOf(m_fixture->path()), mode);
+    QVERIFY((isFile ? bytesOf(m_fixture->path()) : std::nullopt) == file);
+    QVERIFY(bytesOf(m_fixture->journalPath()) == journal);
+}
+
+void TestStoreFile::refusesWhatItMayNotWrite()
+{
+    makeStore();
+    QCOMPARE(::chmod(m_fixture->nativePath().c_str(), 0400), 0);
+    const std::optional<QByteArray> file = bytesOf(m_fixture->path());
+    // Rights do not bind root, so then the opening is tried as somebody whom they do.
+    const bool isRoot = ::geteuid() == 0;
+    if (isRoot) {
+        const QString folder = QFileInfo(m_fixture->path()).path();
+        for (const QString &path : {m_fixture->folder.path(), folder, m_fixture->path()})
+            QCOMPARE(::chown(QFile::encodeName(path).constData(), kNobody, kNobody), 0);
+        if (::seteuid(kNobody) != 0)
+            QSKIP("Cannot become a user without rights.");
+    }
+    const auto restore = qScopeGuard([isRoot] {
+        if (isRoot && ::seteuid(0) != 0)
+            qFatal("Cannot become root again.");
+    });
+    if (::access(m_fixture->nativePath().c_str(), F_OK) != 0)
+        QSKIP("The temporary folder is not open to other users.");
+    QVERIFY(!m_fixture->open());
+    QVERIFY2(m_fixture->error.contains(u"cannot be written"_s), qPrintable(m_fixture->error));
+    QVERIFY(bytesOf(m_fixture->path()) == file);
+    QVERIFY(!QFile::exists(m_fixture->journalPath()));
+
+    QCOMPARE(::chmod(m_fixture->nativePath().c_str(), 0200), 0);
+    QVERIFY(!m_fixture->open());
+    QVERIFY2(m_fixture->error.contains(u"cannot be read"_s), qPrintable(m_fixture->error));
+
+    // The file alone does not do: the journal has to be made beside it.
+    QCOMPARE(::chmod(m_fixture->nativePath().c_str(), 0600), 0);
+    const QByteArray folder = QFile::encodeName(QFileInfo(m_fixture->path()).path());
+    QCOMPARE(::chmod(folder.constData(), 0500), 0);
+    QVERIFY(!m_fixture->open());
+    QVERIFY(!m_fixture->error.isEmpty());
+    QCOMPARE(::chmod(folder.constData(), 0700), 0);
+    QVERIFY(bytesOf(m_fixture->path()) == file);
+    QVERIFY2(m_fixture->open(), qPrintable(m_fixture->error));
+}
+
+void TestStoreFile::refusesALockedFile_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::newRow("writing") << u"BEGIN IMMEDIATE; DELETE FROM Note WHERE rowid = 1"_s;
+    QTest::newRow("for itself") << u"PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE"_s;
+    QTest::newRow("without a journal file") << u"PRAGMA journal_mode = DELETE; BEGIN EXCLUSIVE"_s;
+}
+
+void TestStoreFile::refusesALockedFile()
+{
+    QFETCH(QString, statement);
+    makeStore();
+    QProcess locker;
+    locker.start(QCoreApplication::applicationFilePath(),
+                 {QString::fromLatin1(kHoldLock), m_fixture->path(), statement});
+    QVERIFY(locker.waitForReadyRead());
+    QCOMPARE(locker.readAllStandardOutput(), QByteArray("locked\n"));
+    const std::optional<QByteArray> file = bytesOf(m_fixture->path());
+    const std::optional<QByteArray> journal = bytesOf(m_fixture->journalPath());
+
+    QVERIFY(!m_fixture->open());
+    QVERIFY2(m_fixture->error.contains(u"is in use by another program"_s), qPrintable(m_fixture->error));
+    QVERIFY(bytesOf(m_fixture->path()) == file);
+    QVERIFY(bytesOf(m_fixture->journalPath()) == journal);
+
+    locker.closeWriteChannel();
+    QVERIFY(locker.waitForFinished());
+    QVERIFY2(m_fixture->open(), qPrintable(m_fixture->error));
+    QCOMPARE(m_fixture->store->notes().count(), 100);
+}
+
+void TestStoreFile::refusesAPathThatCannotBeMade()
+{
+    MemoryClock clock;
+    const QString file = m_fixture->folder.filePath(u"file"_s);
+    write(file, "x");
+    const NotesStore::OpenResult result = NotesStore::open(file + u"/Vesk/Notes.store"_s, clock);
+    QVERIFY(!result.store);
+    QVERIFY2(result.error.contains(u"cannot be created"_s), qPrintable(result.error));
+}
+
+int main(int argc, char **argv)
+{
+    if (argc == 4 && qstrcmp(argv[1], kHoldLock) == 0)
+        return holdLock(argv[2], argv[3]);
+    QCoreApplication application(argc, argv);
+    TestStoreFile test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_storefile.moc"
