@@ -94,7 +94,7 @@ QString AccessibleTree::name(const Object &object) const
 
 qint64 AccessibleTree::processOf(const QString &service) const
 {
-    return m_bus.interface() ? qint64(m_bus.interface()->servicePid(service).value()) : 0;
+    return m_bus.interface() != nullptr ? qint64(m_bus.interface()->servicePid(service).value()) : 0;
 }
 
 } // namespace vesk

@@ -31,11 +31,10 @@ std::unique_ptr<TextEditor> TextEditor::open(VirtualDesktop &desktop, const QStr
     return desktop.windows().waitActive(*window, kStartBound) ? std::move(editor) : nullptr;
 }
 
-TextEditor::TextEditor(VirtualDesktop &desktop, std::unique_ptr<ChildProcess> process,
-                       const QStringList &lines)
+TextEditor::TextEditor(VirtualDesktop &desktop, std::unique_ptr<ChildProcess> process, QStringList lines)
     : m_desktop(desktop)
     , m_process(std::move(process))
-    , m_lines(lines)
+    , m_lines(std::move(lines))
 {
 }
 

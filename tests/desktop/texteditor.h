@@ -25,7 +25,7 @@ public:
     [[nodiscard]] ChildProcess &process() { return *m_process; }
 
 private:
-    TextEditor(VirtualDesktop &desktop, std::unique_ptr<ChildProcess> process, const QStringList &lines);
+    TextEditor(VirtualDesktop &desktop, std::unique_ptr<ChildProcess> process, QStringList lines);
 
     VirtualDesktop &m_desktop;
     std::unique_ptr<ChildProcess> m_process;

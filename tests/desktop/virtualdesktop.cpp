@@ -88,8 +88,8 @@ void VirtualDesktop::prepareEnvironment()
 
 std::unique_ptr<ChildProcess> VirtualDesktop::run(const QString &program, const QStringList &arguments)
 {
-    const QString log = m_home.filePath(QFileInfo(program).fileName() + u".log"_s);
-    QFile::remove(log);
+    // One file for each start: a second one must not take the first one's words away.
+    const QString log = m_home.filePath(u"%1-%2.log"_s.arg(QFileInfo(program).fileName()).arg(++m_starts));
     return ChildProcess::start({program, arguments, m_environment, log});
 }
 

@@ -56,6 +56,7 @@ private:
     QProcessEnvironment m_environment;
     QString m_displayName;
     QString m_busAddress;
+    int m_starts = 0;
     NotesFile m_notes;
     std::unique_ptr<ChildProcess> m_server;
     std::unique_ptr<ChildProcess> m_bus;
