@@ -23,7 +23,8 @@ constexpr int kBusyTimeoutMilliseconds = 250;
 [[nodiscard]] bool haveIdentities(const Database::OpenResult &contents)
 {
     QSet<RecordId> ids;
-    ids.reserve(static_cast<qsizetype>(contents.notes.size() + contents.prompts.size()));
+    ids.reserve(static_cast<qsizetype>(contents.notes.size())
+                + static_cast<qsizetype>(contents.prompts.size()));
     const auto isNew = [&ids](const auto &fields) {
         const qsizetype count = ids.size();
         ids.insert(fields.id);
@@ -82,8 +83,8 @@ QString Database::load(const StoreFile &file, OpenResult &result)
         if (m_connection.execAndGet("PRAGMA quick_check(1)").getString() != "ok")
             return file.damaged();
         schema::migrate(m_connection);
-        m_notes.emplace(m_connection);
-        m_prompts.emplace(m_connection);
+        m_notes = std::make_unique<NoteTable>(m_connection);
+        m_prompts = std::make_unique<PromptTable>(m_connection);
         result.notes = m_notes->load();
         result.prompts = m_prompts->load();
         if (!haveIdentities(result))

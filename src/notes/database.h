@@ -9,7 +9,6 @@
 #include <SQLiteCpp/Database.h>
 
 #include <memory>
-#include <optional>
 #include <variant>
 #include <vector>
 
@@ -58,8 +57,8 @@ private:
 
     SQLite::Database m_connection;
     // Prepared once the tables are known to be there.
-    std::optional<NoteTable> m_notes;
-    std::optional<PromptTable> m_prompts;
+    std::unique_ptr<NoteTable> m_notes;
+    std::unique_ptr<PromptTable> m_prompts;
 };
 
 } // namespace vesk

@@ -18,7 +18,7 @@ SaveOutcome saveFromSelection(NotesStore &store, const Clock &clock, const QStri
 {
     // Stored texts are well-formed, so the new one is compared as it would be stored.
     const Prompt *newest = store.prompts().first();
-    if (newest && newest->text() == markup::wellFormed(text))
+    if (newest != nullptr && newest->text() == markup::wellFormed(text))
         return SaveOutcome::AlreadyThere;
     keep(store, clock, text, Prompt::Origin::Captured);
     return SaveOutcome::Saved;
