@@ -48,18 +48,16 @@ function(vesk_layer name)
     cmake_parse_arguments(arg "" "QML_URI" "SOURCES;USES;LIBRARIES;QML_FILES" ${ARGN})
     set(target vesk_${name})
     if(arg_QML_URI)
-        foreach(file IN LISTS arg_QML_FILES)
-            cmake_path(GET file STEM stem)
-            if(file MATCHES "theme\\.qml$|Theme\\.qml$")
-                set_source_files_properties(${file} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
-            endif()
-        endforeach()
         qt_add_library(${target} STATIC)
         string(REPLACE "." "/" path ${arg_QML_URI})
         qt_add_qml_module(${target} URI ${arg_QML_URI} VERSION 1.0 RESOURCE_PREFIX /qt/qml
-            OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${path}
+            OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${path} NO_PLUGIN DEPENDENCIES QtQuick
             SOURCES ${arg_SOURCES} QML_FILES ${arg_QML_FILES})
         target_link_libraries(${target} PUBLIC Qt6::Quick)
+        # What the QML compiler writes shadows names of its own.
+        get_target_property(generated ${target} SOURCES)
+        list(FILTER generated INCLUDE REGEX "/qmlcache/")
+        set_source_files_properties(${generated} PROPERTIES COMPILE_OPTIONS -Wno-shadow)
     else()
         qt_add_library(${target} STATIC ${arg_SOURCES})
     endif()
