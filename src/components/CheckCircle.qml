@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+
+// A round check mark of `size` by `size`.
+Item {
+    id: root
+
+    required property bool isDone
+    property real size: 16
+
+    implicitWidth: size
+    implicitHeight: size
+
+    Disc {
+        anchors.fill: parent
+        borderColor: Theme.tertiary
+        borderWidth: 1.4
+    }
+
+    Disc {
+        anchors.fill: parent
+        color: Theme.accent
+        scale: root.isDone ? 1 : 0.4
+        opacity: root.isDone ? 1 : 0
+
+        Behavior on scale {
+            Spring {
+            }
+        }
+        Behavior on opacity {
+            Spring {
+            }
+        }
+
+        Symbol {
+            anchors.centerIn: parent
+            name: "checkmark"
+            size: Math.round(0.56 * root.size)
+            color: Theme.onAccent
+        }
+    }
+}

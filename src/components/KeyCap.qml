@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+
+// One key as it is printed on the keyboard. `glyph` is the key in the notation of Vesk's texts.
+Rectangle {
+    id: root
+
+    required property string glyph
+    property int place: KeyLabels.Window
+
+    implicitWidth: Math.max(22, label.implicitWidth + 12)
+    implicitHeight: 22
+    radius: 5
+    color: Theme.faintFill
+    border.width: 1
+    border.color: Theme.strongEdge
+    antialiasing: true
+    Accessible.ignored: true
+
+    Text {
+        id: label
+
+        anchors.centerIn: parent
+        text: KeyLabels.label(root.glyph, root.place)
+        textFormat: Text.PlainText
+        font: Theme.keyFont
+        color: Theme.primary
+    }
+}

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+
+// How far a checklist is, as a ring and in words.
+Row {
+    id: root
+
+    required property int done
+    required property int total
+
+    spacing: 5
+    Accessible.role: Accessible.StaticText
+    Accessible.name: label.text
+
+    Item {
+        anchors.verticalCenter: parent.verticalCenter
+        width: 10
+        height: 10
+
+        Disc {
+            anchors.fill: parent
+            borderWidth: 1.8
+            borderColor: Theme.strongEdge
+        }
+
+        Disc {
+            anchors.fill: parent
+            borderWidth: 1.8
+            borderColor: Theme.accent
+            fraction: root.total > 0 ? root.done / root.total : 0
+
+            Behavior on fraction {
+                Spring {
+                }
+            }
+        }
+    }
+
+    Text {
+        id: label
+
+        anchors.verticalCenter: parent.verticalCenter
+        text: qsTr("%1 of %2").arg(root.done).arg(root.total)
+        textFormat: Text.PlainText
+        font: Theme.captionFont
+        color: Theme.secondary
+        Accessible.ignored: true
+    }
+}

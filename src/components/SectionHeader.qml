@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+
+// The line over a section of a list; a click asks to fold the section away or to bring it back.
+PressButton {
+    id: root
+
+    required property string title
+    required property int count
+    required property bool isCollapsed
+
+    name: qsTr("%1, %2 items, %3").arg(title).arg(count).arg(isCollapsed ? qsTr("collapsed") : qsTr("expanded"))
+    pressedScale: 1
+    implicitHeight: 20
+
+    Symbol {
+        id: chevron
+
+        anchors.verticalCenter: parent.verticalCenter
+        name: "chevron.down"
+        size: 9
+        color: Theme.secondary
+        rotation: root.isCollapsed ? -90 : 0
+
+        Behavior on rotation {
+            Spring {
+            }
+        }
+    }
+
+    Text {
+        id: heading
+
+        anchors.left: chevron.right
+        anchors.leftMargin: Theme.smallSpace
+        anchors.verticalCenter: parent.verticalCenter
+        text: root.title
+        textFormat: Text.PlainText
+        font: Theme.sectionFont
+        color: root.hovered ? Theme.primary : Theme.secondary
+        Accessible.ignored: true
+
+        Behavior on color {
+            Ease {
+            }
+        }
+    }
+
+    Text {
+        id: number
+
+        anchors.left: heading.right
+        anchors.leftMargin: Theme.smallSpace
+        anchors.baseline: heading.baseline
+        text: root.count
+        textFormat: Text.PlainText
+        font: Theme.countFont
+        color: Theme.tertiary
+        Accessible.ignored: true
+    }
+
+    Rectangle {
+        anchors.left: number.right
+        anchors.leftMargin: Theme.tightSpace + 2
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        height: 1
+        color: Theme.strongEdge
+    }
+}

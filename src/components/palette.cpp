@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "components/palette.h"
+
+#include <cmath>
+
+namespace vesk {
+
+namespace {
+
+/// What makes symbols and bold labels readable; smaller text is never in the accent colour.
+constexpr qreal kReadableContrast = 3.5;
+
+QColor withOpacity(QColor color, float opacity)
+{
+    color.setAlphaF(opacity);
+    return color;
+}
+
+qreal luminance(const QColor &color)
+{
+    // The weights of the sRGB primaries, after undoing their gamma.
+    const auto linear = [](float channel) {
+        return channel <= 0.04045F ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+QColor readable(QColor color, const QColor &background, bool isDark)
+{
+    constexpr float kStep = 0.02F;
+    while (contrast(color, background) < kReadableContrast) {
+        float hue = 0;
+        float saturation = 0;
+        float lightness = 0;
+        color.getHslF(&hue, &saturation, &lightness);
+        lightness += isDark ? kStep : -kStep;
+        if (lightness <= 0 || lightness >= 1)
+            break;
+        color.setHslF(hue, saturation, lightness);
+    }
+    return color;
+}
+
+} // namespace
+
+qreal contrast(const QColor &a, const QColor &b)
+{
+    const qreal first = luminance(a) + 0.05;
+    const qreal second = luminance(b) + 0.05;
+    return std::max(first, second) / std::min(first, second);
+}
+
+Palette palette(bool isDark, const std::optional<QColor> &accent)
+{
+    const QColor ink = isDark ? QColor(0xf5, 0xf5, 0xf7) : QColor(0x1a, 0x1a, 0x1e);
+    const QColor ownAccent = isDark ? QColor(0x4c, 0x94, 0xff) : QColor(0x1f, 0x6f, 0xeb);
+    Palette made;
+    made.background = isDark ? QColor(0x1f, 0x1f, 0x22) : QColor(0xff, 0xff, 0xff);
+    made.primary = ink;
+    made.secondary = withOpacity(ink, isDark ? 0.64F : 0.62F);
+    made.tertiary = withOpacity(ink, isDark ? 0.44F : 0.46F);
+    made.quaternary = withOpacity(ink, isDark ? 0.22F : 0.20F);
+    made.accent = readable(accent.value_or(ownAccent), made.background, isDark);
+    made.onAccent = contrast(made.accent, Qt::white) >= 2.6 ? QColor(Qt::white) : QColor(0x1a, 0x1a, 0x1e);
+    made.attention = isDark ? QColor(0xff, 0x9f, 0x2e) : QColor(0xf0, 0x84, 0x0c);
+    return made;
+}
+
+} // namespace vesk

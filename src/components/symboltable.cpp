@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "components/symboltable.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace vesk::symboltable {
+
+namespace {
+
+struct Entry
+{
+    const char *symbol;
+    const char *icon;
+};
+
+// The build reads the icon names from these lines and embeds those pictures, no others.
+constexpr std::array kEntries{
+    Entry{.symbol = "checklist", .icon = "list-check"},
+    Entry{.symbol = "checkmark", .icon = "check-lg"},
+    Entry{.symbol = "checkmark.circle.fill", .icon = "check-circle-fill"},
+    Entry{.symbol = "chevron.down", .icon = "chevron-down"},
+    Entry{.symbol = "exclamationmark.triangle.fill", .icon = "exclamation-triangle-fill"},
+    Entry{.symbol = "hand.raised.fill", .icon = "shield-lock-fill"},
+    Entry{.symbol = "magnifyingglass", .icon = "search"},
+    Entry{.symbol = "pin.fill", .icon = "pin-angle-fill"},
+    Entry{.symbol = "plus", .icon = "plus-lg"},
+    Entry{.symbol = "square.and.pencil", .icon = "pencil-square"},
+    Entry{.symbol = "text.append", .icon = "journal-plus"},
+    Entry{.symbol = "text.cursor", .icon = "cursor-text"},
+    Entry{.symbol = "xmark.circle.fill", .icon = "x-circle-fill"},
+};
+
+} // namespace
+
+std::optional<QString> findPicture(const QString &symbol)
+{
+    const auto entry = std::ranges::find_if(
+        kEntries, [&symbol](const Entry &each) { return symbol == QLatin1StringView(each.symbol); });
+    if (entry == kEntries.end())
+        return std::nullopt;
+    return ":/vesk/symbols/"_L1 + QLatin1StringView(entry->icon) + ".svg"_L1;
+}
+
+QList<QString> symbols()
+{
+    QList<QString> names;
+    for (const Entry &entry : kEntries)
+        names.append(QLatin1StringView(entry.symbol));
+    return names;
+}
+
+} // namespace vesk::symboltable

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "components/palette.h"
+
+#include <QFont>
+#include <QObject>
+#include <QQmlEngine>
+#include <QVariant>
+
+namespace vesk {
+
+class Surroundings;
+
+/// The one source of colours, fonts, spaces and motion for every view of an engine. Follows the
+/// user's choices for the desktop.
+class Theme final : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+
+    Q_PROPERTY(bool isDark READ isDark NOTIFY changed)
+    /// Whether windows are blended by the desktop, so that one may be translucent.
+    Q_PROPERTY(bool isComposited READ isComposited NOTIFY compositedChanged)
+
+    Q_PROPERTY(QColor background READ background NOTIFY changed)
+    /// The background, wholly transparent: the other end of a fade.
+    Q_PROPERTY(QColor clearBackground READ clearBackground NOTIFY changed)
+    Q_PROPERTY(QColor primary READ primary NOTIFY changed)
+    Q_PROPERTY(QColor secondary READ secondary NOTIFY changed)
+    Q_PROPERTY(QColor tertiary READ tertiary NOTIFY changed)
+    Q_PROPERTY(QColor quaternary READ quaternary NOTIFY changed)
+    Q_PROPERTY(QColor accent READ accent NOTIFY changed)
+    Q_PROPERTY(QColor onAccent READ onAccent NOTIFY changed)
+    Q_PROPERTY(QColor attention READ attention NOTIFY changed)
+    /// The primary colour at the opacities that fills and lines have.
+    Q_PROPERTY(QColor faintFill READ faintFill NOTIFY changed)
+    Q_PROPERTY(QColor fill READ fill NOTIFY changed)
+    Q_PROPERTY(QColor edge READ edge NOTIFY changed)
+    Q_PROPERTY(QColor strongEdge READ strongEdge NOTIFY changed)
+    Q_PROPERTY(QColor neutralTile READ neutralTile NOTIFY changed)
+    Q_PROPERTY(QColor selectionFill READ selectionFill NOTIFY changed)
+    Q_PROPERTY(QColor textSelection READ textSelection NOTIFY changed)
+    Q_PROPERTY(QColor matchFill READ matchFill NOTIFY changed)
+    /// A window's edge where nothing shines through.
+    Q_PROPERTY(QColor opaqueEdge READ opaqueEdge NOTIFY changed)
+
+    Q_PROPERTY(QFont headlineFont READ headlineFont NOTIFY changed)
+    Q_PROPERTY(QFont titleFont READ titleFont NOTIFY changed)
+    Q_PROPERTY(QFont fieldFont READ fieldFont NOTIFY changed)
+    Q_PROPERTY(QFont bodyFont READ bodyFont NOTIFY changed)
+    Q_PROPERTY(QFont strongBodyFont READ strongBodyFont NOTIFY changed)
+    Q_PROPERTY(QFont smallFont READ smallFont NOTIFY changed)
+    Q_PROPERTY(QFont strongSmallFont READ strongSmallFont NOTIFY changed)
+    Q_PROPERTY(QFont captionFont READ captionFont NOTIFY changed)
+    Q_PROPERTY(QFont sectionFont READ sectionFont NOTIFY changed)
+    Q_PROPERTY(QFont countFont READ countFont NOTIFY changed)
+    Q_PROPERTY(QFont keyFont READ keyFont NOTIFY changed)
+
+    Q_PROPERTY(qreal tightSpace MEMBER kTightSpace CONSTANT)
+    Q_PROPERTY(qreal smallSpace MEMBER kSmallSpace CONSTANT)
+    Q_PROPERTY(qreal space MEMBER kSpace CONSTANT)
+    Q_PROPERTY(qreal wideSpace MEMBER kWideSpace CONSTANT)
+    Q_PROPERTY(qreal margin MEMBER kMargin CONSTANT)
+    Q_PROPERTY(qreal plateRadius MEMBER kPlateRadius CONSTANT)
+    Q_PROPERTY(qreal cardRadius MEMBER kCardRadius CONSTANT)
+
+    /// False if the user wants no animation; then the durations of motion are 0.
+    Q_PROPERTY(bool allowsMotion READ allowsMotion NOTIFY changed)
+    /// The spring of every animated change: critically damped, response 0.35 s. In milliseconds.
+    Q_PROPERTY(int springDuration READ springDuration NOTIFY changed)
+    /// The same for a button under the finger: response 0.25 s.
+    Q_PROPERTY(int pressDuration READ pressDuration NOTIFY changed)
+    Q_PROPERTY(QVariantList springCurve READ springCurve CONSTANT)
+    /// The ease-out of focus and hover. In milliseconds.
+    Q_PROPERTY(int easeDuration READ easeDuration CONSTANT)
+
+public:
+    static Theme *create(QQmlEngine *engine, QJSEngine *scriptEngine);
+
+    [[nodiscard]] bool isDark() const { return m_isDark; }
+    [[nodiscard]] bool isComposited() const;
+    [[nodiscard]] QColor background() const { return m_palette.background; }
+    [[nodiscard]] QColor clearBackground() const;
+    [[nodiscard]] QColor primary() const { return m_palette.primary; }
+    [[nodiscard]] QColor secondary() const { return m_palette.secondary; }
+    [[nodiscard]] QColor tertiary() const { return m_palette.tertiary; }
+    [[nodiscard]] QColor quaternary() const { return m_palette.quaternary; }
+    [[nodiscard]] QColor accent() const { return m_palette.accent; }
+    [[nodiscard]] QColor onAccent() const { return m_palette.onAccent; }
+    [[nodiscard]] QColor attention() const { return m_palette.attention; }
+    [[nodiscard]] QColor faintFill() const;
+    [[nodiscard]] QColor fill() const;
+    [[nodiscard]] QColor edge() const;
+    [[nodiscard]] QColor strongEdge() const;
+    [[nodiscard]] QColor neutralTile() const;
+    [[nodiscard]] QColor selectionFill() const;
+    [[nodiscard]] QColor textSelection() const;
+    [[nodiscard]] QColor matchFill() const;
+    [[nodiscard]] QColor opaqueEdge() const;
+
+    [[nodiscard]] static QFont headlineFont();
+    [[nodiscard]] static QFont titleFont();
+    [[nodiscard]] static QFont fieldFont();
+    [[nodiscard]] static QFont bodyFont();
+    [[nodiscard]] static QFont strongBodyFont();
+    [[nodiscard]] static QFont smallFont();
+    [[nodiscard]] static QFont strongSmallFont();
+    [[nodiscard]] static QFont captionFont();
+    [[nodiscard]] static QFont sectionFont();
+    [[nodiscard]] static QFont countFont();
+    [[nodiscard]] static QFont keyFont();
+
+    [[nodiscard]] bool allowsMotion() const { return m_allowsMotion; }
+    [[nodiscard]] int springDuration() const;
+    [[nodiscard]] int pressDuration() const;
+    [[nodiscard]] static QVariantList springCurve();
+    [[nodiscard]] static int easeDuration() { return 140; }
+
+Q_SIGNALS:
+    void changed();
+    void compositedChanged();
+
+private:
+    Theme(Surroundings &surroundings, QObject *parent);
+
+    void update();
+    [[nodiscard]] QColor primaryAt(float opacity) const;
+
+    static constexpr qreal kTightSpace = 4;
+    static constexpr qreal kSmallSpace = 6;
+    static constexpr qreal kSpace = 8;
+    static constexpr qreal kWideSpace = 10;
+    static constexpr qreal kMargin = 14;
+    static constexpr qreal kPlateRadius = 18;
+    static constexpr qreal kCardRadius = 16;
+
+    Surroundings &m_surroundings;
+    bool m_isDark = false;
+    bool m_allowsMotion = true;
+    Palette m_palette;
+};
+
+} // namespace vesk
