@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+import Vesk.Panel
+
+// One checkbox on a card; a click anywhere on it asks to tick or untick it.
+PressButton {
+    id: root
+
+    required property string text
+    required property bool isDone
+    required property string query
+
+    name: root.isDone ? qsTr("Mark “%1” as not done").arg(root.text) : qsTr("Mark “%1” as done").arg(root.text)
+    pressedScale: 0.98
+    implicitHeight: Math.max(22, label.implicitHeight + 4)
+    Accessible.role: Accessible.CheckBox
+    Accessible.checkable: true
+    Accessible.checked: root.isDone
+
+    CheckCircle {
+        id: circle
+
+        anchors.verticalCenter: parent.verticalCenter
+        isDone: root.isDone
+        size: 16
+    }
+
+    MatchText {
+        id: label
+
+        anchors.left: circle.right
+        anchors.leftMargin: Theme.space
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        text: root.text
+        query: root.query
+        font: Theme.bodyFont
+        color: root.isDone ? Theme.secondary : Theme.primary
+        matchColor: Theme.matchFill
+        strikeOut: root.isDone
+    }
+}

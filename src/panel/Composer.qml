@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Vesk.Components
+import Vesk.Panel
+
+// Where a new note is written; grows from one line to five.
+Plate {
+    id: root
+
+    required property PanelModel model
+    readonly property alias hasKeyboard: edit.activeFocus
+    readonly property alias isComposing: edit.inputMethodComposing
+    readonly property real maximumTextHeight: 5 * metrics.height
+
+    function takeKeyboard() {
+        edit.forceActiveFocus();
+    }
+
+    // Keeps the caret in sight while there are more lines than fit.
+    function followCaret(caret: rect) {
+        if (caret.y < flickable.contentY)
+            flickable.contentY = caret.y;
+        else if (caret.y + caret.height > flickable.contentY + flickable.height)
+            flickable.contentY = caret.y + caret.height - flickable.height;
+    }
+
+    implicitHeight: flickable.height + 20
+    border.color: edit.activeFocus ? Theme.accent : Theme.edge
+
+    Behavior on border.color {
+        Ease {
+        }
+    }
+
+    FontMetrics {
+        id: metrics
+
+        font: Theme.fieldFont
+    }
+
+    Connections {
+        function onDraftChanged() {
+            if (edit.text !== root.model.draft)
+                edit.text = root.model.draft;
+        }
+
+        function onLineBreakRequested() {
+            edit.remove(edit.selectionStart, edit.selectionEnd);
+            edit.insert(edit.cursorPosition, "\n");
+        }
+
+        target: root.model
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        cursorShape: Qt.IBeamCursor
+        onPressed: root.takeKeyboard()
+    }
+
+    Symbol {
+        id: plus
+
+        x: Theme.margin
+        y: flickable.y + (metrics.height - height) / 2
+        name: "plus"
+        size: 16
+        color: Theme.accent
+    }
+
+    Flickable {
+        id: flickable
+
+        anchors.left: plus.right
+        anchors.leftMargin: Theme.space
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.margin
+        y: 10
+        height: Math.min(edit.contentHeight, root.maximumTextHeight)
+        contentWidth: width
+        contentHeight: edit.contentHeight
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+
+        TextEdit {
+            id: edit
+
+            width: flickable.width
+            wrapMode: TextEdit.Wrap
+            textFormat: TextEdit.PlainText
+            font: Theme.fieldFont
+            color: Theme.primary
+            selectionColor: Theme.textSelection
+            selectedTextColor: Theme.primary
+            selectByMouse: true
+            KeyNavigation.priority: KeyNavigation.BeforeItem
+            KeyNavigation.tab: nextItemInFocusChain(true)
+            KeyNavigation.backtab: nextItemInFocusChain(false)
+            Accessible.role: Accessible.EditableText
+            Accessible.multiLine: true
+            Accessible.name: placeholder.text
+            onTextChanged: root.model.draft = text
+            onCursorRectangleChanged: root.followCaret(cursorRectangle)
+
+            Text {
+                id: placeholder
+
+                visible: edit.length === 0 && edit.preeditText.length === 0
+                text: qsTr("Write a note…")
+                font: edit.font
+                color: Theme.tertiary
+                Accessible.ignored: true
+            }
+        }
+    }
+}

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Vesk.Components
+import Vesk.Panel
+
+// What the panel shows before there is any note: how to make one.
+Item {
+    id: root
+
+    Column {
+        anchors.centerIn: parent
+        spacing: Theme.smallSpace
+
+        Rectangle {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: 72
+            height: 72
+            radius: 18
+            antialiasing: true
+            color: Theme.accent
+
+            Symbol {
+                anchors.centerIn: parent
+                name: "square.and.pencil"
+                size: 34
+                color: Theme.onAccent
+            }
+        }
+
+        Item {
+            width: 1
+            height: Theme.space
+        }
+
+        Text {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: qsTr("Nothing here yet")
+            font: Theme.headlineFont
+            color: Theme.primary
+        }
+
+        Text {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: qsTr("Vesk catches whatever you select, from any app.")
+            font: Theme.bodyFont
+            color: Theme.secondary
+        }
+
+        Item {
+            width: 1
+            height: Theme.margin
+        }
+
+        Repeater {
+            model: CommandHints {
+            }
+
+            Row {
+                id: command
+
+                required property list<string> keys
+                required property string hint
+
+                spacing: Theme.margin
+                Accessible.role: Accessible.StaticText
+                Accessible.name: hint
+
+                Item {
+                    width: 168
+                    height: 24
+
+                    Row {
+                        anchors.right: parent.right
+                        anchors.verticalCenter: parent.verticalCenter
+                        spacing: Theme.tightSpace
+
+                        Repeater {
+                            model: command.keys
+
+                            KeyCap {
+                                required property string modelData
+
+                                glyph: modelData
+                                place: KeyLabels.Global
+                            }
+                        }
+                    }
+                }
+
+                Text {
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: command.hint
+                    font: Theme.bodyFont
+                    color: Theme.secondary
+                    Accessible.ignored: true
+                }
+            }
+        }
+    }
+}

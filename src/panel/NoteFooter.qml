@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Vesk.Components
+import Vesk.Panel
+
+// The last line of a card: when it was changed, where it comes from, how far its checklist is.
+Item {
+    id: root
+
+    required property string time
+    required property string source
+    required property string sourceBundle
+    required property int done
+    required property int total
+
+    implicitHeight: 22
+
+    Row {
+        anchors.left: parent.left
+        anchors.right: chip.visible ? chip.left : parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.verticalCenterOffset: 1
+        spacing: Theme.space
+
+        Text {
+            id: age
+
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.time
+            textFormat: Text.PlainText
+            font: Theme.captionFont
+            color: Theme.secondary
+        }
+
+        SourceCapsule {
+            anchors.verticalCenter: parent.verticalCenter
+            maximumWidth: parent.width - age.width - Theme.margin
+            visible: root.source.length > 0
+            source: root.source
+            bundleId: root.sourceBundle
+        }
+    }
+
+    ProgressChip {
+        id: chip
+
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.verticalCenterOffset: 1
+        visible: root.total > 0
+        done: root.done
+        total: root.total
+    }
+}

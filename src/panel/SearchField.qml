@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Vesk.Components
+import Vesk.Panel
+
+// The capsule that the user searches in.
+Plate {
+    id: root
+
+    required property PanelModel model
+    readonly property alias hasKeyboard: input.activeFocus
+    readonly property alias isComposing: input.inputMethodComposing
+
+    function takeKeyboard() {
+        input.forceActiveFocus();
+    }
+
+    implicitHeight: 34
+    radius: height / 2
+    border.color: input.activeFocus ? Theme.accent : Theme.edge
+
+    Behavior on border.color {
+        Ease {
+        }
+    }
+
+    Connections {
+        function onSearchChanged() {
+            if (input.text !== root.model.search)
+                input.text = root.model.search;
+        }
+
+        target: root.model
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        cursorShape: Qt.IBeamCursor
+        onPressed: root.takeKeyboard()
+    }
+
+    Symbol {
+        id: glass
+
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.margin
+        anchors.verticalCenter: parent.verticalCenter
+        name: "magnifyingglass"
+        size: 13
+        color: Theme.secondary
+    }
+
+    TextInput {
+        id: input
+
+        anchors.left: glass.right
+        anchors.leftMargin: Theme.space
+        anchors.right: clear.visible ? clear.left : parent.right
+        anchors.rightMargin: clear.visible ? Theme.space : Theme.margin
+        anchors.verticalCenter: parent.verticalCenter
+        clip: true
+        font: Theme.bodyFont
+        color: Theme.primary
+        selectionColor: Theme.textSelection
+        selectedTextColor: Theme.primary
+        selectByMouse: true
+        Accessible.role: Accessible.EditableText
+        Accessible.searchEdit: true
+        Accessible.name: qsTr("Search")
+        onTextChanged: root.model.search = text
+
+        Text {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: input.length === 0 && input.preeditText.length === 0
+            text: qsTr("Search")
+            font: input.font
+            color: Theme.tertiary
+            Accessible.ignored: true
+        }
+    }
+
+    PressButton {
+        id: clear
+
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.wideSpace
+        anchors.verticalCenter: parent.verticalCenter
+        width: 18
+        height: 18
+        visible: root.model.search.length > 0
+        focusRadius: height / 2 + 3
+        name: qsTr("Clear Search")
+        onClicked: root.model.search = ""
+
+        Symbol {
+            anchors.centerIn: parent
+            name: "xmark.circle.fill"
+            size: 14
+            color: clear.hovered ? Theme.secondary : Theme.tertiary
+        }
+    }
+}

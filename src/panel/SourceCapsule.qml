@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+
+// The application that a note was caught in.
+Rectangle {
+    id: root
+
+    required property string source
+    required property string bundleId
+    required property real maximumWidth
+
+    implicitWidth: Math.min(root.maximumWidth, label.x + label.implicitWidth + Theme.space)
+    implicitHeight: 20
+    radius: height / 2
+    color: Theme.fill
+    antialiasing: true
+    Accessible.role: Accessible.StaticText
+    Accessible.name: label.text
+
+    AppIcon {
+        id: icon
+
+        x: 5
+        anchors.verticalCenter: parent.verticalCenter
+        bundleId: root.bundleId
+        size: 13
+        tileColor: Theme.neutralTile
+    }
+
+    Text {
+        id: label
+
+        x: icon.x + icon.width + 5
+        anchors.verticalCenter: parent.verticalCenter
+        width: root.width - x - Theme.space
+        elide: Text.ElideRight
+        text: qsTr("from %1").arg(root.source)
+        textFormat: Text.PlainText
+        font: Theme.captionFont
+        color: Theme.secondary
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "panel/carddata.h"
+
+#include "notes/note.h"
+
+#include <QCoreApplication>
+
+namespace vesk::carddata {
+
+namespace {
+
+/// More than a card's few lines can hold. Keeps a note of one endless line from being laid out.
+constexpr qsizetype kLongestShown = 600;
+
+QList<ChecklistItem> shownItems(const Note &note)
+{
+    const QList<ChecklistItem> items = note.checklistItems();
+    return items.first(std::min(kMaximumItems, items.size()));
+}
+
+} // namespace
+
+QString title(const Note &note)
+{
+    const QString title = note.title();
+    return title.isEmpty() ? QCoreApplication::translate("NoteCard", "New Note") : title.left(kLongestShown);
+}
+
+QString preview(const Note &note)
+{
+    return note.progress() ? QString() : note.preview().left(kLongestShown);
+}
+
+QStringList itemTexts(const Note &note)
+{
+    QStringList texts;
+    for (const ChecklistItem &item : shownItems(note))
+        texts.append(item.text.left(kLongestShown));
+    return texts;
+}
+
+QList<bool> itemsDone(const Note &note)
+{
+    QList<bool> done;
+    for (const ChecklistItem &item : shownItems(note))
+        done.append(item.isDone);
+    return done;
+}
+
+QList<int> itemLines(const Note &note)
+{
+    QList<int> lines;
+    for (const ChecklistItem &item : shownItems(note))
+        lines.append(static_cast<int>(item.line));
+    return lines;
+}
+
+int furtherItems(const Note &note)
+{
+    const std::optional<Progress> progress = note.progress();
+    return progress ? static_cast<int>(std::max<qsizetype>(0, progress->total - kMaximumItems)) : 0;
+}
+
+} // namespace vesk::carddata

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace vesk {
+
+/// A part of a text, in UTF-16 units.
+struct TextRange
+{
+    qsizetype start = 0;
+    qsizetype length = 0;
+
+    friend bool operator==(const TextRange &, const TextRange &) = default;
+};
+
+/// Where `query` stands in `text`, case and diacritics aside: from the start, each match after the
+/// one before. A match takes the combining marks of its last letter along. Empty for an empty query.
+[[nodiscard]] QList<TextRange> matchRanges(const QString &text, const QString &query);
+
+} // namespace vesk

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#include "panel/panelplacement.h"
+
+#include <algorithm>
+
+namespace vesk {
+
+QRectF panelFrame(const QRectF &visibleFrame, qreal currentHeight)
+{
+    constexpr qreal kMargin = 10;
+    const qreal height =
+        std::min(visibleFrame.height() - 2 * kMargin, std::max(currentHeight, kMinimumPanelHeight));
+    // With y upwards a rectangle's right() is its right edge, and y() its bottom edge.
+    return {visibleFrame.right() - kPanelWidth - kMargin, visibleFrame.y() + kMargin, kPanelWidth, height};
+}
+
+} // namespace vesk

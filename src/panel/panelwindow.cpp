@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "panel/panelwindow.h"
+
+#include "components/surroundings.h"
+#include "panel/panelmodel.h"
+#include "panel/panelplacement.h"
+#include "platform/appearance.h"
+#include "platform/application.h"
+#include "platform/screens.h"
+#include "platform/windows.h"
+
+#include <QKeyEvent>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+// Made by the build. Naming it keeps the module's registration when the library is linked.
+extern void qml_register_types_Vesk_Panel();
+
+namespace vesk {
+
+namespace {
+
+constexpr qreal kCornerRadius = 34;
+constexpr int kFadeInMilliseconds = 200;
+
+} // namespace
+
+PanelWindow::PanelWindow(QQmlEngine &engine, PanelModel &model, Application &application, Screens &screens,
+                         Windows &windows)
+    : m_model(model)
+    , m_application(application)
+    , m_screens(screens)
+    , m_windows(windows)
+    , m_surroundings(Surroundings::of(engine))
+    , m_view(&engine, nullptr)
+    , m_fadeIn(&m_view, "opacity")
+{
+    [[maybe_unused]] static const volatile auto registration = &qml_register_types_Vesk_Panel;
+    m_view.setTitle(u"Vesk"_s);
+    m_view.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    // Also asks for a window that can be translucent, should a compositor be there or come.
+    m_view.setColor(Qt::transparent);
+    m_view.setResizeMode(QQuickView::SizeRootObjectToView);
+    m_view.resize(qRound(kPanelWidth), qRound(kDefaultPanelHeight));
+    m_view.setInitialProperties(
+        {{u"model"_s, QVariant::fromValue(&model)}, {u"cornerRadius"_s, kCornerRadius}});
+    m_view.setSource(QUrl(u"qrc:/qt/qml/Vesk/Panel/PanelView.qml"_s));
+    m_view.installEventFilter(this);
+
+    m_fadeIn.setDuration(kFadeInMilliseconds);
+    m_fadeIn.setStartValue(0.0);
+    m_fadeIn.setEndValue(1.0);
+
+    connect(&model, &PanelModel::showRequested, this, [this] {
+        if (!m_view.isActive())
+            showPanel();
+    });
+    connect(&application, &Application::didHide, this, &PanelWindow::hideWindow);
+    connect(&application, &Application::didResignActive, this, &PanelWindow::hideWindow);
+    connect(&screens, &Screens::changed, this, [this] { position(ownScreen()); });
+    connect(&windows, &Windows::compositedChanged, this, [this] {
+        m_fadeIn.stop();
+        m_view.setOpacity(1);
+        m_windows.setCornerRadius(m_view, kCornerRadius);
+    });
+    QTimer::singleShot(0, this, &PanelWindow::prepareAhead);
+}
+
+PanelWindow::~PanelWindow() = default;
+
+void PanelWindow::prepareAhead()
+{
+    // Makes the window and draws it once in memory, which the first show would else have to wait for.
+    if (isShown())
+        return;
+    m_view.create();
+    m_view.grabWindow();
+}
+
+void PanelWindow::showPanel()
+{
+    position(m_screens.screenUnderMouse());
+    m_model.prepareToShow();
+    const bool isComingUp = m_application.isHidden() || !isShown();
+    const bool fades =
+        isComingUp && m_windows.isComposited() && !m_surroundings.appearance().shouldReduceMotion();
+    if (fades)
+        m_view.setOpacity(0);
+    if (!isShown())
+        m_windows.prepare(m_view, Windows::Kind::Panel);
+    m_windows.setCornerRadius(m_view, kCornerRadius);
+    m_application.unhide();
+    m_view.show();
+    m_view.raise();
+    m_application.activate(m_view);
+    if (fades)
+        m_fadeIn.start();
+}
+
+void PanelWindow::togglePanel()
+{
+    if (m_application.isActive() && isShown())
+        m_application.hide();
+    else
+        showPanel();
+}
+
+void PanelWindow::position(const std::optional<Screen> &screen)
+{
+    if (!screen)
+        return;
+    const QRectF frame = panelFrame(screen->visibleFrame, m_view.height());
+    // Where the desktop places windows by itself, the size at least is the panel's own.
+    if (!m_windows.setFrame(m_view, frame))
+        m_view.resize(frame.size().toSize());
+}
+
+std::optional<Screen> PanelWindow::ownScreen() const
+{
+    const QList<Screen> all = m_screens.screens();
+    const QPointF middle = m_screens.flipped(m_view.geometry()).center();
+    for (const Screen &screen : all) {
+        if (screen.frame.contains(middle))
+            return screen;
+    }
+    return all.isEmpty() ? std::nullopt : std::optional(all.first());
+}
+
+void PanelWindow::hideWindow()
+{
+    m_fadeIn.stop();
+    m_view.hide();
+    m_view.setOpacity(1);
+    m_model.becomeHidden();
+}
+
+bool PanelWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        return m_model.handleKey(*static_cast<QKeyEvent *>(event));
+    case QEvent::Close:
+        // The panel only ever hides, also when the desktop asks its window to close.
+        event->ignore();
+        m_application.hide();
+        return true;
+    default:
+        return QObject::eventFilter(watched, event);
+    }
+}
+
+} // namespace vesk

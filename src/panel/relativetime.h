@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/clock.h"
+
+#include <QString>
+
+#include <memory>
+
+struct URelativeDateTimeFormatter;
+
+namespace vesk {
+
+/// Says how long ago something was, in the user's language and short: "Just now", "3 hr. ago",
+/// "Yesterday".
+class RelativeTime final
+{
+public:
+    RelativeTime();
+    ~RelativeTime();
+
+    /// `date` as seen at `now`. What has yet to come is "Just now".
+    [[nodiscard]] QString text(Date date, Date now) const;
+
+private:
+    struct Close
+    {
+        void operator()(URelativeDateTimeFormatter *formatter) const;
+    };
+    /// Null if there is no data for any language; then every text but "Just now" is empty.
+    std::unique_ptr<URelativeDateTimeFormatter, Close> m_formatter;
+};
+
+} // namespace vesk

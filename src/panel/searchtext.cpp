@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "panel/searchtext.h"
+
+#include <QLocale>
+
+#include <algorithm>
+
+namespace vesk::searchtext {
+
+QString query(const QString &typed)
+{
+    const auto isSpace = [](QChar c) { return c == u'\t' || c.category() == QChar::Separator_Space; };
+    const auto begin = std::find_if_not(typed.begin(), typed.end(), isSpace);
+    const auto end = std::find_if_not(typed.rbegin(), typed.rend(), isSpace).base();
+    return begin < end ? typed.sliced(begin - typed.begin(), end - begin) : QString();
+}
+
+bool contains(const QString &text, const QString &query)
+{
+    // These languages pair the dotted and the dotless i; everywhere else the common folding holds.
+    const QLocale locale;
+    if (locale.language() == QLocale::Turkish || locale.language() == QLocale::Azerbaijani)
+        return locale.toLower(text).contains(locale.toLower(query));
+    return text.contains(query, Qt::CaseInsensitive);
+}
+
+} // namespace vesk::searchtext

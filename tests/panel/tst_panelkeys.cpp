@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: MIT
+#include "panelfixture.h"
+
+#include <QQuickItem>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+
+using Field = PanelModel::Field;
+
+/// Presses real keys on the panel's real window.
+class PanelKeysTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_fixture.reset(); }
+    void arrowsStopAtTheEnds();
+    void arrowsByField_data();
+    void arrowsByField();
+    void escapeGoesStepByStep();
+    void deleteKeyBelongsToTheList_data();
+    void deleteKeyBelongsToTheList();
+    void composerKeepsABlankDraft();
+    void composerCommits();
+    void shortcutsFromAnyField_data();
+    void shortcutsFromAnyField();
+    void locksAndNumberPadDoNotCount();
+    void sameFieldCanBeAskedForTwice();
+    void composingKeepsItsKeys();
+
+private:
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(&m_fixture->panel.window(), key, modifiers);
+    }
+    void type(const QString &text)
+    {
+        for (const QChar c : text)
+            QTest::keyClick(&m_fixture->panel.window(), c.toLatin1());
+    }
+    [[nodiscard]] QString focusedText() const
+    {
+        const std::optional<RecordId> &id = m_fixture->model.focused();
+        return id ? m_fixture->store->findNote(*id)->text() : QString();
+    }
+
+    std::unique_ptr<PanelFixture> m_fixture;
+};
+
+void PanelKeysTest::init()
+{
+    m_fixture = std::make_unique<PanelFixture>();
+    for (const QString &text : {u"one"_s, u"two"_s, u"three"_s})
+        m_fixture->addNote(text);
+    m_fixture->panel.showPanel();
+    QVERIFY(QTest::qWaitForWindowActive(&m_fixture->panel.window()));
+    QCOMPARE(m_fixture->model.activeField(), Field::None);
+}
+
+void PanelKeysTest::arrowsStopAtTheEnds()
+{
+    press(Qt::Key_Down);
+    QCOMPARE(focusedText(), u"three"_s);
+    press(Qt::Key_Up);
+    QCOMPARE(focusedText(), u"three"_s);
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    QCOMPARE(focusedText(), u"one"_s);
+    press(Qt::Key_Down);
+    QCOMPARE(focusedText(), u"one"_s);
+    press(Qt::Key_Up, Qt::ShiftModifier);
+    QCOMPARE(focusedText(), u"one"_s);
+
+    // A search takes the selected card away: Up begins at the end again.
+    m_fixture->model.setSearch(u"t"_s);
+    press(Qt::Key_Up);
+    QCOMPARE(focusedText(), u"two"_s);
+}
+
+void PanelKeysTest::arrowsByField_data()
+{
+    QTest::addColumn<Field>("field");
+    QTest::addColumn<QString>("focused");
+    QTest::addColumn<Field>("fieldAfter");
+
+    QTest::newRow("list") << Field::None << u"one"_s << Field::None;
+    QTest::newRow("search gives the keyboard to the list") << Field::Search << u"one"_s << Field::None;
+    QTest::newRow("composer keeps its arrows") << Field::Composer << QString() << Field::Composer;
+}
+
+void PanelKeysTest::arrowsByField()
+{
+    QFETCH(Field, field);
+    m_fixture->model.requestField(field);
+    QCOMPARE(m_fixture->model.activeField(), field);
+    press(Qt::Key_Up);
+    QTEST(focusedText(), "focused");
+    QTEST(m_fixture->model.activeField(), "fieldAfter");
+}
+
+void PanelKeysTest::escapeGoesStepByStep()
+{
+    press(Qt::Key_F, Qt::ControlModifier);
+    type(u"tw"_s);
+    QCOMPARE(m_fixture->model.search(), u"tw"_s);
+    press(Qt::Key_Escape, Qt::ShiftModifier);
+    QCOMPARE(m_fixture->model.search(), u"tw"_s);
+    press(Qt::Key_Escape);
+    QCOMPARE(m_fixture->model.search(), QString());
+    QCOMPARE(m_fixture->model.activeField(), Field::Search);
+    press(Qt::Key_Escape);
+    QCOMPARE(m_fixture->model.activeField(), Field::None);
+    QVERIFY(!m_fixture->application.isHidden());
+    press(Qt::Key_Escape);
+    QVERIFY(m_fixture->application.isHidden());
+    QVERIFY(!m_fixture->panel.isShown());
+}
+
+void PanelKeysTest::deleteKeyBelongsToTheList_data()
+{
+    QTest::addColumn<int>("downs");
+    QTest::addColumn<Field>("field");
+    QTest::addColumn<QString>("focused");
+    QTest::addColumn<int>("count");
+
+    QTest::newRow("middle: the next takes its place") << 2 << Field::None << u"one"_s << 2;
+    QTest::newRow("last: the new last") << 3 << Field::None << u"two"_s << 2;
+    QTest::newRow("nothing selected") << 0 << Field::None << QString() << 3;
+    QTest::newRow("search field") << 2 << Field::Search << u"two"_s << 3;
+    QTest::newRow("composer") << 2 << Field::Composer << u"two"_s << 3;
+}
+
+void PanelKeysTest::deleteKeyBelongsToTheList()
+{
+    QFETCH(int, downs);
+    QFETCH(Field, field);
+    for (int i = 0; i < downs; ++i)
+        press(Qt::Key_Down);
+    m_fixture->model.requestField(field);
+    press(Qt::Key_Backspace);
+    QCOMPARE(m_fixture->store->notes().count(), 3);
+    press(Qt::Key_Backspace, Qt::ControlModifier);
+    QTEST(static_cast<int>(m_fixture->store->notes().count()), "count");
+    QTEST(focusedText(), "focused");
+}
+
+void PanelKeysTest::composerKeepsABlankDraft()
+{
+    press(Qt::Key_N, Qt::ControlModifier);
+    type(u"  "_s);
+    press(Qt::Key_Return);
+    QCOMPARE(m_fixture->model.draft(), u"  "_s);
+    QCOMPARE(m_fixture->store->notes().count(), 3);
+}
+
+void PanelKeysTest::composerCommits()
+{
+    m_fixture->model.setSearch(u"tw"_s);
+    press(Qt::Key_N, Qt::ControlModifier);
+    type(u" list"_s);
+    press(Qt::Key_Return, Qt::ShiftModifier);
+    type(u"[] milk"_s);
+    QCOMPARE(m_fixture->model.draft(), u" list\n[] milk"_s);
+    press(Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(m_fixture->store->notes().count(), 3);
+    m_fixture->model.setDraft(u" list\n[] milk"_s);
+    press(Qt::Key_Enter, Qt::KeypadModifier);
+
+    QCOMPARE(m_fixture->store->notes().count(), 4);
+    QCOMPARE(m_fixture->store->notes().first()->text(), u"list\n\u2610 milk"_s);
+    QVERIFY(!m_fixture->store->hasPendingChanges());
+    QCOMPARE(m_fixture->model.draft(), QString());
+    QCOMPARE(m_fixture->model.search(), QString());
+    QCOMPARE(m_fixture->model.activeField(), Field::Composer);
+    type(u"next"_s);
+    QCOMPARE(m_fixture->model.draft(), u"next"_s);
+}
+
+void PanelKeysTest::shortcutsFromAnyField_data()
+{
+    QTest::addColumn<Field>("from");
+    QTest::newRow("list") << Field::None;
+    QTest::newRow("search") << Field::Search;
+    QTest::newRow("composer") << Field::Composer;
+}
+
+void PanelKeysTest::shortcutsFromAnyField()
+{
+    QFETCH(Field, from);
+    m_fixture->model.requestField(from);
+    press(Qt::Key_N, Qt::ControlModifier);
+    QCOMPARE(m_fixture->model.activeField(), Field::Composer);
+    m_fixture->model.requestField(from);
+    press(Qt::Key_F, Qt::ControlModifier);
+    QCOMPARE(m_fixture->model.activeField(), Field::Search);
+    press(Qt::Key_N, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(m_fixture->model.activeField(), Field::Search);
+}
+
+void PanelKeysTest::locksAndNumberPadDoNotCount()
+{
+    press(Qt::Key_Down, Qt::KeypadModifier);
+    QCOMPARE(focusedText(), u"three"_s);
+    press(Qt::Key_Down, Qt::KeypadModifier | Qt::GroupSwitchModifier);
+    QCOMPARE(focusedText(), u"two"_s);
+}
+
+void PanelKeysTest::sameFieldCanBeAskedForTwice()
+{
+    m_fixture->model.requestField(Field::Composer);
+    m_fixture->panel.window().rootObject()->forceActiveFocus();
+    // The user has gone elsewhere by the mouse meanwhile.
+    m_fixture->model.requestField(Field::Search);
+    m_fixture->model.requestField(Field::Composer);
+    m_fixture->model.requestField(Field::Composer);
+    QCOMPARE(m_fixture->model.activeField(), Field::Composer);
+}
+
+void PanelKeysTest::composingKeepsItsKeys()
+{
+    press(Qt::Key_N, Qt::ControlModifier);
+    QInputMethodEvent composing(u"kana"_s, {});
+    QCoreApplication::sendEvent(m_fixture->panel.window().focusObject(), &composing);
+    press(Qt::Key_Escape);
+    QCOMPARE(m_fixture->model.activeField(), Field::Composer);
+    QInputMethodEvent committed;
+    committed.setCommitString(u"x"_s);
+    QCoreApplication::sendEvent(m_fixture->panel.window().focusObject(), &committed);
+    press(Qt::Key_Escape);
+    QCOMPARE(m_fixture->model.activeField(), Field::None);
+}
+
+QTEST_MAIN(PanelKeysTest)
+#include "tst_panelkeys.moc"
