@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+
+// A notice: a symbol and one line of text on a capsule.
+Surface {
+    id: root
+
+    required property string message
+    required property string symbol
+
+    // Counted here, not by a positioner, which knows its size only when the next frame is drawn.
+    implicitWidth: icon.size + Theme.space + label.implicitWidth + 2 * 18
+    implicitHeight: Math.ceil(label.implicitHeight) + 2 * 11
+    cornerRadius: height / 2
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: root.message
+
+    Symbol {
+        id: icon
+
+        x: 18
+        anchors.verticalCenter: parent.verticalCenter
+        name: root.symbol
+        size: 15
+        color: Theme.accent
+    }
+
+    Text {
+        id: label
+
+        x: icon.x + icon.size + Theme.space
+        anchors.verticalCenter: parent.verticalCenter
+        text: root.message
+        textFormat: Text.PlainText
+        font: Theme.strongBodyFont
+        color: Theme.primary
+        Accessible.ignored: true
+    }
+}

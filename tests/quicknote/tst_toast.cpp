@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "components/surroundings.h"
+#include "platform/memory/memoryappearance.h"
+#include "platform/memory/memoryclock.h"
+#include "platform/memory/memoryscreens.h"
+#include "platform/memory/memorywindows.h"
+#include "platform/memory/memoryworkspace.h"
+#include "quicknote/toast.h"
+
+#include <QQmlEngine>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace vesk;
+
+class ToastTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void standsAboveTheBottom();
+    void secondNoticeKeepsItsFullTime_data();
+    void secondNoticeKeepsItsFullTime();
+    void noticeDuringTheFadeOutStays();
+    void goingAwayWhileShownIsHarmless();
+
+private:
+    [[nodiscard]] QQuickView &window() { return m_toast->window(); }
+
+    MemoryClock m_clock;
+    MemoryAppearance m_appearance;
+    MemoryWorkspace m_workspace;
+    MemoryScreens m_screens;
+    MemoryWindows m_windows{m_screens};
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<Toast> m_toast;
+};
+
+void ToastTest::init()
+{
+    m_windows.setComposited(true);
+    m_engine = std::make_unique<QQmlEngine>();
+    lendToEngine(*m_engine, m_appearance, m_workspace, m_windows);
+    m_toast = std::make_unique<Toast>(*m_engine, m_screens, m_windows, m_clock);
+}
+
+void ToastTest::cleanup()
+{
+    m_toast.reset();
+    m_engine.reset();
+    m_clock.advance(1min);
+}
+
+void ToastTest::standsAboveTheBottom()
+{
+    const QRectF frame(0, 0, 1600, 1000);
+    m_screens.setScreens({{.frame = frame, .visibleFrame = frame.adjusted(0, 40, 0, 0)}});
+    m_toast->show(u"Saved to Vesk"_s, u"checkmark.circle.fill"_s);
+    QVERIFY(window().isVisible());
+    QCOMPARE(window().title(), u"Saved to Vesk"_s);
+    const QRectF shortNotice = m_windows.frame();
+    QCOMPARE(shortNotice.center().x(), 800);
+    QCOMPARE(shortNotice.y(), 100);
+
+    m_toast->show(u"Added to “A note with a longer title”"_s, u"text.append"_s);
+    QVERIFY(m_windows.frame().width() > shortNotice.width());
+    QCOMPARE(m_windows.frame().center().x(), 800);
+}
+
+void ToastTest::secondNoticeKeepsItsFullTime_data()
+{
+    QTest::addColumn<bool>("isComposited");
+    QTest::addColumn<std::chrono::milliseconds>("time");
+    QTest::newRow("composited, with the fade-out") << true << 1700ms;
+    QTest::newRow("not composited") << false << 1400ms;
+}
+
+void ToastTest::secondNoticeKeepsItsFullTime()
+{
+    QFETCH(bool, isComposited);
+    QFETCH(std::chrono::milliseconds, time);
+    m_windows.setComposited(isComposited);
+    m_toast->show(u"First"_s, u"checkmark.circle.fill"_s);
+    m_clock.advance(1000ms);
+    m_toast->show(u"Second"_s, u"checkmark.circle.fill"_s);
+    QCOMPARE(window().title(), u"Second"_s);
+    m_clock.advance(time - 1ms);
+    QVERIFY(window().isVisible());
+    m_clock.advance(1ms);
+    QVERIFY(!window().isVisible());
+}
+
+void ToastTest::noticeDuringTheFadeOutStays()
+{
+    m_toast->show(u"First"_s, u"checkmark.circle.fill"_s);
+    m_clock.advance(1500ms);
+    m_toast->show(u"Second"_s, u"checkmark.circle.fill"_s);
+    m_clock.advance(1399ms);
+    QVERIFY(window().isVisible());
+    QTRY_COMPARE(window().opacity(), 1.0);
+}
+
+void ToastTest::goingAwayWhileShownIsHarmless()
+{
+    m_toast->show(u"First"_s, u"checkmark.circle.fill"_s);
+    m_toast.reset();
+    m_clock.advance(2s);
+    QCOMPARE(m_clock.sleeperCount(), 0);
+}
+
+QTEST_MAIN(ToastTest)
+#include "tst_toast.moc"
