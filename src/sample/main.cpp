@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "samplenotes.h"
+#include "samplewindows.h"
+
+#include "components/surroundings.h"
+#include "notes/notesstore.h"
+#include "panel/panelmodel.h"
+#include "panel/panelwindow.h"
+#include "platform/memory/memoryaccessibility.h"
+#include "platform/memory/memoryappearance.h"
+#include "platform/memory/memoryapplication.h"
+#include "platform/memory/memoryclock.h"
+#include "platform/memory/memorydefaults.h"
+#include "platform/memory/memoryscreens.h"
+#include "platform/memory/memoryworkspace.h"
+#include "quicknote/toast.h"
+
+#include <QCommandLineParser>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Puts the desktop's own icons at the place of the applications that the sample notes name.
+void installApplications(vesk::MemoryWorkspace &workspace)
+{
+    workspace.install(u"firefox-esr"_s, QIcon::fromTheme(u"firefox-esr"_s));
+    workspace.install(u"org.xfce.mousepad"_s, QIcon::fromTheme(u"accessories-text-editor"_s));
+    workspace.install(u"xfce4-terminal"_s, QIcon::fromTheme(u"utilities-terminal"_s));
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QGuiApplication program(argc, argv);
+    // Without a desktop's settings the font is whatever comes first; this one is like a desktop's.
+    if (QFontDatabase::hasFamily(u"Inter"_s))
+        QGuiApplication::setFont(QFont(u"Inter"_s));
+    QCommandLineParser options;
+    options.setApplicationDescription(u"Shows Vesk's panel with sample notes."_s);
+    options.addHelpOption();
+    const QCommandLineOption dark(u"dark"_s, u"Dark colours."_s);
+    const QCommandLineOption empty(u"empty"_s, u"No notes."_s);
+    const QCommandLineOption untrusted(u"untrusted"_s, u"Without access to other applications."_s);
+    const QCommandLineOption composited(u"composited"_s, u"Rely on a compositor that blends windows."_s);
+    const QCommandLineOption still(u"still"_s, u"No animation."_s);
+    const QCommandLineOption notes(u"notes"_s, u"How many notes."_s, u"N"_s, u"8"_s);
+    const QCommandLineOption search(u"search"_s, u"What to search for."_s, u"TEXT"_s);
+    const QCommandLineOption notice(u"notice"_s, u"Shows a notice as well."_s, u"TEXT"_s);
+    const QCommandLineOption screenshot(u"screenshot"_s, u"Writes a picture of the panel and quits."_s,
+                                        u"FILE"_s);
+    options.addOptions({dark, empty, untrusted, composited, still, notes, search, notice, screenshot});
+    options.process(program);
+
+    const QTemporaryDir folder;
+    const auto now = std::chrono::floor<std::chrono::microseconds>(std::chrono::system_clock::now());
+    vesk::MemoryClock clock(now);
+    const auto opened = vesk::NotesStore::open(folder.filePath(u"Notes.store"_s), clock);
+    if (!opened.store)
+        qFatal("%s", qUtf8Printable(opened.error));
+    if (!options.isSet(empty))
+        vesk::samplenotes::fill(*opened.store, clock, options.value(notes).toInt());
+
+    vesk::MemoryAppearance appearance;
+    appearance.setColorScheme(options.isSet(dark) ? vesk::Appearance::ColorScheme::Dark
+                                                  : vesk::Appearance::ColorScheme::Light);
+    appearance.setReduceMotion(options.isSet(still));
+    vesk::MemoryScreens screens;
+    const QRectF frame = program.primaryScreen()->geometry();
+    screens.setScreens({{.frame = frame, .visibleFrame = frame}});
+    screens.setMouseLocation(frame.center());
+    vesk::SampleWindows windows(screens, options.isSet(composited));
+    vesk::MemoryWorkspace workspace;
+    installApplications(workspace);
+    vesk::MemoryAccessibility accessibility(clock);
+    accessibility.setTrusted(!options.isSet(untrusted));
+    vesk::MemoryApplication application;
+    vesk::MemoryDefaults defaults;
+
+    QQmlEngine engine;
+    vesk::lendToEngine(engine, appearance, workspace, windows);
+    vesk::PanelModel model(*opened.store, clock, defaults, application, accessibility);
+    vesk::PanelWindow panel(engine, model, application, screens, windows);
+    vesk::Toast toast(engine, screens, windows, clock);
+    panel.showPanel();
+    model.setSearch(options.value(search));
+    if (options.isSet(notice))
+        toast.show(options.value(notice), u"checkmark.circle.fill"_s);
+    QObject::connect(&application, &vesk::Application::didHide, &program, &QGuiApplication::quit);
+    if (options.isSet(screenshot)) {
+        QTimer::singleShot(800, &program, [&] {
+            const bool isWritten = panel.window().grabWindow().save(options.value(screenshot));
+            QGuiApplication::exit(isWritten ? 0 : 1);
+        });
+    }
+    return QGuiApplication::exec();
+}

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "samplenotes.h"
+
+#include "notes/notesstore.h"
+#include "platform/memory/memoryclock.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace vesk::samplenotes {
+
+namespace {
+
+struct Sample
+{
+    std::chrono::minutes age;
+    QStringView text;
+    QStringView app = {};
+    QStringView bundle = {};
+    bool isPinned = false;
+};
+
+constexpr std::array kSamples{
+    Sample{.age = 2min * 24 * 60,
+           .text = u"Launch checklist\n☑ Write the release notes\n☑ Tag the build\n☐ Update the website\n"
+                   u"☐ Tell the translators\n☐ Sleep",
+           .isPinned = true},
+    Sample{.age = 0min,
+           .text =
+               u"The best interface is the one you stop noticing\nA tool should keep out of the way until it "
+               u"is needed, and then be under the hand at once.",
+           .app = u"Firefox",
+           .bundle = u"firefox-esr"},
+    Sample{.age = 24min,
+           .text =
+               u"Ideas for the garden wall\n• Espaliered pears on the south side\n• Climbing hydrangea, it "
+               u"likes the shade\n• Ask about lime mortar before the frost comes",
+           .app = u"Text Editor",
+           .bundle = u"org.xfce.mousepad"},
+    Sample{.age = 180min, .text = u"Groceries\n☑ Sourdough\n☐ Tomatoes\n☐ Olive oil"},
+    Sample{.age = 26min * 60,
+           .text =
+               u"Café Müller, Thursday 19:30\nTable for four by the window; they keep it until a quarter to "
+               u"eight. Bring the photographs.",
+           .app = u"Thunderbird",
+           .bundle = u"thunderbird"},
+    Sample{.age = 3min * 24 * 60,
+           .text = u"ssh -L 5432:localhost:5432 staging",
+           .app = u"Terminal",
+           .bundle = u"xfce4-terminal"},
+    Sample{.age = 9min * 24 * 60,
+           .text =
+               u"On reading slowly\nThere is a kind of attention that only comes after the second page, when "
+               u"the sentence before is still in the ear.",
+           .app = u"Document Viewer",
+           .bundle = u"org.gnome.Evince"},
+    Sample{.age = 70min * 24 * 60, .text = u"Passport expires in November"},
+};
+
+std::optional<QString> text(QStringView view)
+{
+    return view.isEmpty() ? std::nullopt : std::optional(view.toString());
+}
+
+} // namespace
+
+void fill(NotesStore &store, MemoryClock &clock, int count)
+{
+    const Date now = clock.now();
+    for (int i = 0; i < count; ++i) {
+        const Sample &sample = kSamples.at(static_cast<size_t>(i) % kSamples.size());
+        const int round = i / static_cast<int>(kSamples.size());
+        const Date date = now - sample.age - round * 24h;
+        store.insert(std::make_unique<Note>(clock, Note::Fields{.id = RecordId::createUuid(),
+                                                                .text = sample.text.toString(),
+                                                                .createdAt = date,
+                                                                .updatedAt = date,
+                                                                .isPinned = sample.isPinned && round == 0,
+                                                                .sourceApp = text(sample.app),
+                                                                .sourceBundleID = text(sample.bundle),
+                                                                .sourceTitle = std::nullopt,
+                                                                .sourceURL = std::nullopt}));
+    }
+    store.save();
+}
+
+} // namespace vesk::samplenotes

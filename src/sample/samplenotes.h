@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace vesk {
+
+class MemoryClock;
+class NotesStore;
+
+namespace samplenotes {
+
+/// Fills a store with notes of the last days, up to the clock's time, which ends where it was.
+void fill(NotesStore &store, MemoryClock &clock, int count);
+
+} // namespace samplenotes
+} // namespace vesk
