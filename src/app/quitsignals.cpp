@@ -3,32 +3,51 @@
 
 #include <QCoreApplication>
 
-#include <array>
 #include <csignal>
+#include <cstdint>
 
-#include <sys/signalfd.h>
+#include <sys/eventfd.h>
 #include <unistd.h>
 
 namespace vesk {
 
+namespace {
+
+int g_descriptor = -1;
+
+// A signal comes in the middle of anything, on any thread; only a write is safe there.
+void onSignal(int /*signal*/)
+{
+    const uint64_t once = 1;
+    static_cast<void>(!write(g_descriptor, &once, sizeof once));
+}
+
+} // namespace
+
 QuitSignals::QuitSignals()
 {
-    sigset_t set;
-    sigemptyset(&set);
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
-        sigaddset(&set, signal);
-    const int descriptor = signalfd(-1, &set, SFD_NONBLOCK | SFD_CLOEXEC);
-    if (descriptor < 0)
+    g_descriptor = eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC);
+    if (g_descriptor < 0)
         return; // The signals end the program as they are: nothing that was saved is lost.
-    sigprocmask(SIG_BLOCK, &set, nullptr);
-    m_notifier = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);
-    connect(m_notifier.get(), &QSocketNotifier::activated, this, [] { QCoreApplication::quit(); });
+    m_notifier = std::make_unique<QSocketNotifier>(g_descriptor, QSocketNotifier::Read);
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] {
+        m_notifier->setEnabled(false);
+        QCoreApplication::quit();
+    });
+    struct sigaction action{};
+    action.sa_handler = onSignal;
+    action.sa_flags = SA_RESTART;
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+        sigaction(signal, &action, nullptr);
 }
 
 QuitSignals::~QuitSignals()
 {
-    if (m_notifier)
-        close(static_cast<int>(m_notifier->socket()));
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+        ::signal(signal, SIG_DFL);
+    m_notifier.reset();
+    if (g_descriptor >= 0)
+        close(g_descriptor);
 }
 
 } // namespace vesk

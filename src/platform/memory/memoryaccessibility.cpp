@@ -30,7 +30,8 @@ QCoro::Task<std::optional<AccessibleElement>> MemoryAccessibility::copyElement(A
         && (element == systemWideElement() || element.processIdentifier == m_focused->processIdentifier);
     if (!isAsked)
         co_return std::nullopt;
-    co_return m_focused;
+    // QCoro 0.8 moves out of what is returned by name, members too, unless it is const.
+    co_return std::as_const(m_focused);
 }
 
 QCoro::Task<std::optional<QString>> MemoryAccessibility::copyString(AccessibleElement element,

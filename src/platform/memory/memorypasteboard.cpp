@@ -7,7 +7,8 @@ const QString MemoryPasteboard::kTextType = QStringLiteral("text/plain;charset=u
 
 QCoro::Task<QList<PasteboardItem>> MemoryPasteboard::pasteboardItems()
 {
-    co_return m_items;
+    // QCoro 0.8 moves out of what is returned by name, members too, unless it is const.
+    co_return std::as_const(m_items);
 }
 
 QCoro::Task<std::optional<QString>> MemoryPasteboard::string()
