@@ -21,6 +21,10 @@ namespace vesk {
 namespace {
 
 constexpr auto kBound = 10s;
+/// How long a key is held.
+constexpr auto kFinger = 20ms;
+/// A picture that has not changed for so long is the last of its animation.
+constexpr auto kStill = 250ms;
 const QStringList kLines = {u"Groceries for Sunday"_s, u"Water the lemon tree on the balcony"_s,
                             u"Ask about the train to Ghent"_s};
 constexpr int kSelectedLine = 1;
@@ -90,7 +94,7 @@ bool capture(Scene &scene)
     say(u"Pressing Super-Alt-N …"_s);
     QElapsedTimer timer;
     timer.start();
-    scene.desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_n});
+    scene.desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_n}, kFinger);
     if (!scene.desktop->windows().waitViewable(u"Saved to Vesk"_s, kBound))
         return fail(u"No notice “Saved to Vesk”. On the screen: "_s + scene.desktop->windows().describe());
     say(u"  the notice “Saved to Vesk” was on the screen after %1 ms"_s.arg(timer.elapsed()));
@@ -106,12 +110,41 @@ bool capture(Scene &scene)
     return true;
 }
 
+/// Whether anything stands between the panel's search field and its composer.
+bool isListPainted(const QImage &screen, const Window &panel)
+{
+    const QRect list = panel.geometry.adjusted(30, 60, -30, -70);
+    const QRgb background = screen.pixel(list.bottomRight());
+    for (int y = list.top(); y < list.bottom(); ++y) {
+        for (int x = list.left(); x < list.right(); ++x) {
+            if (screen.pixel(x, y) != background)
+                return true;
+        }
+    }
+    return false;
+}
+
+/// The screen once the panel's list is painted and nothing moves any more; null if that never came.
+QImage takePicture(DisplayConnection &display, const Window &panel)
+{
+    QImage now;
+    QElapsedTimer unchanged;
+    unchanged.start();
+    const bool isStill = display.waitUntil(kBound, [&] {
+        const QImage before = std::exchange(now, display.screenshot());
+        if (before != now)
+            unchanged.start();
+        return unchanged.hasExpired(std::chrono::milliseconds(kStill).count()) && isListPainted(now, panel);
+    });
+    return isStill ? now : QImage();
+}
+
 bool showPanel(Scene &scene, const QString &picture)
 {
     say(u"Pressing Super-Alt-T …"_s);
     QElapsedTimer timer;
     timer.start();
-    scene.desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t});
+    scene.desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}, kFinger);
     const std::optional<Window> panel = scene.desktop->windows().waitViewable(u"Vesk"_s, kBound);
     if (!panel)
         return fail(u"The panel did not come up. On the screen: "_s + scene.desktop->windows().describe());
@@ -127,8 +160,11 @@ bool showPanel(Scene &scene, const QString &picture)
         return fail(u"The panel tells a screen reader of no card with the note's title."_s);
     say(u"  it tells a screen reader of the card “%1”"_s.arg(kLines.at(kSelectedLine)));
 
+    const QImage screen = takePicture(scene.desktop->display(), *panel);
+    if (screen.isNull())
+        return fail(u"The panel's list stayed empty on the screen."_s);
     QDir().mkpath(QFileInfo(picture).path());
-    if (!scene.desktop->display().screenshot().save(picture))
+    if (!screen.save(picture))
         return fail(u"The picture %1 could not be written."_s.arg(picture));
     say(u"A picture of the screen: %1"_s.arg(picture));
     return true;

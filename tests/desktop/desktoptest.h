@@ -18,6 +18,9 @@ constexpr std::chrono::seconds kBound{10};
 /// The hub takes no second capture for two seconds.
 constexpr std::chrono::milliseconds kCaptureGate{2100};
 
+/// The shortest that a finger stays on a key.
+constexpr std::chrono::milliseconds kFinger{20};
+
 const auto kPanel = QStringLiteral("Vesk");
 const auto kSaved = QStringLiteral("Saved to Vesk");
 const auto kAlready = QStringLiteral("Already in Vesk");

@@ -2,6 +2,7 @@
 #include "desktop/keyboard.h"
 
 #include <ranges>
+#include <thread>
 #include <xcb/xtest.h>
 
 namespace vesk {
@@ -49,10 +50,11 @@ void Keyboard::release(xcb_keysym_t key)
     send(key, XCB_KEY_RELEASE);
 }
 
-void Keyboard::tap(std::initializer_list<xcb_keysym_t> keys)
+void Keyboard::tap(std::initializer_list<xcb_keysym_t> keys, std::chrono::milliseconds hold)
 {
     for (const xcb_keysym_t key : keys)
         press(key);
+    std::this_thread::sleep_for(hold);
     for (const xcb_keysym_t key : std::ranges::reverse_view(keys))
         release(key);
 }

@@ -17,8 +17,9 @@ public:
     void press(xcb_keysym_t key);
     void release(xcb_keysym_t key);
 
-    /// Presses the keys in this order, the modifiers first, and releases them in the opposite one.
-    void tap(std::initializer_list<xcb_keysym_t> keys);
+    /// Presses the keys in this order, the modifiers first, and releases them in the opposite one after
+    /// `hold`, which for a person is never nothing.
+    void tap(std::initializer_list<xcb_keysym_t> keys, std::chrono::milliseconds hold = {});
 
     /// Types letters, digits, spaces and other characters of the keyboard's first two levels.
     void type(const QString &text);

@@ -20,8 +20,8 @@ private Q_SLOTS:
     void composedNoteOutlivesARestart();
 
 private:
-    void capture() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_n}); }
-    void togglePanel() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}); }
+    void capture() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_n}, kFinger); }
+    void togglePanel() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}, kFinger); }
 
     const QStringList m_lines = {u"Water the lemon tree on the balcony"_s, u"Ask about the train to Ghent"_s};
     std::unique_ptr<VirtualDesktop> m_desktop;

@@ -112,7 +112,10 @@ bool VirtualDesktop::startServer()
 
 bool VirtualDesktop::startBus()
 {
-    m_bus = run(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s});
+    // Its socket goes with the home folder.
+    const QString socket = u"unix:path="_s + m_home.filePath(u"run/bus"_s);
+    m_bus = run(u"dbus-daemon"_s,
+                {u"--session"_s, u"--nofork"_s, u"--address"_s, socket, u"--print-address=1"_s});
     m_busAddress = m_bus ? m_bus->readLine(kStartBound) : QString();
     m_environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, m_busAddress);
     return !m_busAddress.isEmpty();
