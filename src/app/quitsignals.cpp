@@ -32,7 +32,8 @@ QuitSignals::QuitSignals()
     m_notifier = std::make_unique<QSocketNotifier>(g_descriptor, QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] {
         m_notifier->setEnabled(false);
-        QCoreApplication::quit();
+        // Not quit(), which asks the windows, and the panel answers that it only hides.
+        QCoreApplication::exit(0);
     });
     struct sigaction action{};
     action.sa_handler = onSignal;

@@ -37,7 +37,7 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store)
 {
     connect(&desktop.application, &Application::reopened, &m_panelWindow, &PanelWindow::showPanel);
     connect(&desktop.accessibility, &X11Accessibility::trustAsked, &m_accessWindow, &AccessWindow::show);
-    connect(desktop.x11.get(), &X11Connection::lost, qApp, &QCoreApplication::quit);
+    connect(desktop.x11.get(), &X11Connection::lost, this, [] { QCoreApplication::exit(1); });
     m_services.start();
     QTimer::singleShot(0, this, [&desktop] { desktop.workspace.warmUp(); });
 }

@@ -30,7 +30,7 @@ constexpr std::array kEntries{
 
 QString KeyLabels::label(const QString &glyph, Place place)
 {
-    const auto entry =
+    const auto *const entry =
         std::ranges::find_if(kEntries, [&glyph](const Entry &each) { return each.glyph == glyph; });
     if (entry == kEntries.end())
         return glyph;

@@ -37,7 +37,7 @@ constexpr std::array kEntries{
 
 std::optional<QString> findPicture(const QString &symbol)
 {
-    const auto entry = std::ranges::find_if(
+    const auto *const entry = std::ranges::find_if(
         kEntries, [&symbol](const Entry &each) { return symbol == QLatin1StringView(each.symbol); });
     if (entry == kEntries.end())
         return std::nullopt;

@@ -36,7 +36,7 @@ QColor over(const QColor &top, const QColor &bottom)
 
 } // namespace
 
-Theme *Theme::create(QQmlEngine *engine, QJSEngine *)
+Theme *Theme::create(QQmlEngine *engine, QJSEngine * /*scriptEngine*/)
 {
     return new Theme(Surroundings::of(*engine), engine);
 }

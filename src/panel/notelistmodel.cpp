@@ -87,7 +87,7 @@ QVariant NoteListModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const NoteSections::Place place = m_sections.place(index.row());
+    const NoteSections::RowPlace place = m_sections.place(index.row());
     const NoteSections::Section &section = m_sections.section(place.section);
     const bool isHeader = !place.card;
     switch (role) {
@@ -103,7 +103,8 @@ QVariant NoteListModel::data(const QModelIndex &index, int role) const
         break;
     }
 
-    const Note *note = isHeader ? nullptr : &m_sections.note(place);
+    const Note *note =
+        place.card ? &m_sections.note({.section = place.section, .card = *place.card}) : nullptr;
     switch (role) {
     case NoteIdRole:
         return note ? note->id().toString(QUuid::WithoutBraces) : QString();
@@ -130,7 +131,7 @@ QVariant NoteListModel::data(const QModelIndex &index, int role) const
     case SourceBundleRole:
         return note ? note->sourceBundleID().value_or(QString()) : QString();
     case PinnedRole:
-        return note && note->isPinned();
+        return note ? note->isPinned() : false;
     default:
         return {};
     }
@@ -160,10 +161,10 @@ void NoteListModel::toggleSection(int row)
 
 int NoteListModel::rowOf(const QString &noteId) const
 {
-    const std::optional<NoteSections::Place> found = m_sections.find(RecordId::fromString(noteId));
+    const std::optional<NoteSections::CardPlace> found = m_sections.find(RecordId::fromString(noteId));
     if (!found || m_sections.section(found->section).isCollapsed)
         return -1;
-    return m_sections.cardRow(found->section, found->card.value());
+    return m_sections.cardRow(found->section, found->card);
 }
 
 void NoteListModel::setQuery(const QString &query)
@@ -276,7 +277,7 @@ void NoteListModel::noteInserted(Note &note)
 void NoteListModel::noteRemoved(const RecordId &id)
 {
     setSweeping(false);
-    if (const std::optional<NoteSections::Place> found = m_sections.find(id))
+    if (const std::optional<NoteSections::CardPlace> found = m_sections.find(id))
         take(*found);
     if (m_store.notes().isEmpty())
         Q_EMIT isStoreEmptyChanged();
@@ -285,7 +286,7 @@ void NoteListModel::noteRemoved(const RecordId &id)
 void NoteListModel::noteChanged(Note &note)
 {
     setSweeping(false);
-    const std::optional<NoteSections::Place> found = m_sections.find(note.id());
+    const std::optional<NoteSections::CardPlace> found = m_sections.find(note.id());
     const bool isWanted = matches(note);
     if (found && isWanted)
         moveTo(*found, kindOf(note), note.updatedAt());

@@ -109,8 +109,8 @@ private:
 
     // Each of these tells the views of what it does.
     void place(Note &note);
-    void take(const NoteSections::Place &place);
-    void moveTo(const NoteSections::Place &from, Kind kind, Date date);
+    void take(const NoteSections::CardPlace &place);
+    void moveTo(const NoteSections::CardPlace &from, Kind kind, Date date);
     void regroup(const Grouped &wanted);
     void insertCards(Kind kind, size_t at, const NoteSections::Entries &entries);
     void removeCards(Kind kind, size_t at, size_t count);

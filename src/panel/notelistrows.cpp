@@ -62,19 +62,19 @@ void NoteListModel::place(Note &note)
     headerChanged(kind);
 }
 
-void NoteListModel::take(const NoteSections::Place &place)
+void NoteListModel::take(const NoteSections::CardPlace &place)
 {
-    removeCards(place.section, place.card.value(), 1);
+    removeCards(place.section, place.card, 1);
     hideHeaderIfEmpty(place.section);
     headerChanged(place.section);
 }
 
-void NoteListModel::moveTo(const NoteSections::Place &from, Kind kind, Date date)
+void NoteListModel::moveTo(const NoteSections::CardPlace &from, Kind kind, Date date)
 {
     showHeader(kind);
     NoteSections::Section &source = m_sections.section(from.section);
     NoteSections::Section &target = m_sections.section(kind);
-    const size_t oldCard = from.card.value();
+    const size_t oldCard = from.card;
     const Entry entry{.date = date, .note = source.entries.at(oldCard).note};
     // Where it goes among the others; its own old entry may stand before that place.
     const bool isSameSection = from.section == kind;

@@ -42,7 +42,7 @@ int NoteSections::rowCount() const
     return rows;
 }
 
-NoteSections::Place NoteSections::place(int row) const
+NoteSections::RowPlace NoteSections::place(int row) const
 {
     for (const Kind kind : kNoteSections) {
         const int rows = rowsOf(section(kind));
@@ -76,21 +76,21 @@ size_t NoteSections::position(Kind kind, const Entry &entry) const
     return static_cast<size_t>(std::ranges::lower_bound(entries, entry, before) - entries.begin());
 }
 
-std::optional<NoteSections::Place> NoteSections::find(const RecordId &id) const
+std::optional<NoteSections::CardPlace> NoteSections::find(const RecordId &id) const
 {
     for (const Kind kind : kNoteSections) {
         const Entries &entries = section(kind).entries;
         const auto found =
             std::ranges::find_if(entries, [&id](const Entry &e) { return e.note->id() == id; });
         if (found != entries.end())
-            return Place{.section = kind, .card = static_cast<size_t>(found - entries.begin())};
+            return CardPlace{.section = kind, .card = static_cast<size_t>(found - entries.begin())};
     }
     return std::nullopt;
 }
 
-Note &NoteSections::note(const Place &place) const
+Note &NoteSections::note(const CardPlace &place) const
 {
-    return *section(place.section).entries.at(place.card.value()).note;
+    return *section(place.section).entries.at(place.card).note;
 }
 
 int NoteSections::visibleCount() const
@@ -116,10 +116,10 @@ Note &NoteSections::visibleAt(int index) const
 
 std::optional<int> NoteSections::visibleIndex(const RecordId &id) const
 {
-    const std::optional<Place> found = find(id);
+    const std::optional<CardPlace> found = find(id);
     if (!found || section(found->section).isCollapsed)
         return std::nullopt;
-    size_t index = found->card.value();
+    size_t index = found->card;
     for (const Kind kind : kNoteSections) {
         if (kind == found->section)
             break;

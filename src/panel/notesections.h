@@ -47,8 +47,15 @@ public:
         Entries entries = {};
     };
 
-    /// One card's place, or with no card that of a section's header.
-    struct Place
+    /// Where a card is, shown or in a collapsed section.
+    struct CardPlace
+    {
+        Kind section = Kind::Pinned;
+        size_t card = 0;
+    };
+
+    /// What a row is: a card, or with no card a section's header.
+    struct RowPlace
     {
         Kind section = Kind::Pinned;
         std::optional<size_t> card;
@@ -64,7 +71,7 @@ public:
 
     [[nodiscard]] int rowCount() const;
     /// `row` is at least 0 and less than `rowCount`.
-    [[nodiscard]] Place place(int row) const;
+    [[nodiscard]] RowPlace place(int row) const;
     /// The row of a section's header, or the one that it would have.
     [[nodiscard]] int headerRow(Kind kind) const;
     /// The row of a card, or the one that a card put there would have; the section is not collapsed.
@@ -73,8 +80,8 @@ public:
     [[nodiscard]] size_t position(Kind kind, const Entry &entry) const;
 
     /// Where the note with this identity stands, in a collapsed section too.
-    [[nodiscard]] std::optional<Place> find(const RecordId &id) const;
-    [[nodiscard]] Note &note(const Place &place) const;
+    [[nodiscard]] std::optional<CardPlace> find(const RecordId &id) const;
+    [[nodiscard]] Note &note(const CardPlace &place) const;
 
     // The cards of all sections that are not collapsed, in order.
     [[nodiscard]] int visibleCount() const;

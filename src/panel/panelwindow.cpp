@@ -15,7 +15,7 @@
 using namespace Qt::StringLiterals;
 
 // Made by the build. Naming it keeps the module's registration when the library is linked.
-extern void qml_register_types_Vesk_Panel();
+extern void qml_register_types_Vesk_Panel(); // NOLINT(readability-identifier-naming): not our name
 
 namespace vesk {
 

@@ -42,17 +42,18 @@ Distance distance(Date from, Date to)
 {
     const auto passed = to - from;
     if (passed < 1h)
-        return {double(passed / 1min), UDAT_REL_UNIT_MINUTE};
+        return {static_cast<double>(passed / 1min), UDAT_REL_UNIT_MINUTE};
     if (passed < 24h)
-        return {double(passed / 1h), UDAT_REL_UNIT_HOUR};
+        return {static_cast<double>(passed / 1h), UDAT_REL_UNIT_HOUR};
     if (passed < std::chrono::days(7))
-        return {double(passed / std::chrono::days(1)), UDAT_REL_UNIT_DAY};
+        return {static_cast<double>(passed / std::chrono::days(1)), UDAT_REL_UNIT_DAY};
     const int months = monthsBetween(from, to);
     if (months < 1)
-        return {double(passed / std::chrono::weeks(1)), UDAT_REL_UNIT_WEEK};
+        return {static_cast<double>(passed / std::chrono::weeks(1)), UDAT_REL_UNIT_WEEK};
     if (months < 12)
-        return {double(months), UDAT_REL_UNIT_MONTH};
-    return {double(months / 12), UDAT_REL_UNIT_YEAR};
+        return {static_cast<double>(months), UDAT_REL_UNIT_MONTH};
+    const int years = months / 12;
+    return {static_cast<double>(years), UDAT_REL_UNIT_YEAR};
 }
 
 } // namespace

@@ -10,8 +10,8 @@ namespace vesk::searchtext {
 QString query(const QString &typed)
 {
     const auto isSpace = [](QChar c) { return c == u'\t' || c.category() == QChar::Separator_Space; };
-    const auto begin = std::find_if_not(typed.begin(), typed.end(), isSpace);
-    const auto end = std::find_if_not(typed.rbegin(), typed.rend(), isSpace).base();
+    const auto *const begin = std::find_if_not(typed.begin(), typed.end(), isSpace);
+    const auto *const end = std::find_if_not(typed.rbegin(), typed.rend(), isSpace).base();
     return begin < end ? typed.sliced(begin - typed.begin(), end - begin) : QString();
 }
 

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 // Made by the build. Naming it keeps the module's registration when the library is linked.
-extern void qml_register_types_Vesk_QuickNote();
+extern void qml_register_types_Vesk_QuickNote(); // NOLINT(readability-identifier-naming): not our name
 
 namespace vesk {
 

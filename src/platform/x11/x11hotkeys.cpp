@@ -112,24 +112,26 @@ void X11HotKeys::onEvent(const xcb_generic_event_t *event)
 
 void X11HotKeys::onPress(const xcb_key_press_event_t &press)
 {
-    const bool isRepetition =
-        press.detail == m_heldKey && (m_input.isListening() || press.time == m_releaseTime);
+    if (m_input.isListening()) {
+        // While the grab holds, toolkits believe that they have lost the focus and hide their selection
+        // from the accessibility bus.
+        xcb_ungrab_keyboard(m_connection.xcb(), press.time);
+        m_connection.flush();
+        m_input.setHotKeyPress(press.detail, press.time);
+    }
+    const bool isRepetition
+        = press.detail == m_heldKey && (!m_releaseTime || *m_releaseTime == press.time);
+    m_releaseTime.reset();
     if (isRepetition)
         return;
-    constexpr unsigned kCounted = XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_4;
+    constexpr unsigned kCounted
+        = XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_4;
     const unsigned modifiers = press.state & kCounted;
     for (auto grab = m_grabs.cbegin(); grab != m_grabs.cend(); ++grab) {
         if (grab->key != press.detail || grab->modifiers != modifiers)
             continue;
         m_heldKey = press.detail;
         m_connection.setUserTime(press.time);
-        if (m_input.isListening()) {
-            // While the grab holds, toolkits believe that they have lost the focus and hide their
-            // selection from the accessibility bus. That the key goes up is then heard as raw input.
-            xcb_ungrab_keyboard(m_connection.xcb(), press.time);
-            m_connection.flush();
-            m_input.setHotKeyPress(press.detail, press.time);
-        }
         Q_EMIT pressed(grab.key());
         return;
     }

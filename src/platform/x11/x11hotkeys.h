@@ -7,6 +7,8 @@
 
 #include <xcb/xcb.h>
 
+#include <optional>
+
 namespace vesk {
 
 class RawInput;
@@ -39,11 +41,12 @@ private:
     X11Connection &m_connection;
     RawInput &m_input;
     QHash<quint32, Grab> m_grabs;
-    /// The key of the last press that was acted upon, until it is up; 0 for none. The server repeats
-    /// a grabbed key while it is held.
+    /// The key of the last press that was acted upon; 0 once it is known to be up. The server repeats a
+    /// grabbed key while it is held: it seems to go up and down at one and the same time.
     xcb_keycode_t m_heldKey = 0;
-    /// When the held key seemed to go up; a repetition goes down again at the same time.
-    xcb_timestamp_t m_releaseTime = 0;
+    /// When the held key went up, or seemed to; none since its last press. Whether a key goes up as an
+    /// event of the grab or as raw input depends on whether the grab was given back by then.
+    std::optional<xcb_timestamp_t> m_releaseTime;
 };
 
 } // namespace vesk
