@@ -222,8 +222,10 @@ bool NoteListModel::isStoreEmpty() const
 
 bool NoteListModel::matches(const Note &note) const
 {
-    return searchtext::contains(note.text(), m_query)
-           || (note.sourceApp() && searchtext::contains(*note.sourceApp(), m_query));
+    if (searchtext::contains(note.text(), m_query))
+        return true;
+    const std::optional<QString> &source = note.sourceApp();
+    return source && searchtext::contains(*source, m_query);
 }
 
 NoteListModel::Kind NoteListModel::kindOf(const Note &note) const

@@ -45,7 +45,7 @@ QQuickItem *PanelWindowTest::find(const QString &name) const
         if (!item->isVisible())
             continue;
         QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(item);
-        if (accessible && accessible->text(QAccessible::Name) == name)
+        if (accessible != nullptr && accessible->text(QAccessible::Name) == name)
             return item;
         items += item->childItems();
     }
