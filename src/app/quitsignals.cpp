@@ -35,7 +35,9 @@ QuitSignals::QuitSignals()
         // Not quit(), which asks the windows, and the panel answers that it only hides.
         QCoreApplication::exit(0);
     });
-    struct sigaction action{};
+    struct sigaction action
+    {
+    };
     action.sa_handler = onSignal;
     action.sa_flags = SA_RESTART;
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})

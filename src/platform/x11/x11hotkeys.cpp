@@ -119,13 +119,11 @@ void X11HotKeys::onPress(const xcb_key_press_event_t &press)
         m_connection.flush();
         m_input.setHotKeyPress(press.detail, press.time);
     }
-    const bool isRepetition
-        = press.detail == m_heldKey && (!m_releaseTime || *m_releaseTime == press.time);
+    const bool isRepetition = press.detail == m_heldKey && (!m_releaseTime || *m_releaseTime == press.time);
     m_releaseTime.reset();
     if (isRepetition)
         return;
-    constexpr unsigned kCounted
-        = XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_4;
+    constexpr unsigned kCounted = XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_4;
     const unsigned modifiers = press.state & kCounted;
     for (auto grab = m_grabs.cbegin(); grab != m_grabs.cend(); ++grab) {
         if (grab->key != press.detail || grab->modifiers != modifiers)

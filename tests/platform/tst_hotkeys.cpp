@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/desktoptest.h"
+#include "desktop/virtualdesktop.h"
+#include "platform/memory/memorykeyboard.h"
+#include "platform/x11/rawinput.h"
+#include "platform/x11/x11connection.h"
+#include "platform/x11/x11hotkeys.h"
+
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+
+namespace {
+
+constexpr Qt::KeyboardModifiers kSuperAlt = Qt::MetaModifier | Qt::AltModifier;
+constexpr KeyCombination kN{.key = KeyPosition::N, .modifiers = kSuperAlt};
+constexpr KeyCombination kShiftN{.key = KeyPosition::N, .modifiers = kSuperAlt | Qt::ShiftModifier};
+constexpr KeyCombination kT{.key = KeyPosition::T, .modifiers = kSuperAlt};
+
+/// One implementation, and the keyboard that belongs to it.
+class Bench
+{
+public:
+    virtual ~Bench() = default;
+    [[nodiscard]] virtual HotKeys &hotKeys() = 0;
+    /// Presses and releases a combination.
+    virtual void press(KeyCombination combination) = 0;
+    /// Lets another program have a combination.
+    virtual void take(KeyCombination combination) = 0;
+};
+
+class MemoryBench final : public Bench
+{
+public:
+    HotKeys &hotKeys() override { return m_hotKeys; }
+    void press(KeyCombination combination) override { m_hotKeys.press(combination); }
+    void take(KeyCombination combination) override { m_hotKeys.setTaken(combination); }
+
+private:
+    MemoryHotKeys m_hotKeys;
+};
+
+class X11Bench final : public Bench
+{
+public:
+    X11Bench(Keyboard &keyboard, bool isListening)
+        : m_keyboard(keyboard)
+        , m_connection(X11Connection::open().connection)
+        , m_other(X11Connection::open().connection)
+        , m_input(*m_connection)
+        , m_otherInput(*m_other)
+        , m_hotKeys(*m_connection, m_input)
+        , m_otherHotKeys(*m_other, m_otherInput)
+    {
+        m_input.setListening(isListening);
+    }
+
+    HotKeys &hotKeys() override { return m_hotKeys; }
+
+    void press(KeyCombination combination) override
+    {
+        QList<xcb_keysym_t> keys{XK_Super_L, XK_Alt_L};
+        if (combination.modifiers & Qt::ShiftModifier)
+            keys.append(XK_Shift_L);
+        keys.append(combination.key == KeyPosition::N ? XK_n : XK_t);
+        for (const xcb_keysym_t key : std::as_const(keys))
+            m_keyboard.press(key);
+        // No finger is up again within the same millisecond; a repetition is.
+        QTest::qWait(15);
+        for (auto key = keys.crbegin(); key != keys.crend(); ++key)
+            m_keyboard.release(*key);
+        QTest::qWait(15);
+    }
+
+    void take(KeyCombination combination) override { QVERIFY(m_otherHotKeys.registerHotKey(1, combination)); }
+
+private:
+    Keyboard &m_keyboard;
+    std::unique_ptr<X11Connection> m_connection;
+    std::unique_ptr<X11Connection> m_other;
+    RawInput m_input;
+    RawInput m_otherInput;
+    X11HotKeys m_hotKeys;
+    X11HotKeys m_otherHotKeys;
+};
+
+} // namespace
+
+/// What every platform's hot keys do alike.
+class TestHotKeys : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+    void everyPressFiresOnce_data() { benches(); }
+    void everyPressFiresOnce();
+    void registeringAgainReplaces_data() { benches(); }
+    void registeringAgainReplaces();
+    void takenCombinationIsInert_data() { benches(); }
+    void takenCombinationIsInert();
+    void heldKeyFiresOnce_data();
+    void heldKeyFiresOnce();
+    void locksDoNotMatter();
+
+private:
+    static void benches();
+    [[nodiscard]] std::unique_ptr<Bench> makeBench(const QString &name);
+    /// The identifiers of the keys that fired, once `count` have, in their order.
+    [[nodiscard]] static QList<quint32> fired(QSignalSpy &spy, qsizetype count);
+
+    std::unique_ptr<VirtualDesktop> m_desktop;
+};
+
+void TestHotKeys::initTestCase()
+{
+    QString problem;
+    m_desktop = VirtualDesktop::start(problem);
+    QVERIFY2(m_desktop, qPrintable(problem));
+    qputenv("DISPLAY", m_desktop->displayName().toLatin1());
+}
+
+void TestHotKeys::cleanupTestCase()
+{
+    m_desktop.reset();
+}
+
+void TestHotKeys::benches()
+{
+    QTest::addColumn<QString>("bench");
+    for (const char *name : {"memory", "X11, with consent", "X11, without consent"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+std::unique_ptr<Bench> TestHotKeys::makeBench(const QString &name)
+{
+    if (name == "memory"_L1)
+        return std::make_unique<MemoryBench>();
+    return std::make_unique<X11Bench>(m_desktop->keyboard(), name.endsWith("with consent"_L1));
+}
+
+QList<quint32> TestHotKeys::fired(QSignalSpy &spy, qsizetype count)
+{
+    // One more turn than needed, so that what should not have fired had its chance.
+    [&] { QTRY_COMPARE(spy.count(), count); }();
+    QTest::qWait(50);
+    QList<quint32> ids;
+    for (const QList<QVariant> &signal : std::as_const(spy))
+        ids.append(signal.first().toUInt());
+    return ids;
+}
+
+void TestHotKeys::everyPressFiresOnce()
+{
+    QFETCH(const QString, bench);
+    const std::unique_ptr<Bench> it = makeBench(bench);
+    QVERIFY(it->hotKeys().registerHotKey(1, kN));
+    QVERIFY(it->hotKeys().registerHotKey(2, kShiftN));
+    QSignalSpy spy(&it->hotKeys(), &HotKeys::pressed);
+    it->press(kN);
+    it->press(kN);
+    it->press(kT);
+    it->press(kShiftN);
+    it->press(kN);
+    QCOMPARE(fired(spy, 4), (QList<quint32>{1, 1, 2, 1}));
+    it->hotKeys().unregisterHotKey(1);
+    it->press(kN);
+    it->press(kShiftN);
+    QCOMPARE(fired(spy, 5), (QList<quint32>{1, 1, 2, 1, 2}));
+}
+
+void TestHotKeys::registeringAgainReplaces()
+{
+    QFETCH(const QString, bench);
+    const std::unique_ptr<Bench> it = makeBench(bench);
+    QVERIFY(it->hotKeys().registerHotKey(1, kN));
+    QVERIFY(it->hotKeys().registerHotKey(1, kN));
+    QVERIFY(it->hotKeys().registerHotKey(1, kT));
+    QSignalSpy spy(&it->hotKeys(), &HotKeys::pressed);
+    it->press(kN);
+    it->press(kT);
+    QCOMPARE(fired(spy, 1), QList<quint32>{1});
+}
+
+void TestHotKeys::takenCombinationIsInert()
+{
+    QFETCH(const QString, bench);
+    const std::unique_ptr<Bench> it = makeBench(bench);
+    it->take(kN);
+    QVERIFY(!it->hotKeys().registerHotKey(1, kN));
+    QVERIFY(it->hotKeys().registerHotKey(2, kT));
+    QSignalSpy spy(&it->hotKeys(), &HotKeys::pressed);
+    it->press(kN);
+    it->press(kT);
+    QCOMPARE(fired(spy, 1), QList<quint32>{2});
+}
+
+void TestHotKeys::heldKeyFiresOnce_data()
+{
+    QTest::addColumn<QString>("bench");
+    QTest::newRow("with consent") << u"X11, with consent"_s;
+    QTest::newRow("without consent") << u"X11, without consent"_s;
+}
+
+void TestHotKeys::heldKeyFiresOnce()
+{
+    QFETCH(const QString, bench);
+    const std::unique_ptr<Bench> it = makeBench(bench);
+    QVERIFY(it->hotKeys().registerHotKey(1, kN));
+    QSignalSpy spy(&it->hotKeys(), &HotKeys::pressed);
+    Keyboard &keyboard = m_desktop->keyboard();
+    for (const xcb_keysym_t key : {XK_Super_L, XK_Alt_L, XK_n})
+        keyboard.press(key);
+    QTest::qWait(1200); // The server begins to repeat after 660 ms.
+    for (const xcb_keysym_t key : {XK_n, XK_Alt_L, XK_Super_L})
+        keyboard.release(key);
+    QCOMPARE(fired(spy, 1).size(), 1);
+    it->press(kN);
+    QCOMPARE(fired(spy, 2).size(), 2);
+}
+
+void TestHotKeys::locksDoNotMatter()
+{
+    const std::unique_ptr<Bench> it = makeBench(u"X11, with consent"_s);
+    QVERIFY(it->hotKeys().registerHotKey(1, kN));
+    QSignalSpy spy(&it->hotKeys(), &HotKeys::pressed);
+    Keyboard &keyboard = m_desktop->keyboard();
+    for (const xcb_keysym_t lock : {XK_Caps_Lock, XK_Num_Lock}) {
+        keyboard.tap({lock});
+        it->press(kN);
+    }
+    QCOMPARE(fired(spy, 2).size(), 2);
+    keyboard.tap({XK_Num_Lock});
+    it->press(kN);
+    keyboard.tap({XK_Caps_Lock});
+    QCOMPARE(fired(spy, 3).size(), 3);
+}
+
+int main(int argc, char **argv)
+{
+    return runDesktopTest<TestHotKeys>(argc, argv);
+}
+
+#include "tst_hotkeys.moc"

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "platform/freedesktop/consent.h"
+#include "platform/freedesktop/inidefaults.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+
+/// The user's choices across runs, and between two processes at once.
+class TestIniDefaults : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void choicesOutliveTheProgram();
+    void choiceOfAnotherProcessArrives();
+    void fileThatCannotBeWrittenIsSaid();
+};
+
+void TestIniDefaults::choicesOutliveTheProgram()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"Vesk/Vesk.conf"_s);
+    {
+        IniDefaults defaults(path);
+        QVERIFY(!defaults.boolForKey(u"hasSeenGuide"_s));
+        defaults.setBool(true, u"hasSeenGuide"_s);
+        defaults.setBool(false, u"collapsed.today"_s);
+    }
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray written = file.readAll();
+    QVERIFY(written.startsWith("[General]\n"));
+    QVERIFY(written.contains("collapsed.today=false\n"));
+    QVERIFY(IniDefaults(path).boolForKey(u"hasSeenGuide"_s));
+}
+
+void TestIniDefaults::choiceOfAnotherProcessArrives()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"Vesk/Vesk.conf"_s);
+    IniDefaults here(path);
+    Consent consent(here);
+    QSignalSpy changes(&consent, &Consent::changed);
+    IniDefaults there(path);
+    for (const bool isGiven : {true, false}) {
+        changes.clear();
+        Consent(there).setGiven(isGiven);
+        QVERIFY(changes.wait());
+        QCOMPARE(consent.isGiven(), isGiven);
+    }
+}
+
+void TestIniDefaults::fileThatCannotBeWrittenIsSaid()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"Vesk.conf"_s);
+    QVERIFY(QDir().mkpath(path)); // A folder stands where the file should be.
+    IniDefaults defaults(path);
+    defaults.setBool(true, u"hasSeenGuide"_s);
+    QVERIFY(defaults.boolForKey(u"hasSeenGuide"_s));
+    QVERIFY(!defaults.isWritable());
+}
+
+QTEST_GUILESS_MAIN(TestIniDefaults)
+
+#include "tst_inidefaults.moc"

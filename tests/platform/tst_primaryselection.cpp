@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#include "selectionowner.h"
+
+#include "desktop/desktoptest.h"
+#include "desktop/virtualdesktop.h"
+#include "platform/accessibility.h"
+#include "platform/x11/primaryselection.h"
+#include "platform/x11/selectiontransfer.h"
+#include "platform/x11/x11connection.h"
+
+#include <QCoroTask>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+
+/// Reading a selection from owners of every manner.
+class TestPrimarySelection : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+    void text_data();
+    void text();
+    void secretIsNotEvenRead();
+    void eventLoopTurnsWhileAnOwnerIsSilent();
+    void lateAnswerIsNotTakenForTheNext();
+    void ownerAndTimeAreKnown();
+
+private:
+    std::unique_ptr<VirtualDesktop> m_desktop;
+    std::unique_ptr<X11Connection> m_connection;
+};
+
+void TestPrimarySelection::initTestCase()
+{
+    QString problem;
+    m_desktop = VirtualDesktop::start(problem);
+    QVERIFY2(m_desktop, qPrintable(problem));
+    qputenv("DISPLAY", m_desktop->displayName().toLatin1());
+    X11Connection::OpenResult opened = X11Connection::open();
+    QVERIFY2(opened.connection, qPrintable(opened.error));
+    m_connection = std::move(opened.connection);
+}
+
+void TestPrimarySelection::cleanupTestCase()
+{
+    m_connection.reset();
+    m_desktop.reset();
+}
+
+void TestPrimarySelection::text_data()
+{
+    using Manner = SelectionOwner::Manner;
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<SelectionOwner::Manner>("manner");
+    QTest::addColumn<bool>("isGiven");
+    const QByteArray odd("a\0b\r\n\xe2\x80\xa8\xf0\x9f\x91\xa9\xe2\x80\x8d\xf0\x9f\x92\xbb", 19);
+    QTest::newRow("odd characters") << odd << Manner::Whole << true;
+    QTest::newRow("empty") << QByteArray() << Manner::Whole << true;
+    QTest::newRow("5 MB in one line") << QByteArray(5'000'000, 'x') << Manner::Incremental << true;
+    QTest::newRow("stalls halfway") << QByteArray(500'000, 'x') << Manner::StallsHalfway << false;
+    QTest::newRow("silent") << QByteArray("x") << Manner::Silent << false;
+    QTest::newRow("no text") << QByteArray("x") << Manner::NoText << false;
+    QTest::newRow("secret") << QByteArray("x") << Manner::Secret << false;
+}
+
+void TestPrimarySelection::text()
+{
+    QFETCH(const QByteArray, text);
+    QFETCH(const SelectionOwner::Manner, manner);
+    QFETCH(const bool, isGiven);
+    const SelectionOwner owner(text, manner);
+    PrimarySelection primary(*m_connection);
+    const std::optional<QString> expected = isGiven ? std::optional(QString::fromUtf8(text)) : std::nullopt;
+    QVERIFY(QCoro::waitFor(primary.text()) == expected);
+}
+
+void TestPrimarySelection::secretIsNotEvenRead()
+{
+    const SelectionOwner owner("password", SelectionOwner::Manner::Secret);
+    PrimarySelection primary(*m_connection);
+    QVERIFY(!QCoro::waitFor(primary.text()));
+    QVERIFY(!owner.wasRead());
+}
+
+void TestPrimarySelection::eventLoopTurnsWhileAnOwnerIsSilent()
+{
+    const SelectionOwner owner("x", SelectionOwner::Manner::Silent);
+    PrimarySelection primary(*m_connection);
+    QTimer ticker;
+    int ticks = 0;
+    connect(&ticker, &QTimer::timeout, this, [&ticks] { ++ticks; });
+    ticker.start(5);
+    QVERIFY(!QCoro::waitFor(primary.text()));
+    QVERIFY(ticks > 5);
+}
+
+void TestPrimarySelection::lateAnswerIsNotTakenForTheNext()
+{
+    const xcb_atom_t target = m_connection->atom("UTF8_STRING");
+    const auto read = [this, target] {
+        return SelectionTransfer::read(*m_connection, XCB_ATOM_PRIMARY, target, kMaximumTextBytes);
+    };
+    {
+        const SelectionOwner halfway(QByteArray(500'000, 'o'), SelectionOwner::Manner::StallsHalfway);
+        QVERIFY(!QCoro::waitFor(read()));
+    }
+    const SelectionOwner owner("new", SelectionOwner::Manner::Whole);
+    const std::optional<SelectionTransfer::Data> data = QCoro::waitFor(read());
+    QVERIFY(data);
+    QCOMPARE(data->bytes, "new"_qba);
+}
+
+void TestPrimarySelection::ownerAndTimeAreKnown()
+{
+    auto owner = std::make_unique<SelectionOwner>("x", SelectionOwner::Manner::Whole);
+    const PrimarySelection primary(*m_connection);
+    QCOMPARE(primary.ownerProcess(), std::optional<qint64>(QCoreApplication::applicationPid()));
+    owner = std::make_unique<SelectionOwner>("y", SelectionOwner::Manner::Whole);
+    QTRY_VERIFY(primary.timestamp() != 0);
+    owner.reset();
+    QTRY_VERIFY(!primary.ownerProcess());
+}
+
+int main(int argc, char **argv)
+{
+    return runDesktopTest<TestPrimarySelection>(argc, argv);
+}
+
+#include "tst_primaryselection.moc"
