@@ -74,7 +74,7 @@ QCoro::Task<> VeskServices::captureSelection(Target target, std::optional<Captur
     }
     const QPointer<VeskServices> self(this);
     const std::optional<QString> text = co_await m_needs.reader.readSelection();
-    if (!self)
+    if (self.isNull())
         co_return;
     if (text)
         keep(*text, target, source);

@@ -76,8 +76,10 @@ QDBusArgument &operator<<(QDBusArgument &argument, const MatchRule &rule)
     return argument;
 }
 
-const QDBusArgument &operator>>(const QDBusArgument &argument, MatchRule &)
+const QDBusArgument &operator>>(const QDBusArgument &argument, MatchRule &rule)
 {
+    // Rules are only ever sent; Qt wants both directions.
+    Q_UNUSED(rule)
     return argument;
 }
 

@@ -55,7 +55,7 @@ void AtSpiBus::stop()
 QCoro::Task<std::optional<QVariantList>> AtSpiBus::call(AtSpiReference object, QString interface,
                                                         QString method, QVariantList arguments)
 {
-    if (!isConnected())
+    if (!m_bus || !m_bus->isConnected())
         co_return std::nullopt;
     QDBusMessage message = QDBusMessage::createMethodCall(object.service, object.path, interface, method);
     message.setArguments(arguments);
@@ -97,7 +97,7 @@ QCoro::Task<> AtSpiBus::connectToBus()
     constexpr int kStartDeadline = 10'000; // milliseconds
     const QDBusPendingCall pending = QDBusConnection::sessionBus().asyncCall(ask, kStartDeadline);
     const QDBusMessage reply = co_await pending;
-    if (!self || generation != m_generation || reply.type() != QDBusMessage::ReplyMessage
+    if (self.isNull() || generation != m_generation || reply.type() != QDBusMessage::ReplyMessage
         || reply.arguments().isEmpty())
         co_return;
     QDBusConnection bus =
@@ -107,19 +107,19 @@ QCoro::Task<> AtSpiBus::connectToBus()
         co_return;
     }
     m_bus = bus;
-    m_bus->connect(QString(), QString(), kObjectEvents, u"StateChanged"_s, this,
-                   SLOT(onStateChanged(QDBusMessage)));
+    bus.connect(QString(), QString(), kObjectEvents, u"StateChanged"_s, this,
+                SLOT(onStateChanged(QDBusMessage)));
     // Without this, most toolkits send no events at all.
-    registerEvent(u"object:state-changed:focused"_s);
+    registerEvent(bus, u"object:state-changed:focused"_s);
     Q_EMIT connected();
 }
 
-void AtSpiBus::registerEvent(const QString &name)
+void AtSpiBus::registerEvent(const QDBusConnection &bus, const QString &name)
 {
     QDBusMessage message = QDBusMessage::createMethodCall(kRegistryService, u"/org/a11y/atspi/registry"_s,
                                                           kRegistryService, u"RegisterEvent"_s);
     message << name << QStringList() << QString();
-    m_bus->asyncCall(message);
+    bus.asyncCall(message);
 }
 
 } // namespace vesk

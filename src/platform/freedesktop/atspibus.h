@@ -59,7 +59,7 @@ private Q_SLOTS:
 
 private:
     QCoro::Task<> connectToBus();
-    void registerEvent(const QString &name);
+    static void registerEvent(const QDBusConnection &bus, const QString &name);
 
     std::optional<QDBusConnection> m_bus;
     /// Tells a connection in the making that it is no longer wanted.

@@ -46,8 +46,8 @@ DesktopEntries::DesktopEntries()
 {
 }
 
-DesktopEntries::DesktopEntries(const QStringList &folders)
-    : m_folders(folders)
+DesktopEntries::DesktopEntries(QStringList folders)
+    : m_folders(std::move(folders))
 {
 }
 

@@ -30,7 +30,7 @@ public:
     /// Looks in `` and ``, the user's folder first.
     DesktopEntries();
     /// Looks in these folders of desktop files, the first before the others.
-    explicit DesktopEntries(const QStringList &folders);
+    explicit DesktopEntries(QStringList folders);
 
     /// Null if no application has this identifier.
     [[nodiscard]] const DesktopEntry *find(const QString &id) const;

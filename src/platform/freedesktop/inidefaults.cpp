@@ -15,8 +15,8 @@ QString IniDefaults::standardPath()
            + QStringLiteral("/Vesk/Vesk.conf");
 }
 
-IniDefaults::IniDefaults(const QString &path)
-    : m_path(path)
+IniDefaults::IniDefaults(QString path)
+    : m_path(std::move(path))
     , m_values(readFile())
 {
     watch();

@@ -18,7 +18,7 @@ public:
     /// `/Vesk/Vesk.conf`.
     [[nodiscard]] static QString standardPath();
 
-    explicit IniDefaults(const QString &path);
+    explicit IniDefaults(QString path);
 
     [[nodiscard]] bool boolForKey(const QString &key) const override;
     void setBool(bool value, const QString &key) override;

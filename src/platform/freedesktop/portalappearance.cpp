@@ -54,7 +54,8 @@ PortalAppearance::PortalAppearance()
 
 void PortalAppearance::onSettingChanged(const QString &group, const QString &key, const QDBusVariant &value)
 {
-    take(group, key, value.variant());
+    if (take(group, key, value.variant()))
+        Q_EMIT changed();
 }
 
 void PortalAppearance::ask(const QString &group, const QString &key)
@@ -72,11 +73,12 @@ void PortalAppearance::ask(const QString &group, const QString &key)
         // Read wraps the value twice, for a reason of its own history.
         if (value.canConvert<QDBusVariant>())
             value = value.value<QDBusVariant>().variant();
-        take(group, key, value);
+        if (take(group, key, value))
+            Q_EMIT changed();
     });
 }
 
-void PortalAppearance::take(const QString &group, const QString &key, const QVariant &value)
+bool PortalAppearance::take(const QString &group, const QString &key, const QVariant &value)
 {
     if (group == kAppearance && key == kColorScheme) {
         constexpr uint kPreferDark = 1;
@@ -86,9 +88,9 @@ void PortalAppearance::take(const QString &group, const QString &key, const QVar
     } else if (group == kGnomeInterface && key == kEnableAnimations) {
         m_reducesMotion = !value.toBool();
     } else {
-        return;
+        return false;
     }
-    Q_EMIT changed();
+    return true;
 }
 
 } // namespace vesk

@@ -28,7 +28,8 @@ private Q_SLOTS:
 
 private:
     void ask(const QString &group, const QString &key);
-    void take(const QString &group, const QString &key, const QVariant &value);
+    /// Whether it was a setting that matters here.
+    [[nodiscard]] bool take(const QString &group, const QString &key, const QVariant &value);
 
     ColorScheme m_colorScheme = ColorScheme::Light;
     std::optional<QColor> m_accentColor;

@@ -31,7 +31,7 @@ PrimarySelection::PrimarySelection(X11Connection &connection)
     const XReply<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(connection.xcb(), cookie, nullptr));
     m_owner = reply ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
-    connect(&connection, &X11Connection::event, this, &PrimarySelection::onEvent);
+    connect(&connection, &X11Connection::eventReceived, this, &PrimarySelection::onEvent);
     if (m_owner != XCB_WINDOW_NONE)
         askTimestamp();
 }
@@ -45,12 +45,12 @@ QCoro::Task<std::optional<QString>> PrimarySelection::text()
 {
     const QPointer<PrimarySelection> self(this);
     const QList<xcb_atom_t> targets = co_await readTargets();
-    if (!self)
+    if (self.isNull())
         co_return std::nullopt;
     // Only owners that list the hint are asked for it: some answer every target with their text.
     if (targets.contains(m_connection.atom(kSecretHint))) {
         const bool isHidden = co_await isSecret();
-        if (!self || isHidden)
+        if (self.isNull() || isHidden)
             co_return std::nullopt;
     }
     const xcb_atom_t utf8 = m_connection.atom("UTF8_STRING");
@@ -84,7 +84,7 @@ QCoro::Task<> PrimarySelection::askTimestamp()
     const std::optional<SelectionTransfer::Data> data =
         co_await SelectionTransfer::read(m_connection, XCB_ATOM_PRIMARY, target, kSmall);
     // The owner may have changed meanwhile, and then the new one's time is known already.
-    if (!self || owner != m_owner || m_timestamp != 0 || !data
+    if (self.isNull() || owner != m_owner || m_timestamp != 0 || !data
         || data->bytes.size() < qsizetype{sizeof m_timestamp})
         co_return;
     std::memcpy(&m_timestamp, data->bytes.constData(), sizeof m_timestamp);

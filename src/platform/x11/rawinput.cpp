@@ -11,7 +11,7 @@ RawInput::RawInput(X11Connection &connection)
     : m_connection(connection)
 {
     readModifiers();
-    connect(&connection, &X11Connection::event, this, &RawInput::onEvent);
+    connect(&connection, &X11Connection::eventReceived, this, &RawInput::onEvent);
 }
 
 void RawInput::setListening(bool isListening)

@@ -49,7 +49,7 @@ SelectionTransfer::SelectionTransfer(X11Connection &connection, xcb_atom_t selec
     m_stall.setTimerType(Qt::PreciseTimer);
     m_stall.setInterval(kDeadline);
     connect(&m_stall, &QTimer::timeout, this, [this] { finish(false); });
-    connect(&connection, &X11Connection::event, this, &SelectionTransfer::onEvent);
+    connect(&connection, &X11Connection::eventReceived, this, &SelectionTransfer::onEvent);
     xcb_delete_property(connection.xcb(), connection.window(), m_property);
     // The time of the hot key would be refused by owners that claim a selection a little after it.
     xcb_convert_selection(connection.xcb(), connection.window(), selection, target, m_property,

@@ -96,12 +96,12 @@ QCoro::Task<std::optional<QString>> X11Accessibility::selectedText(AccessibleEle
     if (isOnBus) {
         // Asked before anything is read: toolkits put a password field's clear text into PRIMARY.
         const std::optional<QString> elementRole = co_await m_atSpi.role(element);
-        if (!self || elementRole == "password text"_L1)
+        if (self.isNull() || elementRole == "password text"_L1)
             co_return std::nullopt;
     }
     if (isPrimaryFresh(element.processIdentifier)) {
         const std::optional<QString> text = co_await m_primary.text();
-        if (!self || text)
+        if (self.isNull() || text)
             co_return text;
     }
     if (!isOnBus)

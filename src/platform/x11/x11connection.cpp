@@ -192,7 +192,7 @@ void X11Connection::listen()
 void X11Connection::readEvents()
 {
     while (const XReply<xcb_generic_event_t> next{xcb_poll_for_event(m_connection)})
-        Q_EMIT event(next.get());
+        Q_EMIT eventReceived(next.get());
     if (xcb_connection_has_error(m_connection) != 0 && m_notifier->isEnabled()) {
         m_notifier->setEnabled(false);
         Q_EMIT lost();

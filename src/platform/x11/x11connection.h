@@ -69,7 +69,7 @@ public:
 
 Q_SIGNALS:
     /// Every event, in the server's order. Valid only while the signal is heard.
-    void event(const xcb_generic_event_t *event);
+    void eventReceived(const xcb_generic_event_t *event);
     /// The server has gone; nothing works any more.
     void lost();
 

@@ -49,7 +49,7 @@ X11HotKeys::X11HotKeys(X11Connection &connection, RawInput &input)
     : m_connection(connection)
     , m_input(input)
 {
-    connect(&connection, &X11Connection::event, this, &X11HotKeys::onEvent);
+    connect(&connection, &X11Connection::eventReceived, this, &X11HotKeys::onEvent);
     connect(&input, &RawInput::keyReleased, this, &X11HotKeys::onKeyReleased);
 }
 

@@ -47,7 +47,7 @@ X11Windows::X11Windows(X11Connection &connection, const Screens &screens)
                                        | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE;
     xcb_xfixes_select_selection_input(connection.xcb(), connection.window(), connection.atom(kCompositor),
                                       kOwnerChanges);
-    connect(&connection, &X11Connection::event, this, &X11Windows::onEvent);
+    connect(&connection, &X11Connection::eventReceived, this, &X11Windows::onEvent);
 }
 
 void X11Windows::prepare(QWindow &window, Kind kind)

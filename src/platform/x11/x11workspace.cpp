@@ -14,7 +14,7 @@ X11Workspace::X11Workspace(X11Connection &connection)
 {
     if (m_lastWindow)
         m_lastProcess = processOf(*m_lastWindow).value_or(0);
-    connect(&connection, &X11Connection::event, this, &X11Workspace::onEvent);
+    connect(&connection, &X11Connection::eventReceived, this, &X11Workspace::onEvent);
 }
 
 std::optional<RunningApplication> X11Workspace::frontmostApplication() const
