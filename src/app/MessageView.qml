@@ -6,7 +6,8 @@ import QtQuick
 import Vesk.App
 import Vesk.Components
 
-// What a message window shows. The button that goes on has the keyboard at first.
+// What a message window shows. The safe button has the keyboard at first: the window may come up while
+// the user types, and a Return must not answer a question that was not read.
 Rectangle {
     id: root
 
@@ -64,13 +65,14 @@ Rectangle {
                 spacing: Theme.space
 
                 MessageButton {
+                    focus: visible
                     visible: root.rejectLabel.length > 0
                     text: root.rejectLabel
                     onClicked: root.rejected()
                 }
 
                 MessageButton {
-                    focus: true
+                    focus: root.rejectLabel.length === 0
                     isMain: true
                     text: root.acceptLabel
                     onClicked: root.accepted()

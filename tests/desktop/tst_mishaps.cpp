@@ -88,15 +88,15 @@ void TestMishaps::hungApplicationDoesNotHangVesk()
     VERIFY_ON(*m_desktop, m_editor->selectLine(0));
     m_editor->process().signal(SIGSTOP);
     capture();
-    togglePanel(kFinger);
-    // Far below the 15 s that a toolkit waits for a hung owner of the selection.
+    // Nothing can be read, so the panel comes up to write a note; far below the 15 s that a toolkit waits
+    // for a hung owner of the selection.
     constexpr std::chrono::seconds kAnswer{2};
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kAnswer));
     m_editor->process().signal(SIGCONT);
 
-    // The note may come late or not at all; another text than the selected one may not.
-    const QStringList texts = m_desktop->notes().texts();
-    QVERIFY2(texts.isEmpty() || texts == QStringList{m_lines.at(0)}, qPrintable(texts.join(u'\n')));
+    QVERIFY(m_desktop->notes().texts().isEmpty());
+    // Out of the composer, and away.
+    m_desktop->keyboard().tap({XK_Escape});
     m_desktop->keyboard().tap({XK_Escape});
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
     m_desktop->windows().activate(m_editor->window());

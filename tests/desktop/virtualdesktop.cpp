@@ -3,6 +3,7 @@
 
 #include "desktop/guard.h"
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
@@ -146,7 +147,9 @@ bool VirtualDesktop::enableAccessibility()
 
 QString VirtualDesktop::veskProgram()
 {
-    return qEnvironmentVariable("VESK_PROGRAM");
+    // Without a word from outside, the program that was built along with the tests.
+    const QString built = QCoreApplication::applicationDirPath() + u"/../bin/vesk"_s;
+    return qEnvironmentVariable("VESK_PROGRAM", built);
 }
 
 bool VirtualDesktop::prepareUser()

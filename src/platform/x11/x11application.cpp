@@ -22,6 +22,9 @@ X11Application::X11Application(X11Connection &connection, X11Workspace &workspac
     m_noWindow.setSingleShot(true);
     m_noWindow.setInterval(kSwitch);
     connect(&m_noWindow, &QTimer::timeout, this, [this] { setActive(false); });
+    constexpr std::chrono::milliseconds kActivation{500};
+    m_activation.setSingleShot(true);
+    m_activation.setInterval(kActivation);
     connect(&workspace, &X11Workspace::activeWindowChanged, this, &X11Application::onActiveWindowChanged);
     connect(&service, &ApplicationService::activated, this, &Application::reopened);
 }
@@ -31,8 +34,9 @@ void X11Application::hide()
     if (m_isHidden)
         return;
     m_isHidden = true;
-    const bool hadKeyboard = m_isActive;
+    const bool hadKeyboard = isActive();
     m_isActive = false;
+    m_activation.stop();
     const QWindowList windows = QGuiApplication::topLevelWindows();
     for (QWindow *window : windows) {
         if (!(window->flags() & Qt::WindowDoesNotAcceptFocus))
@@ -50,6 +54,7 @@ void X11Application::activate(QWindow &window)
 {
     if (const std::optional<xcb_window_t> other = foreignActiveWindow())
         m_previousWindow = other;
+    m_activation.start();
     window.requestActivate();
     ownwindows::requestActivation(ownwindows::idOf(window), m_connection.userTime());
 }
@@ -62,7 +67,12 @@ void X11Application::onActiveWindowChanged()
         return;
     }
     m_noWindow.stop();
-    setActive(m_workspace.processOf(*window) == QCoreApplication::applicationPid());
+    const bool isOwn = m_workspace.processOf(*window) == QCoreApplication::applicationPid();
+    if (isOwn)
+        m_activation.stop();
+    // News of the switch before ours is no reason to go away again.
+    if (isOwn || !m_activation.isActive())
+        setActive(isOwn);
 }
 
 void X11Application::setActive(bool isActive)

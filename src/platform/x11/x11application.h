@@ -23,7 +23,8 @@ class X11Application final : public Application
 public:
     X11Application(X11Connection &connection, X11Workspace &workspace, ApplicationService &service);
 
-    [[nodiscard]] bool isActive() const override { return m_isActive; }
+    /// Also true while the window manager has yet to do what `activate` asked for.
+    [[nodiscard]] bool isActive() const override { return m_isActive || m_activation.isActive(); }
     [[nodiscard]] bool isHidden() const override { return m_isHidden; }
     void hide() override;
     void unhide() override { m_isHidden = false; }
@@ -39,6 +40,8 @@ private:
     X11Workspace &m_workspace;
     /// Runs while no window is active, which is so for a moment in every switch.
     QTimer m_noWindow;
+    /// Runs from `activate` until the window manager has followed, or will not.
+    QTimer m_activation;
     std::optional<xcb_window_t> m_previousWindow;
     bool m_isActive = false;
     bool m_isHidden = false;

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/desktoptest.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace vesk;
+
+/// What counts as selected, in an application that tells both the X server and the accessibility bus.
+class TestSelection : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void selectionOutlivesATurnToAnotherWindow();
+    void whatIsNoLongerSelectedIsNotKept();
+    void withoutConsentNothingIsRead();
+
+private:
+    void capture() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_n}, kFinger); }
+    void togglePanel() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}, kFinger); }
+    [[nodiscard]] bool setConsent(const QString &action);
+
+    const QStringList m_lines = {u"Water the lemon tree on the balcony"_s, u"Ask about the train to Ghent"_s};
+    std::unique_ptr<VirtualDesktop> m_desktop;
+    std::unique_ptr<ChildProcess> m_vesk;
+    std::unique_ptr<TextEditor> m_editor;
+};
+
+void TestSelection::init()
+{
+    QString problem;
+    m_desktop = VirtualDesktop::start(problem);
+    QVERIFY2(m_desktop, qPrintable(problem));
+    QVERIFY(m_desktop->prepareUser());
+    m_vesk = m_desktop->startVesk();
+    QVERIFY(m_vesk);
+    m_editor = TextEditor::open(*m_desktop, m_lines);
+    VERIFY_ON(*m_desktop, m_editor);
+}
+
+void TestSelection::cleanup()
+{
+    m_editor.reset();
+    m_vesk.reset();
+    m_desktop.reset();
+}
+
+bool TestSelection::setConsent(const QString &action)
+{
+    const std::unique_ptr<ChildProcess> command =
+        m_desktop->run(VirtualDesktop::veskProgram(), {u"access"_s, action});
+    return command && command->waitForExit(kBound) && command->exitCode() == 0;
+}
+
+/// The X server's selection is older than the turn to the window, so only the bus can vouch for it.
+void TestSelection::selectionOutlivesATurnToAnotherWindow()
+{
+    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
+    togglePanel();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
+    togglePanel();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+    capture();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+    QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(1)});
+}
+
+void TestSelection::whatIsNoLongerSelectedIsNotKept()
+{
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    VERIFY_ON(*m_desktop, m_editor->deselect());
+    capture();
+    // Nothing to keep: the panel comes up to write a note instead.
+    const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
+    VERIFY_ON(*m_desktop, panel);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
+    QVERIFY(m_desktop->notes().texts().isEmpty());
+
+    const QString written = u"written at once"_s;
+    m_desktop->keyboard().type(written);
+    m_desktop->keyboard().tap({XK_Return});
+    const QStringList expected{written};
+    VERIFY_ON(*m_desktop,
+              m_desktop->display().waitUntil(kBound, [&] { return m_desktop->notes().texts() == expected; }));
+}
+
+void TestSelection::withoutConsentNothingIsRead()
+{
+    QVERIFY(setConsent(u"deny"_s));
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    capture();
+    const QString question = u"Vesk: Let Vesk read what you select?"_s;
+    const std::optional<Window> window = m_desktop->windows().waitViewable(question, kBound);
+    VERIFY_ON(*m_desktop, window);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*window, kBound));
+    QVERIFY(m_desktop->notes().texts().isEmpty());
+
+    // A key meant for the document must not agree to anything.
+    m_desktop->keyboard().tap({XK_Return});
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(question, kBound));
+    QVERIFY(!setConsent(u"status"_s));
+
+    QVERIFY(setConsent(u"allow"_s));
+    m_desktop->windows().activate(m_editor->window());
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    QTest::qWait(int(kCaptureGate.count()));
+    capture();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+    QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(0)});
+}
+
+int main(int argc, char **argv)
+{
+    return runDesktopTest<TestSelection>(argc, argv);
+}
+
+#include "tst_selection.moc"
