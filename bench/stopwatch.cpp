@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "stopwatch.h"
+
+namespace vesk {
+
+Stopwatch::Stopwatch(VirtualDesktop &desktop)
+    : m_desktop(desktop)
+{
+}
+
+void Stopwatch::press(std::initializer_list<xcb_keysym_t> keys)
+{
+    m_keys = keys;
+    for (const xcb_keysym_t key : std::as_const(m_keys)) {
+        m_timer.start();
+        m_desktop.keyboard().press(key);
+    }
+}
+
+void Stopwatch::release()
+{
+    for (auto key = m_keys.crbegin(); key != m_keys.crend(); ++key)
+        m_desktop.keyboard().release(*key);
+}
+
+std::optional<double> Stopwatch::untilViewable(const QString &title)
+{
+    return until([&] { return m_desktop.windows().findViewable(title).has_value(); });
+}
+
+std::optional<double> Stopwatch::untilPainted(QPoint point)
+{
+    return until([&] { return !isBlack(point); });
+}
+
+std::optional<double> Stopwatch::floor()
+{
+    xcb_connection_t *x = m_desktop.display().xcb();
+    const xcb_window_t window = xcb_generate_id(x);
+    const uint32_t values[] = {0xFFFFFF, 1};
+    xcb_create_window(x, XCB_COPY_FROM_PARENT, window, m_desktop.display().root(), 0, 0, 100, 100, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
+                      XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT, values);
+    press({XK_Shift_L});
+    xcb_map_window(x, window);
+    const std::optional<double> time = untilPainted({50, 50});
+    release();
+    xcb_destroy_window(x, window);
+    const bool isGone = m_desktop.display().waitUntil(std::chrono::seconds{1}, [&] {
+        return isBlack({50, 50});
+    });
+    return isGone ? time : std::nullopt;
+}
+
+template <typename Condition>
+std::optional<double> Stopwatch::until(const Condition &condition)
+{
+    constexpr qint64 kBound = 5000;
+    while (!condition()) {
+        if (m_timer.hasExpired(kBound))
+            return std::nullopt;
+    }
+    return static_cast<double>(m_timer.nsecsElapsed()) / 1e6;
+}
+
+bool Stopwatch::isBlack(QPoint point) const
+{
+    xcb_connection_t *x = m_desktop.display().xcb();
+    const auto cookie =
+        xcb_get_image(x, XCB_IMAGE_FORMAT_Z_PIXMAP, m_desktop.display().root(),
+                      static_cast<int16_t>(point.x()), static_cast<int16_t>(point.y()), 1, 1, ~0U);
+    const Reply<xcb_get_image_reply_t> reply(xcb_get_image_reply(x, cookie, nullptr));
+    if (!reply)
+        return true;
+    const uint8_t *pixel = xcb_get_image_data(reply.get());
+    return pixel[0] == 0 && pixel[1] == 0 && pixel[2] == 0;
+}
+
+} // namespace vesk

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/virtualdesktop.h"
+
+#include <QElapsedTimer>
+
+#include <optional>
+
+namespace vesk {
+
+/// Tells, by asking the X server as fast as it answers, how long it takes until something is on the
+/// screen. The desktop's background has to be black.
+class Stopwatch final
+{
+public:
+    explicit Stopwatch(VirtualDesktop &desktop);
+
+    /// Presses the keys, the last one as the clock starts, and keeps them down.
+    void press(std::initializer_list<xcb_keysym_t> keys);
+    /// Lets the keys go again, in the opposite order.
+    void release();
+
+    /// Milliseconds since the press until the window of this title can be seen; none after 5 s.
+    [[nodiscard]] std::optional<double> untilViewable(const QString &title);
+    /// Milliseconds since the press until the point is no longer black; none after 5 s.
+    [[nodiscard]] std::optional<double> untilPainted(QPoint point);
+    /// Milliseconds from a key press until a window that the bench itself puts there is seen: what
+    /// the server and the asking alone take. None if the key did not arrive.
+    [[nodiscard]] std::optional<double> floor();
+
+private:
+    template <typename Condition>
+    [[nodiscard]] std::optional<double> until(const Condition &condition);
+    [[nodiscard]] bool isBlack(QPoint point) const;
+
+    VirtualDesktop &m_desktop;
+    QElapsedTimer m_timer;
+    QList<xcb_keysym_t> m_keys;
+};
+
+} // namespace vesk
