@@ -3,10 +3,8 @@
 
 #include "notes/notesstore.h"
 
-namespace vesk {
-
 /// How prompts come into the store and leave it.
-namespace promptrules {
+namespace vesk::promptrules {
 
 enum class SaveOutcome {
     Saved,
@@ -24,5 +22,4 @@ bool saveFollowUp(NotesStore &store, const Clock &clock, const QString &text);
 /// Deletes every done prompt. Saves.
 void clearDone(NotesStore &store);
 
-} // namespace promptrules
-} // namespace vesk
+} // namespace vesk::promptrules

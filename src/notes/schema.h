@@ -5,11 +5,9 @@ namespace SQLite {
 class Database;
 }
 
-namespace vesk {
-
 /// The tables of the store's file, their version, and the way from an older version to this one.
 /// Internal to this layer; everything here throws what SQLiteCpp throws.
-namespace schema {
+namespace vesk::schema {
 
 /// Marks a file as a store of Vesk, whatever it is called: "Vesk" in ASCII.
 inline constexpr int kApplicationId = 0x5665736B;
@@ -24,5 +22,4 @@ inline constexpr int kVersion = 1;
 /// Brings a file of an older version to `kVersion`, step by step. Has to be called in a transaction.
 void migrate(SQLite::Database &connection);
 
-} // namespace schema
-} // namespace vesk
+} // namespace vesk::schema

@@ -11,10 +11,8 @@
 
 #include <optional>
 
-namespace vesk {
-
 /// How the values of records stand in the columns of the store. Internal to this layer.
-namespace sqlvalues {
+namespace vesk::sqlvalues {
 
 inline void bind(SQLite::Statement &statement, int index, const QString &text)
 {
@@ -72,5 +70,4 @@ inline void bind(SQLite::Statement &statement, int index, bool value)
     return Date{std::chrono::microseconds{column.getInt64()}};
 }
 
-} // namespace sqlvalues
-} // namespace vesk
+} // namespace vesk::sqlvalues

@@ -11,7 +11,7 @@
 namespace vesk {
 
 /// The longest text, in UTF-8 bytes, that Vesk takes from another application.
-inline constexpr qsizetype kMaximumTextBytes = 16 * 1024 * 1024;
+inline constexpr qsizetype kMaximumTextBytes = qsizetype{16} * 1024 * 1024;
 
 /// Names one element of another application's user interface. A value that may outlive the element;
 /// then it names nothing and every question about it gives none.

@@ -7,11 +7,9 @@
 
 class QWindow;
 
-namespace vesk {
-
 /// Vesk's own windows as the X server sees them. Everything goes over Qt's connection, in order with
 /// what Qt itself says about its windows.
-namespace ownwindows {
+namespace vesk::ownwindows {
 
 [[nodiscard]] xcb_window_t idOf(QWindow &window);
 [[nodiscard]] xcb_atom_t atom(const char *name);
@@ -22,5 +20,4 @@ void addStates(QWindow &window, const QList<const char *> &states);
 /// Asks the window manager to give a window, of whatever application, the keyboard.
 void requestActivation(xcb_window_t window, xcb_timestamp_t time);
 
-} // namespace ownwindows
-} // namespace vesk
+} // namespace vesk::ownwindows
