@@ -92,15 +92,16 @@ void TestMishaps::hungApplicationDoesNotHangVesk()
     // for a hung owner of the selection.
     constexpr std::chrono::seconds kAnswer{2};
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kAnswer));
+    // It hangs on until Vesk has given up every way to the text.
+    QTest::qWait(1500);
     m_editor->process().signal(SIGCONT);
 
-    QVERIFY(m_desktop->notes().texts().isEmpty());
-    // Out of the composer, and away.
-    m_desktop->keyboard().tap({XK_Escape});
-    m_desktop->keyboard().tap({XK_Escape});
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
+    // The note may be missing; another text than the selected one may not be there.
+    const QStringList texts = m_desktop->notes().texts();
+    QVERIFY2(texts.isEmpty() || texts == QStringList{m_lines.at(0)}, qPrintable(texts.join(u'\n')));
     m_desktop->windows().activate(m_editor->window());
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
     QCOMPARE(m_editor->text(), m_lines.join(u'\n') + u'\n');
 }
 
