@@ -16,7 +16,8 @@ public:
     virtual bool start() = 0;
 
 Q_SIGNALS:
-    /// A key that is not a modifier went down; once a press, not again for auto-repeat.
+    /// A key that is not a modifier, or a mouse button, went down; once a press, not again for
+    /// auto-repeat.
     void keyDown();
     /// A modifier went down or up; `modifiers` are all that are down now, the locks left out.
     void flagsChanged(Qt::KeyboardModifiers modifiers);

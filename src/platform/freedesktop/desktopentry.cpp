@@ -67,6 +67,7 @@ std::optional<DesktopEntry> DesktopEntry::read(const QString &path, const QStrin
         .exec = keys.value(u"Exec"_s),
         .startupWMClass = keys.value(u"StartupWMClass"_s),
         .isHidden = isTrue(keys, u"NoDisplay"_s),
+        .isTerminal = keys.value(u"Categories"_s).split(u';').contains("TerminalEmulator"_L1),
     };
 }
 

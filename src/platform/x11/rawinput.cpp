@@ -61,8 +61,10 @@ void RawInput::onEvent(const xcb_generic_event_t *event)
         const auto *button = reinterpret_cast<const xcb_input_raw_button_press_event_t *>(event);
         // Buttons above the third are the wheel and the like, which select nothing.
         constexpr uint32_t kLastSelecting = 3;
-        if (button->detail <= kLastSelecting)
+        if (button->detail <= kLastSelecting) {
             onPress({.key = 0, .time = button->time});
+            Q_EMIT buttonPressed();
+        }
         return;
     }
     const auto *raw = reinterpret_cast<const xcb_input_raw_key_press_event_t *>(event);
@@ -94,9 +96,11 @@ void RawInput::readModifiers()
         return;
     m_modifiers.clear();
     const xcb_keycode_t *keys = xcb_get_modifier_mapping_keycodes(reply.get());
+    // As many keys for each modifier, Shift first, in the order of the modifiers' bits.
+    const int perModifier = reply->keycodes_per_modifier;
     for (int i = 0; i < xcb_get_modifier_mapping_keycodes_length(reply.get()); ++i) {
         if (keys[i] != 0)
-            m_modifiers.insert(keys[i]);
+            m_modifiers[keys[i]] |= static_cast<uint8_t>(1U << (i / perModifier));
     }
 }
 

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QHash>
 #include <QObject>
-#include <QSet>
 
 #include <xcb/xcb.h>
-
-#include <array>
 
 namespace vesk {
 
@@ -33,12 +31,16 @@ public:
     /// application's. May come before the press itself is heard.
     void setHotKeyPress(xcb_keycode_t key, xcb_timestamp_t time);
 
+    /// The core protocol's bit of a modifier key; 0 for any other key.
+    [[nodiscard]] uint8_t modifierMask(xcb_keycode_t key) const { return m_modifiers.value(key, 0); }
     [[nodiscard]] bool isModifier(xcb_keycode_t key) const { return m_modifiers.contains(key); }
 
 Q_SIGNALS:
     /// A key went down; not repeated while it is held.
     void keyPressed(xcb_keycode_t key);
     void keyReleased(xcb_keycode_t key);
+    /// A mouse button went down; not the wheel.
+    void buttonPressed();
 
 private:
     struct Press
@@ -54,7 +56,7 @@ private:
 
     X11Connection &m_connection;
     bool m_isListening = false;
-    QSet<xcb_keycode_t> m_modifiers;
+    QHash<xcb_keycode_t, uint8_t> m_modifiers;
     Press m_last;
     Press m_previous;
     Press m_hotKey;

@@ -28,6 +28,9 @@ public:
     /// managers may leave its number behind).
     [[nodiscard]] std::optional<xcb_window_t> activeWindow() const;
     [[nodiscard]] std::optional<qint64> processOf(xcb_window_t window) const;
+    /// What the window tells of its application.
+    [[nodiscard]] WindowIdentity identityOf(xcb_window_t window, qint64 processIdentifier) const;
+    [[nodiscard]] const DesktopEntries &entries() const { return m_entries; }
     /// Title of a window; empty if it has none.
     [[nodiscard]] QString titleOf(xcb_window_t window) const;
     /// Server time at which the active window got the keyboard; 0 if that was before Vesk's start.
@@ -42,7 +45,6 @@ Q_SIGNALS:
 private:
     void onEvent(const xcb_generic_event_t *event);
     [[nodiscard]] RunningApplication applicationOf(xcb_window_t window, qint64 processIdentifier) const;
-    [[nodiscard]] WindowIdentity identityOf(xcb_window_t window, qint64 processIdentifier) const;
 
     X11Connection &m_connection;
     DesktopEntries m_entries;
