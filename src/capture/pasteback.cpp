@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "capture/pasteback.h"
+
+#include "capture/pasteboardwatcher.h"
+#include "platform/application.h"
+#include "platform/clock.h"
+#include "platform/eventposter.h"
+#include "platform/pasteboard.h"
+#include "platform/workspace.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+
+namespace vesk {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto kAwayPeriod = 25ms;
+constexpr int kAwayWaits = 40;
+/// An application that has just come forward needs a moment until it takes keys.
+constexpr auto kSettling = 60ms;
+
+} // namespace
+
+PasteBack::PasteBack(const Needs &needs)
+    : m_needs(needs)
+{
+}
+
+void PasteBack::pasteIntoPreviousApp(const QString &text)
+{
+    m_needs.pasteboard.setString(text);
+    m_needs.watcher.markOwn();
+    m_needs.application.hide();
+    pasteWhenAway();
+}
+
+QCoro::Task<> PasteBack::pasteWhenAway()
+{
+    const QPointer<PasteBack> self(this);
+    const Needs needs = m_needs;
+    const int paste = ++m_paste;
+    for (int waits = 0; waits < kAwayWaits && isFrontmost(); ++waits) {
+        co_await needs.clock.sleep(kAwayPeriod);
+        if (self.isNull() || m_paste != paste)
+            co_return;
+    }
+    co_await needs.clock.sleep(kSettling);
+    // The user may have come back meanwhile, or nobody took the keyboard: the text is on the
+    // pasteboard, and pasting it into Vesk itself would change a note.
+    if (self.isNull() || m_paste != paste || isFrontmost())
+        co_return;
+    // Where the keys are refused the text is still on the pasteboard, for the user to paste.
+    co_await needs.poster.post(EventPoster::Command::Paste);
+}
+
+bool PasteBack::isFrontmost() const
+{
+    const std::optional<RunningApplication> frontmost = m_needs.workspace.frontmostApplication();
+    return frontmost && frontmost->processIdentifier == QCoreApplication::applicationPid();
+}
+
+} // namespace vesk

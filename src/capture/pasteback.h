@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCoroTask>
+
+#include <QObject>
+#include <QString>
+
+namespace vesk {
+
+class Application;
+class Clock;
+class EventPoster;
+class Pasteboard;
+class PasteboardWatcher;
+class Workspace;
+
+/// Puts a text of Vesk's into the application that the user came from. Owned by the application.
+class PasteBack final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What it works with; all of it outlives it.
+    struct Needs
+    {
+        Clock &clock;
+        Application &application;
+        Workspace &workspace;
+        Pasteboard &pasteboard;
+        PasteboardWatcher &watcher;
+        EventPoster &poster;
+    };
+
+    explicit PasteBack(const Needs &needs);
+
+    /// Puts `text` on the pasteboard, where it stays, hides this program and returns; pastes as soon
+    /// as another application is frontmost. Nothing is pasted if none comes forward within 1 second,
+    /// nor into this program. A second call replaces one that still waits.
+    void pasteIntoPreviousApp(const QString &text);
+
+private:
+    QCoro::Task<> pasteWhenAway();
+    [[nodiscard]] bool isFrontmost() const;
+
+    Needs m_needs;
+    /// Counts the calls, so that one that waits knows whether it still is the last.
+    int m_paste = 0;
+};
+
+} // namespace vesk

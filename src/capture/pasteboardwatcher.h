@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCoroTask>
+
+#include <QObject>
+#include <QString>
+
+#include <chrono>
+#include <optional>
+
+namespace vesk {
+
+class Clock;
+class Pasteboard;
+
+/// Knows how long ago the pasteboard's content came, and whether this program put it there. Owned by
+/// the application, one for the program.
+class PasteboardWatcher final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What is known of one content of the pasteboard.
+    struct Standing
+    {
+        /// By the monotonic clock; none for content that was there before the watcher.
+        std::optional<std::chrono::microseconds> changedAt;
+        /// Whether this program wrote it by itself, to be pasted.
+        bool isOwn = false;
+    };
+
+    /// Both have to outlive the watcher.
+    PasteboardWatcher(Pasteboard &pasteboard, Clock &clock);
+
+    /// Begins to watch; a second call does nothing. Wakes up every 0.5 seconds, but where the
+    /// pasteboard reports its changes only for those.
+    void start();
+
+    /// Marks the content of now as this program's own. To be called right after writing it.
+    void markOwn();
+
+    /// What is known of the content of now. Content not seen before counts as having come just now.
+    [[nodiscard]] Standing standing();
+    /// Gives the content of now the standing that it had before it was away for a moment. To be
+    /// called right after it was written back.
+    void markRestored(const Standing &standing);
+
+    /// The pasteboard's text without white space at its ends, if the user put it there within the
+    /// last `maximumAge`. None if it is older, this program's own, empty or no text.
+    QCoro::Task<std::optional<QString>> recentCopy(std::chrono::milliseconds maximumAge);
+
+Q_SIGNALS:
+    /// There is content that was not seen before.
+    void changed();
+
+private:
+    void look();
+    QCoro::Task<> lookNowAndThen();
+    [[nodiscard]] bool holdsOwn() const;
+
+    Pasteboard &m_pasteboard;
+    Clock &m_clock;
+    bool m_isStarted = false;
+    /// The content seen last, and when it was first seen.
+    qint64 m_changeCount;
+    std::optional<std::chrono::microseconds> m_changedAt;
+    std::optional<qint64> m_ownPasteChangeCount;
+};
+
+} // namespace vesk
