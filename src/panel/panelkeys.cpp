@@ -65,6 +65,15 @@ bool PanelModel::deleteFocused()
     return true;
 }
 
+bool PanelModel::pasteFocused()
+{
+    const Note *note = m_focused ? m_store.findNote(*m_focused) : nullptr;
+    if (!note)
+        return false;
+    Q_EMIT pasteRequested(note->text());
+    return true;
+}
+
 bool PanelModel::handleEscape()
 {
     if (m_activeField == Field::None)
@@ -78,6 +87,8 @@ bool PanelModel::handleEscape()
 
 bool PanelModel::handleReturn(Qt::KeyboardModifiers modifiers)
 {
+    if (m_activeField == Field::None)
+        return modifiers == kCommand && pasteFocused();
     if (m_activeField != Field::Composer)
         return false;
     if (modifiers == Qt::NoModifier)

@@ -109,6 +109,8 @@ Q_SIGNALS:
     /// A field was asked for, so the panel has to be up and have the keyboard. The receiver shows it
     /// before it returns.
     void showRequested();
+    /// A text shall be pasted into the application that the user came from.
+    void pasteRequested(const QString &text);
     /// The composer shall break the line where its caret is.
     void lineBreakRequested();
 
@@ -117,6 +119,7 @@ private:
     bool handleEscape();
     bool handleReturn(Qt::KeyboardModifiers modifiers);
     bool deleteFocused();
+    bool pasteFocused();
     void moveFocus(int delta);
     void moveFocusAway(const RecordId &id);
 

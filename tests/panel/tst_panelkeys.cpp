@@ -2,6 +2,7 @@
 #include "panelfixture.h"
 
 #include <QQuickItem>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void composerCommits();
     void shortcutsFromAnyField_data();
     void shortcutsFromAnyField();
+    void controlReturnPastesTheSelectedNote();
     void locksAndNumberPadDoNotCount();
     void sameFieldCanBeAskedForTwice();
     void composingKeepsItsKeys();
@@ -201,6 +203,20 @@ void PanelKeysTest::shortcutsFromAnyField()
     QCOMPARE(m_fixture->model.activeField(), Field::Search);
     press(Qt::Key_N, Qt::ControlModifier | Qt::AltModifier);
     QCOMPARE(m_fixture->model.activeField(), Field::Search);
+}
+
+void PanelKeysTest::controlReturnPastesTheSelectedNote()
+{
+    QSignalSpy pastes(&m_fixture->model, &PanelModel::pasteRequested);
+    press(Qt::Key_Return, Qt::ControlModifier);
+    QVERIFY(pastes.isEmpty());
+    press(Qt::Key_Down);
+    press(Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(pastes.count(), 1);
+    QCOMPARE(pastes.constFirst().constFirst().toString(), u"three"_s);
+    press(Qt::Key_N, Qt::ControlModifier);
+    press(Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(pastes.count(), 1);
 }
 
 void PanelKeysTest::locksAndNumberPadDoNotCount()

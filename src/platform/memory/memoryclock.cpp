@@ -2,6 +2,7 @@
 #include "platform/memory/memoryclock.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vesk {
 
@@ -23,6 +24,13 @@ struct MemoryClock::Suspend
 MemoryClock::MemoryClock(Date now)
     : m_now(now)
 {
+}
+
+MemoryClock::~MemoryClock()
+{
+    const std::vector<Sleeper> sleepers = std::exchange(m_sleepers, {});
+    for (const Sleeper &sleeper : sleepers)
+        sleeper.handle.resume();
 }
 
 QCoro::Task<> MemoryClock::sleep(std::chrono::milliseconds duration)

@@ -3,6 +3,8 @@
 
 #include "platform/clock.h"
 
+#include <QtClassHelperMacros>
+
 #include <coroutine>
 #include <vector>
 
@@ -13,6 +15,9 @@ class MemoryClock final : public Clock
 {
 public:
     explicit MemoryClock(Date now = Date{std::chrono::years{50}});
+    /// Wakes whoever still sleeps, so that each can see that what it waited for has gone, and end.
+    ~MemoryClock() override;
+    Q_DISABLE_COPY_MOVE(MemoryClock)
 
     [[nodiscard]] Date now() const override { return m_now; }
     [[nodiscard]] std::chrono::microseconds monotonic() const override { return m_monotonic; }
