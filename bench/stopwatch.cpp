@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "stopwatch.h"
 
+#include <ranges>
+
 namespace vesk {
 
 Stopwatch::Stopwatch(VirtualDesktop &desktop)
@@ -19,8 +21,8 @@ void Stopwatch::press(std::initializer_list<xcb_keysym_t> keys)
 
 void Stopwatch::release()
 {
-    for (auto key = m_keys.crbegin(); key != m_keys.crend(); ++key)
-        m_desktop.keyboard().release(*key);
+    for (const xcb_keysym_t key : m_keys | std::views::reverse)
+        m_desktop.keyboard().release(key);
 }
 
 std::optional<double> Stopwatch::untilViewable(const QString &title)

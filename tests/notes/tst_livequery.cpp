@@ -50,6 +50,7 @@ QList<RecordId> idsOf(const LiveQuery<Note> &query)
 QList<RecordId> sortedIds(const std::vector<std::unique_ptr<Note>> &notes)
 {
     std::vector<const Note *> sorted;
+    sorted.reserve(notes.size());
     for (const auto &note : notes)
         sorted.push_back(note.get());
     std::ranges::sort(sorted, [](const Note *a, const Note *b) {
@@ -97,8 +98,10 @@ void TestLiveQuery::followsRandomChanges()
         return *notes.emplace_back(std::make_unique<Note>(clock, QString()));
     };
 
+    constexpr int kLoaded = 50;
     std::vector<Note *> loaded;
-    for (int i = 0; i < 50; ++i)
+    loaded.reserve(kLoaded);
+    for (int i = 0; i < kLoaded; ++i)
         loaded.push_back(&makeNote());
     LiveQuery<Note> query(&Note::updatedAt);
     query.load(loaded);

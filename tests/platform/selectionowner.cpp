@@ -16,8 +16,8 @@ struct Free
 
 } // namespace
 
-SelectionOwner::SelectionOwner(const QByteArray &text, Manner manner)
-    : m_text(text)
+SelectionOwner::SelectionOwner(QByteArray text, Manner manner)
+    : m_text(std::move(text))
     , m_manner(manner)
     , m_connection(xcb_connect(nullptr, nullptr))
     , m_window(xcb_generate_id(m_connection))

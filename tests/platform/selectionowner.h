@@ -30,7 +30,7 @@ public:
         Secret,
     };
 
-    SelectionOwner(const QByteArray &text, Manner manner);
+    SelectionOwner(QByteArray text, Manner manner);
     ~SelectionOwner() override;
 
     /// Whether the text itself was ever asked for.

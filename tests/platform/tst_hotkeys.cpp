@@ -8,6 +8,8 @@
 
 #include <QSignalSpy>
 
+#include <ranges>
+
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
@@ -68,8 +70,8 @@ public:
             m_keyboard.press(key);
         // No finger is up again within the same millisecond; a repetition is.
         QTest::qWait(15);
-        for (auto key = keys.crbegin(); key != keys.crend(); ++key)
-            m_keyboard.release(*key);
+        for (const xcb_keysym_t key : keys | std::views::reverse)
+            m_keyboard.release(key);
         QTest::qWait(15);
     }
 

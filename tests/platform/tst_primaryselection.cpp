@@ -105,12 +105,12 @@ void TestPrimarySelection::lateAnswerIsNotTakenForTheNext()
     };
     {
         const SelectionOwner halfway(QByteArray(500'000, 'o'), SelectionOwner::Manner::StallsHalfway);
-        QVERIFY(!QCoro::waitFor(read()));
+        QVERIFY(QCoro::waitFor(read()).outcome == SelectionTransfer::Outcome::Stalled);
     }
     const SelectionOwner owner("new", SelectionOwner::Manner::Whole);
-    const std::optional<SelectionTransfer::Data> data = QCoro::waitFor(read());
-    QVERIFY(data);
-    QCOMPARE(data->bytes, "new"_qba);
+    const SelectionTransfer::Data data = QCoro::waitFor(read());
+    QVERIFY(data.outcome == SelectionTransfer::Outcome::Complete);
+    QCOMPARE(data.bytes, "new"_qba);
 }
 
 void TestPrimarySelection::ownerAndTimeAreKnown()

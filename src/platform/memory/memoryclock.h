@@ -3,7 +3,7 @@
 
 #include "platform/clock.h"
 
-#include <QtClassHelperMacros>
+#include <QtGlobal>
 
 #include <coroutine>
 #include <vector>

@@ -25,8 +25,8 @@ bool MemoryHotKeys::press(KeyCombination combination)
 
 bool MemoryEventTap::start()
 {
-    m_isStarted = true;
-    return true;
+    m_isStarted = m_isStarted || m_isAllowed;
+    return m_isStarted;
 }
 
 void MemoryEventTap::press()

@@ -43,8 +43,11 @@ public:
     /// Plays a key; heard only once `start` was called.
     void press();
     void setFlags(Qt::KeyboardModifiers modifiers);
+    /// Plays a platform that does not let anyone listen; `start` then gives false.
+    void setAllowed(bool isAllowed) { m_isAllowed = isAllowed; }
 
 private:
+    bool m_isAllowed = true;
     bool m_isStarted = false;
 };
 

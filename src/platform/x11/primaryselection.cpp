@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/primaryselection.h"
 
-#include "platform/accessibility.h"
+#include "platform/x11/selectioncontent.h"
 #include "platform/x11/selectiontransfer.h"
 #include "platform/x11/x11connection.h"
 
@@ -16,7 +16,6 @@ namespace vesk {
 namespace {
 
 constexpr qsizetype kSmall = 1 << 16; // bytes
-constexpr const char *kSecretHint = "x-kde-passwordManagerHint";
 
 } // namespace
 
@@ -43,26 +42,7 @@ std::optional<qint64> PrimarySelection::ownerProcess() const
 
 QCoro::Task<std::optional<QString>> PrimarySelection::text()
 {
-    const QPointer<PrimarySelection> self(this);
-    const QList<xcb_atom_t> targets = co_await readTargets();
-    if (self.isNull())
-        co_return std::nullopt;
-    // Only owners that list the hint are asked for it: some answer every target with their text.
-    if (targets.contains(m_connection.atom(kSecretHint))) {
-        const bool isHidden = co_await isSecret();
-        if (self.isNull() || isHidden)
-            co_return std::nullopt;
-    }
-    const xcb_atom_t utf8 = m_connection.atom("UTF8_STRING");
-    const bool hasUtf8 = targets.contains(utf8);
-    if (!hasUtf8 && !targets.contains(XCB_ATOM_STRING))
-        co_return std::nullopt;
-    const xcb_atom_t target = hasUtf8 ? utf8 : xcb_atom_t{XCB_ATOM_STRING};
-    const std::optional<SelectionTransfer::Data> data =
-        co_await SelectionTransfer::read(m_connection, XCB_ATOM_PRIMARY, target, kMaximumTextBytes);
-    if (!data)
-        co_return std::nullopt;
-    co_return hasUtf8 ? QString::fromUtf8(data->bytes) : QString::fromLatin1(data->bytes);
+    return selectioncontent::text(m_connection, XCB_ATOM_PRIMARY);
 }
 
 void PrimarySelection::onEvent(const xcb_generic_event_t *event)
@@ -81,34 +61,14 @@ QCoro::Task<> PrimarySelection::askTimestamp()
     const QPointer<PrimarySelection> self(this);
     const xcb_window_t owner = m_owner;
     const xcb_atom_t target = m_connection.atom("TIMESTAMP");
-    const std::optional<SelectionTransfer::Data> data =
+    const SelectionTransfer::Data data =
         co_await SelectionTransfer::read(m_connection, XCB_ATOM_PRIMARY, target, kSmall);
     // The owner may have changed meanwhile, and then the new one's time is known already.
-    if (self.isNull() || owner != m_owner || m_timestamp != 0 || !data
-        || data->bytes.size() < qsizetype{sizeof m_timestamp})
+    if (self.isNull() || owner != m_owner || m_timestamp != 0
+        || data.outcome != SelectionTransfer::Outcome::Complete
+        || data.bytes.size() < qsizetype{sizeof m_timestamp})
         co_return;
-    std::memcpy(&m_timestamp, data->bytes.constData(), sizeof m_timestamp);
-}
-
-QCoro::Task<QList<xcb_atom_t>> PrimarySelection::readTargets()
-{
-    const std::optional<SelectionTransfer::Data> data = co_await SelectionTransfer::read(
-        m_connection, XCB_ATOM_PRIMARY, m_connection.atom("TARGETS"), kSmall);
-    QList<xcb_atom_t> targets;
-    if (data) {
-        targets.resize(data->bytes.size() / qsizetype{sizeof(xcb_atom_t)});
-        std::memcpy(targets.data(), data->bytes.constData(),
-                    static_cast<size_t>(targets.size()) * sizeof(xcb_atom_t));
-    }
-    co_return targets;
-}
-
-QCoro::Task<bool> PrimarySelection::isSecret()
-{
-    const std::optional<SelectionTransfer::Data> value = co_await SelectionTransfer::read(
-        m_connection, XCB_ATOM_PRIMARY, m_connection.atom(kSecretHint), kSmall);
-    // An owner that lists the hint and then does not tell is not trusted to be harmless.
-    co_return !value || value->bytes.trimmed() == QByteArrayLiteral("secret");
+    std::memcpy(&m_timestamp, data.bytes.constData(), sizeof m_timestamp);
 }
 
 } // namespace vesk

@@ -3,7 +3,6 @@
 
 #include <QCoroTask>
 
-#include <QList>
 #include <QObject>
 #include <QString>
 
@@ -36,9 +35,6 @@ public:
 private:
     void onEvent(const xcb_generic_event_t *event);
     QCoro::Task<> askTimestamp();
-    /// Empty if the owner does not answer.
-    QCoro::Task<QList<xcb_atom_t>> readTargets();
-    QCoro::Task<bool> isSecret();
 
     X11Connection &m_connection;
     xcb_window_t m_owner = XCB_WINDOW_NONE;

@@ -25,16 +25,14 @@ xcb_atom_t nextProperty(const X11Connection &connection)
 
 } // namespace
 
-QCoro::Task<std::optional<SelectionTransfer::Data>>
-SelectionTransfer::read(X11Connection &connection, xcb_atom_t selection, xcb_atom_t target, qsizetype limit)
+QCoro::Task<SelectionTransfer::Data> SelectionTransfer::read(X11Connection &connection, xcb_atom_t selection,
+                                                             xcb_atom_t target, qsizetype limit)
 {
     const std::unique_ptr<SelectionTransfer> transfer(
         new SelectionTransfer(connection, selection, target, limit));
     if (!transfer->m_isFinished)
         co_await qCoro(transfer.get(), &SelectionTransfer::finished);
-    if (!transfer->m_isComplete)
-        co_return std::nullopt;
-    co_return transfer->m_data;
+    co_return std::move(transfer->m_data);
 }
 
 SelectionTransfer::SelectionTransfer(X11Connection &connection, xcb_atom_t selection, xcb_atom_t target,
@@ -48,7 +46,7 @@ SelectionTransfer::SelectionTransfer(X11Connection &connection, xcb_atom_t selec
     m_stall.setSingleShot(true);
     m_stall.setTimerType(Qt::PreciseTimer);
     m_stall.setInterval(kDeadline);
-    connect(&m_stall, &QTimer::timeout, this, [this] { finish(false); });
+    connect(&m_stall, &QTimer::timeout, this, [this] { finish(Outcome::Stalled); });
     connect(&connection, &X11Connection::eventReceived, this, &SelectionTransfer::onEvent);
     xcb_delete_property(connection.xcb(), connection.window(), m_property);
     // The time of the hot key would be refused by owners that claim a selection a little after it.
@@ -81,7 +79,7 @@ void SelectionTransfer::onEvent(const xcb_generic_event_t *event)
 void SelectionTransfer::onNotify(xcb_atom_t property)
 {
     if (property == XCB_ATOM_NONE || m_isIncremental) {
-        finish(false);
+        finish(Outcome::Refused);
         return;
     }
     Data first = takeProperty();
@@ -91,20 +89,21 @@ void SelectionTransfer::onNotify(xcb_atom_t property)
         return;
     }
     m_data = std::move(first);
-    finish(m_data.type != XCB_ATOM_NONE);
+    finish(m_data.type == XCB_ATOM_NONE ? Outcome::Refused : Outcome::Complete);
 }
 
 void SelectionTransfer::onChunk()
 {
     const Data chunk = takeProperty();
     if (chunk.bytes.isEmpty()) {
-        finish(true);
+        finish(Outcome::Complete);
         return;
     }
     m_data.type = chunk.type;
+    m_data.format = chunk.format;
     m_data.bytes += chunk.bytes;
     if (m_data.bytes.size() > m_limit)
-        finish(true);
+        finish(Outcome::Complete);
     else
         m_stall.start();
 }
@@ -118,15 +117,17 @@ SelectionTransfer::Data SelectionTransfer::takeProperty()
     if (!reply)
         return {};
     const auto *bytes = static_cast<const char *>(xcb_get_property_value(reply.get()));
-    return {.type = reply->type, .bytes = QByteArray(bytes, xcb_get_property_value_length(reply.get()))};
+    return {.type = reply->type,
+            .format = reply->format,
+            .bytes = QByteArray(bytes, xcb_get_property_value_length(reply.get()))};
 }
 
-void SelectionTransfer::finish(bool isComplete)
+void SelectionTransfer::finish(Outcome outcome)
 {
     if (m_isFinished)
         return;
     m_isFinished = true;
-    m_isComplete = isComplete;
+    m_data.outcome = outcome;
     m_stall.stop();
     Q_EMIT finished();
 }

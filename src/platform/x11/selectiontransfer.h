@@ -10,7 +10,6 @@
 #include <xcb/xcb.h>
 
 #include <chrono>
-#include <optional>
 
 namespace vesk {
 
@@ -23,20 +22,31 @@ class SelectionTransfer final : public QObject
     Q_OBJECT
 
 public:
+    enum class Outcome {
+        Complete,
+        /// There is no owner, or it has no such form.
+        Refused,
+        /// The owner did not answer, or stopped halfway.
+        Stalled,
+    };
+
     struct Data
     {
+        Outcome outcome = Outcome::Refused;
         /// The type that the owner gave the data.
         xcb_atom_t type = XCB_ATOM_NONE;
+        /// Bits of one unit of the data: 8, 16 or 32.
+        quint8 format = 0;
         QByteArray bytes;
     };
 
     /// The longest silence of an owner that is taken for work.
     static constexpr std::chrono::milliseconds kDeadline{100};
 
-    /// The selection's data in the form `target`. None if there is no owner, it refuses, or stalls.
-    /// Data beyond `limit` bytes is not waited for, and what has come is returned.
-    [[nodiscard]] static QCoro::Task<std::optional<Data>>
-    read(X11Connection &connection, xcb_atom_t selection, xcb_atom_t target, qsizetype limit);
+    /// The selection's data in the form `target`; worth something only if complete. Data beyond
+    /// `limit` bytes is not waited for, and what has come is returned.
+    [[nodiscard]] static QCoro::Task<Data> read(X11Connection &connection, xcb_atom_t selection,
+                                                xcb_atom_t target, qsizetype limit);
 
 Q_SIGNALS:
     void finished();
@@ -49,7 +59,7 @@ private:
     void onChunk();
     /// Takes the property of the transfer, which tells the owner that it may go on.
     [[nodiscard]] Data takeProperty();
-    void finish(bool isComplete);
+    void finish(Outcome outcome);
 
     X11Connection &m_connection;
     xcb_atom_t m_selection;
@@ -60,7 +70,6 @@ private:
     QTimer m_stall;
     bool m_isIncremental = false;
     bool m_isFinished = false;
-    bool m_isComplete = false;
     Data m_data;
 };
 

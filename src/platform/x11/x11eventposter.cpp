@@ -12,6 +12,8 @@
 
 #include <xcb/xtest.h>
 
+#include <ranges>
+
 namespace vesk {
 
 namespace {
@@ -112,8 +114,8 @@ bool X11EventPoster::postToActiveWindow(Command command)
     }
     for (const xcb_keycode_t key : std::as_const(keys))
         sendKey(key, XCB_KEY_PRESS);
-    for (auto key = keys.crbegin(); key != keys.crend(); ++key)
-        sendKey(*key, XCB_KEY_RELEASE);
+    for (const xcb_keycode_t key : keys | std::views::reverse)
+        sendKey(key, XCB_KEY_RELEASE);
     m_connection.flush();
     return true;
 }

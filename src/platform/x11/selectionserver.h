@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/pasteboard.h"
+#include "platform/x11/selectionsender.h"
+
+#include <QList>
+#include <QObject>
+
+#include <xcb/xcb.h>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace vesk {
+
+class X11Connection;
+
+/// Owns a selection for Vesk and answers those who read it, Vesk itself among them, until another
+/// application claims it.
+class SelectionServer final : public QObject
+{
+    Q_OBJECT
+
+public:
+    SelectionServer(X11Connection &connection, xcb_atom_t selection);
+    /// Gives the selection up, if it has it.
+    ~SelectionServer() override;
+
+    /// Claims the selection and offers exactly these representations, with TEXT added where they hold
+    /// text. None at all is an offer too: readers find the selection empty.
+    void offer(const PasteboardItem &item);
+
+    /// Whether the selection is ours and the offer kept.
+    [[nodiscard]] bool isOwner() const { return m_isOwner; }
+    /// The window that owns the selection while it is ours.
+    [[nodiscard]] xcb_window_t window() const { return m_window; }
+    /// Whether the server made this event before it gave us the selection for the last offer.
+    [[nodiscard]] bool isOlderThanOffer(const xcb_generic_event_t *event) const;
+
+private:
+    struct Representation
+    {
+        xcb_atom_t target;
+        xcb_atom_t type;
+        QByteArray bytes;
+    };
+
+    void onEvent(const xcb_generic_event_t *event);
+    void onRequest(const xcb_selection_request_event_t &request);
+    /// Puts the selection's form `target` where the reader wants it. False if there is no such form.
+    bool convert(SelectionSender::Request request, xcb_atom_t target);
+    bool convertMultiple(SelectionSender::Request request);
+    void putTargets(SelectionSender::Request request);
+    void put(SelectionSender::Request request, const Representation &representation);
+    void sendInPieces(SelectionSender::Request request, const Representation &representation);
+    void onSent(SelectionSender::Request request);
+    [[nodiscard]] const Representation *findRepresentation(xcb_atom_t target) const;
+
+    X11Connection &m_connection;
+    xcb_atom_t m_selection;
+    xcb_window_t m_window;
+    bool m_isOwner = false;
+    xcb_timestamp_t m_time = XCB_CURRENT_TIME;
+    /// Number of the request that claimed the selection for the last offer.
+    std::optional<unsigned int> m_claim;
+    QList<Representation> m_representations;
+    std::vector<std::unique_ptr<SelectionSender>> m_senders;
+};
+
+} // namespace vesk

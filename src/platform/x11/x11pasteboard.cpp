@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/x11pasteboard.h"
+
+#include "platform/x11/selectioncontent.h"
+#include "platform/x11/x11connection.h"
+
+#include <QPointer>
+
+#include <xcb/xfixes.h>
+
+#include <algorithm>
+
+namespace vesk {
+
+namespace {
+
+/// A reading during which the owner changed may have mixed two contents, or have read a text whose
+/// secrecy was asked of another owner, so it is done again; some applications claim twice for one copy.
+constexpr int kAttempts = 3;
+
+bool isLatin1(const QString &text)
+{
+    return std::ranges::all_of(text, [](QChar character) { return character.row() == 0; });
+}
+
+} // namespace
+
+X11Pasteboard::X11Pasteboard(X11Connection &connection)
+    : m_connection(connection)
+    , m_selection(connection.atom("CLIPBOARD"))
+    , m_server(connection, m_selection)
+{
+    connect(&connection, &X11Connection::eventReceived, this, &X11Pasteboard::onEvent);
+}
+
+QCoro::Task<QList<PasteboardItem>> X11Pasteboard::pasteboardItems()
+{
+    const QPointer<X11Pasteboard> self(this);
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        const qint64 count = m_changeCount;
+        const PasteboardItem item = co_await selectioncontent::representations(m_connection, m_selection);
+        if (self.isNull())
+            break;
+        if (count != m_changeCount)
+            continue;
+        QList<PasteboardItem> items;
+        if (!item.isEmpty())
+            items.append(item);
+        co_return items;
+    }
+    co_return QList<PasteboardItem>();
+}
+
+QCoro::Task<std::optional<QString>> X11Pasteboard::string()
+{
+    const QPointer<X11Pasteboard> self(this);
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        const qint64 count = m_changeCount;
+        const std::optional<QString> text = co_await selectioncontent::text(m_connection, m_selection);
+        if (self.isNull())
+            break;
+        if (count == m_changeCount)
+            co_return text;
+    }
+    co_return std::nullopt;
+}
+
+void X11Pasteboard::clearContents()
+{
+    // Owned with nothing in it rather than by nobody: where nobody owns the selection, some clipboard
+    // managers bring back what was there before.
+    writeObjects({});
+}
+
+void X11Pasteboard::setString(const QString &text)
+{
+    const QByteArray utf8 = text.toUtf8();
+    PasteboardItem item;
+    for (const char *type : {"UTF8_STRING", "text/plain;charset=utf-8", "text/plain"})
+        item.append({.type = QString::fromLatin1(type), .data = utf8});
+    if (isLatin1(text))
+        item.append({.type = QStringLiteral("STRING"), .data = text.toLatin1()});
+    writeObjects({item});
+}
+
+void X11Pasteboard::writeObjects(const QList<PasteboardItem> &items)
+{
+    PasteboardItem merged;
+    for (const PasteboardItem &item : items)
+        merged.append(item);
+    m_server.offer(merged);
+    rise();
+}
+
+void X11Pasteboard::onEvent(const xcb_generic_event_t *event)
+{
+    if ((event->response_type & 0x7f) != m_connection.xfixesEvent() + XCB_XFIXES_SELECTION_NOTIFY)
+        return;
+    const auto *notify = reinterpret_cast<const xcb_xfixes_selection_notify_event_t *>(event);
+    // Our own writes have been counted when they were made, and what was there before a write of ours
+    // is gone already: counted now, it would look like a change after the write.
+    const bool isCounted = notify->owner == m_server.window() || m_server.isOlderThanOffer(event);
+    if (notify->selection == m_selection && !isCounted)
+        rise();
+}
+
+void X11Pasteboard::rise()
+{
+    ++m_changeCount;
+    Q_EMIT changed();
+}
+
+} // namespace vesk

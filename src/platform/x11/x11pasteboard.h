@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/pasteboard.h"
+#include "platform/x11/selectionserver.h"
+
+#include <xcb/xcb.h>
+
+namespace vesk {
+
+class X11Connection;
+
+/// The selection CLIPBOARD. It holds one item at most, whose types are its owner's targets.
+class X11Pasteboard final : public Pasteboard
+{
+    Q_OBJECT
+
+public:
+    explicit X11Pasteboard(X11Connection &connection);
+
+    [[nodiscard]] qint64 changeCount() const override { return m_changeCount; }
+    QCoro::Task<QList<PasteboardItem>> pasteboardItems() override;
+    QCoro::Task<std::optional<QString>> string() override;
+    void clearContents() override;
+    void setString(const QString &text) override;
+    /// Items beyond the first add the types that those before them lack.
+    void writeObjects(const QList<PasteboardItem> &items) override;
+    [[nodiscard]] bool reportsChanges() const override { return true; }
+
+private:
+    void onEvent(const xcb_generic_event_t *event);
+    void rise();
+
+    X11Connection &m_connection;
+    xcb_atom_t m_selection;
+    SelectionServer m_server;
+    qint64 m_changeCount = 0;
+};
+
+} // namespace vesk
