@@ -16,7 +16,7 @@ struct Free
 
 } // namespace
 
-SelectionOwner::SelectionOwner(QByteArray text, Manner manner)
+SelectionOwner::SelectionOwner(QByteArray text, Manner manner, const char *selection)
     : m_text(std::move(text))
     , m_manner(manner)
     , m_connection(xcb_connect(nullptr, nullptr))
@@ -25,8 +25,13 @@ SelectionOwner::SelectionOwner(QByteArray text, Manner manner)
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
     xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, m_window, root, -1, -1, 1, 1, 0,
                       XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
-    xcb_set_selection_owner(m_connection, m_window, XCB_ATOM_PRIMARY, XCB_CURRENT_TIME);
-    xcb_flush(m_connection);
+    const xcb_atom_t name = atom(selection);
+    xcb_set_selection_owner(m_connection, m_window, name, XCB_CURRENT_TIME);
+    // Waits for the server, so that what a test sends on another connection comes after this.
+    const auto cookie = xcb_get_selection_owner(m_connection, name);
+    using Reply = xcb_get_selection_owner_reply_t;
+    const std::unique_ptr<Reply, Free<Reply>> reply(
+        xcb_get_selection_owner_reply(m_connection, cookie, nullptr));
     m_notifier =
         std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(m_connection), QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, &SelectionOwner::onReadable);
@@ -72,8 +77,10 @@ void SelectionOwner::onRequest(const xcb_selection_request_event_t &request)
                             XCB_ATOM_STRING, 8, 6, "secret");
         notify(request, true);
     } else if (request.target == atom("UTF8_STRING")) {
-        m_wasRead = true;
+        ++m_readings;
         sendText(request);
+    } else if (m_manner == Manner::Silent) {
+        ++m_readings;
     } else {
         notify(request, false);
     }
@@ -84,6 +91,8 @@ void SelectionOwner::sendTargets(const xcb_selection_request_event_t &request)
     QList<xcb_atom_t> targets{atom("TARGETS"), atom("TIMESTAMP")};
     if (m_manner != Manner::NoText)
         targets.append(atom("UTF8_STRING"));
+    if (m_manner == Manner::Silent)
+        targets.append({atom("text/html"), atom("image/png")});
     if (m_manner == Manner::Secret)
         targets.append(atom("x-kde-passwordManagerHint"));
     xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, request.requestor, request.property,

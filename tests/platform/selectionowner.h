@@ -10,7 +10,7 @@
 
 #include <memory>
 
-/// An application that owns PRIMARY, well-behaved or not, on a connection of its own.
+/// An application that owns PRIMARY or another selection, well-behaved or not, on a connection of its own.
 class SelectionOwner final : public QObject
 {
     Q_OBJECT
@@ -30,11 +30,11 @@ public:
         Secret,
     };
 
-    SelectionOwner(QByteArray text, Manner manner);
+    SelectionOwner(QByteArray text, Manner manner, const char *selection = "PRIMARY");
     ~SelectionOwner() override;
 
-    /// Whether the text itself was ever asked for.
-    [[nodiscard]] bool wasRead() const { return m_wasRead; }
+    /// How often its content was asked for.
+    [[nodiscard]] int readings() const { return m_readings; }
 
 private:
     [[nodiscard]] xcb_atom_t atom(const char *name) const;
@@ -50,7 +50,7 @@ private:
     xcb_connection_t *m_connection;
     xcb_window_t m_window;
     std::unique_ptr<QSocketNotifier> m_notifier;
-    bool m_wasRead = false;
+    int m_readings = 0;
     /// The transfer in pieces that runs; no property for none.
     xcb_window_t m_requestor = XCB_WINDOW_NONE;
     xcb_atom_t m_property = XCB_ATOM_NONE;

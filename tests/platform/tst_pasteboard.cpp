@@ -1,0 +1,383 @@
+// SPDX-License-Identifier: MIT
+#include "selectionowner.h"
+
+#include "desktop/desktoptest.h"
+#include "desktop/virtualdesktop.h"
+#include "platform/memory/memorypasteboard.h"
+#include "platform/x11/selectiontransfer.h"
+#include "platform/x11/x11connection.h"
+#include "platform/x11/x11pasteboard.h"
+
+#include <QCoroTask>
+
+#include <QRandomGenerator>
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+
+namespace {
+
+/// One program's view of the X server's pasteboard.
+struct Program
+{
+    std::unique_ptr<X11Connection> connection = X11Connection::open().connection;
+    X11Pasteboard pasteboard{*connection};
+
+    /// The server has done all that was asked of it when this returns.
+    void sync() const { std::ignore = connection->property32(connection->root(), XCB_ATOM_WM_NAME); }
+
+    /// What the server has to tell has been heard when this returns.
+    void catchUp() const
+    {
+        sync();
+        QCoreApplication::processEvents();
+    }
+};
+
+/// One implementation, and another program's access to the same pasteboard.
+class Bench
+{
+public:
+    virtual ~Bench() = default;
+    [[nodiscard]] virtual Pasteboard &pasteboard() = 0;
+    virtual void copyElsewhere(const QString &text) = 0;
+};
+
+class MemoryBench final : public Bench
+{
+public:
+    Pasteboard &pasteboard() override { return m_pasteboard; }
+    void copyElsewhere(const QString &text) override { m_pasteboard.setString(text); }
+
+private:
+    MemoryPasteboard m_pasteboard;
+};
+
+class X11Bench final : public Bench
+{
+public:
+    Pasteboard &pasteboard() override { return m_own.pasteboard; }
+    void copyElsewhere(const QString &text) override
+    {
+        m_other.pasteboard.setString(text);
+        m_other.catchUp();
+    }
+
+private:
+    Program m_own;
+    Program m_other;
+};
+
+QByteArray randomBytes(qsizetype size)
+{
+    QByteArray bytes(size, Qt::Uninitialized);
+    QRandomGenerator random(1);
+    random.generate(bytes.begin(), bytes.end());
+    return bytes;
+}
+
+PasteboardData text(const QByteArray &bytes)
+{
+    return {.type = MemoryPasteboard::kTextType, .data = bytes};
+}
+
+QList<PasteboardItem> only(const PasteboardItem &item)
+{
+    return QList<PasteboardItem>{item};
+}
+
+const PasteboardItem &richItem()
+{
+    static const PasteboardItem item{
+        {.type = u"text/html"_s, .data = "<b>\xc3\xa4</b>\0<i>"_qba},
+        text("\xc3\xa4 and \xf0\x9f\x91\xa9"_qba),
+        {.type = u"image/png"_s, .data = randomBytes(3'000'001)},
+        {.type = u"application/x-empty"_s, .data = QByteArray("")},
+    };
+    return item;
+}
+
+} // namespace
+
+/// What every platform's pasteboard does alike, and how the one on X11 stands other programs.
+class TestPasteboard : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+    void textIsReadBack_data();
+    void textIsReadBack();
+    void itemsAreReadBack_data() { benches(); }
+    void itemsAreReadBack();
+    void clearedIsEmpty_data() { benches(); }
+    void clearedIsEmpty();
+    void countRisesOnceForEachChange_data() { benches(); }
+    void countRisesOnceForEachChange();
+    void anotherProgramsContentIsRestored();
+    void twentyMegabytesReachSeveralReaders();
+    void readerThatGoesHalfwayHarmsNobody();
+    void changeBeforeOwnWriteIsNotCountedAfterIt();
+    void silentOwnerIsAskedOnce();
+    void secretIsNotEvenRead();
+    void lostSelectionIsNotServed();
+    void formsOfText_data();
+    void formsOfText();
+
+private:
+    static void benches();
+    [[nodiscard]] static std::unique_ptr<Bench> makeBench(const QString &name);
+
+    std::unique_ptr<VirtualDesktop> m_desktop;
+};
+
+void TestPasteboard::initTestCase()
+{
+    QString problem;
+    m_desktop = VirtualDesktop::start(problem);
+    QVERIFY2(m_desktop, qPrintable(problem));
+    qputenv("DISPLAY", m_desktop->displayName().toLatin1());
+}
+
+void TestPasteboard::cleanupTestCase()
+{
+    m_desktop.reset();
+}
+
+void TestPasteboard::benches()
+{
+    QTest::addColumn<QString>("bench");
+    QTest::newRow("memory") << u"memory"_s;
+    QTest::newRow("X11") << u"X11"_s;
+}
+
+std::unique_ptr<Bench> TestPasteboard::makeBench(const QString &name)
+{
+    if (name == "memory"_L1)
+        return std::make_unique<MemoryBench>();
+    return std::make_unique<X11Bench>();
+}
+
+void TestPasteboard::textIsReadBack_data()
+{
+    QTest::addColumn<QString>("bench");
+    QTest::addColumn<QString>("text");
+    for (const char *name : {"memory", "X11"}) {
+        const QString bench = QString::fromLatin1(name);
+        QTest::addRow("%s, odd characters", name) << bench << u"a\0b\r\n\u2028ä\U0001F469\u200D"_s;
+        QTest::addRow("%s, empty", name) << bench << u""_s;
+        QTest::addRow("%s, long", name) << bench << QString(1'000'000, u'ä');
+    }
+}
+
+void TestPasteboard::textIsReadBack()
+{
+    QFETCH(const QString, bench);
+    QFETCH(const QString, text);
+    const std::unique_ptr<Bench> it = makeBench(bench);
+    it->pasteboard().setString(u"before"_s);
+    it->pasteboard().setString(text);
+    QVERIFY(QCoro::waitFor(it->pasteboard().string()) == std::optional(text));
+}
+
+void TestPasteboard::itemsAreReadBack()
+{
+    QFETCH(const QString, bench);
+    const std::unique_ptr<Bench> it = makeBench(bench);
+    it->pasteboard().writeObjects({richItem()});
+    QVERIFY(QCoro::waitFor(it->pasteboard().pasteboardItems()) == only(richItem()));
+    QVERIFY(QCoro::waitFor(it->pasteboard().string()) == std::optional(u"ä and 👩"_s));
+    it->pasteboard().writeObjects({PasteboardItem{richItem().first()}});
+    QVERIFY(!QCoro::waitFor(it->pasteboard().string()));
+}
+
+void TestPasteboard::clearedIsEmpty()
+{
+    QFETCH(const QString, bench);
+    const std::unique_ptr<Bench> it = makeBench(bench);
+    it->copyElsewhere(u"theirs"_s);
+    it->pasteboard().clearContents();
+    QVERIFY(QCoro::waitFor(it->pasteboard().pasteboardItems()).isEmpty());
+    QVERIFY(!QCoro::waitFor(it->pasteboard().string()));
+}
+
+void TestPasteboard::countRisesOnceForEachChange()
+{
+    QFETCH(const QString, bench);
+    const std::unique_ptr<Bench> it = makeBench(bench);
+    Pasteboard &pasteboard = it->pasteboard();
+    QSignalSpy spy(&pasteboard, &Pasteboard::changed);
+    const qint64 start = pasteboard.changeCount();
+    pasteboard.setString(u"own"_s);
+    const qint64 own = pasteboard.changeCount();
+    QCOMPARE(own, start + 1);
+    // What the server tells of the own change has come when the content has been read.
+    QVERIFY(QCoro::waitFor(pasteboard.string()) == std::optional(u"own"_s));
+    QCOMPARE(pasteboard.changeCount(), own);
+    it->copyElsewhere(u"theirs"_s);
+    QVERIFY(QCoro::waitFor(pasteboard.string()) == std::optional(u"theirs"_s));
+    QCOMPARE(pasteboard.changeCount(), own + 1);
+    it->copyElsewhere(u"theirs again"_s);
+    QVERIFY(QCoro::waitFor(pasteboard.string()) == std::optional(u"theirs again"_s));
+    pasteboard.clearContents();
+    pasteboard.writeObjects({richItem()});
+    QVERIFY(!QCoro::waitFor(pasteboard.pasteboardItems()).isEmpty());
+    QCOMPARE(pasteboard.changeCount(), own + 4);
+    QCOMPARE(spy.count(), 5);
+}
+
+void TestPasteboard::anotherProgramsContentIsRestored()
+{
+    Program vesk;
+    Program other;
+    other.pasteboard.writeObjects({richItem()});
+    other.catchUp();
+    const QList<PasteboardItem> saved = QCoro::waitFor(vesk.pasteboard.pasteboardItems());
+    vesk.pasteboard.setString(u"note"_s);
+    QVERIFY(QCoro::waitFor(other.pasteboard.string()) == std::optional(u"note"_s));
+    vesk.pasteboard.writeObjects(saved);
+    vesk.catchUp();
+    QVERIFY(QCoro::waitFor(other.pasteboard.pasteboardItems()) == only(richItem()));
+}
+
+void TestPasteboard::twentyMegabytesReachSeveralReaders()
+{
+    const PasteboardItem item{text(randomBytes(20'000'000).toBase64())};
+    Program vesk;
+    Program other;
+    vesk.pasteboard.writeObjects({item});
+    vesk.catchUp();
+    QCoro::Task<QList<PasteboardItem>> first = other.pasteboard.pasteboardItems();
+    QCoro::Task<QList<PasteboardItem>> second = other.pasteboard.pasteboardItems();
+    const QList<PasteboardItem> own = QCoro::waitFor(vesk.pasteboard.pasteboardItems());
+    QVERIFY(own == only(item));
+    QVERIFY(QCoro::waitFor(first) == only(item));
+    QVERIFY(QCoro::waitFor(second) == only(item));
+}
+
+void TestPasteboard::readerThatGoesHalfwayHarmsNobody()
+{
+    const PasteboardItem item{text(QByteArray(2'000'000, 'x'))};
+    Program vesk;
+    vesk.pasteboard.writeObjects({item});
+    vesk.catchUp();
+    {
+        const std::unique_ptr<X11Connection> reader = X11Connection::open().connection;
+        xcb_convert_selection(reader->xcb(), reader->window(), reader->atom("CLIPBOARD"),
+                              reader->atom("text/plain;charset=utf-8"), reader->atom("GOING"),
+                              XCB_CURRENT_TIME);
+        reader->flush();
+        QTRY_VERIFY(!reader->property(reader->window(), reader->atom("GOING")).isEmpty());
+    }
+    QVERIFY(QCoro::waitFor(vesk.pasteboard.pasteboardItems()) == only(item));
+}
+
+void TestPasteboard::changeBeforeOwnWriteIsNotCountedAfterIt()
+{
+    Program vesk;
+    Program other;
+    other.pasteboard.setString(u"theirs"_s);
+    // Nobody has heard of that copy yet.
+    other.sync();
+    vesk.pasteboard.setString(u"own"_s);
+    const qint64 own = vesk.pasteboard.changeCount();
+    vesk.catchUp();
+    QCOMPARE(vesk.pasteboard.changeCount(), own);
+    QVERIFY(QCoro::waitFor(other.pasteboard.string()) == std::optional(u"own"_s));
+}
+
+void TestPasteboard::silentOwnerIsAskedOnce()
+{
+    const SelectionOwner owner("x", SelectionOwner::Manner::Silent, "CLIPBOARD");
+    Program vesk;
+    QTimer ticker;
+    int ticks = 0;
+    connect(&ticker, &QTimer::timeout, this, [&ticks] { ++ticks; });
+    ticker.start(5);
+    QVERIFY(QCoro::waitFor(vesk.pasteboard.pasteboardItems()).isEmpty());
+    QCOMPARE(owner.readings(), 1);
+    QVERIFY(ticks > 5);
+    QVERIFY(!QCoro::waitFor(vesk.pasteboard.string()));
+    QCOMPARE(owner.readings(), 2);
+}
+
+void TestPasteboard::secretIsNotEvenRead()
+{
+    const SelectionOwner owner("password", SelectionOwner::Manner::Secret, "CLIPBOARD");
+    Program vesk;
+    QVERIFY(QCoro::waitFor(vesk.pasteboard.pasteboardItems()).isEmpty());
+    QVERIFY(!QCoro::waitFor(vesk.pasteboard.string()));
+    QCOMPARE(owner.readings(), 0);
+}
+
+void TestPasteboard::lostSelectionIsNotServed()
+{
+    Program own;
+    SelectionServer server(*own.connection, own.connection->atom("CLIPBOARD"));
+    server.offer({text("ours")});
+    own.catchUp();
+    QVERIFY(server.isOwner());
+    Program other;
+    other.pasteboard.setString(u"theirs"_s);
+    other.catchUp();
+    QTRY_VERIFY(!server.isOwner());
+    // News of the loss of an offer that has been followed by another is no news.
+    server.offer({text("ours")});
+    other.pasteboard.setString(u"theirs"_s);
+    other.sync();
+    server.offer({text("ours again")});
+    own.catchUp();
+    QVERIFY(server.isOwner());
+    QVERIFY(QCoro::waitFor(other.pasteboard.string()) == std::optional(u"ours again"_s));
+}
+
+void TestPasteboard::formsOfText_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QByteArray>("target");
+    QTest::addColumn<QByteArray>("type");
+    QTest::addColumn<QByteArray>("bytes");
+    const auto latin = u"ä"_s;
+    const auto other = u"ж"_s;
+    QTest::newRow("UTF-8") << other << "UTF8_STRING"_qba
+                           << "UTF8_STRING"_qba
+                           << "\xd0\xb6"_qba;
+    QTest::newRow("plain") << other << "text/plain"_qba
+                           << "text/plain"_qba
+                           << "\xd0\xb6"_qba;
+    QTest::newRow("any") << other << "TEXT"_qba
+                         << "UTF8_STRING"_qba
+                         << "\xd0\xb6"_qba;
+    QTest::newRow("Latin") << latin << "STRING"_qba
+                           << "STRING"_qba
+                           << "\xe4"_qba;
+    QTest::newRow("not Latin") << other << "STRING"_qba << QByteArray() << QByteArray();
+}
+
+void TestPasteboard::formsOfText()
+{
+    QFETCH(const QString, text);
+    QFETCH(const QByteArray, target);
+    QFETCH(const QByteArray, type);
+    QFETCH(const QByteArray, bytes);
+    Program vesk;
+    Program other;
+    vesk.pasteboard.setString(text);
+    vesk.catchUp();
+    const SelectionTransfer::Data data = QCoro::waitFor(
+        SelectionTransfer::read(*other.connection, other.connection->atom("CLIPBOARD"),
+                                other.connection->atom(target.constData()), qsizetype{1} << 16));
+    QCOMPARE(data.outcome == SelectionTransfer::Outcome::Complete, !type.isEmpty());
+    if (!type.isEmpty())
+        QCOMPARE(data.type, other.connection->atom(type.constData()));
+    QCOMPARE(data.bytes, bytes);
+}
+
+int main(int argc, char **argv)
+{
+    return runDesktopTest<TestPasteboard>(argc, argv);
+}
+
+#include "tst_pasteboard.moc"
