@@ -8,12 +8,18 @@ const QString MemoryPasteboard::kTextType = QStringLiteral("text/plain;charset=u
 QCoro::Task<QList<PasteboardItem>> MemoryPasteboard::pasteboardItems()
 {
     // QCoro 0.8 moves out of what is returned by name, members too, unless it is const.
-    co_return std::as_const(m_items);
+    const QList<PasteboardItem> items = m_items;
+    if (m_clock)
+        co_await m_clock->sleep(m_delay);
+    co_return items;
 }
 
 QCoro::Task<std::optional<QString>> MemoryPasteboard::string()
 {
-    for (const PasteboardItem &item : std::as_const(m_items)) {
+    const QList<PasteboardItem> items = m_items;
+    if (m_clock)
+        co_await m_clock->sleep(m_delay);
+    for (const PasteboardItem &item : items) {
         for (const PasteboardData &representation : item) {
             if (representation.type == kTextType)
                 co_return QString::fromUtf8(representation.data);

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/clock.h"
 #include "platform/pasteboard.h"
+
+#include <chrono>
 
 namespace vesk {
 
@@ -24,12 +27,20 @@ public:
 
     /// Plays a platform that does not tell of changes.
     void setReportsChanges(bool reportsChanges) { m_reportsChanges = reportsChanges; }
+    /// Lets reading take this long, and give what was there when it began.
+    void setDelay(Clock &clock, std::chrono::milliseconds delay)
+    {
+        m_clock = &clock;
+        m_delay = delay;
+    }
     /// What is on it now, read at once.
     [[nodiscard]] const QList<PasteboardItem> &items() const { return m_items; }
 
 private:
     qint64 m_changeCount = 0;
     bool m_reportsChanges = true;
+    Clock *m_clock = nullptr;
+    std::chrono::milliseconds m_delay{0};
     QList<PasteboardItem> m_items;
 };
 
