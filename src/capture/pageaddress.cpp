@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "capture/pageaddress.h"
+
+#include "notes/markup.h"
+#include "platform/accessibility.h"
+#include "platform/clock.h"
+
+#include <coroutine>
+#include <memory>
+#include <utility>
+
+namespace vesk {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::chrono::milliseconds kDeadline{300};
+constexpr int kMaximumDepth = 40;
+
+/// What the search and the deadline race for: the first that settles it lets the caller go on.
+struct Answer
+{
+    bool isSettled = false;
+    std::optional<QString> address;
+    std::coroutine_handle<> waiting;
+
+    void settle(const std::optional<QString> &found)
+    {
+        if (isSettled)
+            return;
+        isSettled = true;
+        address = found;
+        if (waiting)
+            std::exchange(waiting, {}).resume();
+    }
+};
+
+/// Suspends until the answer is settled.
+struct Settling
+{
+    std::shared_ptr<Answer> answer;
+
+    [[nodiscard]] bool await_ready() const noexcept { return answer->isSettled; }
+    void await_suspend(std::coroutine_handle<> handle) const { answer->waiting = handle; }
+    void await_resume() const noexcept {}
+};
+
+std::optional<QString> webAddress(const std::optional<QString> &url)
+{
+    const QString text = markup::trimmed(url.value_or(QString()));
+    const QString scheme = text.left(std::max(text.indexOf(u':'), qsizetype{0}));
+    if (scheme != u"http"_s && scheme != u"https"_s)
+        return std::nullopt;
+    return text;
+}
+
+QCoro::Task<> settleAtDeadline(Clock *clock, std::shared_ptr<Answer> answer)
+{
+    co_await clock->sleep(kDeadline);
+    answer->settle(std::nullopt);
+}
+
+QCoro::Task<> search(Accessibility *accessibility, qint64 processIdentifier, std::shared_ptr<Answer> answer)
+{
+    // The outermost web area is the page; one inside it is a frame, whose address nobody knows.
+    std::optional<AccessibleElement> page;
+    std::optional<AccessibleElement> element =
+        co_await accessibility->copyElement(Accessibility::applicationElement(processIdentifier),
+                                            Accessibility::ElementAttribute::FocusedElement);
+    for (int depth = 1; element && !answer->isSettled; ++depth) {
+        const std::optional<QString> role =
+            co_await accessibility->copyString(*element, Accessibility::StringAttribute::Role);
+        if (role && markup::trimmed(*role) == Accessibility::kWebAreaRole)
+            page = element;
+        if (answer->isSettled || depth == kMaximumDepth)
+            break;
+        element = co_await accessibility->copyElement(*element, Accessibility::ElementAttribute::Parent);
+    }
+    std::optional<QString> url;
+    if (page && !answer->isSettled)
+        url = co_await accessibility->copyString(*page, Accessibility::StringAttribute::Url);
+    answer->settle(webAddress(url));
+}
+
+} // namespace
+
+QCoro::Task<std::optional<QString>> readPageAddress(Accessibility *accessibility, Clock *clock,
+                                                    qint64 processIdentifier)
+{
+    const auto answer = std::make_shared<Answer>();
+    search(accessibility, processIdentifier, answer);
+    if (!answer->isSettled)
+        settleAtDeadline(clock, answer);
+    const Settling settling{answer};
+    co_await settling;
+    co_return std::as_const(answer->address);
+}
+
+} // namespace vesk

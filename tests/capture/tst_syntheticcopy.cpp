@@ -1,0 +1,308 @@
+// SPDX-License-Identifier: MIT
+#include "capture/pasteboardwatcher.h"
+#include "capture/syntheticcopy.h"
+#include "platform/memory/memoryclock.h"
+#include "platform/memory/memorykeyboard.h"
+#include "platform/memory/memorypasteboard.h"
+#include "platform/memory/memoryworkspace.h"
+
+#include <QTest>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace vesk;
+
+namespace {
+
+using Command = EventPoster::Command;
+
+/// An application that is asked to copy, and a user who has something on the pasteboard.
+struct World
+{
+    MemoryClock clock;
+    MemoryWorkspace workspace;
+    MemoryPasteboard pasteboard;
+    MemoryEventPoster poster;
+    MemoryEventTap tap;
+    PasteboardWatcher watcher{pasteboard, clock};
+    std::unique_ptr<SyntheticCopy> copy =
+        std::make_unique<SyntheticCopy>(SyntheticCopy::Needs{.clock = clock,
+                                                             .workspace = workspace,
+                                                             .pasteboard = pasteboard,
+                                                             .watcher = watcher,
+                                                             .poster = poster,
+                                                             .tap = tap});
+    const QList<PasteboardItem> users{
+        PasteboardItem{PasteboardData{.type = u"text/html"_s, .data = "<b>old</b>"},
+                       PasteboardData{.type = MemoryPasteboard::kTextType, .data = "old"}},
+        PasteboardItem{PasteboardData{.type = u"image/png"_s, .data = "png"}}};
+    bool isAnswered = false;
+    std::optional<QString> answer;
+
+    World()
+    {
+        watcher.start();
+        pasteboard.writeObjects(users);
+        bringForward(4711);
+    }
+
+    void ask()
+    {
+        isAnswered = false;
+        copy->copySelection().then([this](std::optional<QString> text) {
+            isAnswered = true;
+            answer = text;
+        });
+    }
+
+    void writePicture()
+    {
+        const PasteboardData picture{.type = u"image/png"_s, .data = "other"};
+        pasteboard.writeObjects({PasteboardItem{picture}});
+    }
+
+    void bringForward(qint64 processIdentifier)
+    {
+        workspace.setFrontmostApplication(RunningApplication{
+            .processIdentifier = processIdentifier, .localizedName = {}, .bundleIdentifier = {}});
+    }
+};
+
+/// Something that happens after the application has ignored the keys.
+using Event = std::function<void(World &)>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(Event)
+
+/// What is read by letting the application copy, and what the user finds on the pasteboard after.
+class TestSyntheticCopy : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void copies_data();
+    void copies();
+    void emptyPasteboardIsEmptyAgain();
+    void pastedTextStaysVesksOwn();
+    void ignoredKeysLeaveThePasteboardAlone();
+    void refusedKeysAreNotWaitedFor();
+    void userCopiesBeforeTheRestore();
+    void copyAnnouncedTwiceIsRestored();
+    void secondQuestionMeanwhileIsRefused();
+    void lateCopy_data();
+    void lateCopy();
+    void vesksOwnWritingIsNotUndone();
+    void deafPlatformUndoesNothing();
+    void lateCopyAnswersTheNextQuestion();
+    void endOfTheProgramWhileWaiting();
+};
+
+void TestSyntheticCopy::copies_data()
+{
+    QTest::addColumn<int>("after");
+    QTest::addColumn<QString>("copied");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("at once") << 0 << u" word\n"_s << u"word"_s;
+    QTest::newRow("at the last look") << 490 << u"word"_s << u"word"_s;
+    QTest::newRow("only white space") << 10 << u" \n\u00a0"_s << u"-"_s;
+    QTest::newRow("a picture") << 10 << QString() << u"-"_s;
+}
+
+void TestSyntheticCopy::copies()
+{
+    QFETCH(const int, after);
+    QFETCH(const QString, copied);
+    QFETCH(const QString, expected);
+    World world;
+    const auto write = [&] {
+        if (copied.isNull())
+            world.writePicture();
+        else
+            world.pasteboard.setString(copied);
+    };
+    if (after == 0)
+        world.poster.setResponse([&write](Command) { write(); });
+    world.ask();
+    if (after > 0) {
+        world.clock.advance(std::chrono::milliseconds{after});
+        write();
+        world.clock.advance(25ms);
+    }
+    QVERIFY(world.isAnswered);
+    QCOMPARE(world.answer.value_or(u"-"_s), expected);
+    QCOMPARE(world.pasteboard.items(), world.users);
+    QCOMPARE(world.poster.posted(), QList{Command::Copy});
+}
+
+void TestSyntheticCopy::emptyPasteboardIsEmptyAgain()
+{
+    World world;
+    world.pasteboard.clearContents();
+    world.poster.setResponse([&world](Command) { world.pasteboard.setString(u"word"_s); });
+    world.ask();
+    QCOMPARE(world.answer, u"word"_s);
+    QVERIFY(world.pasteboard.items().isEmpty());
+}
+
+void TestSyntheticCopy::pastedTextStaysVesksOwn()
+{
+    World world;
+    world.pasteboard.setString(u"pasted by Vesk"_s);
+    world.watcher.markOwn();
+    world.poster.setResponse([&world](Command) { world.writePicture(); });
+    world.ask();
+    QVERIFY(world.watcher.standing().isOwn);
+}
+
+void TestSyntheticCopy::ignoredKeysLeaveThePasteboardAlone()
+{
+    World world;
+    const qint64 before = world.pasteboard.changeCount();
+    world.ask();
+    world.clock.advance(499ms);
+    QVERIFY(!world.isAnswered);
+    world.clock.advance(1ms);
+    QVERIFY(world.isAnswered);
+    QVERIFY(!world.answer);
+    world.clock.advance(1min);
+    QCOMPARE(world.pasteboard.changeCount(), before);
+}
+
+void TestSyntheticCopy::refusedKeysAreNotWaitedFor()
+{
+    World world;
+    world.poster.setAllowed(false);
+    world.ask();
+    QVERIFY(world.isAnswered);
+    QVERIFY(!world.answer);
+    // No copy was asked for, so this one is the user's.
+    world.pasteboard.setString(u"the user's"_s);
+    world.clock.advance(1s);
+    QCOMPARE(world.pasteboard.items().size(), 1);
+}
+
+void TestSyntheticCopy::userCopiesBeforeTheRestore()
+{
+    World world;
+    world.poster.setResponse([&world](Command) { world.pasteboard.setString(u"word"_s); });
+    world.pasteboard.setDelay(world.clock, 40ms);
+    world.ask();
+    world.clock.advance(60ms);
+    world.pasteboard.setString(u"the user's"_s);
+    const QList<PasteboardItem> copied = world.pasteboard.items();
+    world.clock.advance(1s);
+    QCOMPARE(world.answer, u"word"_s);
+    QCOMPARE(world.pasteboard.items(), copied);
+}
+
+void TestSyntheticCopy::copyAnnouncedTwiceIsRestored()
+{
+    World world;
+    world.poster.setResponse([&world](Command) { world.pasteboard.setString(u"word"_s); });
+    world.pasteboard.setDelay(world.clock, 40ms);
+    world.ask();
+    world.clock.advance(60ms);
+    world.pasteboard.setString(u"word"_s);
+    world.clock.advance(1s);
+    QCOMPARE(world.answer, u"word"_s);
+    QCOMPARE(world.pasteboard.items(), world.users);
+}
+
+void TestSyntheticCopy::secondQuestionMeanwhileIsRefused()
+{
+    World world;
+    world.ask();
+    world.clock.advance(100ms);
+    world.ask();
+    QVERIFY(world.isAnswered);
+    QVERIFY(!world.answer);
+    world.pasteboard.setString(u"word"_s);
+    world.clock.advance(25ms);
+    QCOMPARE(world.answer, u"word"_s);
+    QCOMPARE(world.pasteboard.items(), world.users);
+    QCOMPARE(world.poster.posted().size(), 1);
+}
+
+void TestSyntheticCopy::lateCopy_data()
+{
+    QTest::addColumn<Event>("event");
+    QTest::addColumn<bool>("isUndone");
+    QTest::newRow("application was hung") << Event([](World &) {}) << true;
+    QTest::newRow("Vesk came forward")
+        << Event([](World &world) { world.bringForward(QCoreApplication::applicationPid()); }) << true;
+    QTest::newRow("user typed a key") << Event([](World &world) { world.tap.press(); }) << false;
+    QTest::newRow("user went elsewhere") << Event([](World &world) { world.bringForward(1); }) << false;
+    QTest::newRow("after 10 seconds") << Event([](World &world) { world.clock.advance(10s); }) << false;
+    QTest::newRow("after an earlier one") << Event([](World &world) {
+        world.pasteboard.setString(u"late"_s);
+        world.clock.advance(1s);
+    }) << false;
+}
+
+void TestSyntheticCopy::lateCopy()
+{
+    QFETCH(const Event, event);
+    QFETCH(const bool, isUndone);
+    World world;
+    world.ask();
+    world.clock.advance(1s);
+    event(world);
+    world.pasteboard.setString(u"word"_s);
+    const QList<PasteboardItem> copied = world.pasteboard.items();
+    world.clock.advance(1s);
+    QCOMPARE(world.pasteboard.items(), isUndone ? world.users : copied);
+}
+
+void TestSyntheticCopy::vesksOwnWritingIsNotUndone()
+{
+    World world;
+    world.ask();
+    world.clock.advance(1s);
+    world.pasteboard.setString(u"to be pasted"_s);
+    world.watcher.markOwn();
+    const QList<PasteboardItem> written = world.pasteboard.items();
+    world.clock.advance(1s);
+    QCOMPARE(world.pasteboard.items(), written);
+}
+
+void TestSyntheticCopy::deafPlatformUndoesNothing()
+{
+    World world;
+    world.tap.setAllowed(false);
+    world.ask();
+    world.clock.advance(1s);
+    world.pasteboard.setString(u"perhaps the user's"_s);
+    world.clock.advance(1s);
+    QVERIFY(world.pasteboard.items() != world.users);
+}
+
+void TestSyntheticCopy::lateCopyAnswersTheNextQuestion()
+{
+    World world;
+    world.ask();
+    world.clock.advance(3s);
+    world.ask();
+    world.pasteboard.setString(u"word"_s);
+    world.clock.advance(1s);
+    QCOMPARE(world.answer, u"word"_s);
+    QCOMPARE(world.pasteboard.items(), world.users);
+}
+
+void TestSyntheticCopy::endOfTheProgramWhileWaiting()
+{
+    World world;
+    world.ask();
+    world.clock.advance(1s);
+    world.pasteboard.setString(u"late"_s);
+    world.ask();
+    world.copy.reset();
+    world.clock.advance(1min);
+    QCOMPARE(world.clock.sleeperCount(), 0);
+}
+
+QTEST_GUILESS_MAIN(TestSyntheticCopy)
+
+#include "tst_syntheticcopy.moc"
