@@ -87,18 +87,15 @@ QCoro::Task<std::optional<QString>> SyntheticCopy::takeCopy(Saved saved)
 {
     const QPointer<SyntheticCopy> self(this);
     Pasteboard &pasteboard = m_needs.pasteboard;
-    qint64 made = pasteboard.changeCount();
-    const std::optional<QString> text = co_await pasteboard.string();
+    // Some applications (LibreOffice Writer) announce one copy twice, within a moment.
+    co_await m_needs.clock.sleep(kCopyPeriod);
     if (self.isNull())
+        co_return std::nullopt;
+    const qint64 made = pasteboard.changeCount();
+    const std::optional<QString> text = co_await pasteboard.string();
+    // What the user has copied meanwhile stays.
+    if (self.isNull() || pasteboard.changeCount() != made)
         co_return text;
-    if (pasteboard.changeCount() != made) {
-        // Some applications (LibreOffice Writer) announce one copy twice. Another text, though, is
-        // what the user has copied meanwhile, and stays.
-        made = pasteboard.changeCount();
-        const std::optional<QString> again = co_await pasteboard.string();
-        if (self.isNull() || again != text || pasteboard.changeCount() != made)
-            co_return text;
-    }
     restore(saved);
     co_return text;
 }

@@ -129,8 +129,8 @@ void TestSyntheticCopy::copies()
     if (after > 0) {
         world.clock.advance(std::chrono::milliseconds{after});
         write();
-        world.clock.advance(25ms);
     }
+    world.clock.advance(50ms);
     QVERIFY(world.isAnswered);
     QCOMPARE(world.answer.value_or(u"-"_s), expected);
     QCOMPARE(world.pasteboard.items(), world.users);
@@ -143,6 +143,7 @@ void TestSyntheticCopy::emptyPasteboardIsEmptyAgain()
     world.pasteboard.clearContents();
     world.poster.setResponse([&world](Command) { world.pasteboard.setString(u"word"_s); });
     world.ask();
+    world.clock.advance(50ms);
     QCOMPARE(world.answer, u"word"_s);
     QVERIFY(world.pasteboard.items().isEmpty());
 }
@@ -154,6 +155,8 @@ void TestSyntheticCopy::pastedTextStaysVesksOwn()
     world.watcher.markOwn();
     world.poster.setResponse([&world](Command) { world.writePicture(); });
     world.ask();
+    world.clock.advance(50ms);
+    QVERIFY(world.isAnswered);
     QVERIFY(world.watcher.standing().isOwn);
 }
 
@@ -190,7 +193,8 @@ void TestSyntheticCopy::userCopiesBeforeTheRestore()
     world.poster.setResponse([&world](Command) { world.pasteboard.setString(u"word"_s); });
     world.pasteboard.setDelay(world.clock, 40ms);
     world.ask();
-    world.clock.advance(60ms);
+    // The saving takes 40 ms, then the application copies; reading begins 25 ms later.
+    world.clock.advance(80ms);
     world.pasteboard.setString(u"the user's"_s);
     const QList<PasteboardItem> copied = world.pasteboard.items();
     world.clock.advance(1s);
@@ -202,9 +206,8 @@ void TestSyntheticCopy::copyAnnouncedTwiceIsRestored()
 {
     World world;
     world.poster.setResponse([&world](Command) { world.pasteboard.setString(u"word"_s); });
-    world.pasteboard.setDelay(world.clock, 40ms);
     world.ask();
-    world.clock.advance(60ms);
+    world.clock.advance(10ms);
     world.pasteboard.setString(u"word"_s);
     world.clock.advance(1s);
     QCOMPARE(world.answer, u"word"_s);
@@ -220,7 +223,7 @@ void TestSyntheticCopy::secondQuestionMeanwhileIsRefused()
     QVERIFY(world.isAnswered);
     QVERIFY(!world.answer);
     world.pasteboard.setString(u"word"_s);
-    world.clock.advance(25ms);
+    world.clock.advance(50ms);
     QCOMPARE(world.answer, u"word"_s);
     QCOMPARE(world.pasteboard.items(), world.users);
     QCOMPARE(world.poster.posted().size(), 1);
