@@ -37,7 +37,9 @@ public:
         Parent,
     };
     enum class StringAttribute {
-        /// Never given for a password field, nor for content that its owner declares secret.
+        /// Empty if surely nothing is selected, which no other way of asking should then call in
+        /// doubt; none if it cannot be told. Never the content of a password field, which counts as
+        /// nothing selected, nor content that its owner declares secret.
         SelectedText,
         /// The platform's role name in lower case; a web page is `kWebAreaRole`.
         Role,
@@ -68,9 +70,8 @@ public:
 
     /// A string of the element, not trimmed. A question takes 300 ms at most, but for the transfer
     /// of a long text, which goes on while it makes progress. None if the element has no such
-    /// string, does not answer, or is gone; for the selected text, also if nothing is selected. A
-    /// text of more than `kMaximumTextBytes` may come cut anywhere beyond that size; the caller
-    /// refuses it.
+    /// string, does not answer, or is gone. A text of more than `kMaximumTextBytes` may come cut
+    /// anywhere beyond that size; the caller refuses it.
     virtual QCoro::Task<std::optional<QString>> copyString(AccessibleElement element,
                                                            StringAttribute attribute) = 0;
 

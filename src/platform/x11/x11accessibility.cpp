@@ -93,11 +93,14 @@ QCoro::Task<std::optional<QString>> X11Accessibility::selectedText(AccessibleEle
 {
     const QPointer<X11Accessibility> self(this);
     const bool isOnBus = !element.address.isEmpty();
+    std::optional<QString> elementRole;
     if (isOnBus) {
         // Asked before anything is read: toolkits put a password field's clear text into PRIMARY.
-        const std::optional<QString> elementRole = co_await m_atSpi.role(element);
-        if (self.isNull() || elementRole == "password text"_L1)
+        elementRole = co_await m_atSpi.role(element);
+        if (self.isNull())
             co_return std::nullopt;
+        if (elementRole == "password text"_L1)
+            co_return QString();
     }
     if (isPrimaryFresh(element.processIdentifier)) {
         const std::optional<QString> text = co_await m_primary.text();
@@ -107,7 +110,8 @@ QCoro::Task<std::optional<QString>> X11Accessibility::selectedText(AccessibleEle
     if (!isOnBus)
         co_return std::nullopt;
     const std::optional<QString> selected = co_await m_atSpi.selectedText(element);
-    if (!selected || selected->isEmpty())
+    // Browsers say of a page that nothing is selected although all of it is.
+    if (selected && selected->isEmpty() && elementRole == kWebAreaRole)
         co_return std::nullopt;
     co_return selected;
 }
