@@ -13,6 +13,9 @@
 #include <QRandomGenerator>
 #include <QSignalSpy>
 
+#include <array>
+#include <tuple>
+
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
@@ -123,6 +126,7 @@ private Q_SLOTS:
     void silentOwnerIsAskedOnce();
     void secretIsNotEvenRead();
     void lostSelectionIsNotServed();
+    void severalFormsAreGivenAtOnce();
     void formsOfText_data();
     void formsOfText();
 
@@ -331,6 +335,25 @@ void TestPasteboard::lostSelectionIsNotServed()
     own.catchUp();
     QVERIFY(server.isOwner());
     QVERIFY(QCoro::waitFor(other.pasteboard.string()) == std::optional(u"ours again"_s));
+}
+
+void TestPasteboard::severalFormsAreGivenAtOnce()
+{
+    Program vesk;
+    const Program other;
+    vesk.pasteboard.setString(u"ж"_s);
+    const X11Connection &reader = *other.connection;
+    const std::array<xcb_atom_t, 4> pairs{reader.atom("UTF8_STRING"), reader.atom("FIRST"),
+                                          reader.atom("image/png"), reader.atom("SECOND")};
+    xcb_change_property(reader.xcb(), XCB_PROP_MODE_REPLACE, reader.window(), reader.atom("PAIRS"),
+                        reader.atom("ATOM_PAIR"), 32, pairs.size(), pairs.data());
+    xcb_convert_selection(reader.xcb(), reader.window(), reader.atom("CLIPBOARD"), reader.atom("MULTIPLE"),
+                          reader.atom("PAIRS"), XCB_CURRENT_TIME);
+    other.sync();
+    QTRY_COMPARE(reader.property(reader.window(), reader.atom("FIRST")), "\xd0\xb6"_qba);
+    const std::array<xcb_atom_t, 4> answer{pairs[0], pairs[1], XCB_ATOM_NONE, pairs[3]};
+    const QByteArray expected(reinterpret_cast<const char *>(answer.data()), sizeof answer);
+    QTRY_COMPARE(reader.property(reader.window(), reader.atom("PAIRS")), expected);
 }
 
 void TestPasteboard::formsOfText_data()

@@ -175,11 +175,8 @@ void SelectionServer::sendInPieces(SelectionSender::Request request, const Repre
 {
     // A reader that uses a property again has given up what it had asked for there.
     std::erase_if(m_senders, [&](const auto &sender) { return sender->request() == request; });
-    // Our own window is listened to anyhow, and must go on being so.
-    if (request.requestor != m_connection.window()) {
-        const uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
-        xcb_change_window_attributes(m_connection.xcb(), request.requestor, XCB_CW_EVENT_MASK, &events);
-    }
+    const uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+    xcb_change_window_attributes(m_connection.xcb(), request.requestor, XCB_CW_EVENT_MASK, &events);
     auto sender =
         std::make_unique<SelectionSender>(m_connection, request, representation.type, representation.bytes);
     connect(
@@ -194,7 +191,7 @@ void SelectionServer::onSent(SelectionSender::Request request)
                   [&](const auto &sender) { return sender->request() == request && sender->isFinished(); });
     const bool isRead = std::ranges::any_of(
         m_senders, [&](const auto &sender) { return sender->request().requestor == request.requestor; });
-    if (isRead || request.requestor == m_connection.window())
+    if (isRead)
         return;
     const uint32_t none = XCB_EVENT_MASK_NO_EVENT;
     xcb_change_window_attributes(m_connection.xcb(), request.requestor, XCB_CW_EVENT_MASK, &none);

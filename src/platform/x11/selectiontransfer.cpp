@@ -5,25 +5,9 @@
 
 #include <QCoroSignal>
 
-#include <array>
 #include <memory>
 
 namespace vesk {
-
-namespace {
-
-/// Names for the properties of the transfers, used in turn.
-xcb_atom_t nextProperty(const X11Connection &connection)
-{
-    static constexpr std::array kNames{"VESK_SELECTION_0", "VESK_SELECTION_1", "VESK_SELECTION_2",
-                                       "VESK_SELECTION_3", "VESK_SELECTION_4", "VESK_SELECTION_5",
-                                       "VESK_SELECTION_6", "VESK_SELECTION_7"};
-    static size_t next = 0;
-    next = (next + 1) % kNames.size();
-    return connection.atom(kNames[next]);
-}
-
-} // namespace
 
 QCoro::Task<SelectionTransfer::Data> SelectionTransfer::read(X11Connection &connection, xcb_atom_t selection,
                                                              xcb_atom_t target, qsizetype limit)
@@ -37,10 +21,9 @@ QCoro::Task<SelectionTransfer::Data> SelectionTransfer::read(X11Connection &conn
 
 SelectionTransfer::SelectionTransfer(X11Connection &connection, xcb_atom_t selection, xcb_atom_t target,
                                      qsizetype limit)
-    : m_connection(connection)
-    , m_selection(selection)
-    , m_target(target)
-    , m_property(nextProperty(connection))
+    : m_connection(&connection)
+    , m_window(xcb_generate_id(connection.xcb()))
+    , m_property(connection.atom("VESK_SELECTION"))
     , m_limit(limit)
 {
     m_stall.setSingleShot(true);
@@ -48,12 +31,21 @@ SelectionTransfer::SelectionTransfer(X11Connection &connection, xcb_atom_t selec
     m_stall.setInterval(kDeadline);
     connect(&m_stall, &QTimer::timeout, this, [this] { finish(Outcome::Stalled); });
     connect(&connection, &X11Connection::eventReceived, this, &SelectionTransfer::onEvent);
-    xcb_delete_property(connection.xcb(), connection.window(), m_property);
+    const uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_create_window(connection.xcb(), XCB_COPY_FROM_PARENT, m_window, connection.root(), -1, -1, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
     // The time of the hot key would be refused by owners that claim a selection a little after it.
-    xcb_convert_selection(connection.xcb(), connection.window(), selection, target, m_property,
-                          XCB_CURRENT_TIME);
+    xcb_convert_selection(connection.xcb(), m_window, selection, target, m_property, XCB_CURRENT_TIME);
     connection.flush();
     m_stall.start();
+}
+
+SelectionTransfer::~SelectionTransfer()
+{
+    if (m_connection.isNull())
+        return;
+    xcb_destroy_window(m_connection->xcb(), m_window);
+    m_connection->flush();
 }
 
 void SelectionTransfer::onEvent(const xcb_generic_event_t *event)
@@ -63,14 +55,11 @@ void SelectionTransfer::onEvent(const xcb_generic_event_t *event)
     const auto type = event->response_type & 0x7f;
     if (type == XCB_SELECTION_NOTIFY) {
         const auto *notify = reinterpret_cast<const xcb_selection_notify_event_t *>(event);
-        const bool isOurs = notify->requestor == m_connection.window() && notify->selection == m_selection
-                            && notify->target == m_target;
-        // A refusal names no property, so it cannot be told from one to an older transfer; both mean no.
-        if (isOurs && (notify->property == m_property || notify->property == XCB_ATOM_NONE))
+        if (notify->requestor == m_window)
             onNotify(notify->property);
     } else if (type == XCB_PROPERTY_NOTIFY && m_isIncremental) {
         const auto *notify = reinterpret_cast<const xcb_property_notify_event_t *>(event);
-        if (notify->window == m_connection.window() && notify->atom == m_property
+        if (notify->window == m_window && notify->atom == m_property
             && notify->state == XCB_PROPERTY_NEW_VALUE)
             onChunk();
     }
@@ -83,7 +72,7 @@ void SelectionTransfer::onNotify(xcb_atom_t property)
         return;
     }
     Data first = takeProperty();
-    if (first.type == m_connection.atom("INCR")) {
+    if (first.type == m_connection->atom("INCR")) {
         m_isIncremental = true;
         m_stall.start();
         return;
@@ -111,9 +100,10 @@ void SelectionTransfer::onChunk()
 SelectionTransfer::Data SelectionTransfer::takeProperty()
 {
     constexpr uint32_t kWhole = 1 << 28;
-    const auto cookie = xcb_get_property(m_connection.xcb(), 1, m_connection.window(), m_property,
-                                         XCB_GET_PROPERTY_TYPE_ANY, 0, kWhole);
-    const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_connection.xcb(), cookie, nullptr));
+    const auto cookie =
+        xcb_get_property(m_connection->xcb(), 1, m_window, m_property, XCB_GET_PROPERTY_TYPE_ANY, 0, kWhole);
+    const XReply<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(m_connection->xcb(), cookie, nullptr));
     if (!reply)
         return {};
     const auto *bytes = static_cast<const char *>(xcb_get_property_value(reply.get()));

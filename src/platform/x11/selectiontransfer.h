@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 
 #include <xcb/xcb.h>
@@ -48,6 +49,8 @@ public:
     [[nodiscard]] static QCoro::Task<Data> read(X11Connection &connection, xcb_atom_t selection,
                                                 xcb_atom_t target, qsizetype limit);
 
+    ~SelectionTransfer() override;
+
 Q_SIGNALS:
     void finished();
 
@@ -61,10 +64,10 @@ private:
     [[nodiscard]] Data takeProperty();
     void finish(Outcome outcome);
 
-    X11Connection &m_connection;
-    xcb_atom_t m_selection;
-    xcb_atom_t m_target;
-    /// Of its own for each transfer, so that a late answer to an old one is not taken for this one's.
+    QPointer<X11Connection> m_connection;
+    /// Of its own for each transfer. An owner that answers late answers nobody, and one that is left
+    /// halfway sees its reader go, and does not take the next transfer for the rest of this one.
+    xcb_window_t m_window;
     xcb_atom_t m_property;
     qsizetype m_limit;
     QTimer m_stall;

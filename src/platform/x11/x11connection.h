@@ -41,7 +41,7 @@ public:
 
     [[nodiscard]] xcb_connection_t *xcb() const { return m_connection; }
     [[nodiscard]] xcb_window_t root() const { return m_screen->root; }
-    /// A window of our own that is never shown; selections are converted onto it.
+    /// A window of our own that is never shown; events that need a window are sent to it.
     [[nodiscard]] xcb_window_t window() const { return m_window; }
 
     [[nodiscard]] xcb_atom_t atom(const char *name) const;
