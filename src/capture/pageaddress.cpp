@@ -5,6 +5,7 @@
 #include "platform/accessibility.h"
 #include "platform/clock.h"
 
+#include <algorithm>
 #include <coroutine>
 #include <memory>
 #include <utility>

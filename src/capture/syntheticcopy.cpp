@@ -10,8 +10,6 @@
 #include <QCoreApplication>
 #include <QPointer>
 
-#include <utility>
-
 namespace vesk {
 
 using namespace std::chrono_literals;
@@ -29,8 +27,11 @@ SyntheticCopy::SyntheticCopy(const Needs &needs)
     : m_needs(needs)
 {
     connect(&needs.watcher, &PasteboardWatcher::changed, this, [this] {
-        if (m_late)
-            undoLateCopy();
+        if (!m_late)
+            return;
+        const Saved saved = *m_late;
+        m_late.reset();
+        undoLateCopy(saved);
     });
     // A change after something that the user did may be a copy of the user's own.
     connect(&needs.tap, &EventTap::keyDown, this, [this] { m_late.reset(); });
@@ -125,15 +126,14 @@ QCoro::Task<> SyntheticCopy::stopAwaitingLater()
         m_late.reset();
 }
 
-QCoro::Task<> SyntheticCopy::undoLateCopy()
+QCoro::Task<> SyntheticCopy::undoLateCopy(Saved saved)
 {
     const QPointer<SyntheticCopy> self(this);
-    const std::optional<Saved> saved = std::exchange(m_late, std::nullopt);
     // Time for whoever has written to say that it was Vesk, and for a second announcement.
     co_await m_needs.clock.sleep(kCopyPeriod);
     if (self.isNull() || m_isCopying || m_needs.watcher.standing().isOwn)
         co_return;
-    restore(*saved);
+    restore(saved);
 }
 
 } // namespace vesk

@@ -58,7 +58,7 @@ private:
 
     void awaitLateCopy(const Saved &saved);
     QCoro::Task<> stopAwaitingLater();
-    QCoro::Task<> undoLateCopy();
+    QCoro::Task<> undoLateCopy(Saved saved);
 
     Needs m_needs;
     bool m_isCopying = false;
