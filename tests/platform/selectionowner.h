@@ -35,6 +35,8 @@ public:
 
     /// How often its content was asked for.
     [[nodiscard]] int readings() const { return m_readings; }
+    /// Whether a reader has yet to take pieces.
+    [[nodiscard]] bool isSending() const { return m_property != XCB_ATOM_NONE; }
 
 private:
     [[nodiscard]] xcb_atom_t atom(const char *name) const;

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void secretIsNotEvenRead();
     void eventLoopTurnsWhileAnOwnerIsSilent();
     void lateAnswerIsNotTakenForTheNext();
+    void readingGivenUpLetsTheOwnerFinish();
     void ownerAndTimeAreKnown();
 
 private:
@@ -111,6 +112,16 @@ void TestPrimarySelection::lateAnswerIsNotTakenForTheNext()
     const SelectionTransfer::Data data = QCoro::waitFor(read());
     QVERIFY(data.outcome == SelectionTransfer::Outcome::Complete);
     QCOMPARE(data.bytes, "new"_qba);
+}
+
+void TestPrimarySelection::readingGivenUpLetsTheOwnerFinish()
+{
+    const SelectionOwner owner(QByteArray(1'000'000, 'x'), SelectionOwner::Manner::Incremental);
+    const SelectionTransfer::Data data = QCoro::waitFor(SelectionTransfer::read(
+        *m_connection, XCB_ATOM_PRIMARY, m_connection->atom("UTF8_STRING"), qsizetype{150'000}));
+    QVERIFY(data.outcome == SelectionTransfer::Outcome::Complete);
+    QVERIFY(owner.isSending());
+    QTRY_VERIFY(!owner.isSending());
 }
 
 void TestPrimarySelection::ownerAndTimeAreKnown()

@@ -12,11 +12,13 @@ namespace vesk {
 QCoro::Task<SelectionTransfer::Data> SelectionTransfer::read(X11Connection &connection, xcb_atom_t selection,
                                                              xcb_atom_t target, qsizetype limit)
 {
-    const std::unique_ptr<SelectionTransfer> transfer(
-        new SelectionTransfer(connection, selection, target, limit));
+    std::unique_ptr<SelectionTransfer> transfer(new SelectionTransfer(connection, selection, target, limit));
     if (!transfer->m_isFinished)
         co_await qCoro(transfer.get(), &SelectionTransfer::finished);
-    co_return std::move(transfer->m_data);
+    Data data = std::move(transfer->m_data);
+    if (!transfer->m_hasEnded && !transfer->m_connection.isNull())
+        transfer.release()->linger();
+    co_return std::move(data);
 }
 
 SelectionTransfer::SelectionTransfer(X11Connection &connection, xcb_atom_t selection, xcb_atom_t target,
@@ -50,8 +52,6 @@ SelectionTransfer::~SelectionTransfer()
 
 void SelectionTransfer::onEvent(const xcb_generic_event_t *event)
 {
-    if (m_isFinished)
-        return;
     const auto type = event->response_type & 0x7f;
     if (type == XCB_SELECTION_NOTIFY) {
         const auto *notify = reinterpret_cast<const xcb_selection_notify_event_t *>(event);
@@ -68,7 +68,7 @@ void SelectionTransfer::onEvent(const xcb_generic_event_t *event)
 void SelectionTransfer::onNotify(xcb_atom_t property)
 {
     if (property == XCB_ATOM_NONE || m_isIncremental) {
-        finish(Outcome::Refused);
+        end(Outcome::Refused);
         return;
     }
     Data first = takeProperty();
@@ -78,14 +78,18 @@ void SelectionTransfer::onNotify(xcb_atom_t property)
         return;
     }
     m_data = std::move(first);
-    finish(m_data.type == XCB_ATOM_NONE ? Outcome::Refused : Outcome::Complete);
+    end(m_data.type == XCB_ATOM_NONE ? Outcome::Refused : Outcome::Complete);
 }
 
 void SelectionTransfer::onChunk()
 {
     const Data chunk = takeProperty();
     if (chunk.bytes.isEmpty()) {
-        finish(Outcome::Complete);
+        end(Outcome::Complete);
+        return;
+    }
+    if (m_isFinished) {
+        m_stall.start();
         return;
     }
     m_data.type = chunk.type;
@@ -110,6 +114,24 @@ SelectionTransfer::Data SelectionTransfer::takeProperty()
     return {.type = reply->type,
             .format = reply->format,
             .bytes = QByteArray(bytes, xcb_get_property_value_length(reply.get()))};
+}
+
+void SelectionTransfer::linger()
+{
+    constexpr std::chrono::seconds kPatience{10};
+    setParent(m_connection);
+    connect(&m_stall, &QTimer::timeout, this, &QObject::deleteLater);
+    m_stall.setInterval(kPatience);
+    m_stall.start();
+}
+
+void SelectionTransfer::end(Outcome outcome)
+{
+    m_hasEnded = true;
+    if (m_isFinished)
+        deleteLater();
+    else
+        finish(outcome);
 }
 
 void SelectionTransfer::finish(Outcome outcome)

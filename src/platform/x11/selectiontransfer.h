@@ -62,17 +62,22 @@ private:
     void onChunk();
     /// Takes the property of the transfer, which tells the owner that it may go on.
     [[nodiscard]] Data takeProperty();
+    /// Goes on taking what the owner still sends, without keeping it, after the reading was given up.
+    /// An owner left halfway may not serve the next reading, and some die when their reader vanishes.
+    void linger();
+    /// The owner has nothing more to send.
+    void end(Outcome outcome);
     void finish(Outcome outcome);
 
     QPointer<X11Connection> m_connection;
-    /// Of its own for each transfer. An owner that answers late answers nobody, and one that is left
-    /// halfway sees its reader go, and does not take the next transfer for the rest of this one.
+    /// Of its own for each transfer, so that no late answer to one is taken for another's.
     xcb_window_t m_window;
     xcb_atom_t m_property;
     qsizetype m_limit;
     QTimer m_stall;
     bool m_isIncremental = false;
     bool m_isFinished = false;
+    bool m_hasEnded = false;
     Data m_data;
 };
 
