@@ -33,6 +33,8 @@ SelectionTransfer::SelectionTransfer(X11Connection &connection, xcb_atom_t selec
     m_stall.setInterval(kDeadline);
     connect(&m_stall, &QTimer::timeout, this, [this] { finish(Outcome::Stalled); });
     connect(&connection, &X11Connection::eventReceived, this, &SelectionTransfer::onEvent);
+    // Nothing comes any more then, and whoever waits may not outlive the event loop.
+    connect(&connection, &QObject::destroyed, this, [this] { finish(Outcome::Refused); });
     const uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_create_window(connection.xcb(), XCB_COPY_FROM_PARENT, m_window, connection.root(), -1, -1, 1, 1, 0,
                       XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
