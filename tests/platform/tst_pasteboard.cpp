@@ -10,8 +10,10 @@
 
 #include <QCoroTask>
 
+#include <QEventLoop>
 #include <QRandomGenerator>
 #include <QSignalSpy>
+#include <QTimer>
 
 #include <array>
 #include <tuple>
@@ -34,7 +36,10 @@ struct Program
     void catchUp() const
     {
         sync();
-        QCoreApplication::processEvents();
+        // What came along with a reply is read when the event loop is about to sleep.
+        QEventLoop loop;
+        QTimer::singleShot(1, &loop, &QEventLoop::quit);
+        loop.exec();
     }
 };
 
