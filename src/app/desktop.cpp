@@ -13,6 +13,9 @@ Desktop::Desktop(std::unique_ptr<X11Connection> connection, ApplicationService &
     , application(*x11, workspace, service)
     , hotKeys(*x11, input)
     , accessibility(*x11, input, workspace, consent)
+    , pasteboard(*x11)
+    , poster(*x11, input, workspace, clock)
+    , tap(input)
 {
 }
 

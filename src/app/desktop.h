@@ -11,7 +11,10 @@
 #include "platform/x11/x11accessibility.h"
 #include "platform/x11/x11application.h"
 #include "platform/x11/x11connection.h"
+#include "platform/x11/x11eventposter.h"
+#include "platform/x11/x11eventtap.h"
 #include "platform/x11/x11hotkeys.h"
+#include "platform/x11/x11pasteboard.h"
 #include "platform/x11/x11screens.h"
 #include "platform/x11/x11windows.h"
 #include "platform/x11/x11workspace.h"
@@ -39,6 +42,9 @@ struct Desktop
     X11Application application;
     X11HotKeys hotKeys;
     X11Accessibility accessibility;
+    X11Pasteboard pasteboard;
+    X11EventPoster poster;
+    X11EventTap tap;
 };
 
 } // namespace vesk

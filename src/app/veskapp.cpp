@@ -20,7 +20,20 @@ QQmlEngine &lent(QQmlEngine &engine, Desktop &desktop)
 } // namespace
 
 VeskApp::VeskApp(Desktop &desktop, NotesStore &store)
-    : m_reader(desktop.accessibility, desktop.workspace)
+    : m_watcher(desktop.pasteboard, desktop.clock)
+    , m_reader({.accessibility = desktop.accessibility,
+                .workspace = desktop.workspace,
+                .pasteboard = desktop.pasteboard,
+                .watcher = m_watcher,
+                .poster = desktop.poster,
+                .tap = desktop.tap,
+                .clock = desktop.clock})
+    , m_pasteBack({.clock = desktop.clock,
+                   .application = desktop.application,
+                   .workspace = desktop.workspace,
+                   .pasteboard = desktop.pasteboard,
+                   .watcher = m_watcher,
+                   .poster = desktop.poster})
     , m_panel(store, desktop.clock, desktop.defaults, desktop.application, desktop.accessibility)
     , m_panelWindow(lent(m_engine, desktop), m_panel, desktop.application, desktop.screens, desktop.windows)
     , m_toast(m_engine, desktop.screens, desktop.windows, desktop.clock)
@@ -38,6 +51,8 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store)
     connect(&desktop.application, &Application::reopened, &m_panelWindow, &PanelWindow::showPanel);
     connect(&desktop.accessibility, &X11Accessibility::trustAsked, &m_accessWindow, &AccessWindow::show);
     connect(desktop.x11.get(), &X11Connection::lost, this, [] { QCoreApplication::exit(1); });
+    connect(&m_panel, &PanelModel::pasteRequested, &m_pasteBack, &PasteBack::pasteIntoPreviousApp);
+    m_watcher.start();
     m_services.start();
     QTimer::singleShot(0, this, [&desktop] { desktop.workspace.warmUp(); });
 }

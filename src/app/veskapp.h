@@ -2,6 +2,8 @@
 #pragma once
 
 #include "app/accesswindow.h"
+#include "capture/pasteback.h"
+#include "capture/pasteboardwatcher.h"
 #include "capture/selectionreader.h"
 #include "commands/veskservices.h"
 #include "panel/panelmodel.h"
@@ -26,7 +28,9 @@ public:
 
 private:
     QQmlEngine m_engine;
+    PasteboardWatcher m_watcher;
     SelectionReader m_reader;
+    PasteBack m_pasteBack;
     PanelModel m_panel;
     PanelWindow m_panelWindow;
     Toast m_toast;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "commands/veskservices.h"
 
-#include "capture/selectionreader.h"
 #include "input/hotkeytable.h"
 #include "notes/notesstore.h"
 #include "panel/panelmodel.h"
@@ -65,7 +64,8 @@ void VeskServices::capture(Target target)
     captureSelection(target, m_needs.reader.readSource());
 }
 
-QCoro::Task<> VeskServices::captureSelection(Target target, std::optional<CaptureSource> source)
+QCoro::Task<> VeskServices::captureSelection(Target target,
+                                             std::optional<SelectionReader::SourceAtPress> press)
 {
     if (!m_needs.accessibility.isProcessTrusted()) {
         openComposer();
@@ -73,13 +73,23 @@ QCoro::Task<> VeskServices::captureSelection(Target target, std::optional<Captur
         co_return;
     }
     const QPointer<VeskServices> self(this);
+    // Asked for first and waited for last, so that the two answers come side by side.
+    const auto address = m_needs.reader.readPageAddress(press ? press->processIdentifier : 0);
     const std::optional<QString> text = co_await m_needs.reader.readSelection();
     if (self.isNull())
         co_return;
-    if (text)
-        keep(*text, target, source);
-    else
+    if (!text) {
         openComposer();
+        co_return;
+    }
+    std::optional<CaptureSource> source;
+    if (press) {
+        source = press->source;
+        source->url = co_await address;
+        if (self.isNull())
+            co_return;
+    }
+    keep(*text, target, source);
 }
 
 void VeskServices::keep(const QString &text, Target target, const std::optional<CaptureSource> &source)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "capture/selectionreader.h"
 #include "input/globalhotkey.h"
 #include "notes/capturesource.h"
 #include "platform/clock.h"
@@ -17,7 +18,6 @@ class Accessibility;
 class NotesStore;
 class PanelModel;
 class PanelWindow;
-class SelectionReader;
 class Sounds;
 class Toast;
 
@@ -58,7 +58,7 @@ public:
     void capture(Target target);
 
 private:
-    QCoro::Task<> captureSelection(Target target, std::optional<CaptureSource> source);
+    QCoro::Task<> captureSelection(Target target, std::optional<SelectionReader::SourceAtPress> press);
     void keep(const QString &text, Target target, const std::optional<CaptureSource> &source);
     /// Saves, then tells the user; in this order, so that what is said to be saved is.
     void saveAndConfirm(const QString &message, const QString &symbol);

@@ -2,6 +2,8 @@
 #include "capture/selectionreader.h"
 #include "platform/memory/memoryaccessibility.h"
 #include "platform/memory/memoryclock.h"
+#include "platform/memory/memorykeyboard.h"
+#include "platform/memory/memorypasteboard.h"
 #include "platform/memory/memoryworkspace.h"
 
 #include <QCoroTask>
@@ -12,6 +14,56 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
+namespace {
+
+/// The desktop of a user who works in an editor.
+struct World
+{
+    static constexpr qint64 kPid = 4711;
+
+    MemoryClock clock;
+    MemoryAccessibility accessibility{clock};
+    MemoryWorkspace workspace;
+    MemoryPasteboard pasteboard;
+    MemoryEventPoster poster;
+    MemoryEventTap tap;
+    PasteboardWatcher watcher{pasteboard, clock};
+    SelectionReader reader{{.accessibility = accessibility,
+                            .workspace = workspace,
+                            .pasteboard = pasteboard,
+                            .watcher = watcher,
+                            .poster = poster,
+                            .tap = tap,
+                            .clock = clock}};
+    bool isAnswered = false;
+    std::optional<QString> answer;
+
+    World()
+    {
+        watcher.start();
+        workspace.setFrontmostApplication(RunningApplication{.processIdentifier = kPid,
+                                                             .localizedName = u"Editor"_s,
+                                                             .bundleIdentifier = u"org.example.Editor"_s});
+    }
+
+    void select(const std::optional<QString> &text)
+    {
+        const AccessibleElement field{.processIdentifier = kPid, .address = u"field"_s};
+        accessibility.setElement(field, {.role = u"text"_s, .selectedText = text, .url = {}, .parent = {}});
+        accessibility.setFocusedElement(field);
+    }
+
+    void ask()
+    {
+        reader.readSelection().then([this](std::optional<QString> text) {
+            isAnswered = true;
+            answer = text;
+        });
+    }
+};
+
+} // namespace
+
 /// What counts as selected, and what is said of where it was.
 class TestSelectionReader : public QObject
 {
@@ -21,14 +73,15 @@ private Q_SLOTS:
     void selection_data();
     void selection();
     void selectionThatComesLate();
+    void readableSelectionLeavesThePasteboardAlone();
+    void unreadableSelectionIsCopied();
+    void surelyNothingSelectedIsNotCopied();
+    void recentCopyIsTheLastResort_data();
+    void recentCopyIsTheLastResort();
+    void withoutTrustNothingIsCopied();
     void source_data();
     void source();
     void sourceOfNobody();
-
-private:
-    static constexpr qint64 kPid = 4711;
-    const RunningApplication m_editor{
-        .processIdentifier = kPid, .localizedName = u"Editor"_s, .bundleIdentifier = u"org.example.Editor"_s};
 };
 
 void TestSelectionReader::selection_data()
@@ -46,34 +99,103 @@ void TestSelectionReader::selection()
 {
     QFETCH(const std::optional<QString>, selected);
     QFETCH(const std::optional<QString>, expected);
-    MemoryClock clock;
-    MemoryAccessibility accessibility(clock);
-    MemoryWorkspace workspace;
-    const AccessibleElement field{.processIdentifier = kPid, .address = u"field"_s};
-    accessibility.setElement(field, {.role = u"text"_s, .selectedText = selected, .url = {}, .parent = {}});
-    accessibility.setFocusedElement(field);
-    SelectionReader reader(accessibility, workspace);
-    QCOMPARE(QCoro::waitFor(reader.readSelection()), expected);
-    accessibility.setFocusedElement(std::nullopt);
-    QCOMPARE(QCoro::waitFor(reader.readSelection()), std::optional<QString>());
+    World world;
+    world.poster.setAllowed(false);
+    world.select(selected);
+    world.ask();
+    QVERIFY(world.isAnswered);
+    QCOMPARE(world.answer, expected);
 }
 
 void TestSelectionReader::selectionThatComesLate()
 {
-    MemoryClock clock;
-    MemoryAccessibility accessibility(clock);
-    MemoryWorkspace workspace;
-    const AccessibleElement field{.processIdentifier = kPid, .address = u"field"_s};
-    accessibility.setElement(field, {.role = u"text"_s, .selectedText = u"late"_s, .url = {}, .parent = {}});
-    accessibility.setFocusedElement(field);
-    accessibility.setDelay(80ms);
-    SelectionReader reader(accessibility, workspace);
-    std::optional<QString> text;
-    const auto task = reader.readSelection().then([&text](std::optional<QString> result) { text = result; });
-    clock.advance(100ms);
-    QVERIFY(!text);
-    clock.advance(60ms);
-    QCOMPARE(text, u"late"_s);
+    World world;
+    world.select(u"late"_s);
+    world.accessibility.setDelay(80ms);
+    world.ask();
+    world.clock.advance(100ms);
+    QVERIFY(!world.answer);
+    world.clock.advance(60ms);
+    QCOMPARE(world.answer, u"late"_s);
+}
+
+void TestSelectionReader::readableSelectionLeavesThePasteboardAlone()
+{
+    World world;
+    world.select(u"selected"_s);
+    world.pasteboard.setString(u"copied"_s);
+    const qint64 before = world.pasteboard.changeCount();
+    world.ask();
+    QCOMPARE(world.answer, u"selected"_s);
+    QVERIFY(world.poster.posted().isEmpty());
+    QCOMPARE(world.pasteboard.changeCount(), before);
+}
+
+void TestSelectionReader::unreadableSelectionIsCopied()
+{
+    World world;
+    world.select(u" \n"_s);
+    world.pasteboard.setString(u"copied before"_s);
+    world.poster.setResponse([&world](EventPoster::Command) { world.pasteboard.setString(u"selected"_s); });
+    world.ask();
+    world.clock.advance(1s);
+    QCOMPARE(world.answer, u"selected"_s);
+    QCOMPARE(QCoro::waitFor(world.pasteboard.string()), u"copied before"_s);
+}
+
+void TestSelectionReader::surelyNothingSelectedIsNotCopied()
+{
+    World world;
+    world.select(QString());
+    world.poster.setResponse(
+        [&world](EventPoster::Command) { world.pasteboard.setString(u"the line of the caret"_s); });
+    world.ask();
+    QVERIFY(world.isAnswered);
+    QVERIFY(!world.answer);
+    QVERIFY(world.poster.posted().isEmpty());
+}
+
+void TestSelectionReader::recentCopyIsTheLastResort_data()
+{
+    QTest::addColumn<bool>("copiesPicture");
+    QTest::addColumn<int>("age");
+    QTest::addColumn<std::optional<QString>>("expected");
+    QTest::newRow("5 seconds ago") << false << 5 << std::optional(u"copied"_s);
+    QTest::newRow("9 seconds ago") << false << 9 << std::optional<QString>();
+    QTest::newRow("5 seconds ago, a picture is selected") << true << 5 << std::optional(u"copied"_s);
+    // Putting the text back does not make it new.
+    QTest::newRow("9 seconds ago, a picture is selected") << true << 9 << std::optional<QString>();
+}
+
+void TestSelectionReader::recentCopyIsTheLastResort()
+{
+    QFETCH(const bool, copiesPicture);
+    QFETCH(const int, age);
+    QFETCH(const std::optional<QString>, expected);
+    World world;
+    world.pasteboard.setString(u"copied"_s);
+    world.clock.advance(std::chrono::seconds{age});
+    if (copiesPicture) {
+        world.poster.setResponse([&world](EventPoster::Command) {
+            const PasteboardData picture{.type = u"image/png"_s, .data = "png"};
+            world.pasteboard.writeObjects({PasteboardItem{picture}});
+        });
+    }
+    world.ask();
+    world.clock.advance(500ms);
+    QVERIFY(world.isAnswered);
+    QCOMPARE(world.answer, expected);
+}
+
+void TestSelectionReader::withoutTrustNothingIsCopied()
+{
+    World world;
+    world.pasteboard.setString(u"private"_s);
+    world.accessibility.setTrusted(false);
+    world.ask();
+    QVERIFY(world.isAnswered);
+    QVERIFY(!world.answer);
+    QVERIFY(world.poster.posted().isEmpty());
 }
 
 void TestSelectionReader::source_data()
@@ -92,32 +214,30 @@ void TestSelectionReader::source()
     QFETCH(const QString, title);
     QFETCH(const bool, isTrusted);
     QFETCH(const std::optional<QString>, expected);
-    MemoryClock clock;
-    MemoryAccessibility accessibility(clock);
-    MemoryWorkspace workspace;
-    workspace.setFrontmostApplication(m_editor);
-    accessibility.setFocusedWindowTitle(kPid, title);
-    accessibility.setTrusted(isTrusted);
+    World world;
+    world.accessibility.setFocusedWindowTitle(World::kPid, title);
+    world.accessibility.setTrusted(isTrusted);
+    const std::optional<SelectionReader::SourceAtPress> press = world.reader.readSource();
+    QVERIFY(press);
     const CaptureSource source{
         .app = u"Editor"_s, .bundleID = u"org.example.Editor"_s, .title = expected, .url = {}};
-    QCOMPARE(SelectionReader(accessibility, workspace).readSource(), std::optional(source));
+    QCOMPARE(press->source, source);
+    QCOMPARE(press->processIdentifier, World::kPid);
 }
 
 void TestSelectionReader::sourceOfNobody()
 {
-    MemoryClock clock;
-    MemoryAccessibility accessibility(clock);
-    MemoryWorkspace workspace;
-    const SelectionReader reader(accessibility, workspace);
-    QVERIFY(!reader.readSource());
-    workspace.setFrontmostApplication(
+    World world;
+    world.workspace.setFrontmostApplication(std::nullopt);
+    QVERIFY(!world.reader.readSource());
+    world.workspace.setFrontmostApplication(
         RunningApplication{.processIdentifier = QCoreApplication::applicationPid(),
                            .localizedName = u"Vesk"_s,
                            .bundleIdentifier = {}});
-    QVERIFY(!reader.readSource());
-    workspace.setFrontmostApplication(
-        RunningApplication{.processIdentifier = kPid, .localizedName = {}, .bundleIdentifier = {}});
-    QVERIFY(!reader.readSource());
+    QVERIFY(!world.reader.readSource());
+    world.workspace.setFrontmostApplication(
+        RunningApplication{.processIdentifier = World::kPid, .localizedName = {}, .bundleIdentifier = {}});
+    QVERIFY(!world.reader.readSource());
 }
 
 QTEST_GUILESS_MAIN(TestSelectionReader)

@@ -12,6 +12,7 @@
 #include "platform/memory/memoryclock.h"
 #include "platform/memory/memorydefaults.h"
 #include "platform/memory/memorykeyboard.h"
+#include "platform/memory/memorypasteboard.h"
 #include "platform/memory/memoryscreens.h"
 #include "platform/memory/memorysounds.h"
 #include "platform/memory/memorywindows.h"
@@ -63,7 +64,17 @@ struct World
     MemorySounds sounds;
     MemoryWindows windows{screens};
     QQmlEngine engine;
-    SelectionReader reader{accessibility, workspace};
+    MemoryPasteboard pasteboard;
+    MemoryEventPoster poster;
+    MemoryEventTap tap;
+    PasteboardWatcher watcher{pasteboard, clock};
+    SelectionReader reader{{.accessibility = accessibility,
+                            .workspace = workspace,
+                            .pasteboard = pasteboard,
+                            .watcher = watcher,
+                            .poster = poster,
+                            .tap = tap,
+                            .clock = clock}};
     PanelModel panel{store, clock, defaults, application, accessibility};
     std::unique_ptr<PanelWindow> panelWindow;
     std::unique_ptr<Toast> toast;
@@ -261,6 +272,8 @@ void TestVeskServices::nothingSelectedOpensTheComposer()
 {
     World world;
     world.press(hotkeytable::kQuickNote);
+    // The application has its time to copy.
+    world.clock.advance(500ms);
     QVERIFY(world.panelWindow->isShown());
     QCOMPARE(world.panel.requestedField(), PanelModel::Field::Composer);
     QVERIFY(world.texts().isEmpty());

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/desktoptest.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace vesk;
+
+/// The way of a text between Vesk and other applications by the clipboard.
+class TestClipboard : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void noteIsPastedIntoTheEditor();
+    void terminalSurvivesAndTheRecentCopyIsKept();
+
+private:
+    void capture() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_n}, kFinger); }
+    [[nodiscard]] std::optional<QString> clipboard()
+    {
+        return m_desktop->display().readSelection("CLIPBOARD", 1s);
+    }
+
+    const QStringList m_lines = {u"Water the lemon tree on the balcony"_s, u"Ask about the train to Ghent"_s};
+    std::unique_ptr<VirtualDesktop> m_desktop;
+    std::unique_ptr<ChildProcess> m_vesk;
+    std::unique_ptr<TextEditor> m_editor;
+};
+
+void TestClipboard::init()
+{
+    QString problem;
+    m_desktop = VirtualDesktop::start(problem);
+    QVERIFY2(m_desktop, qPrintable(problem));
+    QVERIFY(m_desktop->prepareUser());
+    m_vesk = m_desktop->startVesk();
+    QVERIFY(m_vesk);
+    m_editor = TextEditor::open(*m_desktop, m_lines);
+    VERIFY_ON(*m_desktop, m_editor);
+}
+
+void TestClipboard::cleanup()
+{
+    m_editor.reset();
+    m_vesk.reset();
+    m_desktop.reset();
+}
+
+void TestClipboard::noteIsPastedIntoTheEditor()
+{
+    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
+    capture();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+    VERIFY_ON(*m_desktop, m_editor->deselect());
+
+    m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}, kFinger);
+    const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
+    VERIFY_ON(*m_desktop, panel);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
+    m_desktop->keyboard().tap({XK_Down}, kFinger);
+    m_desktop->keyboard().tap({XK_Control_L, XK_Return}, kFinger);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+
+    // At the start of the document, where the caret was, and once.
+    const QString expected = m_lines.at(1) + m_lines.join(u'\n') + u'\n';
+    QTRY_COMPARE(m_editor->text(), expected);
+    QCOMPARE(clipboard(), m_lines.at(1));
+}
+
+/// Nothing is selected in the terminal, and it takes Copy for an interrupt.
+void TestClipboard::terminalSurvivesAndTheRecentCopyIsKept()
+{
+    const std::unique_ptr<ChildProcess> terminal =
+        m_desktop->run(u"xterm"_s, {u"-e"_s, u"sleep"_s, u"100"_s});
+    QVERIFY(terminal);
+    const std::optional<Window> window = m_desktop->windows().waitViewableOf(terminal->pid(), {}, kBound);
+    VERIFY_ON(*m_desktop, window);
+    capture();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
+    QVERIFY(terminal->isRunning());
+    QVERIFY(m_desktop->notes().texts().isEmpty());
+
+    m_desktop->windows().activate(m_editor->window());
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    m_desktop->keyboard().tap({XK_Control_L, XK_c}, kFinger);
+    VERIFY_ON(*m_desktop,
+              m_desktop->display().waitUntil(kBound, [this] { return clipboard() == m_lines.at(0); }));
+    QTest::qWait(int(kCaptureGate.count()));
+    m_desktop->windows().activate(*window);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(*window, kBound));
+    capture();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+    QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(0)});
+    QVERIFY(terminal->isRunning());
+    QCOMPARE(clipboard(), m_lines.at(0));
+}
+
+int main(int argc, char **argv)
+{
+    return runDesktopTest<TestClipboard>(argc, argv);
+}
+
+#include "tst_clipboard.moc"
