@@ -17,11 +17,12 @@ X11Application::X11Application(X11Connection &connection, X11Workspace &workspac
     : m_connection(connection)
     , m_workspace(workspace)
 {
-    // Long enough for a switch between windows, too short to be seen when the user clicks the desktop.
-    constexpr std::chrono::milliseconds kSwitch{100};
-    m_noWindow.setSingleShot(true);
-    m_noWindow.setInterval(kSwitch);
-    connect(&m_noWindow, &QTimer::timeout, this, [this] { setActive(false); });
+    // Long enough for the window manager to do all that it was asked to, too short to be seen when the
+    // user turns elsewhere.
+    constexpr std::chrono::milliseconds kSettled{100};
+    m_elsewhere.setSingleShot(true);
+    m_elsewhere.setInterval(kSettled);
+    connect(&m_elsewhere, &QTimer::timeout, this, [this] { setActive(false); });
     constexpr std::chrono::milliseconds kActivation{500};
     m_activation.setSingleShot(true);
     m_activation.setInterval(kActivation);
@@ -62,17 +63,15 @@ void X11Application::activate(QWindow &window)
 void X11Application::onActiveWindowChanged()
 {
     const std::optional<xcb_window_t> window = m_workspace.activeWindow();
-    if (!window) {
-        m_noWindow.start();
-        return;
-    }
-    m_noWindow.stop();
-    const bool isOwn = m_workspace.processOf(*window) == QCoreApplication::applicationPid();
-    if (isOwn)
+    if (window && m_workspace.processOf(*window) == QCoreApplication::applicationPid()) {
+        m_elsewhere.stop();
         m_activation.stop();
-    // News of the switch before ours is no reason to go away again.
-    if (isOwn || !m_activation.isActive())
-        setActive(isOwn);
+        setActive(true);
+    } else if (!m_elsewhere.isActive()) {
+        // A switch passes through other windows, or none: after a quick hide and show the news of the
+        // hide comes when the panel is up again.
+        m_elsewhere.start();
+    }
 }
 
 void X11Application::setActive(bool isActive)

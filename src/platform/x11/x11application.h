@@ -38,8 +38,8 @@ private:
 
     X11Connection &m_connection;
     X11Workspace &m_workspace;
-    /// Runs while no window is active, which is so for a moment in every switch.
-    QTimer m_noWindow;
+    /// Runs while another window, or none, is active; only once that lasts has the user turned elsewhere.
+    QTimer m_elsewhere;
     /// Runs from `activate` until the window manager has followed, or will not.
     QTimer m_activation;
     std::optional<xcb_window_t> m_previousWindow;
