@@ -7,6 +7,7 @@
 #include "components/surroundings.h"
 #include "notes/notesstore.h"
 
+#include <QClipboard>
 #include <QCommandLineParser>
 #include <QGuiApplication>
 #include <QQmlEngine>
@@ -108,6 +109,9 @@ int main(int argc, char *argv[])
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     const QGuiApplication program(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    // Qt's text fields read the clipboard whenever it changes, and Qt waits for its owner: for seconds if
+    // that one hangs, or is Vesk itself. They are not told of changes, and paste by our own pasteboard.
+    QGuiApplication::clipboard()->blockSignals(true);
     QGuiApplication::setDesktopFileName(u"org.vesk.Vesk"_s);
 
     QCommandLineParser parser;

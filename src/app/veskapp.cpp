@@ -5,6 +5,7 @@
 #include "components/surroundings.h"
 
 #include <QCoreApplication>
+#include <QPointer>
 #include <QTimer>
 
 namespace vesk {
@@ -52,9 +53,19 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store)
     connect(&desktop.accessibility, &X11Accessibility::trustAsked, &m_accessWindow, &AccessWindow::show);
     connect(desktop.x11.get(), &X11Connection::lost, this, [] { QCoreApplication::exit(1); });
     connect(&m_panel, &PanelModel::pasteRequested, &m_pasteBack, &PasteBack::pasteIntoPreviousApp);
+    connect(&m_panel, &PanelModel::fieldPasteRequested, this,
+            [this, &desktop] { pasteIntoField(desktop.pasteboard); });
     m_watcher.start();
     m_services.start();
     QTimer::singleShot(0, this, [&desktop] { desktop.workspace.warmUp(); });
+}
+
+QCoro::Task<> VeskApp::pasteIntoField(Pasteboard &pasteboard)
+{
+    const QPointer<VeskApp> self(this);
+    const std::optional<QString> text = co_await pasteboard.string();
+    if (!self.isNull() && text)
+        m_panel.insertIntoField(*text);
 }
 
 } // namespace vesk

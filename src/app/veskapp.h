@@ -10,11 +10,14 @@
 #include "panel/panelwindow.h"
 #include "quicknote/toast.h"
 
+#include <QCoroTask>
+
 #include <QObject>
 #include <QQmlEngine>
 
 namespace vesk {
 
+class Pasteboard;
 struct Desktop;
 
 /// The running program: the one instance of everything that the layers share.
@@ -27,6 +30,9 @@ public:
     VeskApp(Desktop &desktop, NotesStore &store);
 
 private:
+    /// Reads the pasteboard for the panel's field.
+    QCoro::Task<> pasteIntoField(Pasteboard &pasteboard);
+
     QQmlEngine m_engine;
     PasteboardWatcher m_watcher;
     SelectionReader m_reader;

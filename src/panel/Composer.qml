@@ -19,6 +19,11 @@ Plate {
         edit.forceActiveFocus();
     }
 
+    function replaceSelection(text: string) {
+        edit.remove(edit.selectionStart, edit.selectionEnd);
+        edit.insert(edit.cursorPosition, text);
+    }
+
     // Keeps the caret in sight while there are more lines than fit.
     function followCaret(caret: rect) {
         if (caret.y < flickable.contentY)
@@ -48,8 +53,12 @@ Plate {
         }
 
         function onLineBreakRequested() {
-            edit.remove(edit.selectionStart, edit.selectionEnd);
-            edit.insert(edit.cursorPosition, "\n");
+            root.replaceSelection("\n");
+        }
+
+        function onInsertRequested(text: string) {
+            if (edit.activeFocus)
+                root.replaceSelection(text);
         }
 
         target: root.model

@@ -28,6 +28,13 @@ Plate {
     }
 
     Connections {
+        function onInsertRequested(text: string) {
+            if (!input.activeFocus)
+                return;
+            input.remove(input.selectionStart, input.selectionEnd);
+            input.insert(input.cursorPosition, text.replace(/\s*\n\s*/g, " "));
+        }
+
         function onSearchChanged() {
             if (input.text !== root.model.search)
                 input.text = root.model.search;

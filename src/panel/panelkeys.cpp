@@ -24,6 +24,10 @@ bool PanelModel::handleKey(const QKeyEvent &event)
     // The locks and the number pad do not count.
     const Qt::KeyboardModifiers modifiers = event.modifiers() & kCounted;
     const bool isPlain = modifiers == Qt::NoModifier;
+    if (m_activeField != Field::None && event.matches(QKeySequence::Paste)) {
+        Q_EMIT fieldPasteRequested();
+        return true;
+    }
     switch (event.key()) {
     case Qt::Key_N:
     case Qt::Key_F:

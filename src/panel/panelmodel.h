@@ -64,6 +64,8 @@ public:
 
     /// Asks for a field, or with `None` for neither, to have the keyboard; the panel comes up for a field.
     void requestField(Field field);
+    /// Puts a text in place of the selection in the field that has the keyboard, if one has it.
+    void insertIntoField(const QString &text) { Q_EMIT insertRequested(text); }
     /// Turns the draft of the composer into a note; a blank one stays as it is.
     void commitDraft();
     /// Deletes a note; the selection passes on to what takes its place.
@@ -109,6 +111,11 @@ Q_SIGNALS:
     /// A field was asked for, so the panel has to be up and have the keyboard. The receiver shows it
     /// before it returns.
     void showRequested();
+    /// The field that has the keyboard shall get what is on the pasteboard, by `insertIntoField`. The
+    /// fields do not read it themselves, since that would wait for whoever owns it.
+    void fieldPasteRequested();
+    /// The field that has the keyboard shall put this in place of its selection.
+    void insertRequested(const QString &text);
     /// A text shall be pasted into the application that the user came from.
     void pasteRequested(const QString &text);
     /// The composer shall break the line where its caret is.

@@ -68,6 +68,19 @@ void TestClipboard::noteIsPastedIntoTheEditor()
     // At the start of the document, where the caret was, and once.
     QCOMPARE(m_editor->text(), m_lines.at(1) + m_lines.join(u'\n') + u'\n');
     QCOMPARE(clipboard(), m_lines.at(1));
+
+    // Vesk owns the clipboard now, and pastes it into its own field without waiting for itself.
+    m_desktop->keyboard().tap({XK_Control_L, XK_Super_L, XK_Alt_L, XK_n}, kFinger);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
+    m_desktop->keyboard().tap({XK_Control_L, XK_v}, kFinger);
+    QTest::qWait(100); // The text comes a moment after the key.
+    m_desktop->keyboard().type(u" tomorrow"_s);
+    m_desktop->keyboard().tap({XK_Return}, kFinger);
+    const QStringList expected{m_lines.at(1), m_lines.at(1) + u" tomorrow"_s};
+    constexpr std::chrono::seconds kAtOnce{2};
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(
+                              kAtOnce, [&] { return m_desktop->notes().texts() == expected; }));
 }
 
 /// Nothing is selected in the terminal, and it takes Copy for an interrupt.

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void composerCommits();
     void shortcutsFromAnyField_data();
     void shortcutsFromAnyField();
+    void pasteGoesIntoTheFieldThatHasTheKeyboard();
     void controlReturnPastesTheSelectedNote();
     void locksAndNumberPadDoNotCount();
     void sameFieldCanBeAskedForTwice();
@@ -203,6 +204,26 @@ void PanelKeysTest::shortcutsFromAnyField()
     QCOMPARE(m_fixture->model.activeField(), Field::Search);
     press(Qt::Key_N, Qt::ControlModifier | Qt::AltModifier);
     QCOMPARE(m_fixture->model.activeField(), Field::Search);
+}
+
+void PanelKeysTest::pasteGoesIntoTheFieldThatHasTheKeyboard()
+{
+    QSignalSpy pastes(&m_fixture->model, &PanelModel::fieldPasteRequested);
+    press(Qt::Key_V, Qt::ControlModifier);
+    QVERIFY(pastes.isEmpty());
+    press(Qt::Key_N, Qt::ControlModifier);
+    m_fixture->model.setDraft(u"instead of this"_s);
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(pastes.count(), 1);
+    m_fixture->model.insertIntoField(u"one\ntwo"_s);
+    QCOMPARE(m_fixture->model.draft(), u"one\ntwo"_s);
+    press(Qt::Key_F, Qt::ControlModifier);
+    press(Qt::Key_Insert, Qt::ShiftModifier);
+    QCOMPARE(pastes.count(), 2);
+    m_fixture->model.insertIntoField(u"one\n two"_s);
+    QCOMPARE(m_fixture->model.search(), u"one two"_s);
+    QCOMPARE(m_fixture->model.draft(), u"one\ntwo"_s);
 }
 
 void PanelKeysTest::controlReturnPastesTheSelectedNote()

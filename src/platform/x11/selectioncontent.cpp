@@ -82,7 +82,7 @@ QCoro::Task<std::optional<QString>> text(X11Connection &connection, xcb_atom_t s
     const QList<xcb_atom_t> targets = co_await readTargets(guard, selection);
     if (guard.isNull())
         co_return std::nullopt;
-    const auto best = std::ranges::find_if(kTextTargets, [&](const TextTarget &target) {
+    const auto *const best = std::ranges::find_if(kTextTargets, [&](const TextTarget &target) {
         return targets.contains(connection.atom(target.name));
     });
     if (best == kTextTargets.end())

@@ -94,7 +94,9 @@ bool X11EventPoster::hasLetterDown() const
 bool X11EventPoster::postToActiveWindow(Command command)
 {
     const std::optional<xcb_window_t> window = m_workspace.activeWindow();
-    const std::optional<qint64> process = window ? m_workspace.processOf(*window) : std::nullopt;
+    if (!window)
+        return false;
+    const std::optional<qint64> process = m_workspace.processOf(*window);
     if (!process || *process == QCoreApplication::applicationPid())
         return false;
     const WindowIdentity identity = m_workspace.identityOf(*window, *process);
