@@ -11,10 +11,11 @@ MessageWindow::Content question()
 {
     return {.heading = QObject::tr("Let Vesk read what you select?"),
             .message = QObject::tr(
-                "When you press one of Vesk’s keys, Vesk reads the text that is selected, and the "
-                "name and the window title of the application that it is selected in. It reads "
-                "nothing at other times, and sends nothing anywhere.\n\nApplications that are "
-                "open already may have to be started again before Vesk can read them."),
+                "When you press one of Vesk’s keys, Vesk reads the text that is selected, or was copied a "
+                "moment before, and where it is: the application, its window’s title and, in a browser, the "
+                "page’s address. At other times it only notices when a key or button was pressed, not which "
+                "one, to tell what is selected now from what was. It sends nothing anywhere.\n\n"
+                "Applications that are open already may have to be started again before Vesk can read them."),
             .acceptLabel = QObject::tr("Allow"),
             .rejectLabel = QObject::tr("Not Now")};
 }
