@@ -70,6 +70,9 @@ QCoro::Task<std::optional<QString>> SyntheticCopy::copyAndRestore()
     // Someone copies at this very moment; what is saved is of no use, and that copy is the newest.
     if (self.isNull() || pasteboard.changeCount() != before)
         co_return std::nullopt;
+    // A password, or the content of an application that hangs, could not be put back.
+    if (saved.items.isEmpty() && pasteboard.hasContents())
+        co_return std::nullopt;
     const bool isPosted = co_await m_needs.poster.post(EventPoster::Command::Copy);
     if (self.isNull() || !isPosted)
         co_return std::nullopt;

@@ -33,8 +33,12 @@ public:
     /// Rises with every change of the content, whoever made it, this program included.
     [[nodiscard]] virtual qint64 changeCount() const = 0;
 
+    /// Whether there is anything on the pasteboard, readable or not. Read at the call.
+    [[nodiscard]] virtual bool hasContents() const = 0;
+
     /// Everything on the pasteboard. Representations whose owner does not deliver them are left out;
-    /// an empty pasteboard gives an empty list, and so does content declared secret.
+    /// an empty pasteboard gives an empty list, and so does content that is declared secret or whose
+    /// owner stalls. What is not to be lost is therefore replaced only after asking `hasContents`.
     virtual QCoro::Task<QList<PasteboardItem>> pasteboardItems() = 0;
 
     /// The content as text. None if it has no text, is declared secret, or its owner does not answer.

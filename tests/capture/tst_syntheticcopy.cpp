@@ -86,6 +86,7 @@ private Q_SLOTS:
     void copies_data();
     void copies();
     void emptyPasteboardIsEmptyAgain();
+    void contentThatCannotBeSavedIsNotReplaced();
     void pastedTextStaysVesksOwn();
     void ignoredKeysLeaveThePasteboardAlone();
     void refusedKeysAreNotWaitedFor();
@@ -135,6 +136,19 @@ void TestSyntheticCopy::copies()
     QCOMPARE(world.answer.value_or(u"-"_s), expected);
     QCOMPARE(world.pasteboard.items(), world.users);
     QCOMPARE(world.poster.posted(), QList{Command::Copy});
+}
+
+void TestSyntheticCopy::contentThatCannotBeSavedIsNotReplaced()
+{
+    World world;
+    world.pasteboard.setSecret(true);
+    world.poster.setResponse([&world](Command) { world.pasteboard.setString(u"word"_s); });
+    world.ask();
+    world.clock.advance(1s);
+    QVERIFY(world.isAnswered);
+    QVERIFY(!world.answer);
+    QVERIFY(world.poster.posted().isEmpty());
+    QCOMPARE(world.pasteboard.items(), world.users);
 }
 
 void TestSyntheticCopy::emptyPasteboardIsEmptyAgain()

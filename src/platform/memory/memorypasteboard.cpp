@@ -7,6 +7,8 @@ const QString MemoryPasteboard::kTextType = QStringLiteral("text/plain;charset=u
 
 QCoro::Task<QList<PasteboardItem>> MemoryPasteboard::pasteboardItems()
 {
+    if (m_isSecret)
+        co_return QList<PasteboardItem>();
     // QCoro 0.8 moves out of what is returned by name, members too, unless it is const.
     const QList<PasteboardItem> items = m_items;
     if (m_clock)
@@ -16,6 +18,8 @@ QCoro::Task<QList<PasteboardItem>> MemoryPasteboard::pasteboardItems()
 
 QCoro::Task<std::optional<QString>> MemoryPasteboard::string()
 {
+    if (m_isSecret)
+        co_return std::nullopt;
     const QList<PasteboardItem> items = m_items;
     if (m_clock)
         co_await m_clock->sleep(m_delay);

@@ -18,6 +18,7 @@ public:
     static const QString kTextType;
 
     [[nodiscard]] qint64 changeCount() const override { return m_changeCount; }
+    [[nodiscard]] bool hasContents() const override { return !m_items.isEmpty(); }
     QCoro::Task<QList<PasteboardItem>> pasteboardItems() override;
     QCoro::Task<std::optional<QString>> string() override;
     void clearContents() override;
@@ -33,12 +34,15 @@ public:
         m_clock = &clock;
         m_delay = delay;
     }
+    /// Plays content whose owner declares it secret.
+    void setSecret(bool isSecret) { m_isSecret = isSecret; }
     /// What is on it now, read at once.
     [[nodiscard]] const QList<PasteboardItem> &items() const { return m_items; }
 
 private:
     qint64 m_changeCount = 0;
     bool m_reportsChanges = true;
+    bool m_isSecret = false;
     Clock *m_clock = nullptr;
     std::chrono::milliseconds m_delay{0};
     QList<PasteboardItem> m_items;

@@ -109,8 +109,9 @@ QCoro::Task<PasteboardItem> representations(X11Connection &connection, xcb_atom_
         asked.append(target);
         const SelectionTransfer::Data data =
             co_await SelectionTransfer::read(connection, selection, target, kMaximumBytes);
+        // A part would pass for the whole.
         if (data.outcome == Outcome::Stalled || guard.isNull())
-            break;
+            co_return PasteboardItem();
         // Numbers are facts about the owner itself (its windows, its lengths), not content.
         const bool isWhole = data.outcome == Outcome::Complete && data.bytes.size() <= kMaximumBytes;
         if (isWhole && data.format == 8)

@@ -34,6 +34,8 @@ public:
 
     /// Whether the selection is ours and the offer kept.
     [[nodiscard]] bool isOwner() const { return m_isOwner; }
+    /// Whether the last offer holds anything.
+    [[nodiscard]] bool hasOffer() const { return !m_representations.isEmpty(); }
     /// The window that owns the selection while it is ours.
     [[nodiscard]] xcb_window_t window() const { return m_window; }
     /// Whether the server made this event before it gave us the selection for the last offer.

@@ -33,6 +33,16 @@ X11Pasteboard::X11Pasteboard(X11Connection &connection)
     connect(&connection, &X11Connection::eventReceived, this, &X11Pasteboard::onEvent);
 }
 
+bool X11Pasteboard::hasContents() const
+{
+    if (m_server.isOwner())
+        return m_server.hasOffer();
+    const auto cookie = xcb_get_selection_owner(m_connection.xcb(), m_selection);
+    const XReply<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(m_connection.xcb(), cookie, nullptr));
+    return reply && reply->owner != XCB_WINDOW_NONE;
+}
+
 QCoro::Task<QList<PasteboardItem>> X11Pasteboard::pasteboardItems()
 {
     const QPointer<X11Pasteboard> self(this);

@@ -19,6 +19,7 @@ public:
     explicit X11Pasteboard(X11Connection &connection);
 
     [[nodiscard]] qint64 changeCount() const override { return m_changeCount; }
+    [[nodiscard]] bool hasContents() const override;
     QCoro::Task<QList<PasteboardItem>> pasteboardItems() override;
     QCoro::Task<std::optional<QString>> string() override;
     void clearContents() override;
