@@ -92,7 +92,10 @@ void TestClipboard::terminalSurvivesAndTheRecentCopyIsKept()
     const std::optional<Window> window = m_desktop->windows().waitViewableOf(terminal->pid(), {}, kBound);
     VERIFY_ON(*m_desktop, window);
     capture();
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
+    const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
+    VERIFY_ON(*m_desktop, panel);
+    // Only then does the editor, activated next, keep the keyboard.
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(*panel, kBound));
     QVERIFY(terminal->isRunning());
     QVERIFY(m_desktop->notes().texts().isEmpty());
 
