@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "editor/boxgeometry.h"
+
+#include "editor/editrules.h"
+#include "editor/notetext.h"
+#include "notes/markup.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QTextBlock>
+#include <QTextDocument>
+
+namespace vesk::boxgeometry {
+
+namespace {
+
+constexpr qreal kSize = 17;
+/// Beside and above the glyph a click still counts.
+constexpr qreal kBeside = 4;
+constexpr qreal kAbove = 3;
+
+QTextBlock blockAt(const NoteText &text, qreal y)
+{
+    const QTextDocument &document = text.document();
+    // The layout is done as far down as it has been asked for.
+    const int position = document.documentLayout()->hitTest(QPointF(0, y), Qt::FuzzyHit);
+    return document.findBlock(std::max(position, 0));
+}
+
+bool hasBox(const NoteText &text, const QTextBlock &block)
+{
+    return block.isValid() && block.layout()->lineCount() > 0 && editrules::startsWithBox(text.line(block));
+}
+
+QRectF glyphRectangle(const QTextBlock &block)
+{
+    const QTextLine line = block.layout()->lineAt(0);
+    const QPointF origin = block.layout()->position();
+    const qreal left = line.cursorToX(0);
+    return {origin.x() + left, origin.y() + line.y(), line.cursorToX(1) - left,
+            line.ascent() + line.descent()};
+}
+
+Box box(const NoteText &text, const QTextBlock &block)
+{
+    const QRectF glyph = glyphRectangle(block);
+    const QStringView line = text.line(block);
+    return {.position = block.position(),
+            .square = QRectF(glyph.x() + 1, glyph.y() + (glyph.height() - kSize) / 2, kSize, kSize),
+            .isTicked = line.front() == markup::kTicked.front(),
+            .label = line.sliced(1).trimmed().toString()};
+}
+
+} // namespace
+
+QList<Box> boxesBetween(const NoteText &text, qreal top, qreal bottom)
+{
+    QList<Box> boxes;
+    for (QTextBlock block = blockAt(text, top); block.isValid(); block = block.next()) {
+        if (block.layout()->position().y() > bottom)
+            break;
+        if (hasBox(text, block))
+            boxes.append(box(text, block));
+    }
+    return boxes;
+}
+
+std::optional<qsizetype> findBox(const NoteText &text, const QPointF &point)
+{
+    const QTextBlock nearest = blockAt(text, point.y());
+    for (const QTextBlock &block : {nearest, nearest.previous(), nearest.next()}) {
+        if (hasBox(text, block)
+            && glyphRectangle(block).adjusted(-kBeside, -kAbove, kBeside, kAbove).contains(point))
+            return block.position();
+    }
+    return std::nullopt;
+}
+
+} // namespace vesk::boxgeometry

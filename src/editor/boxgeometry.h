@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QRectF>
+#include <QString>
+
+#include <optional>
+
+namespace vesk {
+
+class NoteText;
+
+/// A checkbox at the start of a line.
+struct Box
+{
+    /// Of its glyph in the text, in UTF-16 units.
+    qsizetype position = 0;
+    /// Where the circle is drawn, in the document's coordinates.
+    QRectF square;
+    bool isTicked = false;
+    /// What the line says after its box.
+    QString label;
+
+    friend bool operator==(const Box &, const Box &) = default;
+};
+
+namespace boxgeometry {
+
+/// The boxes of the lines between two heights of the document, in order. The layout has to be done.
+[[nodiscard]] QList<Box> boxesBetween(const NoteText &text, qreal top, qreal bottom);
+/// Position of the box that a click at this point of the document is meant for.
+[[nodiscard]] std::optional<qsizetype> findBox(const NoteText &text, const QPointF &point);
+
+} // namespace boxgeometry
+} // namespace vesk

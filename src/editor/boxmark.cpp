@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "editor/boxmark.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+namespace vesk {
+
+BoxMark::BoxMark(QQuickItem *parent)
+    : QQuickPaintedItem(parent)
+{
+    connect(this, &BoxMark::changed, this, [this] { update(); });
+}
+
+void BoxMark::paint(QPainter *painter)
+{
+    const QRectF square = boundingRect();
+    const QRectF circle = square.adjusted(0.75, 0.75, -0.75, -0.75);
+    painter->setRenderHint(QPainter::Antialiasing);
+    if (!m_isTicked) {
+        painter->setPen(QPen(m_ringColor, 1.4));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawEllipse(circle);
+        return;
+    }
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(m_fillColor);
+    painter->drawEllipse(circle);
+
+    const qreal middle = square.center().y();
+    QPainterPath tick(QPointF(square.left() + 4.8, middle + 0.2));
+    tick.lineTo(square.left() + 7.6, middle + 3);
+    tick.lineTo(square.right() - 4.4, middle - 3.2);
+    painter->setPen(QPen(m_tickColor, 1.9, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawPath(tick);
+}
+
+} // namespace vesk

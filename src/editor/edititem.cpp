@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "editor/edititem.h"
+
+#include <QQuickItem>
+#include <QQuickTextDocument>
+
+namespace vesk {
+
+QTextDocument *EditItem::document() const
+{
+    const auto *document = m_item->property("textDocument").value<QQuickTextDocument *>();
+    return document ? document->textDocument() : nullptr;
+}
+
+Selection EditItem::selection() const
+{
+    const int caret = m_item->property("cursorPosition").toInt();
+    const int start = m_item->property("selectionStart").toInt();
+    const int end = m_item->property("selectionEnd").toInt();
+    return {.anchor = caret == start ? end : start, .caret = caret};
+}
+
+void EditItem::select(const Selection &selection) const
+{
+    // Also where the item says that it is so: what it says can be older than the last change.
+    QMetaObject::invokeMethod(m_item, "select", Q_ARG(int, static_cast<int>(selection.anchor)),
+                              Q_ARG(int, static_cast<int>(selection.caret)));
+}
+
+qsizetype EditItem::positionAt(const QPointF &point) const
+{
+    int position = 0;
+    QMetaObject::invokeMethod(m_item, "positionAt", Q_RETURN_ARG(int, position), Q_ARG(qreal, point.x()),
+                              Q_ARG(qreal, point.y()));
+    return position;
+}
+
+QRectF EditItem::rectangleOf(qsizetype position) const
+{
+    QRectF rectangle;
+    QMetaObject::invokeMethod(m_item, "positionToRectangle", Q_RETURN_ARG(QRectF, rectangle),
+                              Q_ARG(int, static_cast<int>(position)));
+    return rectangle;
+}
+
+bool EditItem::isComposing() const
+{
+    return m_item->property("inputMethodComposing").toBool();
+}
+
+} // namespace vesk

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QQmlEngine>
+
+namespace vesk {
+
+/// Tells a host how high an editor's content is: after the layout that changed it, and only for a
+/// change that can be seen.
+class HeightReport : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(qreal width MEMBER m_width NOTIFY changed)
+    Q_PROPERTY(qreal contentHeight MEMBER m_contentHeight NOTIFY changed)
+
+public:
+    explicit HeightReport(QObject *parent = nullptr);
+
+Q_SIGNALS:
+    void changed();
+    void reported(qreal height);
+
+private:
+    void report();
+
+    qreal m_width = 0;
+    qreal m_contentHeight = 0;
+    qreal m_reported = -1;
+    bool m_isWaiting = false;
+};
+
+} // namespace vesk

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QQmlEngine>
+
+namespace vesk {
+
+class NoteTextView;
+
+/// A host's handle on the live text of an editor, for its menus. The host owns it, and the editor that
+/// it is given to points it at its own text. Without a living editor every operation does nothing.
+class NoteEditorController : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+
+public:
+    explicit NoteEditorController(QObject *parent = nullptr);
+
+    /// Null when no editor is alive.
+    [[nodiscard]] NoteTextView *textView() const;
+    void setTextView(NoteTextView *textView);
+
+    /// Gives the line at the start of the selection this marker (with its space), or takes it away.
+    Q_INVOKABLE void toggleLinePrefix(const QString &marker);
+    Q_INVOKABLE void moveCaretToEnd();
+    /// Gives the text the keyboard.
+    Q_INVOKABLE void forceFocus();
+    /// Puts a text in place of the selection, as pasting does.
+    Q_INVOKABLE void insertPlainText(const QString &text);
+
+private:
+    QPointer<NoteTextView> m_textView;
+};
+
+} // namespace vesk

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "editor/notetext.h"
+
+#include "editor/editrules.h"
+
+#include <QScopedValueRollback>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include <algorithm>
+
+namespace vesk {
+
+namespace {
+
+/// Nothing is seen of it, and it is as long as what it stands for.
+constexpr QChar kInvisible(u'\u200b');
+
+QChar shown(QChar character)
+{
+    if (editrules::isLineBreak(character))
+        return QChar::ParagraphSeparator;
+    switch (character.unicode()) {
+    case u'\r':     // would break the line
+    case u'\ufdd0': // the document's own marks of frames
+    case u'\ufdd1':
+    case u'\ufffc': // would be a picture: its whole line is not painted
+        return kInvisible;
+    default:
+        return character;
+    }
+}
+
+QString shown(const QString &text)
+{
+    QString made = text;
+    std::ranges::transform(made, made.begin(), [](QChar character) { return shown(character); });
+    return made;
+}
+
+/// What has got into the document by its own editing; a paragraph's end is a line feed.
+QString typed(QString slice)
+{
+    return slice.replace(QChar::ParagraphSeparator, u'\n');
+}
+
+} // namespace
+
+NoteText::NoteText(QTextDocument &document, const QTextBlockFormat &paragraph, QObject *parent)
+    : QObject(parent)
+    , m_document(document)
+    , m_paragraph(paragraph)
+{
+    // What the user may take back is kept elsewhere.
+    document.setUndoRedoEnabled(false);
+    connect(&document, &QTextDocument::contentsChange, this, &NoteText::onContentsChange);
+    connect(&document, &QTextDocument::contentsChanged, this, &NoteText::onContentsChanged);
+    load({});
+}
+
+QStringView NoteText::line(const QTextBlock &block) const
+{
+    return QStringView(m_text).mid(block.position(), block.length() - 1);
+}
+
+void NoteText::load(const QString &text)
+{
+    const QScopedValueRollback following(m_isFollowing, false);
+    m_text = text;
+    QTextCursor cursor(&m_document);
+    cursor.beginEditBlock();
+    cursor.select(QTextCursor::Document);
+    cursor.removeSelectedText();
+    // A paragraph inherits this from the one that it is split from.
+    cursor.setBlockFormat(m_paragraph);
+    cursor.insertText(shown(text));
+    cursor.endEditBlock();
+}
+
+void NoteText::replace(qsizetype position, qsizetype length, const QString &text)
+{
+    const QScopedValueRollback following(m_isFollowing, false);
+    m_change = Splice{.position = position, .removed = m_text.mid(position, length), .inserted = text};
+    m_text.replace(position, length, text);
+    QTextCursor cursor(&m_document);
+    cursor.beginEditBlock();
+    cursor.setPosition(static_cast<int>(position));
+    cursor.setPosition(static_cast<int>(position + length), QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    cursor.insertText(shown(text));
+    cursor.endEditBlock();
+}
+
+void NoteText::onContentsChange(int position, int removed, int added)
+{
+    // The last paragraph's end is sometimes counted.
+    const int size = m_document.characterCount() - 1;
+    const int length = std::clamp(added, 0, std::max(size - position, 0));
+    if (m_isFollowing)
+        follow(position, m_text.size() - (size - length), length);
+    Q_UNUSED(removed)
+    Q_EMIT touched(position, length);
+}
+
+void NoteText::follow(qsizetype position, qsizetype removed, qsizetype added)
+{
+    // The document reports whole paragraphs where an input method was at work, so what stayed the same
+    // is left out; it may stand for something else.
+    const QString before = shown(m_text.mid(position, removed));
+    const QString after = shownSlice(position, added);
+    const qsizetype shorter = std::min(removed, added);
+    qsizetype head = 0;
+    while (head < shorter && before.at(head) == after.at(head))
+        ++head;
+    qsizetype tail = 0;
+    while (tail < shorter - head && before.at(removed - 1 - tail) == after.at(added - 1 - tail))
+        ++tail;
+    if (head + tail == removed && removed == added)
+        return;
+    position += head;
+    m_change = Splice{.position = position,
+                      .removed = m_text.mid(position, removed - head - tail),
+                      .inserted = typed(after.mid(head, added - head - tail))};
+    m_text.replace(position, m_change->removed.size(), m_change->inserted);
+}
+
+void NoteText::onContentsChanged()
+{
+    if (const std::optional<Splice> change = std::exchange(m_change, std::nullopt))
+        Q_EMIT changed(*change);
+}
+
+QString NoteText::shownSlice(qsizetype position, qsizetype length) const
+{
+    QTextCursor cursor(&m_document);
+    cursor.setPosition(static_cast<int>(position));
+    cursor.setPosition(static_cast<int>(position + length), QTextCursor::KeepAnchor);
+    return cursor.selectedText();
+}
+
+} // namespace vesk

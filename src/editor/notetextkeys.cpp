@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+// The key map of the editor: the part of its view that takes keys and what an input method writes.
+#include "editor/editrules.h"
+#include "editor/notetext.h"
+#include "editor/notetextview.h"
+
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QTextBlock>
+#include <QTextDocument>
+
+namespace vesk {
+
+namespace {
+
+/// Command, inside Vesk's own windows.
+constexpr Qt::KeyboardModifiers kCommand = Qt::ControlModifier;
+constexpr Qt::KeyboardModifiers kCounted =
+    Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+
+/// The locks and the number pad do not count.
+Qt::KeyboardModifiers modifiersOf(const QKeyEvent &event)
+{
+    return event.modifiers() & kCounted;
+}
+
+bool isReturn(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+bool isRedo(const QKeyEvent &event)
+{
+    return event.matches(QKeySequence::Redo) || (event.key() == Qt::Key_Y && modifiersOf(event) == kCommand)
+           || (event.key() == Qt::Key_Z && modifiersOf(event) == (kCommand | Qt::ShiftModifier));
+}
+
+bool isChecklist(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_L && modifiersOf(event) == (kCommand | Qt::ShiftModifier);
+}
+
+bool isTyping(const QKeyEvent &event)
+{
+    return (!event.text().isEmpty() && event.text().front().isPrint()
+            && !(event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier)))
+           || event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete || event.key() == Qt::Key_Tab;
+}
+
+bool isModifier(const QKeyEvent &event)
+{
+    return event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_ScrollLock;
+}
+
+} // namespace
+
+bool NoteTextView::handleShortcut(QKeyEvent &event) const
+{
+    // What is accepted here comes as a key press instead of setting off a shortcut of the window.
+    const bool isOurs = m_edit.isComposing() || isRedo(event) || isChecklist(event)
+                        || (m_takesEscape && event.key() == Qt::Key_Escape)
+                        || (m_takesCommandReturn && isReturn(event) && modifiersOf(event) == kCommand);
+    if (isOurs)
+        event.accept();
+    return isOurs;
+}
+
+bool NoteTextView::handleKey(QKeyEvent &event)
+{
+    m_time = event.timestamp();
+    if (m_edit.isComposing()) {
+        // The input method lets through what it has no use for. A letter follows what was composed so
+        // far; any other key would tear it apart.
+        if (!isTyping(event) || event.text().isEmpty() || !event.text().front().isPrint()) {
+            event.accept();
+            return true;
+        }
+        QGuiApplication::inputMethod()->commit();
+        return false;
+    }
+    if (!isTyping(event) && !isModifier(event))
+        m_history.endStep();
+    if (handleEditingKey(event) || handleReturn(event) || handlePage(event)) {
+        event.accept();
+        return true;
+    }
+    return false;
+}
+
+bool NoteTextView::handleEditingKey(const QKeyEvent &event)
+{
+    if (event.matches(QKeySequence::Undo))
+        undo();
+    else if (isRedo(event))
+        redo();
+    else if (event.matches(QKeySequence::Cut))
+        cut();
+    else if (event.matches(QKeySequence::Copy))
+        copy();
+    else if (event.matches(QKeySequence::Paste))
+        paste();
+    else if (isChecklist(event))
+        toggleLinePrefix(QStringLiteral(u"\u2610 "));
+    else if (event.key() == Qt::Key_Escape && modifiersOf(event) == Qt::NoModifier && m_takesEscape)
+        Q_EMIT escaped();
+    else if (event.key() == Qt::Key_Space && !(modifiersOf(event) & ~Qt::ShiftModifier))
+        return typeSpace();
+    else
+        return false;
+    return true;
+}
+
+bool NoteTextView::handleReturn(const QKeyEvent &event)
+{
+    if (!isReturn(event))
+        return false;
+    const Qt::KeyboardModifiers modifiers = modifiersOf(event);
+    if (modifiers == kCommand && m_takesCommandReturn) {
+        Q_EMIT commandReturned();
+        return true;
+    }
+    if (modifiers & ~Qt::ShiftModifier)
+        return false;
+    if (m_takesReturn && modifiers == Qt::NoModifier)
+        Q_EMIT returned();
+    else
+        typeLineBreak();
+    return true;
+}
+
+bool NoteTextView::handlePage(const QKeyEvent &event)
+{
+    const bool isDown = event.key() == Qt::Key_PageDown;
+    if ((!isDown && event.key() != Qt::Key_PageUp) || (modifiersOf(event) & ~Qt::ShiftModifier))
+        return false;
+    const Selection selection = m_edit.selection();
+    const QRectF caret = m_edit.rectangleOf(selection.caret);
+    const qreal page = std::max(m_visibleHeight - caret.height(), caret.height());
+    const qsizetype position = m_edit.positionAt({caret.x(), caret.center().y() + (isDown ? page : -page)});
+    const bool isSelecting = modifiersOf(event) == Qt::ShiftModifier;
+    m_edit.select({.anchor = isSelecting ? selection.anchor : position, .caret = position});
+    return true;
+}
+
+bool NoteTextView::handleInputMethod(const QInputMethodEvent &event)
+{
+    const QString &commit = event.commitString();
+    const bool isRuled = commit == u" " || commit == u"\n";
+    if (!isRuled || event.replacementLength() != 0 || !m_edit.selection().isEmpty())
+        return false;
+    // What was being composed goes first, and is replaced by nothing.
+    QInputMethodEvent rest(event.preeditString(), event.attributes());
+    m_edit.item()->removeEventFilter(this);
+    QCoreApplication::sendEvent(m_edit.item(), &rest);
+    m_edit.item()->installEventFilter(this);
+    if (commit == u"\n")
+        typeLineBreak();
+    else if (!typeSpace())
+        edit(m_edit.selection().caret, 0, commit, Selection::at(m_edit.selection().caret + 1));
+    return true;
+}
+
+bool NoteTextView::typeSpace()
+{
+    const Selection selection = m_edit.selection();
+    if (!selection.isEmpty())
+        return false;
+    const QTextBlock block = m_text->document().findBlock(static_cast<int>(selection.caret));
+    const QStringView before = m_text->line(block).first(selection.caret - block.position());
+    const std::optional<editrules::MarkerChange> change = editrules::typedSpace(before);
+    if (!change)
+        return false;
+    edit(block.position(), change->length, change->marker.toString(),
+         Selection::at(block.position() + change->marker.size()));
+    return true;
+}
+
+void NoteTextView::typeLineBreak()
+{
+    using Kind = editrules::LineBreak::Kind;
+    const Selection selection = m_edit.selection();
+    editrules::LineBreak lineBreak;
+    const QTextBlock block = m_text->document().findBlock(static_cast<int>(selection.caret));
+    const QStringView line = m_text->line(block);
+    if (selection.isEmpty())
+        lineBreak = editrules::typedLineBreak(line);
+    if (lineBreak.kind == Kind::EmptyItem) {
+        if (m_takesEmptyItemReturn)
+            Q_EMIT emptyItemReturned();
+        else
+            edit(block.position(), line.size(), {}, Selection::at(block.position()));
+        return;
+    }
+    const QString typed = u'\n' + lineBreak.marker.toString();
+    edit(selection.start(), selection.length(), typed, Selection::at(selection.start() + typed.size()));
+}
+
+} // namespace vesk

@@ -1,0 +1,377 @@
+// SPDX-License-Identifier: MIT
+#include "editor/notetextview.h"
+
+#include "editor/editrules.h"
+#include "editor/lentpasteboards.h"
+#include "editor/notetext.h"
+#include "editor/textmouse.h"
+#include "platform/pasteboard.h"
+
+#include <QCoroTimer>
+
+#include <QAbstractTextDocumentLayout>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QMouseEvent>
+#include <QQuickWindow>
+#include <QScopedValueRollback>
+#include <QStyleHints>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+
+using namespace std::chrono_literals;
+
+namespace vesk {
+
+NoteTextView::NoteTextView(QQuickItem *parent)
+    : QQuickItem(parent)
+{
+    connect(this, &NoteTextView::lookChanged, this, &NoteTextView::restyle);
+    connect(this, &NoteTextView::visiblePartChanged, this, &NoteTextView::polish);
+}
+
+NoteTextView::~NoteTextView() = default;
+
+void NoteTextView::setTarget(QQuickItem *target)
+{
+    Q_ASSERT(!m_edit.item());
+    m_edit = EditItem(target);
+    Q_EMIT targetChanged();
+}
+
+void NoteTextView::componentComplete()
+{
+    QQuickItem::componentComplete();
+    QQuickItem *target = m_edit.item();
+    QQmlEngine *engine = qmlEngine(this);
+    // Only what can be seen is drawn anew with each change; by itself the item does that for nothing
+    // but long texts that are set at once.
+    target->setFlag(QQuickItem::ItemObservesViewport);
+    QTextDocument *document = m_edit.document();
+    m_text = std::make_unique<NoteText>(*document, TextFormats::paragraph(), nullptr);
+    m_styler = std::make_unique<Styler>(*m_text);
+    m_mouse = std::make_unique<TextMouse>(*this, m_edit, *m_text);
+    m_theme = engine->singletonInstance<Theme *>(qmlTypeId("Vesk.Components", 1, 0, "Theme"));
+    connect(m_theme, &Theme::changed, this, &NoteTextView::restyle);
+    restyle();
+    connect(m_text.get(), &NoteText::touched, this,
+            [this](int position, int length) { m_styler->restyle(position, length); });
+    connect(m_text.get(), &NoteText::changed, this, &NoteTextView::onChanged);
+    connect(document, &QTextDocument::contentsChanged, this, &NoteTextView::polish);
+    connect(document->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
+            &NoteTextView::polish);
+    connect(document->documentLayout(), &QAbstractTextDocumentLayout::update, this, &NoteTextView::polish);
+    connect(target, &QQuickItem::widthChanged, this, &NoteTextView::polish);
+    target->installEventFilter(this);
+    setText(std::exchange(m_loadedText, QString()));
+}
+
+void NoteTextView::updatePolish()
+{
+    if (!m_text)
+        return;
+    m_boxes.update(boxgeometry::boxesBetween(*m_text, m_visibleTop, m_visibleTop + m_visibleHeight));
+    if (!std::exchange(m_isLaidOut, true))
+        Q_EMIT laidOut();
+}
+
+int NoteTextView::caretFlashTime()
+{
+    return QGuiApplication::styleHints()->cursorFlashTime();
+}
+
+void NoteTextView::restyle()
+{
+    if (!m_styler || !m_theme)
+        return;
+    m_styler->setLook({.fontSize = m_fontSize,
+                       .titleBoost = m_titleBoost,
+                       .titleWeight = m_titleWeight,
+                       .secondary = m_theme->secondary(),
+                       .tertiary = m_theme->tertiary(),
+                       .quaternary = m_theme->quaternary(),
+                       .accent = m_theme->accent()},
+                      m_firstLineIsTitle);
+}
+
+QString NoteTextView::text() const
+{
+    return m_text ? m_text->text() : m_loadedText;
+}
+
+void NoteTextView::setText(const QString &text)
+{
+    if (!m_text) {
+        m_loadedText = text;
+        return;
+    }
+    if (m_text->text() == text)
+        return;
+    const Selection selection = m_edit.selection();
+    m_text->load(text);
+    m_history.clear();
+    m_edit.select(
+        {.anchor = std::min(selection.anchor, text.size()), .caret = std::min(selection.caret, text.size())});
+    Q_EMIT textChanged();
+}
+
+void NoteTextView::setController(NoteEditorController *controller)
+{
+    if (m_controller == controller)
+        return;
+    m_controller = controller;
+    if (controller)
+        controller->setTextView(this);
+    Q_EMIT controllerChanged();
+}
+
+void NoteTextView::setDropPosition(int position)
+{
+    if (m_dropPosition == position)
+        return;
+    m_dropPosition = position;
+    Q_EMIT dropPositionChanged();
+}
+
+void NoteTextView::onChanged(const Splice &change)
+{
+    m_isLaidOut = false;
+    m_boxes.follow(change);
+    const Selection after = m_after.value_or(m_edit.selection());
+    if (m_after)
+        m_edit.select(after);
+    if (!m_isReplaying)
+        m_history.record({.change = change, .before = m_before, .after = after}, m_kind, m_time);
+    m_before = after;
+    m_after.reset();
+    m_kind = EditHistory::Kind::Typing;
+    Q_EMIT textChanged();
+    Q_EMIT edited(m_text->text());
+}
+
+void NoteTextView::edit(qsizetype position, qsizetype length, const QString &text, const Selection &after)
+{
+    m_before = m_edit.selection();
+    m_after = after;
+    m_kind = EditHistory::Kind::Single;
+    m_text->replace(position, length, text);
+}
+
+void NoteTextView::replay(const Splice &change, const Selection &after)
+{
+    const QScopedValueRollback replaying(m_isReplaying, true);
+    m_after = after;
+    m_text->replace(change.position, change.removed.size(), change.inserted);
+}
+
+void NoteTextView::undo()
+{
+    if (m_edit.isComposing())
+        return;
+    if (const std::optional<EditHistory::Step> step = m_history.undo()) {
+        const Splice &change = step->change;
+        replay({.position = change.position, .removed = change.inserted, .inserted = change.removed},
+               step->before);
+    }
+}
+
+void NoteTextView::redo()
+{
+    if (m_edit.isComposing())
+        return;
+    if (const std::optional<EditHistory::Step> step = m_history.redo())
+        replay(step->change, step->after);
+}
+
+QString NoteTextView::selectedText() const
+{
+    const Selection selection = m_edit.selection();
+    return m_text->text().mid(selection.start(), selection.length());
+}
+
+Pasteboard *NoteTextView::findPasteboard(bool isPrimary) const
+{
+    const QQmlEngine *engine = qmlEngine(this);
+    const LentPasteboards *lent = engine ? LentPasteboards::findFor(*engine) : nullptr;
+    if (!lent)
+        return nullptr;
+    return isPrimary ? lent->primary() : &lent->pasteboard();
+}
+
+void NoteTextView::copy()
+{
+    Pasteboard *pasteboard = findPasteboard(false);
+    if (pasteboard && !m_edit.selection().isEmpty())
+        pasteboard->setString(selectedText());
+}
+
+void NoteTextView::cut()
+{
+    const Selection selection = m_edit.selection();
+    if (selection.isEmpty() || !findPasteboard(false))
+        return;
+    copy();
+    edit(selection.start(), selection.length(), {}, Selection::at(selection.start()));
+}
+
+void NoteTextView::paste()
+{
+    if (Pasteboard *pasteboard = findPasteboard(false))
+        insertFrom(*pasteboard, std::nullopt);
+}
+
+void NoteTextView::pasteSelected(qsizetype position)
+{
+    if (Pasteboard *primary = findPasteboard(true))
+        insertFrom(*primary, position);
+}
+
+QCoro::Task<> NoteTextView::insertFrom(Pasteboard &pasteboard, std::optional<qsizetype> position)
+{
+    const QPointer<NoteTextView> self(this);
+    // Follows what is typed before the owner of the text has answered.
+    QTextCursor place(&m_text->document());
+    place.setPosition(static_cast<int>(position.value_or(0)));
+    const std::optional<QString> text = co_await pasteboard.string();
+    if (self.isNull() || !text || m_edit.isComposing())
+        co_return;
+    if (position)
+        m_edit.select(Selection::at(place.position()));
+    insertPlainText(*text);
+}
+
+void NoteTextView::publishSelection()
+{
+    Pasteboard *primary = findPasteboard(true);
+    if (!primary || m_edit.selection().isEmpty())
+        return;
+    const QString text = selectedText();
+    if (text == m_publishedText)
+        return;
+    m_publishedText = text;
+    primary->setString(text);
+}
+
+void NoteTextView::selectAll()
+{
+    m_edit.select({.anchor = 0, .caret = m_text->text().size()});
+}
+
+void NoteTextView::insertPlainText(const QString &text)
+{
+    const Selection selection = m_edit.selection();
+    if (!text.isEmpty())
+        edit(selection.start(), selection.length(), text, Selection::at(selection.start() + text.size()));
+}
+
+void NoteTextView::dropText(const QString &text)
+{
+    const int position = m_dropPosition;
+    setDropPosition(-1);
+    if (position < 0 || text.isEmpty())
+        return;
+    edit(position, 0, text, {.anchor = position, .caret = position + text.size()});
+    forceFocus();
+}
+
+void NoteTextView::moveSelection(qsizetype position, bool isCopied)
+{
+    const Selection selection = m_edit.selection();
+    const QString moved = selectedText();
+    if (isCopied) {
+        edit(position, 0, moved, {.anchor = position, .caret = position + moved.size()});
+    } else if (position < selection.start()) {
+        const QString passed = m_text->text().mid(position, selection.start() - position);
+        edit(position, selection.end() - position, moved + passed,
+             {.anchor = position, .caret = position + moved.size()});
+    } else if (position > selection.end()) {
+        const QString passed = m_text->text().mid(selection.end(), position - selection.end());
+        edit(selection.start(), position - selection.start(), passed + moved,
+             {.anchor = position - moved.size(), .caret = position});
+    }
+}
+
+void NoteTextView::toggleLinePrefix(const QString &marker)
+{
+    if (m_edit.isComposing())
+        return;
+    const Selection selection = m_edit.selection();
+    const QTextBlock block = m_text->document().findBlock(static_cast<int>(selection.start()));
+    const editrules::MarkerChange change = editrules::toggledPrefix(m_text->line(block), marker);
+    const qsizetype start = block.position();
+    // What was selected stays so; what was in the marker comes after the new one.
+    const auto moved = [&](qsizetype position) {
+        return std::max(position, start + change.length) - change.length + change.marker.size();
+    };
+    edit(start, change.length, change.marker.toString(),
+         {.anchor = moved(selection.anchor), .caret = moved(selection.caret)});
+    forceFocus();
+}
+
+void NoteTextView::toggleBox(int position)
+{
+    if (m_edit.isComposing() || position < 0 || position >= m_text->text().size())
+        return;
+    const QStringView toggled = editrules::toggledBox(m_text->text().at(position));
+    edit(position, 1, toggled.toString(), m_edit.selection());
+}
+
+void NoteTextView::moveCaretToEnd()
+{
+    m_edit.select(Selection::at(m_text->text().size()));
+}
+
+void NoteTextView::forceFocus()
+{
+    m_edit.item()->forceActiveFocus();
+}
+
+void NoteTextView::focusWhenShown()
+{
+    waitForFocus();
+}
+
+QCoro::Task<> NoteTextView::waitForFocus()
+{
+    const QPointer<NoteTextView> self(this);
+    for (int check = 0; check < 20 && self && !self->window(); ++check)
+        co_await QCoro::sleepFor(10ms);
+    co_await QCoro::sleepFor(60ms);
+    for (int check = 0; check < 30 && self && self->window() && !self->window()->isActive(); ++check)
+        co_await QCoro::sleepFor(10ms);
+    if (self.isNull() || !self->window())
+        co_return;
+    forceFocus();
+    moveCaretToEnd();
+}
+
+bool NoteTextView::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        return handleShortcut(static_cast<QKeyEvent &>(*event));
+    case QEvent::KeyPress:
+        m_before = m_edit.selection();
+        return handleKey(static_cast<QKeyEvent &>(*event));
+    case QEvent::InputMethod:
+        m_before = m_edit.selection();
+        return handleInputMethod(static_cast<const QInputMethodEvent &>(*event));
+    case QEvent::KeyRelease:
+    case QEvent::MouseButtonRelease:
+        QMetaObject::invokeMethod(this, &NoteTextView::publishSelection, Qt::QueuedConnection);
+        [[fallthrough]];
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+        if (event->type() == QEvent::KeyRelease)
+            return false;
+        if (event->type() != QEvent::MouseMove)
+            m_history.endStep();
+        return !m_edit.isComposing() && m_mouse->handle(static_cast<const QMouseEvent &>(*event));
+    default:
+        return QQuickItem::eventFilter(watched, event);
+    }
+}
+
+} // namespace vesk

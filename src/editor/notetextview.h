@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "components/theme.h"
+#include "editor/edithistory.h"
+#include "editor/edititem.h"
+#include "editor/noteeditorcontroller.h"
+#include "editor/styler.h"
+#include "editor/visibleboxes.h"
+
+#include <QCoroTask>
+
+#include <QPointer>
+#include <QQuickItem>
+
+#include <memory>
+
+class QInputMethodEvent;
+class QKeyEvent;
+
+namespace vesk {
+
+class NoteText;
+class Pasteboard;
+class TextMouse;
+
+/// The rules of a note's editor: makes the toolkit's text item, its target, edit a note's text. Sees
+/// the item's events before the item does, and decides what becomes of them.
+class NoteTextView : public QQuickItem
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QQuickItem *target READ target WRITE setTarget NOTIFY targetChanged)
+    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
+    Q_PROPERTY(
+        vesk::NoteEditorController *controller READ controller WRITE setController NOTIFY controllerChanged)
+    Q_PROPERTY(qreal fontSize MEMBER m_fontSize NOTIFY lookChanged)
+    Q_PROPERTY(bool firstLineIsTitle MEMBER m_firstLineIsTitle NOTIFY lookChanged)
+    Q_PROPERTY(qreal titleBoost MEMBER m_titleBoost NOTIFY lookChanged)
+    Q_PROPERTY(int titleWeight MEMBER m_titleWeight NOTIFY lookChanged)
+    Q_PROPERTY(bool takesReturn MEMBER m_takesReturn NOTIFY takesChanged)
+    Q_PROPERTY(bool takesCommandReturn MEMBER m_takesCommandReturn NOTIFY takesChanged)
+    Q_PROPERTY(bool takesEmptyItemReturn MEMBER m_takesEmptyItemReturn NOTIFY takesChanged)
+    Q_PROPERTY(bool takesEscape MEMBER m_takesEscape NOTIFY takesChanged)
+    /// Top and height of what can be seen of the target, in its coordinates.
+    Q_PROPERTY(qreal visibleTop MEMBER m_visibleTop NOTIFY visiblePartChanged)
+    Q_PROPERTY(qreal visibleHeight MEMBER m_visibleHeight NOTIFY visiblePartChanged)
+    Q_PROPERTY(QAbstractItemModel *boxes READ boxes CONSTANT)
+    /// In milliseconds; 0 if the caret shall not blink.
+    Q_PROPERTY(int caretFlashTime READ caretFlashTime CONSTANT)
+    Q_PROPERTY(bool canUndo READ canUndo NOTIFY textChanged)
+    Q_PROPERTY(bool canRedo READ canRedo NOTIFY textChanged)
+    /// Where a text that is being dragged would be put; negative for nowhere.
+    Q_PROPERTY(int dropPosition READ dropPosition WRITE setDropPosition NOTIFY dropPositionChanged)
+
+public:
+    explicit NoteTextView(QQuickItem *parent = nullptr);
+    ~NoteTextView() override;
+
+    // What menus and the host do; each change of the text is one step to take back.
+    Q_INVOKABLE void undo();
+    Q_INVOKABLE void redo();
+    Q_INVOKABLE void cut();
+    Q_INVOKABLE void copy();
+    Q_INVOKABLE void paste();
+    Q_INVOKABLE void selectAll();
+    Q_INVOKABLE void insertPlainText(const QString &text);
+    Q_INVOKABLE void toggleLinePrefix(const QString &marker);
+    /// Ticks or unticks the box at this position; the selection stays.
+    Q_INVOKABLE void toggleBox(int position);
+    Q_INVOKABLE void moveCaretToEnd();
+    Q_INVOKABLE void forceFocus();
+    /// Gives the text the keyboard as soon as its window can have it, or after half a second.
+    Q_INVOKABLE void focusWhenShown();
+    /// Puts a text that was dropped where it was dropped.
+    Q_INVOKABLE void dropText(const QString &text);
+
+    /// Moves what is selected, or a copy of it, to another place.
+    void moveSelection(qsizetype position, bool isCopied);
+    /// Puts what was last selected anywhere at this place.
+    void pasteSelected(qsizetype position);
+
+    [[nodiscard]] QQuickItem *target() const { return m_edit.item(); }
+    void setTarget(QQuickItem *target);
+    [[nodiscard]] QString text() const;
+    void setText(const QString &text);
+    [[nodiscard]] NoteEditorController *controller() const { return m_controller; }
+    void setController(NoteEditorController *controller);
+    [[nodiscard]] QAbstractItemModel *boxes() { return &m_boxes; }
+    [[nodiscard]] static int caretFlashTime();
+    [[nodiscard]] bool canUndo() const { return m_history.canUndo(); }
+    [[nodiscard]] bool canRedo() const { return m_history.canRedo(); }
+    [[nodiscard]] int dropPosition() const { return m_dropPosition; }
+    void setDropPosition(int position);
+
+Q_SIGNALS:
+    void targetChanged();
+    /// After each change, whoever made it.
+    void textChanged();
+    /// After each change by the user.
+    void edited(const QString &text);
+    void controllerChanged();
+    void lookChanged();
+    void takesChanged();
+    void visiblePartChanged();
+    void dropPositionChanged();
+    void returned();
+    void commandReturned();
+    void emptyItemReturned();
+    void escaped();
+    /// After a change of the text is laid out, before it is painted.
+    void laidOut();
+    void contextMenuRequested(const QPointF &point);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void componentComplete() override;
+    void updatePolish() override;
+
+private:
+    // The key map, in notetextkeys.cpp. True if the event was for the rules, not for the item.
+    bool handleShortcut(QKeyEvent &event) const;
+    bool handleKey(QKeyEvent &event);
+    bool handleEditingKey(const QKeyEvent &event);
+    bool handleReturn(const QKeyEvent &event);
+    bool handlePage(const QKeyEvent &event);
+    bool handleInputMethod(const QInputMethodEvent &event);
+    bool typeSpace();
+    void typeLineBreak();
+
+    void edit(qsizetype position, qsizetype length, const QString &text, const Selection &after);
+    void onChanged(const Splice &change);
+    void replay(const Splice &change, const Selection &after);
+    void restyle();
+    void publishSelection();
+    [[nodiscard]] QString selectedText() const;
+    [[nodiscard]] Pasteboard *findPasteboard(bool isPrimary) const;
+    QCoro::Task<> insertFrom(Pasteboard &pasteboard, std::optional<qsizetype> position);
+    QCoro::Task<> waitForFocus();
+
+    EditItem m_edit;
+    std::unique_ptr<NoteText> m_text;
+    std::unique_ptr<Styler> m_styler;
+    std::unique_ptr<TextMouse> m_mouse;
+    VisibleBoxes m_boxes;
+    EditHistory m_history;
+    QPointer<NoteEditorController> m_controller;
+    QPointer<Theme> m_theme;
+
+    /// What the next change starts from, how it joins the last one, and what it leaves selected if that
+    /// is not up to the item.
+    Selection m_before;
+    EditHistory::Kind m_kind = EditHistory::Kind::Typing;
+    std::optional<Selection> m_after;
+    quint64 m_time = 0;
+    bool m_isReplaying = false;
+
+    bool m_isLaidOut = true;
+    QString m_loadedText;
+    QString m_publishedText;
+    qreal m_fontSize = 14;
+    bool m_firstLineIsTitle = false;
+    qreal m_titleBoost = 7;
+    int m_titleWeight = QFont::Bold;
+    bool m_takesReturn = false;
+    bool m_takesCommandReturn = false;
+    bool m_takesEmptyItemReturn = false;
+    bool m_takesEscape = false;
+    qreal m_visibleTop = 0;
+    qreal m_visibleHeight = 0;
+    int m_dropPosition = -1;
+};
+
+} // namespace vesk

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "editor/linestyle.h"
+
+#include <QColor>
+#include <QTextCharFormat>
+#include <QTextLayout>
+
+#include <array>
+
+namespace vesk {
+
+/// What the looks of an editor's text are made of. Sizes are pixels.
+struct TextLook
+{
+    qreal fontSize = 14;
+    qreal titleBoost = 7;
+    int titleWeight = QFont::Bold;
+    QColor secondary;
+    QColor tertiary;
+    QColor quaternary;
+    QColor accent;
+
+    friend bool operator==(const TextLook &, const TextLook &) = default;
+};
+
+/// The character formats of the styles. They carry a mark, by which they are told from those that an
+/// input method puts on the text that it composes.
+class TextFormats final
+{
+public:
+    explicit TextFormats(const TextLook &look);
+
+    [[nodiscard]] const QTextCharFormat &format(TextStyle style) const
+    {
+        return m_formats.at(static_cast<size_t>(style));
+    }
+    /// The formats of a line in the form in which a layout takes them.
+    [[nodiscard]] QList<QTextLayout::FormatRange> ranges(QStringView line, bool isTitle) const;
+
+    [[nodiscard]] static bool isOurs(const QTextCharFormat &format);
+    /// Lines within a paragraph are 3 pixels apart, and paragraphs 5 more.
+    [[nodiscard]] static QTextBlockFormat paragraph();
+
+private:
+    std::array<QTextCharFormat, kTextStyles> m_formats;
+};
+
+} // namespace vesk

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPointF>
+
+#include <optional>
+
+class QEvent;
+class QMouseEvent;
+
+namespace vesk {
+
+class EditItem;
+class NoteText;
+class NoteTextView;
+
+/// What the mouse does in an editor beyond placing the caret and selecting: it ticks boxes, drags the
+/// selected text, pastes what is selected elsewhere, and asks for the menu.
+class TextMouse final
+{
+public:
+    /// All of them have to outlive this.
+    TextMouse(NoteTextView &view, const EditItem &edit, const NoteText &text);
+
+    /// True if the event was taken, false if it is for the item.
+    bool handle(const QMouseEvent &event);
+
+private:
+    bool press(const QMouseEvent &event);
+    bool pressLeft(const QPointF &point);
+    void move(const QPointF &point);
+    void release(const QMouseEvent &event);
+
+    NoteTextView &m_view;
+    const EditItem &m_edit;
+    const NoteText &m_text;
+    /// The button went down on something of ours; what comes until it is up again is ours too.
+    bool m_isTaken = false;
+    /// Where the selection was pressed that may be dragged.
+    std::optional<QPointF> m_pressed;
+};
+
+} // namespace vesk

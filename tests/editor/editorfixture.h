@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "components/surroundings.h"
+#include "editor/lentpasteboards.h"
+#include "editor/noteeditorcontroller.h"
+#include "platform/memory/memoryappearance.h"
+#include "platform/memory/memorypasteboard.h"
+#include "platform/memory/memoryscreens.h"
+#include "platform/memory/memorywindows.h"
+#include "platform/memory/memoryworkspace.h"
+
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTextDocument>
+
+#include <memory>
+
+namespace vesk {
+
+/// A real editor in a real window, for real keys.
+class EditorFixture final
+{
+public:
+    /// `properties` are QML, for the editor. The window has the keyboard when this returns.
+    explicit EditorFixture(const QString &properties = {}, QSize size = QSize(320, 300));
+    ~EditorFixture();
+
+    void load(const QString &text);
+    [[nodiscard]] QString text() const;
+    /// Types key by key: \n is Return, \b Backspace, \x1b Escape, and \x7f Delete.
+    void type(const QString &keys, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString &text = {});
+    /// What an input method does: shows what is being composed, then writes a text.
+    void compose(const QString &preedit);
+    void commit(const QString &text);
+
+    [[nodiscard]] int caret() const;
+    [[nodiscard]] int anchor() const;
+    void select(qsizetype anchor, qsizetype caret);
+    [[nodiscard]] QTextDocument &document() const;
+    /// A point of the window, from one of the text item.
+    [[nodiscard]] QPoint inWindow(const QPointF &point) const;
+    [[nodiscard]] QRectF rectangleOf(int position) const;
+    /// The window as it is painted.
+    [[nodiscard]] QImage picture();
+    [[nodiscard]] QList<QQuickItem *> boxes() const;
+
+    MemoryAppearance appearance;
+    MemoryScreens screens;
+    MemoryWindows windows{screens};
+    MemoryWorkspace workspace;
+    MemoryPasteboard pasteboard;
+    MemoryPasteboard primary;
+    NoteEditorController controller;
+    QQmlEngine engine;
+    QQuickWindow window;
+    QQuickItem *editor = nullptr;
+    QQuickItem *edit = nullptr;
+    /// The time of the keys, in milliseconds.
+    quint64 time = 1000;
+
+private:
+    std::unique_ptr<QQuickItem> m_root;
+};
+
+} // namespace vesk
