@@ -18,6 +18,8 @@ std::unique_ptr<ChildProcess> ChildProcess::start(const Command &command)
     child->m_errorFile = command.errorFile;
     QProcess &process = child->m_process;
     process.setProcessEnvironment(command.environment);
+    // What it leaves behind goes with the home folder.
+    process.setWorkingDirectory(command.environment.value(QStringLiteral("HOME")));
     process.setStandardErrorFile(command.errorFile, QIODevice::Append);
     process.setStandardInputFile(QProcess::nullDevice());
     process.setChildProcessModifier([] {

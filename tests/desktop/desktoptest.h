@@ -3,6 +3,7 @@
 
 #include "desktop/guard.h"
 #include "desktop/texteditor.h"
+#include "desktop/veskfacts.h"
 
 #include <QCoreApplication>
 #include <QTest>
@@ -15,16 +16,6 @@ namespace vesk {
 
 /// How long the slowest of machines may take; nothing here measures speed.
 constexpr std::chrono::seconds kBound{10};
-/// The hub takes no second capture for two seconds.
-constexpr std::chrono::milliseconds kCaptureGate{2100};
-
-/// The shortest that a finger stays on a key.
-constexpr std::chrono::milliseconds kFinger{20};
-
-const auto kPanel = QStringLiteral("Vesk");
-const auto kSaved = QStringLiteral("Saved to Vesk");
-const auto kAlready = QStringLiteral("Already in Vesk");
-
 /// Runs the test object's functions, each process of them below the guard.
 template <typename Test>
 int runDesktopTest(int argc, char **argv)

@@ -66,9 +66,15 @@ bool DisplayConnection::waitUntil(std::chrono::milliseconds bound, const std::fu
 std::optional<QString> DisplayConnection::readSelection(const char *selection,
                                                         std::chrono::milliseconds bound)
 {
+    const std::optional<QByteArray> text = readForm(selection, "UTF8_STRING", bound);
+    return text ? std::optional(QString::fromUtf8(*text)) : std::nullopt;
+}
+
+std::optional<QByteArray> DisplayConnection::readForm(const char *selection, const char *form,
+                                                      std::chrono::milliseconds bound)
+{
     const xcb_atom_t property = atom("VESK_TEST_SELECTION");
-    xcb_convert_selection(m_connection, m_window, atom(selection), atom("UTF8_STRING"), property,
-                          XCB_CURRENT_TIME);
+    xcb_convert_selection(m_connection, m_window, atom(selection), atom(form), property, XCB_CURRENT_TIME);
     xcb_flush(m_connection);
     QElapsedTimer timer;
     timer.start();
@@ -87,15 +93,15 @@ std::optional<QString> DisplayConnection::readSelection(const char *selection,
     return std::nullopt;
 }
 
-QString DisplayConnection::takeSelectionProperty(xcb_atom_t property)
+QByteArray DisplayConnection::takeSelectionProperty(xcb_atom_t property)
 {
     constexpr quint32 kWords = 1 << 20;
     const auto cookie = xcb_get_property(m_connection, 1, m_window, property, XCB_ATOM_ANY, 0, kWords);
     const Reply<xcb_get_property_reply_t> reply{xcb_get_property_reply(m_connection, cookie, nullptr)};
     if (!reply)
         return {};
-    return QString::fromUtf8(static_cast<const char *>(xcb_get_property_value(reply.get())),
-                             xcb_get_property_value_length(reply.get()));
+    return {static_cast<const char *>(xcb_get_property_value(reply.get())),
+            xcb_get_property_value_length(reply.get())};
 }
 
 QImage DisplayConnection::screenshot() const

@@ -31,6 +31,10 @@ public:
     [[nodiscard]] std::optional<QString> readSelection(const char *selection,
                                                        std::chrono::milliseconds bound);
 
+    /// One form of a selection as it is ("text/html"); none as above.
+    [[nodiscard]] std::optional<QByteArray> readForm(const char *selection, const char *form,
+                                                     std::chrono::milliseconds bound);
+
     /// What the whole screen shows now; null if the server refused.
     [[nodiscard]] QImage screenshot() const;
 
@@ -42,7 +46,7 @@ public:
 private:
     explicit DisplayConnection(xcb_connection_t *connection);
 
-    [[nodiscard]] QString takeSelectionProperty(xcb_atom_t property);
+    [[nodiscard]] QByteArray takeSelectionProperty(xcb_atom_t property);
 
     xcb_connection_t *m_connection;
     xcb_screen_t *m_screen;

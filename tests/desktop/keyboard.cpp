@@ -50,7 +50,7 @@ void Keyboard::release(xcb_keysym_t key)
     send(key, XCB_KEY_RELEASE);
 }
 
-void Keyboard::tap(std::initializer_list<xcb_keysym_t> keys, std::chrono::milliseconds hold)
+void Keyboard::tap(const QList<xcb_keysym_t> &keys, std::chrono::milliseconds hold)
 {
     for (const xcb_keysym_t key : keys)
         press(key);

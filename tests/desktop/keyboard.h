@@ -3,6 +3,8 @@
 
 #include "desktop/displayconnection.h"
 
+#include <QList>
+
 #include <X11/keysym.h>
 
 namespace vesk {
@@ -19,7 +21,7 @@ public:
 
     /// Presses the keys in this order, the modifiers first, and releases them in the opposite one after
     /// `hold`, which for a person is never nothing.
-    void tap(std::initializer_list<xcb_keysym_t> keys, std::chrono::milliseconds hold = {});
+    void tap(const QList<xcb_keysym_t> &keys, std::chrono::milliseconds hold = {});
 
     /// Types letters, digits, spaces and other characters of the keyboard's first two levels.
     void type(const QString &text);

@@ -48,6 +48,7 @@ VirtualDesktop::VirtualDesktop()
 VirtualDesktop::~VirtualDesktop()
 {
     QDBusConnection::disconnectFromBus(kBusConnection);
+    m_pointer.reset();
     m_keyboard.reset();
     m_windows.reset();
     m_display.reset();
@@ -108,6 +109,7 @@ bool VirtualDesktop::startServer()
         return false;
     m_windows = std::make_unique<Windows>(*m_display);
     m_keyboard = std::make_unique<Keyboard>(*m_display);
+    m_pointer = std::make_unique<Pointer>(*m_display);
     return true;
 }
 
@@ -176,8 +178,15 @@ std::unique_ptr<ChildProcess> VirtualDesktop::startVesk()
 QString VirtualDesktop::writeFile(const QString &name, const QString &text)
 {
     QFile file(m_home.filePath(name));
+    QDir().mkpath(QFileInfo(file).path());
     const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) >= 0 && file.flush();
     return isWritten ? file.fileName() : QString();
+}
+
+QString VirtualDesktop::readFile(const QString &name) const
+{
+    QFile file(m_home.filePath(name));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 } // namespace vesk

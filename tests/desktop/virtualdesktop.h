@@ -4,6 +4,7 @@
 #include "desktop/childprocess.h"
 #include "desktop/keyboard.h"
 #include "desktop/notesfile.h"
+#include "desktop/pointer.h"
 #include "desktop/windows.h"
 
 #include <QTemporaryDir>
@@ -33,12 +34,16 @@ public:
     /// Lets Vesk read other applications and takes its guide for seen, as after the first run.
     [[nodiscard]] bool prepareUser();
 
-    /// Writes a file into the home folder and returns its path.
+    /// Writes a file into the home folder, or a folder in it, and returns its path.
     [[nodiscard]] QString writeFile(const QString &name, const QString &text);
+
+    /// What stands in a file of the home folder; empty if there is none.
+    [[nodiscard]] QString readFile(const QString &name) const;
 
     [[nodiscard]] DisplayConnection &display() { return *m_display; }
     [[nodiscard]] Windows &windows() { return *m_windows; }
     [[nodiscard]] Keyboard &keyboard() { return *m_keyboard; }
+    [[nodiscard]] Pointer &pointer() { return *m_pointer; }
     [[nodiscard]] NotesFile &notes() { return m_notes; }
     [[nodiscard]] const QString &displayName() const { return m_displayName; }
     [[nodiscard]] const QString &busAddress() const { return m_busAddress; }
@@ -64,6 +69,7 @@ private:
     std::unique_ptr<DisplayConnection> m_display;
     std::unique_ptr<Windows> m_windows;
     std::unique_ptr<Keyboard> m_keyboard;
+    std::unique_ptr<Pointer> m_pointer;
 };
 
 } // namespace vesk

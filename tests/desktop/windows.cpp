@@ -66,7 +66,7 @@ QList<Window> Windows::all() const
     struct Questions
     {
         xcb_window_t id;
-        xcb_get_property_cookie_t title, pid;
+        xcb_get_property_cookie_t title, oldTitle, pid;
         xcb_get_window_attributes_cookie_t attributes;
         xcb_get_geometry_cookie_t geometry;
         xcb_translate_coordinates_cookie_t place;
@@ -76,6 +76,7 @@ QList<Window> Windows::all() const
     QList<Questions> questions;
     for (const xcb_window_t id : topWindows()) {
         questions.append({id, xcb_get_property(xcb, 0, id, m_titleAtom, XCB_ATOM_ANY, 0, 1024),
+                          xcb_get_property(xcb, 0, id, XCB_ATOM_WM_NAME, XCB_ATOM_ANY, 0, 1024),
                           xcb_get_property(xcb, 0, id, m_pidAtom, XCB_ATOM_CARDINAL, 0, 1),
                           xcb_get_window_attributes(xcb, id), xcb_get_geometry(xcb, id),
                           xcb_translate_coordinates(xcb, id, m_display.root(), 0, 0)});
@@ -84,6 +85,8 @@ QList<Window> Windows::all() const
     QList<Window> windows;
     for (const Questions &question : std::as_const(questions)) {
         const Reply<xcb_get_property_reply_t> title{xcb_get_property_reply(xcb, question.title, nullptr)};
+        const Reply<xcb_get_property_reply_t> oldTitle{
+            xcb_get_property_reply(xcb, question.oldTitle, nullptr)};
         const Reply<xcb_get_property_reply_t> pid{xcb_get_property_reply(xcb, question.pid, nullptr)};
         const Reply<xcb_get_window_attributes_reply_t> attributes{
             xcb_get_window_attributes_reply(xcb, question.attributes, nullptr)};
@@ -93,7 +96,10 @@ QList<Window> Windows::all() const
         // A window may go between two questions; then it is as if it had not been seen.
         if (!attributes || !size || !place)
             continue;
-        const Window window = {question.id, textOf(title.get()), numberOf(pid.get()),
+        // Xterm tells its title in the old way only.
+        const QString text = textOf(title.get());
+        const Window window = {question.id, text.isEmpty() ? textOf(oldTitle.get()) : text,
+                               numberOf(pid.get()),
                                QRect(place->dst_x, place->dst_y, size->width, size->height),
                                attributes->map_state == XCB_MAP_STATE_VIEWABLE};
         if (!window.title.isEmpty() || window.pid != 0)
@@ -104,17 +110,19 @@ QList<Window> Windows::all() const
 
 std::optional<Window> Windows::findViewable(const QString &title) const
 {
-    for (const Window &window : all()) {
-        if (window.isViewable && window.title == title)
-            return window;
-    }
-    return std::nullopt;
+    return findViewableIf([&](const Window &window) { return window.title == title; });
 }
 
 std::optional<Window> Windows::findViewableOf(qint64 pid, const QString &part) const
 {
+    return findViewableIf(
+        [&](const Window &window) { return window.pid == pid && window.title.contains(part); });
+}
+
+std::optional<Window> Windows::findViewableIf(const std::function<bool(const Window &)> &isIt) const
+{
     for (const Window &window : all()) {
-        if (window.isViewable && window.pid == pid && window.title.contains(part))
+        if (window.isViewable && isIt(window))
             return window;
     }
     return std::nullopt;

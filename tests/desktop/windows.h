@@ -33,6 +33,9 @@ public:
     /// The viewable window of a process whose title contains `part`; any of its windows for an empty part.
     [[nodiscard]] std::optional<Window> findViewableOf(qint64 pid, const QString &part = {}) const;
 
+    /// The viewable window that satisfies `isIt`.
+    [[nodiscard]] std::optional<Window> findViewableIf(const std::function<bool(const Window &)> &isIt) const;
+
     /// Failure: none after `bound`.
     [[nodiscard]] std::optional<Window> waitViewable(const QString &title, std::chrono::milliseconds bound);
     [[nodiscard]] std::optional<Window> waitViewableOf(qint64 pid, const QString &part,
@@ -46,6 +49,9 @@ public:
 
     /// True once the window manager says that the window is the active one. Failure: false after `bound`.
     [[nodiscard]] bool waitActive(const Window &window, std::chrono::milliseconds bound);
+
+    /// Whether the window manager says that the window is the active one.
+    [[nodiscard]] bool isActive(const Window &window) const { return activeWindow() == window.id; }
 
     /// Asks the window manager to activate the window, as a pager does.
     void activate(const Window &window);

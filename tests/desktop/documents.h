@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/applicationcase.h"
+#include "desktop/pageserver.h"
+#include "desktop/virtualdesktop.h"
+
+namespace vesk {
+
+/// The document of a case, where an application finds it. It goes with this object.
+class SampleDocument final
+{
+public:
+    /// Null if it could not be written or served.
+    [[nodiscard]] static std::unique_ptr<SampleDocument> make(VirtualDesktop &desktop, Document kind);
+
+    /// What the application is told to open.
+    [[nodiscard]] const QString &place() const { return m_place; }
+    /// The page's address as a note has it; empty for what is no page on a server.
+    [[nodiscard]] QString address() const { return m_server ? m_place : QString(); }
+
+    /// The lines of text in every document.
+    [[nodiscard]] static const QStringList &lines();
+
+private:
+    std::unique_ptr<PageServer> m_server;
+    QString m_place;
+};
+
+} // namespace vesk

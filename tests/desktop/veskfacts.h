@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <chrono>
+
+namespace vesk {
+
+/// The hub takes no second capture for two seconds.
+constexpr std::chrono::milliseconds kCaptureGate{2100};
+
+/// The shortest that a finger stays on a key.
+constexpr std::chrono::milliseconds kFinger{20};
+
+const auto kPanel = QStringLiteral("Vesk");
+const auto kSaved = QStringLiteral("Saved to Vesk");
+const auto kAlready = QStringLiteral("Already in Vesk");
+
+} // namespace vesk
