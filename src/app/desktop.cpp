@@ -7,6 +7,8 @@ Desktop::Desktop(std::unique_ptr<X11Connection> connection, ApplicationService &
     : defaults(IniDefaults::standardPath())
     , consent(defaults)
     , x11(std::move(connection))
+    , settings(*x11)
+    , appearance(portal, settings)
     , input(*x11)
     , windows(*x11, screens)
     , workspace(*x11)

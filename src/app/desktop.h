@@ -9,6 +9,7 @@
 #include "platform/freedesktop/systemclock.h"
 #include "platform/x11/rawinput.h"
 #include "platform/x11/x11accessibility.h"
+#include "platform/x11/x11appearance.h"
 #include "platform/x11/x11application.h"
 #include "platform/x11/x11connection.h"
 #include "platform/x11/x11eventposter.h"
@@ -18,6 +19,7 @@
 #include "platform/x11/x11screens.h"
 #include "platform/x11/x11windows.h"
 #include "platform/x11/x11workspace.h"
+#include "platform/x11/xsettings.h"
 
 #include <memory>
 
@@ -32,9 +34,11 @@ struct Desktop
     SystemClock clock;
     IniDefaults defaults;
     Consent consent;
-    PortalAppearance appearance;
+    PortalAppearance portal;
     CanberraSounds sounds;
     std::unique_ptr<X11Connection> x11;
+    XSettings settings;
+    X11Appearance appearance;
     RawInput input;
     X11Screens screens;
     X11Windows windows;

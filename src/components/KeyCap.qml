@@ -10,12 +10,12 @@ Rectangle {
     required property string glyph
     property int place: KeyLabels.Window
 
-    implicitWidth: Math.max(22, label.implicitWidth + 12)
-    implicitHeight: 22
+    implicitWidth: Math.max(implicitHeight, Math.ceil(label.implicitWidth) + 2 * (label.text.length > 1 ? 4 : 2))
+    implicitHeight: Math.round(20 * Theme.textScale)
     radius: 5
-    color: Theme.faintFill
+    color: Theme.capFill
     border.width: 1
-    border.color: Theme.strongEdge
+    border.color: Theme.capEdge
     antialiasing: true
     Accessible.ignored: true
 

@@ -4,11 +4,12 @@ import QtQuick
 import Vesk.Components
 
 // A button without chrome of its own: whatever is put into it shrinks while it is pressed. `name` is
-// what a screen reader says.
+// what a screen reader says, `help` what comes up under a pointer that rests.
 Item {
     id: root
 
     required property string name
+    property string help: ""
     property real pressedScale: 0.88
     property real focusRadius: 6
     readonly property bool hovered: hover.hovered
@@ -17,9 +18,11 @@ Item {
     signal clicked
 
     activeFocusOnTab: true
+    opacity: root.enabled ? 1 : 0.4
     scale: root.pressed ? root.pressedScale : 1
     Accessible.role: Accessible.Button
     Accessible.name: root.name
+    Accessible.description: root.help === root.name ? "" : root.help
     Accessible.focusable: true
     Accessible.onPressAction: root.clicked()
     Keys.onSpacePressed: root.clicked()
@@ -42,6 +45,11 @@ Item {
         anchors.fill: parent
         cursorShape: Qt.PointingHandCursor
         onClicked: root.clicked()
+    }
+
+    HoverHelp {
+        text: root.help
+        isWanted: root.hovered && !root.pressed
     }
 
     Rectangle {

@@ -12,8 +12,9 @@ PressButton {
     required property bool isCollapsed
 
     name: qsTr("%1, %2 items, %3").arg(title).arg(count).arg(isCollapsed ? qsTr("collapsed") : qsTr("expanded"))
+    help: root.isCollapsed ? qsTr("Show") : qsTr("Hide")
     pressedScale: 1
-    implicitHeight: 20
+    implicitHeight: Math.round(20 * Theme.textScale)
 
     Symbol {
         id: chevron
@@ -48,22 +49,20 @@ PressButton {
         }
     }
 
-    Text {
+    CountText {
         id: number
 
         anchors.left: heading.right
         anchors.leftMargin: Theme.smallSpace
         anchors.baseline: heading.baseline
-        text: root.count
-        textFormat: Text.PlainText
+        count: root.count
         font: Theme.countFont
         color: Theme.tertiary
-        Accessible.ignored: true
     }
 
     Rectangle {
         anchors.left: number.right
-        anchors.leftMargin: Theme.tightSpace + 2
+        anchors.leftMargin: Theme.tightSpace
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         height: 1

@@ -24,6 +24,8 @@ public:
 
     /// The label of one key; whatever is no glyph of a key is its own label.
     [[nodiscard]] Q_INVOKABLE static QString label(const QString &glyph, vesk::KeyLabels::Place place);
+    /// A text with its combinations, as in "Delete (⌘⌫)", spelt in labels: "Delete (Ctrl+Backspace)".
+    [[nodiscard]] Q_INVOKABLE static QString spelt(const QString &text, vesk::KeyLabels::Place place);
 };
 
 } // namespace vesk

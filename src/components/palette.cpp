@@ -9,6 +9,8 @@ namespace {
 
 /// What makes symbols and bold labels readable; smaller text is never in the accent colour.
 constexpr qreal kReadableContrast = 3.5;
+/// The same for those who need more of it.
+constexpr qreal kHighContrast = 7;
 
 QColor withOpacity(QColor color, float opacity)
 {
@@ -25,15 +27,16 @@ qreal luminance(const QColor &color)
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-QColor readable(QColor color, const QColor &background, bool isDark)
+QColor readable(QColor color, const QColor &background, const ColorChoice &choice)
 {
+    const qreal wanted = choice.hasHighContrast ? kHighContrast : kReadableContrast;
     constexpr float kStep = 0.02F;
-    while (contrast(color, background) < kReadableContrast) {
+    while (contrast(color, background) < wanted) {
         float hue = 0;
         float saturation = 0;
         float lightness = 0;
         color.getHslF(&hue, &saturation, &lightness);
-        lightness += isDark ? kStep : -kStep;
+        lightness += choice.isDark ? kStep : -kStep;
         if (lightness <= 0 || lightness >= 1)
             break;
         color.setHslF(hue, saturation, lightness);
@@ -50,19 +53,30 @@ qreal contrast(const QColor &a, const QColor &b)
     return std::max(first, second) / std::min(first, second);
 }
 
-Palette palette(bool isDark, const std::optional<QColor> &accent)
+Palette palette(const ColorChoice &choice)
 {
-    const QColor ink = isDark ? QColor(0xf5, 0xf5, 0xf7) : QColor(0x1a, 0x1a, 0x1e);
+    const bool isDark = choice.isDark;
     const QColor ownAccent = isDark ? QColor(0x4c, 0x94, 0xff) : QColor(0x1f, 0x6f, 0xeb);
     Palette made;
-    made.background = isDark ? QColor(0x1f, 0x1f, 0x22) : QColor(0xff, 0xff, 0xff);
-    made.primary = ink;
-    made.secondary = withOpacity(ink, isDark ? 0.64F : 0.62F);
-    made.tertiary = withOpacity(ink, isDark ? 0.44F : 0.46F);
-    made.quaternary = withOpacity(ink, isDark ? 0.22F : 0.20F);
-    made.accent = readable(accent.value_or(ownAccent), made.background, isDark);
+    if (choice.hasHighContrast) {
+        made.background = isDark ? Qt::black : Qt::white;
+        made.primary = isDark ? Qt::white : Qt::black;
+        made.secondary = withOpacity(made.primary, 0.9F);
+        made.tertiary = withOpacity(made.primary, 0.75F);
+        made.quaternary = withOpacity(made.primary, 0.55F);
+        made.attention = isDark ? QColor(0xff, 0xb3, 0x40) : QColor(0xa8, 0x50, 0x00);
+        made.lineStrength = 5;
+    } else {
+        const QColor ink = isDark ? QColor(0xf5, 0xf5, 0xf7) : QColor(0x1a, 0x1a, 0x1e);
+        made.background = isDark ? QColor(0x1f, 0x1f, 0x22) : QColor(0xff, 0xff, 0xff);
+        made.primary = ink;
+        made.secondary = withOpacity(ink, isDark ? 0.64F : 0.62F);
+        made.tertiary = withOpacity(ink, isDark ? 0.44F : 0.46F);
+        made.quaternary = withOpacity(ink, isDark ? 0.22F : 0.20F);
+        made.attention = isDark ? QColor(0xff, 0x9f, 0x2e) : QColor(0xf0, 0x84, 0x0c);
+    }
+    made.accent = readable(choice.accent.value_or(ownAccent), made.background, choice);
     made.onAccent = contrast(made.accent, Qt::white) >= 2.6 ? QColor(Qt::white) : QColor(0x1a, 0x1a, 0x1e);
-    made.attention = isDark ? QColor(0xff, 0x9f, 0x2e) : QColor(0xf0, 0x84, 0x0c);
     return made;
 }
 

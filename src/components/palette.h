@@ -21,13 +21,25 @@ struct Palette
     QColor onAccent;
     /// Something needs the user's attention.
     QColor attention;
+    /// By how much the opacity of lines grows where they have to stand out.
+    float lineStrength = 1;
+};
+
+/// What the user has chosen of a desktop's colours.
+struct ColorChoice
+{
+    bool isDark = false;
+    /// Black on white, or white on black, with strong lines.
+    bool hasHighContrast = false;
+    /// None for Vesk's own blue.
+    std::optional<QColor> accent = std::nullopt;
 };
 
 /// How strongly two opaque colours differ for the eye, from 1 (not at all) to 21 (black and white).
 [[nodiscard]] qreal contrast(const QColor &a, const QColor &b);
 
-/// The palette of a scheme. The user's accent colour keeps its hue and is made lighter or darker
+/// The palette of a choice. The user's accent colour keeps its hue and is made lighter or darker
 /// until it can be read on the background.
-[[nodiscard]] Palette palette(bool isDark, const std::optional<QColor> &accent);
+[[nodiscard]] Palette palette(const ColorChoice &choice);
 
 } // namespace vesk

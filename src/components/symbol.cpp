@@ -6,7 +6,30 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+using namespace Qt::StringLiterals;
+
 namespace vesk {
+
+namespace {
+
+const auto kSlash = u".slash"_s;
+
+/// A line through a picture, with room around it, as the struck form of a symbol has.
+void strike(QPainter &painter, const QRectF &area)
+{
+    const qreal unit = area.width() / 16;
+    const QLineF line(area.left() + unit, area.top() + 1.5 * unit, area.right() - 1.5 * unit,
+                      area.bottom() - unit);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+    painter.setPen(QPen(Qt::black, 3.6 * unit, Qt::SolidLine, Qt::FlatCap));
+    painter.drawLine(line);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.setPen(QPen(Qt::black, 1.3 * unit, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(line);
+}
+
+} // namespace
 
 Symbol::Symbol(QQuickItem *parent)
     : QQuickPaintedItem(parent)
@@ -15,13 +38,17 @@ Symbol::Symbol(QQuickItem *parent)
 
 void Symbol::paint(QPainter *painter)
 {
-    const std::optional<QString> picture = symboltable::findPicture(m_name);
+    const bool isStruck = m_name.endsWith(kSlash);
+    const QString name = isStruck ? m_name.chopped(kSlash.size()) : m_name;
+    const std::optional<QString> picture = symboltable::findPicture(name);
     if (!picture)
         return;
     // The pictures are black; the colour goes over whatever they cover.
     QSvgRenderer renderer(*picture);
     const QRectF area = boundingRect();
     renderer.render(painter, area);
+    if (isStruck)
+        strike(*painter, area);
     painter->setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter->fillRect(area, m_color);
 }

@@ -21,7 +21,7 @@ public:
     void paint(QPainter *painter) override;
 
     [[nodiscard]] const QString &name() const { return m_name; }
-    /// A name without a picture draws nothing.
+    /// A name without a picture draws nothing; ".slash" after a name strikes its picture through.
     void setName(const QString &name);
     [[nodiscard]] const QColor &color() const { return m_color; }
     void setColor(const QColor &color);

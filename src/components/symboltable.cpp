@@ -18,18 +18,27 @@ struct Entry
 
 // The build reads the icon names from these lines and embeds those pictures, no others.
 constexpr std::array kEntries{
+    Entry{.symbol = "arrow.up.and.down", .icon = "arrow-down-up"},
+    Entry{.symbol = "arrow.up.forward.app", .icon = "box-arrow-up-right"},
+    Entry{.symbol = "arrow.up.right", .icon = "arrow-up-right"},
+    Entry{.symbol = "bubble.left.and.text.bubble.right", .icon = "chat-left-text"},
     Entry{.symbol = "checklist", .icon = "list-check"},
     Entry{.symbol = "checkmark", .icon = "check-lg"},
     Entry{.symbol = "checkmark.circle.fill", .icon = "check-circle-fill"},
     Entry{.symbol = "chevron.down", .icon = "chevron-down"},
+    Entry{.symbol = "doc.on.doc", .icon = "files"},
+    Entry{.symbol = "ellipsis", .icon = "three-dots"},
     Entry{.symbol = "exclamationmark.triangle.fill", .icon = "exclamation-triangle-fill"},
     Entry{.symbol = "hand.raised.fill", .icon = "shield-lock-fill"},
     Entry{.symbol = "magnifyingglass", .icon = "search"},
+    Entry{.symbol = "pin", .icon = "pin-angle"},
     Entry{.symbol = "pin.fill", .icon = "pin-angle-fill"},
     Entry{.symbol = "plus", .icon = "plus-lg"},
     Entry{.symbol = "square.and.pencil", .icon = "pencil-square"},
     Entry{.symbol = "text.append", .icon = "journal-plus"},
+    Entry{.symbol = "text.badge.plus", .icon = "bookmark-plus"},
     Entry{.symbol = "text.cursor", .icon = "cursor-text"},
+    Entry{.symbol = "trash", .icon = "trash"},
     Entry{.symbol = "xmark.circle.fill", .icon = "x-circle-fill"},
 };
 

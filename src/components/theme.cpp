@@ -2,23 +2,18 @@
 #include "components/theme.h"
 
 #include "components/surroundings.h"
-#include "platform/appearance.h"
 #include "platform/windows.h"
 
+#include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QStyleHints>
+
+#include <algorithm>
+#include <cmath>
 
 namespace vesk {
 
 namespace {
-
-/// Sizes are pixels, so that the proportions of a view hold whatever resolution the desktop reports.
-QFont font(int pixels, QFont::Weight weight = QFont::Normal)
-{
-    QFont made = QGuiApplication::font();
-    made.setPixelSize(pixels);
-    made.setWeight(weight);
-    return made;
-}
 
 QColor withOpacity(QColor color, float opacity)
 {
@@ -53,9 +48,14 @@ Theme::Theme(Surroundings &surroundings, QObject *parent)
 void Theme::update()
 {
     const Appearance &appearance = m_surroundings.appearance();
-    m_isDark = appearance.colorScheme() == Appearance::ColorScheme::Dark;
+    m_colors = {.isDark = appearance.colorScheme() == Appearance::ColorScheme::Dark,
+                .hasHighContrast = appearance.shouldIncreaseContrast(),
+                .accent = appearance.accentColor()};
     m_allowsMotion = !appearance.shouldReduceMotion();
-    m_palette = palette(m_isDark, appearance.accentColor());
+    m_textFont = appearance.textFont();
+    m_palette = palette(m_colors);
+    if (const auto flashTime = appearance.cursorFlashTime())
+        QGuiApplication::styleHints()->setCursorFlashTime(static_cast<int>(flashTime->count()));
     Q_EMIT changed();
 }
 
@@ -67,6 +67,11 @@ bool Theme::isComposited() const
 QColor Theme::primaryAt(float opacity) const
 {
     return withOpacity(m_palette.primary, opacity);
+}
+
+QColor Theme::lineAt(float opacity) const
+{
+    return primaryAt(std::min(1.0F, opacity * m_palette.lineStrength));
 }
 
 QColor Theme::clearBackground() const
@@ -81,17 +86,33 @@ QColor Theme::faintFill() const
 
 QColor Theme::fill() const
 {
-    return primaryAt(m_isDark ? 0.08F : 0.06F);
+    return primaryAt(m_colors.isDark ? 0.08F : 0.06F);
+}
+
+QColor Theme::capFill() const
+{
+    return primaryAt(0.05F);
+}
+
+QColor Theme::capEdge() const
+{
+    return lineAt(0.10F);
+}
+
+QColor Theme::raised() const
+{
+    return m_colors.isDark && !m_colors.hasHighContrast ? over(primaryAt(0.09F), m_palette.background)
+                                                        : m_palette.background;
 }
 
 QColor Theme::edge() const
 {
-    return primaryAt(0.08F);
+    return lineAt(0.08F);
 }
 
 QColor Theme::strongEdge() const
 {
-    return primaryAt(0.12F);
+    return lineAt(0.12F);
 }
 
 QColor Theme::neutralTile() const
@@ -101,12 +122,12 @@ QColor Theme::neutralTile() const
 
 QColor Theme::selectionFill() const
 {
-    return withOpacity(m_palette.accent, m_isDark ? 0.18F : 0.10F);
+    return withOpacity(m_palette.accent, m_colors.isDark ? 0.18F : 0.10F);
 }
 
 QColor Theme::textSelection() const
 {
-    return withOpacity(m_palette.accent, m_isDark ? 0.45F : 0.28F);
+    return withOpacity(m_palette.accent, m_colors.isDark ? 0.45F : 0.28F);
 }
 
 QColor Theme::matchFill() const
@@ -119,47 +140,72 @@ QColor Theme::opaqueEdge() const
     return over(strongEdge(), m_palette.background);
 }
 
-QFont Theme::headlineFont()
+QFont Theme::font(qreal pixels, QFont::Weight weight) const
+{
+    QFont made = QGuiApplication::font();
+    if (!m_textFont.family.isEmpty())
+        made.setFamily(m_textFont.family);
+    made.setPixelSize(qRound(pixels * m_textFont.scale));
+    made.setWeight(weight);
+    return made;
+}
+
+QFont Theme::headlineFont() const
 {
     return font(17, QFont::DemiBold);
 }
 
-QFont Theme::titleFont()
+QFont Theme::titleFont() const
 {
     return font(14, QFont::DemiBold);
 }
 
-QFont Theme::fieldFont()
+QFont Theme::fieldFont() const
 {
     return font(14);
 }
 
-QFont Theme::bodyFont()
+QFont Theme::bodyFont() const
 {
     return font(13);
 }
 
-QFont Theme::strongBodyFont()
+QFont Theme::strongBodyFont() const
 {
     return font(13, QFont::DemiBold);
 }
 
-QFont Theme::smallFont()
+QFont Theme::mediumBodyFont() const
+{
+    return font(13, QFont::Medium);
+}
+
+QFont Theme::hintFont() const
+{
+    return font(12.5);
+}
+
+QFont Theme::smallFont() const
 {
     return font(12);
 }
 
-QFont Theme::strongSmallFont()
+QFont Theme::strongSmallFont() const
 {
     return font(12, QFont::DemiBold);
 }
 
-QFont Theme::captionFont()
+QFont Theme::captionFont() const
 {
     return font(11);
 }
 
-QFont Theme::sectionFont()
+QFont Theme::strongCaptionFont() const
+{
+    return font(11, QFont::DemiBold);
+}
+
+QFont Theme::sectionFont() const
 {
     QFont made = font(11, QFont::DemiBold);
     made.setLetterSpacing(QFont::AbsoluteSpacing, 0.6);
@@ -167,14 +213,23 @@ QFont Theme::sectionFont()
     return made;
 }
 
-QFont Theme::countFont()
+QFont Theme::countFont() const
 {
     return font(10, QFont::DemiBold);
 }
 
-QFont Theme::keyFont()
+QFont Theme::keyFont() const
 {
     return font(12, QFont::Medium);
+}
+
+qreal Theme::digitsWidth(const QFont &font, int count)
+{
+    const QFontMetricsF metrics(font);
+    qreal widest = 0;
+    for (char16_t digit = u'0'; digit <= u'9'; ++digit)
+        widest = std::max(widest, metrics.horizontalAdvance(QChar(digit)));
+    return std::ceil(widest * count);
 }
 
 int Theme::springDuration() const
@@ -185,6 +240,11 @@ int Theme::springDuration() const
 int Theme::pressDuration() const
 {
     return m_allowsMotion ? 360 : 0;
+}
+
+int Theme::fadeDuration() const
+{
+    return m_allowsMotion ? 200 : 0;
 }
 
 QVariantList Theme::springCurve()

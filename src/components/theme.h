@@ -2,6 +2,7 @@
 #pragma once
 
 #include "components/palette.h"
+#include "platform/appearance.h"
 
 #include <QFont>
 #include <QObject>
@@ -21,6 +22,8 @@ class Theme final : public QObject
     QML_SINGLETON
 
     Q_PROPERTY(bool isDark READ isDark NOTIFY changed)
+    /// Whether lines and texts have to stand out strongly.
+    Q_PROPERTY(bool hasHighContrast READ hasHighContrast NOTIFY changed)
     /// Whether windows are blended by the desktop, so that one may be translucent.
     Q_PROPERTY(bool isComposited READ isComposited NOTIFY compositedChanged)
 
@@ -37,6 +40,10 @@ class Theme final : public QObject
     /// The primary colour at the opacities that fills and lines have.
     Q_PROPERTY(QColor faintFill READ faintFill NOTIFY changed)
     Q_PROPERTY(QColor fill READ fill NOTIFY changed)
+    Q_PROPERTY(QColor capFill READ capFill NOTIFY changed)
+    Q_PROPERTY(QColor capEdge READ capEdge NOTIFY changed)
+    /// The ground of what lies over a window's content: a menu, a line of help.
+    Q_PROPERTY(QColor raised READ raised NOTIFY changed)
     Q_PROPERTY(QColor edge READ edge NOTIFY changed)
     Q_PROPERTY(QColor strongEdge READ strongEdge NOTIFY changed)
     Q_PROPERTY(QColor neutralTile READ neutralTile NOTIFY changed)
@@ -51,12 +58,18 @@ class Theme final : public QObject
     Q_PROPERTY(QFont fieldFont READ fieldFont NOTIFY changed)
     Q_PROPERTY(QFont bodyFont READ bodyFont NOTIFY changed)
     Q_PROPERTY(QFont strongBodyFont READ strongBodyFont NOTIFY changed)
+    Q_PROPERTY(QFont mediumBodyFont READ mediumBodyFont NOTIFY changed)
+    Q_PROPERTY(QFont hintFont READ hintFont NOTIFY changed)
     Q_PROPERTY(QFont smallFont READ smallFont NOTIFY changed)
     Q_PROPERTY(QFont strongSmallFont READ strongSmallFont NOTIFY changed)
     Q_PROPERTY(QFont captionFont READ captionFont NOTIFY changed)
+    Q_PROPERTY(QFont strongCaptionFont READ strongCaptionFont NOTIFY changed)
     Q_PROPERTY(QFont sectionFont READ sectionFont NOTIFY changed)
     Q_PROPERTY(QFont countFont READ countFont NOTIFY changed)
     Q_PROPERTY(QFont keyFont READ keyFont NOTIFY changed)
+
+    /// How large the user wants texts; what holds one line of text grows by this.
+    Q_PROPERTY(qreal textScale READ textScale NOTIFY changed)
 
     Q_PROPERTY(qreal tightSpace MEMBER kTightSpace CONSTANT)
     Q_PROPERTY(qreal smallSpace MEMBER kSmallSpace CONSTANT)
@@ -73,13 +86,20 @@ class Theme final : public QObject
     /// The same for a button under the finger: response 0.25 s.
     Q_PROPERTY(int pressDuration READ pressDuration NOTIFY changed)
     Q_PROPERTY(QVariantList springCurve READ springCurve CONSTANT)
+    /// How long a window takes to appear. In milliseconds.
+    Q_PROPERTY(int fadeDuration READ fadeDuration NOTIFY changed)
+    /// How long a control says that it has done what it was asked for. In milliseconds.
+    Q_PROPERTY(int feedbackDuration READ feedbackDuration CONSTANT)
+    /// How long the pointer rests on a control until its help comes up. In milliseconds.
+    Q_PROPERTY(int helpDelay READ helpDelay CONSTANT)
     /// The ease-out of focus and hover. In milliseconds.
     Q_PROPERTY(int easeDuration READ easeDuration CONSTANT)
 
 public:
     static Theme *create(QQmlEngine *engine, QJSEngine *scriptEngine);
 
-    [[nodiscard]] bool isDark() const { return m_isDark; }
+    [[nodiscard]] bool isDark() const { return m_colors.isDark; }
+    [[nodiscard]] bool hasHighContrast() const { return m_colors.hasHighContrast; }
     [[nodiscard]] bool isComposited() const;
     [[nodiscard]] QColor background() const { return m_palette.background; }
     [[nodiscard]] QColor clearBackground() const;
@@ -92,6 +112,9 @@ public:
     [[nodiscard]] QColor attention() const { return m_palette.attention; }
     [[nodiscard]] QColor faintFill() const;
     [[nodiscard]] QColor fill() const;
+    [[nodiscard]] QColor capFill() const;
+    [[nodiscard]] QColor capEdge() const;
+    [[nodiscard]] QColor raised() const;
     [[nodiscard]] QColor edge() const;
     [[nodiscard]] QColor strongEdge() const;
     [[nodiscard]] QColor neutralTile() const;
@@ -100,22 +123,31 @@ public:
     [[nodiscard]] QColor matchFill() const;
     [[nodiscard]] QColor opaqueEdge() const;
 
-    [[nodiscard]] static QFont headlineFont();
-    [[nodiscard]] static QFont titleFont();
-    [[nodiscard]] static QFont fieldFont();
-    [[nodiscard]] static QFont bodyFont();
-    [[nodiscard]] static QFont strongBodyFont();
-    [[nodiscard]] static QFont smallFont();
-    [[nodiscard]] static QFont strongSmallFont();
-    [[nodiscard]] static QFont captionFont();
-    [[nodiscard]] static QFont sectionFont();
-    [[nodiscard]] static QFont countFont();
-    [[nodiscard]] static QFont keyFont();
+    [[nodiscard]] QFont headlineFont() const;
+    [[nodiscard]] QFont titleFont() const;
+    [[nodiscard]] QFont fieldFont() const;
+    [[nodiscard]] QFont bodyFont() const;
+    [[nodiscard]] QFont strongBodyFont() const;
+    [[nodiscard]] QFont mediumBodyFont() const;
+    [[nodiscard]] QFont hintFont() const;
+    [[nodiscard]] QFont smallFont() const;
+    [[nodiscard]] QFont strongSmallFont() const;
+    [[nodiscard]] QFont captionFont() const;
+    [[nodiscard]] QFont strongCaptionFont() const;
+    [[nodiscard]] QFont sectionFont() const;
+    [[nodiscard]] QFont countFont() const;
+    [[nodiscard]] QFont keyFont() const;
+    [[nodiscard]] qreal textScale() const { return m_textFont.scale; }
+    /// How much room `count` digits of a font need, whichever they are.
+    [[nodiscard]] Q_INVOKABLE static qreal digitsWidth(const QFont &font, int count);
 
     [[nodiscard]] bool allowsMotion() const { return m_allowsMotion; }
     [[nodiscard]] int springDuration() const;
     [[nodiscard]] int pressDuration() const;
     [[nodiscard]] static QVariantList springCurve();
+    [[nodiscard]] int fadeDuration() const;
+    [[nodiscard]] static int feedbackDuration() { return 1200; }
+    [[nodiscard]] static int helpDelay() { return 600; }
     [[nodiscard]] static int easeDuration() { return 140; }
 
 Q_SIGNALS:
@@ -127,6 +159,9 @@ private:
 
     void update();
     [[nodiscard]] QColor primaryAt(float opacity) const;
+    [[nodiscard]] QColor lineAt(float opacity) const;
+    /// Sizes are pixels, so that the proportions of a view hold whatever resolution the desktop reports.
+    [[nodiscard]] QFont font(qreal pixels, QFont::Weight weight = QFont::Normal) const;
 
     static constexpr qreal kTightSpace = 4;
     static constexpr qreal kSmallSpace = 6;
@@ -137,7 +172,8 @@ private:
     static constexpr qreal kCardRadius = 16;
 
     Surroundings &m_surroundings;
-    bool m_isDark = false;
+    ColorChoice m_colors;
+    Appearance::TextFont m_textFont;
     bool m_allowsMotion = true;
     Palette m_palette;
 };

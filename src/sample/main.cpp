@@ -49,6 +49,8 @@ int main(int argc, char *argv[])
     options.setApplicationDescription(u"Shows Vesk's panel with sample notes."_s);
     options.addHelpOption();
     const QCommandLineOption dark(u"dark"_s, u"Dark colours."_s);
+    const QCommandLineOption strong(u"high-contrast"_s, u"Colours that stand out strongly."_s);
+    const QCommandLineOption textScale(u"text-scale"_s, u"How large texts are."_s, u"FACTOR"_s, u"1"_s);
     const QCommandLineOption empty(u"empty"_s, u"No notes."_s);
     const QCommandLineOption untrusted(u"untrusted"_s, u"Without access to other applications."_s);
     const QCommandLineOption composited(u"composited"_s, u"Rely on a compositor that blends windows."_s);
@@ -58,7 +60,8 @@ int main(int argc, char *argv[])
     const QCommandLineOption notice(u"notice"_s, u"Shows a notice as well."_s, u"TEXT"_s);
     const QCommandLineOption screenshot(u"screenshot"_s, u"Writes a picture of the panel and quits."_s,
                                         u"FILE"_s);
-    options.addOptions({dark, empty, untrusted, composited, still, notes, search, notice, screenshot});
+    options.addOptions(
+        {dark, strong, textScale, empty, untrusted, composited, still, notes, search, notice, screenshot});
     options.process(program);
 
     const QTemporaryDir folder;
@@ -73,6 +76,8 @@ int main(int argc, char *argv[])
     vesk::MemoryAppearance appearance;
     appearance.setColorScheme(options.isSet(dark) ? vesk::Appearance::ColorScheme::Dark
                                                   : vesk::Appearance::ColorScheme::Light);
+    appearance.setIncreaseContrast(options.isSet(strong));
+    appearance.setTextFont({.family = {}, .scale = options.value(textScale).toDouble()});
     appearance.setReduceMotion(options.isSet(still));
     vesk::MemoryScreens screens;
     const QRectF frame = program.primaryScreen()->geometry();

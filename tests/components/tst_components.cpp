@@ -9,9 +9,11 @@
 #include "platform/memory/memorywindows.h"
 #include "platform/memory/memoryworkspace.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QQmlEngine>
 #include <QSignalSpy>
+#include <QStyleHints>
 #include <QSvgRenderer>
 #include <QTest>
 
@@ -25,6 +27,8 @@ class ComponentsTest : public QObject
 private Q_SLOTS:
     void keyLabelsSayWhatWorksInTheirPlace_data();
     void keyLabelsSayWhatWorksInTheirPlace();
+    void combinationsInTextsAreSpelt_data();
+    void combinationsInTextsAreSpelt();
     void everyAccentCanBeRead_data();
     void everyAccentCanBeRead();
     void everySymbolHasAPicture();
@@ -40,7 +44,14 @@ void ComponentsTest::keyLabelsSayWhatWorksInTheirPlace_data()
 
     QTest::newRow("command") << u"\u2318"_s << u"Super"_s << u"Ctrl"_s;
     QTest::newRow("option") << u"\u2325"_s << u"Alt"_s << u"Alt"_s;
+    QTest::newRow("control") << u"\u2303"_s << u"Ctrl"_s << u"Ctrl"_s;
+    QTest::newRow("shift") << u"\u21E7"_s << u"Shift"_s << u"Shift"_s;
+    QTest::newRow("return") << u"\u21A9"_s << u"Enter"_s << u"Enter"_s;
+    QTest::newRow("delete") << u"\u232B"_s << u"Backspace"_s << u"Backspace"_s;
+    QTest::newRow("space") << u"\u2423"_s << u"Space"_s << u"Space"_s;
+    QTest::newRow("escape") << u"esc"_s << u"Esc"_s << u"Esc"_s;
     QTest::newRow("a letter is its own label") << u"N"_s << u"N"_s << u"N"_s;
+    QTest::newRow("so is what is typed") << u"[ ]"_s << u"[ ]"_s << u"[ ]"_s;
 }
 
 void ComponentsTest::keyLabelsSayWhatWorksInTheirPlace()
@@ -48,6 +59,28 @@ void ComponentsTest::keyLabelsSayWhatWorksInTheirPlace()
     QFETCH(QString, glyph);
     QTEST(KeyLabels::label(glyph, KeyLabels::Global), "global");
     QTEST(KeyLabels::label(glyph, KeyLabels::Window), "window");
+}
+
+void ComponentsTest::combinationsInTextsAreSpelt_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("global");
+    QTest::addColumn<QString>("window");
+
+    QTest::newRow("with a letter") << u"New Note (\u2303\u2325\u2318N)"_s << u"New Note (Ctrl+Alt+Super+N)"_s
+                                   << u"New Note (Ctrl+Alt+Ctrl+N)"_s;
+    QTest::newRow("with a key") << u"Delete (\u2318\u232B)"_s << u"Delete (Super+Backspace)"_s
+                                << u"Delete (Ctrl+Backspace)"_s;
+    QTest::newRow("a key alone, then a word")
+        << u"Press \u21A9 to save"_s << u"Press Enter to save"_s << u"Press Enter to save"_s;
+    QTest::newRow("no key") << u"Quit Vesk"_s << u"Quit Vesk"_s << u"Quit Vesk"_s;
+}
+
+void ComponentsTest::combinationsInTextsAreSpelt()
+{
+    QFETCH(QString, text);
+    QTEST(KeyLabels::spelt(text, KeyLabels::Global), "global");
+    QTEST(KeyLabels::spelt(text, KeyLabels::Window), "window");
 }
 
 void ComponentsTest::everyAccentCanBeRead_data()
@@ -65,9 +98,13 @@ void ComponentsTest::everyAccentCanBeRead()
 {
     QFETCH(QColor, accent);
     for (const bool isDark : {false, true}) {
-        const Palette made = palette(isDark, accent.isValid() ? std::optional(accent) : std::nullopt);
-        QVERIFY(contrast(made.accent, made.background) >= 3);
-        QVERIFY(contrast(made.onAccent, made.accent) >= 2.6);
+        for (const bool isStrong : {false, true}) {
+            const Palette made = palette({.isDark = isDark,
+                                          .hasHighContrast = isStrong,
+                                          .accent = accent.isValid() ? std::optional(accent) : std::nullopt});
+            QVERIFY(contrast(made.accent, made.background) >= (isStrong ? 7 : 3));
+            QVERIFY(contrast(made.onAccent, made.accent) >= 2.6);
+        }
     }
 }
 
@@ -106,6 +143,21 @@ void ComponentsTest::themeFollowsTheDesktop()
     QVERIFY(theme->background().lightnessF() < lightGround.lightnessF());
     QCOMPARE(theme->springDuration(), 0);
     QCOMPARE(theme->pressDuration(), 0);
+    QCOMPARE(theme->fadeDuration(), 0);
+
+    appearance.setAccentColor(QColor(0x00, 0x80, 0x40));
+    QCOMPARE(theme->accent().hslHue(), QColor(0x00, 0x80, 0x40).hslHue());
+    const qreal usualLine = theme->edge().alphaF();
+    appearance.setIncreaseContrast(true);
+    QCOMPARE(contrast(theme->primary(), theme->background()), 21.0);
+    QVERIFY(theme->edge().alphaF() > 2 * usualLine);
+
+    const int usualSize = theme->titleFont().pixelSize();
+    appearance.setTextFont({.family = u"Some Family"_s, .scale = 1.5});
+    QCOMPARE(theme->titleFont().family(), u"Some Family"_s);
+    QCOMPARE(theme->titleFont().pixelSize(), qRound(1.5 * usualSize));
+    appearance.setCursorFlashTime(std::chrono::milliseconds(0));
+    QCOMPARE(QGuiApplication::styleHints()->cursorFlashTime(), 0);
 }
 
 void ComponentsTest::iconIsLookedUpOnce()

@@ -10,16 +10,16 @@
 
 namespace vesk {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString kInterface = QStringLiteral("org.freedesktop.portal.Settings");
-const QString kAppearance = QStringLiteral("org.freedesktop.appearance");
-const QString kColorScheme = QStringLiteral("color-scheme");
-const QString kAccentColor = QStringLiteral("accent-color");
-const QString kGnomeInterface = QStringLiteral("org.gnome.desktop.interface");
-const QString kEnableAnimations = QStringLiteral("enable-animations");
+const QString kService = u"org.freedesktop.portal.Desktop"_s;
+const QString kPath = u"/org/freedesktop/portal/desktop"_s;
+const QString kInterface = u"org.freedesktop.portal.Settings"_s;
+const QString kAppearance = u"org.freedesktop.appearance"_s;
+const QString kGnome = u"org.gnome.desktop.interface"_s;
+const QString kGnomeAccess = u"org.gnome.desktop.a11y.interface"_s;
 
 /// Three fractions of red, green and blue; outside 0 to 1 they mean that there is no accent.
 std::optional<QColor> accentFrom(const QVariant &value)
@@ -41,56 +41,102 @@ std::optional<QColor> accentFrom(const QVariant &value)
     return QColor::fromRgbF(static_cast<float>(red), static_cast<float>(green), static_cast<float>(blue));
 }
 
+/// A statement of what the user prefers, where 0 is the absence of one.
+std::optional<bool> preference(const QVariant &value)
+{
+    return value.toUInt() == 1 ? std::optional(true) : std::nullopt;
+}
+
+std::optional<Appearance::ColorScheme> colorSchemeFrom(const QVariant &value)
+{
+    switch (value.toUInt()) {
+    case 1:
+        return Appearance::ColorScheme::Dark;
+    case 2:
+        return Appearance::ColorScheme::Light;
+    default:
+        return std::nullopt;
+    }
+}
+
+struct Setting
+{
+    const QString &group;
+    QString key;
+    void (*take)(DesktopLooks &looks, const QVariant &value);
+};
+
+/// Every setting that matters here, and what it says.
+const QList<Setting> &settings()
+{
+    static const QList<Setting> all{
+        {kAppearance, u"color-scheme"_s,
+         [](DesktopLooks &looks, const QVariant &value) { looks.colorScheme = colorSchemeFrom(value); }},
+        {kAppearance, u"accent-color"_s,
+         [](DesktopLooks &looks, const QVariant &value) { looks.accentColor = accentFrom(value); }},
+        {kAppearance, u"contrast"_s,
+         [](DesktopLooks &looks, const QVariant &value) { looks.increasesContrast = preference(value); }},
+        {kAppearance, u"reduced-motion"_s,
+         [](DesktopLooks &looks, const QVariant &value) { looks.reducesMotion = preference(value); }},
+        {kGnomeAccess, u"high-contrast"_s,
+         [](DesktopLooks &looks, const QVariant &value) { looks.increasesContrast = value.toBool(); }},
+        {kGnome, u"enable-animations"_s,
+         [](DesktopLooks &looks, const QVariant &value) { looks.reducesMotion = !value.toBool(); }},
+        {kGnome, u"font-name"_s,
+         [](DesktopLooks &looks, const QVariant &value) { looks.textFont = textFontFrom(value.toString()); }},
+        {kGnome, u"cursor-blink"_s,
+         [](DesktopLooks &looks, const QVariant &value) { looks.cursorBlinks = value.toBool(); }},
+        {kGnome, u"cursor-blink-time"_s,
+         [](DesktopLooks &looks, const QVariant &value) {
+             looks.cursorBlinkTime = std::chrono::milliseconds(value.toInt());
+         }},
+    };
+    return all;
+}
+
 } // namespace
 
 PortalAppearance::PortalAppearance()
 {
-    QDBusConnection::sessionBus().connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
+    QDBusConnection::sessionBus().connect(kService, kPath, kInterface, u"SettingChanged"_s, this,
                                           SLOT(onSettingChanged(QString, QString, QDBusVariant)));
-    ask(kAppearance, kColorScheme);
-    ask(kAppearance, kAccentColor);
-    ask(kGnomeInterface, kEnableAnimations);
+    for (const Setting &setting : settings())
+        ask(setting.group, setting.key);
 }
 
 void PortalAppearance::onSettingChanged(const QString &group, const QString &key, const QDBusVariant &value)
 {
-    if (take(group, key, value.variant()))
-        Q_EMIT changed();
+    take(group, key, value.variant());
 }
 
 void PortalAppearance::ask(const QString &group, const QString &key)
 {
-    QDBusMessage call = QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Read"));
+    QDBusMessage call = QDBusMessage::createMethodCall(kService, kPath, kInterface, u"Read"_s);
     call << group << key;
     auto *watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, group, key] {
         watcher->deleteLater();
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
-        // No portal, or one that does not know the key: the first values hold.
+        // No portal, or one that does not know the key: that one says nothing.
         if (reply.isError())
             return;
         QVariant value = reply.value().variant();
         // Read wraps the value twice, for a reason of its own history.
         if (value.canConvert<QDBusVariant>())
             value = value.value<QDBusVariant>().variant();
-        if (take(group, key, value))
-            Q_EMIT changed();
+        take(group, key, value);
     });
 }
 
-bool PortalAppearance::take(const QString &group, const QString &key, const QVariant &value)
+void PortalAppearance::take(const QString &group, const QString &key, const QVariant &value)
 {
-    if (group == kAppearance && key == kColorScheme) {
-        constexpr uint kPreferDark = 1;
-        m_colorScheme = value.toUInt() == kPreferDark ? ColorScheme::Dark : ColorScheme::Light;
-    } else if (group == kAppearance && key == kAccentColor) {
-        m_accentColor = accentFrom(value);
-    } else if (group == kGnomeInterface && key == kEnableAnimations) {
-        m_reducesMotion = !value.toBool();
-    } else {
-        return false;
+    const DesktopLooks before = m_looks;
+    for (const Setting &setting : settings()) {
+        if (setting.group == group && setting.key == key)
+            setting.take(m_looks, value);
     }
-    return true;
+    if (m_looks != before)
+        Q_EMIT changed();
 }
 
 } // namespace vesk

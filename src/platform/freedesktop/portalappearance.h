@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/appearance.h"
+#include "platform/freedesktop/desktoplooks.h"
 
 #include <QVariant>
 
@@ -10,8 +10,8 @@ class QDBusVariant;
 
 namespace vesk {
 
-/// The desktop's looks as its settings portal tells them; light, with no accent, where there is none.
-class PortalAppearance final : public Appearance
+/// The desktop's looks as its settings portal tells them; says nothing where there is none.
+class PortalAppearance final : public QObject
 {
     Q_OBJECT
 
@@ -19,21 +19,19 @@ public:
     /// Asks the portal; the answers arrive later, as `changed`.
     PortalAppearance();
 
-    [[nodiscard]] ColorScheme colorScheme() const override { return m_colorScheme; }
-    [[nodiscard]] std::optional<QColor> accentColor() const override { return m_accentColor; }
-    [[nodiscard]] bool shouldReduceMotion() const override { return m_reducesMotion; }
+    [[nodiscard]] const DesktopLooks &looks() const { return m_looks; }
+
+Q_SIGNALS:
+    void changed();
 
 private Q_SLOTS:
     void onSettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
 
 private:
     void ask(const QString &group, const QString &key);
-    /// Whether it was a setting that matters here.
-    [[nodiscard]] bool take(const QString &group, const QString &key, const QVariant &value);
+    void take(const QString &group, const QString &key, const QVariant &value);
 
-    ColorScheme m_colorScheme = ColorScheme::Light;
-    std::optional<QColor> m_accentColor;
-    bool m_reducesMotion = false;
+    DesktopLooks m_looks;
 };
 
 } // namespace vesk

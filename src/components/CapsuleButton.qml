@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+
+// A button with a text on a capsule; the main one of a view stands out in the accent colour.
+PressButton {
+    id: root
+
+    required property string text
+    property bool isMain: false
+
+    name: root.text
+    implicitWidth: Math.ceil(label.implicitWidth) + 2 * 14
+    implicitHeight: Math.round(28 * Theme.textScale)
+    pressedScale: 0.96
+    focusRadius: height / 2 + 3
+
+    Rectangle {
+        anchors.fill: parent
+        radius: height / 2
+        antialiasing: true
+        color: root.isMain ? Theme.accent : root.hovered ? Theme.neutralTile : Theme.fill
+        border.width: root.isMain ? 0 : 1
+        border.color: Theme.edge
+
+        Behavior on color {
+            Ease {
+            }
+        }
+    }
+
+    Text {
+        id: label
+
+        anchors.centerIn: parent
+        text: root.text
+        textFormat: Text.PlainText
+        font: Theme.strongSmallFont
+        color: root.isMain ? Theme.onAccent : Theme.primary
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+
+// A number that takes the same room whatever its digits are, so that what stands beside it keeps its place.
+Text {
+    id: root
+
+    required property int count
+
+    width: Math.max(implicitWidth, Theme.digitsWidth(root.font, root.text.length))
+    text: root.count
+    textFormat: Text.PlainText
+    horizontalAlignment: Text.AlignHCenter
+    Accessible.ignored: true
+}

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+
+// What a control is for, in a bubble below it once the pointer has rested on it for a while. Lies in the
+// control; the bubble itself is made only while it is up, over everything else in the window.
+Item {
+    id: root
+
+    required property string text
+    required property bool isWanted
+
+    anchors.fill: parent
+
+    Timer {
+        id: patience
+
+        interval: Theme.helpDelay
+        running: root.isWanted && root.text.length > 0
+        onTriggered: bubble.setSource("HelpBubble.qml", {
+                "target": root,
+                "text": root.text
+            })
+    }
+
+    Loader {
+        id: bubble
+    }
+
+    Connections {
+        function onIsWantedChanged() {
+            bubble.source = "";
+        }
+
+        target: root
+    }
+}

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Vesk.Components
+
+// A menu over the content of a window: `openBelow` for the one of a button, `openAt` for the one of what
+// the pointer is on. Takes all keys and clicks until it closes.
+Item {
+    id: root
+
+    default property alias entries: control.entries
+    property string name: ""
+    // Where the combinations of keys in the entries' texts work.
+    property int place: KeyLabels.Window
+    readonly property alias isOpen: control.isOpen
+    property point corner
+
+    function openBelow(item: Item) {
+        openAt(item, item.width, item.height + 4);
+    }
+
+    function openAt(item: Item, x: real, y: real) {
+        corner = item.mapToItem(item.Window.contentItem, x, y);
+        parent = item.Window.contentItem;
+        control.open(item);
+    }
+
+    function close() {
+        control.close();
+    }
+
+    anchors.fill: parent
+    z: 1000
+    visible: control.isOpen
+    onVisibleChanged: {
+        if (visible)
+            sheet.forceActiveFocus();
+    }
+
+    MenuControl {
+        id: control
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.AllButtons
+        hoverEnabled: true
+        onPressed: control.close()
+        onWheel: {
+        }
+    }
+
+    Rectangle {
+        id: sheet
+
+        x: Math.max(8, Math.min(root.corner.x - (root.corner.x > root.width / 2 ? width : 0), root.width - width - 8))
+        y: Math.max(8, Math.min(root.corner.y, root.height - height - 8))
+        width: rows.width + 10
+        height: rows.height + 10
+        radius: 10
+        color: Theme.raised
+        border.width: 1
+        border.color: Theme.strongEdge
+        antialiasing: true
+        Accessible.role: Accessible.PopupMenu
+        Accessible.name: root.name
+
+        Column {
+            id: rows
+
+            x: 5
+            y: 5
+
+            Repeater {
+                model: control.entries
+
+                MenuRow {
+                    required property MenuEntry modelData
+                    required property int index
+
+                    entry: modelData
+                    place: root.place
+                    width: Math.max(implicitWidth, rows.implicitWidth)
+                    isCurrent: control.current === index
+                    onPointedAt: control.current = index
+                    onPointedAway: control.current = -1
+                    onClicked: control.choose(index)
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+
+// One entry of a menu.
+Rectangle {
+    id: root
+
+    required property MenuEntry entry
+    required property int place
+    required property bool isCurrent
+
+    signal pointedAt
+    signal pointedAway
+    signal clicked
+
+    implicitWidth: root.entry.isDivider ? 0 : label.implicitWidth + 2 * 10
+    implicitHeight: root.entry.isDivider ? 9 : Math.round(24 * Theme.textScale)
+    radius: 6
+    color: root.isCurrent ? Theme.accent : "transparent"
+    antialiasing: true
+    Accessible.role: root.entry.isDivider ? Accessible.Separator : Accessible.MenuItem
+    Accessible.name: label.text
+    Accessible.focusable: root.entry.isEnabled
+    Accessible.onPressAction: root.clicked()
+    // The keyboard goes along, for a screen reader to say where it is.
+    onIsCurrentChanged: {
+        if (isCurrent)
+            forceActiveFocus();
+    }
+
+    Text {
+        id: label
+
+        x: 10
+        anchors.verticalCenter: parent.verticalCenter
+        text: KeyLabels.spelt(root.entry.text, root.place)
+        textFormat: Text.PlainText
+        font: Theme.bodyFont
+        color: root.isCurrent ? Theme.onAccent : root.entry.isEnabled ? Theme.primary : Theme.tertiary
+        Accessible.ignored: true
+    }
+
+    Rectangle {
+        anchors.verticalCenter: parent.verticalCenter
+        x: 10
+        width: parent.width - 2 * x
+        height: 1
+        visible: root.entry.isDivider
+        color: Theme.strongEdge
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        hoverEnabled: true
+        onEntered: root.pointedAt()
+        onPositionChanged: root.pointedAt()
+        onExited: root.pointedAway()
+        onClicked: root.clicked()
+    }
+}

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+
+// A button that is a symbol, with a faint ground under the pointer.
+PressButton {
+    id: root
+
+    required property string symbol
+    property real symbolSize: 14
+    property color color: Theme.secondary
+    property color hoverColor: Theme.primary
+
+    help: root.name
+    implicitWidth: 26
+    implicitHeight: 26
+    focusRadius: height / 2 + 3
+
+    Rectangle {
+        anchors.fill: parent
+        radius: height / 2
+        antialiasing: true
+        color: Theme.fill
+        visible: root.hovered && root.enabled
+    }
+
+    Symbol {
+        anchors.centerIn: parent
+        name: root.symbol
+        size: root.symbolSize
+        color: root.hovered ? root.hoverColor : root.color
+    }
+}

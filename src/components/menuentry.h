@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QQmlEngine>
+
+namespace vesk {
+
+/// One line of a menu: something to do, or, without a text, a line that divides.
+class MenuEntry : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QString text READ text WRITE setText NOTIFY changed)
+    Q_PROPERTY(bool isEnabled READ isEnabled WRITE setEnabled NOTIFY changed)
+    Q_PROPERTY(bool isDivider READ isDivider NOTIFY changed)
+
+public:
+    using QObject::QObject;
+
+    [[nodiscard]] const QString &text() const { return m_text; }
+    void setText(const QString &text);
+    [[nodiscard]] bool isEnabled() const { return m_isEnabled; }
+    void setEnabled(bool isEnabled);
+    [[nodiscard]] bool isDivider() const { return m_text.isEmpty(); }
+    [[nodiscard]] bool canBeChosen() const { return m_isEnabled && !isDivider(); }
+
+Q_SIGNALS:
+    /// The user has chosen the entry; its menu has gone.
+    void triggered();
+    void changed();
+
+private:
+    QString m_text;
+    bool m_isEnabled = true;
+};
+
+} // namespace vesk
