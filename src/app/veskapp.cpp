@@ -55,6 +55,15 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store)
     connect(&m_panel, &PanelModel::pasteRequested, &m_pasteBack, &PasteBack::pasteIntoPreviousApp);
     connect(&m_panel, &PanelModel::fieldPasteRequested, this,
             [this, &desktop] { pasteIntoField(desktop.pasteboard); });
+    connect(m_panel.cards(), &CardActions::copyRequested, this, [this, &desktop](const QString &text) {
+        desktop.pasteboard.setString(text);
+        m_watcher.markOwn();
+    });
+    connect(m_panel.cards(), &CardActions::urlRequested, &desktop.workspace, &Workspace::openUrl);
+    connect(m_panel.cards(), &CardActions::applicationRequested, &desktop.workspace,
+            &Workspace::openApplication);
+    connect(m_panel.menu(), &PanelMenu::accessibilitySettingsRequested, &m_accessWindow, &AccessWindow::show);
+    connect(m_panel.menu(), &PanelMenu::quitRequested, qApp, &QCoreApplication::quit);
     m_watcher.start();
     m_services.start();
     QTimer::singleShot(0, this, [&desktop] { desktop.workspace.warmUp(); });

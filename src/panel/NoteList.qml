@@ -50,7 +50,7 @@ FocusScope {
 
             width: list.width - 2 * Theme.margin
             panel: root.model
-            isFocused: !row.isHeader && root.model.focusedId === row.noteId
+            isFocused: !row.isHeader && root.model.focusedId === row.cardId
         }
         add: Transition {
             enabled: root.isAnimated

@@ -16,7 +16,7 @@ Item {
     required property string sectionTitle
     required property int sectionCount
     required property bool isCollapsed
-    required property string noteId
+    required property string cardId
     required property string title
     required property string preview
     required property list<string> itemTexts
@@ -72,8 +72,8 @@ Item {
             sourceBundle: root.sourceBundle
             isPinned: root.isPinned
             isFocused: root.isFocused
-            onClicked: root.panel.focus(root.noteId)
-            onItemToggled: line => root.panel.toggleItem(root.noteId, line)
+            onClicked: root.panel.cards.open(root.cardId)
+            onItemToggled: line => root.panel.cards.toggleItem(root.cardId, line)
         }
     }
 }

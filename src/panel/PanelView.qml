@@ -32,8 +32,8 @@ FocusScope {
 
     Binding {
         target: root.model
-        property: "isComposing"
-        value: search.isComposing || composer.isComposing
+        property: "keyOwner"
+        value: search.isComposing || composer.isComposing ? PanelModel.KeyOwner.Other : PanelModel.KeyOwner.None
     }
 
     Connections {
@@ -78,13 +78,13 @@ FocusScope {
 
     EmptySearch {
         anchors.fill: list
-        visible: root.model.notes.isEmpty && !root.model.notes.isStoreEmpty
+        visible: root.model.notes.isEmpty && root.model.notes.noteCount > 0
         query: root.model.query
     }
 
     EmptyState {
         anchors.fill: list
-        visible: root.model.notes.isStoreEmpty
+        visible: root.model.notes.noteCount === 0
     }
 
     AccessBanner {

@@ -61,4 +61,22 @@ int furtherItems(const Note &note)
     return progress ? static_cast<int>(std::max<qsizetype>(0, progress->total - kMaximumItems)) : 0;
 }
 
+QString sourceLabel(const Note &note)
+{
+    const std::optional<QString> &app = note.sourceApp();
+    if (!app)
+        return {};
+    // The title of a window may hold line breaks; the label is one line.
+    const QString title = note.sourceTitle().value_or(QString()).left(kLongestShown).simplified();
+    return title.isEmpty() ? QCoreApplication::translate("NoteCard", "from %1").arg(*app) : title;
+}
+
+QString sourceTip(const Note &note)
+{
+    if (const std::optional<QString> &url = note.sourceURL(); url && !url->isEmpty())
+        return url->left(kLongestShown);
+    const QString name = note.sourceApp().value_or(QCoreApplication::translate("NoteCard", "the app"));
+    return QCoreApplication::translate("NoteCard", "Open %1").arg(name);
+}
+
 } // namespace vesk::carddata

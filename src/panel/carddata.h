@@ -8,7 +8,7 @@ namespace vesk {
 
 class Note;
 
-/// What a collapsed card shows of its note, by the role of the list model that asks.
+/// What a card shows of its note, by the role of the list model that asks.
 namespace carddata {
 
 /// At most so many checkboxes are shown on a card.
@@ -23,6 +23,12 @@ inline constexpr qsizetype kMaximumItems = 3;
 [[nodiscard]] QList<int> itemLines(const Note &note);
 /// How many checkboxes are not shown.
 [[nodiscard]] int furtherItems(const Note &note);
+
+/// What the button of an open card says that leads back to the note's source: the title of the window,
+/// or the application. Empty for a note without a source.
+[[nodiscard]] QString sourceLabel(const Note &note);
+/// Where that button leads: an address, or the opening of an application.
+[[nodiscard]] QString sourceTip(const Note &note);
 
 } // namespace carddata
 } // namespace vesk

@@ -2,10 +2,9 @@
 #include "panel/notelistmodel.h"
 
 #include "notes/notesstore.h"
-#include "panel/carddata.h"
 #include "panel/searchtext.h"
-#include "platform/defaults.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 
 using namespace Qt::StringLiterals;
@@ -15,36 +14,54 @@ namespace vesk {
 
 namespace {
 
-constexpr auto kTimesStayFresh = 30s;
+enum : size_t {
+    kPinned,
+    kToday,
+    kEarlier,
+    kSectionCount,
+};
+
+constexpr std::chrono::milliseconds kTimesStayFresh = 30s;
+/// So many notes are folded at a time, to leave the event loop its turns.
+constexpr qsizetype kFoldedAtATime = 250;
+/// More notes than this moving are set in place all at once.
+constexpr size_t kMostMoves = 24;
 
 Date dateOf(const QDateTime &time)
 {
     return Date{std::chrono::milliseconds{time.toMSecsSinceEpoch()}};
 }
 
-QString defaultsKey(const NoteSections::Section &section)
+/// Most notes hold no box at all, which is told much faster than by reading their lines.
+bool isChecklist(const QString &text)
 {
-    return u"collapsed."_s + section.key;
+    return (text.contains(markup::kUnticked.front()) || text.contains(markup::kTicked.front()))
+           && markup::progress(text);
+}
+
+std::vector<ListSections::Section> allSections()
+{
+    const auto title = [](const char *text) { return QCoreApplication::translate("NoteSections", text); };
+    return {{.key = u"pinned"_s, .title = title("Pinned")},
+            {.key = u"today"_s, .title = title("Today")},
+            {.key = u"earlier"_s, .title = title("Earlier")}};
 }
 
 } // namespace
 
 NoteListModel::NoteListModel(NotesStore &store, Clock &clock, Defaults &defaults, QObject *parent)
-    : QAbstractListModel(parent)
+    : SectionedListModel(allSections(), defaults, parent)
     , m_store(store)
     , m_clock(clock)
-    , m_defaults(defaults)
 {
-    readDay();
-    const Grouped all = grouped();
-    for (const Kind kind : kNoteSections) {
-        NoteSections::Section &section = m_sections.section(kind);
-        section.isCollapsed = defaults.boolForKey(defaultsKey(section));
-        section.entries = all.at(static_cast<size_t>(kind));
-        section.hasHeader = !section.entries.empty();
-    }
-
     LiveQuery<Note> &notes = store.notes();
+    for (qsizetype i = 0; i < notes.count(); ++i) {
+        if (isChecklist(notes.at(i).text()))
+            m_checklists.insert(notes.at(i).id());
+    }
+    readDay();
+    load(grouped());
+
     connect(&notes, &LiveQueryBase::inserted, this,
             [this](qsizetype index) { noteInserted(m_store.notes().at(index)); });
     connect(&notes, &LiveQueryBase::removed, this,
@@ -53,118 +70,16 @@ NoteListModel::NoteListModel(NotesStore &store, Clock &clock, Defaults &defaults
             [this](qsizetype, qsizetype to) { noteChanged(m_store.notes().at(to)); });
     connect(&notes, &LiveQueryBase::changed, this,
             [this](qsizetype index) { noteChanged(m_store.notes().at(index)); });
-    connect(this, &QAbstractItemModel::rowsInserted, this, &NoteListModel::isEmptyChanged);
-    connect(this, &QAbstractItemModel::rowsRemoved, this, &NoteListModel::isEmptyChanged);
+    m_foldingAhead.setInterval(0);
+    connect(&m_foldingAhead, &QTimer::timeout, this, &NoteListModel::foldAhead);
 }
 
-int NoteListModel::rowCount(const QModelIndex &parent) const
+void NoteListModel::setScope(Scope scope)
 {
-    return parent.isValid() ? 0 : m_sections.rowCount();
-}
-
-QHash<int, QByteArray> NoteListModel::roleNames() const
-{
-    return {{IsHeaderRole, "isHeader"},
-            {SectionTitleRole, "sectionTitle"},
-            {SectionCountRole, "sectionCount"},
-            {CollapsedRole, "isCollapsed"},
-            {NoteIdRole, "noteId"},
-            {TitleRole, "title"},
-            {PreviewRole, "preview"},
-            {ItemTextsRole, "itemTexts"},
-            {ItemsDoneRole, "itemsDone"},
-            {ItemLinesRole, "itemLines"},
-            {FurtherItemsRole, "furtherItems"},
-            {DoneRole, "done"},
-            {TotalRole, "total"},
-            {TimeRole, "time"},
-            {SourceRole, "source"},
-            {SourceBundleRole, "sourceBundle"},
-            {PinnedRole, "isPinned"}};
-}
-
-QVariant NoteListModel::data(const QModelIndex &index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const NoteSections::RowPlace place = m_sections.place(index.row());
-    const NoteSections::Section &section = m_sections.section(place.section);
-    const bool isHeader = !place.card;
-    switch (role) {
-    case IsHeaderRole:
-        return isHeader;
-    case SectionTitleRole:
-        return isHeader ? section.title : QString();
-    case SectionCountRole:
-        return isHeader ? static_cast<int>(section.entries.size()) : 0;
-    case CollapsedRole:
-        return isHeader && section.isCollapsed;
-    default:
-        break;
-    }
-
-    const Note *note =
-        place.card ? &m_sections.note({.section = place.section, .card = *place.card}) : nullptr;
-    switch (role) {
-    case NoteIdRole:
-        return note ? note->id().toString(QUuid::WithoutBraces) : QString();
-    case TitleRole:
-        return note ? carddata::title(*note) : QString();
-    case PreviewRole:
-        return note ? carddata::preview(*note) : QString();
-    case ItemTextsRole:
-        return note ? carddata::itemTexts(*note) : QStringList();
-    case ItemsDoneRole:
-        return QVariant::fromValue(note ? carddata::itemsDone(*note) : QList<bool>());
-    case ItemLinesRole:
-        return QVariant::fromValue(note ? carddata::itemLines(*note) : QList<int>());
-    case FurtherItemsRole:
-        return note ? carddata::furtherItems(*note) : 0;
-    case DoneRole:
-        return note ? static_cast<int>(note->progress().value_or(Progress{}).done) : 0;
-    case TotalRole:
-        return note ? static_cast<int>(note->progress().value_or(Progress{}).total) : 0;
-    case TimeRole:
-        return note ? m_relativeTime.text(note->updatedAt(), m_clock.now()) : QString();
-    case SourceRole:
-        return note ? note->sourceApp().value_or(QString()) : QString();
-    case SourceBundleRole:
-        return note ? note->sourceBundleID().value_or(QString()) : QString();
-    case PinnedRole:
-        return note ? note->isPinned() : false;
-    default:
-        return {};
-    }
-}
-
-void NoteListModel::toggleSection(int row)
-{
-    if (row < 0 || row >= m_sections.rowCount())
+    if (m_scope == scope)
         return;
-    const Kind kind = m_sections.place(row).section;
-    NoteSections::Section &section = m_sections.section(kind);
-    const int first = m_sections.cardRow(kind, 0);
-    const int last = first + static_cast<int>(section.entries.size()) - 1;
-    setSweeping(false);
-    if (section.isCollapsed) {
-        beginInsertRows({}, first, last);
-        section.isCollapsed = false;
-        endInsertRows();
-    } else {
-        beginRemoveRows({}, first, last);
-        section.isCollapsed = true;
-        endRemoveRows();
-    }
-    m_defaults.setBool(section.isCollapsed, defaultsKey(section));
-    headerChanged(kind);
-}
-
-int NoteListModel::rowOf(const QString &noteId) const
-{
-    const std::optional<NoteSections::CardPlace> found = m_sections.find(RecordId::fromString(noteId));
-    if (!found || m_sections.section(found->section).isCollapsed)
-        return -1;
-    return m_sections.cardRow(found->section, found->card);
+    m_scope = scope;
+    regroup(grouped());
 }
 
 void NoteListModel::setQuery(const QString &query)
@@ -174,18 +89,8 @@ void NoteListModel::setQuery(const QString &query)
     // What does not contain a text does not contain a longer one either.
     const bool narrows = query.contains(m_query);
     m_query = query;
-    if (!narrows) {
-        regroup(grouped());
-        return;
-    }
-    Grouped wanted;
-    for (const Kind kind : kNoteSections) {
-        for (const Entry &entry : m_sections.section(kind).entries) {
-            if (matches(*entry.note))
-                wanted.at(static_cast<size_t>(kind)).push_back(entry);
-        }
-    }
-    regroup(wanted);
+    m_foldedQuery = searchtext::folded(query);
+    regroup(narrows ? narrowed() : grouped());
 }
 
 void NoteListModel::setShown(bool isShown)
@@ -194,108 +99,204 @@ void NoteListModel::setShown(bool isShown)
         return;
     m_isShown = isShown;
     ++m_shows;
-    if (!isShown)
+    if (!isShown) {
+        m_foldingAhead.stop();
+        m_folded.forgetAll();
         return;
-    refreshTimes();
+    }
+    m_foldedAhead = 0;
+    m_foldingAhead.start();
+    refresh();
     refreshWhileShown(this, &m_clock, m_shows);
 }
 
 QCoro::Task<> NoteListModel::refreshWhileShown(QPointer<NoteListModel> self, Clock *clock, quint64 show)
 {
     while (true) {
-        co_await clock->sleep(kTimesStayFresh);
+        const Date now = clock->now();
+        auto wait = kTimesStayFresh;
+        if (self->m_dayEnd > now)
+            wait = std::min(wait, std::chrono::ceil<std::chrono::milliseconds>(self->m_dayEnd - now));
+        co_await clock->sleep(wait);
         if (!self || !self->m_isShown || self->m_shows != show)
             co_return;
-        self->refreshTimes();
+        self->refresh();
     }
 }
 
-const RecordId &NoteListModel::visibleAt(int index) const
+void NoteListModel::setOpenNote(const std::optional<RecordId> &id)
 {
-    return m_sections.visibleAt(index).id();
+    if (m_openNote == id)
+        return;
+    const std::optional<RecordId> closed = std::exchange(m_openNote, id);
+    if (closed)
+        thaw();
+    if (!id)
+        return;
+    const LiveQuery<Note> &notes = m_store.notes();
+    m_frozenDates.reserve(static_cast<size_t>(notes.count()));
+    for (qsizetype i = 0; i < notes.count(); ++i)
+        m_frozenDates.emplace(notes.at(i).id(), notes.at(i).updatedAt());
 }
 
-bool NoteListModel::isStoreEmpty() const
+void NoteListModel::thaw()
 {
-    return m_store.notes().isEmpty();
+    m_frozenDates = {};
+    std::vector<const Note *> moved;
+    for (size_t i = 0; i < sections().count(); ++i) {
+        for (const Entry &entry : sections().section(i).entries) {
+            const Note *note = m_store.findNote(entry.id);
+            if (note && (note->updatedAt() != entry.date || !matches(*note)))
+                moved.push_back(note);
+        }
+    }
+    if (moved.size() > kMostMoves) {
+        regroup(grouped());
+        return;
+    }
+    for (const Note *note : moved)
+        follow(*note);
 }
 
-bool NoteListModel::matches(const Note &note) const
+Date NoteListModel::sortDate(const Note &note) const
 {
-    if (searchtext::contains(note.text(), m_query))
-        return true;
-    const std::optional<QString> &source = note.sourceApp();
-    return source && searchtext::contains(*source, m_query);
+    const auto frozen = m_frozenDates.find(note.id());
+    return frozen == m_frozenDates.end() ? note.updatedAt() : frozen->second;
 }
 
-NoteListModel::Kind NoteListModel::kindOf(const Note &note) const
+int NoteListModel::noteCount() const
+{
+    return static_cast<int>(m_store.notes().count());
+}
+
+bool NoteListModel::matches(const Note &note)
+{
+    if (m_scope == Scope::Checklists && !m_checklists.contains(note.id()))
+        return false;
+    return m_foldedQuery.isEmpty() || m_folded.contains(note, m_foldedQuery);
+}
+
+size_t NoteListModel::sectionOf(const Note &note) const
 {
     if (note.isPinned())
-        return Kind::Pinned;
-    return note.updatedAt() >= m_dayStart && note.updatedAt() < m_dayEnd ? Kind::Today : Kind::Earlier;
+        return kPinned;
+    const Date date = sortDate(note);
+    return date >= m_dayStart && date < m_dayEnd ? kToday : kEarlier;
 }
 
-NoteListModel::Grouped NoteListModel::grouped() const
+NoteListModel::Entry NoteListModel::entryOf(const Note &note) const
 {
-    Grouped wanted;
+    return {.date = sortDate(note), .id = note.id()};
+}
+
+NoteListModel::Grouped NoteListModel::grouped()
+{
+    Grouped wanted(kSectionCount);
     const LiveQuery<Note> &notes = m_store.notes();
     for (qsizetype i = 0; i < notes.count(); ++i) {
-        Note &note = notes.at(i);
+        const Note &note = notes.at(i);
         if (matches(note))
-            wanted.at(static_cast<size_t>(kindOf(note))).push_back({.date = note.updatedAt(), .note = &note});
+            wanted.at(sectionOf(note)).push_back(entryOf(note));
+    }
+    if (!m_frozenDates.empty()) {
+        for (ListSections::Entries &entries : wanted)
+            std::ranges::sort(entries, ListSections::before);
+    }
+    return wanted;
+}
+
+NoteListModel::Grouped NoteListModel::narrowed()
+{
+    Grouped wanted(kSectionCount);
+    for (size_t i = 0; i < kSectionCount; ++i) {
+        for (const Entry &entry : sections().section(i).entries) {
+            const Note *note = m_store.findNote(entry.id);
+            if (note && matches(*note))
+                wanted.at(i).push_back(entry);
+        }
     }
     return wanted;
 }
 
 bool NoteListModel::readDay()
 {
+    // The calendar is asked each time, since the user may be in another time zone by now.
     const auto now = std::chrono::floor<std::chrono::milliseconds>(m_clock.now()).time_since_epoch();
     const QDate today = QDateTime::fromMSecsSinceEpoch(now.count()).date();
     const Date start = dateOf(today.startOfDay());
-    if (start == m_dayStart)
+    const Date end = dateOf(today.addDays(1).startOfDay());
+    if (start == m_dayStart && end == m_dayEnd)
         return false;
     m_dayStart = start;
-    m_dayEnd = dateOf(today.addDays(1).startOfDay());
+    m_dayEnd = end;
     return true;
 }
 
-void NoteListModel::refreshTimes()
+void NoteListModel::refresh()
 {
     if (readDay())
         regroup(grouped());
-    if (const int rows = m_sections.rowCount(); rows > 0)
-        Q_EMIT dataChanged(index(0), index(rows - 1), {TimeRole});
+    rowsChanged({TimeRole});
 }
 
-void NoteListModel::noteInserted(Note &note)
+void NoteListModel::foldAhead()
 {
-    if (m_store.notes().count() == 1)
-        Q_EMIT isStoreEmptyChanged();
+    const LiveQuery<Note> &notes = m_store.notes();
+    const qsizetype end = std::min(notes.count(), m_foldedAhead + kFoldedAtATime);
+    for (; m_foldedAhead < end; ++m_foldedAhead)
+        m_folded.prepare(notes.at(m_foldedAhead));
+    if (m_foldedAhead >= notes.count())
+        m_foldingAhead.stop();
+}
+
+void NoteListModel::noteInserted(const Note &note)
+{
+    if (isChecklist(note.text()))
+        m_checklists.insert(note.id());
+    Q_EMIT countsChanged();
     setSweeping(false);
     if (matches(note))
-        place(note);
+        place(sectionOf(note), entryOf(note));
 }
 
 void NoteListModel::noteRemoved(const RecordId &id)
 {
+    m_checklists.erase(id);
+    m_folded.forget(id);
     setSweeping(false);
-    if (const std::optional<NoteSections::CardPlace> found = m_sections.find(id))
+    if (const std::optional<CardPlace> found = sections().find(id))
         take(*found);
-    if (m_store.notes().isEmpty())
-        Q_EMIT isStoreEmptyChanged();
+    Q_EMIT countsChanged();
 }
 
-void NoteListModel::noteChanged(Note &note)
+void NoteListModel::noteChanged(const Note &note)
+{
+    m_folded.forget(note.id());
+    const size_t before = m_checklists.size();
+    if (isChecklist(note.text()))
+        m_checklists.insert(note.id());
+    else
+        m_checklists.erase(note.id());
+    if (m_checklists.size() != before)
+        Q_EMIT countsChanged();
+    follow(note);
+}
+
+void NoteListModel::follow(const Note &note)
 {
     setSweeping(false);
-    const std::optional<NoteSections::CardPlace> found = m_sections.find(note.id());
-    const bool isWanted = matches(note);
-    if (found && isWanted)
-        moveTo(*found, kindOf(note), note.updatedAt());
-    else if (found)
+    const std::optional<CardPlace> found = sections().find(note.id());
+    const bool isOpen = m_openNote == note.id();
+    const bool isWanted = matches(note) || (isOpen && found);
+    const size_t section = sectionOf(note);
+    if (found && isWanted) {
+        // Of an open note only the editor is shown; the rest is read again when it is closed.
+        moveTo(*found, section, sortDate(note), isOpen ? QList<int>{TextRole, PinnedRole} : QList<int>{});
+    } else if (found) {
         take(*found);
-    else if (isWanted)
-        place(note);
+    } else if (isWanted) {
+        place(section, entryOf(note));
+    }
 }
 
 } // namespace vesk

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The key map of the panel: the part of its model that takes key presses.
+// The part of the panel's model that takes key presses. What a key means stands in the key map.
 #include "notes/notesstore.h"
+#include "panel/panelkeymap.h"
 #include "panel/panelmodel.h"
 #include "platform/application.h"
 
@@ -8,100 +9,120 @@
 
 namespace vesk {
 
-namespace {
-
-/// Command, inside Vesk's own windows.
-constexpr Qt::KeyboardModifiers kCommand = Qt::ControlModifier;
-constexpr Qt::KeyboardModifiers kCounted =
-    Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-
-} // namespace
-
 bool PanelModel::handleKey(const QKeyEvent &event)
 {
-    if (m_isComposing)
+    if (m_keyOwner == KeyOwner::Other)
         return false;
-    // The locks and the number pad do not count.
-    const Qt::KeyboardModifiers modifiers = event.modifiers() & kCounted;
-    const bool isPlain = modifiers == Qt::NoModifier;
     if (m_activeField != Field::None && event.matches(QKeySequence::Paste)) {
         Q_EMIT fieldPasteRequested();
         return true;
     }
-    switch (event.key()) {
-    case Qt::Key_N:
-    case Qt::Key_F:
-        if (modifiers != kCommand)
-            return false;
-        requestField(event.key() == Qt::Key_N ? Field::Composer : Field::Search);
+    const PanelAction action = panelAction(
+        event.key(), event.modifiers(),
+        {.field = m_activeField, .isNoteOpen = m_expanded.has_value(), .isSearching = !m_search.isEmpty()});
+    if (action == PanelAction::OpenSelected && m_keyOwner == KeyOwner::Control)
+        return false;
+    return perform(action, event.key());
+}
+
+bool PanelModel::perform(PanelAction action, int key)
+{
+    switch (action) {
+    case PanelAction::Pass:
+        return false;
+    case PanelAction::WriteNote:
+        requestField(Field::Composer);
         return true;
-    case Qt::Key_Down:
-        return isPlain && handleArrow(1);
-    case Qt::Key_Up:
-        return isPlain && handleArrow(-1);
-    case Qt::Key_Backspace:
-        return modifiers == kCommand && m_activeField == Field::None && deleteFocused();
-    case Qt::Key_Escape:
-        return isPlain && handleEscape();
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        return handleReturn(modifiers);
-    default:
-        return false;
-    }
-}
-
-bool PanelModel::handleArrow(int delta)
-{
-    if (m_activeField == Field::Composer)
-        return false;
-    if (m_activeField == Field::Search)
-        requestField(Field::None);
-    moveFocus(delta);
-    return true;
-}
-
-bool PanelModel::deleteFocused()
-{
-    if (!m_focused || !m_store.findNote(*m_focused))
-        return false;
-    deleteNote(*m_focused);
-    return true;
-}
-
-bool PanelModel::pasteFocused()
-{
-    const Note *note = m_focused ? m_store.findNote(*m_focused) : nullptr;
-    if (!note)
-        return false;
-    Q_EMIT pasteRequested(note->text());
-    return true;
-}
-
-bool PanelModel::handleEscape()
-{
-    if (m_activeField == Field::None)
+    case PanelAction::Search:
+        requestField(Field::Search);
+        return true;
+    case PanelAction::MoveSelection:
+        if (m_activeField == Field::Search || m_keyOwner == KeyOwner::Control)
+            requestField(Field::None);
+        moveFocus(key == Qt::Key_Down ? 1 : -1);
+        return true;
+    case PanelAction::DeleteSelected:
+        return deleteSelected();
+    case PanelAction::CloseNote:
+        collapse();
+        return true;
+    case PanelAction::HidePanel:
         m_application.hide();
-    else if (m_activeField == Field::Search && !m_search.isEmpty())
+        return true;
+    case PanelAction::ClearSearch:
         setSearch({});
-    else
+        return true;
+    case PanelAction::LeaveField:
         requestField(Field::None);
+        return true;
+    case PanelAction::OpenFound:
+        return openFound();
+    case PanelAction::CommitDraft:
+        commitDraft();
+        return true;
+    case PanelAction::BreakLine:
+        Q_EMIT lineBreakRequested();
+        return true;
+    case PanelAction::OpenSelected:
+        return openSelected();
+    case PanelAction::PasteSelected:
+        return pasteSelected();
+    }
+    Q_UNREACHABLE();
+}
+
+bool PanelModel::openFound()
+{
+    const SectionedListModel &list = currentList();
+    std::optional<RecordId> target = m_focused;
+    if (!target || !list.visibleIndex(*target))
+        target = list.visibleCount() > 0 ? std::optional(list.visibleAt(0)) : std::nullopt;
+    if (!target)
+        return false;
+    if (const Note *note = m_store.findNote(*target)) {
+        open(*note);
+        return true;
+    }
+    Prompt *prompt = m_store.findPrompt(*target);
+    if (!prompt)
+        return false;
+    requestField(Field::None);
+    setFocused(target);
+    toggleDone(*prompt);
     return true;
 }
 
-bool PanelModel::handleReturn(Qt::KeyboardModifiers modifiers)
+bool PanelModel::openSelected()
 {
-    if (m_activeField == Field::None)
-        return modifiers == kCommand && pasteFocused();
-    if (m_activeField != Field::Composer)
+    if (!m_focused)
         return false;
-    if (modifiers == Qt::NoModifier)
-        commitDraft();
-    else if (modifiers == Qt::ShiftModifier)
-        Q_EMIT lineBreakRequested();
-    else
+    if (const Note *note = m_store.findNote(*m_focused)) {
+        open(*note);
+        return true;
+    }
+    Prompt *prompt = m_store.findPrompt(*m_focused);
+    if (prompt)
+        toggleDone(*prompt);
+    return prompt != nullptr;
+}
+
+bool PanelModel::deleteSelected()
+{
+    if (!m_focused)
         return false;
-    return true;
+    if (Note *note = m_store.findNote(*m_focused)) {
+        deleteNote(*note);
+        return true;
+    }
+    Prompt *prompt = m_store.findPrompt(*m_focused);
+    if (prompt)
+        deletePrompt(*prompt);
+    return prompt != nullptr;
+}
+
+bool PanelModel::pasteSelected()
+{
+    return m_focused && m_cards.pasteBack(*m_focused);
 }
 
 } // namespace vesk

@@ -15,13 +15,13 @@ QString query(const QString &typed)
     return begin < end ? typed.sliced(begin - typed.begin(), end - begin) : QString();
 }
 
-bool contains(const QString &text, const QString &query)
+QByteArray folded(const QString &text)
 {
     // These languages pair the dotted and the dotless i; everywhere else the common folding holds.
     const QLocale locale;
-    if (locale.language() == QLocale::Turkish || locale.language() == QLocale::Azerbaijani)
-        return locale.toLower(text).contains(locale.toLower(query));
-    return text.contains(query, Qt::CaseInsensitive);
+    const bool isDotted = locale.language() == QLocale::Turkish || locale.language() == QLocale::Azerbaijani;
+    const QString lower = isDotted ? locale.toLower(text) : text.toCaseFolded();
+    return lower.normalized(QString::NormalizationForm_C).toUtf8();
 }
 
 } // namespace vesk::searchtext

@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
+/// What a search in the panel goes by.
 namespace vesk::searchtext {
 
-/// What is searched for: without the spaces and tabs at both ends. Line breaks stay.
+/// What the user has typed, without spaces and tabs at both ends; line breaks stay.
 [[nodiscard]] QString query(const QString &typed);
 
-/// Whether `text` contains `query`, upper and lower case being the same by the user's language.
-/// Accents count. Everything contains an empty query.
-[[nodiscard]] bool contains(const QString &text, const QString &query);
+/// A text in the form in which one contains another exactly if a search finds it: UTF-8, case aside
+/// by the rules of the user's language, each accented letter in its one form. Accents count.
+[[nodiscard]] QByteArray folded(const QString &text);
 
 } // namespace vesk::searchtext

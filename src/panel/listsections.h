@@ -6,32 +6,22 @@
 
 #include <QString>
 
-#include <array>
 #include <optional>
 #include <vector>
 
 namespace vesk {
 
-/// The sections of the list of notes and what stands in them, newest first, seen as rows: a header
+/// The sections of a list of records and what stands in them, newest first, seen as rows: a header
 /// and, unless the section is collapsed, one row for each card. Owned by the list model, which tells
 /// the views of every change.
-class NoteSections final
+class ListSections final
 {
 public:
-    static constexpr int kCount = 3;
-
-    /// In the order in which they are shown.
-    enum class Kind {
-        Pinned,
-        Today,
-        Earlier,
-    };
-
-    /// A note and the date by which it is placed.
+    /// A record and the date by which it is placed.
     struct Entry
     {
         Date date;
-        Note *note = nullptr;
+        RecordId id;
 
         friend bool operator==(const Entry &, const Entry &) = default;
     };
@@ -50,49 +40,50 @@ public:
     /// Where a card is, shown or in a collapsed section.
     struct CardPlace
     {
-        Kind section = Kind::Pinned;
+        size_t section = 0;
         size_t card = 0;
     };
 
     /// What a row is: a card, or with no card a section's header.
     struct RowPlace
     {
-        Kind section = Kind::Pinned;
+        size_t section = 0;
         std::optional<size_t> card;
     };
 
-    NoteSections();
+    /// The sections in the order in which they are shown.
+    explicit ListSections(std::vector<Section> sections);
 
     /// The order within a section, which is also the store's.
     [[nodiscard]] static bool before(const Entry &a, const Entry &b);
 
-    [[nodiscard]] Section &section(Kind kind) { return m_sections.at(static_cast<size_t>(kind)); }
-    [[nodiscard]] const Section &section(Kind kind) const { return m_sections.at(static_cast<size_t>(kind)); }
+    [[nodiscard]] size_t count() const { return m_sections.size(); }
+    [[nodiscard]] Section &section(size_t index) { return m_sections.at(index); }
+    [[nodiscard]] const Section &section(size_t index) const { return m_sections.at(index); }
+    [[nodiscard]] const Entry &entry(const CardPlace &place) const
+    {
+        return section(place.section).entries.at(place.card);
+    }
 
     [[nodiscard]] int rowCount() const;
     /// `row` is at least 0 and less than `rowCount`.
     [[nodiscard]] RowPlace place(int row) const;
     /// The row of a section's header, or the one that it would have.
-    [[nodiscard]] int headerRow(Kind kind) const;
+    [[nodiscard]] int headerRow(size_t index) const;
     /// The row of a card, or the one that a card put there would have; the section is not collapsed.
-    [[nodiscard]] int cardRow(Kind kind, size_t card) const;
-    /// Where an entry stands, or would stand, in its section.
-    [[nodiscard]] size_t position(Kind kind, const Entry &entry) const;
-
-    /// Where the note with this identity stands, in a collapsed section too.
+    [[nodiscard]] int cardRow(const CardPlace &place) const;
+    /// Where an entry stands, or would stand, in a section.
+    [[nodiscard]] size_t position(size_t index, const Entry &entry) const;
+    /// Where the record with this identity stands, in a collapsed section too.
     [[nodiscard]] std::optional<CardPlace> find(const RecordId &id) const;
-    [[nodiscard]] Note &note(const CardPlace &place) const;
 
     // The cards of all sections that are not collapsed, in order.
     [[nodiscard]] int visibleCount() const;
-    [[nodiscard]] Note &visibleAt(int index) const;
+    [[nodiscard]] const RecordId &visibleAt(int index) const;
     [[nodiscard]] std::optional<int> visibleIndex(const RecordId &id) const;
 
 private:
-    std::array<Section, kCount> m_sections;
+    std::vector<Section> m_sections;
 };
-
-inline constexpr std::array kNoteSections{NoteSections::Kind::Pinned, NoteSections::Kind::Today,
-                                          NoteSections::Kind::Earlier};
 
 } // namespace vesk

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "panel/panelkeymap.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace vesk {
+
+namespace {
+
+/// The keys that the panel knows.
+enum class Key {
+    N,
+    F,
+    Arrow,
+    Delete,
+    Escape,
+    Return,
+};
+
+enum class Held {
+    Nothing,
+    Command,
+    Shift,
+    /// These or any others.
+    Anything,
+};
+
+enum class When {
+    Always,
+    NoteIsOpen,
+    NoField,
+    AnyField,
+    InSearch,
+    InSearchWithText,
+    InComposer,
+};
+
+struct Rule
+{
+    Key key;
+    Held held;
+    When when;
+    PanelAction action;
+};
+
+/// The first rule that fits decides; where none does, the key is not the panel's.
+constexpr std::array kRules{
+    Rule{Key::N, Held::Command, When::Always, PanelAction::WriteNote},
+    Rule{Key::F, Held::Command, When::Always, PanelAction::Search},
+    Rule{Key::Arrow, Held::Nothing, When::InComposer, PanelAction::Pass},
+    Rule{Key::Arrow, Held::Nothing, When::NoteIsOpen, PanelAction::Pass},
+    Rule{Key::Arrow, Held::Nothing, When::Always, PanelAction::MoveSelection},
+    Rule{Key::Delete, Held::Command, When::AnyField, PanelAction::Pass},
+    Rule{Key::Delete, Held::Command, When::Always, PanelAction::DeleteSelected},
+    Rule{Key::Escape, Held::Nothing, When::NoteIsOpen, PanelAction::CloseNote},
+    Rule{Key::Escape, Held::Nothing, When::NoField, PanelAction::HidePanel},
+    Rule{Key::Escape, Held::Nothing, When::InSearchWithText, PanelAction::ClearSearch},
+    Rule{Key::Escape, Held::Nothing, When::AnyField, PanelAction::LeaveField},
+    Rule{Key::Return, Held::Nothing, When::InSearch, PanelAction::OpenFound},
+    Rule{Key::Return, Held::Anything, When::InSearch, PanelAction::Pass},
+    Rule{Key::Return, Held::Nothing, When::InComposer, PanelAction::CommitDraft},
+    Rule{Key::Return, Held::Shift, When::InComposer, PanelAction::BreakLine},
+    Rule{Key::Return, Held::Anything, When::InComposer, PanelAction::Pass},
+    Rule{Key::Return, Held::Nothing, When::NoField, PanelAction::OpenSelected},
+    Rule{Key::Return, Held::Command, When::NoField, PanelAction::PasteSelected},
+};
+
+std::optional<Key> keyOf(int key)
+{
+    switch (key) {
+    case Qt::Key_N:
+        return Key::N;
+    case Qt::Key_F:
+        return Key::F;
+    case Qt::Key_Down:
+    case Qt::Key_Up:
+        return Key::Arrow;
+    case Qt::Key_Backspace:
+        return Key::Delete;
+    case Qt::Key_Escape:
+        return Key::Escape;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return Key::Return;
+    default:
+        return std::nullopt;
+    }
+}
+
+bool isHeld(Held held, Qt::KeyboardModifiers modifiers)
+{
+    // The locks and the number pad do not count.
+    constexpr Qt::KeyboardModifiers kCounted =
+        Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    switch (held) {
+    case Held::Nothing:
+        return (modifiers & kCounted) == Qt::NoModifier;
+    case Held::Command:
+        // In Vesk's own windows, Command is the Control key.
+        return (modifiers & kCounted) == Qt::ControlModifier;
+    case Held::Shift:
+        return (modifiers & kCounted) == Qt::ShiftModifier;
+    case Held::Anything:
+        return true;
+    }
+    Q_UNREACHABLE();
+}
+
+bool holds(When when, const PanelKeyState &state)
+{
+    switch (when) {
+    case When::Always:
+        return true;
+    case When::NoteIsOpen:
+        return state.isNoteOpen;
+    case When::NoField:
+        return state.field == PanelModel::Field::None;
+    case When::AnyField:
+        return state.field != PanelModel::Field::None;
+    case When::InSearch:
+        return state.field == PanelModel::Field::Search;
+    case When::InSearchWithText:
+        return state.field == PanelModel::Field::Search && state.isSearching;
+    case When::InComposer:
+        return state.field == PanelModel::Field::Composer;
+    }
+    Q_UNREACHABLE();
+}
+
+} // namespace
+
+PanelAction panelAction(int key, Qt::KeyboardModifiers modifiers, const PanelKeyState &state)
+{
+    const std::optional<Key> known = keyOf(key);
+    const auto *const rule = std::ranges::find_if(kRules, [&](const Rule &each) {
+        return each.key == known && isHeld(each.held, modifiers) && holds(each.when, state);
+    });
+    return rule == kRules.end() ? PanelAction::Pass : rule->action;
+}
+
+} // namespace vesk

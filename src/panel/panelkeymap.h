@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "panel/panelmodel.h"
+
+namespace vesk {
+
+/// What a key does in the panel.
+enum class PanelAction {
+    /// The key is not the panel's: it goes on to whatever has the keyboard.
+    Pass,
+    WriteNote,
+    Search,
+    MoveSelection,
+    DeleteSelected,
+    CloseNote,
+    HidePanel,
+    ClearSearch,
+    LeaveField,
+    OpenFound,
+    CommitDraft,
+    BreakLine,
+    OpenSelected,
+    PasteSelected,
+};
+
+/// What the meaning of a key depends on.
+struct PanelKeyState
+{
+    PanelModel::Field field = PanelModel::Field::None;
+    bool isNoteOpen = false;
+    bool isSearching = false;
+};
+
+/// The key map of the panel: what a key does there. `key` is a `Qt::Key`.
+[[nodiscard]] PanelAction panelAction(int key, Qt::KeyboardModifiers modifiers, const PanelKeyState &state);
+
+} // namespace vesk

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "panel/listsections.h"
+
+#include <QAbstractListModel>
+#include <QQmlEngine>
+
+namespace vesk {
+
+class Defaults;
+
+/// Records in sections, as the rows of one flat list: headers and cards. What is in it changes by the
+/// smallest steps, never by a reset, so that a view keeps its place and the cards that stay.
+class SectionedListModel : public QAbstractListModel
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The panel's model has the lists.")
+    /// No row at all: there are no records, or none matches.
+    Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY isEmptyChanged)
+    /// The rows have just been exchanged in bulk; a view does not animate that.
+    Q_PROPERTY(bool isSweeping READ isSweeping NOTIFY isSweepingChanged)
+
+public:
+    enum Role {
+        /// bool: the row is a section's header, else a card.
+        IsHeaderRole = Qt::UserRole + 1,
+        // Of a header.
+        SectionTitleRole, ///< QString
+        SectionCountRole, ///< int
+        CollapsedRole,    ///< bool
+        // Of a card.
+        CardIdRole, ///< QString, the record's identity
+        FirstCardRole,
+    };
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    /// Folds a section away, or brings it back, and remembers that. `row` is its header's.
+    Q_INVOKABLE void toggleSection(int row);
+    /// The row of a card; -1 if it is not shown.
+    [[nodiscard]] Q_INVOKABLE int rowOf(const QString &cardId) const;
+
+    // The records that the arrow keys can reach, in order.
+    [[nodiscard]] int visibleCount() const { return m_sections.visibleCount(); }
+    [[nodiscard]] const RecordId &visibleAt(int index) const { return m_sections.visibleAt(index); }
+    [[nodiscard]] std::optional<int> visibleIndex(const RecordId &id) const
+    {
+        return m_sections.visibleIndex(id);
+    }
+
+    [[nodiscard]] bool isEmpty() const { return m_sections.rowCount() == 0; }
+    [[nodiscard]] bool isSweeping() const { return m_isSweeping; }
+
+Q_SIGNALS:
+    void isEmptyChanged();
+    void isSweepingChanged();
+
+protected:
+    using Entry = ListSections::Entry;
+    using CardPlace = ListSections::CardPlace;
+    /// The entries of each section, in order.
+    using Grouped = std::vector<ListSections::Entries>;
+
+    SectionedListModel(std::vector<ListSections::Section> sections, Defaults &defaults, QObject *parent);
+
+    /// What a card tells by a role from `FirstCardRole` on. Null stands for a header, for which a
+    /// view wants an empty value of the role's type.
+    [[nodiscard]] virtual QVariant cardData(const RecordId *id, int role) const = 0;
+
+    /// Fills the empty list at the start, before anyone looks at it.
+    void load(Grouped entries);
+
+    // Each of these tells the views of what it does.
+    void place(size_t section, const Entry &entry);
+    void take(const CardPlace &place);
+    /// Moves a card, or leaves it if it stands there already. `roles` are those that may have changed,
+    /// all if there are none.
+    void moveTo(const CardPlace &from, size_t section, Date date, const QList<int> &roles = {});
+    void regroup(const Grouped &wanted);
+    void rowsChanged(const QList<int> &roles);
+    void setSweeping(bool isSweeping);
+
+    [[nodiscard]] const ListSections &sections() const { return m_sections; }
+
+private:
+    void insertCards(const CardPlace &at, const ListSections::Entries &entries);
+    void removeCards(const CardPlace &at, size_t count);
+    void showHeader(size_t section);
+    void hideHeaderIfEmpty(size_t section);
+    void headerChanged(size_t section);
+
+    Defaults &m_defaults;
+    ListSections m_sections;
+    bool m_isSweeping = false;
+};
+
+} // namespace vesk
