@@ -1,20 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/atspi.h"
 
-#include <QDBusArgument>
-#include <QDBusMetaType>
-#include <QDBusObjectPath>
-#include <QDBusVariant>
+#include "platform/freedesktop/atspiselection.h"
+
+#include <QCoroTimer>
+
+#include <QPointer>
+
+#include <vector>
 
 namespace vesk {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
 const QString kAccessible = QStringLiteral("org.a11y.atspi.Accessible");
-const QString kText = QStringLiteral("org.a11y.atspi.Text");
-const QString kRootPath = QStringLiteral("/org/a11y/atspi/accessible/root");
+
+/// An application that was woken or got the keyboard back a moment ago may not show it yet.
+constexpr auto kRetryPeriod = 25ms;
+constexpr int kMaximumRetries = 2;
 
 AtSpiReference referenceOf(const AccessibleElement &element)
 {
@@ -26,161 +32,110 @@ AccessibleElement elementOf(qint64 processIdentifier, const AtSpiReference &refe
     return {.processIdentifier = processIdentifier, .address = reference.service + u' ' + reference.path};
 }
 
-AtSpiReference readReference(const QDBusArgument &argument)
+/// The roots of the applications on the bus that this process has; toolkits of one process may each
+/// have their own.
+QCoro::Task<QList<AtSpiReference>> applicationsOf(AtSpiQuestion question, qint64 processIdentifier)
 {
-    QString service;
-    QDBusObjectPath path;
-    argument.beginStructure();
-    argument >> service >> path;
-    argument.endStructure();
-    return {.service = service, .path = path.path()};
+    const std::optional<QList<AtSpiReference>> all = co_await question.children(AtSpiBus::registry());
+    const QList<AtSpiReference> roots = all.value_or(QList<AtSpiReference>());
+    std::vector<QCoro::Task<std::optional<qint64>>> owners;
+    for (const AtSpiReference &root : roots)
+        owners.push_back(question.processIdentifier(root.service));
+    QList<AtSpiReference> own;
+    for (size_t index = 0; index < owners.size(); ++index) {
+        const std::optional<qint64> owner = co_await owners[index];
+        if (owner == processIdentifier)
+            own.append(roots.at(static_cast<qsizetype>(index)));
+    }
+    co_return own;
 }
 
-QList<AtSpiReference> readReferences(const std::optional<QVariantList> &reply)
+/// How an object stands that has said that it has the keyboard; without an object if it is gone.
+QCoro::Task<AtSpiFocus> verify(AtSpiQuestion question, AtSpiReference object)
 {
-    QList<AtSpiReference> references;
-    if (!reply || reply->isEmpty() || !reply->first().canConvert<QDBusArgument>())
-        return references;
-    const auto argument = reply->first().value<QDBusArgument>();
-    if (argument.currentSignature() != "a(so)"_L1)
-        return references;
-    argument.beginArray();
-    while (!argument.atEnd())
-        references.append(readReference(argument));
-    argument.endArray();
-    return references;
-}
-
-QString readString(const std::optional<QVariantList> &reply)
-{
-    return reply && !reply->isEmpty() ? reply->first().toString() : QString();
-}
-
-/// What Collection.GetMatches looks for: texts that have the keyboard.
-struct MatchRule
-{
-    QList<int> states;
-    QStringList interfaces;
-};
-
-QDBusArgument &operator<<(QDBusArgument &argument, const MatchRule &rule)
-{
-    constexpr int kMatchAll = 1;
-    constexpr int kMatchAny = 2;
-    const QMap<QString, QString> noAttributes;
-    const QList<int> noRoles;
-    argument.beginStructure();
-    argument << rule.states << kMatchAll << noAttributes << kMatchAny << noRoles << kMatchAny
-             << rule.interfaces << kMatchAll << false;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument &operator>>(const QDBusArgument &argument, MatchRule &rule)
-{
-    // Rules are only ever sent; Qt wants both directions.
-    Q_UNUSED(rule)
-    return argument;
+    AtSpiFocus focus;
+    const QCoro::Task<std::optional<AtSpiStates>> askStates = question.states(object);
+    const QCoro::Task<std::optional<bool>> askIsText = question.isText(object);
+    const std::optional<AtSpiStates> states = co_await askStates;
+    const std::optional<bool> isText = co_await askIsText;
+    if (!states)
+        co_return focus;
+    focus.object = object;
+    focus.isText = isText.value_or(false);
+    focus.isComplete = states->test(atspistate::kFocused);
+    co_return focus;
 }
 
 } // namespace
-} // namespace vesk
-
-Q_DECLARE_METATYPE(vesk::MatchRule)
-
-namespace vesk {
-
-using StringMap = QMap<QString, QString>;
 
 AtSpi::AtSpi()
 {
-    qDBusRegisterMetaType<QList<int>>();
-    qDBusRegisterMetaType<StringMap>();
-    qDBusRegisterMetaType<MatchRule>();
     connect(&m_bus, &AtSpiBus::focusEvent, this, &AtSpi::onFocusEvent);
+    connect(&m_bus, &AtSpiBus::connected, this, &AtSpi::wakeAll);
+    connect(&m_bus, &AtSpiBus::applicationAdded, this, &AtSpi::wake);
+    connect(&m_bus, &AtSpiBus::applicationRemoved, this, [this](const AtSpiReference &root) {
+        m_focused.remove(root.service);
+        m_woken.remove(root.service);
+    });
+    connect(&m_bus, &AtSpiBus::disconnected, this, [this] {
+        m_focused.clear();
+        m_woken.clear();
+    });
 }
 
-void AtSpi::stop()
+QCoro::Task<std::optional<AccessibleElement>> AtSpi::focusedElement(AtSpiQuestion question,
+                                                                    qint64 processIdentifier)
 {
-    m_bus.stop();
-    m_focused.clear();
-    m_processes.clear();
-}
-
-QCoro::Task<std::optional<AccessibleElement>> AtSpi::focusedElement(qint64 processIdentifier)
-{
-    const std::optional<QString> service = co_await serviceOf(processIdentifier);
-    if (!service)
-        co_return std::nullopt;
-    const auto tracked = m_focused.constFind(*service);
-    if (tracked != m_focused.cend())
-        co_return elementOf(processIdentifier, *tracked);
-    const std::optional<AtSpiReference> found = co_await searchFocus(*service);
-    if (!found)
-        co_return std::nullopt;
-    co_return elementOf(processIdentifier, *found);
-}
-
-QCoro::Task<std::optional<AccessibleElement>> AtSpi::parent(AccessibleElement element)
-{
-    QVariantList arguments;
-    arguments.append(kAccessible);
-    arguments.append(u"Parent"_s);
-    const std::optional<QVariantList> reply =
-        co_await m_bus.call(referenceOf(element), u"org.freedesktop.DBus.Properties"_s, u"Get"_s, arguments);
-    if (!reply || reply->isEmpty())
-        co_return std::nullopt;
-    const QVariant value = reply->first().value<QDBusVariant>().variant();
-    if (!value.canConvert<QDBusArgument>())
-        co_return std::nullopt;
-    const AtSpiReference reference = readReference(value.value<QDBusArgument>());
-    if (reference.isNull())
-        co_return std::nullopt;
-    co_return elementOf(element.processIdentifier, reference);
-}
-
-QCoro::Task<std::optional<QString>> AtSpi::role(AccessibleElement element)
-{
-    const std::optional<QVariantList> reply =
-        co_await m_bus.call(referenceOf(element), kAccessible, u"GetRoleName"_s);
-    if (!reply)
-        co_return std::nullopt;
-    co_return readString(reply);
-}
-
-QCoro::Task<std::optional<QString>> AtSpi::selectedText(AccessibleElement element)
-{
-    const AtSpiReference object = referenceOf(element);
-    const std::optional<QVariantList> count = co_await m_bus.call(object, kText, u"GetNSelections"_s);
-    if (!count || count->isEmpty())
-        co_return std::nullopt;
-    const int selections = count->first().toInt();
-    QString text;
-    for (int index = 0; index < selections; ++index) {
-        QVariantList which;
-        which.append(index);
-        const std::optional<QVariantList> range =
-            co_await m_bus.call(object, kText, u"GetSelection"_s, which);
-        if (!range || range->size() < 2)
+    const QPointer<AtSpi> self(this);
+    const AccessibleElement applicationItself = Accessibility::applicationElement(processIdentifier);
+    const QList<AtSpiReference> applications = co_await applicationsOf(question, processIdentifier);
+    bool isComplete = true;
+    std::optional<AtSpiReference> best;
+    for (const AtSpiReference &application : applications) {
+        if (self.isNull())
             co_return std::nullopt;
-        const std::optional<QVariantList> part = co_await m_bus.call(object, kText, u"GetText"_s, *range);
-        if (!part)
-            co_return std::nullopt;
-        text += readString(part);
+        const AtSpiFocus focus = co_await focusOf(question, application);
+        isComplete = isComplete && focus.isComplete;
+        if (focus.object && focus.isText)
+            co_return elementOf(processIdentifier, *focus.object);
+        if (!best)
+            best = focus.object;
     }
-    co_return text;
+    if (best)
+        co_return elementOf(processIdentifier, *best);
+    if (isComplete)
+        co_return applicationItself;
+    co_return std::nullopt;
 }
 
-QCoro::Task<std::optional<QString>> AtSpi::documentUrl(AccessibleElement element)
+QCoro::Task<std::optional<AccessibleElement>> AtSpi::parent(AtSpiQuestion question, AccessibleElement element)
+{
+    const std::optional<AtSpiReference> reference = co_await question.parent(referenceOf(element));
+    if (!reference)
+        co_return std::nullopt;
+    co_return elementOf(element.processIdentifier, *reference);
+}
+
+QCoro::Task<std::optional<QString>> AtSpi::role(AtSpiQuestion question, AccessibleElement element)
+{
+    return question.roleName(referenceOf(element));
+}
+
+QCoro::Task<std::optional<QString>> AtSpi::selectedText(AtSpiQuestion question, AccessibleElement element)
+{
+    return readAtSpiSelection(question, referenceOf(element));
+}
+
+QCoro::Task<std::optional<QString>> AtSpi::documentUrl(AtSpiQuestion question, AccessibleElement element)
 {
     // Firefox knows its page's address by the one name, Chromium by the other.
     const QString names[] = {u"DocURL"_s, u"URI"_s};
+    const AtSpiReference document = referenceOf(element);
     for (const QString &name : names) {
-        QVariantList arguments;
-        arguments.append(name);
-        const std::optional<QVariantList> reply = co_await m_bus.call(
-            referenceOf(element), u"org.a11y.atspi.Document"_s, u"GetAttributeValue"_s, arguments);
-        const QString url = readString(reply);
+        const QVariantList arguments(1, name);
+        const std::optional<QVariantList> reply =
+            co_await question.call(document, u"org.a11y.atspi.Document"_s, u"GetAttributeValue"_s, arguments);
+        const QString url = reply ? reply->value(0).toString() : QString();
         if (!url.isEmpty())
             co_return url;
     }
@@ -197,46 +152,56 @@ void AtSpi::onFocusEvent(const AtSpiReference &object, bool isFocused)
         m_focused.remove(object.service);
 }
 
-QCoro::Task<std::optional<QString>> AtSpi::serviceOf(qint64 processIdentifier)
+void AtSpi::wake(const AtSpiReference &application)
 {
-    const AtSpiReference registry{.service = u"org.a11y.atspi.Registry"_s, .path = kRootPath};
-    const std::optional<QVariantList> children = co_await m_bus.call(registry, kAccessible, u"GetChildren"_s);
-    const QList<AtSpiReference> applications = readReferences(children);
-    for (const AtSpiReference &application : applications) {
-        if (!m_processes.contains(application.service)) {
-            const std::optional<qint64> owner = co_await m_bus.processIdentifier(application.service);
-            if (!owner)
-                continue;
-            m_processes.insert(application.service, *owner);
-        }
-        if (m_processes.value(application.service) == processIdentifier)
-            co_return application.service;
-    }
-    co_return std::nullopt;
+    if (m_woken.contains(application.service))
+        return;
+    m_woken.insert(application.service);
+    // What it answers is of no interest.
+    ask().call(application, kAccessible, u"GetAttributes"_s);
 }
 
-QCoro::Task<std::optional<AtSpiReference>> AtSpi::searchFocus(QString service)
+QCoro::Task<> AtSpi::wakeAll()
 {
-    const AtSpiReference root{.service = service, .path = kRootPath};
-    const std::optional<QVariantList> children = co_await m_bus.call(root, kAccessible, u"GetChildren"_s);
-    const QList<AtSpiReference> frames = readReferences(children);
-    constexpr int kFocusedState = 1 << 12;
-    const MatchRule rule{.states = {kFocusedState, 0}, .interfaces = {u"Text"_s}};
-    constexpr uint kCanonicalOrder = 1;
-    constexpr int kNoLimit = 0;
-    QVariantList arguments;
-    arguments.append(QVariant::fromValue(rule));
-    arguments.append(kCanonicalOrder);
-    arguments.append(kNoLimit);
-    arguments.append(true);
-    for (const AtSpiReference &frame : frames) {
-        const std::optional<QVariantList> reply =
-            co_await m_bus.call(frame, u"org.a11y.atspi.Collection"_s, u"GetMatches"_s, arguments);
-        const QList<AtSpiReference> matches = readReferences(reply);
-        if (!matches.isEmpty())
-            co_return matches.first();
+    const QPointer<AtSpi> self(this);
+    const std::optional<QList<AtSpiReference>> all = co_await ask().children(AtSpiBus::registry());
+    if (self.isNull() || !all)
+        co_return;
+    for (const AtSpiReference &application : *all)
+        wake(application);
+}
+
+QCoro::Task<AtSpiFocus> AtSpi::focusOf(AtSpiQuestion question, AtSpiReference application)
+{
+    const QPointer<AtSpi> self(this);
+    wake(application);
+    AtSpiFocus focus;
+    AtSpiFocus announced;
+    for (int retries = 0;; ++retries) {
+        // An announcement can be out of date, since not every focus is announced, and can be of a
+        // container.
+        const std::optional<AtSpiReference> object = m_focused.contains(application.service)
+                                                         ? std::optional(m_focused.value(application.service))
+                                                         : std::nullopt;
+        if (object) {
+            announced = co_await verify(question, *object);
+            if (announced.isComplete && announced.isText)
+                co_return announced;
+        }
+        focus = co_await searchFocus(question, application);
+        const bool isSettled =
+            focus.object || (announced.object && announced.isComplete) || !focus.isComplete;
+        if (isSettled || retries == kMaximumRetries || question.isOver())
+            break;
+        co_await QCoro::sleepFor(kRetryPeriod);
+        if (self.isNull())
+            co_return AtSpiFocus();
     }
-    co_return std::nullopt;
+    if (focus.object && (focus.isText || !announced.isComplete))
+        co_return focus;
+    if (announced.object)
+        co_return announced;
+    co_return focus;
 }
 
 } // namespace vesk

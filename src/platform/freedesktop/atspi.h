@@ -3,18 +3,21 @@
 
 #include "platform/accessibility.h"
 #include "platform/freedesktop/atspibus.h"
+#include "platform/freedesktop/atspifocussearch.h"
+#include "platform/freedesktop/atspiquestion.h"
 
 #include <QCoroTask>
 
 #include <QHash>
 #include <QObject>
+#include <QSet>
 
 #include <optional>
 
 namespace vesk {
 
 /// Other applications' user interfaces, read over the accessibility bus. Elements are named by
-/// service and path. Every answer is none while stopped.
+/// service and path. While stopped, no element is found and every answer is none.
 class AtSpi final : public QObject
 {
     Q_OBJECT
@@ -23,27 +26,40 @@ public:
     AtSpi();
 
     void start() { m_bus.start(); }
-    void stop();
+    void stop() { m_bus.stop(); }
+
+    /// Begins a question; what is asked below for it keeps to its deadline.
+    [[nodiscard]] AtSpiQuestion ask(const AtSpiQuestion::Deadlines &deadlines = {})
+    {
+        return AtSpiQuestion(m_bus, deadlines);
+    }
 
     /// What has the keyboard in an application: what it last said itself, else what a search finds.
-    QCoro::Task<std::optional<AccessibleElement>> focusedElement(qint64 processIdentifier);
-    QCoro::Task<std::optional<AccessibleElement>> parent(AccessibleElement element);
-    QCoro::Task<std::optional<QString>> role(AccessibleElement element);
-    /// Empty if the element is a text without a selection; none if it is no text or does not answer.
-    QCoro::Task<std::optional<QString>> selectedText(AccessibleElement element);
+    /// The application's own element, which has no address, if it is not on the bus or nothing in it
+    /// claims the keyboard; none if that could not be told in time.
+    QCoro::Task<std::optional<AccessibleElement>> focusedElement(AtSpiQuestion question,
+                                                                 qint64 processIdentifier);
+    static QCoro::Task<std::optional<AccessibleElement>> parent(AtSpiQuestion question,
+                                                                AccessibleElement element);
+    static QCoro::Task<std::optional<QString>> role(AtSpiQuestion question, AccessibleElement element);
+    /// Empty if nothing is selected in the element or, where it is a part of a text, in the rest of
+    /// that; none if it is no text, does not answer, or not all of the selection could be read.
+    static QCoro::Task<std::optional<QString>> selectedText(AtSpiQuestion question,
+                                                            AccessibleElement element);
     /// Address of the page that a document shows.
-    QCoro::Task<std::optional<QString>> documentUrl(AccessibleElement element);
+    static QCoro::Task<std::optional<QString>> documentUrl(AtSpiQuestion question, AccessibleElement element);
 
 private:
     void onFocusEvent(const AtSpiReference &object, bool isFocused);
-    QCoro::Task<std::optional<QString>> serviceOf(qint64 processIdentifier);
-    QCoro::Task<std::optional<AtSpiReference>> searchFocus(QString service);
+    /// Chromium has nothing to show until someone has asked its root for something.
+    void wake(const AtSpiReference &application);
+    QCoro::Task<> wakeAll();
+    QCoro::Task<AtSpiFocus> focusOf(AtSpiQuestion question, AtSpiReference application);
 
-    AtSpiBus m_bus;
     /// By service; only what an application has said since Vesk listens.
     QHash<QString, AtSpiReference> m_focused;
-    /// Services are never used twice, so this holds as long as the bus does.
-    QHash<QString, qint64> m_processes;
+    QSet<QString> m_woken;
+    AtSpiBus m_bus;
 };
 
 } // namespace vesk

@@ -4,12 +4,14 @@
 #include <QCoroDBusPendingCall>
 
 #include <QDBusPendingCall>
+#include <QDBusServiceWatcher>
 #include <QDBusVariant>
 #include <QPointer>
 
 namespace vesk {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -17,65 +19,63 @@ const QString kLauncherService = QStringLiteral("org.a11y.Bus");
 const QString kLauncherPath = QStringLiteral("/org/a11y/bus");
 const QString kConnectionName = QStringLiteral("vesk-accessibility");
 const QString kRegistryService = QStringLiteral("org.a11y.atspi.Registry");
+const QString kRootPath = QStringLiteral("/org/a11y/atspi/accessible/root");
 const QString kObjectEvents = QStringLiteral("org.a11y.atspi.Event.Object");
+
+/// A bus that does not come back is asked for a few times, each wait twice as long as the last, and
+/// then no more: its launcher says when it is there.
+constexpr auto kFirstRetry = 500ms;
+constexpr int kMaximumFailures = 6;
 
 } // namespace
 
-bool AtSpiReference::isNull() const
+AtSpiBus::AtSpiBus()
 {
-    return service.isEmpty() || path == "/org/a11y/atspi/null"_L1;
+    m_retry.setSingleShot(true);
+    connect(&m_retry, &QTimer::timeout, this, [this] { connectToBus(); });
+    auto *launcher = new QDBusServiceWatcher(kLauncherService, QDBusConnection::sessionBus(),
+                                             QDBusServiceWatcher::WatchForRegistration, this);
+    connect(launcher, &QDBusServiceWatcher::serviceRegistered, this, [this] {
+        m_failures = 0;
+        if (m_isStarted)
+            connectToBus();
+    });
 }
 
 AtSpiBus::~AtSpiBus()
 {
-    stop();
+    m_isStarted = false;
+    leaveBus();
 }
 
 void AtSpiBus::start()
 {
-    if (m_bus)
+    if (m_isStarted)
         return;
-    QDBusMessage enable = QDBusMessage::createMethodCall(kLauncherService, kLauncherPath,
-                                                         u"org.freedesktop.DBus.Properties"_s, u"Set"_s);
-    enable << u"org.a11y.Status"_s << u"IsEnabled"_s << QVariant::fromValue(QDBusVariant(true));
-    // A desktop without accessibility says no; the texts then come by the other routes.
-    QDBusConnection::sessionBus().asyncCall(enable);
+    m_isStarted = true;
+    m_failures = 0;
     connectToBus();
 }
 
 void AtSpiBus::stop()
 {
-    ++m_generation;
-    if (!m_bus)
-        return;
-    m_bus.reset();
-    QDBusConnection::disconnectFromBus(kConnectionName);
+    m_isStarted = false;
+    ++m_attempt;
+    m_retry.stop();
+    leaveBus();
 }
 
-QCoro::Task<std::optional<QVariantList>> AtSpiBus::call(AtSpiReference object, QString interface,
-                                                        QString method, QVariantList arguments)
+std::optional<QDBusPendingCall> AtSpiBus::send(const QDBusMessage &message,
+                                               std::chrono::milliseconds deadline)
 {
-    if (!m_bus || !m_bus->isConnected())
-        co_return std::nullopt;
-    QDBusMessage message = QDBusMessage::createMethodCall(object.service, object.path, interface, method);
-    message.setArguments(arguments);
-    const QDBusPendingCall pending = m_bus->asyncCall(message, static_cast<int>(kDeadline.count()));
-    const QDBusMessage reply = co_await pending;
-    if (reply.type() != QDBusMessage::ReplyMessage)
-        co_return std::nullopt;
-    co_return reply.arguments();
+    if (!isConnected())
+        return std::nullopt;
+    return m_bus->asyncCall(message, static_cast<int>(deadline.count()));
 }
 
-QCoro::Task<std::optional<qint64>> AtSpiBus::processIdentifier(QString service)
+AtSpiReference AtSpiBus::registry()
 {
-    const AtSpiReference daemon{.service = u"org.freedesktop.DBus"_s, .path = u"/org/freedesktop/DBus"_s};
-    QVariantList arguments;
-    arguments.append(service);
-    const std::optional<QVariantList> reply =
-        co_await call(daemon, u"org.freedesktop.DBus"_s, u"GetConnectionUnixProcessID"_s, arguments);
-    if (!reply || reply->isEmpty())
-        co_return std::nullopt;
-    co_return reply->first().toLongLong();
+    return {.service = kRegistryService, .path = kRootPath};
 }
 
 void AtSpiBus::onStateChanged(const QDBusMessage &message)
@@ -87,39 +87,111 @@ void AtSpiBus::onStateChanged(const QDBusMessage &message)
     Q_EMIT focusEvent(object, arguments.at(1).toInt() != 0);
 }
 
+void AtSpiBus::onChildrenChanged(const QDBusMessage &message)
+{
+    const QVariantList arguments = message.arguments();
+    if (arguments.size() < 4)
+        return;
+    const AtSpiReference root = AtSpiReference::read(arguments.at(3));
+    if (root.isNull())
+        return;
+    if (arguments.at(0).toString() == "add"_L1)
+        Q_EMIT applicationAdded(root);
+    else
+        Q_EMIT applicationRemoved(root);
+}
+
+void AtSpiBus::onDisconnected()
+{
+    leaveBus();
+    if (m_isStarted)
+        connectLater();
+}
+
 QCoro::Task<> AtSpiBus::connectToBus()
 {
-    const int generation = m_generation;
+    const int attempt = ++m_attempt;
+    m_retry.stop();
     const QPointer<AtSpiBus> self(this);
+    QDBusMessage enable = QDBusMessage::createMethodCall(kLauncherService, kLauncherPath,
+                                                         u"org.freedesktop.DBus.Properties"_s, u"Set"_s);
+    enable << u"org.a11y.Status"_s << u"IsEnabled"_s << QVariant::fromValue(QDBusVariant(true));
+    // A desktop without accessibility says no; the texts then come by the other routes.
+    QDBusConnection::sessionBus().asyncCall(enable);
     const QDBusMessage ask =
         QDBusMessage::createMethodCall(kLauncherService, kLauncherPath, kLauncherService, u"GetAddress"_s);
     // The launcher may have to start the bus first, so this one answer is given more time.
     constexpr int kStartDeadline = 10'000; // milliseconds
     const QDBusPendingCall pending = QDBusConnection::sessionBus().asyncCall(ask, kStartDeadline);
     const QDBusMessage reply = co_await pending;
-    if (self.isNull() || generation != m_generation || reply.type() != QDBusMessage::ReplyMessage
-        || reply.arguments().isEmpty())
+    if (self.isNull() || attempt != m_attempt)
         co_return;
-    QDBusConnection bus =
-        QDBusConnection::connectToBus(reply.arguments().first().toString(), kConnectionName);
-    if (!bus.isConnected()) {
+    const QVariantList arguments = reply.arguments();
+    const bool isAnswered = reply.type() == QDBusMessage::ReplyMessage && !arguments.isEmpty();
+    const QString address = isAnswered ? arguments.first().toString() : QString();
+    if (isConnected() && (address.isEmpty() || address == m_address))
+        co_return;
+    leaveBus();
+    if (!address.isEmpty()) {
+        const QDBusConnection bus = QDBusConnection::connectToBus(address, kConnectionName);
+        if (bus.isConnected()) {
+            m_bus = bus;
+            m_address = address;
+            m_failures = 0;
+            listen();
+            Q_EMIT connected();
+            co_return;
+        }
         QDBusConnection::disconnectFromBus(kConnectionName);
-        co_return;
     }
-    m_bus = bus;
-    bus.connect(QString(), QString(), kObjectEvents, u"StateChanged"_s, this,
-                SLOT(onStateChanged(QDBusMessage)));
-    // Without this, most toolkits send no events at all.
-    registerEvent(bus, u"object:state-changed:focused"_s);
-    Q_EMIT connected();
+    connectLater();
 }
 
-void AtSpiBus::registerEvent(const QDBusConnection &bus, const QString &name)
+void AtSpiBus::connectLater()
 {
+    if (m_failures == kMaximumFailures)
+        return;
+    m_retry.start(kFirstRetry * (1 << m_failures));
+    ++m_failures;
+}
+
+void AtSpiBus::leaveBus()
+{
+    if (!m_bus)
+        return;
+    ++m_generation;
+    m_registryWatcher.reset();
+    m_bus.reset();
+    m_address.clear();
+    QDBusConnection::disconnectFromBus(kConnectionName);
+    Q_EMIT disconnected();
+}
+
+void AtSpiBus::listen()
+{
+    m_bus->connect(QString(), u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s,
+                   u"Disconnected"_s, this, SLOT(onDisconnected()));
+    // Only these of the many changes that applications announce once anyone listens to them.
+    const QStringList focused(u"focused"_s);
+    m_bus->connect(QString(), QString(), kObjectEvents, u"StateChanged"_s, focused, QString(), this,
+                   SLOT(onStateChanged(QDBusMessage)));
+    m_bus->connect(kRegistryService, kRootPath, kObjectEvents, u"ChildrenChanged"_s, this,
+                   SLOT(onChildrenChanged(QDBusMessage)));
+    // A registry that is started anew knows nothing of its former listeners.
+    m_registryWatcher = std::make_unique<QDBusServiceWatcher>(kRegistryService, *m_bus,
+                                                              QDBusServiceWatcher::WatchForRegistration);
+    connect(m_registryWatcher.get(), &QDBusServiceWatcher::serviceRegistered, this,
+            &AtSpiBus::registerEvents);
+    registerEvents();
+}
+
+void AtSpiBus::registerEvents()
+{
+    // Without this, most toolkits send no events at all.
     QDBusMessage message = QDBusMessage::createMethodCall(kRegistryService, u"/org/a11y/atspi/registry"_s,
                                                           kRegistryService, u"RegisterEvent"_s);
-    message << name << QStringList() << QString();
-    bus.asyncCall(message);
+    message << u"object:state-changed:focused"_s << QStringList() << QString();
+    m_bus->asyncCall(message);
 }
 
 } // namespace vesk

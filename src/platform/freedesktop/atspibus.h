@@ -1,69 +1,79 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/freedesktop/atspireference.h"
+
 #include <QCoroTask>
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QObject>
-#include <QVariantList>
+#include <QTimer>
 
 #include <chrono>
+#include <memory>
 #include <optional>
+
+class QDBusServiceWatcher;
 
 namespace vesk {
 
-/// The name of one object on the accessibility bus: who has it, and its path there.
-struct AtSpiReference
-{
-    QString service;
-    QString path;
-
-    friend bool operator==(const AtSpiReference &, const AtSpiReference &) = default;
-    [[nodiscard]] bool isNull() const;
-};
-
-/// The accessibility bus: a connection of its own, with calls that never wait longer than their
-/// deadline.
+/// The accessibility bus: a connection of its own, made again when the bus has died and is back.
 class AtSpiBus final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The longest wait for one answer. A working application answers within a few milliseconds.
-    static constexpr std::chrono::milliseconds kDeadline{100};
-
-    using QObject::QObject;
+    AtSpiBus();
     ~AtSpiBus() override;
 
     /// Switches the desktop's accessibility on, so that applications offer their texts, and connects.
-    /// `connected` follows, unless there is no such bus.
+    /// `connected` follows, whenever there is such a bus.
     void start();
     /// Disconnects; the desktop's accessibility stays as it is, since others may use it.
     void stop();
     [[nodiscard]] bool isConnected() const { return m_bus && m_bus->isConnected(); }
+    /// Rises whenever the connection is left: what was learned over it is then worth nothing.
+    [[nodiscard]] int generation() const { return m_generation; }
 
-    /// Calls a method. None if there is no connection, the answer is an error, or none comes in time.
-    QCoro::Task<std::optional<QVariantList>> call(AtSpiReference object, QString interface, QString method,
-                                                  QVariantList arguments = {});
+    /// Calls a method. None if there is no connection.
+    [[nodiscard]] std::optional<QDBusPendingCall> send(const QDBusMessage &message,
+                                                       std::chrono::milliseconds deadline);
 
-    /// Process that owns a connection to the bus; none if it is gone.
-    QCoro::Task<std::optional<qint64>> processIdentifier(QString service);
+    /// The object below which all applications are.
+    [[nodiscard]] static AtSpiReference registry();
 
 Q_SIGNALS:
     void connected();
+    /// The connection is lost or left.
+    void disconnected();
     void focusEvent(const vesk::AtSpiReference &object, bool isFocused);
+    /// An application has come to the bus or left it.
+    void applicationAdded(const vesk::AtSpiReference &root);
+    void applicationRemoved(const vesk::AtSpiReference &root);
 
 private Q_SLOTS:
     void onStateChanged(const QDBusMessage &message);
+    void onChildrenChanged(const QDBusMessage &message);
+    void onDisconnected();
 
 private:
     QCoro::Task<> connectToBus();
-    static void registerEvent(const QDBusConnection &bus, const QString &name);
+    void connectLater();
+    void leaveBus();
+    void listen();
+    void registerEvents();
 
+    bool m_isStarted = false;
     std::optional<QDBusConnection> m_bus;
-    /// Tells a connection in the making that it is no longer wanted.
+    std::unique_ptr<QDBusServiceWatcher> m_registryWatcher;
+    QString m_address;
     int m_generation = 0;
+    /// Tells a connection in the making that a newer one is wanted, or none.
+    int m_attempt = 0;
+    int m_failures = 0;
+    QTimer m_retry;
 };
 
 } // namespace vesk

@@ -49,7 +49,7 @@ QCoro::Task<std::optional<AccessibleElement>> X11Accessibility::copyElement(Acce
     if (attribute == ElementAttribute::Parent) {
         if (element.address.isEmpty())
             co_return std::nullopt;
-        co_return co_await m_atSpi.parent(element);
+        co_return co_await AtSpi::parent(m_atSpi.ask(), element);
     }
     qint64 process = element.processIdentifier;
     if (process == 0) {
@@ -58,12 +58,9 @@ QCoro::Task<std::optional<AccessibleElement>> X11Accessibility::copyElement(Acce
             co_return std::nullopt;
         process = frontmost->processIdentifier;
     }
-    const std::optional<AccessibleElement> focused = co_await m_atSpi.focusedElement(process);
     // An application that is not on the bus still has its X11 selection: the application itself then
     // stands for what has the keyboard in it.
-    if (!focused)
-        co_return applicationElement(process);
-    co_return focused;
+    co_return co_await m_atSpi.focusedElement(m_atSpi.ask(), process);
 }
 
 QCoro::Task<std::optional<QString>> X11Accessibility::copyString(AccessibleElement element,
@@ -76,8 +73,8 @@ QCoro::Task<std::optional<QString>> X11Accessibility::copyString(AccessibleEleme
     if (element.address.isEmpty())
         co_return std::nullopt;
     if (attribute == StringAttribute::Url)
-        co_return co_await m_atSpi.documentUrl(element);
-    co_return co_await m_atSpi.role(element);
+        co_return co_await AtSpi::documentUrl(m_atSpi.ask(), element);
+    co_return co_await AtSpi::role(m_atSpi.ask(), element);
 }
 
 void X11Accessibility::followConsent()
@@ -92,28 +89,27 @@ void X11Accessibility::followConsent()
 QCoro::Task<std::optional<QString>> X11Accessibility::selectedText(AccessibleElement element)
 {
     const QPointer<X11Accessibility> self(this);
+    const AtSpiQuestion question = m_atSpi.ask();
     const bool isOnBus = !element.address.isEmpty();
-    std::optional<QString> elementRole;
     if (isOnBus) {
-        // Asked before anything is read: toolkits put a password field's clear text into PRIMARY.
-        elementRole = co_await m_atSpi.role(element);
-        if (self.isNull())
+        // Asked before anything is read: toolkits put a password field's clear text into PRIMARY. What
+        // does not say what it is could be one.
+        const std::optional<QString> role = co_await AtSpi::role(question, element);
+        if (self.isNull() || !role)
             co_return std::nullopt;
-        if (elementRole == "password text"_L1)
+        if (role == "password text"_L1)
             co_return QString();
     }
     if (isPrimaryFresh(element.processIdentifier)) {
         const std::optional<QString> text = co_await m_primary.text();
-        if (self.isNull() || text)
+        if (self.isNull() || !isProcessTrusted())
+            co_return std::nullopt;
+        if (text)
             co_return text;
     }
     if (!isOnBus)
         co_return std::nullopt;
-    const std::optional<QString> selected = co_await m_atSpi.selectedText(element);
-    // Browsers say of a page that nothing is selected although all of it is.
-    if (selected && selected->isEmpty() && elementRole == kWebAreaRole)
-        co_return std::nullopt;
-    co_return selected;
+    co_return co_await AtSpi::selectedText(question, element);
 }
 
 bool X11Accessibility::isPrimaryFresh(qint64 processIdentifier) const

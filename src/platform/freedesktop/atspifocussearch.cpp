@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: MIT
+#include "platform/freedesktop/atspifocussearch.h"
+
+#include <QDBusArgument>
+#include <QDBusMetaType>
+#include <QSet>
+
+#include <algorithm>
+#include <vector>
+
+namespace vesk {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What Collection.GetMatches looks for: what has the keyboard, of these interfaces.
+struct MatchRule
+{
+    QList<int> states;
+    QStringList interfaces;
+};
+
+QDBusArgument &operator<<(QDBusArgument &argument, const MatchRule &rule)
+{
+    constexpr int kMatchAll = 1;
+    constexpr int kMatchAny = 2;
+    const QMap<QString, QString> noAttributes;
+    const QList<int> noRoles;
+    argument.beginStructure();
+    argument << rule.states << kMatchAll << noAttributes << kMatchAny << noRoles << kMatchAny
+             << rule.interfaces << kMatchAll << false;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, MatchRule &rule)
+{
+    // Rules are only ever sent; Qt wants both directions.
+    Q_UNUSED(rule)
+    return argument;
+}
+
+} // namespace
+} // namespace vesk
+
+Q_DECLARE_METATYPE(vesk::MatchRule)
+
+namespace vesk {
+
+namespace {
+
+using StringMap = QMap<QString, QString>;
+
+/// The walk asks this many objects at once: enough to keep the application busy, few enough that
+/// the last of them is answered in time.
+constexpr qsizetype kPipelined = 32;
+/// An application with more objects than this is not walked through to the end.
+constexpr qsizetype kMaximumObjects = 3000;
+
+AtSpiQuestion::Reply findMatches(const AtSpiQuestion &question, const AtSpiReference &frame,
+                                 const QStringList &interfaces)
+{
+    qDBusRegisterMetaType<QList<int>>();
+    qDBusRegisterMetaType<StringMap>();
+    qDBusRegisterMetaType<MatchRule>();
+    const MatchRule rule{.states = {1 << atspistate::kFocused, 0}, .interfaces = interfaces};
+    constexpr uint kCanonicalOrder = 1;
+    constexpr int kNoLimit = 0;
+    return question.call(frame, u"org.a11y.atspi.Collection"_s, u"GetMatches"_s,
+                         {QVariant::fromValue(rule), kCanonicalOrder, kNoLimit, true});
+}
+
+struct Frames
+{
+    QList<AtSpiReference> active;
+    QList<AtSpiReference> others;
+};
+
+/// The windows of an application; none if it does not answer.
+QCoro::Task<std::optional<Frames>> findFrames(AtSpiQuestion question, AtSpiReference application)
+{
+    const std::optional<QList<AtSpiReference>> all = co_await question.children(application);
+    if (!all)
+        co_return std::nullopt;
+    std::vector<QCoro::Task<std::optional<AtSpiStates>>> pending;
+    for (const AtSpiReference &frame : *all)
+        pending.push_back(question.states(frame));
+    Frames frames;
+    for (size_t index = 0; index < pending.size(); ++index) {
+        const std::optional<AtSpiStates> states = co_await pending[index];
+        const bool isActive = states && states->test(atspistate::kActive);
+        (isActive ? frames.active : frames.others).append(all->at(static_cast<qsizetype>(index)));
+    }
+    co_return frames;
+}
+
+/// Asks the toolkit's own search; none if it has none.
+QCoro::Task<std::optional<AtSpiFocus>> askCollection(AtSpiQuestion question, QList<AtSpiReference> frames)
+{
+    AtSpiFocus focus{.object = std::nullopt, .isText = true, .isComplete = true};
+    bool isKnown = false;
+    std::vector<AtSpiQuestion::Reply> texts;
+    for (const AtSpiReference &frame : frames)
+        texts.push_back(findMatches(question, frame, {u"Text"_s}));
+    for (AtSpiQuestion::Reply &pending : texts) {
+        const std::optional<QVariantList> reply = co_await pending;
+        const QList<AtSpiReference> matches = AtSpiReference::readList(reply ? reply->value(0) : QVariant());
+        isKnown = isKnown || reply;
+        focus.isComplete = focus.isComplete && reply;
+        if (!focus.object && !matches.isEmpty())
+            focus.object = matches.first();
+    }
+    if (!isKnown)
+        co_return std::nullopt;
+    if (focus.object)
+        co_return focus;
+    focus.isText = false;
+    const QStringList anyInterface;
+    for (const AtSpiReference &frame : frames) {
+        const std::optional<QVariantList> reply = co_await findMatches(question, frame, anyInterface);
+        const QList<AtSpiReference> matches = AtSpiReference::readList(reply ? reply->value(0) : QVariant());
+        // The innermost of those that contain each other comes last.
+        if (!matches.isEmpty()) {
+            focus.object = matches.last();
+            break;
+        }
+    }
+    co_return focus;
+}
+
+/// One step of the walk: what claims the keyboard, and what is to be looked at next.
+struct Step
+{
+    bool isAnswered = false;
+    QList<AtSpiReference> focused;
+    QList<AtSpiReference> children;
+};
+
+QCoro::Task<Step> lookAt(AtSpiQuestion question, QList<AtSpiReference> objects)
+{
+    Step step;
+    std::vector<QCoro::Task<std::optional<AtSpiStates>>> states;
+    for (const AtSpiReference &object : objects)
+        states.push_back(question.states(object));
+    std::vector<QCoro::Task<std::optional<QList<AtSpiReference>>>> children;
+    for (size_t index = 0; index < states.size(); ++index) {
+        const std::optional<AtSpiStates> state = co_await states[index];
+        if (!state)
+            continue;
+        step.isAnswered = true;
+        const AtSpiReference object = objects.at(static_cast<qsizetype>(index));
+        if (state->test(atspistate::kFocused))
+            step.focused.append(object);
+        // Closed menus and hidden pages have no part in this; GTK 4 says "showing" of few objects,
+        // but "visible" of all that are. The rows of long lists would be made only to be looked at.
+        if (state->test(atspistate::kVisible) && !state->test(atspistate::kManagesDescendants))
+            children.push_back(question.children(object));
+    }
+    for (QCoro::Task<std::optional<QList<AtSpiReference>>> &pending : children) {
+        const std::optional<QList<AtSpiReference>> found = co_await pending;
+        step.children.append(found.value_or(QList<AtSpiReference>()));
+    }
+    co_return step;
+}
+
+QCoro::Task<std::optional<AtSpiReference>> firstText(AtSpiQuestion question, QList<AtSpiReference> objects)
+{
+    std::vector<QCoro::Task<std::optional<bool>>> pending;
+    for (const AtSpiReference &object : objects)
+        pending.push_back(question.isText(object));
+    std::optional<AtSpiReference> text;
+    for (size_t index = 0; index < pending.size(); ++index) {
+        const std::optional<bool> isText = co_await pending[index];
+        if (!text && isText.value_or(false))
+            text = objects.at(static_cast<qsizetype>(index));
+    }
+    co_return text;
+}
+
+/// Looks at object after object, level by level, since what has the keyboard is seldom deep.
+QCoro::Task<AtSpiFocus> walk(AtSpiQuestion question, QList<AtSpiReference> frames)
+{
+    AtSpiFocus focus;
+    QSet<AtSpiReference> seen(frames.cbegin(), frames.cend());
+    QList<AtSpiReference> waiting = frames;
+    while (!waiting.isEmpty()) {
+        const QList<AtSpiReference> objects = waiting.first(std::min(kPipelined, waiting.size()));
+        waiting.remove(0, objects.size());
+        const Step step = co_await lookAt(question, objects);
+        if (!step.isAnswered || question.isOver())
+            co_return focus;
+        const std::optional<AtSpiReference> text = co_await firstText(question, step.focused);
+        if (text) {
+            focus.object = text;
+            focus.isText = true;
+            co_return focus;
+        }
+        if (!step.focused.isEmpty())
+            focus.object = step.focused.last();
+        for (const AtSpiReference &child : step.children) {
+            if (seen.contains(child))
+                continue;
+            if (seen.size() == kMaximumObjects)
+                co_return focus;
+            seen.insert(child);
+            waiting.append(child);
+        }
+    }
+    focus.isComplete = !question.isOver();
+    co_return focus;
+}
+
+QCoro::Task<AtSpiFocus> search(AtSpiQuestion question, QList<AtSpiReference> frames)
+{
+    const std::optional<AtSpiFocus> matched = co_await askCollection(question, frames);
+    if (matched)
+        co_return *matched;
+    co_return co_await walk(question, frames);
+}
+
+} // namespace
+
+QCoro::Task<AtSpiFocus> searchFocus(AtSpiQuestion question, AtSpiReference application)
+{
+    const std::optional<Frames> frames = co_await findFrames(question, application);
+    if (!frames)
+        co_return AtSpiFocus();
+    // Windows that are not active may have an object of their own that claims the keyboard. While a
+    // key is grabbed, though, and in a Chromium that was woken late, no window is active.
+    AtSpiFocus focus{.object = std::nullopt, .isText = false, .isComplete = true};
+    if (!frames->active.isEmpty())
+        focus = co_await search(question, frames->active);
+    if (focus.object || !focus.isComplete || frames->others.isEmpty())
+        co_return focus;
+    co_return co_await search(question, frames->others);
+}
+
+} // namespace vesk

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/freedesktop/atspiquestion.h"
+
+#include <QCoroTask>
+
+#include <optional>
+
+namespace vesk {
+
+/// What a search for the keyboard's place in an application has found.
+struct AtSpiFocus
+{
+    /// None if nothing that was seen claims it.
+    std::optional<AtSpiReference> object;
+    /// Whether the object has a text. Containers claim the keyboard along with what they contain.
+    bool isText = false;
+    /// Whether all that can have it was seen.
+    bool isComplete = false;
+};
+
+/// Looks through an application, its active window first, for what has the keyboard: by the
+/// application's own search where its toolkit has one, else object by object.
+QCoro::Task<AtSpiFocus> searchFocus(AtSpiQuestion question, AtSpiReference application);
+
+} // namespace vesk

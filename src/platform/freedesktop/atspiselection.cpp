@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "platform/freedesktop/atspiselection.h"
+
+#include "platform/accessibility.h"
+#include "platform/freedesktop/atspitext.h"
+
+#include <QSet>
+
+#include <vector>
+
+namespace vesk {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kMaximumDepth = 40;
+/// More paragraphs than a window shows at once.
+constexpr qsizetype kMaximumParagraphs = 500;
+
+bool isParagraph(const QString &role)
+{
+    static const QSet<QString> roles{u"paragraph"_s, u"heading"_s, u"list item"_s, u"block quote"_s,
+                                     u"caption"_s};
+    return roles.contains(role);
+}
+
+/// The page that an object is in; null if it is in none.
+QCoro::Task<AtSpiReference> pageAround(AtSpiQuestion question, AtSpiReference object)
+{
+    std::optional<AtSpiReference> ancestor = object;
+    for (int depth = 0; ancestor && depth < kMaximumDepth; ++depth) {
+        const std::optional<QString> role = co_await question.roleName(*ancestor);
+        if (role == Accessibility::kWebAreaRole)
+            co_return *ancestor;
+        ancestor = co_await question.parent(*ancestor);
+    }
+    co_return AtSpiReference();
+}
+
+/// What is selected in the paragraphs of a document, each on a line of its own.
+QCoro::Task<std::optional<QString>> readParagraphs(AtSpiQuestion question, QList<AtSpiReference> paragraphs)
+{
+    if (paragraphs.size() > kMaximumParagraphs)
+        co_return std::nullopt;
+    std::vector<QCoro::Task<std::optional<QList<AtSpiRange>>>> pending;
+    for (const AtSpiReference &paragraph : paragraphs)
+        pending.push_back(readAtSpiRanges(question, paragraph));
+    QStringList lines;
+    // What has no selection belongs to it if more of it follows: an empty line, or a picture or a table,
+    // whose text would be missing.
+    QStringList between;
+    bool isHole = false;
+    for (size_t index = 0; index < pending.size(); ++index) {
+        const std::optional<QList<AtSpiRange>> ranges = co_await pending[index];
+        isHole = isHole || !ranges;
+        if (!ranges || ranges->isEmpty()) {
+            between.append(QString());
+            continue;
+        }
+        const std::optional<QString> text =
+            co_await readAtSpiText(question, paragraphs.at(static_cast<qsizetype>(index)), *ranges);
+        if (!text || (isHole && !lines.isEmpty()))
+            co_return std::nullopt;
+        if (!lines.isEmpty())
+            lines += between;
+        between.clear();
+        isHole = false;
+        lines.append(*text);
+    }
+    if (question.isOver())
+        co_return std::nullopt;
+    co_return lines.join(u'\n');
+}
+
+QCoro::Task<std::optional<QString>> readPage(AtSpiQuestion question, AtSpiReference page)
+{
+    const std::optional<QList<AtSpiRange>> ranges = co_await readAtSpiRanges(question, page);
+    // Browsers say of a page that nothing is selected although all of it is.
+    if (!ranges || ranges->isEmpty())
+        co_return std::nullopt;
+    co_return co_await readAtSpiText(question, page, *ranges);
+}
+
+QCoro::Task<std::optional<QString>> readParagraphsAround(AtSpiQuestion question, AtSpiReference object)
+{
+    const std::optional<AtSpiReference> parent = co_await question.parent(object);
+    if (!parent)
+        co_return std::nullopt;
+    const std::optional<QList<AtSpiReference>> paragraphs = co_await question.children(*parent);
+    if (!paragraphs || !paragraphs->contains(object))
+        co_return std::nullopt;
+    co_return co_await readParagraphs(question, *paragraphs);
+}
+
+} // namespace
+
+QCoro::Task<std::optional<QString>> readAtSpiSelection(AtSpiQuestion question, AtSpiReference object)
+{
+    const QCoro::Task<std::optional<AtSpiStates>> askStates = question.states(object);
+    const QCoro::Task<std::optional<QString>> askRole = question.roleName(object);
+    const std::optional<QList<AtSpiRange>> ranges = co_await readAtSpiRanges(question, object);
+    const std::optional<AtSpiStates> states = co_await askStates;
+    const std::optional<QString> role = co_await askRole;
+    if (!states || !role)
+        co_return std::nullopt;
+    // A link that has the keyboard knows its part of what is selected in the page, if any. A field
+    // has a selection of its own.
+    if (!states->test(atspistate::kEditable) && role != "terminal"_L1) {
+        const AtSpiReference page = co_await pageAround(question, object);
+        if (!page.isNull())
+            co_return co_await readPage(question, page);
+    }
+    if (!ranges || question.isOver())
+        co_return std::nullopt;
+    // Writer has its paragraphs side by side, and only one of them has the keyboard.
+    if (isParagraph(*role))
+        co_return co_await readParagraphsAround(question, object);
+    co_return co_await readAtSpiText(question, object, *ranges);
+}
+
+} // namespace vesk

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/childprocess.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace vesk {
+
+/// A session bus of the test's own, with an accessibility bus that comes and goes as the test wants.
+class AccessibilityDesktop final : public QDBusVirtualObject
+{
+    Q_OBJECT
+
+public:
+    /// Makes the session bus that of this process; to be made before anything uses that.
+    AccessibilityDesktop();
+    ~AccessibilityDesktop() override;
+    Q_DISABLE_COPY_MOVE(AccessibilityDesktop)
+
+    /// Starts the accessibility bus and its launcher; false if that failed.
+    [[nodiscard]] bool startBus();
+    /// Kills both.
+    void killBus();
+    [[nodiscard]] const QString &busAddress() const { return m_busAddress; }
+
+    /// Puts applications below the registry.
+    void setApplications(const QStringList &services) { m_applications = services; }
+    /// Connection that has asked for events last and is still there; empty if there is none.
+    [[nodiscard]] QString listener() const;
+
+    QString introspect(const QString &) const override { return {}; }
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
+
+private:
+    [[nodiscard]] std::unique_ptr<ChildProcess> startDaemon(QString &address);
+
+    QTemporaryDir m_folder;
+    std::unique_ptr<ChildProcess> m_session;
+    std::unique_ptr<ChildProcess> m_bus;
+    QString m_busAddress;
+    QStringList m_applications;
+    QString m_listener;
+};
+
+} // namespace vesk
