@@ -2,17 +2,17 @@
 #include "app/accesscommand.h"
 #include "app/desktop.h"
 #include "app/messagewindow.h"
+#include "app/notification.h"
 #include "app/quitsignals.h"
 #include "app/veskapp.h"
 #include "components/surroundings.h"
 #include "notes/notesstore.h"
 
 #include <QClipboard>
-#include <QCommandLineParser>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QQmlEngine>
 #include <QQuickWindow>
-#include <QStandardPaths>
 #include <QTextStream>
 
 #include <algorithm>
@@ -43,15 +43,11 @@ void showFatal(vesk::Desktop &desktop, const QString &message)
     QCoreApplication::exec();
 }
 
-QString storePath()
+int runVesk(bool isInBackground)
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Vesk/Notes.store"_s;
-}
-
-int runVesk()
-{
+    using IfTaken = vesk::ApplicationService::IfTaken;
     vesk::ApplicationService service;
-    switch (service.claim()) {
+    switch (service.claim(isInBackground ? IfTaken::LeaveAlone : IfTaken::BringForward)) {
     case vesk::ApplicationService::Claim::First:
         break;
     case vesk::ApplicationService::Claim::Forwarded:
@@ -69,13 +65,34 @@ int runVesk()
         return 1;
     }
     vesk::Desktop desktop(std::move(x11.connection), service);
-    const vesk::NotesStore::OpenResult opened = vesk::NotesStore::open(storePath(), desktop.clock);
+    const vesk::NotesStore::OpenResult opened =
+        vesk::NotesStore::open(vesk::NotesStore::standardPath(), desktop.clock);
     if (!opened.store) {
         showFatal(desktop, u"Could not open the notes store: %1"_s.arg(opened.error));
         return 1;
     }
-    const vesk::VeskApp app(desktop, *opened.store);
+    vesk::VeskApp app(desktop, *opened.store, service);
+    if (!isInBackground)
+        app.showPanel();
     return QCoreApplication::exec();
+}
+
+/// Says that there is no X server where the user looks: on standard error and, for a start from a menu,
+/// which has none to look at, in a notification of the desktop's.
+int refuseWithoutServer(int argc, char *argv[])
+{
+    const QCoreApplication program(argc, argv);
+    const bool isWayland = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    const QString message =
+        isWayland
+            ? u"Vesk needs an X11 desktop, and this is a Wayland desktop without an X server. Log in to a "
+              "session of X11, or use the commands that need none: vesk add and vesk list."_s
+            : u"Vesk needs an X11 desktop, and there is no X server at \"%1\". The commands vesk add and "
+              "vesk list need none."_s.arg(qEnvironmentVariable("DISPLAY"));
+    say(message);
+    if (isWayland)
+        vesk::notifyUser(u"Vesk cannot start"_s, message);
+    return 1;
 }
 
 int runAccess(int argc, char *argv[])
@@ -97,15 +114,14 @@ int main(int argc, char *argv[])
     // The windows are X11's, also where a Wayland compositor offers both.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "xcb");
-    if (!vesk::X11Connection::hasServer()) {
-        say(u"Vesk needs an X11 desktop, and there is no X server at \"%1\"."_s.arg(
-            qEnvironmentVariable("DISPLAY")));
-        return 1;
-    }
-    const bool usesGpu = std::ranges::any_of(
-        words, [](const char *word) { return QByteArrayView(word) == QByteArrayView("--gpu"); });
+    if (!vesk::X11Connection::hasServer())
+        return refuseWithoutServer(argc, argv);
+    // The words have been checked by the command that starts this program.
+    const auto has = [&words](QByteArrayView option) {
+        return std::ranges::any_of(words, [option](const char *word) { return word == option; });
+    };
     // A panel of this kind is up sooner, and takes half the memory, without the GPU.
-    if (!usesGpu)
+    if (!has("--gpu"))
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     const QGuiApplication program(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -113,17 +129,8 @@ int main(int argc, char *argv[])
     // that one hangs, or is Vesk itself. They are not told of changes, and paste by our own pasteboard.
     QGuiApplication::clipboard()->blockSignals(true);
     QGuiApplication::setDesktopFileName(u"org.vesk.Vesk"_s);
-
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        u"Keeps what you select, anywhere.\n\n"
-        "Without arguments, starts Vesk, or shows the panel of the Vesk that runs.\n"
-        "vesk access allow|deny|status: whether Vesk may read other applications."_s);
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addOption(QCommandLineOption(u"gpu"_s, u"Draw the windows by the GPU."_s));
-    parser.process(program);
+    QGuiApplication::setWindowIcon(QIcon(u":/vesk/icon/org.vesk.Vesk.svg"_s));
 
     const vesk::QuitSignals quitSignals;
-    return runVesk();
+    return runVesk(has("--background"));
 }

@@ -2,11 +2,15 @@
 #include "app/veskapp.h"
 
 #include "app/desktop.h"
+#include "app/remotecontrol.h"
 #include "components/surroundings.h"
+#include "notes/notesstore.h"
 
 #include <QCoreApplication>
 #include <QPointer>
 #include <QTimer>
+
+using namespace Qt::StringLiterals;
 
 namespace vesk {
 
@@ -20,7 +24,7 @@ QQmlEngine &lent(QQmlEngine &engine, Desktop &desktop)
 
 } // namespace
 
-VeskApp::VeskApp(Desktop &desktop, NotesStore &store)
+VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &service)
     : m_watcher(desktop.pasteboard, desktop.clock)
     , m_reader({.accessibility = desktop.accessibility,
                 .workspace = desktop.workspace,
@@ -66,7 +70,56 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store)
     connect(m_panel.menu(), &PanelMenu::quitRequested, qApp, &QCoreApplication::quit);
     m_watcher.start();
     m_services.start();
+    offerCommands(desktop, store, service);
     QTimer::singleShot(0, this, [&desktop] { desktop.workspace.warmUp(); });
+}
+
+void VeskApp::offerCommands(Desktop &desktop, NotesStore &store, ApplicationService &service)
+{
+    using Target = VeskServices::Target;
+    connect(&service, &ApplicationService::actionActivated, this, &VeskApp::onAction);
+    // The service has them, and may be called until it ends, after this object.
+    const QPointer<VeskApp> self(this);
+    const auto command = [self](auto action) {
+        return [self, action] {
+            if (!self.isNull())
+                action(*self);
+        };
+    };
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the service owns it.
+    new RemoteControl(
+        service,
+        {
+            .toggle = command([](VeskApp &app) { app.m_panelWindow.togglePanel(); }),
+            .write = command([](VeskApp &app) { app.write(); }),
+            .quit = [] { QCoreApplication::exit(0); },
+            .capture = command([](VeskApp &app) { app.m_services.capture(Target::NewNote); }),
+            .captureToLastNote = command([](VeskApp &app) { app.m_services.capture(Target::LastNote); }),
+            .captureChecklist = {},
+            .addToChecklist = {},
+            .savePrompt = {},
+            .quickNote = {},
+            .quickChecklist = {},
+            .addNote =
+                [&clock = desktop.clock, &store](const QString &text) {
+                    store.insert(std::make_unique<Note>(clock, text));
+                    return store.save();
+                },
+        });
+}
+
+void VeskApp::onAction(const QString &name)
+{
+    if (name == "new-note"_L1)
+        write();
+    else
+        showPanel();
+}
+
+void VeskApp::write()
+{
+    m_panelWindow.showPanel();
+    m_panel.requestField(PanelModel::Field::Composer);
 }
 
 QCoro::Task<> VeskApp::pasteIntoField(Pasteboard &pasteboard)

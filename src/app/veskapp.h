@@ -17,6 +17,7 @@
 
 namespace vesk {
 
+class ApplicationService;
 class Pasteboard;
 struct Desktop;
 
@@ -26,10 +27,16 @@ class VeskApp final : public QObject
     Q_OBJECT
 
 public:
-    /// Arms the hot keys; the event loop does the rest. Both have to outlive it.
-    VeskApp(Desktop &desktop, NotesStore &store);
+    /// Arms the hot keys; the event loop does the rest. All have to outlive it.
+    VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &service);
+
+    void showPanel() { m_panelWindow.showPanel(); }
 
 private:
+    /// Lets other processes give the commands that the keys give.
+    void offerCommands(Desktop &desktop, NotesStore &store, ApplicationService &service);
+    void onAction(const QString &name);
+    void write();
     /// Reads the pasteboard for the panel's field.
     QCoro::Task<> pasteIntoField(Pasteboard &pasteboard);
 

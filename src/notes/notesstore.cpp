@@ -3,9 +3,12 @@
 
 #include "notes/database.h"
 
+#include <QStandardPaths>
+
 #include <algorithm>
 #include <utility>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace vesk {
@@ -17,6 +20,11 @@ constexpr std::chrono::milliseconds kFirstRetryDelay = 5s;
 constexpr std::chrono::milliseconds kLongestRetryDelay = 60s;
 
 } // namespace
+
+QString NotesStore::standardPath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Vesk/Notes.store"_s;
+}
 
 NotesStore::OpenResult NotesStore::open(const QString &path, Clock &clock)
 {

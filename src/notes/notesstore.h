@@ -34,6 +34,9 @@ public:
         QString error;
     };
 
+    /// Where a user's store is: `Vesk/Notes.store` in the user's data folder.
+    [[nodiscard]] static QString standardPath();
+
     /// Opens the store's file, or makes it and its folder if it is missing, readable by its user
     /// only. A file that cannot be used (not a store, damaged, of a newer version, not writable,
     /// locked) is left as it was. `clock` has to outlive the store.

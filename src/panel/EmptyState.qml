@@ -14,20 +14,14 @@ Item {
         anchors.centerIn: parent
         spacing: Theme.smallSpace
 
-        Rectangle {
+        Image {
             anchors.horizontalCenter: parent.horizontalCenter
             width: 72
             height: 72
-            radius: 18
-            antialiasing: true
-            color: Theme.accent
-
-            Symbol {
-                anchors.centerIn: parent
-                name: "square.and.pencil"
-                size: 34
-                color: Theme.onAccent
-            }
+            // Drawn at the screen's own resolution.
+            sourceSize: Qt.size(width * Screen.devicePixelRatio, height * Screen.devicePixelRatio)
+            source: "qrc:/vesk/icon/org.vesk.Vesk.svg"
+            Accessible.ignored: true
         }
 
         Item {

@@ -50,6 +50,11 @@ QString ChildProcess::readLine(std::chrono::milliseconds bound)
     return QString::fromUtf8(m_process.readLine()).trimmed();
 }
 
+QString ChildProcess::output()
+{
+    return QString::fromUtf8(m_process.readAllStandardOutput());
+}
+
 bool ChildProcess::waitForExit(std::chrono::milliseconds bound)
 {
     return !isRunning() || m_process.waitForFinished(int(bound.count()));

@@ -31,6 +31,9 @@ public:
     /// The next line of its standard output without the line end; empty if none came within `bound`.
     [[nodiscard]] QString readLine(std::chrono::milliseconds bound);
 
+    /// What it has printed on standard output and nobody has read.
+    [[nodiscard]] QString output();
+
     /// True once it has ended. Failure: false after `bound`.
     [[nodiscard]] bool waitForExit(std::chrono::milliseconds bound);
 

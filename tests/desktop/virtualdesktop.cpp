@@ -166,7 +166,7 @@ bool VirtualDesktop::prepareUser()
 
 std::unique_ptr<ChildProcess> VirtualDesktop::startVesk()
 {
-    std::unique_ptr<ChildProcess> vesk = run(veskProgram());
+    std::unique_ptr<ChildProcess> vesk = run(veskProgram(), {u"--background"_s});
     if (!vesk)
         return nullptr;
     const bool isReady = m_display->waitUntil(kStartBound, [&] {

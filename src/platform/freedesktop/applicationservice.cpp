@@ -3,7 +3,11 @@
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
+#include <QDBusError>
 #include <QDBusMessage>
+#include <QDeadlineTimer>
+
+#include <unistd.h>
 
 namespace vesk {
 
@@ -12,31 +16,50 @@ namespace {
 const QString kService = QStringLiteral("org.vesk.Vesk");
 const QString kPath = QStringLiteral("/org/vesk/Vesk");
 const QString kInterface = QStringLiteral("org.freedesktop.Application");
-constexpr int kForwardDeadline = 5000; // milliseconds
+constexpr std::chrono::milliseconds kForwardDeadline{5000};
+constexpr useconds_t kMoment = 10'000;
 
 } // namespace
 
-ApplicationService::Claim ApplicationService::claim()
+ApplicationService::Claim ApplicationService::claim(IfTaken ifTaken)
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return Claim::NoBus;
     // The object has to stand before the name does: a second start calls as soon as it sees the name.
-    bus.registerObject(kPath, this, QDBusConnection::ExportAllSlots);
-    if (bus.registerService(kService))
-        return Claim::First;
+    bus.registerObject(kPath, this, QDBusConnection::ExportAllSlots | QDBusConnection::ExportAdaptors);
+    for (QDeadlineTimer deadline(kForwardDeadline); !deadline.hasExpired();) {
+        if (bus.registerService(kService))
+            return Claim::First;
+        if (const std::optional<Claim> claim = forward(ifTaken)) {
+            bus.unregisterObject(kPath);
+            return *claim;
+        }
+        ::usleep(kMoment);
+    }
     bus.unregisterObject(kPath);
+    return Claim::NoAnswer;
+}
+
+std::optional<ApplicationService::Claim> ApplicationService::forward(IfTaken ifTaken)
+{
     QDBusMessage call =
         QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Activate"));
-    call << QVariantMap();
-    const QDBusMessage answer = bus.call(call, QDBus::Block, kForwardDeadline);
-    return answer.type() == QDBusMessage::ReplyMessage ? Claim::Forwarded : Claim::NoAnswer;
+    call.setAutoStartService(false);
+    call << (ifTaken == IfTaken::LeaveAlone ? QVariantMap{{kInBackground, true}} : QVariantMap());
+    const QDBusMessage answer =
+        QDBusConnection::sessionBus().call(call, QDBus::Block, int(kForwardDeadline.count()));
+    if (answer.type() == QDBusMessage::ReplyMessage)
+        return Claim::Forwarded;
+    const bool isMomentary = QDBusError(answer).type() == QDBusError::UnknownObject
+                             || answer.errorName() == u"org.freedesktop.DBus.Error.NameHasNoOwner";
+    return isMomentary ? std::nullopt : std::optional(Claim::NoAnswer);
 }
 
 void ApplicationService::Activate(const QVariantMap &platformData)
 {
-    Q_UNUSED(platformData)
-    Q_EMIT activated();
+    if (!platformData.value(kInBackground).toBool())
+        Q_EMIT activated();
 }
 
 void ApplicationService::Open(const QStringList &uris, const QVariantMap &platformData)
@@ -49,9 +72,9 @@ void ApplicationService::Open(const QStringList &uris, const QVariantMap &platfo
 void ApplicationService::ActivateAction(const QString &name, const QVariantList &parameter,
                                         const QVariantMap &platformData)
 {
-    Q_UNUSED(name)
     Q_UNUSED(parameter)
-    Activate(platformData);
+    Q_UNUSED(platformData)
+    Q_EMIT actionActivated(name);
 }
 
 } // namespace vesk

@@ -5,10 +5,13 @@
 #include <QStringList>
 #include <QVariantMap>
 
+#include <optional>
+
 namespace vesk {
 
 /// The program's name on the session bus: the first start has it, every later one finds it taken and
-/// calls the first. Speaks org.freedesktop.Application, so that a desktop may do the same.
+/// calls the first. Speaks org.freedesktop.Application, so that a desktop may do the same. Adaptors that
+/// are its children are on the bus as well.
 class ApplicationService final : public QObject
 {
     Q_OBJECT
@@ -18,7 +21,7 @@ public:
     enum class Claim {
         /// This is the first start; `activated` tells of later ones.
         First,
-        /// Another start runs, and has been told to come forward.
+        /// Another start runs, and has been told to come forward unless it was to be left alone.
         Forwarded,
         /// Another start runs, and did not answer within 5 s.
         NoAnswer,
@@ -26,11 +29,19 @@ public:
         NoBus,
     };
 
+    /// In the platform data of Activate: the call only asks whether Vesk is there.
+    static inline const QString kInBackground = QStringLiteral("background");
+
     using QObject::QObject;
 
+    enum class IfTaken {
+        BringForward,
+        LeaveAlone,
+    };
+
     /// Takes the name, or forwards to who has it. Blocks for that answer: nothing else of the program
-    /// runs yet.
-    [[nodiscard]] Claim claim();
+    /// runs yet. A process that has the name only for a moment, to add a note, is waited for.
+    [[nodiscard]] Claim claim(IfTaken ifTaken = IfTaken::BringForward);
 
 public Q_SLOTS:
     // The remote side of org.freedesktop.Application.
@@ -40,6 +51,12 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void activated();
+    /// One of the actions of the desktop entry was chosen.
+    void actionActivated(const QString &name);
+
+private:
+    /// None if who has the name is no Vesk that stays.
+    [[nodiscard]] static std::optional<Claim> forward(IfTaken ifTaken);
 };
 
 } // namespace vesk

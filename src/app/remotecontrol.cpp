@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "app/remotecontrol.h"
+
+#include "platform/accessibility.h"
+#include "platform/freedesktop/applicationservice.h"
+
+#include <QDBusConnection>
+
+using namespace Qt::StringLiterals;
+
+namespace vesk {
+
+namespace {
+
+void refuse(const QDBusMessage &message, QDBusError::ErrorType type, const QString &reason)
+{
+    message.setDelayedReply(true);
+    QDBusConnection::sessionBus().send(message.createErrorReply(type, reason));
+}
+
+} // namespace
+
+RemoteControl::RemoteControl(ApplicationService &service, Commands commands)
+    : QDBusAbstractAdaptor(&service)
+    , m_commands(std::move(commands))
+{
+}
+
+void RemoteControl::AddNote(const QString &text, const QDBusMessage &message)
+{
+    const QString trimmed = text.trimmed();
+    if (trimmed.isEmpty())
+        refuse(message, QDBusError::InvalidArgs, u"There is no text to add."_s);
+    else if (trimmed.toUtf8().size() > kMaximumTextBytes)
+        refuse(message, QDBusError::LimitsExceeded, u"The text is too long for a note."_s);
+    else if (!m_commands.addNote(trimmed))
+        // The store holds on to it and writes it when the disk lets it.
+        refuse(
+            message, QDBusError::Failed,
+            u"The note is not saved yet: the disk takes nothing. Vesk keeps it and goes on trying; do not add it again."_s);
+}
+
+void RemoteControl::carryOut(const std::function<void()> &command, const QDBusMessage &message)
+{
+    if (!command) {
+        refuse(message, QDBusError::NotSupported, u"This Vesk cannot do that."_s);
+        return;
+    }
+    message.setDelayedReply(true);
+    QDBusConnection::sessionBus().send(message.createReply());
+    command();
+}
+
+} // namespace vesk

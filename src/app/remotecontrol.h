@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDBusAbstractAdaptor>
+#include <QDBusContext>
+#include <QDBusMessage>
+
+#include <functional>
+
+namespace vesk {
+
+class ApplicationService;
+class Clock;
+class NotesStore;
+
+/// The interface org.vesk.Vesk on the session bus: what the keys do, for scripts, and for desktops on
+/// which a program cannot have keys of its own. Only the user's own processes reach that bus.
+class RemoteControl final : public QDBusAbstractAdaptor
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.vesk.Vesk")
+
+public:
+    /// What the methods of the same names do. One that is empty answers that it is not supported.
+    struct Commands
+    {
+        std::function<void()> toggle;
+        std::function<void()> write;
+        std::function<void()> quit;
+        std::function<void()> capture;
+        std::function<void()> captureToLastNote;
+        std::function<void()> captureChecklist;
+        std::function<void()> addToChecklist;
+        std::function<void()> savePrompt;
+        std::function<void()> quickNote;
+        std::function<void()> quickChecklist;
+        /// Keeps the text as a new note; returns whether it is on the disk.
+        std::function<bool(const QString &)> addNote;
+    };
+
+    /// Owned by the service, under whose name and path it is called.
+    RemoteControl(ApplicationService &service, Commands commands);
+
+public Q_SLOTS:
+    void Toggle(const QDBusMessage &message) { carryOut(m_commands.toggle, message); }
+    void Write(const QDBusMessage &message) { carryOut(m_commands.write, message); }
+    void Quit(const QDBusMessage &message) { carryOut(m_commands.quit, message); }
+    void Capture(const QDBusMessage &message) { carryOut(m_commands.capture, message); }
+    void CaptureToLastNote(const QDBusMessage &message) { carryOut(m_commands.captureToLastNote, message); }
+    void CaptureChecklist(const QDBusMessage &message) { carryOut(m_commands.captureChecklist, message); }
+    void AddToChecklist(const QDBusMessage &message) { carryOut(m_commands.addToChecklist, message); }
+    void SavePrompt(const QDBusMessage &message) { carryOut(m_commands.savePrompt, message); }
+    void QuickNote(const QDBusMessage &message) { carryOut(m_commands.quickNote, message); }
+    void QuickChecklist(const QDBusMessage &message) { carryOut(m_commands.quickChecklist, message); }
+    void AddNote(const QString &text, const QDBusMessage &message);
+
+private:
+    /// Answers the caller first: what a command does may take its time.
+    static void carryOut(const std::function<void()> &command, const QDBusMessage &message);
+
+    Commands m_commands;
+};
+
+} // namespace vesk

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+#include "client/client.h"
+
+#include "client/noteslist.h"
+#include "notes/notesreader.h"
+#include "notes/notesstore.h"
+#include "platform/accessibility.h"
+#include "platform/freedesktop/systemclock.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QStringDecoder>
+#include <QTextStream>
+
+#include <cerrno>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace vesk {
+
+namespace {
+
+constexpr int kDone = 0;
+constexpr int kFailed = 1;
+
+const QString kNoBus = u"Vesk needs the session's message bus, and there is none: run this in your desktop's "
+                       "session."_s;
+
+const QString kTooLong =
+    u"The text is longer than the %1 MB that a note may have."_s.arg(kMaximumTextBytes >> 20);
+
+int outcome(const Remote::Answer &answer)
+{
+    if (!answer.isDone)
+        sayError(answer.error);
+    return answer.isDone ? kDone : kFailed;
+}
+
+int print(const QByteArray &text)
+{
+    QFile output;
+    const bool isWritten =
+        output.open(stdout, QIODevice::WriteOnly) && output.write(text) == text.size() && output.flush();
+    if (!isWritten)
+        sayError(u"Standard output takes no more: %1."_s.arg(output.errorString()));
+    return isWritten ? kDone : kFailed;
+}
+
+int list(bool isJson)
+{
+    const NotesReading reading = readNotes(NotesStore::standardPath());
+    if (!reading.error.isEmpty()) {
+        sayError(reading.error);
+        return kFailed;
+    }
+    return print(isJson ? notesAsJson(reading.notes) : notesAsLines(reading.notes));
+}
+
+} // namespace
+
+void sayError(const QString &message)
+{
+    QTextStream(stderr) << "vesk: " << message << '\n';
+}
+
+Client::Client(QString app)
+    : m_app(std::move(app))
+{
+}
+
+int Client::run(const CommandLine &command)
+{
+    switch (command.kind) {
+    case CommandLine::Kind::Start:
+        return start(command);
+    case CommandLine::Kind::Call:
+        return call(command.method);
+    case CommandLine::Kind::Quit:
+        return quit(command.method);
+    case CommandLine::Kind::Add:
+        return add(command.text);
+    case CommandLine::Kind::AddInput:
+        return addInput();
+    case CommandLine::Kind::List:
+        return list(command.isJson);
+    case CommandLine::Kind::Access:
+        return becomeApp(command.arguments);
+    case CommandLine::Kind::Help:
+        return print(commandLineHelp().toUtf8());
+    case CommandLine::Kind::Version:
+        return print("Vesk " + QCoreApplication::applicationVersion().toUtf8() + '\n');
+    }
+    return kFailed;
+}
+
+int Client::start(const CommandLine &command)
+{
+    if (!m_remote.isRunning())
+        return becomeApp(command.arguments);
+    return command.isInBackground ? kDone : outcome(m_remote.activate());
+}
+
+int Client::call(const QString &method)
+{
+    if (!m_remote.hasBus()) {
+        sayError(kNoBus);
+        return kFailed;
+    }
+    if (!m_remote.isRunning()) {
+        const Remote::Answer started = m_remote.start(m_app);
+        if (!started.isDone)
+            return outcome(started);
+    }
+    return outcome(m_remote.call(method));
+}
+
+int Client::quit(const QString &method)
+{
+    // That none runs is what was wanted.
+    if (!m_remote.isRunning())
+        return kDone;
+    const Remote::Answer answer = m_remote.call(method);
+    return outcome(answer.isDone ? m_remote.waitForEnd() : answer);
+}
+
+int Client::addInput()
+{
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly)) {
+        sayError(u"Standard input cannot be read."_s);
+        return kFailed;
+    }
+    // A pipe gives what it has at the moment, so it is read until it gives nothing.
+    constexpr qint64 kPart = qint64{1} << 16;
+    QByteArray bytes;
+    for (QByteArray part = input.read(kPart); !part.isEmpty(); part = input.read(kPart)) {
+        bytes += part;
+        if (bytes.size() > kMaximumTextBytes) {
+            sayError(kTooLong);
+            return kFailed;
+        }
+    }
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString text = decoder.decode(bytes);
+    if (decoder.hasError() || text.contains(QChar::Null)) {
+        sayError(u"Standard input is not plain text in UTF-8."_s);
+        return kFailed;
+    }
+    return add(text);
+}
+
+int Client::add(const QString &text)
+{
+    const QString trimmed = text.trimmed();
+    if (trimmed.isEmpty()) {
+        sayError(u"There is no text to add."_s);
+        return kFailed;
+    }
+    if (trimmed.toUtf8().size() > kMaximumTextBytes) {
+        sayError(kTooLong);
+        return kFailed;
+    }
+    if (!m_remote.hasBus()) {
+        sayError(kNoBus);
+        return kFailed;
+    }
+    // A running Vesk has all notes in memory, so it alone may write. The name is the lock: who has it is
+    // the one writer.
+    if (m_remote.takeName())
+        return addToStore(trimmed);
+    return outcome(m_remote.call(u"AddNote"_s, {trimmed}));
+}
+
+int Client::addToStore(const QString &text)
+{
+    SystemClock clock;
+    const NotesStore::OpenResult opened = NotesStore::open(NotesStore::standardPath(), clock);
+    if (!opened.store) {
+        sayError(u"Could not open the notes store: %1"_s.arg(opened.error));
+        return kFailed;
+    }
+    opened.store->insert(std::make_unique<Note>(clock, text));
+    if (!opened.store->save()) {
+        sayError(u"The note could not be written to %1."_s.arg(NotesStore::standardPath()));
+        return kFailed;
+    }
+    return kDone;
+}
+
+int Client::becomeApp(const QStringList &arguments)
+{
+    // The application goes by the same name as this program, in the process list and to X11.
+    QList<QByteArray> words{"vesk"};
+    for (const QString &argument : arguments)
+        words.append(QFile::encodeName(argument));
+    std::vector<char *> pointers;
+    for (QByteArray &word : words)
+        pointers.push_back(word.data());
+    pointers.push_back(nullptr);
+    const QByteArray app = QFile::encodeName(m_app);
+    execv(app.constData(), pointers.data());
+    sayError(u"%1 could not be started: %2."_s.arg(m_app, qt_error_string(errno)));
+    return kFailed;
+}
+
+} // namespace vesk

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#include "client/commandline.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace vesk {
+
+namespace {
+
+using Kind = CommandLine::Kind;
+
+/// One way to call the program.
+struct Form
+{
+    QLatin1StringView word;
+    /// Empty for none.
+    QLatin1StringView option;
+    Kind kind;
+    /// Empty where no method of the running Vesk is called.
+    QLatin1StringView method;
+};
+
+// The usage below, the completions and the manual page list the same.
+constexpr std::array kForms{
+    Form{"toggle"_L1, ""_L1, Kind::Call, "Toggle"_L1},
+    Form{"write"_L1, ""_L1, Kind::Call, "Write"_L1},
+    Form{"quit"_L1, ""_L1, Kind::Quit, "Quit"_L1},
+    Form{"capture"_L1, ""_L1, Kind::Call, "Capture"_L1},
+    Form{"capture"_L1, "--append"_L1, Kind::Call, "CaptureToLastNote"_L1},
+    Form{"capture"_L1, "--checklist"_L1, Kind::Call, "CaptureChecklist"_L1},
+    Form{"add-to-checklist"_L1, ""_L1, Kind::Call, "AddToChecklist"_L1},
+    Form{"save-prompt"_L1, ""_L1, Kind::Call, "SavePrompt"_L1},
+    Form{"quick-note"_L1, ""_L1, Kind::Call, "QuickNote"_L1},
+    Form{"quick-note"_L1, "--checklist"_L1, Kind::Call, "QuickChecklist"_L1},
+    Form{"list"_L1, ""_L1, Kind::List, ""_L1},
+    Form{"list"_L1, "--json"_L1, Kind::List, ""_L1},
+    Form{"help"_L1, ""_L1, Kind::Help, ""_L1},
+};
+
+constexpr auto kUsage = R"(Usage: vesk [command]
+
+Keeps what you select, anywhere. Without a command: starts Vesk, or shows the panel of the Vesk that
+runs.
+
+Commands for the running Vesk, which is started in the background if none runs:
+  toggle                           show or hide the panel
+  write                            show the panel to write a note
+  capture                          keep the selected text as a note
+  capture --append                 add it to the note changed last
+  capture --checklist              keep each selected line as a checkbox
+  add-to-checklist                 add the selected lines to the checklist changed last
+  save-prompt                      keep the selected text as a prompt
+  quick-note [--checklist]         open the box for a quick note
+  quit                             end Vesk
+
+Commands that need no running Vesk:
+  add TEXT                         keep TEXT as a note; "vesk add -" takes it from standard input
+  list [--json]                    print the notes, newest first
+  access allow|deny|status         whether Vesk may read what is selected in other applications
+
+Options:
+  --background                     start without showing the panel
+  --gpu                            draw the windows by the GPU (only at the start)
+  -h, --help                       print this
+  -v, --version                    print the version
+
+Exit status: 0 done, 1 failed (standard error says why), 2 wrong use.
+)"_L1;
+
+ParsedCommandLine wrong(const QString &error)
+{
+    return {.command = std::nullopt, .error = error};
+}
+
+ParsedCommandLine right(const CommandLine &command)
+{
+    return {.command = command, .error = {}};
+}
+
+ParsedCommandLine parseStart(const QStringList &words)
+{
+    CommandLine command;
+    for (const QString &word : words) {
+        if (word == "--background"_L1)
+            command.isInBackground = true;
+        else if (word != "--gpu"_L1)
+            return wrong(u"There is no option %1."_s.arg(word));
+    }
+    command.arguments = words;
+    return right(command);
+}
+
+ParsedCommandLine parseAdd(const QStringList &words)
+{
+    if (words.isEmpty())
+        return wrong(u"What is to be added? Give the text, or - to take it from standard input."_s);
+    if (words.size() > 1)
+        return wrong(u"Put the text into quotes, so that it is one argument."_s);
+    if (words.first() == "-"_L1)
+        return right({.kind = Kind::AddInput});
+    return right({.kind = Kind::Add, .text = words.first()});
+}
+
+ParsedCommandLine parseForm(const QString &word, const QStringList &options)
+{
+    const auto isNamed = [&word](const Form &form) { return word == form.word; };
+    if (std::ranges::none_of(kForms, isNamed))
+        return wrong(u"There is no command %1."_s.arg(word));
+    if (options.size() > 1)
+        return wrong(u"%1 takes one option at most."_s.arg(word));
+    const QString option = options.value(0);
+    const auto isMeant = [&](const Form &form) { return isNamed(form) && option == form.option; };
+    const auto form = std::ranges::find_if(kForms, isMeant);
+    if (form == kForms.end())
+        return wrong(u"%1 does not know %2."_s.arg(word, option));
+    return right({.kind = form->kind, .method = form->method, .isJson = option == "--json"_L1});
+}
+
+bool isOneOf(const QString &word, QLatin1StringView shortForm, QLatin1StringView longForm)
+{
+    return word == shortForm || word == longForm;
+}
+
+} // namespace
+
+ParsedCommandLine parseCommandLine(const QStringList &words)
+{
+    const QString first = words.value(0);
+    const QStringList rest = words.mid(1);
+    if (isOneOf(first, "-h"_L1, "--help"_L1) || (rest.size() == 1 && rest.first() == "--help"_L1))
+        return right({.kind = Kind::Help});
+    if (isOneOf(first, "-v"_L1, "--version"_L1))
+        return right({.kind = Kind::Version});
+    if (first == "access"_L1)
+        return right({.kind = Kind::Access, .arguments = words});
+    if (first == "add"_L1)
+        return parseAdd(rest);
+    if (words.isEmpty() || first.startsWith(u'-'))
+        return parseStart(words);
+    return parseForm(first, rest);
+}
+
+QString commandLineHelp()
+{
+    return kUsage;
+}
+
+} // namespace vesk

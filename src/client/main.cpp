@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#include "client/client.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+int main(int argc, char *argv[])
+{
+    constexpr int kWrongUse = 2;
+    const QCoreApplication program(argc, argv);
+    QCoreApplication::setApplicationName(u"Vesk"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(VESK_VERSION));
+    const vesk::ParsedCommandLine parsed = vesk::parseCommandLine(QCoreApplication::arguments().mid(1));
+    if (!parsed.command) {
+        vesk::sayError(parsed.error + u" See: vesk --help"_s);
+        return kWrongUse;
+    }
+    const QString app = QCoreApplication::applicationDirPath() + u'/' + QStringLiteral(VESK_APP_FROM_BIN);
+    return vesk::Client(QDir::cleanPath(app)).run(*parsed.command);
+}

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+#include "client/remote.h"
+
+#include "platform/freedesktop/applicationservice.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryFile>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace vesk {
+
+namespace {
+
+const QString kService = u"org.vesk.Vesk"_s;
+const QString kPath = u"/org/vesk/Vesk"_s;
+const QString kOwnInterface = u"org.vesk.Vesk"_s;
+const QString kApplicationInterface = u"org.freedesktop.Application"_s;
+
+constexpr std::chrono::milliseconds kCallDeadline = 10s;
+constexpr std::chrono::milliseconds kStartDeadline = 15s;
+
+void wait()
+{
+    constexpr useconds_t kMoment = 10'000;
+    ::usleep(kMoment);
+}
+
+Remote::Answer done()
+{
+    return {.isDone = true, .error = {}};
+}
+
+Remote::Answer failed(const QString &error)
+{
+    return {.isDone = false, .error = error};
+}
+
+QString contentsOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).trimmed() : QString();
+}
+
+/// Also true of a process whose parent has yet to be told of its end.
+bool hasEnded(qint64 process)
+{
+    const QString status = contentsOf(u"/proc/%1/stat"_s.arg(process));
+    // The name stands in brackets and may hold anything; what follows it is the state.
+    return status.isEmpty() || status.mid(status.lastIndexOf(u')')).startsWith(u") Z");
+}
+
+} // namespace
+
+Remote::Remote()
+    : m_bus(QDBusConnection::sessionBus())
+{
+}
+
+bool Remote::hasBus() const
+{
+    return m_bus.isConnected();
+}
+
+bool Remote::isRunning() const
+{
+    QDBusMessage question =
+        QDBusMessage::createMethodCall(kService, kPath, kApplicationInterface, u"Activate"_s);
+    question << QVariantMap{{ApplicationService::kInBackground, true}};
+    question.setAutoStartService(false);
+    for (QDeadlineTimer deadline(kCallDeadline); hasBus() && !deadline.hasExpired();) {
+        const QDBusMessage reply = m_bus.call(question, QDBus::Block, int(kCallDeadline.count()));
+        if (reply.errorName() == "org.freedesktop.DBus.Error.NameHasNoOwner"_L1)
+            return false;
+        const QDBusError::ErrorType error = QDBusError(reply).type();
+        // Another process like this one has the name for a moment, to add a note.
+        if (error != QDBusError::UnknownObject && error != QDBusError::Disconnected)
+            return true;
+        wait();
+    }
+    return false;
+}
+
+Remote::Answer Remote::activate()
+{
+    return send(kApplicationInterface, u"Activate"_s, {QVariantMap()});
+}
+
+Remote::Answer Remote::call(const QString &method, const QVariantList &arguments)
+{
+    return send(kOwnInterface, method, arguments);
+}
+
+Remote::Answer Remote::start(const QString &program)
+{
+    // What it says until it is up is the reason if it does not come up. The file has no name afterwards:
+    // a pipe that nobody reads would end the program at its first word.
+    QTemporaryFile words(QDir::tempPath() + u"/vesk-start-XXXXXX"_s);
+    if (!words.open())
+        return failed(u"No temporary file could be made in %1."_s.arg(QDir::tempPath()));
+    QProcess process;
+    process.setProgram(program);
+    process.setArguments({u"--background"_s});
+    process.setWorkingDirectory(QDir::homePath());
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(words.fileName(), QIODevice::Append);
+    qint64 pid = 0;
+    if (!process.startDetached(&pid))
+        return failed(u"%1 could not be started."_s.arg(program));
+    for (QDeadlineTimer deadline(kStartDeadline); !deadline.hasExpired();) {
+        if (m_bus.interface()->isServiceRegistered(kService))
+            return done();
+        if (hasEnded(pid)) {
+            const QString reason = contentsOf(words.fileName());
+            return failed(reason.isEmpty() ? u"Vesk ended as soon as it was started."_s : reason);
+        }
+        wait();
+    }
+    return failed(u"Vesk was started, and does not answer yet."_s);
+}
+
+bool Remote::takeName()
+{
+    return hasBus() && m_bus.registerService(kService);
+}
+
+Remote::Answer Remote::waitForEnd()
+{
+    for (QDeadlineTimer deadline(kCallDeadline); !deadline.hasExpired(); wait()) {
+        if (!m_bus.interface()->isServiceRegistered(kService))
+            return done();
+    }
+    return failed(u"Vesk was told to quit, and has not ended yet."_s);
+}
+
+Remote::Answer Remote::send(const QString &interface, const QString &method, const QVariantList &arguments)
+{
+    QDBusMessage message = QDBusMessage::createMethodCall(kService, kPath, interface, method);
+    message.setArguments(arguments);
+    message.setAutoStartService(false);
+    const QDBusMessage reply = m_bus.call(message, QDBus::Block, int(kCallDeadline.count()));
+    if (reply.type() == QDBusMessage::ReplyMessage)
+        return done();
+    switch (QDBusError(reply).type()) {
+    case QDBusError::NoReply:
+    case QDBusError::TimedOut:
+        return failed(u"Vesk is running, and does not answer."_s);
+    case QDBusError::UnknownInterface:
+    case QDBusError::UnknownMethod:
+        return failed(u"The Vesk that is running does not know this command: it is of another version. "
+                      "Quit it and start it again."_s);
+    default:
+        return failed(reply.errorMessage());
+    }
+}
+
+} // namespace vesk

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "notes/notesreader.h"
+
+#include "notes/notetable.h"
+#include "notes/schema.h"
+#include "notes/storefile.h"
+
+#include <QFileInfo>
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Exception.h>
+#include <SQLiteCpp/Transaction.h>
+#include <sqlite3.h>
+
+namespace vesk {
+
+namespace {
+
+/// How long a moment in which the file is locked, at the start or end of a writer, is waited out.
+constexpr int kBusyTimeoutMilliseconds = 1000;
+
+} // namespace
+
+NotesReading readNotes(const QString &path)
+{
+    NotesReading reading;
+    if (!QFileInfo::exists(path))
+        return reading;
+    const StoreFile file(path);
+    reading.error = file.obstacle();
+    if (reading.error.isEmpty())
+        reading.error = file.contentsObstacle();
+    if (!reading.error.isEmpty())
+        return reading;
+    try {
+        // Not read-only: the last to close a journalled file tidies its companions away, and may be this.
+        SQLite::Database connection(file.nativePath(), SQLite::OPEN_READWRITE, kBusyTimeoutMilliseconds);
+        // Moving the journal into the file is left to the writer.
+        sqlite3_db_config(connection.getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+        connection.exec("PRAGMA query_only = ON");
+        const SQLite::Transaction snapshot(connection, SQLite::TransactionBehavior::DEFERRED);
+        const int version = schema::version(connection);
+        if (version > schema::kVersion)
+            reading.error = file.newerVersion(version);
+        else
+            reading.notes = NoteTable(connection).load();
+    } catch (const SQLite::Exception &error) {
+        reading.error = file.describe(error.getErrorCode(), error.what());
+    }
+    return reading;
+}
+
+} // namespace vesk

@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "client/commandline.h"
+#include "client/noteslist.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+using Kind = CommandLine::Kind;
+
+/// What is understood on the command line, and what the list of notes looks like.
+class TestCommandLine : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void understands_data();
+    void understands();
+    void refuses_data();
+    void refuses();
+    void listsNewestFirst();
+};
+
+void TestCommandLine::understands_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<Kind>("kind");
+    QTest::addColumn<QString>("method");
+    const auto row = [](const char *words, Kind kind, const char *method = "") {
+        QTest::newRow(words) << QString::fromLatin1(words) << kind << QString::fromLatin1(method);
+    };
+    row("", Kind::Start);
+    row("--background", Kind::Start);
+    row("--gpu --background", Kind::Start);
+    row("toggle", Kind::Call, "Toggle");
+    row("write", Kind::Call, "Write");
+    row("quit", Kind::Quit, "Quit");
+    row("capture", Kind::Call, "Capture");
+    row("capture --append", Kind::Call, "CaptureToLastNote");
+    row("capture --checklist", Kind::Call, "CaptureChecklist");
+    row("add-to-checklist", Kind::Call, "AddToChecklist");
+    row("save-prompt", Kind::Call, "SavePrompt");
+    row("quick-note", Kind::Call, "QuickNote");
+    row("quick-note --checklist", Kind::Call, "QuickChecklist");
+    row("add word", Kind::Add);
+    row("add --append", Kind::Add); // what is added is never taken for an option
+    row("add -", Kind::AddInput);
+    row("list", Kind::List);
+    row("list --json", Kind::List);
+    row("access status", Kind::Access);
+    row("access", Kind::Access); // refused by the one that carries it out
+    row("--help", Kind::Help);
+    row("capture --help", Kind::Help);
+    row("-v", Kind::Version);
+}
+
+void TestCommandLine::understands()
+{
+    QFETCH(QString, words);
+    QFETCH(Kind, kind);
+    QFETCH(QString, method);
+    const QStringList list = words.split(u' ', Qt::SkipEmptyParts);
+    const ParsedCommandLine parsed = parseCommandLine(list);
+    QVERIFY2(parsed.command, qPrintable(parsed.error));
+    QCOMPARE(parsed.command->kind, kind);
+    QCOMPARE(parsed.command->method, method);
+    QCOMPARE(parsed.command->isInBackground, list.contains(u"--background"_s));
+    QCOMPARE(parsed.command->isJson, list.contains(u"--json"_s));
+    QCOMPARE(parsed.command->text, kind == Kind::Add ? list.at(1) : QString());
+}
+
+void TestCommandLine::refuses_data()
+{
+    QTest::addColumn<QStringList>("words");
+    QTest::addColumn<QString>("named");
+    QTest::newRow("no such command") << QStringList{u"captur"_s} << u"captur"_s;
+    QTest::newRow("no such option") << QStringList{u"--backgrund"_s} << u"--backgrund"_s;
+    QTest::newRow("option of another command") << QStringList{u"list"_s, u"--append"_s} << u"--append"_s;
+    QTest::newRow("two options") << QStringList{u"capture"_s, u"--append"_s, u"--checklist"_s} << u"one"_s;
+    QTest::newRow("a word where none belongs") << QStringList{u"toggle"_s, u"now"_s} << u"now"_s;
+    QTest::newRow("empty option") << QStringList{u"list"_s, u"--json"_s, {}} << u"one"_s;
+    QTest::newRow("start with a command behind") << QStringList{u"--gpu"_s, u"toggle"_s} << u"toggle"_s;
+    QTest::newRow("nothing to add") << QStringList{u"add"_s} << u"text"_s;
+    QTest::newRow("text without quotes") << QStringList{u"add"_s, u"two"_s, u"words"_s} << u"quotes"_s;
+}
+
+void TestCommandLine::refuses()
+{
+    QFETCH(QStringList, words);
+    QFETCH(QString, named);
+    const ParsedCommandLine parsed = parseCommandLine(words);
+    QVERIFY(!parsed.command);
+    QVERIFY2(parsed.error.contains(named), qPrintable(parsed.error));
+}
+
+void TestCommandLine::listsNewestFirst()
+{
+    using namespace std::chrono_literals;
+    const RecordId id = QUuid::createUuid();
+    const Note::Fields older{.id = id,
+                             .text = u"☐ eggs\nmilk"_s,
+                             .createdAt = Date(1s),
+                             .updatedAt = Date(2s),
+                             .isPinned = true,
+                             .sourceApp = u"Mousepad"_s,
+                             .sourceBundleID = {},
+                             .sourceTitle = {},
+                             .sourceURL = {}};
+    Note::Fields newer = older;
+    newer.text = u"a \x1b[31mred\x1b[0m title"_s;
+    newer.updatedAt = Date(3s);
+
+    const QList<QByteArray> lines = notesAsLines({older, newer}).split('\n');
+    QCOMPARE(lines.size(), 3);
+    QVERIFY2(lines.at(0).endsWith("\ta [31mred[0m title"), lines.at(0).constData());
+    QVERIFY2(lines.at(1).endsWith("\teggs"), lines.at(1).constData());
+    QVERIFY(lines.at(2).isEmpty());
+
+    const QJsonArray array = QJsonDocument::fromJson(notesAsJson({older, newer})).array();
+    QCOMPARE(array.size(), 2);
+    QCOMPARE(array.at(0).toObject().value(u"text"_s), newer.text);
+    const QJsonObject expected{
+        {u"id"_s, id.toString(QUuid::WithoutBraces)},
+        {u"text"_s, older.text},
+        {u"createdAt"_s, u"1970-01-01T00:00:01.000Z"_s},
+        {u"updatedAt"_s, u"1970-01-01T00:00:02.000Z"_s},
+        {u"isPinned"_s, true},
+        {u"sourceApp"_s, u"Mousepad"_s},
+    };
+    QCOMPARE(array.at(1).toObject(), expected);
+}
+
+QTEST_APPLESS_MAIN(TestCommandLine)
+
+#include "tst_commandline.moc"

@@ -1,0 +1,258 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/desktoptest.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QFile>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+
+namespace {
+
+const auto kName = u"org.vesk.Vesk"_s;
+
+/// Each method of the interface in a description, with its arguments, in the order of the names.
+QStringList methodsOf(const QString &description)
+{
+    static const QRegularExpression interface(u"<interface name=\"org.vesk.Vesk\">(.*?)</interface>"_s,
+                                              QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression method(u"<method name=\"(\\w+)\"(?:/>|>(.*?)</method>)"_s,
+                                           QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression type(u" type=\"(\\w+)\""_s);
+    QStringList methods;
+    QRegularExpressionMatchIterator found = method.globalMatch(interface.match(description).captured(1));
+    while (found.hasNext()) {
+        const QRegularExpressionMatch match = found.next();
+        methods.append(match.captured(1) + u' ' + type.match(match.captured(2)).captured(1));
+    }
+    std::ranges::sort(methods);
+    return methods;
+}
+
+} // namespace
+
+/// The command line against the real program and a bus of its own.
+class TestCommands : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void addsAndListsWithoutARunningVesk();
+    void addsThroughTheRunningVesk();
+    void refusesWhatIsNoText();
+    void startsInTheBackgroundAndInFront();
+    void commandsStartVeskAndEndIt();
+    void capturesWithoutAKey();
+    void saysWhatIsMissing();
+    void interfaceIsAsDescribed();
+
+private:
+    struct Outcome
+    {
+        int code = -1;
+        QString output;
+        QString errors;
+    };
+
+    /// Runs `vesk` in a shell, with `line` behind it.
+    Outcome vesk(const QString &line) { return shell(u"\"$VESK\" "_s + line); }
+    Outcome shell(const QString &line);
+    /// The words of an outcome, for the message of a test that failed.
+    static QString told(const Outcome &outcome) { return outcome.output + outcome.errors; }
+    [[nodiscard]] bool isOnTheBus();
+
+    std::unique_ptr<VirtualDesktop> m_desktop;
+};
+
+void TestCommands::init()
+{
+    QString problem;
+    m_desktop = VirtualDesktop::start(problem);
+    QVERIFY2(m_desktop, qPrintable(problem));
+    QVERIFY(m_desktop->prepareUser());
+}
+
+void TestCommands::cleanup()
+{
+    QDBusConnection::disconnectFromBus(u"vesk-test-commands"_s);
+    m_desktop.reset();
+}
+
+TestCommands::Outcome TestCommands::shell(const QString &line)
+{
+    const QString assignment = u"VESK='%1'; "_s.arg(VirtualDesktop::veskProgram());
+    const std::unique_ptr<ChildProcess> process = m_desktop->run(u"sh"_s, {u"-c"_s, assignment + line});
+    if (!process || !process->waitForExit(2 * kBound))
+        return {};
+    return {.code = process->exitCode(), .output = process->output(), .errors = process->errorOutput()};
+}
+
+bool TestCommands::isOnTheBus()
+{
+    QDBusConnection bus = QDBusConnection::connectToBus(m_desktop->busAddress(), u"vesk-test-commands"_s);
+    return bus.interface()->isServiceRegistered(kName);
+}
+
+void TestCommands::addsAndListsWithoutARunningVesk()
+{
+    Outcome outcome = vesk(u"list"_s);
+    QVERIFY2(outcome.code == 0 && told(outcome).isEmpty(), qPrintable(told(outcome)));
+    QVERIFY2(!QFile::exists(m_desktop->notes().path()), "Reading has made a store");
+
+    outcome = vesk(u"add 'buy milk'"_s);
+    QVERIFY2(outcome.code == 0 && told(outcome).isEmpty(), qPrintable(told(outcome)));
+    QCOMPARE(shell(u"printf '\\n two\\nlines \\n\\n' | \"$VESK\" add -"_s).code, 0);
+    QCOMPARE(m_desktop->notes().texts(), (QStringList{u"buy milk"_s, u"two\nlines"_s}));
+    outcome = vesk(u"list"_s);
+    QVERIFY2(outcome.output.contains(u"\ttwo\n") && outcome.output.endsWith(u"\tbuy milk\n"),
+             qPrintable(told(outcome)));
+    QVERIFY(!isOnTheBus());
+}
+
+void TestCommands::addsThroughTheRunningVesk()
+{
+    const std::unique_ptr<ChildProcess> running = m_desktop->startVesk();
+    QVERIFY(running);
+    // Many at once: each is on the disk when its command ends, and one writer has them all in memory.
+    const Outcome outcome =
+        shell(u"for i in 1 2 3 4 5; do \"$VESK\" add \"note $i\" || exit 1 & done; wait"_s);
+    QVERIFY2(outcome.code == 0 && told(outcome).isEmpty(), qPrintable(told(outcome)));
+    QCOMPARE(m_desktop->notes().texts().size(), 5);
+    QCOMPARE(vesk(u"list"_s).output.count(u'\n'), 5);
+    QVERIFY(running->quit());
+    QCOMPARE(m_desktop->notes().texts().size(), 5);
+}
+
+void TestCommands::refusesWhatIsNoText()
+{
+    QString long17MiB = u"head -c 17825792 /dev/zero | tr '\\0' x | \"$VESK\" add -"_s;
+    const std::pair<QString, int> commands[] = {
+        {u"\"$VESK\" add '  '"_s, 1},
+        {u"\"$VESK\" add - </dev/null"_s, 1},
+        {u"printf '\\377\\376a' | \"$VESK\" add -"_s, 1},
+        {u"printf 'a\\0b' | \"$VESK\" add -"_s, 1},
+        {u"printf 'cut \\303' | \"$VESK\" add -"_s, 1},
+        {long17MiB, 1},
+        {u"\"$VESK\" add"_s, 2},
+        {u"\"$VESK\" add two words"_s, 2},
+        {u"\"$VESK\" tggle"_s, 2},
+        {u"\"$VESK\" access maybe"_s, 2},
+    };
+    for (const auto &[command, code] : commands) {
+        const Outcome outcome = shell(command);
+        QVERIFY2(outcome.code == code, qPrintable(u"%1: %2"_s.arg(command).arg(outcome.code)));
+        QVERIFY2(!outcome.errors.isEmpty() && outcome.output.isEmpty(), qPrintable(command));
+    }
+    QVERIFY(!QFile::exists(m_desktop->notes().path()));
+}
+
+void TestCommands::startsInTheBackgroundAndInFront()
+{
+    const std::unique_ptr<ChildProcess> running = m_desktop->startVesk();
+    QVERIFY(running);
+    QCOMPARE(vesk(u"--background"_s).code, 0);
+    VERIFY_ON(*m_desktop, !m_desktop->windows().findViewable(kPanel));
+    QVERIFY(running->quit());
+
+    const std::unique_ptr<ChildProcess> second = m_desktop->run(VirtualDesktop::veskProgram());
+    const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
+    VERIFY_ON(*m_desktop, panel);
+    QCOMPARE(panel->pid, second->pid());
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
+}
+
+void TestCommands::commandsStartVeskAndEndIt()
+{
+    Outcome outcome = vesk(u"quit"_s);
+    QVERIFY2(outcome.code == 0 && told(outcome).isEmpty(), qPrintable(told(outcome)));
+
+    // The pipe would hold the shell up if the Vesk that was started kept the terminal.
+    outcome = shell(u"\"$VESK\" toggle 2>&1 | cat"_s);
+    QVERIFY2(outcome.code == 0 && told(outcome).isEmpty(), qPrintable(told(outcome)));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
+    QCOMPARE(vesk(u"toggle"_s).code, 0);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
+
+    QCOMPARE(vesk(u"write"_s).code, 0);
+    const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
+    VERIFY_ON(*m_desktop, panel);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
+    m_desktop->keyboard().type(u"written"_s);
+    m_desktop->keyboard().tap({XK_Return});
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
+        return m_desktop->notes().texts() == QStringList{u"written"_s};
+    }));
+
+    QCOMPARE(vesk(u"quit"_s).code, 0);
+    QVERIFY(!isOnTheBus());
+    QVERIFY(!m_desktop->keyboard().isHotKeyTaken(XK_n));
+}
+
+void TestCommands::capturesWithoutAKey()
+{
+    const std::unique_ptr<ChildProcess> running = m_desktop->startVesk();
+    const std::unique_ptr<TextEditor> editor = TextEditor::open(*m_desktop, {u"first"_s, u"second"_s});
+    QVERIFY(running && editor);
+    VERIFY_ON(*m_desktop, editor->selectLine(1));
+    QCOMPARE(vesk(u"capture"_s).code, 0);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+    QCOMPARE(m_desktop->notes().texts(), QStringList{u"second"_s});
+
+    QTest::qWait(int(kCaptureGate.count()));
+    QCOMPARE(vesk(u"capture --append"_s).code, 0);
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
+        const QStringList texts = m_desktop->notes().texts();
+        return texts.size() == 1 && texts.first().count(u"second"_s) == 2;
+    }));
+}
+
+void TestCommands::saysWhatIsMissing()
+{
+    Outcome outcome = shell(u"DISPLAY= \"$VESK\" toggle"_s);
+    QVERIFY2(outcome.code == 1 && outcome.errors.contains(u"X11"), qPrintable(told(outcome)));
+    outcome = shell(u"DISPLAY= WAYLAND_DISPLAY=wayland-0 \"$VESK\""_s);
+    QVERIFY2(outcome.code == 1 && outcome.errors.contains(u"Wayland"), qPrintable(told(outcome)));
+    outcome = shell(u"DISPLAY= \"$VESK\" add 'no screen needed'"_s);
+    QVERIFY2(outcome.code == 0, qPrintable(told(outcome)));
+    outcome = shell(u"DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere \"$VESK\" add lost"_s);
+    QVERIFY2(outcome.code == 1 && outcome.errors.contains(u"bus"), qPrintable(told(outcome)));
+    outcome = shell(u"DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere \"$VESK\" list"_s);
+    QVERIFY2(outcome.code == 0 && outcome.output.endsWith(u"\tno screen needed\n"),
+             qPrintable(told(outcome)));
+
+    QVERIFY(m_desktop->notes().raiseSchemaVersion());
+    for (const QString &command : {u"list"_s, u"add more"_s}) {
+        outcome = vesk(command);
+        QVERIFY2(outcome.code == 1 && outcome.errors.contains(u"newer Vesk"), qPrintable(told(outcome)));
+    }
+}
+
+void TestCommands::interfaceIsAsDescribed()
+{
+    const std::unique_ptr<ChildProcess> running = m_desktop->startVesk();
+    QVERIFY(running && isOnTheBus());
+    QFile description(QStringLiteral(VESK_INTERFACE));
+    QVERIFY(description.open(QIODevice::ReadOnly));
+    const QStringList described = methodsOf(QString::fromUtf8(description.readAll()));
+
+    const QDBusConnection bus(u"vesk-test-commands"_s);
+    const QDBusMessage question = QDBusMessage::createMethodCall(
+        kName, u"/org/vesk/Vesk"_s, u"org.freedesktop.DBus.Introspectable"_s, u"Introspect"_s);
+    const QDBusMessage answer = bus.call(question);
+    QCOMPARE(methodsOf(answer.arguments().value(0).toString()), described);
+    QVERIFY(described.contains(u"AddNote s"_s));
+}
+
+int main(int argc, char **argv)
+{
+    return runDesktopTest<TestCommands>(argc, argv);
+}
+
+#include "tst_commands.moc"
