@@ -16,6 +16,7 @@ Desktop::Desktop(std::unique_ptr<X11Connection> connection, ApplicationService &
     , hotKeys(*x11, input)
     , accessibility(*x11, input, workspace, consent)
     , pasteboard(*x11)
+    , primary(*x11, X11Pasteboard::Kind::Primary)
     , poster(*x11, input, workspace, clock)
     , tap(input)
 {

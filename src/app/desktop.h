@@ -47,6 +47,7 @@ struct Desktop
     X11HotKeys hotKeys;
     X11Accessibility accessibility;
     X11Pasteboard pasteboard;
+    X11Pasteboard primary;
     X11EventPoster poster;
     X11EventTap tap;
 };

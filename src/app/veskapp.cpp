@@ -4,6 +4,7 @@
 #include "app/desktop.h"
 #include "app/remotecontrol.h"
 #include "components/surroundings.h"
+#include "editor/lentpasteboards.h"
 #include "notes/notesstore.h"
 
 #include <QCoreApplication>
@@ -19,6 +20,7 @@ namespace {
 QQmlEngine &lent(QQmlEngine &engine, Desktop &desktop)
 {
     lendToEngine(engine, desktop.appearance, desktop.workspace, desktop.windows);
+    lendToEditors(engine, desktop.pasteboard, &desktop.primary);
     return engine;
 }
 

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "sampleeditor.h"
 #include "samplenotes.h"
 #include "samplewindows.h"
 
 #include "components/surroundings.h"
+#include "editor/lentpasteboards.h"
 #include "notes/notesstore.h"
 #include "panel/panelmodel.h"
 #include "panel/panelwindow.h"
@@ -11,6 +13,7 @@
 #include "platform/memory/memoryapplication.h"
 #include "platform/memory/memoryclock.h"
 #include "platform/memory/memorydefaults.h"
+#include "platform/memory/memorypasteboard.h"
 #include "platform/memory/memoryscreens.h"
 #include "platform/memory/memoryworkspace.h"
 #include "quicknote/toast.h"
@@ -58,10 +61,11 @@ int main(int argc, char *argv[])
     const QCommandLineOption notes(u"notes"_s, u"How many notes."_s, u"N"_s, u"8"_s);
     const QCommandLineOption search(u"search"_s, u"What to search for."_s, u"TEXT"_s);
     const QCommandLineOption notice(u"notice"_s, u"Shows a notice as well."_s, u"TEXT"_s);
+    const QCommandLineOption editor(u"editor"_s, u"Shows a note in the editor instead."_s);
     const QCommandLineOption screenshot(u"screenshot"_s, u"Writes a picture of the panel and quits."_s,
                                         u"FILE"_s);
-    options.addOptions(
-        {dark, strong, textScale, empty, untrusted, composited, still, notes, search, notice, screenshot});
+    options.addOptions({dark, strong, textScale, empty, untrusted, composited, still, notes, search, notice,
+                        editor, screenshot});
     options.process(program);
 
     const QTemporaryDir folder;
@@ -93,17 +97,25 @@ int main(int argc, char *argv[])
 
     QQmlEngine engine;
     vesk::lendToEngine(engine, appearance, workspace, windows);
+    vesk::MemoryPasteboard pasteboard;
+    vesk::MemoryPasteboard primary;
+    vesk::lendToEditors(engine, pasteboard, &primary);
+    std::unique_ptr<QQuickWindow> sheet;
     vesk::PanelModel model(*opened.store, clock, defaults, application, accessibility);
     vesk::PanelWindow panel(engine, model, application, screens, windows);
     vesk::Toast toast(engine, screens, windows, clock);
-    panel.showPanel();
+    if (options.isSet(editor))
+        sheet = vesk::sampleeditor::show(engine);
+    else
+        panel.showPanel();
+    QQuickWindow &shown = sheet ? *sheet : panel.window();
     model.setSearch(options.value(search));
     if (options.isSet(notice))
         toast.show(options.value(notice), u"checkmark.circle.fill"_s);
     QObject::connect(&application, &vesk::Application::didHide, &program, &QGuiApplication::quit);
     if (options.isSet(screenshot)) {
         QTimer::singleShot(800, &program, [&] {
-            const bool isWritten = panel.window().grabWindow().save(options.value(screenshot));
+            const bool isWritten = shown.grabWindow().save(options.value(screenshot));
             QGuiApplication::exit(isWritten ? 0 : 1);
         });
     }

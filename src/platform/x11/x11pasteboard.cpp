@@ -25,9 +25,9 @@ bool isLatin1(const QString &text)
 
 } // namespace
 
-X11Pasteboard::X11Pasteboard(X11Connection &connection)
+X11Pasteboard::X11Pasteboard(X11Connection &connection, Kind kind)
     : m_connection(connection)
-    , m_selection(connection.atom("CLIPBOARD"))
+    , m_selection(kind == Kind::Primary ? xcb_atom_t{XCB_ATOM_PRIMARY} : connection.atom("CLIPBOARD"))
     , m_server(connection, m_selection)
 {
     connect(&connection, &X11Connection::eventReceived, this, &X11Pasteboard::onEvent);

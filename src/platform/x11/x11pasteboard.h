@@ -10,13 +10,19 @@ namespace vesk {
 
 class X11Connection;
 
-/// The selection CLIPBOARD. It holds one item at most, whose types are its owner's targets.
+/// A selection that is used like a pasteboard: CLIPBOARD, or PRIMARY, which the middle mouse button
+/// pastes. It holds one item at most, whose types are its owner's targets.
 class X11Pasteboard final : public Pasteboard
 {
     Q_OBJECT
 
 public:
-    explicit X11Pasteboard(X11Connection &connection);
+    enum class Kind {
+        Clipboard,
+        Primary,
+    };
+
+    explicit X11Pasteboard(X11Connection &connection, Kind kind = Kind::Clipboard);
 
     [[nodiscard]] qint64 changeCount() const override { return m_changeCount; }
     [[nodiscard]] bool hasContents() const override;
