@@ -26,7 +26,7 @@ FocusScope {
     property alias takesCommandReturn: view.takesCommandReturn
     property alias takesEmptyItemReturn: view.takesEmptyItemReturn
     property alias takesEscape: view.takesEscape
-    readonly property alias hasFocus: edit.activeFocus
+    readonly property bool hasFocus: edit.activeFocus || menu.isOpen
     readonly property alias isComposing: edit.inputMethodComposing
     readonly property real inset: 4
     readonly property real contentHeight: edit.implicitHeight + 2 * root.inset
@@ -60,6 +60,15 @@ FocusScope {
             flickable.contentY = top + caret.height + root.inset - flickable.height;
     }
 
+    // The mouse goes on with what it does while it has the text scrolled.
+    function followMouse(point: point) {
+        const position = edit.positionAt(point.x, point.y + flickable.contentY - edit.y);
+        if (view.dropPosition >= 0)
+            view.dropPosition = position;
+        else if (edit.selectedText.length > 0)
+            edit.moveCursorSelection(position);
+    }
+
     Component.onCompleted: {
         if (root.autofocus)
             view.focusWhenShown();
@@ -77,6 +86,7 @@ FocusScope {
         onEmptyItemReturned: root.emptyItemReturned()
         onEscaped: root.escaped()
         onLaidOut: root.followCaret()
+        onContextMenuRequested: point => menu.show(point)
     }
 
     HeightReport {
@@ -103,7 +113,8 @@ FocusScope {
             focus: true
             wrapMode: TextEdit.Wrap
             textFormat: TextEdit.PlainText
-            font.pixelSize: Math.round(root.fontSize)
+            font.family: Theme.fieldFont.family
+            font.pixelSize: Math.round(root.fontSize * Theme.textScale)
             color: Theme.primary
             selectionColor: Theme.textSelection
             selectedTextColor: Theme.primary
@@ -123,10 +134,38 @@ FocusScope {
                 width: parent.width
                 elide: Text.ElideRight
                 text: root.placeholder
-                font.pixelSize: Math.round(root.fontSize + (root.firstLineIsTitle ? root.titleBoost : 0))
+                font.family: edit.font.family
+                font.pixelSize: Math.round((root.fontSize + (root.firstLineIsTitle ? root.titleBoost : 0)) * Theme.textScale)
                 font.weight: root.firstLineIsTitle ? root.titleWeight : Font.Normal
                 color: Theme.tertiary
                 Accessible.ignored: true
+            }
+
+            // Where a dragged text would be put.
+            Rectangle {
+                readonly property rect place: edit.positionToRectangle(Math.max(0, view.dropPosition))
+
+                visible: view.dropPosition >= 0
+                x: place.x
+                y: place.y
+                width: 2
+                height: place.height
+                color: Theme.secondary
+            }
+
+            HoverHandler {
+                cursorShape: Qt.IBeamCursor
+            }
+
+            DropArea {
+                anchors.fill: parent
+                keys: ["text/plain"]
+                onPositionChanged: drag => view.dropPosition = edit.positionAt(drag.x, drag.y)
+                onExited: view.dropPosition = -1
+                onDropped: drop => {
+                    view.dropText(drop.text);
+                    drop.accept(Qt.CopyAction);
+                }
             }
 
             Repeater {
@@ -136,6 +175,30 @@ FocusScope {
                     onToggled: view.toggleBox(position)
                 }
             }
+        }
+    }
+
+    AutoScroll {
+        anchors.fill: parent
+        flickable: flickable
+        onScrolled: point => root.followMouse(point)
+    }
+
+    // Made when it is needed for the first time: most notes are edited without it.
+    Loader {
+        id: menu
+
+        readonly property bool isOpen: menu.item ? (menu.item as EditMenu).isOpen : false
+
+        function show(point: point) {
+            active = true;
+            (item as EditMenu).openAt(edit, point.x, point.y);
+        }
+
+        active: false
+        sourceComponent: EditMenu {
+            view: view
+            hasSelection: edit.selectedText.length > 0
         }
     }
 }

@@ -29,4 +29,8 @@ BoxMark {
     Accessible.checked: root.isTicked
     Accessible.onToggleAction: root.toggled()
     Accessible.onPressAction: root.toggled()
+
+    HoverHandler {
+        cursorShape: Qt.PointingHandCursor
+    }
 }

@@ -23,8 +23,6 @@ QStringView withoutReturns(QStringView line)
     // Lines of other systems end in a carriage return, which is no content.
     while (line.endsWith(u'\r'))
         line.chop(1);
-    while (line.startsWith(u'\r'))
-        line = line.sliced(1);
     return line;
 }
 
@@ -59,7 +57,7 @@ LineBreak typedLineBreak(QStringView line)
     if (marker.isEmpty())
         return {};
     if (content == marker)
-        return {.kind = LineBreak::Kind::EmptyItem, .marker = {}};
+        return {.kind = LineBreak::Kind::EmptyItem, .marker = marker};
     return {.kind = LineBreak::Kind::NextItem,
             .marker = marker == markup::kTicked ? markup::kUnticked : marker};
 }

@@ -29,7 +29,7 @@ struct LineBreak
     enum class Kind {
         /// A line feed and nothing else.
         Plain,
-        /// The item has nothing but its marker: it goes, and the list ends here.
+        /// The item has nothing but `marker`, which goes: the list ends here.
         EmptyItem,
         /// A line feed, and `marker` for the next item.
         NextItem,

@@ -42,6 +42,13 @@ bool isChecklist(const QKeyEvent &event)
     return event.key() == Qt::Key_L && modifiersOf(event) == (kCommand | Qt::ShiftModifier);
 }
 
+/// A tab belongs to the text.
+bool isTabbingAway(const QKeyEvent &event)
+{
+    return (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab)
+           && event.modifiers().testFlag(Qt::ControlModifier);
+}
+
 bool isTyping(const QKeyEvent &event)
 {
     return (!event.text().isEmpty() && event.text().front().isPrint()
@@ -105,11 +112,32 @@ bool NoteTextView::handleEditingKey(const QKeyEvent &event)
         toggleLinePrefix(QStringLiteral(u"\u2610 "));
     else if (event.key() == Qt::Key_Escape && modifiersOf(event) == Qt::NoModifier && m_takesEscape)
         Q_EMIT escaped();
+    else if (isTabbingAway(event))
+        leaveText(!event.modifiers().testFlag(Qt::ShiftModifier));
+    else if (event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete)
+        return eraseLineBreak(event);
     else if (event.key() == Qt::Key_Space && !(modifiersOf(event) & ~Qt::ShiftModifier))
         return typeSpace();
     else
         return false;
     return true;
+}
+
+bool NoteTextView::eraseLineBreak(const QKeyEvent &event)
+{
+    const Selection selection = m_edit.selection();
+    const qsizetype start = selection.caret - (event.key() == Qt::Key_Backspace ? 2 : 0);
+    if (modifiersOf(event) != Qt::NoModifier || !selection.isEmpty() || start < 0
+        || QStringView(m_text->text()).mid(start, 2) != u"\r\n")
+        return false;
+    edit(start, 2, {}, Selection::at(start));
+    return true;
+}
+
+void NoteTextView::leaveText(bool isForwards)
+{
+    if (QQuickItem *next = m_edit.item()->nextItemInFocusChain(isForwards))
+        next->forceActiveFocus(isForwards ? Qt::TabFocusReason : Qt::BacktabFocusReason);
 }
 
 bool NoteTextView::handleReturn(const QKeyEvent &event)
@@ -183,14 +211,13 @@ void NoteTextView::typeLineBreak()
     const Selection selection = m_edit.selection();
     editrules::LineBreak lineBreak;
     const QTextBlock block = m_text->document().findBlock(static_cast<int>(selection.caret));
-    const QStringView line = m_text->line(block);
     if (selection.isEmpty())
-        lineBreak = editrules::typedLineBreak(line);
+        lineBreak = editrules::typedLineBreak(m_text->line(block));
     if (lineBreak.kind == Kind::EmptyItem) {
         if (m_takesEmptyItemReturn)
             Q_EMIT emptyItemReturned();
         else
-            edit(block.position(), line.size(), {}, Selection::at(block.position()));
+            edit(block.position(), lineBreak.marker.size(), {}, Selection::at(block.position()));
         return;
     }
     const QString typed = u'\n' + lineBreak.marker.toString();

@@ -63,6 +63,7 @@ void NoteTextView::componentComplete()
             &NoteTextView::polish);
     connect(document->documentLayout(), &QAbstractTextDocumentLayout::update, this, &NoteTextView::polish);
     connect(target, &QQuickItem::widthChanged, this, &NoteTextView::polish);
+    connect(target, SIGNAL(cursorPositionChanged()), this, SLOT(passLineBreak()));
     target->installEventFilter(this);
     setText(std::exchange(m_loadedText, QString()));
 }
@@ -85,7 +86,8 @@ void NoteTextView::restyle()
 {
     if (!m_styler || !m_theme)
         return;
-    m_styler->setLook({.fontSize = m_fontSize,
+    m_styler->setLook({.scale = m_theme->textScale(),
+                       .fontSize = m_fontSize,
                        .titleBoost = m_titleBoost,
                        .titleWeight = m_titleWeight,
                        .secondary = m_theme->secondary(),
@@ -132,6 +134,19 @@ void NoteTextView::setDropPosition(int position)
         return;
     m_dropPosition = position;
     Q_EMIT dropPositionChanged();
+}
+
+void NoteTextView::passLineBreak()
+{
+    const Selection selection = m_edit.selection();
+    const qsizetype former = std::exchange(m_caret, selection.caret);
+    const QStringView text(m_text->text());
+    const qsizetype caret = selection.caret;
+    if (caret < 1 || caret >= text.size() || text.at(caret - 1) != u'\r' || text.at(caret) != u'\n'
+        || m_edit.isComposing())
+        return;
+    const qsizetype passed = former == caret - 1 ? caret + 1 : caret - 1;
+    m_edit.select({.anchor = selection.isEmpty() ? passed : selection.anchor, .caret = passed});
 }
 
 void NoteTextView::onChanged(const Splice &change)

@@ -93,6 +93,10 @@ public:
     [[nodiscard]] int dropPosition() const { return m_dropPosition; }
     void setDropPosition(int position);
 
+public Q_SLOTS:
+    /// Keeps the caret out of the two characters of a line break that another system wrote.
+    void passLineBreak();
+
 Q_SIGNALS:
     void targetChanged();
     /// After each change, whoever made it.
@@ -110,6 +114,7 @@ Q_SIGNALS:
     void escaped();
     /// After a change of the text is laid out, before it is painted.
     void laidOut();
+    /// The menu shall be shown at this point of the target.
     void contextMenuRequested(const QPointF &point);
 
 protected:
@@ -125,6 +130,8 @@ private:
     bool handleReturn(const QKeyEvent &event);
     bool handlePage(const QKeyEvent &event);
     bool handleInputMethod(const QInputMethodEvent &event);
+    bool eraseLineBreak(const QKeyEvent &event);
+    void leaveText(bool isForwards);
     bool typeSpace();
     void typeLineBreak();
 
@@ -169,6 +176,7 @@ private:
     qreal m_visibleTop = 0;
     qreal m_visibleHeight = 0;
     int m_dropPosition = -1;
+    qsizetype m_caret = 0;
 };
 
 } // namespace vesk

@@ -71,15 +71,16 @@ TextFormats::TextFormats(const TextLook &look)
     const auto put = [this](TextStyle style, const QTextCharFormat &format) {
         m_formats.at(static_cast<size_t>(style)) = format;
     };
-    const qreal titleSize = look.fontSize + look.titleBoost;
+    const qreal size = look.fontSize * look.scale;
+    const qreal titleSize = (look.fontSize + look.titleBoost) * look.scale;
     put(TextStyle::Title, sized(titleSize, look.titleWeight));
-    put(TextStyle::Heading, sized(look.fontSize + 3, QFont::DemiBold));
+    put(TextStyle::Heading, sized((look.fontSize + 3) * look.scale, QFont::DemiBold));
     put(TextStyle::HeadingMarker, coloured(look.tertiary));
-    put(TextStyle::Bullet, bullet(look.fontSize, look.accent));
+    put(TextStyle::Bullet, bullet(size, look.accent));
     put(TextStyle::TitleBullet, bullet(titleSize, look.accent));
-    put(TextStyle::Box, box(look.fontSize + 5));
+    put(TextStyle::Box, box((look.fontSize + 5) * look.scale));
     put(TextStyle::Done, done(look.secondary));
-    put(TextStyle::Bold, sized(look.fontSize, QFont::Bold));
+    put(TextStyle::Bold, sized(size, QFont::Bold));
     put(TextStyle::BoldMarks, coloured(look.quaternary));
 }
 

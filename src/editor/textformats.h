@@ -11,9 +11,10 @@
 
 namespace vesk {
 
-/// What the looks of an editor's text are made of. Sizes are pixels.
+/// What the looks of an editor's text are made of. Sizes are pixels, before the user's scale of texts.
 struct TextLook
 {
+    qreal scale = 1;
     qreal fontSize = 14;
     qreal titleBoost = 7;
     int titleWeight = QFont::Bold;

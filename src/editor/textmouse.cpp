@@ -23,6 +23,8 @@ bool TextMouse::handle(const QMouseEvent &event)
     switch (event.type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
+        if (event.type() == QEvent::MouseButtonDblClick)
+            m_doubleClicked = event.timestamp();
         m_isTaken = press(event);
         return m_isTaken;
     case QEvent::MouseMove:
@@ -45,8 +47,7 @@ bool TextMouse::press(const QMouseEvent &event)
     m_pressed.reset();
     switch (event.button()) {
     case Qt::LeftButton:
-        // A second click on the selection selects a word or a line, as anywhere.
-        return pressLeft(event.position()) || (m_pressed && event.type() == QEvent::MouseButtonPress);
+        return pressLeft(event);
     case Qt::MiddleButton:
         m_edit.item()->forceActiveFocus(Qt::MouseFocusReason);
         m_view.pasteSelected(m_edit.positionAt(event.position()));
@@ -60,18 +61,25 @@ bool TextMouse::press(const QMouseEvent &event)
     }
 }
 
-bool TextMouse::pressLeft(const QPointF &point)
+bool TextMouse::pressLeft(const QMouseEvent &event)
 {
+    const QPointF point = event.position();
     if (const std::optional<qsizetype> box = boxgeometry::findBox(m_text, point)) {
         m_edit.item()->forceActiveFocus(Qt::MouseFocusReason);
         m_view.toggleBox(static_cast<int>(*box));
         return true;
     }
+    // The second and the third click select a word and a line, also where something is selected.
+    const auto interval = static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+    const bool isThird = m_doubleClicked && event.timestamp() - *m_doubleClicked < interval;
     const Selection selection = m_edit.selection();
     const qsizetype position = m_edit.positionAt(point);
-    if (!selection.isEmpty() && position >= selection.start() && position <= selection.end())
-        m_pressed = point;
-    return false;
+    const bool isInside = position >= selection.start() && position <= selection.end();
+    if (selection.isEmpty() || !isInside || isThird || event.type() == QEvent::MouseButtonDblClick
+        || event.modifiers().testFlag(Qt::ShiftModifier))
+        return false;
+    m_pressed = point;
+    return true;
 }
 
 void TextMouse::move(const QPointF &point)

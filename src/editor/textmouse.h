@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPointF>
+#include <QtGlobal>
 
 #include <optional>
 
@@ -27,7 +28,7 @@ public:
 
 private:
     bool press(const QMouseEvent &event);
-    bool pressLeft(const QPointF &point);
+    bool pressLeft(const QMouseEvent &event);
     void move(const QPointF &point);
     void release(const QMouseEvent &event);
 
@@ -38,6 +39,8 @@ private:
     bool m_isTaken = false;
     /// Where the selection was pressed that may be dragged.
     std::optional<QPointF> m_pressed;
+    /// Time of the last double click, in milliseconds.
+    std::optional<quint64> m_doubleClicked;
 };
 
 } // namespace vesk
