@@ -34,18 +34,19 @@ Rectangle {
 }
 )"_s;
 
-const auto kNote = u"Weekend in the hills\n"
-                   "Two nights, **four people**, and the dog. The hut has no shop nearby, so everything to eat "
-                   "comes along in the car.\n"
-                   "# To pack\n"
-                   "☑ Sleeping bags\n"
-                   "☑ Rain jackets for all of us, since the forecast changes from one hour to the next\n"
-                   "☐ Head torches and **spare batteries**\n"
-                   "☐ First-aid kit\n"
-                   "# To remember\n"
-                   "• The key is with the neighbour\n"
-                   "• Road closed from 18:00\n"
-                   "Café at the pass: open until five 😀"_s;
+const auto kNote =
+    u"Weekend in the hills\n"
+    "Two nights, **four people**, and the dog. The hut has no shop nearby, so everything to eat "
+    "comes along in the car.\n"
+    "# To pack\n"
+    "☑ Sleeping bags\n"
+    "☑ Rain jackets for all of us, since the forecast changes from one hour to the next\n"
+    "☐ Head torches and **spare batteries**\n"
+    "☐ First-aid kit\n"
+    "# To remember\n"
+    "• The key is with the neighbour\n"
+    "• Road closed from 18:00\n"
+    "Café at the pass: open until five 😀"_s;
 
 } // namespace
 
