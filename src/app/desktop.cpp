@@ -6,6 +6,7 @@ namespace vesk {
 Desktop::Desktop(std::unique_ptr<X11Connection> connection, ApplicationService &service)
     : defaults(IniDefaults::standardPath())
     , consent(defaults)
+    , updates(QDBusConnection::systemBus(), {})
     , x11(std::move(connection))
     , settings(*x11)
     , appearance(portal, settings)

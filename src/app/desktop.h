@@ -5,6 +5,7 @@
 #include "platform/freedesktop/canberrasounds.h"
 #include "platform/freedesktop/consent.h"
 #include "platform/freedesktop/inidefaults.h"
+#include "platform/freedesktop/packagekitupdates.h"
 #include "platform/freedesktop/portalappearance.h"
 #include "platform/freedesktop/systemclock.h"
 #include "platform/x11/rawinput.h"
@@ -36,6 +37,7 @@ struct Desktop
     Consent consent;
     PortalAppearance portal;
     CanberraSounds sounds;
+    PackageKitUpdates updates;
     std::unique_ptr<X11Connection> x11;
     XSettings settings;
     X11Appearance appearance;

@@ -45,6 +45,7 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
     , m_panelWindow(lent(m_engine, desktop), m_panel, desktop.application, desktop.screens, desktop.windows)
     , m_toast(m_engine, desktop.screens, desktop.windows, desktop.clock)
     , m_accessWindow(m_engine, desktop.consent)
+    , m_updater(m_engine, desktop.updates, desktop.workspace)
     , m_services({.clock = desktop.clock,
                   .hotKeys = desktop.hotKeys,
                   .accessibility = desktop.accessibility,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/accesswindow.h"
+#include "app/appupdater.h"
 #include "capture/pasteback.h"
 #include "capture/pasteboardwatcher.h"
 #include "capture/selectionreader.h"
@@ -48,6 +49,7 @@ private:
     PanelWindow m_panelWindow;
     Toast m_toast;
     AccessWindow m_accessWindow;
+    AppUpdater m_updater;
     VeskServices m_services;
 };
 

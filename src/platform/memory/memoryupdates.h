@@ -5,21 +5,22 @@
 
 namespace vesk {
 
-/// An updater that finds nothing.
+/// An updater that finds what a test tells it to.
 class MemoryUpdates final : public Updates
 {
     Q_OBJECT
 
 public:
-    [[nodiscard]] bool canCheckForUpdates() const override { return m_canCheck; }
+    [[nodiscard]] bool canCheckForUpdates() const override { return m_canCheck && !m_isChecking; }
     void checkForUpdates() override;
 
     void setCanCheck(bool canCheck);
-    [[nodiscard]] int checkCount() const { return m_checkCount; }
+    /// Ends the check that runs.
+    void finish(const Result &result);
 
 private:
     bool m_canCheck = false;
-    int m_checkCount = 0;
+    bool m_isChecking = false;
 };
 
 } // namespace vesk

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "app/appupdater.h"
+
+#include "platform/workspace.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace vesk {
+
+namespace {
+
+/// The desktop entries of applications that install updates: of GNOME, KDE Plasma, Ubuntu, Linux Mint,
+/// elementary OS, and of PackageKit itself.
+const QStringList kUpdaters{u"org.gnome.Software"_s,      u"org.kde.discover"_s,
+                            u"update-manager"_s,          u"mintupdate"_s,
+                            u"io.elementary.appcenter"_s, u"org.gnome.PackageUpdater"_s};
+
+/// Empty if there is none.
+QString findUpdater(const Workspace &workspace)
+{
+    const auto found = std::ranges::find_if(
+        kUpdaters, [&workspace](const QString &id) { return workspace.hasApplication(id); });
+    return found == kUpdaters.end() ? QString() : *found;
+}
+
+} // namespace
+
+AppUpdater::AppUpdater(QQmlEngine &engine, Updates &updates, Workspace &workspace)
+    : m_engine(engine)
+    , m_updates(updates)
+    , m_workspace(workspace)
+{
+    connect(&updates, &Updates::canCheckForUpdatesChanged, this, &AppUpdater::canCheckChanged);
+    connect(&updates, &Updates::checkFinished, this, &AppUpdater::show);
+}
+
+MessageWindow::Content AppUpdater::describe(const Updates::Result &result, const QString &updater)
+{
+    const QString close = tr("OK");
+    switch (result.outcome) {
+    case Updates::Outcome::UpToDate:
+        return {.heading = tr("Vesk is up to date"),
+                .message = tr("Version %1 is the newest that your system can install.").arg(result.version),
+                .acceptLabel = close,
+                .rejectLabel = {}};
+    case Updates::Outcome::Available:
+        if (updater.isEmpty())
+            return {.heading = tr("There is a newer Vesk"),
+                    .message = tr("Your system can install version %1, by what you install packages with.")
+                                   .arg(result.version),
+                    .acceptLabel = close,
+                    .rejectLabel = {}};
+        return {.heading = tr("There is a newer Vesk"),
+                .message = tr("Your system can install version %1.").arg(result.version),
+                .acceptLabel = tr("Open Updates"),
+                .rejectLabel = tr("Later")};
+    case Updates::Outcome::NotInstalled:
+        return {.heading = tr("Your system does not update this Vesk"),
+                .message =
+                    tr("It was not installed as a package. A newer version is where this one came from."),
+                .acceptLabel = close,
+                .rejectLabel = {}};
+    case Updates::Outcome::Failed:
+        break;
+    }
+    return {.heading = tr("Could not check for updates"),
+            .message = tr("Your system’s package service did not answer. Try again later."),
+            .acceptLabel = close,
+            .rejectLabel = {}};
+}
+
+void AppUpdater::show(const Updates::Result &result)
+{
+    const QString updater = findUpdater(m_workspace);
+    m_window = std::make_unique<MessageWindow>(m_engine, describe(result, updater));
+    const bool opensUpdater = result.outcome == Updates::Outcome::Available && !updater.isEmpty();
+    connect(m_window.get(), &MessageWindow::accepted, this, [this, opensUpdater, updater] {
+        m_window->hide();
+        if (opensUpdater)
+            m_workspace.openApplication(updater);
+    });
+    connect(m_window.get(), &MessageWindow::rejected, m_window.get(), &MessageWindow::hide);
+    m_window->show();
+}
+
+} // namespace vesk

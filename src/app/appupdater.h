@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/messagewindow.h"
+#include "platform/updates.h"
+
+#include <QObject>
+
+#include <memory>
+
+class QQmlEngine;
+
+namespace vesk {
+
+class Workspace;
+
+/// Checks for a newer Vesk when the user asks, and says what came out in a small window. The desktop's own
+/// updater installs; this only opens it.
+class AppUpdater final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All have to outlive it.
+    AppUpdater(QQmlEngine &engine, Updates &updates, Workspace &workspace);
+
+    [[nodiscard]] bool canCheck() const { return m_updates.canCheckForUpdates(); }
+    void checkForUpdates() { m_updates.checkForUpdates(); }
+
+    /// What the window says of a result; `updater` is the identifier of the application that installs
+    /// updates, empty for none.
+    [[nodiscard]] static MessageWindow::Content describe(const Updates::Result &result,
+                                                         const QString &updater);
+
+Q_SIGNALS:
+    void canCheckChanged();
+
+private:
+    void show(const Updates::Result &result);
+
+    QQmlEngine &m_engine;
+    Updates &m_updates;
+    Workspace &m_workspace;
+    std::unique_ptr<MessageWindow> m_window;
+};
+
+} // namespace vesk

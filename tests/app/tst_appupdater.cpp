@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "app/appupdater.h"
+#include "components/surroundings.h"
+#include "platform/memory/memoryappearance.h"
+#include "platform/memory/memoryscreens.h"
+#include "platform/memory/memoryupdates.h"
+#include "platform/memory/memorywindows.h"
+#include "platform/memory/memoryworkspace.h"
+
+#include <QGuiApplication>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+using Outcome = Updates::Outcome;
+
+/// What the user is told of a check, and what the keys in that window do.
+class TestAppUpdater : public QObject
+{
+    Q_OBJECT
+
+public:
+    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+
+private Q_SLOTS:
+    void tells_data();
+    void tells();
+};
+
+void TestAppUpdater::tells_data()
+{
+    QTest::addColumn<Outcome>("outcome");
+    QTest::addColumn<QString>("version");
+    QTest::addColumn<QString>("updater");
+    QTest::addColumn<bool>("acceptsIt");
+    QTest::addColumn<QString>("heading");
+    QTest::addColumn<QStringList>("opened");
+    const QString newer = u"Vesk: There is a newer Vesk"_s;
+    const QString discover = u"org.kde.discover"_s;
+    QTest::newRow("newer, opens the updater")
+        << Outcome::Available << u"0.2.0"_s << discover << true << newer << QStringList{discover};
+    QTest::newRow("newer, later") << Outcome::Available << u"0.2.0"_s << discover << false << newer
+                                  << QStringList();
+    QTest::newRow("newer, no updater")
+        << Outcome::Available << u"0.2.0"_s << QString() << true << newer << QStringList();
+    QTest::newRow("up to date") << Outcome::UpToDate << u"0.1.0"_s << discover << true
+                                << u"Vesk: Vesk is up to date"_s << QStringList();
+    QTest::newRow("not a package") << Outcome::NotInstalled << QString() << discover << true
+                                   << u"Vesk: Your system does not update this Vesk"_s << QStringList();
+    QTest::newRow("no answer") << Outcome::Failed << QString() << discover << true
+                               << u"Vesk: Could not check for updates"_s << QStringList();
+}
+
+void TestAppUpdater::tells()
+{
+    QFETCH(Outcome, outcome);
+    QFETCH(QString, version);
+    QFETCH(QString, updater);
+    QFETCH(bool, acceptsIt);
+    QFETCH(QString, heading);
+    QFETCH(QStringList, opened);
+    MemoryAppearance appearance;
+    MemoryWorkspace workspace;
+    MemoryScreens screens;
+    MemoryWindows windows(screens);
+    MemoryUpdates updates;
+    QQmlEngine engine;
+    lendToEngine(engine, appearance, workspace, windows);
+    if (!updater.isEmpty())
+        workspace.install(updater);
+    AppUpdater appUpdater(engine, updates, workspace);
+    updates.setCanCheck(true);
+    appUpdater.checkForUpdates();
+    QVERIFY(!appUpdater.canCheck());
+    QVERIFY(QGuiApplication::topLevelWindows().isEmpty());
+
+    updates.finish({.outcome = outcome, .version = version});
+    QVERIFY(appUpdater.canCheck());
+    QCOMPARE(QGuiApplication::topLevelWindows().size(), 1);
+    auto *window = qobject_cast<QQuickView *>(QGuiApplication::topLevelWindows().constFirst());
+    QVERIFY(window && window->isVisible());
+    QCOMPARE(window->title(), heading);
+    QVERIFY(window->rootObject()->property("message").toString().contains(version));
+    window->requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(window));
+    // The safe button has the keyboard; the other one is a Tab away.
+    if (acceptsIt && !opened.isEmpty())
+        QTest::keyClick(window, Qt::Key_Tab);
+    QTest::keyClick(window, acceptsIt ? Qt::Key_Return : Qt::Key_Escape);
+    QVERIFY(!window->isVisible());
+    QCOMPARE(workspace.openedApplications(), opened);
+}
+
+QTEST_MAIN(TestAppUpdater)
+
+#include "tst_appupdater.moc"
