@@ -11,6 +11,7 @@ Desktop::Desktop(std::unique_ptr<X11Connection> connection, ApplicationService &
     , settings(*x11)
     , appearance(portal, settings)
     , input(*x11)
+    , screens(*x11)
     , windows(*x11, screens)
     , workspace(*x11)
     , application(*x11, workspace, service)

@@ -10,7 +10,6 @@
 #include "platform/windows.h"
 
 #include <QKeyEvent>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +22,7 @@ namespace {
 
 constexpr qreal kCornerRadius = 34;
 constexpr int kFadeInMilliseconds = 200;
+constexpr std::chrono::milliseconds kSettled{250};
 
 } // namespace
 
@@ -41,6 +41,8 @@ PanelWindow::PanelWindow(QQmlEngine &engine, PanelModel &model, Application &app
     m_view.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     // Also asks for a window that can be translucent, should a compositor be there or come.
     m_view.setColor(Qt::transparent);
+    m_view.setMinimumWidth(qRound(kPanelWidth));
+    m_view.setMaximumWidth(qRound(kPanelWidth));
     m_view.setResizeMode(QQuickView::SizeRootObjectToView);
     m_view.resize(qRound(kPanelWidth), qRound(kDefaultPanelHeight));
     m_view.setInitialProperties(
@@ -58,7 +60,20 @@ PanelWindow::PanelWindow(QQmlEngine &engine, PanelModel &model, Application &app
     });
     connect(&application, &Application::didHide, this, &PanelWindow::hideWindow);
     connect(&application, &Application::didResignActive, this, &PanelWindow::hideWindow);
-    connect(&screens, &Screens::changed, this, [this] { position(ownScreen()); });
+    m_settling.setSingleShot(true);
+    m_settling.setInterval(kSettled);
+    connect(&m_settling, &QTimer::timeout, this, &PanelWindow::settle);
+    connect(&screens, &Screens::changed, this, [this] {
+        settle();
+        m_settling.start();
+    });
+    const auto onResized = [this] {
+        m_windows.setCornerRadius(m_view, kCornerRadius);
+        m_settling.start();
+    };
+    connect(&m_view, &QWindow::heightChanged, this, onResized);
+    connect(&m_view, &QWindow::widthChanged, this, onResized);
+    connect(&m_view, &QWindow::screenChanged, this, onResized);
     connect(&windows, &Windows::compositedChanged, this, [this] {
         m_fadeIn.stop();
         m_view.setOpacity(1);
@@ -80,6 +95,8 @@ void PanelWindow::prepareAhead()
 
 void PanelWindow::showPanel()
 {
+    // First of all: what the user types from here on is meant for the panel.
+    m_application.holdKeys();
     position(m_screens.screenUnderMouse());
     m_model.prepareToShow();
     const bool isComingUp = m_application.isHidden() || !isShown();
@@ -111,9 +128,17 @@ void PanelWindow::position(const std::optional<Screen> &screen)
     if (!screen)
         return;
     const QRectF frame = panelFrame(screen->visibleFrame, m_view.height());
+    if (frame == m_screens.flipped(m_view.geometry()))
+        return;
     // Where the desktop places windows by itself, the size at least is the panel's own.
     if (!m_windows.setFrame(m_view, frame))
         m_view.resize(frame.size().toSize());
+}
+
+void PanelWindow::settle()
+{
+    position(ownScreen());
+    m_windows.setCornerRadius(m_view, kCornerRadius);
 }
 
 std::optional<Screen> PanelWindow::ownScreen() const

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QPropertyAnimation>
 #include <QQuickView>
+#include <QTimer>
 
 #include <optional>
 
@@ -45,6 +46,8 @@ protected:
 private:
     void prepareAhead();
     void position(const std::optional<Screen> &screen);
+    /// Puts the window back where it belongs on its own screen, in its shape.
+    void settle();
     /// The screen that the window's middle is on; else the main screen; none if there is no screen.
     [[nodiscard]] std::optional<Screen> ownScreen() const;
     void hideWindow();
@@ -56,6 +59,8 @@ private:
     Surroundings &m_surroundings;
     QQuickView m_view;
     QPropertyAnimation m_fadeIn;
+    /// Waits for the window manager's own answer to a change of screens, or for the end of a resize.
+    QTimer m_settling;
 };
 
 } // namespace vesk

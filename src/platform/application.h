@@ -26,6 +26,10 @@ public:
     /// Ends the hidden state, without showing any window by itself.
     virtual void unhide() = 0;
 
+    /// Keeps the keys that are typed from now on for the window that `activate` is about to give the
+    /// keyboard to, as far as the platform can; without an `activate` that follows, for a moment only.
+    virtual void holdKeys() = 0;
+
     /// Gives the keyboard to `window`, which is shown or being shown, and remembers the window of
     /// another application that had it.
     virtual void activate(QWindow &window) = 0;

@@ -179,6 +179,32 @@ void Windows::activate(const Window &window)
     xcb_flush(m_display.xcb());
 }
 
+QList<quint32> Windows::numbers(xcb_window_t window, const char *property) const
+{
+    xcb_connection_t *xcb = m_display.xcb();
+    const auto cookie = xcb_get_property(xcb, 0, window, m_display.atom(property), XCB_ATOM_ANY, 0, 1024);
+    const Reply<xcb_get_property_reply_t> reply{xcb_get_property_reply(xcb, cookie, nullptr)};
+    if (!reply)
+        return {};
+    const auto *values = static_cast<const quint32 *>(xcb_get_property_value(reply.get()));
+    return {values, values + xcb_get_property_value_length(reply.get()) / int(sizeof(quint32))};
+}
+
+QList<xcb_window_t> Windows::stack() const
+{
+    return numbers(m_display.root(), "_NET_CLIENT_LIST_STACKING");
+}
+
+bool Windows::hasState(const Window &window, const char *state) const
+{
+    return numbers(window.id, "_NET_WM_STATE").contains(m_display.atom(state));
+}
+
+quint32 Windows::rootNumber(const char *property) const
+{
+    return numbers(m_display.root(), property).value(0);
+}
+
 QString Windows::describe() const
 {
     QStringList titles;

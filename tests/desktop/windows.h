@@ -56,12 +56,22 @@ public:
     /// Asks the window manager to activate the window, as a pager does.
     void activate(const Window &window);
 
+    /// The managed windows from the lowest to the highest, as the window manager tells them.
+    [[nodiscard]] QList<xcb_window_t> stack() const;
+
+    /// Whether the window manager says that a window is in this state.
+    [[nodiscard]] bool hasState(const Window &window, const char *state) const;
+
+    /// What the window manager says in a number on the root window; 0 if nothing.
+    [[nodiscard]] quint32 rootNumber(const char *property) const;
+
     /// Titles of all viewable windows, for the message of a test that failed.
     [[nodiscard]] QString describe() const;
 
 private:
     [[nodiscard]] bool isFocusInside(xcb_window_t window) const;
     [[nodiscard]] xcb_window_t activeWindow() const;
+    [[nodiscard]] QList<quint32> numbers(xcb_window_t window, const char *property) const;
     [[nodiscard]] QList<xcb_window_t> topWindows() const;
 
     DisplayConnection &m_display;

@@ -19,6 +19,7 @@ public:
     [[nodiscard]] bool isHidden() const override { return m_isHidden; }
     void hide() override;
     void unhide() override { m_isHidden = false; }
+    void holdKeys() override {}
     void activate(QWindow &window) override;
 
     /// Plays the user turning to another application.

@@ -6,6 +6,8 @@
 #include <QGuiApplication>
 #include <QWindow>
 
+#include <xcb/xfixes.h>
+
 #include <cstring>
 
 namespace vesk::ownwindows {
@@ -50,6 +52,20 @@ void addStates(QWindow &window, const QList<const char *> &states)
         atoms.append(atom(state));
     xcb_change_property(connection(), XCB_PROP_MODE_APPEND, idOf(window), atom("_NET_WM_STATE"),
                         XCB_ATOM_ATOM, 32, static_cast<uint32_t>(atoms.size()), atoms.constData());
+}
+
+void setShape(QWindow &window, const QList<xcb_rectangle_t> &rectangles)
+{
+    constexpr uint8_t kBounding = 0;
+    xcb_xfixes_region_t region = XCB_NONE;
+    if (!rectangles.isEmpty()) {
+        region = xcb_generate_id(connection());
+        xcb_xfixes_create_region(connection(), region, static_cast<uint32_t>(rectangles.size()),
+                                 rectangles.constData());
+    }
+    xcb_xfixes_set_window_shape_region(connection(), idOf(window), kBounding, 0, 0, region);
+    if (region != XCB_NONE)
+        xcb_xfixes_destroy_region(connection(), region);
 }
 
 void requestActivation(xcb_window_t window, xcb_timestamp_t time)

@@ -16,6 +16,7 @@ X11Application::X11Application(X11Connection &connection, X11Workspace &workspac
                                ApplicationService &service)
     : m_connection(connection)
     , m_workspace(workspace)
+    , m_hold(connection)
 {
     // Long enough for the window manager to do all that it was asked to, too short to be seen when the
     // user turns elsewhere.
@@ -27,6 +28,13 @@ X11Application::X11Application(X11Connection &connection, X11Workspace &workspac
     m_activation.setSingleShot(true);
     m_activation.setInterval(kActivation);
     connect(&workspace, &X11Workspace::activeWindowChanged, this, &X11Application::onActiveWindowChanged);
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *window) {
+        if (!window)
+            return;
+        m_hold.end();
+        // The active window may be another again before its change to ours was read.
+        setActive(true);
+    });
     connect(&service, &ApplicationService::activated, this, &Application::reopened);
 }
 
@@ -37,6 +45,7 @@ void X11Application::hide()
     m_isHidden = true;
     const bool hadKeyboard = isActive();
     m_isActive = false;
+    m_hold.end();
     m_activation.stop();
     const QWindowList windows = QGuiApplication::topLevelWindows();
     for (QWindow *window : windows) {
@@ -49,6 +58,12 @@ void X11Application::hide()
         ownwindows::requestActivation(*m_previousWindow, m_connection.userTime());
     m_previousWindow.reset();
     Q_EMIT didHide();
+}
+
+void X11Application::holdKeys()
+{
+    if (!QGuiApplication::focusWindow())
+        m_hold.begin();
 }
 
 void X11Application::activate(QWindow &window)

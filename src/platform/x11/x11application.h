@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/application.h"
+#include "platform/x11/keyboardhold.h"
 
 #include <QTimer>
 
@@ -28,6 +29,7 @@ public:
     [[nodiscard]] bool isHidden() const override { return m_isHidden; }
     void hide() override;
     void unhide() override { m_isHidden = false; }
+    void holdKeys() override;
     void activate(QWindow &window) override;
 
 private:
@@ -38,6 +40,7 @@ private:
 
     X11Connection &m_connection;
     X11Workspace &m_workspace;
+    KeyboardHold m_hold;
     /// Runs while another window, or none, is active; only once that lasts has the user turned elsewhere.
     QTimer m_elsewhere;
     /// Runs from `activate` until the window manager has followed, or will not.

@@ -5,11 +5,11 @@
 #include "platform/x11/ownwindows.h"
 #include "platform/x11/x11connection.h"
 
-#include <QRegion>
 #include <QWindow>
 
 #include <xcb/xfixes.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace vesk {
@@ -20,19 +20,26 @@ namespace {
 constexpr const char *kCompositor = "_NET_WM_CM_S0";
 
 /// A rectangle with round corners, by rows of pixels.
-QRegion roundedRegion(QSize size, qreal radius)
+QList<xcb_rectangle_t> roundedRows(QSize size, qreal radius)
 {
-    QRegion region;
+    QList<xcb_rectangle_t> rectangles;
+    const auto add = [&rectangles](int x, int y, int width, int height) {
+        rectangles.append({.x = static_cast<int16_t>(x),
+                           .y = static_cast<int16_t>(y),
+                           .width = static_cast<uint16_t>(width),
+                           .height = static_cast<uint16_t>(height)});
+    };
     const int rows = static_cast<int>(std::ceil(radius));
     for (int row = 0; row < rows; ++row) {
         const qreal up = radius - row - 0.5;
-        const int inset = static_cast<int>(std::lround(radius - std::sqrt(radius * radius - up * up)));
+        const int inset =
+            static_cast<int>(std::lround(radius - std::sqrt(std::max(0.0, radius * radius - up * up))));
         const int width = size.width() - 2 * inset;
-        region += QRect(inset, row, width, 1);
-        region += QRect(inset, size.height() - 1 - row, width, 1);
+        add(inset, row, width, 1);
+        add(inset, size.height() - 1 - row, width, 1);
     }
-    region += QRect(0, rows, size.width(), size.height() - 2 * rows);
-    return region;
+    add(0, rows, size.width(), size.height() - 2 * rows);
+    return rectangles;
 }
 
 } // namespace
@@ -68,7 +75,11 @@ bool X11Windows::setFrame(QWindow &window, const QRectF &frame)
 
 void X11Windows::setCornerRadius(QWindow &window, qreal radius)
 {
-    window.setMask(m_isComposited ? QRegion() : roundedRegion(window.size(), radius));
+    // In the server's pixels: Qt would cut by whole points, which shows on a scaled screen.
+    const qreal ratio = window.devicePixelRatio();
+    const QSize size = QSizeF(window.size() * ratio).toSize();
+    ownwindows::setShape(window,
+                         m_isComposited ? QList<xcb_rectangle_t>() : roundedRows(size, radius * ratio));
 }
 
 void X11Windows::onEvent(const xcb_generic_event_t *event)

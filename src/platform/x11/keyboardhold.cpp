@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/keyboardhold.h"
+
+#include "platform/x11/x11connection.h"
+
+namespace vesk {
+
+KeyboardHold::KeyboardHold(X11Connection &connection)
+    : m_connection(connection)
+{
+    constexpr std::chrono::milliseconds kLimit{1000};
+    m_limit.setSingleShot(true);
+    m_limit.setInterval(kLimit);
+    connect(&m_limit, &QTimer::timeout, this, &KeyboardHold::end);
+    constexpr std::chrono::milliseconds kLook{20};
+    m_releaseWatch.setInterval(kLook);
+    connect(&m_releaseWatch, &QTimer::timeout, this, &KeyboardHold::lookForRelease);
+    connect(&connection, &X11Connection::eventReceived, this, &KeyboardHold::onEvent);
+}
+
+void KeyboardHold::begin()
+{
+    if (m_isHolding)
+        return;
+    // In the synchronous mode the server keeps the keys until the grab goes.
+    const auto cookie = xcb_grab_keyboard(m_connection.xcb(), 0, m_connection.root(), XCB_CURRENT_TIME,
+                                          XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_SYNC);
+    const XReply<xcb_grab_keyboard_reply_t> reply(
+        xcb_grab_keyboard_reply(m_connection.xcb(), cookie, nullptr));
+    m_isHolding = reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
+    if (m_isHolding)
+        m_limit.start();
+}
+
+void KeyboardHold::end()
+{
+    if (!m_isHolding)
+        return;
+    m_isHolding = false;
+    m_limit.stop();
+    xcb_ungrab_keyboard(m_connection.xcb(), XCB_CURRENT_TIME);
+    m_connection.flush();
+    lookForRelease();
+}
+
+void KeyboardHold::onEvent(const xcb_generic_event_t *event)
+{
+    const auto type = event->response_type & 0x7f;
+    const auto key = reinterpret_cast<const xcb_key_press_event_t *>(event)->detail;
+    if (type == XCB_KEY_PRESS) {
+        m_pressedKey = key;
+    } else if (type == XCB_KEY_RELEASE && key == m_pressedKey) {
+        m_pressedKey = 0;
+        m_releaseWatch.stop();
+    }
+}
+
+void KeyboardHold::lookForRelease()
+{
+    if (m_pressedKey == 0)
+        return;
+    const auto cookie = xcb_query_keymap(m_connection.xcb());
+    const XReply<xcb_query_keymap_reply_t> reply(xcb_query_keymap_reply(m_connection.xcb(), cookie, nullptr));
+    const bool isDown = reply && ((reply->keys[m_pressedKey / 8] >> (m_pressedKey % 8)) & 1) != 0;
+    if (isDown) {
+        m_releaseWatch.start();
+        return;
+    }
+    // The grab that ended would have told of it.
+    xcb_key_release_event_t release{};
+    release.response_type = XCB_KEY_RELEASE;
+    release.detail = m_pressedKey;
+    release.time = m_connection.userTime();
+    Q_EMIT m_connection.eventReceived(reinterpret_cast<const xcb_generic_event_t *>(&release));
+}
+
+} // namespace vesk

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+
+#include <xcb/xcb.h>
+
+namespace vesk {
+
+class X11Connection;
+
+/// Keeps what is typed while one of Vesk's windows comes up for that window: the server delivers no key
+/// until the window has the keyboard, and then all of them, in order. Ends by itself after a moment, in
+/// case the window manager gives the keyboard to nobody.
+class KeyboardHold final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit KeyboardHold(X11Connection &connection);
+
+    /// Does nothing if it holds already, or another application has the keyboard to itself.
+    void begin();
+    /// Lets all keys go to the window that has the keyboard now.
+    void end();
+
+private:
+    void onEvent(const xcb_generic_event_t *event);
+    /// Whether a key that went down as a hot key is up again; then says so on the connection.
+    void lookForRelease();
+
+    X11Connection &m_connection;
+    QTimer m_limit;
+    QTimer m_releaseWatch;
+    bool m_isHolding = false;
+    /// The hot key whose release the hold keeps from those who wait for it; 0 for none.
+    xcb_keycode_t m_pressedKey = 0;
+};
+
+} // namespace vesk

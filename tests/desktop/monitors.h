@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/displayconnection.h"
+
+#include <QRect>
+
+namespace vesk {
+
+/// The desktop's monitors, as a user plugs them in and out: parts of the one big screen of the server.
+class Monitors final
+{
+public:
+    explicit Monitors(DisplayConnection &display);
+
+    /// Makes these the monitors; the first is the primary one.
+    void set(const QList<QRect> &monitors);
+
+    /// Moves the pointer there.
+    void movePointer(QPoint position);
+
+private:
+    [[nodiscard]] xcb_atom_t nameOf(qsizetype index) const;
+
+    DisplayConnection &m_display;
+    quint32 m_output = XCB_NONE;
+    qsizetype m_count = 0;
+};
+
+} // namespace vesk

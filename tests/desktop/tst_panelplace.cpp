@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/desktoptest.h"
+#include "desktop/monitors.h"
+#include "desktop/plainwindow.h"
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+
+/// Where the panel's window comes up on a real desktop, what it stands above, and when it goes.
+class TestPanelPlace : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void docksKeepTheirRoom_data();
+    void docksKeepTheirRoom();
+    void comesUpOnTheMonitorOfThePointer();
+    void unpluggedMonitorGivesThePanelBack();
+    void standsAboveAFullScreenWindow();
+    void comesUpOnTheDesktopInUse();
+    void isInNoTaskBar();
+    void goesWhenAnotherApplicationIsUsed();
+
+private:
+    void toggle() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}, kFinger); }
+    [[nodiscard]] std::optional<Window> panel() const { return m_desktop->windows().findViewable(kPanel); }
+    /// Whether the panel stands in this corner, 10 points in; waits for it.
+    [[nodiscard]] bool waitInCorner(QPoint corner);
+    [[nodiscard]] QString where() const;
+    void sendToRoot(const char *message, quint32 value);
+
+    std::unique_ptr<VirtualDesktop> m_desktop;
+    std::unique_ptr<Monitors> m_monitors;
+    std::unique_ptr<ChildProcess> m_vesk;
+};
+
+void TestPanelPlace::init()
+{
+    QString problem;
+    m_desktop = VirtualDesktop::start(problem);
+    QVERIFY2(m_desktop, qPrintable(problem));
+    m_monitors = std::make_unique<Monitors>(m_desktop->display());
+    QVERIFY(m_desktop->prepareUser());
+    m_vesk = m_desktop->startVesk();
+    QVERIFY(m_vesk);
+}
+
+void TestPanelPlace::cleanup()
+{
+    if (m_vesk && QTest::currentTestFailed())
+        qWarning().noquote() << "Vesk said:" << m_vesk->errorOutput();
+    m_vesk.reset();
+    m_monitors.reset();
+    m_desktop.reset();
+}
+
+bool TestPanelPlace::waitInCorner(QPoint corner)
+{
+    const QPoint wanted = corner - QPoint(10, 10);
+    return m_desktop->display().waitUntil(kBound, [&] {
+        const std::optional<Window> found = panel();
+        return found && found->geometry.bottomRight() + QPoint(1, 1) == wanted;
+    });
+}
+
+QString TestPanelPlace::where() const
+{
+    const std::optional<Window> found = panel();
+    if (!found)
+        return u"not shown"_s;
+    const QRect &area = found->geometry;
+    return u"%1,%2 %3x%4"_s.arg(area.x()).arg(area.y()).arg(area.width()).arg(area.height());
+}
+
+void TestPanelPlace::sendToRoot(const char *message, quint32 value)
+{
+    DisplayConnection &display = m_desktop->display();
+    xcb_client_message_event_t event = {};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = display.root();
+    event.type = display.atom(message);
+    event.data.data32[0] = value;
+    xcb_send_event(display.xcb(), 0, display.root(),
+                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   reinterpret_cast<const char *>(&event));
+    xcb_flush(display.xcb());
+}
+
+void TestPanelPlace::docksKeepTheirRoom_data()
+{
+    using Strut = std::array<quint32, 12>;
+    QTest::addColumn<QRect>("dock");
+    QTest::addColumn<Strut>("strut");
+    QTest::addColumn<QPoint>("corner");
+
+    QTest::newRow("bottom") << QRect(0, 960, 1600, 40) << Strut{0, 0, 0, 40, 0, 0, 0, 0, 0, 0, 0, 1599}
+                            << QPoint(1600, 960);
+    QTest::newRow("right") << QRect(1540, 0, 60, 1000) << Strut{0, 60, 0, 0, 0, 0, 0, 999}
+                           << QPoint(1540, 1000);
+    QTest::newRow("top") << QRect(0, 0, 1600, 30) << Strut{0, 0, 30, 0, 0, 0, 0, 0, 0, 1599}
+                         << QPoint(1600, 1000);
+    QTest::newRow("left") << QRect(0, 0, 50, 1000) << Strut{50, 0, 0, 0, 0, 999} << QPoint(1600, 1000);
+}
+
+void TestPanelPlace::docksKeepTheirRoom()
+{
+    using Strut = std::array<quint32, 12>;
+    QFETCH(QRect, dock);
+    QFETCH(Strut, strut);
+    QFETCH(QPoint, corner);
+    {
+        PlainWindow bar(m_desktop->display(), u"Dock"_s, dock);
+        bar.setStrut(strut);
+        bar.show();
+        VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(u"Dock"_s, kBound));
+        toggle();
+        QVERIFY2(waitInCorner(corner), qPrintable(where()));
+    }
+    // And when it goes, the panel takes its room.
+    QVERIFY2(waitInCorner(QPoint(1600, 1000)), qPrintable(where()));
+}
+
+void TestPanelPlace::comesUpOnTheMonitorOfThePointer()
+{
+    const QRect left(0, 0, 700, 900);
+    const QRect right(700, 100, 900, 700);
+    m_monitors->set({left, right});
+    // A dock at the lower edge of the right one only.
+    PlainWindow lower(m_desktop->display(), u"Lower"_s, QRect(700, 750, 900, 50));
+    lower.setStrut({0, 0, 0, 250, 0, 0, 0, 0, 0, 0, 700, 1599});
+    lower.show();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(u"Lower"_s, kBound));
+
+    m_monitors->movePointer(QPoint(1000, 400));
+    toggle();
+    QVERIFY2(waitInCorner(QPoint(1600, 750)), qPrintable(where()));
+    toggle();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
+    m_monitors->movePointer(QPoint(100, 400));
+    toggle();
+    QVERIFY2(waitInCorner(QPoint(700, 900)), qPrintable(where()));
+}
+
+void TestPanelPlace::unpluggedMonitorGivesThePanelBack()
+{
+    const QRect left(0, 0, 800, 1000);
+    const QRect right(800, 0, 800, 700);
+    m_monitors->set({left, right});
+    m_monitors->movePointer(QPoint(1000, 400));
+    toggle();
+    QVERIFY2(waitInCorner(QPoint(1600, 700)), qPrintable(where()));
+    m_monitors->set({left});
+    QVERIFY2(waitInCorner(QPoint(800, 1000)), qPrintable(where()));
+    // Plugged in again while the panel is hidden. Nothing tells when Vesk has heard of it, so it is asked
+    // for again.
+    m_monitors->movePointer(QPoint(1000, 400));
+    toggle();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
+    m_monitors->set({left, right});
+    bool isThere = false;
+    for (int attempt = 0; attempt < 5 && !isThere; ++attempt) {
+        toggle();
+        VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
+        isThere = panel()->geometry.bottomRight() + QPoint(11, 11) == QPoint(1600, 700);
+        toggle();
+        VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
+    }
+    QVERIFY(isThere);
+}
+
+void TestPanelPlace::standsAboveAFullScreenWindow()
+{
+    PlainWindow film(m_desktop->display(), u"Film"_s, QRect(0, 0, 1600, 1000));
+    film.setFullScreen();
+    film.show();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(u"Film"_s, kBound));
+    m_desktop->windows().activate(film.window());
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(film.window(), kBound));
+    toggle();
+    QVERIFY2(waitInCorner(QPoint(1600, 1000)), qPrintable(where()));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel(), kBound));
+    // The stack is told from below to above.
+    QVERIFY(m_desktop->display().waitUntil(kBound, [&] {
+        const QList<xcb_window_t> stack = m_desktop->windows().stack();
+        return stack.indexOf(panel()->id) > stack.indexOf(film.window().id);
+    }));
+}
+
+void TestPanelPlace::comesUpOnTheDesktopInUse()
+{
+    constexpr quint32 kSecond = 1;
+    sendToRoot("_NET_NUMBER_OF_DESKTOPS", 3);
+    sendToRoot("_NET_CURRENT_DESKTOP", kSecond);
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [this] {
+        return m_desktop->windows().rootNumber("_NET_CURRENT_DESKTOP") == kSecond;
+    }));
+    toggle();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel(), kBound));
+    QCOMPARE(m_desktop->windows().rootNumber("_NET_CURRENT_DESKTOP"), kSecond);
+}
+
+void TestPanelPlace::isInNoTaskBar()
+{
+    for (int round = 0; round < 2; ++round) {
+        toggle();
+        VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
+        VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel(), kBound));
+        for (const char *state :
+             {"_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER", "_NET_WM_STATE_ABOVE"})
+            QVERIFY2(m_desktop->windows().hasState(*panel(), state), state);
+        toggle();
+        VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
+    }
+}
+
+void TestPanelPlace::goesWhenAnotherApplicationIsUsed()
+{
+    PlainWindow other(m_desktop->display(), u"Other"_s, QRect(10, 10, 300, 200));
+    other.show();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(u"Other"_s, kBound));
+    toggle();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel(), kBound));
+    m_desktop->windows().activate(other.window());
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(other.window(), kBound));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
+}
+
+int main(int argc, char **argv)
+{
+    return runDesktopTest<TestPanelPlace>(argc, argv);
+}
+
+#include "tst_panelplace.moc"

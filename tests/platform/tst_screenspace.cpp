@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/screenspace.h"
+
+#include <QTest>
+
+using namespace vesk;
+
+/// What docks leave of the screens of a desktop.
+class ScreenSpaceTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void docksTakeTheirScreensOnly_data();
+    void docksTakeTheirScreensOnly();
+};
+
+void ScreenSpaceTest::docksTakeTheirScreensOnly_data()
+{
+    QTest::addColumn<QList<Strut>>("struts");
+    QTest::addColumn<QRect>("left");
+    QTest::addColumn<QRect>("right");
+    const QRect left(0, 0, 1600, 1000);
+    const QRect right(1600, 200, 1200, 800);
+
+    QTest::newRow("none") << QList<Strut>() << left << right;
+    QTest::newRow("below the left one")
+        << QList<Strut>{{0, 0, 0, 40, 0, 0, 0, 0, 0, 0, 0, 1599}} << left.adjusted(0, 0, 0, -40) << right;
+    QTest::newRow("over the right one, whose edge is not the desktop's")
+        << QList<Strut>{{0, 0, 230, 0, 0, 0, 0, 0, 1600, 2799}} << left << right.adjusted(0, 30, 0, 0);
+    QTest::newRow("on the inner edge of the right one")
+        << QList<Strut>{{1640, 0, 0, 0, 200, 999}} << left << right.adjusted(40, 0, 0, 0);
+    QTest::newRow("on the inner edge of the left one")
+        << QList<Strut>{{0, 1260, 0, 0, 0, 0, 0, 999}} << left.adjusted(0, 0, -60, 0) << right;
+    QTest::newRow("the larger of two counts, not the sum")
+        << QList<Strut>{{50, 0, 0, 0, 0, 999}, {30, 0, 0, 0, 0, 999}} << left.adjusted(50, 0, 0, 0) << right;
+    QTest::newRow("of the older kind, as long as the edge")
+        << QList<Strut>{wholeEdges(0, 0, 0, 25)} << left.adjusted(0, 0, 0, -25)
+        << right.adjusted(0, 0, 0, -25);
+    QTest::newRow("nonsense takes nothing")
+        << QList<Strut>{wholeEdges(0xffffffff, 0xffffffff, 9000, 9000)} << left << right;
+}
+
+void ScreenSpaceTest::docksTakeTheirScreensOnly()
+{
+    QFETCH(QList<Strut>, struts);
+    constexpr QSize kDesktop(2800, 1000);
+    QTEST(spaceOn(QRect(0, 0, 1600, 1000), kDesktop, struts), "left");
+    QTEST(spaceOn(QRect(1600, 200, 1200, 800), kDesktop, struts), "right");
+}
+
+QTEST_GUILESS_MAIN(ScreenSpaceTest)
+#include "tst_screenspace.moc"
