@@ -34,6 +34,10 @@ public:
     /// another application that had it.
     virtual void activate(QWindow &window) = 0;
 
+    /// Gives the keyboard back to the window, of this or another program, that had it before `window`
+    /// was activated, and leaves all windows where they are. Does nothing if `window` has not got it.
+    virtual void giveKeyboardBack(QWindow &window) = 0;
+
 Q_SIGNALS:
     /// The program has gone into the hidden state.
     void didHide();

@@ -26,6 +26,12 @@ void MemoryApplication::activate(QWindow &window)
     window.requestActivate();
 }
 
+void MemoryApplication::giveKeyboardBack(QWindow &window)
+{
+    if (m_activatedWindow == &window)
+        m_isActive = false;
+}
+
 void MemoryApplication::resignActive()
 {
     if (!m_isActive)

@@ -21,6 +21,7 @@ public:
     void unhide() override { m_isHidden = false; }
     void holdKeys() override {}
     void activate(QWindow &window) override;
+    void giveKeyboardBack(QWindow &window) override;
 
     /// Plays the user turning to another application.
     void resignActive();

@@ -68,11 +68,31 @@ void X11Application::holdKeys()
 
 void X11Application::activate(QWindow &window)
 {
-    if (const std::optional<xcb_window_t> other = foreignActiveWindow())
+    if (const std::optional<xcb_window_t> other = foreignActiveWindow()) {
         m_previousWindow = other;
+        m_previousOwnWindow = nullptr;
+    } else if (QWindow *own = QGuiApplication::focusWindow(); own != &window) {
+        m_previousOwnWindow = own;
+    }
+    m_activatedWindow = &window;
     m_activation.start();
     window.requestActivate();
     ownwindows::requestActivation(ownwindows::idOf(window), m_connection.userTime());
+}
+
+void X11Application::giveKeyboardBack(QWindow &window)
+{
+    const bool isToHaveIt = m_activation.isActive() && m_activatedWindow == &window;
+    if (!isToHaveIt && m_workspace.activeWindow() != ownwindows::idOf(window))
+        return;
+    m_hold.end();
+    m_activation.stop();
+    if (m_previousOwnWindow && m_previousOwnWindow->isVisible()) {
+        m_previousOwnWindow->requestActivate();
+        ownwindows::requestActivation(ownwindows::idOf(*m_previousOwnWindow), m_connection.userTime());
+    } else if (m_previousWindow && m_workspace.processOf(*m_previousWindow)) {
+        ownwindows::requestActivation(*m_previousWindow, m_connection.userTime());
+    }
 }
 
 void X11Application::onActiveWindowChanged()

@@ -4,7 +4,9 @@
 #include "platform/application.h"
 #include "platform/x11/keyboardhold.h"
 
+#include <QPointer>
 #include <QTimer>
+#include <QWindow>
 
 #include <xcb/xcb.h>
 
@@ -31,6 +33,7 @@ public:
     void unhide() override { m_isHidden = false; }
     void holdKeys() override;
     void activate(QWindow &window) override;
+    void giveKeyboardBack(QWindow &window) override;
 
 private:
     void onActiveWindowChanged();
@@ -45,7 +48,10 @@ private:
     QTimer m_elsewhere;
     /// Runs from `activate` until the window manager has followed, or will not.
     QTimer m_activation;
+    /// Another application's window that had the keyboard before, and ours that took it after, if any.
     std::optional<xcb_window_t> m_previousWindow;
+    QPointer<QWindow> m_previousOwnWindow;
+    QPointer<QWindow> m_activatedWindow;
     bool m_isActive = false;
     bool m_isHidden = false;
 };
