@@ -147,6 +147,18 @@ bool NotesStore::hasPendingChanges() const
     return !m_pending.isEmpty();
 }
 
+QStringList NotesStore::unwrittenTexts() const
+{
+    QStringList texts;
+    for (const auto &[number, change] : m_pending.changes()) {
+        if (const Note *note = findNote(change.id))
+            texts.append(note->text());
+        else if (const Prompt *prompt = findPrompt(change.id))
+            texts.append(prompt->text());
+    }
+    return texts;
+}
+
 bool NotesStore::write()
 {
     std::vector<Database::Change> changes;

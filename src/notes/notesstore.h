@@ -11,6 +11,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <unordered_map>
@@ -55,6 +56,8 @@ public:
     /// failed: nothing is lost, it stays pending in its order, and the store tries again by itself.
     bool save();
     [[nodiscard]] bool hasPendingChanges() const;
+    /// The texts that the file has not got as they are now, in the order in which they changed first.
+    [[nodiscard]] QStringList unwrittenTexts() const;
 
     /// Null if there is no record of that kind with this identity.
     [[nodiscard]] Note *findNote(const RecordId &id) const;

@@ -14,7 +14,7 @@ Surface {
     implicitWidth: icon.size + Theme.space + label.implicitWidth + 2 * 18
     implicitHeight: Math.ceil(label.implicitHeight) + 2 * 11
     cornerRadius: height / 2
-    Accessible.role: Accessible.AlertMessage
+    Accessible.role: Accessible.Notification
     Accessible.name: root.message
 
     Symbol {

@@ -2,11 +2,11 @@
 #include "quicknote/toast.h"
 
 #include "components/surroundings.h"
-#include "platform/appearance.h"
 #include "platform/clock.h"
 #include "platform/screens.h"
 #include "platform/windows.h"
 
+#include <QAccessible>
 #include <QQuickItem>
 #include <QTimer>
 
@@ -32,9 +32,8 @@ Toast::Toast(QQmlEngine &engine, Screens &screens, Windows &windows, Clock &cloc
     : m_screens(screens)
     , m_windows(windows)
     , m_clock(clock)
-    , m_surroundings(Surroundings::of(engine))
     , m_view(&engine, nullptr)
-    , m_fade(&m_view, "opacity")
+    , m_fade(m_view, Surroundings::of(engine))
 {
     [[maybe_unused]] static const volatile auto registration = &qml_register_types_Vesk_QuickNote;
     m_view.setFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
@@ -43,6 +42,7 @@ Toast::Toast(QQmlEngine &engine, Screens &screens, Windows &windows, Clock &cloc
     m_view.setResizeMode(QQuickView::SizeRootObjectToView);
     m_view.setInitialProperties({{u"message"_s, QString()}, {u"symbol"_s, QString()}});
     m_view.setSource(QUrl(u"qrc:/qt/qml/Vesk/QuickNote/ToastView.qml"_s));
+    connect(&m_fade, &WindowFade::gone, &m_view, &QWindow::hide);
     QTimer::singleShot(0, this, &Toast::prepareAhead);
 }
 
@@ -61,7 +61,6 @@ void Toast::prepareAhead()
 void Toast::show(const QString &message, const QString &symbol)
 {
     ++m_notice;
-    m_fade.stop();
     // The title comes first: a list of windows that is read as soon as this one is there has it.
     m_view.setTitle(message);
     setContent(message, symbol);
@@ -75,9 +74,11 @@ void Toast::show(const QString &message, const QString &symbol)
             QRectF(QPointF(visible.center().x() - size.width() / 2, visible.y() + kHeightAboveBottom), size));
     }
     m_windows.setCornerRadius(m_view, m_view.height() / 2.0);
-    m_view.setOpacity(fades() ? 0 : 1);
+    m_fade.fadeIn(kFadeIn);
     m_view.show();
-    fade(1, kFadeIn);
+    // No window manager keeps it above the windows that have come up since it was made.
+    m_view.raise();
+    announce();
     leaveLater(this, &m_clock, m_notice);
 }
 
@@ -86,13 +87,7 @@ QCoro::Task<> Toast::leaveLater(QPointer<Toast> self, Clock *clock, quint64 noti
     co_await clock->sleep(kStay);
     if (!self || self->m_notice != notice)
         co_return;
-    if (self->fades()) {
-        self->fade(0, kFadeOut);
-        co_await clock->sleep(kFadeOut);
-        if (!self || self->m_notice != notice)
-            co_return;
-    }
-    self->m_view.hide();
+    self->m_fade.fadeOut(kFadeOut);
 }
 
 void Toast::setContent(const QString &message, const QString &symbol)
@@ -103,20 +98,12 @@ void Toast::setContent(const QString &message, const QString &symbol)
     m_view.resize(qCeil(content->implicitWidth()), qCeil(content->implicitHeight()));
 }
 
-void Toast::fade(qreal opacity, std::chrono::milliseconds duration)
+void Toast::announce() const
 {
-    if (!fades())
-        return;
-    m_fade.stop();
-    m_fade.setStartValue(m_view.opacity());
-    m_fade.setEndValue(opacity);
-    m_fade.setDuration(static_cast<int>(duration.count()));
-    m_fade.start();
-}
-
-bool Toast::fades() const
-{
-    return m_windows.isComposited() && !m_surroundings.appearance().shouldReduceMotion();
+    // What makes screen readers speak is a notification that comes on screen. The window's own coming
+    // is not enough: they leave such windows out, and a second notice finds it there.
+    QAccessibleEvent event(m_view.rootObject(), QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace vesk

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "quicknote/notice.h"
+#include "quicknote/windowfade.h"
+
 #include <QCoroTask>
 
 #include <QObject>
 #include <QPointer>
-#include <QPropertyAnimation>
 #include <QQuickView>
 
 class QQmlEngine;
@@ -14,7 +16,6 @@ namespace vesk {
 
 class Clock;
 class Screens;
-class Surroundings;
 class Windows;
 
 /// The short notice at the bottom of the screen that confirms what was done. One window serves all
@@ -32,6 +33,7 @@ public:
     /// Shows a message with a symbol, in place of the one before, for its full time: 1.4 seconds and
     /// the fading.
     void show(const QString &message, const QString &symbol);
+    void show(const Notice &notice) { show(notice.message.toString(), notice.symbol.toString()); }
 
     [[nodiscard]] QQuickView &window() { return m_view; }
 
@@ -40,15 +42,14 @@ private:
 
     void prepareAhead();
     void setContent(const QString &message, const QString &symbol);
-    void fade(qreal opacity, std::chrono::milliseconds duration);
-    [[nodiscard]] bool fades() const;
+    /// Has a screen reader read the notice out.
+    void announce() const;
 
     Screens &m_screens;
     Windows &m_windows;
     Clock &m_clock;
-    Surroundings &m_surroundings;
     QQuickView m_view;
-    QPropertyAnimation m_fade;
+    WindowFade m_fade;
     /// Counts the notices, so that one that was replaced does not take the next one away.
     quint64 m_notice = 0;
 };

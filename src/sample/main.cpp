@@ -15,7 +15,9 @@
 #include "platform/memory/memorydefaults.h"
 #include "platform/memory/memorypasteboard.h"
 #include "platform/memory/memoryscreens.h"
+#include "platform/memory/memorysounds.h"
 #include "platform/memory/memoryworkspace.h"
+#include "quicknote/quicknotepanel.h"
 #include "quicknote/toast.h"
 
 #include <QCommandLineParser>
@@ -62,10 +64,13 @@ int main(int argc, char *argv[])
     const QCommandLineOption search(u"search"_s, u"What to search for."_s, u"TEXT"_s);
     const QCommandLineOption notice(u"notice"_s, u"Shows a notice as well."_s, u"TEXT"_s);
     const QCommandLineOption editor(u"editor"_s, u"Shows a note in the editor instead."_s);
+    const QCommandLineOption quickNote(u"quick-note"_s, u"Shows the quick-note box with a draft instead."_s,
+                                       u"TEXT"_s);
+    const QCommandLineOption quickChecklist(u"quick-checklist"_s, u"The same for a checklist."_s, u"TEXT"_s);
     const QCommandLineOption screenshot(u"screenshot"_s, u"Writes a picture of the panel and quits."_s,
                                         u"FILE"_s);
     options.addOptions({dark, strong, textScale, empty, untrusted, composited, still, notes, search, notice,
-                        editor, screenshot});
+                        editor, quickNote, quickChecklist, screenshot});
     options.process(program);
 
     const QTemporaryDir folder;
@@ -104,11 +109,27 @@ int main(int argc, char *argv[])
     vesk::PanelModel model(*opened.store, clock, defaults, application, accessibility);
     vesk::PanelWindow panel(engine, model, application, screens, windows);
     vesk::Toast toast(engine, screens, windows, clock);
-    if (options.isSet(editor))
+    vesk::MemorySounds sounds;
+    vesk::QuickNotePanel box({.engine = engine,
+                              .store = *opened.store,
+                              .clock = clock,
+                              .application = application,
+                              .screens = screens,
+                              .windows = windows,
+                              .sounds = sounds,
+                              .toast = toast});
+    using Mode = vesk::QuickNoteBox::Mode;
+    const bool isChecklist = options.isSet(quickChecklist);
+    if (options.isSet(editor)) {
         sheet = vesk::sampleeditor::show(engine);
-    else
+    } else if (isChecklist || options.isSet(quickNote)) {
+        box.show(isChecklist ? Mode::Checklist : Mode::Note);
+        box.model().setText(
+            options.value(isChecklist ? quickChecklist : quickNote).replace(u"\\n"_s, u"\n"_s));
+    } else {
         panel.showPanel();
-    QQuickWindow &shown = sheet ? *sheet : panel.window();
+    }
+    QQuickWindow &shown = sheet ? *sheet : box.window() ? *box.window() : panel.window();
     model.setSearch(options.value(search));
     if (options.isSet(notice))
         toast.show(options.value(notice), u"checkmark.circle.fill"_s);

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Vesk.Components
+
+// What some keys do. `keys` are in the notation of Vesk's texts.
+Row {
+    id: root
+
+    required property list<string> keys
+    required property string label
+
+    spacing: 5
+
+    Row {
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+
+        Repeater {
+            model: root.keys
+
+            KeyCap {
+                required property string modelData
+
+                glyph: modelData
+            }
+        }
+    }
+
+    Text {
+        anchors.verticalCenter: parent.verticalCenter
+        text: root.label
+        textFormat: Text.PlainText
+        font: Theme.captionFont
+        color: Theme.secondary
+        Accessible.ignored: true
+    }
+}

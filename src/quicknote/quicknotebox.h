@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace vesk {
+
+/// The place where the user writes a note at once, without going through the panel.
+class QuickNoteBox
+{
+public:
+    enum class Mode {
+        Note,
+        Checklist,
+    };
+
+    virtual ~QuickNoteBox() = default;
+
+    /// Brings the box up with the keyboard.
+    virtual void show(Mode mode) = 0;
+    /// Takes the box away and keeps what was written in it; does nothing if it is not there.
+    virtual void close() = 0;
+    [[nodiscard]] virtual bool isShowing() const = 0;
+};
+
+} // namespace vesk

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "quicknote/quicknotebox.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QString>
+
+namespace vesk {
+
+/// What is being written in the quick-note box. Each mode has a draft of its own; the one that is not
+/// shown is parked. Drafts live as long as the program.
+class QuickNoteModel : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The box has the one.")
+    /// The draft of the current mode, in the notes' markup.
+    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
+    Q_PROPERTY(bool isChecklist READ isChecklist NOTIFY modeChanged)
+    Q_PROPERTY(QString title READ title NOTIFY modeChanged)
+    Q_PROPERTY(QString symbol READ symbol NOTIFY modeChanged)
+
+public:
+    /// Takes the mode's own draft up; a checklist begins with a box.
+    void begin(QuickNoteBox::Mode mode);
+
+    /// What the draft is as a note; empty if there is nothing to keep.
+    [[nodiscard]] QString body() const;
+    /// Drops the draft of the current mode.
+    void clear() { setText({}); }
+
+    [[nodiscard]] const QString &text() const { return m_text; }
+    void setText(const QString &text);
+    [[nodiscard]] bool isChecklist() const { return m_mode == QuickNoteBox::Mode::Checklist; }
+    [[nodiscard]] QString title() const;
+    [[nodiscard]] QString symbol() const;
+
+Q_SIGNALS:
+    void textChanged();
+    void modeChanged();
+
+    // What the view asks of the box.
+    void saveRequested();
+    void closeRequested();
+    /// The user has begun to drag the box by its ground.
+    void moveRequested();
+
+private:
+    QuickNoteBox::Mode m_mode = QuickNoteBox::Mode::Note;
+    QString m_text;
+    QString m_otherDraft;
+};
+
+} // namespace vesk

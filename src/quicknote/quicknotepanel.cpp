@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "quicknote/quicknotepanel.h"
+
+#include "components/surroundings.h"
+#include "notes/notesstore.h"
+#include "platform/appearance.h"
+#include "platform/application.h"
+#include "platform/screens.h"
+#include "platform/sounds.h"
+#include "platform/windows.h"
+#include "quicknote/toast.h"
+
+#include <QGuiApplication>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace vesk {
+
+namespace {
+
+constexpr QSizeF kSize(580, 236);
+constexpr qreal kCornerRadius = 26;
+constexpr auto kFadeIn = 140ms;
+constexpr auto kFadeOut = 120ms;
+/// How much of the screen's visible frame lies above the box.
+constexpr qreal kShareAbove = 0.26;
+
+} // namespace
+
+QuickNotePanel::QuickNotePanel(const Needs &needs)
+    : m_needs(needs)
+{
+    connect(&m_model, &QuickNoteModel::saveRequested, this, &QuickNotePanel::save);
+    connect(&m_model, &QuickNoteModel::closeRequested, this, &QuickNotePanel::close);
+    connect(&needs.application, &Application::didResignActive, this, &QuickNotePanel::close);
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &QuickNotePanel::onFocusWindowChanged);
+    connect(&needs.windows, &Windows::compositedChanged, this, &QuickNotePanel::shape);
+}
+
+QuickNotePanel::~QuickNotePanel() = default;
+
+void QuickNotePanel::makeWindow()
+{
+    m_view = std::make_unique<QQuickView>(&m_needs.engine, nullptr);
+    m_view->setTitle(u"Quick Note"_s);
+    m_view->setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    // Also asks for a window that can be translucent, should a compositor be there or come.
+    m_view->setColor(Qt::transparent);
+    m_view->setResizeMode(QQuickView::SizeRootObjectToView);
+    m_view->setInitialProperties({{u"model"_s, QVariant::fromValue(&m_model)},
+                                  {u"controller"_s, QVariant::fromValue(&m_controller)},
+                                  {u"cornerRadius"_s, kCornerRadius}});
+    m_view->setSource(QUrl(u"qrc:/qt/qml/Vesk/QuickNote/QuickNoteView.qml"_s));
+    m_view->installEventFilter(this);
+    connect(&m_model, &QuickNoteModel::moveRequested, m_view.get(), &QWindow::startSystemMove);
+    connect(m_view.get(), &QWindow::visibleChanged, this, [this](bool isVisible) {
+        if (!isVisible)
+            m_isShowing = false; // The whole program was hidden.
+    });
+
+    // The shape is cut in the screen's own pixels.
+    connect(m_view.get(), &QWindow::screenChanged, this, &QuickNotePanel::shape);
+
+    m_fade = std::make_unique<WindowFade>(*m_view, Surroundings::of(m_needs.engine));
+    connect(m_fade.get(), &WindowFade::gone, m_view.get(), &QWindow::hide);
+}
+
+void QuickNotePanel::show(Mode mode)
+{
+    // First of all: what the user types from here on is meant for the box.
+    m_needs.application.holdKeys();
+    m_model.begin(mode);
+    if (!m_view)
+        makeWindow();
+    m_view->setTitle(m_model.title());
+    place();
+    if (!m_view->isVisible())
+        m_needs.windows.prepare(*m_view, Windows::Kind::Panel);
+    shape();
+    m_fade->fadeIn(kFadeIn);
+    m_view->show();
+    m_view->raise();
+    m_isShowing = true;
+    m_needs.application.activate(*m_view);
+    // At once, not a little later: by then the user may have put the caret elsewhere.
+    m_controller.forceFocus();
+    m_controller.moveCaretToEnd();
+}
+
+void QuickNotePanel::close()
+{
+    if (!m_isShowing)
+        return;
+    m_isShowing = false;
+    // Before the fading: what is typed now is for the application below.
+    m_needs.application.giveKeyboardBack(*m_view);
+    m_fade->fadeOut(kFadeOut);
+}
+
+void QuickNotePanel::save()
+{
+    const QString body = m_model.body();
+    if (body.isEmpty())
+        return;
+    m_needs.store.insert(std::make_unique<Note>(m_needs.clock, body));
+    const bool isSaved = m_needs.store.save();
+    // The store has the note, whether it is written or still to be.
+    m_model.clear();
+    close();
+    m_needs.toast.show(isSaved ? notices::kSaved : notices::kNotSaved);
+    if (isSaved)
+        m_needs.sounds.play(Sounds::Sound::Tink);
+}
+
+void QuickNotePanel::place()
+{
+    const QSizeF size = kSize * Surroundings::of(m_needs.engine).appearance().textFont().scale;
+    const std::optional<Screen> screen = m_needs.screens.screenUnderMouse();
+    if (!screen) {
+        m_view->resize(size.toSize());
+        return;
+    }
+    const QRectF &visible = screen->visibleFrame;
+    // With y upwards a rectangle's bottom() is its top edge.
+    const QPointF corner(visible.center().x() - size.width() / 2,
+                         visible.bottom() - kShareAbove * visible.height() - size.height());
+    // Where the desktop places windows by itself, the size at least is the box's own.
+    if (!m_needs.windows.setFrame(*m_view, QRectF(corner, size)))
+        m_view->resize(size.toSize());
+}
+
+void QuickNotePanel::shape()
+{
+    if (m_view)
+        m_needs.windows.setCornerRadius(*m_view, kCornerRadius);
+}
+
+void QuickNotePanel::onFocusWindowChanged(const QWindow *window)
+{
+    // None means that the keyboard is on its way, or that another program has grabbed it for a moment.
+    // A question of Vesk's own that comes up over the box does not end it.
+    if (!window || window == m_view.get() || window->type() == Qt::Dialog)
+        return;
+    close();
+}
+
+bool QuickNotePanel::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Close) {
+        event->ignore();
+        close();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace vesk

@@ -1,0 +1,334 @@
+// SPDX-License-Identifier: MIT
+#include "components/surroundings.h"
+#include "editor/lentpasteboards.h"
+#include "notes/notesstore.h"
+#include "platform/memory/memoryappearance.h"
+#include "platform/memory/memoryapplication.h"
+#include "platform/memory/memoryclock.h"
+#include "platform/memory/memorypasteboard.h"
+#include "platform/memory/memoryscreens.h"
+#include "platform/memory/memorysounds.h"
+#include "platform/memory/memorywindows.h"
+#include "platform/memory/memoryworkspace.h"
+#include "quicknote/quicknotepanel.h"
+#include "quicknote/toast.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <QQmlEngine>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace vesk;
+using Mode = QuickNoteBox::Mode;
+
+namespace {
+
+/// The real box over the platform in memory.
+struct World
+{
+    World()
+    {
+        appearance.setReduceMotion(true);
+        lendToEngine(engine, appearance, workspace, windows);
+        lendToEditors(engine, pasteboard, &primary);
+        toast = std::make_unique<Toast>(engine, screens, windows, clock);
+        box = std::make_unique<QuickNotePanel>(QuickNotePanel::Needs{.engine = engine,
+                                                                     .store = *store,
+                                                                     .clock = clock,
+                                                                     .application = application,
+                                                                     .screens = screens,
+                                                                     .windows = windows,
+                                                                     .sounds = sounds,
+                                                                     .toast = *toast});
+    }
+
+    /// Opens the box and waits until it has the keyboard.
+    [[nodiscard]] bool show(Mode mode)
+    {
+        box->show(mode);
+        return QTest::qWaitForWindowActive(box->window());
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(box->window(), key, modifiers);
+    }
+    void type(const QString &text)
+    {
+        for (const QChar letter : text)
+            QTest::keyClick(box->window(), letter.toLatin1());
+    }
+    [[nodiscard]] QStringList texts()
+    {
+        QStringList all;
+        for (qsizetype i = 0; i < store->notes().count(); ++i)
+            all.append(store->notes().at(i).text());
+        return all;
+    }
+    [[nodiscard]] QString draft() const { return box->model().text(); }
+    /// What the notice on the screen says; empty if there is none.
+    [[nodiscard]] QString notice()
+    {
+        return toast->window().isVisible() ? toast->window().title() : QString();
+    }
+
+    QTemporaryDir folder;
+    MemoryClock clock;
+    std::unique_ptr<NotesStore> store = NotesStore::open(folder.filePath(u"Notes.store"_s), clock).store;
+    MemoryApplication application;
+    MemoryAppearance appearance;
+    MemoryWorkspace workspace;
+    MemoryScreens screens;
+    MemoryWindows windows{screens};
+    MemorySounds sounds;
+    MemoryPasteboard pasteboard;
+    MemoryPasteboard primary;
+    QQmlEngine engine;
+    std::unique_ptr<Toast> toast;
+    std::unique_ptr<QuickNotePanel> box;
+};
+
+} // namespace
+
+/// The quick-note box as the user meets it, by real keys in the real window.
+class QuickNoteTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+
+private Q_SLOTS:
+    void init() { m_world = std::make_unique<World>(); }
+    void cleanup();
+    void returnKeepsANote();
+    void checklistGoesOnUntilAnEmptyItem();
+    void commandReturnKeepsAChecklist();
+    void blankDraftIsNotKept_data();
+    void blankDraftIsNotKept();
+    void eachModeHasItsDraft();
+    void reopenedBoxHasItsDraftWithTheCaretAtTheEnd();
+    void goesWhenTheKeyboardDoes_data();
+    void goesWhenTheKeyboardDoes();
+    void questionOfOursLeavesItOpen();
+    void failedSaveIsSaidAndNotLost();
+    void standsOverTheMiddleOfThePointersScreen_data();
+    void standsOverTheMiddleOfThePointersScreen();
+    void fadesAndIsUsableMeanwhile();
+
+private:
+    std::unique_ptr<World> m_world;
+};
+
+void QuickNoteTest::cleanup()
+{
+    m_world->box.reset();
+    m_world->toast.reset();
+    m_world->clock.advance(1h);
+    m_world.reset();
+}
+
+void QuickNoteTest::returnKeepsANote()
+{
+    QVERIFY(m_world->show(Mode::Note));
+    m_world->type(u"Plan"_s);
+    m_world->press(Qt::Key_Return, Qt::ShiftModifier);
+    m_world->type(u"- pears "_s);
+    // Nothing more than a key of the editor.
+    m_world->press(Qt::Key_Return, Qt::ControlModifier);
+    QVERIFY(m_world->box->isShowing());
+    m_world->press(Qt::Key_Return);
+
+    QCOMPARE(m_world->texts(), QStringList{u"Plan\n\u2022 pears"_s});
+    QVERIFY(!m_world->store->notes().first()->sourceApp());
+    QVERIFY(!m_world->store->hasPendingChanges());
+    QVERIFY(!m_world->box->window()->isVisible());
+    QVERIFY(!m_world->application.isActive());
+    QCOMPARE(m_world->draft(), QString());
+    QCOMPARE(m_world->notice(), u"Saved to Vesk"_s);
+    QCOMPARE(m_world->sounds.played().size(), 1);
+}
+
+void QuickNoteTest::checklistGoesOnUntilAnEmptyItem()
+{
+    QVERIFY(m_world->show(Mode::Checklist));
+    QCOMPARE(m_world->draft(), u"\u2610 "_s);
+    m_world->type(u"Milk"_s);
+    m_world->press(Qt::Key_Return);
+    QCOMPARE(m_world->draft(), u"\u2610 Milk\n\u2610 "_s);
+    QVERIFY(m_world->texts().isEmpty());
+    m_world->press(Qt::Key_Return);
+    QCOMPARE(m_world->texts(), QStringList{u"\u2610 Milk"_s});
+    QVERIFY(!m_world->box->isShowing());
+}
+
+void QuickNoteTest::commandReturnKeepsAChecklist()
+{
+    QVERIFY(m_world->show(Mode::Checklist));
+    m_world->type(u"Milk"_s);
+    m_world->press(Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(m_world->texts(), QStringList{u"\u2610 Milk"_s});
+}
+
+void QuickNoteTest::blankDraftIsNotKept_data()
+{
+    QTest::addColumn<Mode>("mode");
+    QTest::newRow("note") << Mode::Note;
+    QTest::newRow("checklist") << Mode::Checklist;
+}
+
+void QuickNoteTest::blankDraftIsNotKept()
+{
+    QFETCH(Mode, mode);
+    QVERIFY(m_world->show(mode));
+    if (mode == Mode::Note) {
+        m_world->type(u"  "_s);
+        m_world->press(Qt::Key_Return, Qt::ShiftModifier);
+    }
+    m_world->press(Qt::Key_Return);
+    QVERIFY(m_world->box->isShowing());
+    QVERIFY(m_world->texts().isEmpty());
+    QVERIFY(m_world->notice().isEmpty());
+    QVERIFY(m_world->sounds.played().isEmpty());
+}
+
+void QuickNoteTest::eachModeHasItsDraft()
+{
+    QVERIFY(m_world->show(Mode::Note));
+    m_world->type(u"tea"_s);
+    QVERIFY(m_world->show(Mode::Checklist));
+    m_world->type(u"Milk"_s);
+    QVERIFY(m_world->show(Mode::Note));
+    QCOMPARE(m_world->draft(), u"tea"_s);
+    m_world->press(Qt::Key_Return);
+    // The other draft is not the one that was kept.
+    QVERIFY(m_world->show(Mode::Checklist));
+    QCOMPARE(m_world->draft(), u"\u2610 Milk"_s);
+    m_world->type(u"!"_s);
+    QCOMPARE(m_world->draft(), u"\u2610 Milk!"_s);
+}
+
+void QuickNoteTest::reopenedBoxHasItsDraftWithTheCaretAtTheEnd()
+{
+    QVERIFY(m_world->show(Mode::Note));
+    m_world->type(u"tea"_s);
+    m_world->press(Qt::Key_Home);
+    m_world->press(Qt::Key_Escape);
+    QVERIFY(!m_world->box->window()->isVisible());
+    QVERIFY(!m_world->application.isActive());
+    QVERIFY(m_world->show(Mode::Note));
+    m_world->type(u"s"_s);
+    QCOMPARE(m_world->draft(), u"teas"_s);
+    // No later step of the coming up moves the caret away from where the user has put it.
+    m_world->press(Qt::Key_Home);
+    QTest::qWait(200);
+    m_world->type(u"s"_s);
+    QCOMPARE(m_world->draft(), u"steas"_s);
+}
+
+void QuickNoteTest::goesWhenTheKeyboardDoes_data()
+{
+    QTest::addColumn<QString>("to");
+    QTest::newRow("another application") << u"application"_s;
+    QTest::newRow("the panel") << u"panel"_s;
+    QTest::newRow("the window manager closes it") << u"close"_s;
+}
+
+void QuickNoteTest::goesWhenTheKeyboardDoes()
+{
+    QFETCH(QString, to);
+    QVERIFY(m_world->show(Mode::Note));
+    m_world->type(u"tea"_s);
+    QWindow panel;
+    if (to == u"application"_s) {
+        m_world->application.resignActive();
+    } else if (to == u"close"_s) {
+        m_world->box->window()->close();
+    } else {
+        panel.show();
+        panel.requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(&panel));
+    }
+    QVERIFY(!m_world->box->isShowing());
+    QVERIFY(!m_world->box->window()->isVisible());
+    QCOMPARE(m_world->draft(), u"tea"_s);
+}
+
+void QuickNoteTest::questionOfOursLeavesItOpen()
+{
+    QVERIFY(m_world->show(Mode::Note));
+    QWindow question;
+    question.setFlags(Qt::Dialog);
+    question.show();
+    question.requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(&question));
+    QVERIFY(m_world->box->isShowing());
+}
+
+void QuickNoteTest::failedSaveIsSaidAndNotLost()
+{
+    QVERIFY(m_world->show(Mode::Note));
+    m_world->type(u"tea"_s);
+    {
+        SQLite::Database other(m_world->folder.filePath(u"Notes.store"_s).toStdString(),
+                               SQLite::OPEN_READWRITE);
+        other.exec("BEGIN IMMEDIATE");
+        QTest::ignoreMessage(QtWarningMsg, "The notes could not be saved: database is locked");
+        m_world->press(Qt::Key_Return);
+    }
+    QCOMPARE(m_world->notice(), u"Not saved yet, Vesk keeps trying"_s);
+    QVERIFY(m_world->sounds.played().isEmpty());
+    QCOMPARE(m_world->draft(), QString());
+    QCOMPARE(m_world->store->unwrittenTexts(), QStringList{u"tea"_s});
+    m_world->clock.advance(1min);
+    QVERIFY(m_world->store->unwrittenTexts().isEmpty());
+    QCOMPARE(m_world->texts(), QStringList{u"tea"_s});
+}
+
+void QuickNoteTest::standsOverTheMiddleOfThePointersScreen_data()
+{
+    QTest::addColumn<QPointF>("pointer");
+    QTest::addColumn<qreal>("textScale");
+    QTest::addColumn<QRectF>("frame");
+    // 26 % of the height that no dock takes lies above it.
+    QTest::newRow("first screen") << QPointF(100, 100) << 1.0 << QRectF(510, 504, 580, 236);
+    QTest::newRow("second, with a dock") << QPointF(2000, 400) << 1.0 << QRectF(1910, 358.6, 580, 236);
+    QTest::newRow("larger texts") << QPointF(100, 100) << 1.5 << QRectF(365, 386, 870, 354);
+}
+
+void QuickNoteTest::standsOverTheMiddleOfThePointersScreen()
+{
+    QFETCH(QPointF, pointer);
+    QFETCH(qreal, textScale);
+    const QRectF first(0, 0, 1600, 1000);
+    const QRectF second(1600, 0, 1200, 800);
+    m_world->screens.setScreens({{.frame = first, .visibleFrame = first},
+                                 {.frame = second, .visibleFrame = second.adjusted(0, 10, 0, 0)}});
+    m_world->screens.setMouseLocation(pointer);
+    m_world->appearance.setTextFont({.family = {}, .scale = textScale});
+    m_world->box->show(Mode::Note);
+    QTEST(m_world->windows.frame(), "frame");
+}
+
+void QuickNoteTest::fadesAndIsUsableMeanwhile()
+{
+    m_world->appearance.setReduceMotion(false);
+    QVERIFY(m_world->show(Mode::Note));
+    QTRY_COMPARE(m_world->box->window()->opacity(), 1.0);
+    m_world->press(Qt::Key_Escape);
+    // The keyboard goes at once, the picture a little later.
+    QVERIFY(!m_world->box->isShowing());
+    QVERIFY(!m_world->application.isActive());
+    QVERIFY(m_world->box->window()->isVisible());
+    // Opened again before it is gone, it stays.
+    m_world->box->show(Mode::Note);
+    QTRY_COMPARE(m_world->box->window()->opacity(), 1.0);
+    QVERIFY(m_world->box->window()->isVisible());
+    m_world->box->close();
+    QTRY_VERIFY(!m_world->box->window()->isVisible());
+}
+
+QTEST_MAIN(QuickNoteTest)
+#include "tst_quicknote.moc"
