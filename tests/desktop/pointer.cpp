@@ -6,25 +6,51 @@
 
 namespace vesk {
 
+namespace {
+
+constexpr std::chrono::milliseconds kFinger{20};
+
+} // namespace
+
 Pointer::Pointer(DisplayConnection &display)
     : m_display(display)
 {
 }
 
+void Pointer::moveTo(QPoint place)
+{
+    xcb_test_fake_input(m_display.xcb(), XCB_MOTION_NOTIFY, 0, XCB_CURRENT_TIME, m_display.root(),
+                        qint16(place.x()), qint16(place.y()), 0);
+    xcb_flush(m_display.xcb());
+}
+
+void Pointer::drag(QPoint from, QPoint to)
+{
+    constexpr int kSteps = 20;
+    moveTo(from);
+    button(XCB_BUTTON_PRESS);
+    for (int step = 1; step <= kSteps; ++step) {
+        moveTo(from + (to - from) * step / kSteps);
+        std::this_thread::sleep_for(kFinger);
+    }
+    button(XCB_BUTTON_RELEASE);
+}
+
 void Pointer::click(QPoint place, int times)
 {
-    constexpr quint8 kLeftButton = 1;
-    constexpr std::chrono::milliseconds kFinger{20};
-    xcb_connection_t *xcb = m_display.xcb();
-    xcb_test_fake_input(xcb, XCB_MOTION_NOTIFY, 0, XCB_CURRENT_TIME, m_display.root(), qint16(place.x()),
-                        qint16(place.y()), 0);
+    moveTo(place);
     for (int click = 0; click < times; ++click) {
-        for (const quint8 type : {XCB_BUTTON_PRESS, XCB_BUTTON_RELEASE}) {
-            xcb_test_fake_input(xcb, type, kLeftButton, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
-            xcb_flush(xcb);
-            std::this_thread::sleep_for(kFinger);
-        }
+        button(XCB_BUTTON_PRESS);
+        button(XCB_BUTTON_RELEASE);
     }
+}
+
+void Pointer::button(quint8 type)
+{
+    constexpr quint8 kLeftButton = 1;
+    xcb_test_fake_input(m_display.xcb(), type, kLeftButton, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+    xcb_flush(m_display.xcb());
+    std::this_thread::sleep_for(kFinger);
 }
 
 } // namespace vesk

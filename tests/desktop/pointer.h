@@ -13,10 +13,17 @@ class Pointer final
 public:
     explicit Pointer(DisplayConnection &display);
 
+    void moveTo(QPoint place);
+
+    /// Presses the left button at one place, moves through the places between, and lets go at the other.
+    void drag(QPoint from, QPoint to);
+
     /// Clicks the left button `times` times at this place of the screen, as fast as a double click is.
     void click(QPoint place, int times = 1);
 
 private:
+    void button(quint8 type);
+
     DisplayConnection &m_display;
 };
 

@@ -14,7 +14,10 @@ constexpr std::chrono::milliseconds kCaptureGate{2100};
 constexpr std::chrono::milliseconds kFinger{20};
 
 const auto kPanel = QStringLiteral("Vesk");
+const auto kQuickNote = QStringLiteral("Quick Note");
+const auto kQuickChecklist = QStringLiteral("Quick Checklist");
 const auto kSaved = QStringLiteral("Saved to Vesk");
 const auto kAlready = QStringLiteral("Already in Vesk");
+const auto kNotSaved = QStringLiteral("Not saved yet, Vesk keeps trying");
 
 } // namespace vesk

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+namespace vesk {
+
+/// What a screen reader would read out by itself: notifications that come on the screen.
+class Announcements final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `busAddress` is that of the session bus, which knows the accessibility bus.
+    explicit Announcements(const QString &busAddress);
+    ~Announcements() override;
+
+    /// Their names, the first one first.
+    [[nodiscard]] const QStringList &heard() const { return m_heard; }
+
+private Q_SLOTS:
+    void onStateChanged(const QDBusMessage &message);
+
+private:
+    QDBusConnection m_bus;
+    QStringList m_heard;
+};
+
+} // namespace vesk
