@@ -15,6 +15,9 @@ Rectangle {
     required property string message
     required property string acceptLabel
     required property string rejectLabel
+    required property string details
+    // Whether the second button is the one that loses something.
+    required property bool isRejectCostly
 
     signal accepted
     signal rejected
@@ -53,6 +56,12 @@ Rectangle {
             color: Theme.secondary
         }
 
+        MessageDetails {
+            visible: root.details.length > 0
+            width: parent.width
+            text: root.details
+        }
+
         Item {
             width: parent.width
             height: buttons.height + 8
@@ -65,14 +74,14 @@ Rectangle {
                 spacing: Theme.space
 
                 MessageButton {
-                    focus: visible
+                    focus: visible && !root.isRejectCostly
                     visible: root.rejectLabel.length > 0
                     text: root.rejectLabel
                     onClicked: root.rejected()
                 }
 
                 MessageButton {
-                    focus: root.rejectLabel.length === 0
+                    focus: root.rejectLabel.length === 0 || root.isRejectCostly
                     isMain: true
                     text: root.acceptLabel
                     onClicked: root.accepted()

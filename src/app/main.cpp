@@ -4,6 +4,7 @@
 #include "app/messagewindow.h"
 #include "app/notification.h"
 #include "app/quitsignals.h"
+#include "app/unwrittenwindow.h"
 #include "app/veskapp.h"
 #include "components/surroundings.h"
 #include "notes/notesstore.h"
@@ -43,6 +44,28 @@ void showFatal(vesk::Desktop &desktop, const QString &message)
     QCoreApplication::exec();
 }
 
+int runUntilQuit(vesk::Desktop &desktop, vesk::NotesStore &store, vesk::ApplicationService &service,
+                 bool isInBackground)
+{
+    vesk::VeskApp app(desktop, store, service);
+    if (!isInBackground)
+        app.showPanel();
+    return QCoreApplication::exec();
+}
+
+/// Offers the texts that could not be written; returns when the user is done with them.
+void showUnwritten(vesk::Desktop &desktop, const vesk::NotesStore &store)
+{
+    if (store.unwrittenTexts().isEmpty())
+        return;
+    QQmlEngine engine;
+    vesk::lendToEngine(engine, desktop.appearance, desktop.workspace, desktop.windows);
+    vesk::UnwrittenWindow window(engine, store, desktop.pasteboard);
+    QObject::connect(&window, &vesk::UnwrittenWindow::quitRequested, qApp, [] { QCoreApplication::exit(0); });
+    window.show();
+    QCoreApplication::exec();
+}
+
 int runVesk(bool isInBackground)
 {
     using IfTaken = vesk::ApplicationService::IfTaken;
@@ -71,10 +94,11 @@ int runVesk(bool isInBackground)
         showFatal(desktop, u"Could not open the notes store: %1"_s.arg(opened.error));
         return 1;
     }
-    vesk::VeskApp app(desktop, *opened.store, service);
-    if (!isInBackground)
-        app.showPanel();
-    return QCoreApplication::exec();
+    const int result = runUntilQuit(desktop, *opened.store, service, isInBackground);
+    // Any other result means that there is no display left to ask on.
+    if (result == 0 && !opened.store->save())
+        showUnwritten(desktop, *opened.store);
+    return result;
 }
 
 /// Says that there is no X server where the user looks: on standard error and, for a start from a menu,

@@ -10,6 +10,7 @@ using namespace Qt::StringLiterals;
 
 MessageWindow::MessageWindow(QQmlEngine &engine, const Content &content)
     : m_view(&engine, nullptr)
+    , m_isRejectCostly(content.isRejectCostly)
 {
     m_view.setTitle(u"Vesk: %1"_s.arg(content.heading));
     m_view.setFlags(Qt::Dialog);
@@ -17,7 +18,9 @@ MessageWindow::MessageWindow(QQmlEngine &engine, const Content &content)
     m_view.setInitialProperties({{u"heading"_s, content.heading},
                                  {u"message"_s, content.message},
                                  {u"acceptLabel"_s, content.acceptLabel},
-                                 {u"rejectLabel"_s, content.rejectLabel}});
+                                 {u"rejectLabel"_s, content.rejectLabel},
+                                 {u"details"_s, content.details},
+                                 {u"isRejectCostly"_s, content.isRejectCostly}});
     m_view.setSource(QUrl(u"qrc:/qt/qml/Vesk/App/MessageView.qml"_s));
     connect(m_view.rootObject(), SIGNAL(accepted()), this, SIGNAL(accepted()));
     connect(m_view.rootObject(), SIGNAL(rejected()), this, SIGNAL(rejected()));
@@ -44,10 +47,17 @@ void MessageWindow::hide()
     m_view.hide();
 }
 
+void MessageWindow::setAcceptLabel(const QString &label)
+{
+    m_view.rootObject()->setProperty("acceptLabel", label);
+}
+
 bool MessageWindow::eventFilter(QObject *watched, QEvent *event)
 {
     const bool isEscape =
         event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape;
+    if (isEscape && m_isRejectCostly)
+        return true;
     if (isEscape || event->type() == QEvent::Close) {
         Q_EMIT rejected();
         return isEscape;

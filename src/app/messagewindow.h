@@ -23,6 +23,11 @@ public:
         QString acceptLabel;
         /// Empty for no second button.
         QString rejectLabel;
+        /// A longer text to look through and copy from, under the message; empty for none.
+        QString details = {};
+        /// Whether the second button loses something: then the first has the keyboard at first, and
+        /// Escape does nothing.
+        bool isRejectCostly = false;
     };
 
     /// Hidden at first. The engine has to be lent its surroundings before, and to outlive the window.
@@ -32,6 +37,7 @@ public:
     /// Shows the window, or brings it forward.
     void show();
     void hide();
+    void setAcceptLabel(const QString &label);
 
 Q_SIGNALS:
     void accepted();
@@ -42,6 +48,7 @@ protected:
 
 private:
     QQuickView m_view;
+    bool m_isRejectCostly;
 };
 
 } // namespace vesk

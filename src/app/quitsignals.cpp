@@ -31,7 +31,9 @@ QuitSignals::QuitSignals()
         return; // The signals end the program as they are: nothing that was saved is lost.
     m_notifier = std::make_unique<QSocketNotifier>(g_descriptor, QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] {
-        m_notifier->setEnabled(false);
+        // Read, so that the next signal ends what is asked of the user at the end.
+        uint64_t count = 0;
+        static_cast<void>(!read(g_descriptor, &count, sizeof count));
         // Not quit(), which asks the windows, and the panel answers that it only hides.
         QCoreApplication::exit(0);
     });

@@ -44,6 +44,14 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
     , m_panel(store, desktop.clock, desktop.defaults, desktop.application, desktop.accessibility)
     , m_panelWindow(lent(m_engine, desktop), m_panel, desktop.application, desktop.screens, desktop.windows)
     , m_toast(m_engine, desktop.screens, desktop.windows, desktop.clock)
+    , m_quickNote({.engine = m_engine,
+                   .store = store,
+                   .clock = desktop.clock,
+                   .application = desktop.application,
+                   .screens = desktop.screens,
+                   .windows = desktop.windows,
+                   .sounds = desktop.sounds,
+                   .toast = m_toast})
     , m_accessWindow(m_engine, desktop.consent)
     , m_updater(m_engine, desktop.updates, desktop.workspace)
     , m_services({.clock = desktop.clock,
@@ -70,6 +78,10 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
     connect(m_panel.cards(), &CardActions::applicationRequested, &desktop.workspace,
             &Workspace::openApplication);
     connect(m_panel.menu(), &PanelMenu::accessibilitySettingsRequested, &m_accessWindow, &AccessWindow::show);
+    connect(m_panel.menu(), &PanelMenu::quickNoteRequested, this,
+            [this] { m_quickNote.show(QuickNoteBox::Mode::Note); });
+    connect(m_panel.menu(), &PanelMenu::quickChecklistRequested, this,
+            [this] { m_quickNote.show(QuickNoteBox::Mode::Checklist); });
     connect(m_panel.menu(), &PanelMenu::quitRequested, qApp, &QCoreApplication::quit);
     m_watcher.start();
     m_services.start();
@@ -101,8 +113,9 @@ void VeskApp::offerCommands(Desktop &desktop, NotesStore &store, ApplicationServ
             .captureChecklist = {},
             .addToChecklist = {},
             .savePrompt = {},
-            .quickNote = {},
-            .quickChecklist = {},
+            .quickNote = command([](VeskApp &app) { app.m_quickNote.show(QuickNoteBox::Mode::Note); }),
+            .quickChecklist =
+                command([](VeskApp &app) { app.m_quickNote.show(QuickNoteBox::Mode::Checklist); }),
             .addNote =
                 [&clock = desktop.clock, &store](const QString &text) {
                     store.insert(std::make_unique<Note>(clock, text));

@@ -9,6 +9,7 @@
 #include "commands/veskservices.h"
 #include "panel/panelmodel.h"
 #include "panel/panelwindow.h"
+#include "quicknote/quicknotepanel.h"
 #include "quicknote/toast.h"
 
 #include <QCoroTask>
@@ -48,6 +49,7 @@ private:
     PanelModel m_panel;
     PanelWindow m_panelWindow;
     Toast m_toast;
+    QuickNotePanel m_quickNote;
     AccessWindow m_accessWindow;
     AppUpdater m_updater;
     VeskServices m_services;
