@@ -107,6 +107,8 @@ QVariantList AccessibleApplication::answer(const QDBusMessage &message)
         return {reference(name)};
     if (!object.isText)
         return {};
+    if (member == "Get"_L1 && asked.value(1).toString() == "CharacterCount"_L1)
+        return {QVariant::fromValue(QDBusVariant(static_cast<int>(object.text.toUcs4().size())))};
     if (member == "GetNSelections"_L1)
         return {static_cast<int>(object.selections.size())};
     if (member == "GetSelection"_L1) {

@@ -282,6 +282,14 @@ void TestAtSpi::selectedText_data()
     Objects caret = writer;
     caret[u"editor"_s].selections = {};
     QTest::newRow("paragraphs before the caret's") << caret << u"rst"_s;
+    Objects scrolled = writer;
+    scrolled[u"frame"_s].children.removeFirst();
+    scrolled[u"p1"_s].selections = {{0, 5}};
+    QTest::newRow("paragraphs from above the window") << scrolled << kNone.toString();
+    Objects below = writer;
+    below[u"frame"_s].children.removeLast();
+    below[u"editor"_s].selections = {{0, 4}};
+    QTest::newRow("paragraphs to below the window") << below << kNone.toString();
 }
 
 void TestAtSpi::selectedText()

@@ -4,6 +4,7 @@
 #include "platform/accessibility.h"
 #include "platform/freedesktop/atspitext.h"
 
+#include <QDBusVariant>
 #include <QSet>
 
 #include <vector>
@@ -38,6 +39,24 @@ QCoro::Task<AtSpiReference> pageAround(AtSpiQuestion question, AtSpiReference ob
     co_return AtSpiReference();
 }
 
+/// Whether the selection may go on where no paragraph is to be seen: Writer has only those on the
+/// screen. `selected` has the ranges of each paragraph.
+QCoro::Task<bool> goesOutOfSight(AtSpiQuestion question, AtSpiReference last,
+                                 QList<QList<AtSpiRange>> selected)
+{
+    // One paragraph alone is no document that was scrolled.
+    if (selected.size() < 2)
+        co_return false;
+    if (!selected.first().isEmpty() && selected.first().first().start == 0)
+        co_return true;
+    if (selected.last().isEmpty())
+        co_return false;
+    const std::optional<QVariantList> reply =
+        co_await question.property(last, u"org.a11y.atspi.Text"_s, u"CharacterCount"_s);
+    const QVariant count = reply ? reply->value(0).value<QDBusVariant>().variant() : QVariant();
+    co_return !count.isValid() || selected.last().last().end >= count.toInt();
+}
+
 /// What is selected in the paragraphs of a document, each on a line of its own.
 QCoro::Task<std::optional<QString>> readParagraphs(AtSpiQuestion question, QList<AtSpiReference> paragraphs)
 {
@@ -51,8 +70,10 @@ QCoro::Task<std::optional<QString>> readParagraphs(AtSpiQuestion question, QList
     // whose text would be missing.
     QStringList between;
     bool isHole = false;
+    QList<QList<AtSpiRange>> selected;
     for (size_t index = 0; index < pending.size(); ++index) {
         const std::optional<QList<AtSpiRange>> ranges = co_await pending[index];
+        selected.append(ranges.value_or(QList<AtSpiRange>()));
         isHole = isHole || !ranges;
         if (!ranges || ranges->isEmpty()) {
             between.append(QString());
@@ -68,7 +89,8 @@ QCoro::Task<std::optional<QString>> readParagraphs(AtSpiQuestion question, QList
         isHole = false;
         lines.append(*text);
     }
-    if (question.isOver())
+    const bool isCut = co_await goesOutOfSight(question, paragraphs.last(), selected);
+    if (isCut || question.isOver())
         co_return std::nullopt;
     co_return lines.join(u'\n');
 }
