@@ -34,7 +34,7 @@ public:
     /// Connection that has asked for events last and is still there; empty if there is none.
     [[nodiscard]] QString listener() const;
 
-    QString introspect(const QString &) const override { return {}; }
+    QString introspect(const QString & /*path*/) const override { return {}; }
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
 
 private:

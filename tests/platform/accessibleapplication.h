@@ -56,7 +56,7 @@ public:
     /// Says that an object got or lost the keyboard, whatever its state is.
     void announceFocus(const QString &name, bool isFocused);
 
-    QString introspect(const QString &) const override { return {}; }
+    QString introspect(const QString & /*path*/) const override { return {}; }
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
 
 private:
