@@ -26,7 +26,7 @@ RemoteControl::RemoteControl(ApplicationService &service, Commands commands)
 {
 }
 
-void RemoteControl::AddNote(const QString &text, const QDBusMessage &message)
+void RemoteControl::AddNote(const QString &text, const QDBusMessage &message) const
 {
     const QString trimmed = text.trimmed();
     if (trimmed.isEmpty())

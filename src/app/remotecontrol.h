@@ -42,17 +42,23 @@ public:
     RemoteControl(ApplicationService &service, Commands commands);
 
 public Q_SLOTS:
-    void Toggle(const QDBusMessage &message) { carryOut(m_commands.toggle, message); }
-    void Write(const QDBusMessage &message) { carryOut(m_commands.write, message); }
-    void Quit(const QDBusMessage &message) { carryOut(m_commands.quit, message); }
-    void Capture(const QDBusMessage &message) { carryOut(m_commands.capture, message); }
-    void CaptureToLastNote(const QDBusMessage &message) { carryOut(m_commands.captureToLastNote, message); }
-    void CaptureChecklist(const QDBusMessage &message) { carryOut(m_commands.captureChecklist, message); }
-    void AddToChecklist(const QDBusMessage &message) { carryOut(m_commands.addToChecklist, message); }
-    void SavePrompt(const QDBusMessage &message) { carryOut(m_commands.savePrompt, message); }
-    void QuickNote(const QDBusMessage &message) { carryOut(m_commands.quickNote, message); }
-    void QuickChecklist(const QDBusMessage &message) { carryOut(m_commands.quickChecklist, message); }
-    void AddNote(const QString &text, const QDBusMessage &message);
+    void Toggle(const QDBusMessage &message) const { carryOut(m_commands.toggle, message); }
+    void Write(const QDBusMessage &message) const { carryOut(m_commands.write, message); }
+    void Quit(const QDBusMessage &message) const { carryOut(m_commands.quit, message); }
+    void Capture(const QDBusMessage &message) const { carryOut(m_commands.capture, message); }
+    void CaptureToLastNote(const QDBusMessage &message) const
+    {
+        carryOut(m_commands.captureToLastNote, message);
+    }
+    void CaptureChecklist(const QDBusMessage &message) const
+    {
+        carryOut(m_commands.captureChecklist, message);
+    }
+    void AddToChecklist(const QDBusMessage &message) const { carryOut(m_commands.addToChecklist, message); }
+    void SavePrompt(const QDBusMessage &message) const { carryOut(m_commands.savePrompt, message); }
+    void QuickNote(const QDBusMessage &message) const { carryOut(m_commands.quickNote, message); }
+    void QuickChecklist(const QDBusMessage &message) const { carryOut(m_commands.quickChecklist, message); }
+    void AddNote(const QString &text, const QDBusMessage &message) const;
 
 private:
     /// Answers the caller first: what a command does may take its time.

@@ -113,7 +113,7 @@ ParsedCommandLine parseForm(const QString &word, const QStringList &options)
         return wrong(u"%1 takes one option at most."_s.arg(word));
     const QString option = options.value(0);
     const auto isMeant = [&](const Form &form) { return isNamed(form) && option == form.option; };
-    const auto form = std::ranges::find_if(kForms, isMeant);
+    const auto *const form = std::ranges::find_if(kForms, isMeant);
     if (form == kForms.end())
         return wrong(u"%1 does not know %2."_s.arg(word, option));
     return right({.kind = form->kind, .method = form->method, .isJson = option == "--json"_L1});
