@@ -82,7 +82,12 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
             [this] { m_quickNote.show(QuickNoteBox::Mode::Note); });
     connect(m_panel.menu(), &PanelMenu::quickChecklistRequested, this,
             [this] { m_quickNote.show(QuickNoteBox::Mode::Checklist); });
-    connect(m_panel.menu(), &PanelMenu::quitRequested, qApp, &QCoreApplication::quit);
+    // Not quit(), which asks the windows, and the panel answers that it only hides.
+    connect(m_panel.menu(), &PanelMenu::quitRequested, this, [] { QCoreApplication::exit(0); });
+    connect(m_panel.menu(), &PanelMenu::updateCheckRequested, &m_updater, &AppUpdater::checkForUpdates);
+    const auto followUpdater = [this] { m_panel.menu()->setCanCheckForUpdates(m_updater.canCheck()); };
+    connect(&m_updater, &AppUpdater::canCheckChanged, this, followUpdater);
+    followUpdater();
     m_watcher.start();
     m_services.start();
     offerCommands(desktop, store, service);
