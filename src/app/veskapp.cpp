@@ -133,6 +133,8 @@ void VeskApp::onAction(const QString &name)
 {
     if (name == "new-note"_L1)
         write();
+    else if (name == "quick-note"_L1)
+        m_quickNote.show(QuickNoteBox::Mode::Note);
     else
         showPanel();
 }
