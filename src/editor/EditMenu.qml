@@ -9,7 +9,7 @@ Menu {
     id: root
 
     required property NoteTextView view
-    required property bool hasSelection
+    property bool hasSelection: false
 
     name: qsTr("Edit")
 

@@ -191,14 +191,13 @@ FocusScope {
         readonly property bool isOpen: menu.item ? (menu.item as EditMenu).isOpen : false
 
         function show(point: point) {
-            active = true;
-            (item as EditMenu).openAt(edit, point.x, point.y);
-        }
-
-        active: false
-        sourceComponent: EditMenu {
-            view: view
-            hasSelection: edit.selectedText.length > 0
+            if (!item)
+                setSource("EditMenu.qml", {
+                        "view": view
+                    });
+            const opened = item as EditMenu;
+            opened.hasSelection = edit.selectedText.length > 0;
+            opened.openAt(edit, point.x, point.y);
         }
     }
 }

@@ -77,6 +77,7 @@ bool NoteTextView::handleShortcut(QKeyEvent &event) const
 bool NoteTextView::handleKey(QKeyEvent &event)
 {
     m_time = event.timestamp();
+    m_isMovingRight = event.key() == Qt::Key_Right;
     if (m_edit.isComposing()) {
         // The input method lets through what it has no use for. A letter follows what was composed so
         // far; any other key would tear it apart.

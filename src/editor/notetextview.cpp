@@ -139,13 +139,12 @@ void NoteTextView::setDropPosition(int position)
 void NoteTextView::passLineBreak()
 {
     const Selection selection = m_edit.selection();
-    const qsizetype former = std::exchange(m_caret, selection.caret);
     const QStringView text(m_text->text());
     const qsizetype caret = selection.caret;
     if (caret < 1 || caret >= text.size() || text.at(caret - 1) != u'\r' || text.at(caret) != u'\n'
         || m_edit.isComposing())
         return;
-    const qsizetype passed = former == caret - 1 ? caret + 1 : caret - 1;
+    const qsizetype passed = m_isMovingRight ? caret + 1 : caret - 1;
     m_edit.select({.anchor = selection.isEmpty() ? passed : selection.anchor, .caret = passed});
 }
 
@@ -383,6 +382,7 @@ bool NoteTextView::eventFilter(QObject *watched, QEvent *event)
             return false;
         if (event->type() != QEvent::MouseMove)
             m_history.endStep();
+        m_isMovingRight = false;
         return !m_edit.isComposing() && m_mouse->handle(static_cast<const QMouseEvent &>(*event));
     default:
         return QQuickItem::eventFilter(watched, event);

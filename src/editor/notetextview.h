@@ -176,7 +176,7 @@ private:
     qreal m_visibleTop = 0;
     qreal m_visibleHeight = 0;
     int m_dropPosition = -1;
-    qsizetype m_caret = 0;
+    bool m_isMovingRight = false;
 };
 
 } // namespace vesk

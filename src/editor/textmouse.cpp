@@ -71,7 +71,7 @@ bool TextMouse::pressLeft(const QMouseEvent &event)
     }
     // The second and the third click select a word and a line, also where something is selected.
     const auto interval = static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
-    const bool isThird = m_doubleClicked && event.timestamp() - *m_doubleClicked < interval;
+    const bool isThird = m_doubleClicked && event.timestamp() < *m_doubleClicked + interval;
     const Selection selection = m_edit.selection();
     const qsizetype position = m_edit.positionAt(point);
     const bool isInside = position >= selection.start() && position <= selection.end();

@@ -146,11 +146,6 @@ QRectF EditorFixture::rectangleOf(int position) const
     return rectangle;
 }
 
-QImage EditorFixture::picture()
-{
-    return window.grabWindow();
-}
-
 QList<QQuickItem *> EditorFixture::boxes() const
 {
     QList<QQuickItem *> found;

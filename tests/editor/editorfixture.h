@@ -5,6 +5,7 @@
 #include "editor/lentpasteboards.h"
 #include "editor/noteeditorcontroller.h"
 #include "platform/memory/memoryappearance.h"
+#include "platform/memory/memoryclock.h"
 #include "platform/memory/memorypasteboard.h"
 #include "platform/memory/memoryscreens.h"
 #include "platform/memory/memorywindows.h"
@@ -44,7 +45,9 @@ public:
     [[nodiscard]] QPoint inWindow(const QPointF &point) const;
     [[nodiscard]] QRectF rectangleOf(int position) const;
     /// The window as it is painted.
-    [[nodiscard]] QImage picture();
+    [[nodiscard]] QImage picture() { return window.grabWindow(); }
+    /// Has the window painted, and so everything laid out.
+    void paint() { static_cast<void>(picture()); }
     [[nodiscard]] QList<QQuickItem *> boxes() const;
 
     MemoryAppearance appearance;
