@@ -148,6 +148,17 @@ void benchCapture(VirtualDesktop &desktop, TextEditor &editor)
     captures.print();
 }
 
+/// The figures of the note editor, by a program of its own.
+void benchEditor(VirtualDesktop &desktop)
+{
+    const QString program = QCoreApplication::applicationDirPath() + u"/vesk-bench-editor"_s;
+    const std::unique_ptr<ChildProcess> editor = desktop.run(program);
+    if (editor && editor->waitForExit(120s))
+        std::printf("%s", qPrintable(editor->output()));
+    else
+        std::printf("the editor's bench did not come to an end\n");
+}
+
 int bench()
 {
     QString problem;
@@ -187,6 +198,7 @@ int bench()
         return fail("The editor did not start.");
     benchCapture(*desktop, *editor);
     std::printf("memory, hidden, after use (bar 66): %.1f MB\n", residentMemory(vesk->pid()));
+    benchEditor(*desktop);
     return 0;
 }
 

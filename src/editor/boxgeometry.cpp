@@ -5,9 +5,11 @@
 #include "editor/notetext.h"
 #include "notes/markup.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QTextBlock>
 #include <QTextDocument>
+
+#include <algorithm>
+#include <ranges>
 
 namespace vesk::boxgeometry {
 
@@ -18,12 +20,16 @@ constexpr qreal kSize = 17;
 constexpr qreal kBeside = 4;
 constexpr qreal kAbove = 3;
 
+/// The last paragraph that begins at this height or above, else the first. Asked of the layout's own
+/// search, a long text would be gone through paragraph by paragraph.
 QTextBlock blockAt(const NoteText &text, qreal y)
 {
     const QTextDocument &document = text.document();
-    // The layout is done as far down as it has been asked for.
-    const int position = document.documentLayout()->hitTest(QPointF(0, y), Qt::FuzzyHit);
-    return document.findBlock(std::max(position, 0));
+    const auto numbers = std::views::iota(1, document.blockCount());
+    const auto after = std::ranges::upper_bound(numbers, y, {}, [&document](int number) {
+        return document.findBlockByNumber(number).layout()->position().y();
+    });
+    return document.findBlockByNumber(static_cast<int>(after - numbers.begin()));
 }
 
 bool hasBox(const NoteText &text, const QTextBlock &block)

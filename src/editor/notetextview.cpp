@@ -5,7 +5,7 @@
 #include "editor/lentpasteboards.h"
 #include "editor/notetext.h"
 #include "editor/textmouse.h"
-#include "platform/pasteboard.h"
+#include "editor/texttransfer.h"
 
 #include <QCoroTimer>
 
@@ -17,7 +17,6 @@
 #include <QScopedValueRollback>
 #include <QStyleHints>
 #include <QTextBlock>
-#include <QTextCursor>
 #include <QTextDocument>
 
 using namespace std::chrono_literals;
@@ -51,7 +50,8 @@ void NoteTextView::componentComplete()
     QTextDocument *document = m_edit.document();
     m_text = std::make_unique<NoteText>(*document, TextFormats::paragraph(), nullptr);
     m_styler = std::make_unique<Styler>(*m_text);
-    m_mouse = std::make_unique<TextMouse>(*this, m_edit, *m_text);
+    m_transfer = std::make_unique<TextTransfer>(*this, m_edit, *m_text, LentPasteboards::findFor(*engine));
+    m_mouse = std::make_unique<TextMouse>(*this, m_edit, *m_text, *m_transfer);
     m_theme = engine->singletonInstance<Theme *>(qmlTypeId("Vesk.Components", 1, 0, "Theme"));
     connect(m_theme, &Theme::changed, this, &NoteTextView::restyle);
     restyle();
@@ -198,73 +198,19 @@ void NoteTextView::redo()
         replay(step->change, step->after);
 }
 
-QString NoteTextView::selectedText() const
+void NoteTextView::cut()
 {
-    const Selection selection = m_edit.selection();
-    return m_text->text().mid(selection.start(), selection.length());
-}
-
-Pasteboard *NoteTextView::findPasteboard(bool isPrimary) const
-{
-    const QQmlEngine *engine = qmlEngine(this);
-    const LentPasteboards *lent = engine ? LentPasteboards::findFor(*engine) : nullptr;
-    if (!lent)
-        return nullptr;
-    return isPrimary ? lent->primary() : &lent->pasteboard();
+    m_transfer->cut();
 }
 
 void NoteTextView::copy()
 {
-    Pasteboard *pasteboard = findPasteboard(false);
-    if (pasteboard && !m_edit.selection().isEmpty())
-        pasteboard->setString(selectedText());
-}
-
-void NoteTextView::cut()
-{
-    const Selection selection = m_edit.selection();
-    if (selection.isEmpty() || !findPasteboard(false))
-        return;
-    copy();
-    edit(selection.start(), selection.length(), {}, Selection::at(selection.start()));
+    m_transfer->copy();
 }
 
 void NoteTextView::paste()
 {
-    if (Pasteboard *pasteboard = findPasteboard(false))
-        insertFrom(*pasteboard, std::nullopt);
-}
-
-void NoteTextView::pasteSelected(qsizetype position)
-{
-    if (Pasteboard *primary = findPasteboard(true))
-        insertFrom(*primary, position);
-}
-
-QCoro::Task<> NoteTextView::insertFrom(Pasteboard &pasteboard, std::optional<qsizetype> position)
-{
-    const QPointer<NoteTextView> self(this);
-    // Follows what is typed before the owner of the text has answered.
-    QTextCursor place(&m_text->document());
-    place.setPosition(static_cast<int>(position.value_or(0)));
-    const std::optional<QString> text = co_await pasteboard.string();
-    if (self.isNull() || !text || m_edit.isComposing())
-        co_return;
-    if (position)
-        m_edit.select(Selection::at(place.position()));
-    insertPlainText(*text);
-}
-
-void NoteTextView::publishSelection()
-{
-    Pasteboard *primary = findPasteboard(true);
-    if (!primary || m_edit.selection().isEmpty())
-        return;
-    const QString text = selectedText();
-    if (text == m_publishedText)
-        return;
-    m_publishedText = text;
-    primary->setString(text);
+    m_transfer->paste();
 }
 
 void NoteTextView::selectAll()
@@ -287,23 +233,6 @@ void NoteTextView::dropText(const QString &text)
         return;
     edit(position, 0, text, {.anchor = position, .caret = position + text.size()});
     forceFocus();
-}
-
-void NoteTextView::moveSelection(qsizetype position, bool isCopied)
-{
-    const Selection selection = m_edit.selection();
-    const QString moved = selectedText();
-    if (isCopied) {
-        edit(position, 0, moved, {.anchor = position, .caret = position + moved.size()});
-    } else if (position < selection.start()) {
-        const QString passed = m_text->text().mid(position, selection.start() - position);
-        edit(position, selection.end() - position, moved + passed,
-             {.anchor = position, .caret = position + moved.size()});
-    } else if (position > selection.end()) {
-        const QString passed = m_text->text().mid(selection.end(), position - selection.end());
-        edit(selection.start(), position - selection.start(), passed + moved,
-             {.anchor = position - moved.size(), .caret = position});
-    }
 }
 
 void NoteTextView::toggleLinePrefix(const QString &marker)
@@ -373,7 +302,7 @@ bool NoteTextView::eventFilter(QObject *watched, QEvent *event)
         return handleInputMethod(static_cast<const QInputMethodEvent &>(*event));
     case QEvent::KeyRelease:
     case QEvent::MouseButtonRelease:
-        QMetaObject::invokeMethod(this, &NoteTextView::publishSelection, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(m_transfer.get(), &TextTransfer::publishSelection, Qt::QueuedConnection);
         [[fallthrough]];
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:

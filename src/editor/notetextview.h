@@ -21,8 +21,8 @@ class QKeyEvent;
 namespace vesk {
 
 class NoteText;
-class Pasteboard;
 class TextMouse;
+class TextTransfer;
 
 /// The rules of a note's editor: makes the toolkit's text item, its target, edit a note's text. Sees
 /// the item's events before the item does, and decides what becomes of them.
@@ -75,10 +75,9 @@ public:
     /// Puts a text that was dropped where it was dropped.
     Q_INVOKABLE void dropText(const QString &text);
 
-    /// Moves what is selected, or a copy of it, to another place.
-    void moveSelection(qsizetype position, bool isCopied);
-    /// Puts what was last selected anywhere at this place.
-    void pasteSelected(qsizetype position);
+    /// Changes the text as one step to take back. An operation for the rules, the mouse and the
+    /// pasteboards of the editor.
+    void edit(qsizetype position, qsizetype length, const QString &text, const Selection &after);
 
     [[nodiscard]] QQuickItem *target() const { return m_edit.item(); }
     void setTarget(QQuickItem *target);
@@ -135,19 +134,15 @@ private:
     bool typeSpace();
     void typeLineBreak();
 
-    void edit(qsizetype position, qsizetype length, const QString &text, const Selection &after);
     void onChanged(const Splice &change);
     void replay(const Splice &change, const Selection &after);
     void restyle();
-    void publishSelection();
-    [[nodiscard]] QString selectedText() const;
-    [[nodiscard]] Pasteboard *findPasteboard(bool isPrimary) const;
-    QCoro::Task<> insertFrom(Pasteboard &pasteboard, std::optional<qsizetype> position);
     QCoro::Task<> waitForFocus();
 
     EditItem m_edit;
     std::unique_ptr<NoteText> m_text;
     std::unique_ptr<Styler> m_styler;
+    std::unique_ptr<TextTransfer> m_transfer;
     std::unique_ptr<TextMouse> m_mouse;
     VisibleBoxes m_boxes;
     EditHistory m_history;
@@ -164,7 +159,6 @@ private:
 
     bool m_isLaidOut = true;
     QString m_loadedText;
-    QString m_publishedText;
     qreal m_fontSize = 14;
     bool m_firstLineIsTitle = false;
     qreal m_titleBoost = 7;

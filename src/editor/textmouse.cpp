@@ -4,6 +4,7 @@
 #include "editor/boxgeometry.h"
 #include "editor/edititem.h"
 #include "editor/notetextview.h"
+#include "editor/texttransfer.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -11,10 +12,11 @@
 
 namespace vesk {
 
-TextMouse::TextMouse(NoteTextView &view, const EditItem &edit, const NoteText &text)
+TextMouse::TextMouse(NoteTextView &view, const EditItem &edit, const NoteText &text, TextTransfer &transfer)
     : m_view(view)
     , m_edit(edit)
     , m_text(text)
+    , m_transfer(transfer)
 {
 }
 
@@ -50,7 +52,7 @@ bool TextMouse::press(const QMouseEvent &event)
         return pressLeft(event);
     case Qt::MiddleButton:
         m_edit.item()->forceActiveFocus(Qt::MouseFocusReason);
-        m_view.pasteSelected(m_edit.positionAt(event.position()));
+        m_transfer.pasteSelected(m_edit.positionAt(event.position()));
         return true;
     case Qt::RightButton:
         m_edit.item()->forceActiveFocus(Qt::MouseFocusReason);
@@ -102,7 +104,7 @@ void TextMouse::release(const QMouseEvent &event)
         return;
     }
     m_view.setDropPosition(-1);
-    m_view.moveSelection(position, event.modifiers().testFlag(Qt::ControlModifier));
+    m_transfer.moveSelection(position, event.modifiers().testFlag(Qt::ControlModifier));
 }
 
 } // namespace vesk

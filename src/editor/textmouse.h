@@ -14,6 +14,7 @@ namespace vesk {
 class EditItem;
 class NoteText;
 class NoteTextView;
+class TextTransfer;
 
 /// What the mouse does in an editor beyond placing the caret and selecting: it ticks boxes, drags the
 /// selected text, pastes what is selected elsewhere, and asks for the menu.
@@ -21,7 +22,7 @@ class TextMouse final
 {
 public:
     /// All of them have to outlive this.
-    TextMouse(NoteTextView &view, const EditItem &edit, const NoteText &text);
+    TextMouse(NoteTextView &view, const EditItem &edit, const NoteText &text, TextTransfer &transfer);
 
     /// True if the event was taken, false if it is for the item.
     bool handle(const QMouseEvent &event);
@@ -35,6 +36,7 @@ private:
     NoteTextView &m_view;
     const EditItem &m_edit;
     const NoteText &m_text;
+    TextTransfer &m_transfer;
     /// The button went down on something of ours; what comes until it is up again is ours too.
     bool m_isTaken = false;
     /// Where the selection was pressed that may be dragged.
