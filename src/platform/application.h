@@ -27,8 +27,9 @@ public:
     virtual void unhide() = 0;
 
     /// Keeps the keys that are typed from now on for the window that `activate` is about to give the
-    /// keyboard to, as far as the platform can; without an `activate` that follows, for a moment only.
-    virtual void holdKeys() = 0;
+    /// keyboard to; without an `activate` that follows, for a moment only. False if the platform cannot,
+    /// or one of this program's windows has the keyboard already.
+    virtual bool holdKeys() = 0;
 
     /// Gives the keyboard to `window`, which is shown or being shown, and remembers the window of
     /// another application that had it.

@@ -19,7 +19,7 @@ public:
     [[nodiscard]] bool isHidden() const override { return m_isHidden; }
     void hide() override;
     void unhide() override { m_isHidden = false; }
-    void holdKeys() override {}
+    bool holdKeys() override { return false; }
     void activate(QWindow &window) override;
     void giveKeyboardBack(QWindow &window) override;
 

@@ -18,10 +18,10 @@ KeyboardHold::KeyboardHold(X11Connection &connection)
     connect(&connection, &X11Connection::eventReceived, this, &KeyboardHold::onEvent);
 }
 
-void KeyboardHold::begin()
+bool KeyboardHold::begin()
 {
     if (m_isHolding)
-        return;
+        return true;
     // In the synchronous mode the server keeps the keys until the grab goes.
     const auto cookie = xcb_grab_keyboard(m_connection.xcb(), 0, m_connection.root(), XCB_CURRENT_TIME,
                                           XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_SYNC);
@@ -30,6 +30,7 @@ void KeyboardHold::begin()
     m_isHolding = reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
     if (m_isHolding)
         m_limit.start();
+    return m_isHolding;
 }
 
 void KeyboardHold::end()

@@ -20,8 +20,8 @@ class KeyboardHold final : public QObject
 public:
     explicit KeyboardHold(X11Connection &connection);
 
-    /// Does nothing if it holds already, or another application has the keyboard to itself.
-    void begin();
+    /// Whether it holds now: not if another application has the keyboard to itself.
+    bool begin();
     /// Lets all keys go to the window that has the keyboard now.
     void end();
 

@@ -23,7 +23,11 @@ X11Application::X11Application(X11Connection &connection, X11Workspace &workspac
     constexpr std::chrono::milliseconds kSettled{100};
     m_elsewhere.setSingleShot(true);
     m_elsewhere.setInterval(kSettled);
-    connect(&m_elsewhere, &QTimer::timeout, this, [this] { setActive(false); });
+    connect(&m_elsewhere, &QTimer::timeout, this, [this] {
+        // News of an earlier switch may be all that was heard so far.
+        if (!isOwnWindowActive())
+            setActive(false);
+    });
     constexpr std::chrono::milliseconds kActivation{500};
     m_activation.setSingleShot(true);
     m_activation.setInterval(kActivation);
@@ -60,10 +64,11 @@ void X11Application::hide()
     Q_EMIT didHide();
 }
 
-void X11Application::holdKeys()
+bool X11Application::holdKeys()
 {
-    if (!QGuiApplication::focusWindow())
-        m_hold.begin();
+    // Qt lets go of a window that is hidden only when the server says so.
+    const QWindow *window = QGuiApplication::focusWindow();
+    return !(window && window->isVisible()) && m_hold.begin();
 }
 
 void X11Application::activate(QWindow &window)
@@ -97,10 +102,11 @@ void X11Application::giveKeyboardBack(QWindow &window)
 
 void X11Application::onActiveWindowChanged()
 {
-    const std::optional<xcb_window_t> window = m_workspace.activeWindow();
-    if (window && m_workspace.processOf(*window) == QCoreApplication::applicationPid()) {
+    if (isOwnWindowActive()) {
         m_elsewhere.stop();
         m_activation.stop();
+        if (QGuiApplication::focusWindow())
+            m_hold.end();
         setActive(true);
     } else if (!m_elsewhere.isActive()) {
         // A switch passes through other windows, or none: after a quick hide and show the news of the
@@ -116,6 +122,12 @@ void X11Application::setActive(bool isActive)
     m_isActive = isActive;
     if (!isActive)
         Q_EMIT didResignActive();
+}
+
+bool X11Application::isOwnWindowActive() const
+{
+    const std::optional<xcb_window_t> window = m_workspace.activeWindow();
+    return window && m_workspace.processOf(*window) == QCoreApplication::applicationPid();
 }
 
 std::optional<xcb_window_t> X11Application::foreignActiveWindow() const

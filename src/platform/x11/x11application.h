@@ -31,13 +31,14 @@ public:
     [[nodiscard]] bool isHidden() const override { return m_isHidden; }
     void hide() override;
     void unhide() override { m_isHidden = false; }
-    void holdKeys() override;
+    bool holdKeys() override;
     void activate(QWindow &window) override;
     void giveKeyboardBack(QWindow &window) override;
 
 private:
     void onActiveWindowChanged();
     void setActive(bool isActive);
+    [[nodiscard]] bool isOwnWindowActive() const;
     /// The active window, if it is another application's.
     [[nodiscard]] std::optional<xcb_window_t> foreignActiveWindow() const;
 
