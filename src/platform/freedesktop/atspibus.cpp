@@ -68,7 +68,7 @@ void AtSpiBus::stop()
 std::optional<QDBusPendingCall> AtSpiBus::send(const QDBusMessage &message,
                                                std::chrono::milliseconds deadline)
 {
-    if (!isConnected())
+    if (!m_bus || !m_bus->isConnected())
         return std::nullopt;
     return m_bus->asyncCall(message, static_cast<int>(deadline.count()));
 }
@@ -138,7 +138,7 @@ QCoro::Task<> AtSpiBus::connectToBus()
             m_bus = bus;
             m_address = address;
             m_failures = 0;
-            listen();
+            listen(bus);
             Q_EMIT connected();
             co_return;
         }
@@ -167,18 +167,18 @@ void AtSpiBus::leaveBus()
     Q_EMIT disconnected();
 }
 
-void AtSpiBus::listen()
+void AtSpiBus::listen(QDBusConnection bus)
 {
-    m_bus->connect(QString(), u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s,
-                   u"Disconnected"_s, this, SLOT(onDisconnected()));
+    bus.connect(QString(), u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s,
+                u"Disconnected"_s, this, SLOT(onDisconnected()));
     // Only these of the many changes that applications announce once anyone listens to them.
     const QStringList focused(u"focused"_s);
-    m_bus->connect(QString(), QString(), kObjectEvents, u"StateChanged"_s, focused, QString(), this,
-                   SLOT(onStateChanged(QDBusMessage)));
-    m_bus->connect(kRegistryService, kRootPath, kObjectEvents, u"ChildrenChanged"_s, this,
-                   SLOT(onChildrenChanged(QDBusMessage)));
+    bus.connect(QString(), QString(), kObjectEvents, u"StateChanged"_s, focused, QString(), this,
+                SLOT(onStateChanged(QDBusMessage)));
+    bus.connect(kRegistryService, kRootPath, kObjectEvents, u"ChildrenChanged"_s, this,
+                SLOT(onChildrenChanged(QDBusMessage)));
     // A registry that is started anew knows nothing of its former listeners.
-    m_registryWatcher = std::make_unique<QDBusServiceWatcher>(kRegistryService, *m_bus,
+    m_registryWatcher = std::make_unique<QDBusServiceWatcher>(kRegistryService, bus,
                                                               QDBusServiceWatcher::WatchForRegistration);
     connect(m_registryWatcher.get(), &QDBusServiceWatcher::serviceRegistered, this,
             &AtSpiBus::registerEvents);
@@ -187,6 +187,8 @@ void AtSpiBus::listen()
 
 void AtSpiBus::registerEvents()
 {
+    if (!m_bus)
+        return;
     // Without this, most toolkits send no events at all.
     QDBusMessage message = QDBusMessage::createMethodCall(kRegistryService, u"/org/a11y/atspi/registry"_s,
                                                           kRegistryService, u"RegisterEvent"_s);

@@ -62,7 +62,7 @@ private:
     QCoro::Task<> connectToBus();
     void connectLater();
     void leaveBus();
-    void listen();
+    void listen(QDBusConnection bus);
     void registerEvents();
 
     bool m_isStarted = false;
