@@ -8,9 +8,6 @@
 #include <QTextBlock>
 #include <QTextDocument>
 
-#include <algorithm>
-#include <ranges>
-
 namespace vesk::boxgeometry {
 
 namespace {
@@ -25,11 +22,14 @@ constexpr qreal kAbove = 3;
 QTextBlock blockAt(const NoteText &text, qreal y)
 {
     const QTextDocument &document = text.document();
-    const auto numbers = std::views::iota(1, document.blockCount());
-    const auto after = std::ranges::upper_bound(numbers, y, {}, [&document](int number) {
-        return document.findBlockByNumber(number).layout()->position().y();
-    });
-    return document.findBlockByNumber(static_cast<int>(after - numbers.begin()));
+    int first = 0;
+    int beyond = document.blockCount();
+    while (beyond - first > 1) {
+        const int middle = (first + beyond) / 2;
+        const bool isAbove = document.findBlockByNumber(middle).layout()->position().y() <= y;
+        (isAbove ? first : beyond) = middle;
+    }
+    return document.findBlockByNumber(first);
 }
 
 bool hasBox(const NoteText &text, const QTextBlock &block)
