@@ -49,6 +49,7 @@ private Q_SLOTS:
     void refusesWhatIsNoText();
     void startsInTheBackgroundAndInFront();
     void commandsStartVeskAndEndIt();
+    void entryActionsDoWhatTheySay();
     void capturesWithoutAKey();
     void saysWhatIsMissing();
     void interfaceIsAsDescribed();
@@ -193,6 +194,28 @@ void TestCommands::commandsStartVeskAndEndIt()
     QCOMPARE(vesk(u"quit"_s).code, 0);
     QVERIFY(!isOnTheBus());
     QVERIFY(!m_desktop->keyboard().isHotKeyTaken(XK_n));
+}
+
+void TestCommands::entryActionsDoWhatTheySay()
+{
+    const std::unique_ptr<ChildProcess> running = m_desktop->startVesk();
+    QVERIFY(running && isOnTheBus());
+    const auto choose = [](const QString &action) {
+        QDBusMessage call = QDBusMessage::createMethodCall(
+            kName, u"/org/vesk/Vesk"_s, u"org.freedesktop.Application"_s, u"ActivateAction"_s);
+        call << action << QVariantList() << QVariantMap();
+        return QDBusConnection(u"vesk-test-commands"_s).call(call).type() == QDBusMessage::ReplyMessage;
+    };
+    for (const auto &[action, title] :
+         {std::pair(u"new-note"_s, kPanel), std::pair(u"quick-note"_s, kQuickNote)}) {
+        QVERIFY(choose(action));
+        const std::optional<Window> window = m_desktop->windows().waitViewable(title, kBound);
+        VERIFY_ON(*m_desktop, window);
+        VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*window, kBound));
+    }
+    // Closed and opened again by the command.
+    QCOMPARE(vesk(u"quick-note"_s).code, 0);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kQuickNote, kBound));
 }
 
 void TestCommands::capturesWithoutAKey()
