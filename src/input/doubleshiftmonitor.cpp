@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "input/doubleshiftmonitor.h"
 
-#include "platform/clock.h"
 #include "platform/eventtap.h"
 
 namespace vesk {
@@ -13,45 +12,63 @@ constexpr std::chrono::milliseconds kInterval{400};
 
 } // namespace
 
-DoubleShiftMonitor::DoubleShiftMonitor(EventTap &tap, Clock &clock)
+DoubleShiftMonitor::DoubleShiftMonitor(EventTap &tap)
     : m_tap(tap)
-    , m_clock(clock)
 {
-    // A key typed while Shift is held leaves the tap itself standing: only what came before counts
-    // no more.
-    connect(&tap, &EventTap::keyDown, this, [this] { m_lastTap.reset(); });
-    connect(&tap, &EventTap::flagsChanged, this, &DoubleShiftMonitor::setFlags);
 }
 
 void DoubleShiftMonitor::start()
 {
     // Without the platform's leave there is no double tap; all else is at hand by hot key.
-    m_tap.start();
+    if (m_isListening || !m_tap.start())
+        return;
+    m_isListening = true;
+    // A key typed while Shift is held leaves the tap itself standing: only what came before counts
+    // no more.
+    connect(&m_tap, &EventTap::keyDown, this, [this] { m_lastTap.reset(); });
+    connect(&m_tap, &EventTap::wheelTurned, this, [this] { m_lastTap.reset(); });
+    connect(&m_tap, &EventTap::flagsChanged, this, &DoubleShiftMonitor::setFlags);
+    connect(&m_tap, &EventTap::interrupted, this, &DoubleShiftMonitor::forget);
 }
 
-void DoubleShiftMonitor::setFlags(Qt::KeyboardModifiers flags)
+void DoubleShiftMonitor::stop()
 {
-    if (flags == Qt::ShiftModifier) {
+    m_tap.disconnect(this);
+    m_isListening = false;
+    forget();
+}
+
+void DoubleShiftMonitor::setFlags(const ModifierChange &change)
+{
+    // With Caps Lock on, Shift writes small letters: it is not the Shift that is tapped.
+    const bool isShift = change.held == Qt::ShiftModifier && !change.isCapsLocked;
+    const bool isNothing = change.held == Qt::NoModifier && !change.isCapsLocked;
+    if (isShift) {
         m_shiftIsDown = true;
         return;
     }
-    const bool hasEnded = flags == Qt::NoModifier && m_shiftIsDown;
+    const bool hasEnded = isNothing && m_shiftIsDown;
     m_shiftIsDown = false;
     if (hasEnded)
-        endTap();
-    else if (flags != Qt::NoModifier)
+        endTap(change.time);
+    else if (!isNothing)
         m_lastTap.reset();
 }
 
-void DoubleShiftMonitor::endTap()
+void DoubleShiftMonitor::endTap(std::chrono::milliseconds now)
 {
-    const std::chrono::microseconds now = m_clock.monotonic();
     if (!m_lastTap || now - *m_lastTap > kInterval) {
         m_lastTap = now;
         return;
     }
     m_lastTap.reset();
     Q_EMIT doubleShift();
+}
+
+void DoubleShiftMonitor::forget()
+{
+    m_lastTap.reset();
+    m_shiftIsDown = false;
 }
 
 } // namespace vesk

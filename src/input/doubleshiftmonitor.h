@@ -8,8 +8,8 @@
 
 namespace vesk {
 
-class Clock;
 class EventTap;
+struct ModifierChange;
 
 /// Notices two taps of Shift in quick succession, with nothing else pressed between. Owned by whoever
 /// acts on it.
@@ -18,12 +18,14 @@ class DoubleShiftMonitor final : public QObject
     Q_OBJECT
 
 public:
-    /// Both have to outlive the monitor.
-    DoubleShiftMonitor(EventTap &tap, Clock &clock);
+    /// Does not listen yet. The tap has to outlive the monitor.
+    explicit DoubleShiftMonitor(EventTap &tap);
 
     /// Begins to listen. Does nothing if it listens already; where listening is not allowed yet, a
     /// later call tries again.
     void start();
+    /// Ends to listen, and forgets a tap that was made.
+    void stop();
 
 Q_SIGNALS:
     /// Shift was tapped twice; the second tap has ended 0.4 seconds after the first at the latest. A
@@ -31,13 +33,14 @@ Q_SIGNALS:
     void doubleShift();
 
 private:
-    void setFlags(Qt::KeyboardModifiers flags);
-    void endTap();
+    void setFlags(const ModifierChange &change);
+    void endTap(std::chrono::milliseconds now);
+    void forget();
 
     EventTap &m_tap;
-    Clock &m_clock;
+    bool m_isListening = false;
     /// When the last single tap ended.
-    std::optional<std::chrono::microseconds> m_lastTap;
+    std::optional<std::chrono::milliseconds> m_lastTap;
     /// Whether Shift, and no other modifier, is held.
     bool m_shiftIsDown = false;
 };

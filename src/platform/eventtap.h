@@ -3,7 +3,20 @@
 
 #include <QObject>
 
+#include <chrono>
+
 namespace vesk {
+
+/// The modifiers as they are after one of them went down or up.
+struct ModifierChange
+{
+    /// All that are held down.
+    Qt::KeyboardModifiers held;
+    /// Whether Caps Lock is on. Num Lock, which many people never turn off, is not told.
+    bool isCapsLocked = false;
+    /// When it happened, by the keyboard's own clock, whose zero is arbitrary.
+    std::chrono::milliseconds time{0};
+};
 
 /// Listens to the keyboard while other applications have it. Only listens: every key goes on to the
 /// application that it is meant for.
@@ -17,10 +30,14 @@ public:
 
 Q_SIGNALS:
     /// A key that is not a modifier, or a mouse button, went down; once a press, not again for
-    /// auto-repeat.
+    /// auto-repeat. Num Lock and Scroll Lock are such keys.
     void keyDown();
-    /// A modifier went down or up; `modifiers` are all that are down now, the locks left out.
-    void flagsChanged(Qt::KeyboardModifiers modifiers);
+    /// The mouse's wheel was turned.
+    void wheelTurned();
+    /// A modifier or Caps Lock went down or up.
+    void flagsChanged(vesk::ModifierChange change);
+    /// Nothing is heard any more, because the user no longer agrees, or it is heard again.
+    void interrupted();
 };
 
 } // namespace vesk

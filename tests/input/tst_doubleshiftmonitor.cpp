@@ -1,18 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "input/doubleshiftmonitor.h"
-#include "platform/memory/memoryclock.h"
 #include "platform/memory/memorykeyboard.h"
 
+#include <QHash>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
 /// Which keys count as Shift tapped twice. The keys are written as a row of letters: s and S, Shift
-/// down and up; c and C, Shift and Control down, then all up; x, a letter; . and _, 100 ms and
-/// 1 ms that pass.
+/// down and up; c and C, Shift and Control down, then all up; k, K, Caps Lock goes on and off; l and L,
+/// Shift down and up while it is on; x, a letter or a mouse button; w, the wheel; i, an interruption;
+/// . and _, 100 ms and 1 ms that pass.
 class TestDoubleShiftMonitor : public QObject
 {
     Q_OBJECT
@@ -42,6 +45,13 @@ void TestDoubleShiftMonitor::taps_data()
     QTest::newRow("a tap, then Shift left over from a combination") << u"sS.cs.S"_s << 0;
     QTest::newRow("Shift left over from a combination, then a tap") << u"cs.S.sS"_s << 1;
     QTest::newRow("left Shift held, right Shift tapped") << u"ssS"_s << 0;
+    QTest::newRow("Caps Lock is on") << u"k.lL.lL"_s << 0;
+    QTest::newRow("Caps Lock between") << u"sS.kK.sS"_s << 0;
+    QTest::newRow("Caps Lock goes off while Shift is held") << u"k.lsS.sS"_s << 1;
+    QTest::newRow("clicks with Shift") << u"sxS.sxS"_s << 0;
+    QTest::newRow("scrolling with Shift") << u"swS.swS"_s << 0;
+    QTest::newRow("an interruption between") << u"sS.i.sS"_s << 0;
+    QTest::newRow("an interruption while Shift is held") << u"sS.siS"_s << 0;
     QTest::newRow("release without a press") << u"S.S.sS"_s << 0;
 }
 
@@ -49,33 +59,31 @@ void TestDoubleShiftMonitor::taps()
 {
     QFETCH(const QString, keys);
     QFETCH(const int, expected);
-    MemoryClock clock;
     MemoryEventTap tap;
-    DoubleShiftMonitor monitor(tap, clock);
+    DoubleShiftMonitor monitor(tap);
     const QSignalSpy doubleShift(&monitor, &DoubleShiftMonitor::doubleShift);
     monitor.start();
-    for (const QChar key : keys) {
-        switch (key.unicode()) {
-        case u's':
-            tap.setFlags(Qt::ShiftModifier);
-            break;
-        case u'c':
-            tap.setFlags(Qt::ShiftModifier | Qt::ControlModifier);
-            break;
-        case u'S':
-        case u'C':
-            tap.setFlags(Qt::NoModifier);
-            break;
-        case u'x':
-            tap.press();
-            break;
-        case u'.':
-            clock.advance(100ms);
-            break;
-        default:
-            clock.advance(1ms);
-        }
-    }
+    std::chrono::milliseconds now{5};
+    const auto hold = [&tap, &now](Qt::KeyboardModifiers held, bool isCapsLocked = false) {
+        tap.setFlags({.held = held, .isCapsLocked = isCapsLocked, .time = now});
+    };
+    const QHash<QChar, std::function<void()>> actions{
+        {u's', [&] { hold(Qt::ShiftModifier); }},
+        {u'c', [&] { hold(Qt::ShiftModifier | Qt::ControlModifier); }},
+        {u'S', [&] { hold(Qt::NoModifier); }},
+        {u'C', [&] { hold(Qt::NoModifier); }},
+        {u'k', [&] { hold(Qt::NoModifier, true); }},
+        {u'K', [&] { hold(Qt::NoModifier); }},
+        {u'l', [&] { hold(Qt::ShiftModifier, true); }},
+        {u'L', [&] { hold(Qt::NoModifier, true); }},
+        {u'x', [&] { tap.press(); }},
+        {u'w', [&] { tap.turnWheel(); }},
+        {u'i', [&] { Q_EMIT tap.interrupted(); }},
+        {u'.', [&] { now += 100ms; }},
+        {u'_', [&] { now += 1ms; }},
+    };
+    for (const QChar key : keys)
+        actions.value(key)();
     QCOMPARE(doubleShift.count(), expected);
 }
 

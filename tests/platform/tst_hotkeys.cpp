@@ -59,6 +59,7 @@ public:
     }
 
     HotKeys &hotKeys() override { return m_hotKeys; }
+    [[nodiscard]] const ModifierMap &modifiers() const { return m_input.modifiers(); }
 
     void press(KeyCombination combination) override
     {
@@ -106,6 +107,7 @@ private Q_SLOTS:
     void heldKeyFiresOnce_data();
     void heldKeyFiresOnce();
     void locksDoNotMatter();
+    void keysFollowTheModifiers();
 
 private:
     static void benches();
@@ -238,6 +240,44 @@ void TestHotKeys::locksDoNotMatter()
     it->press(kN);
     keyboard.tap({XK_Caps_Lock});
     QCOMPARE(fired(spy, 3).size(), 3);
+}
+
+/// Super goes to a bit of its own, Num Lock to the one that Super had.
+void TestHotKeys::keysFollowTheModifiers()
+{
+    X11Bench bench(m_desktop->keyboard(), true);
+    QVERIFY(bench.hotKeys().registerHotKey(1, kN));
+    QVERIFY(bench.hotKeys().registerHotKey(2, kShiftN));
+    QSignalSpy spy(&bench.hotKeys(), &HotKeys::pressed);
+    QSignalSpy moved(&bench.modifiers(), &ModifierMap::changed);
+    xcb_connection_t *xcb = m_desktop->display().xcb();
+    const Reply<xcb_get_modifier_mapping_reply_t> usual{
+        xcb_get_modifier_mapping_reply(xcb, xcb_get_modifier_mapping(xcb), nullptr)};
+    QVERIFY(usual);
+    const int width = usual->keycodes_per_modifier;
+    const xcb_keycode_t *keys = xcb_get_modifier_mapping_keycodes(usual.get());
+    const auto setMapping = [&](const QList<xcb_keycode_t> &mapping) {
+        const auto cookie = xcb_set_modifier_mapping(xcb, uint8_t(width), mapping.constData());
+        const Reply<xcb_set_modifier_mapping_reply_t> reply{
+            xcb_set_modifier_mapping_reply(xcb, cookie, nullptr)};
+        QVERIFY(reply && reply->status == XCB_MAPPING_STATUS_SUCCESS);
+        QTRY_VERIFY(!moved.isEmpty());
+        moved.clear();
+    };
+    const auto row = [&](int modifier) {
+        return QList(keys + qsizetype{width} * modifier, keys + qsizetype{width} * (modifier + 1));
+    };
+    // Shift, Lock, Control, then the five that are free.
+    setMapping(row(0) + row(1) + row(2) + row(3) + row(5) + row(6) + row(4) + row(7));
+    bench.press(kN);
+    m_desktop->keyboard().tap({XK_Num_Lock}, kFinger);
+    bench.press(kN);
+    bench.press(kShiftN);
+    m_desktop->keyboard().tap({XK_Num_Lock}, kFinger);
+    QCOMPARE(fired(spy, 3), (QList<quint32>{1, 1, 2}));
+    setMapping(QList(keys, keys + qsizetype{width} * 8));
+    bench.press(kN);
+    QCOMPARE(fired(spy, 4).constLast(), 1U);
 }
 
 int main(int argc, char **argv)

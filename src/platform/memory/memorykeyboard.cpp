@@ -35,10 +35,16 @@ void MemoryEventTap::press()
         Q_EMIT keyDown();
 }
 
-void MemoryEventTap::setFlags(Qt::KeyboardModifiers modifiers)
+void MemoryEventTap::turnWheel()
 {
     if (m_isStarted)
-        Q_EMIT flagsChanged(modifiers);
+        Q_EMIT wheelTurned();
+}
+
+void MemoryEventTap::setFlags(ModifierChange change)
+{
+    if (m_isStarted)
+        Q_EMIT flagsChanged(change);
 }
 
 QCoro::Task<bool> MemoryEventPoster::post(Command command)

@@ -42,7 +42,8 @@ public:
 
     /// Plays a key; heard only once `start` was called.
     void press();
-    void setFlags(Qt::KeyboardModifiers modifiers);
+    void turnWheel();
+    void setFlags(ModifierChange change);
     /// Plays a platform that does not let anyone listen; `start` then gives false.
     void setAllowed(bool isAllowed) { m_isAllowed = isAllowed; }
 

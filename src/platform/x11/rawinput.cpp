@@ -9,8 +9,8 @@ namespace vesk {
 
 RawInput::RawInput(X11Connection &connection)
     : m_connection(connection)
+    , m_modifiers(connection)
 {
-    readModifiers();
     connect(&connection, &X11Connection::eventReceived, this, &RawInput::onEvent);
 }
 
@@ -34,6 +34,15 @@ void RawInput::setListening(bool isListening)
     }
     xcb_input_xi_select_events(m_connection.xcb(), m_connection.root(), 1, &selection.header);
     m_connection.flush();
+    Q_EMIT listeningChanged();
+}
+
+bool RawInput::isCapsLocked() const
+{
+    const auto cookie = xcb_query_pointer(m_connection.xcb(), m_connection.root());
+    const XReply<xcb_query_pointer_reply_t> reply(
+        xcb_query_pointer_reply(m_connection.xcb(), cookie, nullptr));
+    return reply && (reply->mask & XCB_MOD_MASK_LOCK) != 0;
 }
 
 xcb_timestamp_t RawInput::lastPress() const
@@ -50,10 +59,6 @@ void RawInput::setHotKeyPress(xcb_keycode_t key, xcb_timestamp_t time)
 void RawInput::onEvent(const xcb_generic_event_t *event)
 {
     const auto type = event->response_type & 0x7f;
-    if (type == XCB_MAPPING_NOTIFY) {
-        readModifiers();
-        return;
-    }
     const auto *generic = reinterpret_cast<const xcb_ge_generic_event_t *>(event);
     if (type != XCB_GE_GENERIC || generic->extension != m_connection.inputOpcode())
         return;
@@ -64,6 +69,8 @@ void RawInput::onEvent(const xcb_generic_event_t *event)
         if (button->detail <= kLastSelecting) {
             onPress({.key = 0, .time = button->time});
             Q_EMIT buttonPressed();
+        } else {
+            Q_EMIT wheelTurned();
         }
         return;
     }
@@ -72,9 +79,9 @@ void RawInput::onEvent(const xcb_generic_event_t *event)
     if (generic->event_type == XCB_INPUT_RAW_KEY_PRESS) {
         if (!isModifier(key))
             onPress({.key = key, .time = raw->time});
-        Q_EMIT keyPressed(key);
+        Q_EMIT keyPressed(key, raw->time);
     } else if (generic->event_type == XCB_INPUT_RAW_KEY_RELEASE) {
-        Q_EMIT keyReleased(key);
+        Q_EMIT keyReleased(key, raw->time);
     }
 }
 
@@ -85,23 +92,6 @@ void RawInput::onPress(Press press)
     if (!wasHotKey)
         m_previous = m_last;
     m_last = press;
-}
-
-void RawInput::readModifiers()
-{
-    const auto cookie = xcb_get_modifier_mapping(m_connection.xcb());
-    const XReply<xcb_get_modifier_mapping_reply_t> reply(
-        xcb_get_modifier_mapping_reply(m_connection.xcb(), cookie, nullptr));
-    if (!reply)
-        return;
-    m_modifiers.clear();
-    const xcb_keycode_t *keys = xcb_get_modifier_mapping_keycodes(reply.get());
-    // As many keys for each modifier, Shift first, in the order of the modifiers' bits.
-    const int perModifier = reply->keycodes_per_modifier;
-    for (int i = 0; i < xcb_get_modifier_mapping_keycodes_length(reply.get()); ++i) {
-        if (keys[i] != 0)
-            m_modifiers[keys[i]] |= static_cast<uint8_t>(1U << (i / perModifier));
-    }
 }
 
 } // namespace vesk

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QHash>
+#include "platform/x11/modifiermap.h"
+
 #include <QObject>
 
 #include <xcb/xcb.h>
@@ -31,16 +32,20 @@ public:
     /// application's. May come before the press itself is heard.
     void setHotKeyPress(xcb_keycode_t key, xcb_timestamp_t time);
 
-    /// The core protocol's bit of a modifier key; 0 for any other key.
-    [[nodiscard]] uint8_t modifierMask(xcb_keycode_t key) const { return m_modifiers.value(key, 0); }
-    [[nodiscard]] bool isModifier(xcb_keycode_t key) const { return m_modifiers.contains(key); }
+    [[nodiscard]] const ModifierMap &modifiers() const { return m_modifiers; }
+    [[nodiscard]] bool isModifier(xcb_keycode_t key) const { return m_modifiers.isModifier(key); }
+    /// Whether Caps Lock is on now.
+    [[nodiscard]] bool isCapsLocked() const;
 
 Q_SIGNALS:
-    /// A key went down; not repeated while it is held.
-    void keyPressed(xcb_keycode_t key);
-    void keyReleased(xcb_keycode_t key);
+    /// A key went down, at the server's time; not repeated while it is held.
+    void keyPressed(xcb_keycode_t key, xcb_timestamp_t time);
+    void keyReleased(xcb_keycode_t key, xcb_timestamp_t time);
     /// A mouse button went down; not the wheel.
     void buttonPressed();
+    void wheelTurned();
+    /// Listening has begun or ended; what was down or up before is not known.
+    void listeningChanged();
 
 private:
     struct Press
@@ -52,11 +57,10 @@ private:
 
     void onEvent(const xcb_generic_event_t *event);
     void onPress(Press press);
-    void readModifiers();
 
     X11Connection &m_connection;
+    ModifierMap m_modifiers;
     bool m_isListening = false;
-    QHash<xcb_keycode_t, uint8_t> m_modifiers;
     Press m_last;
     Press m_previous;
     Press m_hotKey;

@@ -5,25 +5,6 @@
 
 namespace vesk {
 
-namespace {
-
-struct MaskedModifier
-{
-    unsigned mask;
-    Qt::KeyboardModifier modifier;
-};
-
-/// Without the locks, which are no part of what is being pressed.
-constexpr MaskedModifier kModifiers[]{
-    {.mask = XCB_MOD_MASK_SHIFT, .modifier = Qt::ShiftModifier},
-    {.mask = XCB_MOD_MASK_CONTROL, .modifier = Qt::ControlModifier},
-    {.mask = XCB_MOD_MASK_1, .modifier = Qt::AltModifier},
-    {.mask = XCB_MOD_MASK_4, .modifier = Qt::MetaModifier},
-    {.mask = XCB_MOD_MASK_5, .modifier = Qt::GroupSwitchModifier},
-};
-
-} // namespace
-
 X11EventTap::X11EventTap(RawInput &input)
     : m_input(input)
 {
@@ -37,37 +18,43 @@ bool X11EventTap::start()
     connect(&m_input, &RawInput::keyPressed, this, &X11EventTap::onKeyPressed);
     connect(&m_input, &RawInput::keyReleased, this, &X11EventTap::onKeyReleased);
     connect(&m_input, &RawInput::buttonPressed, this, &EventTap::keyDown);
+    connect(&m_input, &RawInput::wheelTurned, this, &EventTap::wheelTurned);
+    connect(&m_input, &RawInput::listeningChanged, this, &X11EventTap::onListeningChanged);
     return true;
 }
 
-void X11EventTap::onKeyPressed(xcb_keycode_t key)
+void X11EventTap::onKeyPressed(xcb_keycode_t key, xcb_timestamp_t time)
 {
-    if (!m_input.isModifier(key)) {
+    const Qt::KeyboardModifiers modifiers = m_input.modifiers().modifiersOf(key);
+    if (modifiers == Qt::NoModifier && !m_input.modifiers().isCapsLock(key)) {
         Q_EMIT keyDown();
         return;
     }
-    m_modifiersDown.insert(key);
-    tellFlags();
+    m_held.insert(key, modifiers);
+    tellFlags(time);
 }
 
-void X11EventTap::onKeyReleased(xcb_keycode_t key)
+void X11EventTap::onKeyReleased(xcb_keycode_t key, xcb_timestamp_t time)
 {
     // Releases without a press come from tools that want to be sure, and mean nothing.
-    if (m_modifiersDown.remove(key))
-        tellFlags();
+    if (m_held.remove(key))
+        tellFlags(time);
 }
 
-void X11EventTap::tellFlags()
+void X11EventTap::onListeningChanged()
 {
-    unsigned masks = 0;
-    for (const xcb_keycode_t key : std::as_const(m_modifiersDown))
-        masks |= m_input.modifierMask(key);
-    Qt::KeyboardModifiers modifiers;
-    for (const MaskedModifier &each : kModifiers) {
-        if (masks & each.mask)
-            modifiers |= each.modifier;
-    }
-    Q_EMIT flagsChanged(modifiers);
+    m_held.clear();
+    Q_EMIT interrupted();
+}
+
+void X11EventTap::tellFlags(xcb_timestamp_t time)
+{
+    m_time += std::chrono::milliseconds(static_cast<int32_t>(time - m_serverTime));
+    m_serverTime = time;
+    ModifierChange change{.held = {}, .isCapsLocked = m_input.isCapsLocked(), .time = m_time};
+    for (const Qt::KeyboardModifiers modifiers : std::as_const(m_held))
+        change.held |= modifiers;
+    Q_EMIT flagsChanged(change);
 }
 
 } // namespace vesk

@@ -3,7 +3,7 @@
 
 #include "platform/eventtap.h"
 
-#include <QSet>
+#include <QHash>
 
 #include <xcb/xcb.h>
 
@@ -22,13 +22,18 @@ public:
     bool start() override;
 
 private:
-    void onKeyPressed(xcb_keycode_t key);
-    void onKeyReleased(xcb_keycode_t key);
-    void tellFlags();
+    void onKeyPressed(xcb_keycode_t key, xcb_timestamp_t time);
+    void onKeyReleased(xcb_keycode_t key, xcb_timestamp_t time);
+    void onListeningChanged();
+    void tellFlags(xcb_timestamp_t time);
 
     RawInput &m_input;
     bool m_isStarted = false;
-    QSet<xcb_keycode_t> m_modifiersDown;
+    /// What is held, and what it meant when it went down: the layout may change before it goes up.
+    QHash<xcb_keycode_t, Qt::KeyboardModifiers> m_held;
+    /// The server's time of the last change, and the same since the tap was made: the server's wraps.
+    xcb_timestamp_t m_serverTime = 0;
+    std::chrono::milliseconds m_time{0};
 };
 
 } // namespace vesk

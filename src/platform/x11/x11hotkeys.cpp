@@ -4,11 +4,15 @@
 #include "platform/x11/rawinput.h"
 #include "platform/x11/x11connection.h"
 
-#include <array>
+#include <algorithm>
 
 namespace vesk {
 
 namespace {
+
+/// A key that is down again so soon was held: the server repeats a grabbed key, and nested servers any
+/// key, as going up and down at one and the same time. No finger is that fast.
+constexpr int kRepetitionMilliseconds = 2;
 
 /// Key codes of the positions: the kernel's codes of the letters that an ANSI keyboard has there,
 /// plus the 8 that X reserves.
@@ -25,79 +29,110 @@ xcb_keycode_t keyCodeOf(KeyPosition key)
     return 57;
 }
 
-uint16_t modifierMaskOf(Qt::KeyboardModifiers modifiers)
+/// Every choice of some of these bits, none and all of them included.
+QList<uint8_t> subsetsOf(uint8_t bits)
 {
-    unsigned mask = 0;
-    if (modifiers & Qt::ShiftModifier)
-        mask |= XCB_MOD_MASK_SHIFT;
-    if (modifiers & Qt::ControlModifier)
-        mask |= XCB_MOD_MASK_CONTROL;
-    if (modifiers & Qt::AltModifier)
-        mask |= XCB_MOD_MASK_1;
-    if (modifiers & Qt::MetaModifier)
-        mask |= XCB_MOD_MASK_4;
-    return static_cast<uint16_t>(mask);
+    QList<uint8_t> subsets;
+    unsigned subset = bits;
+    while (true) {
+        subsets.append(static_cast<uint8_t>(subset));
+        if (subset == 0)
+            return subsets;
+        subset = (subset - 1) & bits;
+    }
 }
-
-/// Caps Lock and Num Lock, which the server takes for parts of a combination.
-constexpr std::array<uint16_t, 4> kLocks{0, XCB_MOD_MASK_LOCK, XCB_MOD_MASK_2,
-                                         XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2};
 
 } // namespace
 
 X11HotKeys::X11HotKeys(X11Connection &connection, RawInput &input)
     : m_connection(connection)
     , m_input(input)
+    , m_lockBits(input.modifiers().lockBits())
 {
     connect(&connection, &X11Connection::eventReceived, this, &X11HotKeys::onEvent);
     connect(&input, &RawInput::keyReleased, this, &X11HotKeys::onKeyReleased);
+    connect(&input.modifiers(), &ModifierMap::changed, this, &X11HotKeys::renewGrabs);
+    // That a key goes up may not be heard any more.
+    connect(&input, &RawInput::listeningChanged, this, [this] {
+        endGuard();
+        m_held = {};
+    });
 }
 
 bool X11HotKeys::registerHotKey(quint32 id, KeyCombination combination)
 {
     unregisterHotKey(id);
-    const Grab wanted{.key = keyCodeOf(combination.key), .modifiers = modifierMaskOf(combination.modifiers)};
-    if (!grab(wanted)) {
-        // Some of the lock states may have been free; a key that works only at times is worse than none.
-        ungrab(wanted);
+    const std::optional<Grab> grab = tryGrab(grabFor(combination));
+    if (!grab)
         return false;
-    }
-    m_grabs.insert(id, wanted);
+    m_registrations.insert(id, {.combination = combination, .grab = grab});
     return true;
 }
 
 void X11HotKeys::unregisterHotKey(quint32 id)
 {
-    const auto found = m_grabs.constFind(id);
-    if (found == m_grabs.cend())
-        return;
-    ungrab(*found);
-    m_grabs.erase(found);
+    const std::optional<Grab> grab = m_registrations.take(id).grab;
+    if (grab)
+        ungrab(*grab);
 }
 
-bool X11HotKeys::grab(Grab grab)
+X11HotKeys::Grab X11HotKeys::grabFor(KeyCombination combination) const
 {
-    std::array<xcb_void_cookie_t, kLocks.size()> cookies{};
-    for (size_t i = 0; i < kLocks.size(); ++i) {
-        const auto modifiers = static_cast<uint16_t>(grab.modifiers | kLocks[i]);
-        cookies[i] = xcb_grab_key_checked(m_connection.xcb(), 1, m_connection.root(), modifiers, grab.key,
-                                          XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    return {.key = keyCodeOf(combination.key),
+            .modifiers = m_input.modifiers().bitsOf(combination.modifiers)};
+}
+
+std::optional<X11HotKeys::Grab> X11HotKeys::tryGrab(Grab grab)
+{
+    QList<xcb_void_cookie_t> cookies;
+    for (const uint16_t modifiers : withLocks(grab.modifiers)) {
+        cookies.append(xcb_grab_key_checked(m_connection.xcb(), 1, m_connection.root(), modifiers, grab.key,
+                                            XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
     }
     bool isFree = true;
-    for (const xcb_void_cookie_t cookie : cookies) {
+    for (const xcb_void_cookie_t cookie : std::as_const(cookies)) {
         const XReply<xcb_generic_error_t> error(xcb_request_check(m_connection.xcb(), cookie));
         isFree = isFree && !error;
     }
-    return isFree;
+    if (isFree)
+        return grab;
+    // Some of the lock states may have been free; a key that works only at times is worse than none.
+    ungrab(grab);
+    return std::nullopt;
 }
 
 void X11HotKeys::ungrab(Grab grab)
 {
-    for (const uint16_t locks : kLocks) {
-        const auto modifiers = static_cast<uint16_t>(grab.modifiers | locks);
+    for (const uint16_t modifiers : withLocks(grab.modifiers))
         xcb_ungrab_key(m_connection.xcb(), grab.key, m_connection.root(), modifiers);
-    }
     m_connection.flush();
+}
+
+void X11HotKeys::renewGrabs()
+{
+    endGuard();
+    // A grab that can stay stays, so that no press at this moment is missed. The others are given up before
+    // the first is taken again: two may have changed places.
+    const bool areLocksMoved = m_lockBits != m_input.modifiers().lockBits();
+    for (Registration &each : m_registrations) {
+        if (each.grab && (areLocksMoved || each.grab != grabFor(each.combination))) {
+            ungrab(*each.grab);
+            each.grab.reset();
+        }
+    }
+    m_lockBits = m_input.modifiers().lockBits();
+    for (Registration &each : m_registrations) {
+        if (!each.grab)
+            each.grab = tryGrab(grabFor(each.combination));
+    }
+}
+
+QList<uint16_t> X11HotKeys::withLocks(uint8_t modifiers) const
+{
+    QList<uint16_t> all;
+    for (const uint8_t locks : subsetsOf(m_lockBits))
+        all.append(static_cast<uint16_t>(modifiers | locks));
+    return all;
 }
 
 void X11HotKeys::onEvent(const xcb_generic_event_t *event)
@@ -106,7 +141,7 @@ void X11HotKeys::onEvent(const xcb_generic_event_t *event)
     const auto &key = *reinterpret_cast<const xcb_key_press_event_t *>(event);
     if (type == XCB_KEY_PRESS)
         onPress(key);
-    else if (type == XCB_KEY_RELEASE && key.detail == m_heldKey)
+    else if (type == XCB_KEY_RELEASE && key.detail == m_held.key)
         m_releaseTime = key.time;
 }
 
@@ -119,26 +154,65 @@ void X11HotKeys::onPress(const xcb_key_press_event_t &press)
         m_connection.flush();
         m_input.setHotKeyPress(press.detail, press.time);
     }
-    const bool isRepetition = press.detail == m_heldKey && (!m_releaseTime || *m_releaseTime == press.time);
+    const bool isRepetition =
+        press.detail == m_held.key
+        && (!m_releaseTime || !isAtOrAfter(press.time, *m_releaseTime + kRepetitionMilliseconds));
     m_releaseTime.reset();
     if (isRepetition)
         return;
-    constexpr unsigned kCounted = XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_4;
-    const unsigned modifiers = press.state & kCounted;
-    for (auto grab = m_grabs.cbegin(); grab != m_grabs.cend(); ++grab) {
-        if (grab->key != press.detail || grab->modifiers != modifiers)
+    // The upper half of the state tells of the mouse and of the layout in use.
+    const Grab pressedGrab{.key = press.detail,
+                           .modifiers = static_cast<uint8_t>(press.state & 0xffU & ~unsigned{m_lockBits})};
+    endGuard();
+    for (auto each = m_registrations.cbegin(); each != m_registrations.cend(); ++each) {
+        if (each->grab != pressedGrab)
             continue;
-        m_heldKey = press.detail;
+        const quint32 id = each.key();
+        m_held = pressedGrab;
         m_connection.setUserTime(press.time);
-        Q_EMIT pressed(grab.key());
+        Q_EMIT pressed(id);
         return;
     }
 }
 
-void X11HotKeys::onKeyReleased(xcb_keycode_t key)
+void X11HotKeys::onKeyReleased(xcb_keycode_t key, xcb_timestamp_t time)
 {
-    if (key == m_heldKey)
-        m_heldKey = 0;
+    if (key == m_held.key) {
+        m_releaseTime = time;
+        endGuard();
+        return;
+    }
+    const bool isDown = m_held.key != 0 && !m_releaseTime;
+    const uint8_t bits = m_input.modifiers().bitsOf(m_input.modifiers().modifiersOf(key));
+    if (isDown && (bits & m_held.modifiers) != 0 && m_guards.isEmpty())
+        guardHeldKey();
+}
+
+void X11HotKeys::guardHeldKey()
+{
+    // Fingers leave the modifiers as often first as last, and the server repeats the letter meanwhile: it
+    // would be typed over the selection. Not before they do: the letter alone is the application's as soon
+    // as it is up. Combinations that others have are theirs.
+    for (const uint8_t modifiers : subsetsOf(m_held.modifiers)) {
+        const Grab guard{.key = m_held.key, .modifiers = modifiers};
+        const bool isOwn = std::ranges::any_of(
+            m_registrations, [&guard](const Registration &each) { return each.grab == guard; });
+        if (isOwn)
+            continue;
+        for (const uint16_t withLock : withLocks(modifiers)) {
+            xcb_grab_key(m_connection.xcb(), 1, m_connection.root(), withLock, guard.key, XCB_GRAB_MODE_ASYNC,
+                         XCB_GRAB_MODE_ASYNC);
+        }
+        m_guards.append(guard);
+    }
+    m_connection.flush();
+}
+
+void X11HotKeys::endGuard()
+{
+    for (const Grab guard : std::as_const(m_guards))
+        ungrab(guard);
+    m_guards.clear();
 }
 
 } // namespace vesk

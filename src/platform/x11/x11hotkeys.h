@@ -4,6 +4,7 @@
 #include "platform/hotkeys.h"
 
 #include <QHash>
+#include <QList>
 
 #include <xcb/xcb.h>
 
@@ -14,7 +15,8 @@ namespace vesk {
 class RawInput;
 class X11Connection;
 
-/// Hot keys as passive grabs on the keys' positions, one for each state of the locks.
+/// Hot keys as passive grabs on the keys' positions, one for each state of the locks. They follow the
+/// modifiers when a change of the keyboard's layout moves these.
 class X11HotKeys final : public HotKeys
 {
     Q_OBJECT
@@ -28,22 +30,42 @@ public:
 private:
     struct Grab
     {
-        xcb_keycode_t key;
-        uint16_t modifiers;
+        xcb_keycode_t key = 0;
+        uint8_t modifiers = 0;
+
+        friend bool operator==(const Grab &, const Grab &) = default;
+    };
+    struct Registration
+    {
+        KeyCombination combination;
+        /// None while another application has it.
+        std::optional<Grab> grab;
     };
 
-    [[nodiscard]] bool grab(Grab grab);
+    [[nodiscard]] Grab grabFor(KeyCombination combination) const;
+    /// None, with nothing grabbed, if some state of the locks was taken already.
+    [[nodiscard]] std::optional<Grab> tryGrab(Grab grab);
     void ungrab(Grab grab);
+    void renewGrabs();
+    /// The modifiers of a grab together with every state of the locks.
+    [[nodiscard]] QList<uint16_t> withLocks(uint8_t modifiers) const;
+
     void onEvent(const xcb_generic_event_t *event);
     void onPress(const xcb_key_press_event_t &press);
-    void onKeyReleased(xcb_keycode_t key);
+    void onKeyReleased(xcb_keycode_t key, xcb_timestamp_t time);
+
+    /// Keeps the held key from the application after some of its modifiers were let go of.
+    void guardHeldKey();
+    void endGuard();
 
     X11Connection &m_connection;
     RawInput &m_input;
-    QHash<quint32, Grab> m_grabs;
-    /// The key of the last press that was acted upon; 0 once it is known to be up. The server repeats a
-    /// grabbed key while it is held: it seems to go up and down at one and the same time.
-    xcb_keycode_t m_heldKey = 0;
+    QHash<quint32, Registration> m_registrations;
+    /// The locks' bits with which all grabs were made.
+    uint8_t m_lockBits;
+    QList<Grab> m_guards;
+    /// The last press that was acted upon; its key is 0 before the first.
+    Grab m_held;
     /// When the held key went up, or seemed to; none since its last press. Whether a key goes up as an
     /// event of the grab or as raw input depends on whether the grab was given back by then.
     std::optional<xcb_timestamp_t> m_releaseTime;

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHash>
+#include <QObject>
+
+#include <xcb/xcb.h>
+
+namespace vesk {
+
+class X11Connection;
+
+/// Which keys are modifiers, and which of the core protocol's eight bits each stands for. Only Shift,
+/// Caps Lock and Control have fixed bits; the others are where the keyboard's layout puts them. Follows
+/// every change of the layout.
+class ModifierMap final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ModifierMap(X11Connection &connection);
+
+    [[nodiscard]] bool isModifier(xcb_keycode_t key) const { return m_masks.contains(key); }
+    /// What a key adds to a combination; none for locks and for keys that are no modifiers.
+    [[nodiscard]] Qt::KeyboardModifiers modifiersOf(xcb_keycode_t key) const;
+    [[nodiscard]] bool isCapsLock(xcb_keycode_t key) const;
+
+    /// The bits of these modifiers.
+    [[nodiscard]] uint8_t bitsOf(Qt::KeyboardModifiers modifiers) const;
+    /// The bits of Caps Lock, Num Lock and Scroll Lock, as far as the keyboard has them.
+    [[nodiscard]] uint8_t lockBits() const { return m_bits.locks; }
+
+Q_SIGNALS:
+    /// A modifier has moved to another key or bit.
+    void changed();
+
+private:
+    struct Bits
+    {
+        uint8_t alt = 0;
+        uint8_t super = 0;
+        uint8_t groupSwitch = 0;
+        uint8_t locks = 0;
+
+        friend bool operator==(const Bits &, const Bits &) = default;
+    };
+    using Masks = QHash<xcb_keycode_t, uint8_t>;
+
+    void onEvent(const xcb_generic_event_t *event);
+    void update();
+    void read();
+    [[nodiscard]] Bits findBits(const Masks &masks, const xcb_get_keyboard_mapping_reply_t *mapping) const;
+
+    X11Connection &m_connection;
+    Masks m_masks;
+    Bits m_bits;
+    bool m_isStale = false;
+};
+
+} // namespace vesk
