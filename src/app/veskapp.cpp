@@ -56,12 +56,15 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
     , m_updater(m_engine, desktop.updates, desktop.workspace)
     , m_services({.clock = desktop.clock,
                   .hotKeys = desktop.hotKeys,
+                  .tap = desktop.tap,
                   .accessibility = desktop.accessibility,
+                  .workspace = desktop.workspace,
                   .sounds = desktop.sounds,
                   .store = store,
                   .reader = m_reader,
                   .panel = m_panel,
                   .panelWindow = m_panelWindow,
+                  .quickNote = m_quickNote,
                   .toast = m_toast})
 {
     connect(&desktop.application, &Application::reopened, &m_panelWindow, &PanelWindow::showPanel);

@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "commands/veskservices.h"
 
-#include "input/hotkeytable.h"
 #include "notes/notesstore.h"
+#include "notes/promptrules.h"
 #include "panel/panelmodel.h"
 #include "panel/panelwindow.h"
 #include "platform/accessibility.h"
 #include "platform/sounds.h"
+#include "platform/workspace.h"
 #include "quicknote/toast.h"
 
 #include <QPointer>
+
+#include <algorithm>
 
 namespace vesk {
 
@@ -29,6 +32,21 @@ bool isTooLong(const QString &text)
     return text.size() > kMaximumTextBytes / 3 && text.toUtf8().size() > kMaximumTextBytes;
 }
 
+QString addedTo(const QString &title, const QString &untitled)
+{
+    return u"Added to “%1”"_s.arg(title.isEmpty() ? untitled : title);
+}
+
+/// The note changed last among those that have checkboxes; null if none has.
+Note *findLastChecklist(NotesStore &store)
+{
+    for (qsizetype i = 0; i < store.notes().count(); ++i) {
+        if (store.notes().at(i).progress())
+            return &store.notes().at(i);
+    }
+    return nullptr;
+}
+
 } // namespace
 
 VeskServices::VeskServices(const Needs &needs)
@@ -37,91 +55,249 @@ VeskServices::VeskServices(const Needs &needs)
     , m_append(hotkeytable::kAppend.id, needs.hotKeys)
     , m_open(hotkeytable::kOpen.id, needs.hotKeys)
     , m_write(hotkeytable::kWrite.id, needs.hotKeys)
+    , m_checklist(hotkeytable::kChecklist.id, needs.hotKeys)
+    , m_addToChecklist(hotkeytable::kAddToChecklist.id, needs.hotKeys)
+    , m_doubleShift(needs.tap)
 {
 }
 
 void VeskServices::start()
 {
-    connect(&m_quickNote, &GlobalHotKey::pressed, this, [this] { capture(Target::NewNote); });
-    connect(&m_append, &GlobalHotKey::pressed, this, [this] { capture(Target::LastNote); });
-    connect(&m_open, &GlobalHotKey::pressed, this, [this] { m_needs.panelWindow.togglePanel(); });
-    connect(&m_write, &GlobalHotKey::pressed, this, &VeskServices::openComposer);
+    connectKeys();
     // A combination that another program has leaves its command to the others' ways: the panel can be
     // opened by starting Vesk again.
     m_quickNote.registerKey(hotkeytable::kQuickNote.combination);
     m_append.registerKey(hotkeytable::kAppend.combination);
     m_open.registerKey(hotkeytable::kOpen.combination);
     m_write.registerKey(hotkeytable::kWrite.combination);
+    m_addToChecklist.registerKey(hotkeytable::kAddToChecklist.combination);
+
+    const std::optional<RunningApplication> frontmost = m_needs.workspace.frontmostApplication();
+    updateChecklistKey(frontmost ? frontmost->bundleIdentifier : std::nullopt);
+    connect(
+        &m_needs.workspace, &Workspace::didActivateApplication, this,
+        [this](const RunningApplication &application) { updateChecklistKey(application.bundleIdentifier); });
+
+    connect(&m_needs.accessibility, &Accessibility::trustChanged, this, &VeskServices::followTrust);
+    followTrust();
+}
+
+void VeskServices::connectKeys()
+{
+    connect(&m_quickNote, &GlobalHotKey::pressed, this, [this] { capture(Target::NewNote); });
+    connect(&m_append, &GlobalHotKey::pressed, this, [this] { capture(Target::LastNote); });
+    connect(&m_checklist, &GlobalHotKey::pressed, this, [this] { capture(Target::NewChecklist); });
+    connect(&m_addToChecklist, &GlobalHotKey::pressed, this, &VeskServices::addSelectionToChecklist);
+    connect(&m_open, &GlobalHotKey::pressed, this, [this] { m_needs.panelWindow.togglePanel(); });
+    connect(&m_write, &GlobalHotKey::pressed, this, &VeskServices::openComposer);
+    connect(&m_doubleShift, &DoubleShiftMonitor::doubleShift, this, &VeskServices::savePrompt);
+}
+
+void VeskServices::followTrust()
+{
+    if (m_needs.accessibility.isProcessTrusted())
+        m_doubleShift.start();
+    else
+        m_doubleShift.stop();
+}
+
+void VeskServices::updateChecklistKey(const std::optional<QString> &frontmostBundleID)
+{
+    const bool isOwners = frontmostBundleID
+                          && std::ranges::find(m_needs.checklistKeyOwners, *frontmostBundleID)
+                                 != m_needs.checklistKeyOwners.end();
+    if (isOwners)
+        m_checklist.unregisterKey();
+    else if (!m_checklist.isRegistered())
+        m_checklist.registerKey(hotkeytable::kChecklist.combination);
+}
+
+bool VeskServices::isWithinGap(Instant &last) const
+{
+    // Not the time of day: a clock that is set back must not lock the key.
+    const std::chrono::microseconds now = m_needs.clock.monotonic();
+    if (last && now - *last < kCommandGap)
+        return true;
+    last = now;
+    return false;
 }
 
 void VeskServices::capture(Target target)
 {
-    const Date now = m_needs.clock.now();
-    // A clock that was set back must not lock the key, so only a time after the last capture counts.
-    if (m_lastCapture && now >= *m_lastCapture && now - *m_lastCapture < kCommandGap)
+    // The key that opened the box closes it, however soon.
+    if (m_needs.quickNote.isShowing()) {
+        m_lastCapture = m_needs.clock.monotonic();
+        m_needs.quickNote.close();
         return;
-    m_lastCapture = now;
-    captureSelection(target, m_needs.reader.readSource());
+    }
+    if (!isWithinGap(m_lastCapture))
+        captureSelection(target, m_needs.reader.readSource());
 }
 
-QCoro::Task<> VeskServices::captureSelection(Target target,
-                                             std::optional<SelectionReader::SourceAtPress> press)
+QCoro::Task<> VeskServices::captureSelection(Target target, Source press)
 {
-    if (!m_needs.accessibility.isProcessTrusted()) {
-        openComposer();
-        askForAccessOnce();
+    const QPointer<VeskServices> self(this);
+    std::optional<Selection> selection;
+    if (m_needs.accessibility.isProcessTrusted()) {
+        selection = co_await readSelection(press);
+        if (self.isNull())
+            co_return;
+    }
+    if (selection) {
+        keep(*selection, target);
         co_return;
     }
+    openQuickNote(target);
+    // The question comes up over the box. The trust may have been withdrawn while the text was read.
+    if (!m_needs.accessibility.isProcessTrusted())
+        askForAccessOnce();
+}
+
+void VeskServices::addSelectionToChecklist()
+{
+    if (isWithinGap(m_lastCapture))
+        return;
+    if (!m_needs.accessibility.isProcessTrusted()) {
+        m_needs.toast.show(u"Vesk needs Accessibility access"_s, u"hand.raised.fill"_s);
+        askForAccessOnce();
+        return;
+    }
+    addToChecklist(m_needs.reader.readSource());
+}
+
+QCoro::Task<> VeskServices::addToChecklist(Source press)
+{
+    const QPointer<VeskServices> self(this);
+    const std::optional<Selection> selection = co_await readSelection(press);
+    if (self.isNull())
+        co_return;
+    if (selection)
+        keepInChecklist(*selection);
+    else
+        m_needs.toast.show(u"Select text to add to your checklist"_s, u"text.cursor"_s);
+}
+
+void VeskServices::savePrompt()
+{
+    if (!isWithinGap(m_lastPrompt))
+        savePromptSelection();
+}
+
+QCoro::Task<> VeskServices::savePromptSelection()
+{
+    const QPointer<VeskServices> self(this);
+    const std::optional<QString> text = co_await m_needs.reader.readSelection();
+    // Two taps of Shift mean nothing else where nothing is selected, so nothing is said.
+    if (!self.isNull() && text)
+        keepPrompt(*text);
+}
+
+QCoro::Task<std::optional<VeskServices::Selection>> VeskServices::readSelection(Source press)
+{
     const QPointer<VeskServices> self(this);
     // Asked for first and waited for last, so that the two answers come side by side.
     const auto address = m_needs.reader.readPageAddress(press ? press->processIdentifier : 0);
     const std::optional<QString> text = co_await m_needs.reader.readSelection();
-    if (self.isNull())
-        co_return;
-    if (!text) {
-        openComposer();
-        co_return;
-    }
-    std::optional<CaptureSource> source;
+    if (self.isNull() || !text)
+        co_return std::nullopt;
+    Selection selection{.text = *text, .source = std::nullopt};
     if (press) {
-        source = press->source;
-        source->url = co_await address;
-        if (self.isNull())
-            co_return;
+        selection.source = press->source;
+        selection.source->url = co_await address;
     }
-    keep(*text, target, source);
+    co_return selection;
 }
 
-void VeskServices::keep(const QString &text, Target target, const std::optional<CaptureSource> &source)
+void VeskServices::keep(const Selection &selection, Target target)
 {
-    if (isTooLong(text)) {
-        m_needs.toast.show(u"The selection is too long to keep"_s, kTrouble);
+    if (refuseTooLong(selection.text))
         return;
-    }
+    const bool isChecklist = target == Target::NewChecklist;
+    const QString text = isChecklist ? markup::checklist(selection.text) : selection.text;
     Note *newest = m_needs.store.notes().first();
-    if (target == Target::LastNote && newest) {
+    if (newest && target == Target::LastNote) {
         const QString title = newest->title();
         newest->append(text);
-        saveAndConfirm(u"Added to “%1”"_s.arg(title.isEmpty() ? u"New Note"_s : title), u"text.append"_s);
+        saveAndConfirm(addedTo(title, u"New Note"_s), u"text.append"_s);
         return;
     }
-    if (target == Target::NewNote && newest && newest->text() == text) {
+    // Stored texts are well-formed, so the new one is compared as it would be stored.
+    if (newest && newest->text() == markup::wellFormed(text)) {
         saveAndConfirm(u"Already in Vesk"_s, kDone);
         return;
     }
+    insertNote(text, selection.source);
+}
+
+void VeskServices::keepInChecklist(const Selection &selection)
+{
+    if (refuseTooLong(selection.text))
+        return;
+    Note *checklist = findLastChecklist(m_needs.store);
+    if (!checklist) {
+        insertNote(markup::checklist(selection.text), selection.source);
+        return;
+    }
+    const QString title = checklist->title();
+    checklist->addChecklistItems(selection.text);
+    saveAndConfirm(addedTo(title, u"Checklist"_s), u"checklist"_s);
+}
+
+void VeskServices::keepPrompt(const QString &text)
+{
+    if (refuseTooLong(text))
+        return;
+    switch (promptrules::saveFromSelection(m_needs.store, m_needs.clock, text)) {
+    case promptrules::SaveOutcome::Saved:
+        confirm(u"Saved to Prompts"_s, kDone);
+        break;
+    case promptrules::SaveOutcome::Pending:
+        tellNotSaved();
+        break;
+    case promptrules::SaveOutcome::AlreadyThere:
+        m_needs.toast.show(u"Already in Prompts"_s, kDone);
+        break;
+    }
+}
+
+void VeskServices::insertNote(const QString &text, const std::optional<CaptureSource> &source)
+{
     m_needs.store.insert(std::make_unique<Note>(m_needs.clock, text, source));
     saveAndConfirm(u"Saved to Vesk"_s, kDone);
 }
 
+bool VeskServices::refuseTooLong(const QString &text)
+{
+    if (!isTooLong(text))
+        return false;
+    m_needs.toast.show(u"The selection is too long to keep"_s, kTrouble);
+    return true;
+}
+
 void VeskServices::saveAndConfirm(const QString &message, const QString &symbol)
 {
-    if (!m_needs.store.save()) {
-        // The store holds on to the change and writes it when the disk lets it.
-        m_needs.toast.show(u"Not saved yet, Vesk keeps trying"_s, kTrouble);
-        return;
-    }
+    if (m_needs.store.save())
+        confirm(message, symbol);
+    else
+        tellNotSaved();
+}
+
+void VeskServices::confirm(const QString &message, const QString &symbol)
+{
     m_needs.toast.show(message, symbol);
     m_needs.sounds.play(Sounds::Sound::Tink);
+}
+
+void VeskServices::tellNotSaved()
+{
+    // The store holds on to the change and writes it when the disk lets it.
+    m_needs.toast.show(u"Not saved yet, Vesk keeps trying"_s, kTrouble);
+}
+
+void VeskServices::openQuickNote(Target target)
+{
+    const bool isChecklist = target == Target::NewChecklist;
+    m_needs.quickNote.show(isChecklist ? QuickNoteBox::Mode::Checklist : QuickNoteBox::Mode::Note);
 }
 
 void VeskServices::openComposer()

@@ -3,6 +3,10 @@
 
 #include "platform/hotkeys.h"
 
+#include <QStringView>
+
+#include <array>
+
 namespace vesk {
 
 /// One of Vesk's own key combinations.
@@ -27,6 +31,15 @@ inline constexpr HotKeyRow kOpen{.id = 3, .combination = {.key = KeyPosition::T,
 /// Opens Vesk to write a new note.
 inline constexpr HotKeyRow kWrite{
     .id = 4, .combination = {.key = KeyPosition::N, .modifiers = kBase | Qt::ControlModifier}};
+/// Saves the selection as a checklist.
+inline constexpr HotKeyRow kChecklist{.id = 5, .combination = {.key = KeyPosition::C, .modifiers = kBase}};
+/// Adds the selection to the last checklist.
+inline constexpr HotKeyRow kAddToChecklist{
+    .id = 6, .combination = {.key = KeyPosition::C, .modifiers = kBase | Qt::ShiftModifier}};
+
+/// Applications that have `kChecklist`'s combination for themselves, and keep it while they are
+/// frontmost. No file manager of this desktop does.
+inline constexpr std::array<QStringView, 0> kChecklistKeyOwners{};
 
 } // namespace hotkeytable
 } // namespace vesk

@@ -5,11 +5,12 @@ namespace vesk::promptrules {
 
 namespace {
 
-void keep(NotesStore &store, const Clock &clock, const QString &text, Prompt::Origin origin)
+/// Whether the prompt is durable. If not, nothing is lost: it stays pending, and the store tries again
+/// by itself.
+bool keep(NotesStore &store, const Clock &clock, const QString &text, Prompt::Origin origin)
 {
     store.insert(std::make_unique<Prompt>(clock, text, origin));
-    // A failed save loses nothing: the prompt stays pending, and the store tries again by itself.
-    store.save();
+    return store.save();
 }
 
 } // namespace
@@ -20,8 +21,7 @@ SaveOutcome saveFromSelection(NotesStore &store, const Clock &clock, const QStri
     const Prompt *newest = store.prompts().first();
     if (newest != nullptr && newest->text() == markup::wellFormed(text))
         return SaveOutcome::AlreadyThere;
-    keep(store, clock, text, Prompt::Origin::Captured);
-    return SaveOutcome::Saved;
+    return keep(store, clock, text, Prompt::Origin::Captured) ? SaveOutcome::Saved : SaveOutcome::Pending;
 }
 
 bool saveFollowUp(NotesStore &store, const Clock &clock, const QString &text)
@@ -37,7 +37,7 @@ void clearDone(NotesStore &store)
 {
     for (Prompt *prompt : store.donePrompts())
         store.remove(*prompt);
-    // Dropped for the same reason as above.
+    // What is not deleted in the file yet is deleted by a later save.
     store.save();
 }
 

@@ -8,6 +8,8 @@ namespace vesk::promptrules {
 
 enum class SaveOutcome {
     Saved,
+    /// Kept, but not written: the store goes on trying.
+    Pending,
     /// The newest prompt already has exactly this text; nothing was stored.
     AlreadyThere,
 };

@@ -47,6 +47,30 @@ private:
     SQLite::Database m_database;
 };
 
+/// One of the hub's commands: a hot key, or the double Shift.
+struct Command
+{
+    const HotKeyRow *key = nullptr;
+};
+constexpr Command kNote{&hotkeytable::kQuickNote};
+constexpr Command kAppend{&hotkeytable::kAppend};
+constexpr Command kChecklist{&hotkeytable::kChecklist};
+constexpr Command kAdd{&hotkeytable::kAddToChecklist};
+constexpr Command kPrompt{};
+
+/// The quick-note box, without a window.
+class MemoryBox final : public QuickNoteBox
+{
+public:
+    void show(Mode mode) override { m_mode = mode; }
+    void close() override { m_mode.reset(); }
+    [[nodiscard]] bool isShowing() const override { return m_mode.has_value(); }
+    [[nodiscard]] std::optional<Mode> mode() const { return m_mode; }
+
+private:
+    std::optional<Mode> m_mode;
+};
+
 /// The whole program but for its platform.
 struct World
 {
@@ -78,29 +102,35 @@ struct World
     PanelModel panel{store, clock, defaults, application, accessibility};
     std::unique_ptr<PanelWindow> panelWindow;
     std::unique_ptr<Toast> toast;
+    MemoryBox box;
     std::unique_ptr<VeskServices> services;
 
-    World()
+    /// `owners` have the checklist's combination for themselves.
+    explicit World(std::span<const QStringView> owners = {})
     {
         lendToEngine(engine, appearance, workspace, windows);
         panelWindow = std::make_unique<PanelWindow>(engine, panel, application, screens, windows);
         toast = std::make_unique<Toast>(engine, screens, windows, clock);
         services = std::make_unique<VeskServices>(VeskServices::Needs{.clock = clock,
                                                                       .hotKeys = hotKeys,
+                                                                      .tap = tap,
                                                                       .accessibility = accessibility,
+                                                                      .workspace = workspace,
                                                                       .sounds = sounds,
                                                                       .store = store,
                                                                       .reader = reader,
                                                                       .panel = panel,
                                                                       .panelWindow = *panelWindow,
-                                                                      .toast = *toast});
+                                                                      .quickNote = box,
+                                                                      .toast = *toast,
+                                                                      .checklistKeyOwners = owners});
         services->start();
         workspace.setFrontmostApplication(RunningApplication{.processIdentifier = 4711,
                                                              .localizedName = u"Editor"_s,
                                                              .bundleIdentifier = u"org.example.Editor"_s});
     }
 
-    /// Selects a text in the application that the user works in.
+    /// Selects a text in the application that the user works in; an empty one for nothing.
     void select(const QString &text)
     {
         const AccessibleElement field{.processIdentifier = 4711, .address = u"field"_s};
@@ -109,6 +139,18 @@ struct World
     }
 
     void press(const HotKeyRow &row) { QVERIFY(hotKeys.press(row.combination)); }
+    void tapShiftTwice()
+    {
+        for (const auto held : {Qt::ShiftModifier, Qt::NoModifier, Qt::ShiftModifier, Qt::NoModifier})
+            tap.setFlags({.held = held, .isCapsLocked = false, .time = {}});
+    }
+    void command(Command command)
+    {
+        if (command.key)
+            press(*command.key);
+        else
+            tapShiftTwice();
+    }
 
     /// The message on the screen; empty if there is none.
     [[nodiscard]] static QString notice()
@@ -121,16 +163,24 @@ struct World
         return {};
     }
 
-    [[nodiscard]] QStringList texts()
+    /// Newest first.
+    [[nodiscard]] QStringList texts() { return textsOf(store.notes()); }
+    [[nodiscard]] QStringList prompts() { return textsOf(store.prompts()); }
+
+private:
+    template <typename Record>
+    static QStringList textsOf(const LiveQuery<Record> &query)
     {
         QStringList texts;
-        for (qsizetype i = 0; i < store.notes().count(); ++i)
-            texts.append(store.notes().at(i).text());
+        for (qsizetype i = 0; i < query.count(); ++i)
+            texts.append(query.at(i).text());
         return texts;
     }
 };
 
 } // namespace
+
+Q_DECLARE_METATYPE(Command)
 
 /// What the global keys do.
 class TestVeskServices : public QObject
@@ -140,17 +190,36 @@ class TestVeskServices : public QObject
 private Q_SLOTS:
     void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void captureKeepsTextAndSource();
-    void secondPressWithinTwoSecondsIsIgnored();
-    void clockSetBackDoesNotLockTheKey();
+    void selectionGoesWhereTheKeySays_data();
+    void selectionGoesWhereTheKeySays();
+    void commandsKeepTheirDistance_data();
+    void commandsKeepTheirDistance();
     void sourceIsOfTheKeyPress();
-    void newestTextIsNotKeptTwice();
-    void appendGoesToTheNoteChangedLast();
+    void tooLongTextIsRefused_data() { commands(); }
     void tooLongTextIsRefused();
+    void failedSaveIsNotConfirmed_data() { commands(); }
     void failedSaveIsNotConfirmed();
-    void nothingSelectedOpensTheComposer();
-    void withoutTrustNothingIsReadAndTheQuestionComesOnce();
+    void nothingSelected_data();
+    void nothingSelected();
+    void sameKeyClosesTheBox();
+    void trustWithdrawnWhileReading();
+    void doubleShiftIsHeardOnlyWithTrust();
+    void checklistKeyIsLeftToItsOwner();
     void openKeyTogglesThePanel();
+
+private:
+    static void commands();
 };
+
+void TestVeskServices::commands()
+{
+    QTest::addColumn<Command>("command");
+    QTest::newRow("note") << kNote;
+    QTest::newRow("append") << kAppend;
+    QTest::newRow("checklist") << kChecklist;
+    QTest::newRow("add to checklist") << kAdd;
+    QTest::newRow("prompt") << kPrompt;
+}
 
 void TestVeskServices::captureKeepsTextAndSource()
 {
@@ -168,128 +237,278 @@ void TestVeskServices::captureKeepsTextAndSource()
     QVERIFY(!world.panelWindow->isShown());
 }
 
-void TestVeskServices::secondPressWithinTwoSecondsIsIgnored()
+void TestVeskServices::selectionGoesWhereTheKeySays_data()
 {
-    World world;
-    world.select(u"one"_s);
-    world.press(hotkeytable::kQuickNote);
-    world.select(u"two"_s);
-    world.clock.advance(1500ms);
-    world.press(hotkeytable::kQuickNote);
-    world.press(hotkeytable::kAppend);
-    QCOMPARE(world.texts(), QStringList{u"one"_s});
-    world.clock.advance(500ms);
-    world.press(hotkeytable::kQuickNote);
-    QCOMPARE(world.texts(), (QStringList{u"two"_s, u"one"_s}));
+    QTest::addColumn<QStringList>("before"); // Oldest first.
+    QTest::addColumn<Command>("command");
+    QTest::addColumn<QString>("selection");
+    QTest::addColumn<QStringList>("after"); // Newest first.
+    QTest::addColumn<QString>("notice");
+    const QString saved = u"Saved to Vesk"_s;
+    const QString already = u"Already in Vesk"_s;
+    const QString lines = u"milk\n\n bread"_s;
+    const QString boxes = u"☐ milk\n☐ bread"_s;
+    const auto row = [](const char *name, const QStringList &before, Command command,
+                        const QString &selection, const QStringList &after, const QString &notice) {
+        QTest::newRow(name) << before << command << selection << after << notice;
+    };
+    row("same as the newest", {u"b"_s, u"a"_s}, kNote, u"a"_s, {u"a"_s, u"b"_s}, already);
+    row("same as an older one", {u"a"_s, u"b"_s}, kNote, u"a"_s, {u"a"_s, u"b"_s, u"a"_s}, saved);
+    row("half a surrogate, again", {u"a\uFFFD"_s}, kNote, u"a"_s + QChar(0xd800), {u"a\uFFFD"_s}, already);
+    row("append to nothing", {}, kAppend, u"a"_s, {u"a"_s}, saved);
+    row("append", {u"old"_s, u"# List\nmore"_s}, kAppend, u"a"_s, {u"# List\nmore\n\na"_s, u"old"_s},
+        u"Added to “List”"_s);
+    row("append what is there", {u"a"_s}, kAppend, u"a"_s, {u"a\n\na"_s}, u"Added to “a”"_s);
+    row("append to no title", {u""_s}, kAppend, u"a"_s, {u"\n\na"_s}, u"Added to “New Note”"_s);
+    row("checklist", {u"a"_s}, kChecklist, lines, {boxes, u"a"_s}, saved);
+    row("same checklist", {boxes}, kChecklist, lines, {boxes}, already);
+    row("add, newest has boxes", {u"☐ x"_s, u"Shop\n☑ y"_s}, kAdd, lines,
+        {u"Shop\n☑ y\n☐ milk\n☐ bread"_s, u"☐ x"_s}, u"Added to “Shop”"_s);
+    row("add, an older one has boxes", {u"☐ x"_s, u"☐ y"_s, u"plain"_s}, kAdd, u"z"_s,
+        {u"☐ y\n☐ z"_s, u"plain"_s, u"☐ x"_s}, u"Added to “y”"_s);
+    row("add, none has boxes", {u"plain"_s}, kAdd, lines, {boxes, u"plain"_s}, saved);
+    row("add what is there", {boxes}, kAdd, u"milk"_s, {boxes + u"\n☐ milk"_s}, u"Added to “milk”"_s);
 }
 
-void TestVeskServices::clockSetBackDoesNotLockTheKey()
+void TestVeskServices::selectionGoesWhereTheKeySays()
 {
+    QFETCH(const QStringList, before);
+    QFETCH(const Command, command);
+    QFETCH(const QString, selection);
+    QFETCH(const QStringList, after);
+    QFETCH(const QString, notice);
+    World world;
+    for (const QString &text : before) {
+        world.store.insert(std::make_unique<Note>(world.clock, text));
+        world.clock.advance(1s);
+    }
+    world.select(selection);
+    world.command(command);
+    QCOMPARE(world.texts(), after);
+    QCOMPARE(World::notice(), notice);
+    QVERIFY(!world.store.hasPendingChanges());
+    QCOMPARE(world.sounds.played(), QList{Sounds::Sound::Tink});
+}
+
+void TestVeskServices::commandsKeepTheirDistance_data()
+{
+    QTest::addColumn<Command>("first");
+    QTest::addColumn<Command>("second");
+    QTest::addColumn<std::chrono::milliseconds>("distance");
+    QTest::addColumn<bool>("isAccepted");
+    QTest::newRow("note, note, too soon") << kNote << kNote << 1999ms << false;
+    QTest::newRow("note, note") << kNote << kNote << 2000ms << true;
+    QTest::newRow("note, append, too soon") << kNote << kAppend << 1999ms << false;
+    QTest::newRow("checklist, add, too soon") << kChecklist << kAdd << 1999ms << false;
+    QTest::newRow("add, note, too soon") << kAdd << kNote << 1999ms << false;
+    QTest::newRow("add, add") << kAdd << kAdd << 2000ms << true;
+    QTest::newRow("note, prompt at once") << kNote << kPrompt << 0ms << true;
+    QTest::newRow("prompt, note at once") << kPrompt << kNote << 0ms << true;
+    QTest::newRow("prompt, prompt, too soon") << kPrompt << kPrompt << 1999ms << false;
+    QTest::newRow("prompt, prompt") << kPrompt << kPrompt << 2000ms << true;
+}
+
+void TestVeskServices::commandsKeepTheirDistance()
+{
+    QFETCH(const Command, first);
+    QFETCH(const Command, second);
+    QFETCH(const std::chrono::milliseconds, distance);
+    QFETCH(const bool, isAccepted);
     World world;
     world.select(u"one"_s);
-    world.press(hotkeytable::kQuickNote);
+    world.command(first);
+    // The time of day is none of the keys' business.
     world.clock.setNow(world.clock.now() - 3h);
+    world.clock.advance(distance / 2);
+    world.command(first);
+    world.clock.advance(distance - distance / 2);
     world.select(u"two"_s);
-    world.press(hotkeytable::kQuickNote);
-    QCOMPARE(world.texts().size(), 2);
+    world.command(second);
+    const QString all = (world.texts() + world.prompts()).join(u'\n');
+    QVERIFY(all.contains(u"one"_s));
+    QCOMPARE(all.contains(u"two"_s), isAccepted);
 }
 
 void TestVeskServices::sourceIsOfTheKeyPress()
 {
-    World world;
-    world.select(u"text"_s);
-    world.accessibility.setDelay(50ms);
-    world.press(hotkeytable::kQuickNote);
-    world.workspace.setFrontmostApplication(
-        RunningApplication{.processIdentifier = 1, .localizedName = u"Other"_s, .bundleIdentifier = {}});
-    QVERIFY(world.texts().isEmpty());
-    world.clock.advance(200ms);
-    QCOMPARE(world.texts(), QStringList{u"text"_s});
-    QCOMPARE(world.store.notes().first()->sourceApp(), u"Editor"_s);
-}
-
-void TestVeskServices::newestTextIsNotKeptTwice()
-{
-    World world;
-    for (const QString &text : {u"A"_s, u"A"_s, u"B"_s, u"A"_s}) {
-        world.select(text);
-        world.press(hotkeytable::kQuickNote);
-        world.clock.advance(3s);
+    for (const HotKeyRow *key : {&hotkeytable::kQuickNote, &hotkeytable::kAddToChecklist}) {
+        World world;
+        world.select(u"text"_s);
+        world.accessibility.setDelay(50ms);
+        world.press(*key);
+        world.workspace.setFrontmostApplication(
+            RunningApplication{.processIdentifier = 1, .localizedName = u"Other"_s, .bundleIdentifier = {}});
+        QVERIFY(world.texts().isEmpty());
+        world.clock.advance(200ms);
+        QCOMPARE(world.texts().size(), 1);
+        QCOMPARE(world.store.notes().first()->sourceApp(), u"Editor"_s);
     }
-    QCOMPARE(world.texts(), (QStringList{u"A"_s, u"B"_s, u"A"_s}));
-    world.press(hotkeytable::kQuickNote);
-    QCOMPARE(World::notice(), u"Already in Vesk"_s);
-    QCOMPARE(world.sounds.played().size(), 5);
-}
-
-void TestVeskServices::appendGoesToTheNoteChangedLast()
-{
-    World world;
-    world.select(u"first"_s);
-    world.press(hotkeytable::kAppend);
-    QCOMPARE(World::notice(), u"Saved to Vesk"_s);
-    world.clock.advance(3s);
-    world.select(u"more"_s);
-    world.press(hotkeytable::kAppend);
-    QCOMPARE(world.texts(), QStringList{u"first\n\nmore"_s});
-    QCOMPARE(World::notice(), u"Added to “first”"_s);
-    world.store.notes().first()->setText({});
-    world.clock.advance(3s);
-    world.press(hotkeytable::kAppend);
-    QCOMPARE(World::notice(), u"Added to “New Note”"_s);
 }
 
 void TestVeskServices::tooLongTextIsRefused()
 {
+    QFETCH(const Command, command);
     World world;
     // Two bytes each: the text is over the limit in bytes, not in characters.
-    world.select(QString(kMaximumTextBytes / 2, u'ä'));
-    world.press(hotkeytable::kQuickNote);
-    QCOMPARE(World::notice(), u"Saved to Vesk"_s);
-    world.clock.advance(3s);
     world.select(QString(kMaximumTextBytes / 2 + 1, u'ä'));
-    world.press(hotkeytable::kQuickNote);
-    QCOMPARE(world.store.notes().count(), 1);
+    world.command(command);
     QCOMPARE(World::notice(), u"The selection is too long to keep"_s);
+    world.clock.advance(3s);
+    world.select(QString(kMaximumTextBytes / 2, u'ä'));
+    world.command(command);
+    QCOMPARE(world.texts().size() + world.prompts().size(), 1);
+    QVERIFY(World::notice().startsWith(u"Saved to "_s));
 }
 
 void TestVeskServices::failedSaveIsNotConfirmed()
 {
+    QFETCH(const Command, command);
     World world;
     world.select(u"kept in memory"_s);
     {
         const WriteLock lock(world.folder.filePath(u"Notes.store"_s));
-        world.press(hotkeytable::kQuickNote);
+        world.command(command);
         QCOMPARE(World::notice(), u"Not saved yet, Vesk keeps trying"_s);
         QVERIFY(world.sounds.played().isEmpty());
         QVERIFY(world.store.hasPendingChanges());
     }
     world.clock.advance(1min);
     QVERIFY(!world.store.hasPendingChanges());
+    QCOMPARE(world.texts().size() + world.prompts().size(), 1);
 }
 
-void TestVeskServices::nothingSelectedOpensTheComposer()
+void TestVeskServices::nothingSelected_data()
+{
+    using Mode = std::optional<QuickNoteBox::Mode>;
+    QTest::addColumn<Command>("command");
+    QTest::addColumn<bool>("isTrusted");
+    QTest::addColumn<Mode>("mode");
+    QTest::addColumn<QString>("notice");
+    const QString hint = u"Select text to add to your checklist"_s;
+    const QString refusal = u"Vesk needs Accessibility access"_s;
+    const Mode note = QuickNoteBox::Mode::Note;
+    const Mode list = QuickNoteBox::Mode::Checklist;
+    QTest::newRow("note") << kNote << true << note << QString();
+    QTest::newRow("append") << kAppend << true << note << QString();
+    QTest::newRow("checklist") << kChecklist << true << list << QString();
+    QTest::newRow("add") << kAdd << true << Mode() << hint;
+    QTest::newRow("prompt") << kPrompt << true << Mode() << QString();
+    QTest::newRow("note, no trust") << kNote << false << note << QString();
+    QTest::newRow("append, no trust") << kAppend << false << note << QString();
+    QTest::newRow("checklist, no trust") << kChecklist << false << list << QString();
+    QTest::newRow("add, no trust") << kAdd << false << Mode() << refusal;
+    QTest::newRow("prompt, no trust") << kPrompt << false << Mode() << QString();
+}
+
+/// Without the user's trust there is no selection, whatever is selected.
+void TestVeskServices::nothingSelected()
+{
+    QFETCH(const Command, command);
+    QFETCH(const bool, isTrusted);
+    QFETCH(const std::optional<QuickNoteBox::Mode>, mode);
+    QFETCH(const QString, notice);
+    World world;
+    world.accessibility.setTrusted(isTrusted);
+    world.select(isTrusted ? QString() : u"private"_s);
+    for (int press = 0; press < 2; ++press) {
+        world.command(command);
+        QCOMPARE(world.box.mode(), mode);
+        QCOMPARE(World::notice(), notice);
+        world.box.close();
+        world.clock.advance(3s);
+    }
+    // The key asks, once in a run; Shift does not.
+    const bool isAskedFor = !isTrusted && command.key;
+    QCOMPARE(world.accessibility.askCount(), isAskedFor ? 1 : 0);
+    QVERIFY(world.texts().isEmpty() && world.prompts().isEmpty());
+    QVERIFY(world.sounds.played().isEmpty());
+    QVERIFY(world.poster.posted().isEmpty());
+}
+
+void TestVeskServices::sameKeyClosesTheBox()
 {
     World world;
+    world.select({});
     world.press(hotkeytable::kQuickNote);
-    // The application has its time to copy.
-    world.clock.advance(500ms);
-    QVERIFY(world.panelWindow->isShown());
-    QCOMPARE(world.panel.requestedField(), PanelModel::Field::Composer);
-    QVERIFY(world.texts().isEmpty());
+    QVERIFY(world.box.isShowing());
+    world.select(u"not to be read"_s);
+    world.clock.advance(1s);
+    world.press(hotkeytable::kChecklist);
+    QVERIFY(!world.box.isShowing());
+    // Closing counts as a command, so the next press is a slip again.
+    world.clock.advance(1999ms);
+    world.press(hotkeytable::kQuickNote);
+    QVERIFY(world.texts().isEmpty() && !world.box.isShowing());
+    // The box does not let this one pass.
+    world.box.show(QuickNoteBox::Mode::Note);
+    world.press(hotkeytable::kAddToChecklist);
+    QVERIFY(world.texts().isEmpty() && world.box.isShowing());
 }
 
-void TestVeskServices::withoutTrustNothingIsReadAndTheQuestionComesOnce()
+void TestVeskServices::trustWithdrawnWhileReading()
 {
     World world;
     world.select(u"private"_s);
+    world.accessibility.setDelay(50ms);
+    world.press(hotkeytable::kQuickNote);
     world.accessibility.setTrusted(false);
-    world.press(hotkeytable::kQuickNote);
-    world.clock.advance(3s);
-    world.press(hotkeytable::kQuickNote);
+    world.clock.advance(1s);
     QVERIFY(world.texts().isEmpty());
+    QVERIFY(world.box.isShowing());
     QCOMPARE(world.accessibility.askCount(), 1);
-    QVERIFY(world.panelWindow->isShown());
+}
+
+void TestVeskServices::doubleShiftIsHeardOnlyWithTrust()
+{
+    World world;
+    for (const auto &[text, isTrusted, notice] :
+         {std::tuple(u"one"_s, true, u"Saved to Prompts"_s),
+          std::tuple(u"one"_s, true, u"Already in Prompts"_s), std::tuple(u"two"_s, false, QString()),
+          std::tuple(u"two"_s, true, u"Saved to Prompts"_s),
+          std::tuple(u"one"_s, true, u"Saved to Prompts"_s)}) {
+        world.clock.advance(5s);
+        world.accessibility.setTrusted(isTrusted);
+        world.select(text);
+        world.tapShiftTwice();
+        QCOMPARE(World::notice(), notice);
+    }
+    QCOMPARE(world.prompts(), (QStringList{u"one"_s, u"two"_s, u"one"_s}));
+    QVERIFY(world.store.prompts().first()->isCaptured());
+    QCOMPARE(world.sounds.played().size(), 3);
+    QVERIFY(world.texts().isEmpty());
+
+    // A tap from before the trust was withdrawn is no half of a later one.
+    world.clock.advance(5s);
+    world.tap.setFlags({.held = Qt::ShiftModifier, .isCapsLocked = false, .time = {}});
+    world.tap.setFlags({});
+    world.accessibility.setTrusted(false);
+    world.accessibility.setTrusted(true);
+    world.select(u"three"_s);
+    world.tap.setFlags({.held = Qt::ShiftModifier, .isCapsLocked = false, .time = {}});
+    world.tap.setFlags({});
+    QCOMPARE(world.prompts().size(), 3);
+}
+
+void TestVeskServices::checklistKeyIsLeftToItsOwner()
+{
+    static constexpr QStringView kOwners[]{u"org.example.Files"};
+    World world(kOwners);
+    const KeyCombination key = hotkeytable::kChecklist.combination;
+    const auto turnTo = [&world](qint64 process, const std::optional<QString> &identifier) {
+        world.workspace.setFrontmostApplication(RunningApplication{
+            .processIdentifier = process, .localizedName = u"App"_s, .bundleIdentifier = identifier});
+    };
+    world.select(u"text"_s);
+    turnTo(1, u"org.example.Files"_s);
+    QVERIFY(!world.hotKeys.press(key));
+    QVERIFY(world.hotKeys.press(hotkeytable::kAddToChecklist.combination));
+    turnTo(2, std::nullopt);
+    QVERIFY(world.hotKeys.press(key));
+    turnTo(3, u"org.example.Files"_s);
+    turnTo(4, u"org.example.files"_s);
+    turnTo(5, u"org.example.Editor"_s);
+    QVERIFY(world.hotKeys.press(key));
+    QCOMPARE(world.hotKeys.registrationCount(), 6);
 }
 
 void TestVeskServices::openKeyTogglesThePanel()
