@@ -7,6 +7,12 @@
 
 namespace vesk {
 
+namespace {
+
+constexpr quint16 kSuperAlt = XCB_MOD_MASK_4 | XCB_MOD_MASK_1;
+
+} // namespace
+
 Keyboard::Keyboard(DisplayConnection &display)
     : m_display(display)
 {
@@ -71,18 +77,38 @@ void Keyboard::type(const QString &text)
     }
 }
 
+void Keyboard::takeHotKey(xcb_keysym_t key)
+{
+    xcb_grab_key(m_display.xcb(), 0, m_display.root(), kSuperAlt, find(key).code, XCB_GRAB_MODE_ASYNC,
+                 XCB_GRAB_MODE_ASYNC);
+    xcb_flush(m_display.xcb());
+}
+
+bool Keyboard::grab()
+{
+    const auto cookie = xcb_grab_keyboard(m_display.xcb(), 0, m_display.root(), XCB_CURRENT_TIME,
+                                          XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    const Reply<xcb_grab_keyboard_reply_t> reply{xcb_grab_keyboard_reply(m_display.xcb(), cookie, nullptr)};
+    return reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
+}
+
+void Keyboard::ungrab()
+{
+    xcb_ungrab_keyboard(m_display.xcb(), XCB_CURRENT_TIME);
+    xcb_flush(m_display.xcb());
+}
+
 bool Keyboard::isHotKeyTaken(xcb_keysym_t key) const
 {
     // The server serves nobody else between the trial and its end, so the trial takes the key from no one.
     xcb_connection_t *xcb = m_display.xcb();
-    const quint16 modifiers = XCB_MOD_MASK_4 | XCB_MOD_MASK_1;
     const xcb_keycode_t code = find(key).code;
     xcb_grab_server(xcb);
-    const xcb_void_cookie_t cookie = xcb_grab_key_checked(xcb, 0, m_display.root(), modifiers, code,
+    const xcb_void_cookie_t cookie = xcb_grab_key_checked(xcb, 0, m_display.root(), kSuperAlt, code,
                                                           XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
     const Reply<xcb_generic_error_t> error{xcb_request_check(xcb, cookie)};
     if (!error)
-        xcb_ungrab_key(xcb, code, m_display.root(), modifiers);
+        xcb_ungrab_key(xcb, code, m_display.root(), kSuperAlt);
     xcb_ungrab_server(xcb);
     xcb_flush(xcb);
     return error != nullptr;

@@ -26,6 +26,13 @@ public:
     /// Types letters, digits, spaces and other characters of the keyboard's first two levels.
     void type(const QString &text);
 
+    /// Claims this key together with Super and Alt for this keyboard's connection.
+    void takeHotKey(xcb_keysym_t key);
+
+    /// Takes all keys from every other client, as an open menu does; false if one has them already.
+    [[nodiscard]] bool grab();
+    void ungrab();
+
     /// Whether another client has claimed this key together with Super and Alt.
     [[nodiscard]] bool isHotKeyTaken(xcb_keysym_t key) const;
 

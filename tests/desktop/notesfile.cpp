@@ -51,6 +51,20 @@ QStringList NotesFile::texts() const
     return texts;
 }
 
+QStringList NotesFile::promptTexts() const
+{
+    QStringList texts;
+    try {
+        const SQLite::Database database = openToRead(m_path);
+        SQLite::Statement query(database, "SELECT text FROM Prompt ORDER BY createdAt, rowid");
+        while (query.executeStep())
+            texts.append(QString::fromStdString(query.getColumn(0).getString()));
+    } catch (const SQLite::Exception &) {
+        texts.clear();
+    }
+    return texts;
+}
+
 QString NotesFile::integrity() const
 {
     try {

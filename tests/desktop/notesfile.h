@@ -24,6 +24,9 @@ public:
     /// The notes' texts in the same order; empty if the file cannot be read.
     [[nodiscard]] QStringList texts() const;
 
+    /// The prompts' texts, the oldest first; empty if the file cannot be read.
+    [[nodiscard]] QStringList promptTexts() const;
+
     /// "ok", or what SQLite found wrong.
     [[nodiscard]] QString integrity() const;
 

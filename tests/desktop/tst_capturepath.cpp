@@ -1,54 +1,22 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/desktoptest.h"
+#include "desktop/editortest.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
 /// The way of a text from another application into the store and onto the panel.
-class TestCapturePath : public QObject
+class TestCapturePath : public EditorTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void selectionBecomesANoteWithItsSource();
     void sameTextIsKeptOnce();
     void heldKeyCapturesOnceAndTypesNothing();
     void panelTakesTheKeyboardAndGivesItBack();
     void composedNoteOutlivesARestart();
-
-private:
-    void capture() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_n}, kFinger); }
-    void togglePanel() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}, kFinger); }
-
-    const QStringList m_lines = {u"Water the lemon tree on the balcony"_s, u"Ask about the train to Ghent"_s};
-    std::unique_ptr<VirtualDesktop> m_desktop;
-    std::unique_ptr<ChildProcess> m_vesk;
-    std::unique_ptr<TextEditor> m_editor;
 };
-
-void TestCapturePath::init()
-{
-    QString problem;
-    m_desktop = VirtualDesktop::start(problem);
-    QVERIFY2(m_desktop, qPrintable(problem));
-    QVERIFY(m_desktop->prepareUser());
-    m_vesk = m_desktop->startVesk();
-    QVERIFY(m_vesk);
-    m_editor = TextEditor::open(*m_desktop, m_lines);
-    VERIFY_ON(*m_desktop, m_editor);
-}
-
-void TestCapturePath::cleanup()
-{
-    if (m_vesk && QTest::currentTestFailed())
-        qWarning().noquote() << "Vesk said:" << m_vesk->errorOutput();
-    m_editor.reset();
-    m_vesk.reset();
-    m_desktop.reset();
-}
 
 void TestCapturePath::selectionBecomesANoteWithItsSource()
 {

@@ -1,52 +1,25 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/desktoptest.h"
+#include "desktop/editortest.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
 /// The way of a text between Vesk and other applications by the clipboard.
-class TestClipboard : public QObject
+class TestClipboard : public EditorTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void noteIsPastedIntoTheEditor();
     void terminalSurvivesAndTheRecentCopyIsKept();
 
 private:
-    void capture() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_n}, kFinger); }
     [[nodiscard]] std::optional<QString> clipboard()
     {
         return m_desktop->display().readSelection("CLIPBOARD", 1s);
     }
-
-    const QStringList m_lines = {u"Water the lemon tree on the balcony"_s, u"Ask about the train to Ghent"_s};
-    std::unique_ptr<VirtualDesktop> m_desktop;
-    std::unique_ptr<ChildProcess> m_vesk;
-    std::unique_ptr<TextEditor> m_editor;
 };
-
-void TestClipboard::init()
-{
-    QString problem;
-    m_desktop = VirtualDesktop::start(problem);
-    QVERIFY2(m_desktop, qPrintable(problem));
-    QVERIFY(m_desktop->prepareUser());
-    m_vesk = m_desktop->startVesk();
-    QVERIFY(m_vesk);
-    m_editor = TextEditor::open(*m_desktop, m_lines);
-    VERIFY_ON(*m_desktop, m_editor);
-}
-
-void TestClipboard::cleanup()
-{
-    m_editor.reset();
-    m_vesk.reset();
-    m_desktop.reset();
-}
 
 void TestClipboard::noteIsPastedIntoTheEditor()
 {

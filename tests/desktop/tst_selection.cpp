@@ -1,58 +1,26 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/desktoptest.h"
+#include "desktop/editortest.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
 /// What counts as selected, in an application that tells both the X server and the accessibility bus.
-class TestSelection : public QObject
+class TestSelection : public EditorTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void selectionOutlivesATurnToAnotherWindow();
     void whatIsNoLongerSelectedIsNotKept();
     void withoutConsentNothingIsRead();
 
 private:
-    void capture() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_n}, kFinger); }
-    void togglePanel() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}, kFinger); }
-    [[nodiscard]] bool setConsent(const QString &action);
-
-    const QStringList m_lines = {u"Water the lemon tree on the balcony"_s, u"Ask about the train to Ghent"_s};
-    std::unique_ptr<VirtualDesktop> m_desktop;
-    std::unique_ptr<ChildProcess> m_vesk;
-    std::unique_ptr<TextEditor> m_editor;
+    [[nodiscard]] bool setConsent(const QString &action)
+    {
+        return runToEnd(VirtualDesktop::veskProgram(), {u"access"_s, action});
+    }
 };
-
-void TestSelection::init()
-{
-    QString problem;
-    m_desktop = VirtualDesktop::start(problem);
-    QVERIFY2(m_desktop, qPrintable(problem));
-    QVERIFY(m_desktop->prepareUser());
-    m_vesk = m_desktop->startVesk();
-    QVERIFY(m_vesk);
-    m_editor = TextEditor::open(*m_desktop, m_lines);
-    VERIFY_ON(*m_desktop, m_editor);
-}
-
-void TestSelection::cleanup()
-{
-    m_editor.reset();
-    m_vesk.reset();
-    m_desktop.reset();
-}
-
-bool TestSelection::setConsent(const QString &action)
-{
-    const std::unique_ptr<ChildProcess> command =
-        m_desktop->run(VirtualDesktop::veskProgram(), {u"access"_s, action});
-    return command && command->waitForExit(kBound) && command->exitCode() == 0;
-}
 
 /// The X server's selection is older than the turn to the window, so only the bus can vouch for it.
 void TestSelection::selectionOutlivesATurnToAnotherWindow()

@@ -1,0 +1,249 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/editortest.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace vesk;
+
+namespace {
+
+const auto kSavedPrompt = u"Saved to Prompts"_s;
+
+} // namespace
+
+/// Every global key, whatever state and layout the keyboard is in.
+class TestGlobalKeys : public EditorTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void eachKeyDoesItsOwn();
+    void locks_data();
+    void locks();
+    void layouts_data();
+    void layouts();
+    void layoutChangedWhileRunning();
+    void takenCombinationLeavesTheOthers();
+    void letterHeldLongerThanItsModifiersTypesNothing();
+    void twoLettersAtOnce();
+    void doubleShiftIsHeardDuringAGrab();
+    void withoutConsentShiftIsNotHeard();
+};
+
+void TestGlobalKeys::eachKeyDoesItsOwn()
+{
+    const auto waitForGate = [] { QTest::qWait(int(kCaptureGate.count())); };
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    press({XK_n});
+    VERIFY_ON(*m_desktop, waitNotice(kSaved));
+    tapShiftTwice();
+    VERIFY_ON(*m_desktop, waitNotice(kSavedPrompt));
+    QCOMPARE(m_desktop->notes().promptTexts(), QStringList{m_lines.at(0)});
+
+    waitForGate();
+    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
+    press({XK_Shift_L, XK_n});
+    VERIFY_ON(*m_desktop, waitNotice(u"Added to “%1”"_s.arg(m_lines.at(0))));
+    const QString note = m_lines.join(u"\n\n"_s);
+    QCOMPARE(m_desktop->notes().texts(), QStringList{note});
+
+    waitForGate();
+    press({XK_c});
+    VERIFY_ON(*m_desktop, waitNotice(kSaved));
+    const QString box = u"☐ "_s + m_lines.at(1);
+    QCOMPARE(m_desktop->notes().texts(), (QStringList{note, box}));
+
+    waitForGate();
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    press({XK_Shift_L, XK_c});
+    VERIFY_ON(*m_desktop, waitNotice(u"Added to “%1”"_s.arg(m_lines.at(1))));
+    QCOMPARE(m_desktop->notes().texts(), (QStringList{note, box + u"\n☐ "_s + m_lines.at(0)}));
+
+    Windows &windows = m_desktop->windows();
+    togglePanel();
+    VERIFY_ON(*m_desktop,
+              windows.waitFocused(windows.waitViewable(kPanel, kBound).value_or(Window()), kBound));
+    togglePanel();
+    VERIFY_ON(*m_desktop, windows.waitGone(kPanel, kBound));
+    VERIFY_ON(*m_desktop, windows.waitActive(m_editor->window(), kBound));
+    QVERIFY(isEditorUntouched());
+
+    press({XK_Control_L, XK_n});
+    VERIFY_ON(*m_desktop,
+              windows.waitFocused(windows.waitViewable(kPanel, kBound).value_or(Window()), kBound));
+    m_desktop->keyboard().type(u"written"_s);
+    m_desktop->keyboard().tap({XK_Return});
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(
+                              kBound, [this] { return m_desktop->notes().texts().contains(u"written"_s); }));
+}
+
+void TestGlobalKeys::locks_data()
+{
+    QTest::addColumn<xcb_keysym_t>("lock");
+    QTest::addColumn<bool>("isPromptExpected");
+    QTest::newRow("Caps Lock") << xcb_keysym_t{XK_Caps_Lock} << false;
+    QTest::newRow("Num Lock") << xcb_keysym_t{XK_Num_Lock} << true;
+}
+
+void TestGlobalKeys::locks()
+{
+    QFETCH(const xcb_keysym_t, lock);
+    QFETCH(const bool, isPromptExpected);
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    m_desktop->keyboard().tap({lock}, kFinger);
+    tapShiftTwice();
+    if (isPromptExpected)
+        VERIFY_ON(*m_desktop, waitNotice(kSavedPrompt));
+    capture();
+    // A prompt would have been stored before the note.
+    VERIFY_ON(*m_desktop, waitNotice(kSaved));
+    QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(0)});
+    QCOMPARE(m_desktop->notes().promptTexts().size(), isPromptExpected ? 1 : 0);
+    m_desktop->keyboard().tap({lock}, kFinger);
+    QVERIFY(isEditorUntouched());
+}
+
+void TestGlobalKeys::layouts_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("typedByN");
+    QTest::newRow("second of two") << QStringList{u"us,ru"_s, u"-option"_s, u"grp:sclk_toggle"_s} << u"т"_s;
+    // Every letter has another place there.
+    QTest::newRow("Dvorak") << QStringList{u"us"_s, u"-variant"_s, u"dvorak"_s} << u"b"_s;
+}
+
+/// The layout changes while Vesk runs; the keys stay where they were.
+void TestGlobalKeys::layouts()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QString, typedByN);
+    QVERIFY(runToEnd(u"setxkbmap"_s, QStringList{u"-layout"_s} + arguments));
+    // Does nothing where it does not change to the second layout.
+    m_desktop->keyboard().tap({XK_Scroll_Lock}, kFinger);
+    const QString typed = typedByN + m_lines.join(u'\n') + u'\n';
+    VERIFY_ON(*m_desktop, m_editor->deselect());
+    m_desktop->keyboard().tap({XK_n}, kFinger);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(u'*' + m_editor->window().title, kBound));
+    QCOMPARE(m_editor->text(), typed);
+
+    m_desktop->keyboard().tap({XK_Control_L, XK_Home}, kFinger);
+    m_desktop->keyboard().tap({XK_Delete}, kFinger);
+    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
+    capture();
+    VERIFY_ON(*m_desktop, waitNotice(kSaved));
+    tapShiftTwice();
+    VERIFY_ON(*m_desktop, waitNotice(kSavedPrompt));
+    togglePanel();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
+    togglePanel();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+    QTest::qWait(int(kCaptureGate.count()));
+    press({XK_c});
+    const QStringList expected{m_lines.at(1), u"☐ "_s + m_lines.at(1)};
+    VERIFY_ON(*m_desktop,
+              m_desktop->display().waitUntil(kBound, [&] { return m_desktop->notes().texts() == expected; }));
+}
+
+/// Super and Alt change places on the keyboard, and then back.
+void TestGlobalKeys::layoutChangedWhileRunning()
+{
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    QVERIFY(runToEnd(u"setxkbmap"_s, {u"-option"_s, u"altwin:swap_lalt_lwin"_s}));
+    capture();
+    VERIFY_ON(*m_desktop, waitNotice(kSaved));
+    QTest::qWait(int(kCaptureGate.count()));
+    QVERIFY(runToEnd(u"setxkbmap"_s, {u"-option"_s, QString()}));
+    capture();
+    VERIFY_ON(*m_desktop, waitNotice(kAlready));
+    QVERIFY(isEditorUntouched());
+}
+
+void TestGlobalKeys::takenCombinationLeavesTheOthers()
+{
+    QVERIFY(m_vesk->quit());
+    const std::unique_ptr<DisplayConnection> other = DisplayConnection::open(m_desktop->displayName());
+    QVERIFY(other);
+    Keyboard(*other).takeHotKey(XK_n);
+    m_vesk = m_desktop->startVesk();
+    QVERIFY(m_vesk);
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    press({XK_n});
+    tapShiftTwice();
+    VERIFY_ON(*m_desktop, waitNotice(kSavedPrompt));
+    press({XK_Shift_L, XK_n});
+    // Were the taken key Vesk's, this one would come too soon.
+    VERIFY_ON(*m_desktop, waitNotice(kSaved));
+    togglePanel();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
+}
+
+void TestGlobalKeys::letterHeldLongerThanItsModifiersTypesNothing()
+{
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    Keyboard &keyboard = m_desktop->keyboard();
+    for (const xcb_keysym_t key : {XK_Super_L, XK_Alt_L, XK_n})
+        keyboard.press(key);
+    VERIFY_ON(*m_desktop, waitNotice(kSaved));
+    keyboard.release(XK_Super_L);
+    keyboard.release(XK_Alt_L);
+    QTest::qWait(1500); // The server begins to repeat 660 ms after the press.
+    keyboard.release(XK_n);
+    QTest::qWait(int(kFinger.count()));
+    QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(0)});
+    QVERIFY(isEditorUntouched());
+
+    // The letter is the editor's again.
+    keyboard.tap({XK_Control_L, XK_Home}, kFinger);
+    keyboard.tap({XK_n}, kFinger);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(u'*' + m_editor->window().title, kBound));
+    QCOMPARE(m_editor->text(), u'n' + m_lines.join(u'\n') + u'\n');
+}
+
+void TestGlobalKeys::twoLettersAtOnce()
+{
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    press({XK_n, XK_t});
+    Windows &windows = m_desktop->windows();
+    VERIFY_ON(*m_desktop, windows.waitViewable(kPanel, kBound));
+    const QStringList expected{m_lines.at(0)};
+    VERIFY_ON(*m_desktop,
+              m_desktop->display().waitUntil(kBound, [&] { return m_desktop->notes().texts() == expected; }));
+    togglePanel();
+    VERIFY_ON(*m_desktop, windows.waitActive(m_editor->window(), kBound));
+    QVERIFY(isEditorUntouched());
+}
+
+/// Another program has the keyboard for itself, as a menu has or a screen's magnifier.
+void TestGlobalKeys::doubleShiftIsHeardDuringAGrab()
+{
+    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
+    QVERIFY(m_desktop->keyboard().grab());
+    tapShiftTwice();
+    m_desktop->keyboard().ungrab();
+    VERIFY_ON(*m_desktop, waitNotice(kSavedPrompt));
+    QCOMPARE(m_desktop->notes().promptTexts(), QStringList{m_lines.at(1)});
+}
+
+void TestGlobalKeys::withoutConsentShiftIsNotHeard()
+{
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    QVERIFY(runToEnd(VirtualDesktop::veskProgram(), {u"access"_s, u"deny"_s}));
+    tapShiftTwice();
+    press({XK_Shift_L, XK_c});
+    VERIFY_ON(*m_desktop, waitNotice(u"Vesk needs Accessibility access"_s));
+    QVERIFY(m_desktop->notes().promptTexts().isEmpty());
+    QVERIFY(runToEnd(VirtualDesktop::veskProgram(), {u"access"_s, u"allow"_s}));
+    m_desktop->windows().activate(m_editor->window());
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
+    tapShiftTwice();
+    VERIFY_ON(*m_desktop, waitNotice(kSavedPrompt));
+    QCOMPARE(m_desktop->notes().promptTexts(), QStringList{m_lines.at(1)});
+}
+
+int main(int argc, char **argv)
+{
+    return runDesktopTest<TestGlobalKeys>(argc, argv);
+}
+
+#include "tst_globalkeys.moc"

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/desktoptest.h"
+#include "input/doubleshiftmonitor.h"
+#include "platform/x11/rawinput.h"
+#include "platform/x11/x11connection.h"
+#include "platform/x11/x11eventtap.h"
+
+#include <QSignalSpy>
+
+#include <functional>
+#include <xcb/xtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+
+/// Shift tapped twice on a real keyboard, in all that may come between.
+class TestEventTap : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+    void keysBecomeTaps_data();
+    void keysBecomeTaps();
+
+private:
+    std::unique_ptr<VirtualDesktop> m_desktop;
+    std::unique_ptr<X11Connection> m_connection;
+};
+
+void TestEventTap::initTestCase()
+{
+    QString problem;
+    m_desktop = VirtualDesktop::start(problem);
+    QVERIFY2(m_desktop, qPrintable(problem));
+    qputenv("DISPLAY", m_desktop->displayName().toLatin1());
+    m_connection = X11Connection::open().connection;
+    QVERIFY(m_connection);
+}
+
+void TestEventTap::cleanupTestCase()
+{
+    m_connection.reset();
+    m_desktop.reset();
+}
+
+/// Letters for keys: s S, left Shift down and up; r R, right Shift; T, Shift goes up that was not down;
+/// c C, Control; k, n, Caps Lock and Num Lock tapped; x, a letter; b, a mouse button; w, the wheel; g G,
+/// another client takes the keyboard and gives it back; p P, the user withdraws the consent and gives it.
+void TestEventTap::keysBecomeTaps_data()
+{
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("two taps") << u"sSsS"_s << 1;
+    QTest::newRow("left, then right") << u"sSrR"_s << 1;
+    QTest::newRow("both at once, twice") << u"srSRrsRS"_s << 1;
+    QTest::newRow("keys that go up twice") << u"TsSTRsSTT"_s << 1;
+    QTest::newRow("another client has the keyboard") << u"gsSsSG"_s << 1;
+    QTest::newRow("another client takes the keyboard between") << u"sSgGsS"_s << 1;
+    QTest::newRow("Num Lock is on") << u"nsSsSn"_s << 1;
+    QTest::newRow("Num Lock tapped between") << u"sSnsSn"_s << 0;
+    QTest::newRow("Caps Lock is on") << u"ksSsSk"_s << 0;
+    QTest::newRow("after Caps Lock") << u"kksSsS"_s << 1;
+    QTest::newRow("a letter between") << u"sSxsS"_s << 0;
+    QTest::newRow("a click between") << u"sSbsS"_s << 0;
+    QTest::newRow("clicks with Shift") << u"sbSsbS"_s << 0;
+    QTest::newRow("scrolling with Shift") << u"swSswS"_s << 0;
+    QTest::newRow("Control is held") << u"csSsSC"_s << 0;
+    QTest::newRow("no consent") << u"psSsSP"_s << 0;
+    QTest::newRow("consent withdrawn while Control is held") << u"cpCPsSsS"_s << 1;
+}
+
+void TestEventTap::keysBecomeTaps()
+{
+    QFETCH(const QString, keys);
+    QFETCH(const int, expected);
+    RawInput input(*m_connection);
+    X11EventTap tap(input);
+    DoubleShiftMonitor monitor(tap);
+    const QSignalSpy doubleShift(&monitor, &DoubleShiftMonitor::doubleShift);
+    const QSignalSpy keyDown(&tap, &EventTap::keyDown);
+    monitor.start();
+    input.setListening(true);
+    Keyboard &keyboard = m_desktop->keyboard();
+    DisplayConnection &display = m_desktop->display();
+    const auto click = [&display](quint8 button) {
+        for (const quint8 type : {XCB_BUTTON_PRESS, XCB_BUTTON_RELEASE})
+            xcb_test_fake_input(display.xcb(), type, button, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+        xcb_flush(display.xcb());
+    };
+    const auto setListening = [&](bool isListening) {
+        input.setListening(isListening);
+        // The keys go another way to the server, which must have heard this first.
+        static_cast<void>(input.isCapsLocked());
+    };
+    static_cast<void>(input.isCapsLocked());
+    const QHash<QChar, std::function<void()>> actions{
+        {u's', [&] { keyboard.press(XK_Shift_L); }},
+        {u'S', [&] { keyboard.release(XK_Shift_L); }},
+        {u'r', [&] { keyboard.press(XK_Shift_R); }},
+        {u'R', [&] { keyboard.release(XK_Shift_R); }},
+        {u'T', [&] { keyboard.release(XK_Shift_L); }},
+        {u'c', [&] { keyboard.press(XK_Control_L); }},
+        {u'C', [&] { keyboard.release(XK_Control_L); }},
+        {u'k', [&] { keyboard.tap({XK_Caps_Lock}, kFinger); }},
+        {u'n', [&] { keyboard.tap({XK_Num_Lock}, kFinger); }},
+        {u'x', [&] { keyboard.tap({XK_x}); }},
+        {u'b', [&] { click(1); }},
+        {u'w', [&] { click(5); }},
+        {u'g', [&] { QVERIFY(keyboard.grab()); }},
+        {u'G', [&] { keyboard.ungrab(); }},
+        {u'p', [&] { setListening(false); }},
+        {u'P', [&] { setListening(true); }},
+    };
+    for (const QChar key : keys) {
+        actions.value(key)();
+        // Caps Lock is what it is when a key is heard, so each is heard before the next.
+        static_cast<void>(display.atom("VESK_TEST"));
+        QTest::qWait(2);
+    }
+    // What comes last is heard last.
+    const qsizetype before = keyDown.count();
+    keyboard.tap({XK_F5});
+    QTRY_VERIFY(keyDown.count() > before);
+    QCOMPARE(doubleShift.count(), expected);
+}
+
+int main(int argc, char **argv)
+{
+    return runDesktopTest<TestEventTap>(argc, argv);
+}
+
+#include "tst_eventtap.moc"
