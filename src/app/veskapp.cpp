@@ -118,9 +118,9 @@ void VeskApp::offerCommands(Desktop &desktop, NotesStore &store, ApplicationServ
             .quit = [] { QCoreApplication::exit(0); },
             .capture = command([](VeskApp &app) { app.m_services.capture(Target::NewNote); }),
             .captureToLastNote = command([](VeskApp &app) { app.m_services.capture(Target::LastNote); }),
-            .captureChecklist = {},
-            .addToChecklist = {},
-            .savePrompt = {},
+            .captureChecklist = command([](VeskApp &app) { app.m_services.capture(Target::NewChecklist); }),
+            .addToChecklist = command([](VeskApp &app) { app.m_services.addSelectionToChecklist(); }),
+            .savePrompt = command([](VeskApp &app) { app.m_services.savePrompt(); }),
             .quickNote = command([](VeskApp &app) { app.m_quickNote.show(QuickNoteBox::Mode::Note); }),
             .quickChecklist =
                 command([](VeskApp &app) { app.m_quickNote.show(QuickNoteBox::Mode::Checklist); }),
