@@ -8,6 +8,7 @@
 #include "platform/accessibility.h"
 #include "platform/sounds.h"
 #include "platform/workspace.h"
+#include "quicknote/notice.h"
 #include "quicknote/toast.h"
 
 #include <QPointer>
@@ -23,8 +24,8 @@ namespace {
 /// A second press within this time is a slip of the finger.
 constexpr std::chrono::seconds kCommandGap{2};
 
-const QString kDone = u"checkmark.circle.fill"_s;
-const QString kTrouble = u"exclamationmark.triangle.fill"_s;
+const QString kDone = notices::kSaved.symbol.toString();
+const QString kTrouble = notices::kNotSaved.symbol.toString();
 
 bool isTooLong(const QString &text)
 {
@@ -263,7 +264,7 @@ void VeskServices::keepPrompt(const QString &text)
 void VeskServices::insertNote(const QString &text, const std::optional<CaptureSource> &source)
 {
     m_needs.store.insert(std::make_unique<Note>(m_needs.clock, text, source));
-    saveAndConfirm(u"Saved to Vesk"_s, kDone);
+    saveAndConfirm(notices::kSaved.message.toString(), kDone);
 }
 
 bool VeskServices::refuseTooLong(const QString &text)
@@ -291,7 +292,7 @@ void VeskServices::confirm(const QString &message, const QString &symbol)
 void VeskServices::tellNotSaved()
 {
     // The store holds on to the change and writes it when the disk lets it.
-    m_needs.toast.show(u"Not saved yet, Vesk keeps trying"_s, kTrouble);
+    m_needs.toast.show(notices::kNotSaved);
 }
 
 void VeskServices::openQuickNote(Target target)

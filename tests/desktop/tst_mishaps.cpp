@@ -88,10 +88,10 @@ void TestMishaps::hungApplicationDoesNotHangVesk()
     VERIFY_ON(*m_desktop, m_editor->selectLine(0));
     m_editor->process().signal(SIGSTOP);
     capture();
-    // Nothing can be read, so the panel comes up to write a note; far below the 15 s that a toolkit waits
+    // Nothing can be read, so the box comes up to write a note; far below the 15 s that a toolkit waits
     // for a hung owner of the selection.
     constexpr std::chrono::seconds kAnswer{2};
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kAnswer));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kQuickNote, kAnswer));
     // It hangs on until Vesk has given up every way to the text.
     QTest::qWait(1500);
     m_editor->process().signal(SIGCONT);
@@ -101,7 +101,7 @@ void TestMishaps::hungApplicationDoesNotHangVesk()
     QVERIFY2(texts.isEmpty() || texts == QStringList{m_lines.at(0)}, qPrintable(texts.join(u'\n')));
     m_desktop->windows().activate(m_editor->window());
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kQuickNote, kBound));
     QCOMPARE(m_editor->text(), m_lines.join(u'\n') + u'\n');
 }
 

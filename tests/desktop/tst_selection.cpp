@@ -40,10 +40,17 @@ void TestSelection::whatIsNoLongerSelectedIsNotKept()
     VERIFY_ON(*m_desktop, m_editor->selectLine(0));
     VERIFY_ON(*m_desktop, m_editor->deselect());
     capture();
-    // Nothing to keep: the panel comes up to write a note instead.
-    const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
-    VERIFY_ON(*m_desktop, panel);
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
+    // Nothing to keep: the box comes up to write a note instead, and the same key takes it away.
+    Windows &windows = m_desktop->windows();
+    VERIFY_ON(*m_desktop,
+              windows.waitFocused(windows.waitViewable(kQuickNote, kBound).value_or(Window()), kBound));
+    capture();
+    VERIFY_ON(*m_desktop, windows.waitGone(kQuickNote, kBound));
+    VERIFY_ON(*m_desktop, windows.waitActive(m_editor->window(), kBound));
+    QTest::qWait(int(kCaptureGate.count()));
+    capture();
+    VERIFY_ON(*m_desktop,
+              windows.waitFocused(windows.waitViewable(kQuickNote, kBound).value_or(Window()), kBound));
     QVERIFY(m_desktop->notes().texts().isEmpty());
 
     const QString written = u"written at once"_s;

@@ -104,13 +104,16 @@ private Q_SLOTS:
     void registeringAgainReplaces();
     void takenCombinationIsInert_data() { benches(); }
     void takenCombinationIsInert();
-    void heldKeyFiresOnce_data();
+    void lettersAtOnceFireOnceEach_data() { x11Benches(); }
+    void lettersAtOnceFireOnceEach();
+    void heldKeyFiresOnce_data() { x11Benches(); }
     void heldKeyFiresOnce();
     void locksDoNotMatter();
     void keysFollowTheModifiers();
 
 private:
     static void benches();
+    static void x11Benches();
     [[nodiscard]] std::unique_ptr<Bench> makeBench(const QString &name);
     /// The identifiers of the keys that fired, once `count` have, in their order.
     [[nodiscard]] static QList<quint32> fired(QSignalSpy &spy, qsizetype count);
@@ -201,7 +204,21 @@ void TestHotKeys::takenCombinationIsInert()
     QCOMPARE(fired(spy, 1), QList<quint32>{2});
 }
 
-void TestHotKeys::heldKeyFiresOnce_data()
+void TestHotKeys::lettersAtOnceFireOnceEach()
+{
+    QFETCH(const QString, bench);
+    const std::unique_ptr<Bench> it = makeBench(bench);
+    QVERIFY(it->hotKeys().registerHotKey(1, kN));
+    QVERIFY(it->hotKeys().registerHotKey(2, kT));
+    QSignalSpy spy(&it->hotKeys(), &HotKeys::pressed);
+    for (int round = 0; round < 2; ++round) {
+        m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_n, XK_t}, kFinger);
+        QTest::qWait(int(kFinger.count()));
+    }
+    QCOMPARE(fired(spy, 4), (QList<quint32>{1, 2, 1, 2}));
+}
+
+void TestHotKeys::x11Benches()
 {
     QTest::addColumn<QString>("bench");
     QTest::newRow("with consent") << u"X11, with consent"_s;
