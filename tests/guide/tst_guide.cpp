@@ -146,6 +146,8 @@ void GuideTest::showsTheKeysThatAreRegistered()
         {u"Write a new note"_s, kWrite.combination},
         {u"Save selected text"_s, kQuickNote.combination},
         {u"Add to your last note"_s, kAppend.combination},
+        {u"Make a checklist"_s, kChecklist.combination},
+        {u"Add to your checklist"_s, kAddToChecklist.combination},
     };
     const GuideTopics topics;
     const QAbstractItemModelTester tester(const_cast<GuideTopics *>(&topics));
