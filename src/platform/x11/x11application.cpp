@@ -35,7 +35,12 @@ X11Application::X11Application(X11Connection &connection, X11Workspace &workspac
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *window) {
         if (!window)
             return;
-        m_hold.end();
+        // Window managers may give the keyboard to another once more before they are done.
+        if (isOwnWindowActive())
+            m_hold.end();
+        // News of what was active before may be all that was heard so far; the time begins anew.
+        if (m_elsewhere.isActive())
+            m_elsewhere.start();
         // The active window may be another again before its change to ours was read.
         setActive(true);
     });
