@@ -11,6 +11,7 @@
 #include "quicknote/toast.h"
 
 #include <QGuiApplication>
+#include <QMouseEvent>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -53,7 +54,7 @@ void QuickNotePanel::makeWindow()
                                   {u"cornerRadius"_s, kCornerRadius}});
     m_view->setSource(QUrl(u"qrc:/qt/qml/Vesk/QuickNote/QuickNoteView.qml"_s));
     m_view->installEventFilter(this);
-    connect(&m_model, &QuickNoteModel::moveRequested, m_view.get(), &QWindow::startSystemMove);
+    connect(&m_model, &QuickNoteModel::moveRequested, this, &QuickNotePanel::beginMove);
     connect(m_view.get(), &QWindow::visibleChanged, this, [this](bool isVisible) {
         if (!isVisible)
             m_isShowing = false; // The whole program was hidden.
@@ -125,8 +126,9 @@ void QuickNotePanel::place()
     // With y upwards a rectangle's bottom() is its top edge.
     const QPointF corner(visible.center().x() - size.width() / 2,
                          visible.bottom() - kShareAbove * visible.height() - size.height());
+    m_isPlaceable = m_needs.windows.setFrame(*m_view, QRectF(corner, size));
     // Where the desktop places windows by itself, the size at least is the box's own.
-    if (!m_needs.windows.setFrame(*m_view, QRectF(corner, size)))
+    if (!m_isPlaceable)
         m_view->resize(size.toSize());
 }
 
@@ -145,12 +147,35 @@ void QuickNotePanel::onFocusWindowChanged(const QWindow *window)
     close();
 }
 
+void QuickNotePanel::beginMove()
+{
+    // A window manager that is asked to move the window has the keyboard meanwhile, and some of them go
+    // on after the button is up.
+    if (m_isPlaceable)
+        m_isMoving = true;
+    else
+        m_view->startSystemMove();
+}
+
 bool QuickNotePanel::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Close) {
+    switch (event->type()) {
+    case QEvent::Close:
         event->ignore();
         close();
         return true;
+    case QEvent::MouseButtonPress:
+        m_grip = static_cast<QMouseEvent *>(event)->globalPosition().toPoint() - m_view->position();
+        break;
+    case QEvent::MouseMove:
+        if (m_isMoving)
+            m_view->setPosition(static_cast<QMouseEvent *>(event)->globalPosition().toPoint() - m_grip);
+        break;
+    case QEvent::MouseButtonRelease:
+        m_isMoving = false;
+        break;
+    default:
+        break;
     }
     return QObject::eventFilter(watched, event);
 }

@@ -66,6 +66,8 @@ private:
     void place();
     /// Gives the window its round corners.
     void shape();
+    /// Has the window follow the pointer while the button is down.
+    void beginMove();
     void onFocusWindowChanged(const QWindow *window);
 
     Needs m_needs;
@@ -74,6 +76,11 @@ private:
     std::unique_ptr<QQuickView> m_view;
     std::unique_ptr<WindowFade> m_fade;
     bool m_isShowing = false;
+    /// Whether the desktop lets the box choose its place.
+    bool m_isPlaceable = false;
+    bool m_isMoving = false;
+    /// Where the pointer has hold of the window, from its corner.
+    QPoint m_grip;
 };
 
 } // namespace vesk

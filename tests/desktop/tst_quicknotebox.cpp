@@ -1,0 +1,251 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/editortest.h"
+#include "desktop/plainwindow.h"
+
+#include <QFile>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <algorithm>
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace vesk;
+
+/// Writing a note without the panel, over another application.
+class TestQuickNoteBox : public EditorTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keyOpensItAndReturnKeepsTheNote_data();
+    void keyOpensItAndReturnKeepsTheNote();
+    void whatIsTypedAtOnceArrives();
+    void goesAndKeepsItsDraft_data();
+    void goesAndKeepsItsDraft();
+    void checklistKeyBeginsAChecklist();
+    void draggingItsGroundMovesIt();
+    void givesTheKeyboardBackToThePanel();
+    void unwrittenNoteIsOfferedAtTheEnd();
+
+private:
+    /// Opens the box with a key and waits until it has the keyboard; none if it does not come.
+    [[nodiscard]] std::optional<Window> openBox();
+    [[nodiscard]] bool letFocusFollowThePointer();
+    /// Whether no program has the keyboard to itself.
+    [[nodiscard]] bool isKeyboardFree() const;
+};
+
+std::optional<Window> TestQuickNoteBox::openBox()
+{
+    capture();
+    const std::optional<Window> box = m_desktop->windows().waitViewable(kQuickNote, kBound);
+    return box && m_desktop->windows().waitFocused(*box, kBound) ? box : std::nullopt;
+}
+
+bool TestQuickNoteBox::letFocusFollowThePointer()
+{
+    QFile usual(u"/etc/xdg/openbox/rc.xml"_s);
+    if (!usual.open(QIODevice::ReadOnly))
+        return false;
+    QString config = QString::fromUtf8(usual.readAll());
+    config.replace(u"<followMouse>no"_s, u"<followMouse>yes"_s);
+    config.replace(u"<focusDelay>200"_s, u"<focusDelay>0"_s);
+    if (m_desktop->writeFile(u"config/openbox/rc.xml"_s, config).isEmpty())
+        return false;
+    const std::unique_ptr<ChildProcess> teller = m_desktop->run(u"openbox"_s, {u"--reconfigure"_s});
+    if (!teller || !teller->waitForExit(kBound))
+        return false;
+    // Once it has heard, moving the pointer is enough.
+    PlainWindow other(m_desktop->display(), u"Other"_s, QRect(5, 5, 100, 100));
+    other.show();
+    const auto follows = [this](const Window &window, QPoint place) {
+        m_desktop->pointer().moveTo(place);
+        return m_desktop->windows().isActive(window);
+    };
+    const QPoint inEditor = m_editor->window().geometry.bottomLeft() + QPoint(40, -40);
+    return m_desktop->display().waitUntil(kBound, [&] {
+        return follows(other.window(), other.window().geometry.center());
+    }) && m_desktop->display().waitUntil(kBound, [&] { return follows(m_editor->window(), inEditor); });
+}
+
+bool TestQuickNoteBox::isKeyboardFree() const
+{
+    xcb_connection_t *xcb = m_desktop->display().xcb();
+    const auto cookie = xcb_grab_keyboard(xcb, 0, m_desktop->display().root(), XCB_CURRENT_TIME,
+                                          XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    const Reply<xcb_grab_keyboard_reply_t> reply{xcb_grab_keyboard_reply(xcb, cookie, nullptr)};
+    xcb_ungrab_keyboard(xcb, XCB_CURRENT_TIME);
+    xcb_flush(xcb);
+    return reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
+}
+
+void TestQuickNoteBox::keyOpensItAndReturnKeepsTheNote_data()
+{
+    QTest::addColumn<bool>("followsPointer");
+    QTest::newRow("focus by clicks") << false;
+    QTest::newRow("focus follows the pointer") << true;
+}
+
+void TestQuickNoteBox::keyOpensItAndReturnKeepsTheNote()
+{
+    QFETCH(bool, followsPointer);
+    if (followsPointer)
+        VERIFY_ON(*m_desktop, letFocusFollowThePointer());
+    const std::optional<Window> box = openBox();
+    VERIFY_ON(*m_desktop, box);
+    QCOMPARE(box->geometry, QRect(510, 260, 580, 236));
+    QVERIFY(!m_desktop->windows().findViewable(kPanel));
+
+    const QString note = u"Call Ada about the lease"_s;
+    m_desktop->keyboard().type(note);
+    m_desktop->keyboard().tap({XK_Return});
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+    QCOMPARE(m_desktop->notes().texts(), QStringList{note});
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kQuickNote, kBound));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+    QVERIFY(!m_desktop->windows().findViewable(kPanel));
+    QVERIFY(isEditorUntouched());
+}
+
+void TestQuickNoteBox::whatIsTypedAtOnceArrives()
+{
+    constexpr auto kFastTyping = 33ms;
+    const QString note = u"what was on my mind just now"_s;
+    capture();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kQuickNote, kBound));
+    // It may be on the screen without the keyboard yet.
+    for (const QChar letter : note) {
+        m_desktop->keyboard().type(letter);
+        QTest::qWait(int(kFastTyping.count()));
+    }
+    m_desktop->keyboard().tap({XK_Return});
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+    QCOMPARE(m_desktop->notes().texts(), QStringList{note});
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+    QVERIFY(isEditorUntouched());
+}
+
+void TestQuickNoteBox::goesAndKeepsItsDraft_data()
+{
+    QTest::addColumn<QString>("by");
+    QTest::newRow("Escape") << u"escape"_s;
+    QTest::newRow("its key") << u"key"_s;
+    QTest::newRow("a click elsewhere") << u"click"_s;
+}
+
+void TestQuickNoteBox::goesAndKeepsItsDraft()
+{
+    QFETCH(QString, by);
+    VERIFY_ON(*m_desktop, openBox());
+    // A click would overtake keys that are still held back for the box.
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [this] { return isKeyboardFree(); }));
+    m_desktop->keyboard().type(u"tea"_s);
+    if (by == u"escape"_s)
+        m_desktop->keyboard().tap({XK_Escape});
+    else if (by == u"key"_s)
+        capture();
+    else
+        m_desktop->pointer().click(m_editor->window().geometry.bottomLeft() + QPoint(40, -40));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kQuickNote, kBound));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+    // The editor's window may have the keyboard a moment before its text has.
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [this] { return isEditorUntouched(); }));
+    VERIFY_ON(*m_desktop, m_editor->deselect());
+
+    QTest::qWait(int(kCaptureGate.count()));
+    VERIFY_ON(*m_desktop, openBox());
+    m_desktop->keyboard().type(u" at five"_s);
+    m_desktop->keyboard().tap({XK_Return});
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+    QCOMPARE(m_desktop->notes().texts(), QStringList{u"tea at five"_s});
+}
+
+void TestQuickNoteBox::checklistKeyBeginsAChecklist()
+{
+    press({XK_c});
+    const std::optional<Window> box = m_desktop->windows().waitViewable(kQuickChecklist, kBound);
+    VERIFY_ON(*m_desktop, box);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*box, kBound));
+    m_desktop->keyboard().type(u"Milk"_s);
+    m_desktop->keyboard().tap({XK_Return});
+    m_desktop->keyboard().type(u"Bread"_s);
+    m_desktop->keyboard().tap({XK_Return});
+    m_desktop->keyboard().tap({XK_Return});
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+    QCOMPARE(m_desktop->notes().texts(), QStringList{u"\u2610 Milk\n\u2610 Bread"_s});
+}
+
+void TestQuickNoteBox::draggingItsGroundMovesIt()
+{
+    const std::optional<Window> box = openBox();
+    VERIFY_ON(*m_desktop, box);
+    const QPoint ground = box->geometry.topLeft() + QPoint(300, 12);
+    m_desktop->pointer().drag(ground, ground + QPoint(60, 90));
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
+        const std::optional<Window> moved = m_desktop->windows().findViewable(kQuickNote);
+        return moved && moved->geometry == box->geometry.translated(60, 90);
+    }));
+    // Once it is let go of, it stays.
+    m_desktop->pointer().moveTo(ground + QPoint(200, 200));
+    m_desktop->keyboard().type(u"tea"_s);
+    m_desktop->keyboard().tap({XK_Return});
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+    QCOMPARE(m_desktop->notes().texts(), QStringList{u"tea"_s});
+    const QList<Window> all = m_desktop->windows().all();
+    QVERIFY(std::ranges::any_of(all, [&](const Window &window) {
+        return window.id == box->id && window.geometry == box->geometry.translated(60, 90);
+    }));
+}
+
+void TestQuickNoteBox::givesTheKeyboardBackToThePanel()
+{
+    togglePanel();
+    const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
+    VERIFY_ON(*m_desktop, panel && m_desktop->windows().waitFocused(*panel, kBound));
+    VERIFY_ON(*m_desktop, openBox());
+    m_desktop->keyboard().tap({XK_Escape});
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kQuickNote, kBound));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
+}
+
+void TestQuickNoteBox::unwrittenNoteIsOfferedAtTheEnd()
+{
+    const QString note = u"Call Ada about the lease"_s;
+    VERIFY_ON(*m_desktop, openBox());
+    m_desktop->keyboard().type(note);
+    auto full =
+        std::make_unique<SQLite::Database>(m_desktop->notes().path().toStdString(), SQLite::OPEN_READWRITE);
+    full->exec("BEGIN IMMEDIATE");
+    m_desktop->keyboard().tap({XK_Return});
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kNotSaved, kBound));
+    QVERIFY(m_desktop->notes().texts().isEmpty());
+
+    m_vesk->signal(SIGTERM);
+    const std::optional<Window> offer =
+        m_desktop->windows().waitViewableOf(m_vesk->pid(), u"not saved"_s, kBound);
+    VERIFY_ON(*m_desktop, offer);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*offer, kBound));
+    // Escape answers nothing, and the first button copies.
+    m_desktop->keyboard().tap({XK_Escape});
+    m_desktop->keyboard().tap({XK_Return});
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
+        return m_desktop->display().readSelection("CLIPBOARD", 500ms) == note;
+    }));
+    QVERIFY(m_vesk->isRunning());
+
+    // With the disk's trouble over, quitting writes it after all.
+    full.reset();
+    m_vesk->signal(SIGTERM);
+    QVERIFY(m_vesk->waitForExit(kBound));
+    QCOMPARE(m_vesk->exitCode(), 0);
+    QCOMPARE(m_desktop->notes().texts(), QStringList{note});
+}
+
+int main(int argc, char **argv)
+{
+    return runDesktopTest<TestQuickNoteBox>(argc, argv);
+}
+
+#include "tst_quicknotebox.moc"
