@@ -65,6 +65,8 @@ Palette palette(const ColorChoice &choice)
         made.tertiary = withOpacity(made.primary, 0.75F);
         made.quaternary = withOpacity(made.primary, 0.55F);
         made.attention = isDark ? QColor(0xff, 0xb3, 0x40) : QColor(0xa8, 0x50, 0x00);
+        made.attentionText = isDark ? made.attention : QColor(0x8a, 0x42, 0x00);
+        made.success = isDark ? QColor(0x5a, 0xe0, 0x80) : QColor(0x0d, 0x5f, 0x26);
         made.lineStrength = 5;
     } else {
         const QColor ink = isDark ? QColor(0xf5, 0xf5, 0xf7) : QColor(0x1a, 0x1a, 0x1e);
@@ -74,6 +76,8 @@ Palette palette(const ColorChoice &choice)
         made.tertiary = withOpacity(ink, isDark ? 0.44F : 0.46F);
         made.quaternary = withOpacity(ink, isDark ? 0.22F : 0.20F);
         made.attention = isDark ? QColor(0xff, 0x9f, 0x2e) : QColor(0xf0, 0x84, 0x0c);
+        made.attentionText = isDark ? made.attention : QColor(0xb4, 0x58, 0x00);
+        made.success = isDark ? QColor(0x3f, 0xd1, 0x6b) : QColor(0x17, 0x7d, 0x37);
     }
     made.accent = readable(choice.accent.value_or(ownAccent), made.background, choice);
     made.onAccent = contrast(made.accent, Qt::white) >= 2.6 ? QColor(Qt::white) : QColor(0x1a, 0x1a, 0x1e);

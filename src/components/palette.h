@@ -21,6 +21,10 @@ struct Palette
     QColor onAccent;
     /// Something needs the user's attention.
     QColor attention;
+    /// The same for small text.
+    QColor attentionText;
+    /// All is well; small text too.
+    QColor success;
     /// By how much the opacity of lines grows where they have to stand out.
     float lineStrength = 1;
 };

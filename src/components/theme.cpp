@@ -120,6 +120,11 @@ QColor Theme::neutralTile() const
     return primaryAt(0.15F);
 }
 
+QColor Theme::accentTile() const
+{
+    return withOpacity(m_palette.accent, 0.12F);
+}
+
 QColor Theme::selectionFill() const
 {
     return withOpacity(m_palette.accent, m_colors.isDark ? 0.18F : 0.10F);
@@ -147,6 +152,13 @@ QFont Theme::font(qreal pixels, QFont::Weight weight) const
         made.setFamily(m_textFont.family);
     made.setPixelSize(qRound(pixels * m_textFont.scale));
     made.setWeight(weight);
+    return made;
+}
+
+QFont Theme::welcomeFont() const
+{
+    QFont made = font(22, QFont::Bold);
+    made.setLetterSpacing(QFont::AbsoluteSpacing, -0.3);
     return made;
 }
 

@@ -37,6 +37,9 @@ class Theme final : public QObject
     Q_PROPERTY(QColor accent READ accent NOTIFY changed)
     Q_PROPERTY(QColor onAccent READ onAccent NOTIFY changed)
     Q_PROPERTY(QColor attention READ attention NOTIFY changed)
+    Q_PROPERTY(QColor attentionText READ attentionText NOTIFY changed)
+    /// All is well; dark or light enough for small text.
+    Q_PROPERTY(QColor success READ success NOTIFY changed)
     /// The primary colour at the opacities that fills and lines have.
     Q_PROPERTY(QColor faintFill READ faintFill NOTIFY changed)
     Q_PROPERTY(QColor fill READ fill NOTIFY changed)
@@ -47,12 +50,15 @@ class Theme final : public QObject
     Q_PROPERTY(QColor edge READ edge NOTIFY changed)
     Q_PROPERTY(QColor strongEdge READ strongEdge NOTIFY changed)
     Q_PROPERTY(QColor neutralTile READ neutralTile NOTIFY changed)
+    /// The ground of a symbol in the accent colour.
+    Q_PROPERTY(QColor accentTile READ accentTile NOTIFY changed)
     Q_PROPERTY(QColor selectionFill READ selectionFill NOTIFY changed)
     Q_PROPERTY(QColor textSelection READ textSelection NOTIFY changed)
     Q_PROPERTY(QColor matchFill READ matchFill NOTIFY changed)
     /// A window's edge where nothing shines through.
     Q_PROPERTY(QColor opaqueEdge READ opaqueEdge NOTIFY changed)
 
+    Q_PROPERTY(QFont welcomeFont READ welcomeFont NOTIFY changed)
     Q_PROPERTY(QFont headlineFont READ headlineFont NOTIFY changed)
     Q_PROPERTY(QFont titleFont READ titleFont NOTIFY changed)
     Q_PROPERTY(QFont fieldFont READ fieldFont NOTIFY changed)
@@ -110,6 +116,8 @@ public:
     [[nodiscard]] QColor accent() const { return m_palette.accent; }
     [[nodiscard]] QColor onAccent() const { return m_palette.onAccent; }
     [[nodiscard]] QColor attention() const { return m_palette.attention; }
+    [[nodiscard]] QColor attentionText() const { return m_palette.attentionText; }
+    [[nodiscard]] QColor success() const { return m_palette.success; }
     [[nodiscard]] QColor faintFill() const;
     [[nodiscard]] QColor fill() const;
     [[nodiscard]] QColor capFill() const;
@@ -118,11 +126,13 @@ public:
     [[nodiscard]] QColor edge() const;
     [[nodiscard]] QColor strongEdge() const;
     [[nodiscard]] QColor neutralTile() const;
+    [[nodiscard]] QColor accentTile() const;
     [[nodiscard]] QColor selectionFill() const;
     [[nodiscard]] QColor textSelection() const;
     [[nodiscard]] QColor matchFill() const;
     [[nodiscard]] QColor opaqueEdge() const;
 
+    [[nodiscard]] QFont welcomeFont() const;
     [[nodiscard]] QFont headlineFont() const;
     [[nodiscard]] QFont titleFont() const;
     [[nodiscard]] QFont fieldFont() const;

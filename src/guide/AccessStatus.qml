@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Vesk.Components
+
+// Whether the user lets Vesk read other applications, and the way to allow it.
+Flow {
+    id: root
+
+    required property bool isTrusted
+    readonly property color color: root.isTrusted ? Theme.success : Theme.attentionText
+
+    signal settingsRequested
+    // The link has got the keyboard.
+    signal keyboardCame
+
+    spacing: Theme.space
+
+    Row {
+        spacing: Theme.smallSpace
+        Accessible.role: Accessible.StaticText
+        Accessible.name: label.text
+
+        Symbol {
+            anchors.verticalCenter: label.verticalCenter
+            name: root.isTrusted ? "checkmark.circle.fill" : "hand.raised.fill"
+            size: 13
+            color: root.color
+        }
+
+        Text {
+            id: label
+
+            textFormat: Text.PlainText
+            text: root.isTrusted ? qsTr("Accessibility access allowed") : qsTr("Needs Accessibility access")
+            font: Theme.smallFont
+            color: root.color
+            Accessible.ignored: true
+        }
+    }
+
+    PressButton {
+        id: link
+
+        visible: !root.isTrusted
+        name: linkLabel.text
+        implicitWidth: linkLabel.implicitWidth
+        implicitHeight: linkLabel.implicitHeight
+        pressedScale: 0.97
+        focusRadius: 5
+        Accessible.role: Accessible.Link
+        onClicked: root.settingsRequested()
+        onActiveFocusChanged: {
+            if (activeFocus)
+                root.keyboardCame();
+        }
+
+        Text {
+            id: linkLabel
+
+            textFormat: Text.PlainText
+            text: qsTr("Open Settings")
+            font: Theme.strongSmallFont
+            color: Theme.accent
+            Accessible.ignored: true
+        }
+
+        Rectangle {
+            width: parent.width
+            height: 1
+            y: linkLabel.baselineOffset + 2
+            visible: link.hovered
+            color: Theme.accent
+        }
+    }
+}

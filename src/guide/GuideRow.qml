@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Vesk.Components
+
+// One topic of the guide: a symbol, a title with its keys, the explanation, and below it, where the topic
+// needs it, whether Vesk may read other applications.
+Item {
+    id: root
+
+    required property string symbol
+    required property string title
+    required property list<string> keys
+    required property int place
+    required property string text
+    required property string spoken
+    required property bool showsAccess
+    property bool isTrusted: false
+
+    signal settingsRequested
+    // A control of the row has got the keyboard.
+    signal keyboardCame
+
+    implicitHeight: Math.max(tile.height, column.implicitHeight)
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.spoken
+    Accessible.description: root.text
+
+    Rectangle {
+        id: tile
+
+        width: 32
+        height: 32
+        radius: 8
+        antialiasing: true
+        color: Theme.accentTile
+
+        Symbol {
+            anchors.centerIn: parent
+            name: root.symbol
+            size: 16
+            color: Theme.accent
+        }
+    }
+
+    Column {
+        id: column
+
+        anchors.left: tile.right
+        anchors.leftMargin: 12
+        anchors.right: parent.right
+        spacing: Theme.tightSpace
+
+        // Breaks before the keys where large texts leave them no room.
+        Flow {
+            width: parent.width
+            spacing: Theme.space
+
+            Text {
+                height: caps.visible ? Math.max(implicitHeight, caps.height) : implicitHeight
+                verticalAlignment: Text.AlignVCenter
+                textFormat: Text.PlainText
+                text: root.title
+                font: Theme.strongBodyFont
+                color: Theme.primary
+                Accessible.ignored: true
+            }
+
+            Row {
+                id: caps
+
+                visible: root.keys.length > 0
+                spacing: 3
+
+                Repeater {
+                    model: root.keys
+
+                    KeyCap {
+                        required property string modelData
+
+                        glyph: modelData
+                        place: root.place
+                    }
+                }
+            }
+        }
+
+        Text {
+            width: parent.width
+            wrapMode: Text.Wrap
+            textFormat: Text.PlainText
+            text: root.text
+            font: Theme.smallFont
+            color: Theme.secondary
+            Accessible.ignored: true
+        }
+
+        Repeater {
+            model: root.showsAccess ? 1 : 0
+
+            AccessStatus {
+                width: column.width
+                isTrusted: root.isTrusted
+                onSettingsRequested: root.settingsRequested()
+                onKeyboardCame: root.keyboardCame()
+            }
+        }
+    }
+}

@@ -1,0 +1,310 @@
+// SPDX-License-Identifier: MIT
+#include "components/surroundings.h"
+#include "guide/guide.h"
+#include "guide/guidetopics.h"
+#include "input/hotkeytable.h"
+#include "platform/memory/memoryaccessibility.h"
+#include "platform/memory/memoryappearance.h"
+#include "platform/memory/memoryclock.h"
+#include "platform/memory/memorydefaults.h"
+#include "platform/memory/memoryscreens.h"
+#include "platform/memory/memorywindows.h"
+#include "platform/memory/memoryworkspace.h"
+
+#include <QAbstractItemModelTester>
+#include <QAccessible>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+
+namespace {
+
+/// A combination in the notation of the guide, with the modifiers in any order.
+QSet<QString> glyphs(const KeyCombination &combination)
+{
+    QSet<QString> made;
+    const QList<std::pair<Qt::KeyboardModifier, QString>> modifiers{{Qt::MetaModifier, u"\u2318"_s},
+                                                                    {Qt::AltModifier, u"\u2325"_s},
+                                                                    {Qt::ControlModifier, u"\u2303"_s},
+                                                                    {Qt::ShiftModifier, u"\u21E7"_s}};
+    for (const auto &[modifier, glyph] : modifiers) {
+        if (combination.modifiers.testFlag(modifier))
+            made.insert(glyph);
+    }
+    switch (combination.key) {
+    case KeyPosition::C:
+        made.insert(u"C"_s);
+        break;
+    case KeyPosition::N:
+        made.insert(u"N"_s);
+        break;
+    case KeyPosition::T:
+        made.insert(u"T"_s);
+        break;
+    }
+    return made;
+}
+
+/// The guide in a window of its own, over the platform in memory.
+struct Stage
+{
+    explicit Stage(bool isTrusted, int height = 600)
+    {
+        accessibility.setTrusted(isTrusted);
+        lendToEngine(engine, appearance, workspace, windows);
+        guide.show();
+        view.setResizeMode(QQuickView::SizeRootObjectToView);
+        view.setInitialProperties({{u"guide"_s, QVariant::fromValue(&guide)}, {u"focus"_s, true}});
+        view.setSource(QUrl(u"qrc:/qt/qml/Vesk/Guide/GuideView.qml"_s));
+        view.resize(420, height);
+        view.show();
+        if (!view.rootObject() || !QTest::qWaitForWindowActive(&view))
+            qFatal("The guide did not come up.");
+    }
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(&view, key, modifiers);
+    }
+    /// What a screen reader says of where the keyboard is.
+    [[nodiscard]] QString focus() const
+    {
+        QAccessibleInterface *shown = QAccessible::queryAccessibleInterface(view.activeFocusItem());
+        return shown ? shown->text(QAccessible::Name) : QString();
+    }
+    [[nodiscard]] QQuickItem *scroller() const
+    {
+        const QList<QQuickItem *> parts = view.rootObject()->childItems();
+        return *std::ranges::find_if(parts,
+                                     [](QQuickItem *part) { return part->inherits("QQuickFlickable"); });
+    }
+    [[nodiscard]] qreal scrolled() const { return scroller()->property("contentY").toReal(); }
+
+    MemoryClock clock;
+    MemoryAccessibility accessibility{clock};
+    MemoryDefaults defaults;
+    MemoryAppearance appearance;
+    MemoryWorkspace workspace;
+    MemoryScreens screens;
+    MemoryWindows windows{screens};
+    Guide guide{accessibility, defaults};
+    QQmlEngine engine;
+    QQuickView view{&engine, nullptr};
+};
+
+/// All that a screen reader finds from here on, in order.
+void collect(QAccessibleInterface *from, QStringList &names)
+{
+    for (int i = 0; from && i < from->childCount(); ++i) {
+        QAccessibleInterface *child = from->child(i);
+        if (child->state().invisible)
+            continue;
+        names.append(child->text(QAccessible::Name) + u" | "_s + child->text(QAccessible::Description));
+        collect(child, names);
+    }
+}
+
+QString heard(const QQuickView &view)
+{
+    QStringList names;
+    collect(QAccessible::queryAccessibleInterface(view.rootObject()), names);
+    return names.join(u'\n');
+}
+
+} // namespace
+
+class GuideTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+
+private Q_SLOTS:
+    static void showsTheKeysThatAreRegistered();
+    static void showsNothingThatIsFalseHere();
+    static void comesByItselfUntilDismissed();
+    static void isDismissed_data();
+    static void isDismissed();
+    static void keysScroll();
+    static void tabGoesAround();
+    static void statusFollowsTheUser();
+    static void isReadAloud();
+};
+
+void GuideTest::showsTheKeysThatAreRegistered()
+{
+    using namespace hotkeytable;
+    const QHash<QString, KeyCombination> registered{
+        {u"Open Vesk anywhere"_s, kOpen.combination},
+        {u"Write a new note"_s, kWrite.combination},
+        {u"Save selected text"_s, kQuickNote.combination},
+        {u"Add to your last note"_s, kAppend.combination},
+        {u"Make a checklist"_s, kChecklist.combination},
+        {u"Add to your checklist"_s, kAddToChecklist.combination},
+    };
+    const GuideTopics topics;
+    const QAbstractItemModelTester tester(const_cast<GuideTopics *>(&topics));
+    qsizetype checked = 0;
+    for (int row = 0; row < topics.rowCount(); ++row) {
+        const QModelIndex index = topics.index(row);
+        const QString title = index.data(GuideTopics::TitleRole).toString();
+        if (!registered.contains(title))
+            continue;
+        const QStringList keys = index.data(GuideTopics::KeysRole).toStringList();
+        QCOMPARE(QSet<QString>(keys.begin(), keys.end()), glyphs(registered.value(title)));
+        QCOMPARE(index.data(GuideTopics::PlaceRole).toInt(), int(KeyLabels::Global));
+        ++checked;
+    }
+    QCOMPARE(checked, registered.size());
+}
+
+void GuideTest::showsNothingThatIsFalseHere()
+{
+    const GuideTopics topics;
+    for (int row = 0; row < topics.rowCount(); ++row) {
+        const QString all = topics.index(row).data(GuideTopics::SpokenRole).toString() + u' '
+                            + topics.index(row).data(GuideTopics::TextRole).toString();
+        for (const QString &word : {u"iCloud"_s, u"Finder"_s, u"Mac"_s, u"Apple"_s, u"Pathname"_s})
+            QVERIFY2(!all.contains(word), qPrintable(all));
+        // What no keyboard of this desktop has on its keys.
+        QVERIFY2(!all.contains(QRegularExpression(u"[\u2318\u2325\u2303\u21E7\u21A9\u232B\u2423]"_s)),
+                 qPrintable(all));
+    }
+    const QModelIndex panel = topics.index(topics.rowCount() - 1);
+    QCOMPARE(panel.data(GuideTopics::TextRole).toString(),
+             u"Move between notes. Return opens one, Ctrl+Enter pastes it into the app you came from, "
+             "Ctrl+Backspace deletes it, Ctrl+F searches."_s);
+}
+
+void GuideTest::comesByItselfUntilDismissed()
+{
+    MemoryClock clock;
+    MemoryAccessibility accessibility(clock);
+    MemoryDefaults defaults;
+    {
+        Guide guide(accessibility, defaults);
+        guide.greet();
+        QVERIFY(guide.isShown());
+        guide.setAside();
+        QVERIFY(!guide.isShown());
+        guide.dismiss();
+        guide.greet();
+        QVERIFY2(guide.isShown(), "What was only set aside counts as seen.");
+        guide.dismiss();
+    }
+    Guide guide(accessibility, defaults);
+    guide.greet();
+    QVERIFY(!guide.isShown());
+    guide.show();
+    QVERIFY(guide.isShown());
+}
+
+void GuideTest::isDismissed_data()
+{
+    QTest::addColumn<Qt::Key>("tab");
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<bool>("isDismissed");
+    QTest::newRow("Escape") << Qt::Key_unknown << Qt::Key_Escape << true;
+    QTest::newRow("Escape on the button") << Qt::Key_Tab << Qt::Key_Escape << true;
+    QTest::newRow("Return on the button") << Qt::Key_Tab << Qt::Key_Return << true;
+    // The user was typing when it came up.
+    QTest::newRow("Return") << Qt::Key_unknown << Qt::Key_Return << false;
+    QTest::newRow("Space") << Qt::Key_unknown << Qt::Key_Space << false;
+}
+
+void GuideTest::isDismissed()
+{
+    QFETCH(Qt::Key, tab);
+    QFETCH(Qt::Key, key);
+    QFETCH(bool, isDismissed);
+    Stage stage(true);
+    if (tab != Qt::Key_unknown)
+        stage.press(tab);
+    stage.press(key);
+    QCOMPARE(!stage.guide.isShown(), isDismissed);
+    QCOMPARE(stage.defaults.boolForKey(u"hasSeenGuide"_s), isDismissed);
+}
+
+void GuideTest::keysScroll()
+{
+    Stage stage(true, 400);
+    const qreal end = stage.scroller()->property("end").toReal();
+    QVERIFY(end > 400);
+    stage.press(Qt::Key_Up);
+    QCOMPARE(stage.scrolled(), 0.0);
+    stage.press(Qt::Key_Down);
+    const qreal line = stage.scrolled();
+    QVERIFY(line > 0);
+    stage.press(Qt::Key_PageDown);
+    const qreal page = stage.scrolled() - line;
+    QVERIFY(page > line && page < stage.scroller()->height());
+    stage.press(Qt::Key_PageUp);
+    QCOMPARE(stage.scrolled(), line);
+    stage.press(Qt::Key_Space);
+    QCOMPARE(stage.scrolled(), line + page);
+    stage.press(Qt::Key_End);
+    QCOMPARE(stage.scrolled(), end);
+    stage.press(Qt::Key_PageDown);
+    QCOMPARE(stage.scrolled(), end);
+    // The last row stands above the button as a whole.
+    stage.view.resize(420, 700);
+    QTRY_COMPARE(stage.scroller()->property("end").toReal(), end - 300);
+    QTRY_COMPARE(stage.scrolled(), end - 300);
+    stage.press(Qt::Key_Home);
+    QCOMPARE(stage.scrolled(), 0.0);
+}
+
+void GuideTest::tabGoesAround()
+{
+    Stage stage(false, 300);
+    QCOMPARE(stage.focus(), u"Quick Guide"_s);
+    stage.press(Qt::Key_Tab);
+    QCOMPARE(stage.focus(), u"Open Settings"_s);
+    const QQuickItem *link = stage.view.activeFocusItem();
+    const QRectF seen = stage.scroller()->mapRectToScene(stage.scroller()->boundingRect());
+    QVERIFY(seen.contains(link->mapRectToScene(link->boundingRect())));
+    stage.press(Qt::Key_Return);
+    QCOMPARE(stage.accessibility.askCount(), 1);
+    stage.press(Qt::Key_Tab);
+    QCOMPARE(stage.focus(), u"Got it"_s);
+    stage.press(Qt::Key_Tab);
+    QCOMPARE(stage.focus(), u"Quick Guide"_s);
+    stage.press(Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(stage.focus(), u"Got it"_s);
+}
+
+void GuideTest::statusFollowsTheUser()
+{
+    Stage stage(false);
+    QVERIFY(heard(stage.view).contains(u"Needs Accessibility access"_s));
+    QVERIFY(heard(stage.view).contains(u"Open Settings"_s));
+    stage.press(Qt::Key_Tab);
+    stage.accessibility.setTrusted(true);
+    QVERIFY(heard(stage.view).contains(u"Accessibility access allowed"_s));
+    QVERIFY(!heard(stage.view).contains(u"Open Settings"_s));
+    // The link that had the keyboard has gone; Escape still works.
+    stage.press(Qt::Key_Escape);
+    QVERIFY(!stage.guide.isShown());
+}
+
+void GuideTest::isReadAloud()
+{
+    Stage stage(true);
+    const QString all = heard(stage.view);
+    QVERIFY2(all.startsWith(u"Quick Guide"_s), qPrintable(all));
+    for (const QString &part :
+         {u"Welcome to Vesk"_s, u"A quiet notes pad that catches whatever you select."_s,
+          u"Open Vesk anywhere, Alt, Super, T | Press it in any app"_s,
+          u"Checkboxes and lists, [, ], Space | Type [ ] and a space for a checkbox"_s, u"Got it"_s})
+        QVERIFY2(all.contains(part), qPrintable(all));
+}
+
+QTEST_MAIN(GuideTest)
+#include "tst_guide.moc"
