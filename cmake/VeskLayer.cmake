@@ -38,20 +38,21 @@ function(vesk_layer_headers target)
 endfunction()
 
 # vesk_layer(<name> SOURCES <file>... [USES <layer>...] [LIBRARIES <library>...]
-#            [QML_URI <uri> QML_FILES <file>...])
+#            [QML_URI <uri> QML_FILES <file>... [QML_USES <uri>...]])
 #
 # Makes the library vesk_<name>. SOURCES lists headers too. USES are other layers, LIBRARIES are
-# foreign targets; both are handed on to users. With QML_URI the layer has a QML module of its own.
+# foreign targets; both are handed on to users. With QML_URI the layer has a QML module of its own;
+# QML_USES are the modules of the types that its own C++ types have for properties.
 # Besides, an executable links the whole of the layer with nothing but what it declares, so that a
 # dependency that is not declared does not link.
 function(vesk_layer name)
-    cmake_parse_arguments(arg "" "QML_URI" "SOURCES;USES;LIBRARIES;QML_FILES" ${ARGN})
+    cmake_parse_arguments(arg "" "QML_URI" "SOURCES;USES;LIBRARIES;QML_FILES;QML_USES" ${ARGN})
     set(target vesk_${name})
     if(arg_QML_URI)
         qt_add_library(${target} STATIC)
         string(REPLACE "." "/" path ${arg_QML_URI})
         qt_add_qml_module(${target} URI ${arg_QML_URI} VERSION 1.0 RESOURCE_PREFIX /qt/qml
-            OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${path} NO_PLUGIN DEPENDENCIES QtQuick
+            OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${path} NO_PLUGIN DEPENDENCIES QtQuick ${arg_QML_USES}
             SOURCES ${arg_SOURCES} QML_FILES ${arg_QML_FILES})
         target_link_libraries(${target} PUBLIC Qt6::Quick)
         # What the QML compiler writes shadows names of its own.

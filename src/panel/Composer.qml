@@ -105,9 +105,10 @@ Plate {
             selectionColor: Theme.textSelection
             selectedTextColor: Theme.primary
             selectByMouse: true
-            KeyNavigation.priority: KeyNavigation.BeforeItem
-            KeyNavigation.tab: nextItemInFocusChain(true)
-            KeyNavigation.backtab: nextItemInFocusChain(false)
+            activeFocusOnTab: true
+            Keys.priority: Keys.BeforeItem
+            Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+            Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
             Accessible.role: Accessible.EditableText
             Accessible.multiLine: true
             Accessible.name: placeholder.text
@@ -118,7 +119,7 @@ Plate {
                 id: placeholder
 
                 visible: edit.length === 0 && edit.preeditText.length === 0
-                text: qsTr("Write a note…")
+                text: root.model.tab === PanelModel.Tab.Prompts ? qsTr("Write a follow-up prompt…") : qsTr("Write a note…")
                 font: edit.font
                 color: Theme.tertiary
                 Accessible.ignored: true

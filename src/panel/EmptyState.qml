@@ -19,7 +19,8 @@ Item {
             width: 72
             height: 72
             // Drawn at the screen's own resolution.
-            sourceSize: Qt.size(width * Screen.devicePixelRatio, height * Screen.devicePixelRatio)
+            sourceSize.width: width * Screen.devicePixelRatio
+            sourceSize.height: height * Screen.devicePixelRatio
             source: "qrc:/vesk/icon/org.vesk.Vesk.svg"
             Accessible.ignored: true
         }
@@ -63,7 +64,7 @@ Item {
                 Accessible.name: hint
 
                 Item {
-                    width: 168
+                    width: 136
                     height: 24
 
                     Row {
@@ -86,8 +87,10 @@ Item {
 
                 Text {
                     anchors.verticalCenter: parent.verticalCenter
+                    width: Math.min(implicitWidth, root.width - 136 - 3 * Theme.margin)
+                    wrapMode: Text.Wrap
                     text: command.hint
-                    font: Theme.bodyFont
+                    font: Theme.hintFont
                     color: Theme.secondary
                     Accessible.ignored: true
                 }

@@ -6,47 +6,31 @@ import QtQuick
 import Vesk.Components
 import Vesk.Panel
 
-// One note, closed: its title, its first checkboxes or a preview, and where and when it comes from.
-Rectangle {
+// One note. Closed it is a summary of it; open, its editor.
+Item {
     id: root
 
-    required property string query
-    required property string title
-    required property string preview
-    required property list<string> itemTexts
-    required property list<bool> itemsDone
-    required property list<int> itemLines
-    required property int furtherItems
-    required property int done
-    required property int total
-    required property string time
-    required property string source
-    required property string sourceBundle
-    required property bool isPinned
-    required property bool isFocused
+    required property NoteRoles row
+    readonly property PanelModel panel: root.row.panel
+    readonly property bool isExpanded: root.panel.expandedId === root.row.cardId
+    readonly property bool isSelected: root.panel.focusedId === root.row.cardId
+    // How far the card is open, from 0 to 1.
+    property real openness: root.isExpanded ? 1 : 0
+    property Item form: null
+    readonly property real openHeight: root.form === null ? summary.height : root.form.height
 
-    signal clicked
-    signal itemToggled(int line)
-
-    implicitHeight: content.implicitHeight + 2 * 12
-    radius: Theme.cardRadius
-    color: root.isFocused ? Theme.selectionFill : hover.hovered ? Theme.fill : Theme.faintFill
-    border.width: 1
-    border.color: root.isFocused ? Theme.accent : Theme.edge
-    antialiasing: true
+    implicitHeight: Math.round(summary.height + (root.openHeight - summary.height) * root.openness) + 2 * 12
+    activeFocusOnTab: root.isSelected || activeFocus
     Accessible.role: Accessible.ListItem
-    Accessible.name: root.title
-    Accessible.description: root.preview
+    Accessible.name: root.row.title
+    Accessible.description: root.row.spoken
+    Accessible.focusable: true
     Accessible.selectable: true
-    Accessible.selected: root.isFocused
-    Accessible.onPressAction: root.clicked()
+    Accessible.selected: root.isSelected
+    Accessible.onPressAction: root.panel.cards.open(root.row.cardId)
 
-    Behavior on color {
-        Ease {
-        }
-    }
-    Behavior on border.color {
-        Ease {
+    Behavior on openness {
+        Spring {
         }
     }
 
@@ -54,80 +38,64 @@ Rectangle {
         id: hover
     }
 
-    MouseArea {
+    CardPlate {
         anchors.fill: parent
-        onClicked: root.clicked()
+        isSelected: root.isSelected
+        isHovered: hover.hovered
     }
 
-    Column {
+    MouseArea {
+        anchors.fill: parent
+        onClicked: root.panel.cards.open(root.row.cardId)
+    }
+
+    Item {
         id: content
 
         x: Theme.margin
         y: 12
         width: root.width - 2 * Theme.margin
-        spacing: 5
+        height: root.height - 2 * 12
+        clip: root.openness > 0 && root.openness < 1
 
-        MatchText {
-            // Leaves the corner to the pin.
-            width: parent.width - 26
-            text: root.title
-            query: root.query
-            font: Theme.titleFont
-            color: Theme.primary
-            matchColor: Theme.matchFill
-        }
-
-        Column {
-            id: checklist
+        NoteSummary {
+            id: summary
 
             width: parent.width
-            topPadding: 1
-            spacing: 2
-            visible: root.itemTexts.length > 0
+            opacity: 1 - root.openness
+            visible: opacity > 0
+            title: root.row.title
+            preview: root.row.preview
+            itemTexts: root.row.itemTexts
+            itemsDone: root.row.itemsDone
+            itemLines: root.row.itemLines
+            furtherItems: root.row.furtherItems
+            done: root.row.done
+            total: root.row.total
+            time: root.row.time
+            source: root.row.source
+            sourceBundle: root.row.sourceBundle
+            query: root.panel.query
+            canTabIn: root.isSelected
+            onItemToggled: line => root.panel.cards.toggleItem(root.row.cardId, line)
+        }
 
-            Repeater {
-                model: root.itemTexts.length
+        Repeater {
+            model: root.openness > 0 || root.isExpanded ? 1 : 0
+            onItemAdded: (index, item) => root.form = item
+            onItemRemoved: root.form = null
 
-                ChecklistRow {
-                    required property int index
-
-                    width: checklist.width
-                    text: root.itemTexts[index] ?? ""
-                    isDone: root.itemsDone[index] ?? false
-                    query: root.query
-                    onClicked: root.itemToggled(root.itemLines[index])
-                }
+            NoteForm {
+                width: content.width
+                opacity: root.openness
+                focus: true
+                cardId: root.row.cardId
+                text: root.row.text
+                sourceBundle: root.row.sourceBundle
+                sourceLabel: root.row.sourceLabel
+                sourceTip: root.row.sourceTip
+                panel: root.panel
             }
-
-            Text {
-                leftPadding: 24
-                visible: root.furtherItems > 0
-                text: qsTr("+ %1 more").arg(root.furtherItems)
-                textFormat: Text.PlainText
-                font: Theme.captionFont
-                color: Theme.secondary
-            }
-        }
-
-        MatchText {
-            width: parent.width
-            visible: root.preview.length > 0
-            text: root.preview
-            query: root.query
-            maximumLineCount: 2
-            lineSpacing: 2
-            font: Theme.bodyFont
-            color: Theme.secondary
-            matchColor: Theme.matchFill
-        }
-
-        NoteFooter {
-            width: parent.width
-            time: root.time
-            source: root.source
-            sourceBundle: root.sourceBundle
-            done: root.done
-            total: root.total
         }
     }
 
@@ -135,9 +103,31 @@ Rectangle {
         anchors.top: parent.top
         anchors.right: parent.right
         anchors.margins: Theme.margin
-        visible: root.isPinned
+        opacity: root.row.isPinned && !actions.isUp ? 1 - root.openness : 0
         name: "pin.fill"
         size: 12
         color: Theme.accent
+    }
+
+    NoteActions {
+        id: actions
+
+        anchors.top: parent.top
+        anchors.right: parent.right
+        anchors.margins: 7
+        isWanted: !root.isExpanded && hover.hovered
+        canTabIn: !root.isExpanded && root.isSelected
+        isPinned: root.row.isPinned
+        onPinToggled: root.panel.cards.togglePinned(root.row.cardId)
+        onCopied: root.panel.cards.copy(root.row.cardId)
+        onPasted: root.panel.cards.pasteBack(root.row.cardId)
+        onRemoved: root.panel.cards.remove(root.row.cardId)
+    }
+
+    // A finger comes without a pointer before it; then what is not seen is not pressed.
+    MouseArea {
+        anchors.fill: actions
+        visible: !actions.isUp
+        onClicked: root.panel.cards.open(root.row.cardId)
     }
 }

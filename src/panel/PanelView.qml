@@ -12,6 +12,7 @@ FocusScope {
 
     required property PanelModel model
     required property real cornerRadius
+    readonly property Item keyboard: Window.activeFocusItem
 
     function giveKeyboard(field: int) {
         if (field === PanelModel.Field.Search)
@@ -19,7 +20,7 @@ FocusScope {
         else if (field === PanelModel.Field.Composer)
             composer.takeKeyboard();
         else
-            list.forceActiveFocus();
+            content.takeKeyboard();
     }
 
     focus: true
@@ -32,17 +33,19 @@ FocusScope {
 
     Binding {
         target: root.model
-        property: "keyOwner"
-        value: search.isComposing || composer.isComposing ? PanelModel.KeyOwner.Other : PanelModel.KeyOwner.None
+        property: "isComposing"
+        value: search.isComposing || composer.isComposing
+    }
+
+    Binding {
+        target: root.model
+        property: "isOnControl"
+        value: root.keyboard instanceof PressButton
     }
 
     Connections {
         function onFieldRequestChanged() {
             root.giveKeyboard(root.model.requestedField);
-        }
-
-        function onFocusedChanged() {
-            list.showFocused();
         }
 
         target: root.model
@@ -58,33 +61,43 @@ FocusScope {
 
         anchors.top: parent.top
         anchors.left: parent.left
-        anchors.right: parent.right
+        anchors.right: menu.left
         anchors.margins: Theme.margin
+        anchors.rightMargin: Theme.space
         model: root.model
     }
 
-    NoteList {
-        id: list
+    PanelMenuButton {
+        id: menu
+
+        anchors.verticalCenter: search.verticalCenter
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.margin
+        width: 34
+        height: 34
+        model: root.model
+    }
+
+    TabBar {
+        id: tabs
 
         anchors.top: search.bottom
         anchors.topMargin: Theme.wideSpace
+        anchors.horizontalCenter: parent.horizontalCenter
+        model: root.model
+    }
+
+    PanelContent {
+        id: content
+
+        anchors.top: tabs.bottom
+        anchors.topMargin: Theme.space
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: banner.top
         anchors.bottomMargin: Theme.smallSpace
         focus: true
         model: root.model
-    }
-
-    EmptySearch {
-        anchors.fill: list
-        visible: root.model.notes.isEmpty && root.model.notes.noteCount > 0
-        query: root.model.query
-    }
-
-    EmptyState {
-        anchors.fill: list
-        visible: root.model.notes.noteCount === 0
     }
 
     AccessBanner {

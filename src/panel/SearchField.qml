@@ -74,6 +74,7 @@ Plate {
         selectionColor: Theme.textSelection
         selectedTextColor: Theme.primary
         selectByMouse: true
+        activeFocusOnTab: true
         Accessible.role: Accessible.EditableText
         Accessible.searchEdit: true
         Accessible.name: qsTr("Search")

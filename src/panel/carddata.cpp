@@ -61,6 +61,22 @@ int furtherItems(const Note &note)
     return progress ? static_cast<int>(std::max<qsizetype>(0, progress->total - kMaximumItems)) : 0;
 }
 
+QString spoken(const Note &note, const QString &time)
+{
+    const auto tr = [](const char *text) { return QCoreApplication::translate("NoteCard", text); };
+    QStringList parts;
+    if (note.isPinned())
+        parts.append(tr("pinned"));
+    if (const std::optional<Progress> progress = note.progress())
+        parts.append(tr("%1 of %2 done").arg(progress->done).arg(progress->total));
+    parts.append(time);
+    if (const std::optional<QString> &app = note.sourceApp())
+        parts.append(tr("from %1").arg(*app));
+    parts.append(preview(note));
+    parts.removeAll(QString());
+    return parts.join(u", ");
+}
+
 QString sourceLabel(const Note &note)
 {
     const std::optional<QString> &app = note.sourceApp();

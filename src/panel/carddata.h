@@ -24,6 +24,10 @@ inline constexpr qsizetype kMaximumItems = 3;
 /// How many checkboxes are not shown.
 [[nodiscard]] int furtherItems(const Note &note);
 
+/// What a closed card says besides the title, for those who do not see it. `time` is how long ago the
+/// note was changed, in words.
+[[nodiscard]] QString spoken(const Note &note, const QString &time);
+
 /// What the button of an open card says that leads back to the note's source: the title of the window,
 /// or the application. Empty for a note without a source.
 [[nodiscard]] QString sourceLabel(const Note &note);

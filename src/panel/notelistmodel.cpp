@@ -128,9 +128,8 @@ void NoteListModel::setOpenNote(const std::optional<RecordId> &id)
 {
     if (m_openNote == id)
         return;
-    const std::optional<RecordId> closed = std::exchange(m_openNote, id);
-    if (closed)
-        thaw();
+    if (const std::optional<RecordId> closed = std::exchange(m_openNote, id))
+        thaw(*closed);
     if (!id)
         return;
     const LiveQuery<Note> &notes = m_store.notes();
@@ -139,14 +138,14 @@ void NoteListModel::setOpenNote(const std::optional<RecordId> &id)
         m_frozenDates.emplace(notes.at(i).id(), notes.at(i).updatedAt());
 }
 
-void NoteListModel::thaw()
+void NoteListModel::thaw(const RecordId &closed)
 {
     m_frozenDates = {};
     std::vector<const Note *> moved;
     for (size_t i = 0; i < sections().count(); ++i) {
         for (const Entry &entry : sections().section(i).entries) {
             const Note *note = m_store.findNote(entry.id);
-            if (note && (note->updatedAt() != entry.date || !matches(*note)))
+            if (note && (entry.id == closed || note->updatedAt() != entry.date))
                 moved.push_back(note);
         }
     }
@@ -236,7 +235,7 @@ void NoteListModel::refresh()
 {
     if (readDay())
         regroup(grouped());
-    rowsChanged({TimeRole});
+    rowsChanged({TimeRole, SpokenRole});
 }
 
 void NoteListModel::foldAhead()

@@ -20,8 +20,9 @@ class Note;
 class NotesStore;
 
 /// The notes that the panel lists on its tabs for notes and for checklists: pinned, of today, and
-/// earlier. Follows the store, the search text and the calendar. Owned by the panel's model.
-class NoteListModel final : public SectionedListModel
+/// earlier. Follows the store, the search text and the calendar. Owned by the panel's model. The
+/// base is named in full for the tools that read what QML sees.
+class NoteListModel final : public vesk::SectionedListModel
 {
     Q_OBJECT
     QML_ELEMENT
@@ -43,6 +44,7 @@ public:
         TextRole = FirstCardRole, ///< QString, the whole text
         TitleRole,                ///< QString
         PreviewRole,              ///< QString; empty for a checklist
+        SpokenRole,               ///< QString, what a screen reader says besides the title
         ItemTextsRole,            ///< QStringList, the checkboxes that are shown
         ItemsDoneRole,            ///< QList<bool>, for each of them
         ItemLinesRole,            ///< QList<int>, for each of them
@@ -97,7 +99,7 @@ private:
     bool readDay();
     void refresh();
     /// Gives the notes that have changed while one was open the places of their dates.
-    void thaw();
+    void thaw(const RecordId &closed);
     void foldAhead();
 
     void noteInserted(const Note &note);

@@ -12,6 +12,7 @@ QHash<int, QByteArray> NoteListModel::roleNames() const
     names.insert({{TextRole, "text"},
                   {TitleRole, "title"},
                   {PreviewRole, "preview"},
+                  {SpokenRole, "spoken"},
                   {ItemTextsRole, "itemTexts"},
                   {ItemsDoneRole, "itemsDone"},
                   {ItemLinesRole, "itemLines"},
@@ -37,6 +38,9 @@ QVariant NoteListModel::cardData(const RecordId *id, int role) const
         return note ? carddata::title(*note) : QString();
     case PreviewRole:
         return note ? carddata::preview(*note) : QString();
+    case SpokenRole:
+        return note ? carddata::spoken(*note, m_relativeTime.text(note->updatedAt(), m_clock.now()))
+                    : QString();
     case ItemTextsRole:
         return note ? carddata::itemTexts(*note) : QStringList();
     case ItemsDoneRole:

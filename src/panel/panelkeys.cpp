@@ -11,7 +11,7 @@ namespace vesk {
 
 bool PanelModel::handleKey(const QKeyEvent &event)
 {
-    if (m_keyOwner == KeyOwner::Other)
+    if (m_isEditing || m_isComposing)
         return false;
     if (m_activeField != Field::None && event.matches(QKeySequence::Paste)) {
         Q_EMIT fieldPasteRequested();
@@ -20,7 +20,7 @@ bool PanelModel::handleKey(const QKeyEvent &event)
     const PanelAction action = panelAction(
         event.key(), event.modifiers(),
         {.field = m_activeField, .isNoteOpen = m_expanded.has_value(), .isSearching = !m_search.isEmpty()});
-    if (action == PanelAction::OpenSelected && m_keyOwner == KeyOwner::Control)
+    if (action == PanelAction::OpenSelected && m_isOnControl)
         return false;
     return perform(action, event.key());
 }
@@ -37,7 +37,7 @@ bool PanelModel::perform(PanelAction action, int key)
         requestField(Field::Search);
         return true;
     case PanelAction::MoveSelection:
-        if (m_activeField == Field::Search || m_keyOwner == KeyOwner::Control)
+        if (m_activeField == Field::Search || m_isOnControl)
             requestField(Field::None);
         moveFocus(key == Qt::Key_Down ? 1 : -1);
         return true;

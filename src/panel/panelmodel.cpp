@@ -64,6 +64,8 @@ void PanelModel::collapse()
     }
     // A save that fails is made up for by the store; here and below, what was done is in the list.
     m_store.save();
+    if (m_isEditing && m_activeField == Field::None)
+        requestField(Field::None);
 }
 
 void PanelModel::setExpanded(const std::optional<RecordId> &id)
@@ -210,6 +212,12 @@ void PanelModel::moveFocus(int delta)
     setFocused(list.visibleAt(target));
 }
 
+void PanelModel::selectSomething()
+{
+    if (!m_focused || !currentList().visibleIndex(*m_focused))
+        moveFocus(1);
+}
+
 void PanelModel::moveFocusAway(const RecordId &id)
 {
     const SectionedListModel &list = currentList();
@@ -293,14 +301,6 @@ void PanelModel::setActiveField(Field field)
     Q_EMIT activeFieldChanged();
     if (field != Field::None)
         collapse();
-}
-
-void PanelModel::setKeyOwner(KeyOwner owner)
-{
-    if (m_keyOwner == owner)
-        return;
-    m_keyOwner = owner;
-    Q_EMIT keyOwnerChanged();
 }
 
 } // namespace vesk

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/noteeditorcontroller.h"
 #include "notes/record.h"
 #include "panel/cardactions.h"
 #include "panel/notelistmodel.h"
@@ -34,6 +35,8 @@ class PanelModel final : public QObject
     Q_PROPERTY(vesk::PromptListModel *prompts READ prompts CONSTANT)
     Q_PROPERTY(vesk::CardActions *cards READ cards CONSTANT)
     Q_PROPERTY(vesk::PanelMenu *menu READ menu CONSTANT)
+    /// A handle on the text of the open note.
+    Q_PROPERTY(vesk::NoteEditorController *editor READ editor CONSTANT)
     Q_PROPERTY(vesk::PanelModel::Tab tab READ tab WRITE setTab NOTIFY tabChanged)
     Q_PROPERTY(QString search READ search WRITE setSearch NOTIFY searchChanged)
     /// The search text as it is compared and highlighted.
@@ -49,8 +52,13 @@ class PanelModel final : public QObject
     /// The field that the view shall give the keyboard to, each time that `fieldRequest` rises.
     Q_PROPERTY(vesk::PanelModel::Field requestedField READ requestedField NOTIFY requestedFieldChanged)
     Q_PROPERTY(qint64 fieldRequest READ fieldRequest NOTIFY fieldRequestChanged)
-    /// What else in the panel has the keyboard, if neither a field nor the list. Written by the view.
-    Q_PROPERTY(vesk::PanelModel::KeyOwner keyOwner READ keyOwner WRITE setKeyOwner NOTIFY keyOwnerChanged)
+    /// Whether a button has the keyboard, which Return presses; the other keys are the panel's. Written
+    /// by the view, like the two below.
+    Q_PROPERTY(bool isOnControl MEMBER m_isOnControl NOTIFY keyboardChanged)
+    /// The open note's editor has the keyboard; all keys are its own.
+    Q_PROPERTY(bool isEditing MEMBER m_isEditing NOTIFY keyboardChanged)
+    /// An input method is composing a text in a field; then the keys are its own.
+    Q_PROPERTY(bool isComposing MEMBER m_isComposing NOTIFY keyboardChanged)
     /// Whether Vesk may read the text selected in other applications.
     Q_PROPERTY(bool isTrusted READ isTrusted NOTIFY isTrustedChanged)
 
@@ -70,15 +78,6 @@ public:
         Composer,
     };
     Q_ENUM(Field)
-
-    enum class KeyOwner {
-        None,
-        /// A button, which Return presses; the other keys are the panel's.
-        Control,
-        /// The open note's editor, an input method that composes a text, or a menu: all keys are its own.
-        Other,
-    };
-    Q_ENUM(KeyOwner)
 
     /// All of these have to outlive the model.
     PanelModel(NotesStore &store, Clock &clock, Defaults &defaults, Application &application,
@@ -100,7 +99,7 @@ public:
     // The selection passes on to what takes the place of what is deleted.
     void deleteNote(Note &note);
     void deletePrompt(Prompt &prompt);
-    void clearDonePrompts();
+    Q_INVOKABLE void clearDonePrompts();
 
     /// Asks for a field, or with `None` for neither, to have the keyboard; the panel comes up for a field.
     Q_INVOKABLE void requestField(vesk::PanelModel::Field field);
@@ -109,6 +108,8 @@ public:
     /// Turns the draft of the composer into a note, or on their tab into a prompt; a blank one stays as
     /// it is.
     void commitDraft();
+    /// Selects the first item, unless one that is shown is selected.
+    Q_INVOKABLE void selectSomething();
     /// Has the user asked whether Vesk may read other applications.
     Q_INVOKABLE void askForTrust();
 
@@ -122,6 +123,7 @@ public:
     [[nodiscard]] PromptListModel *prompts() { return &m_prompts; }
     [[nodiscard]] CardActions *cards() { return &m_cards; }
     [[nodiscard]] PanelMenu *menu() { return &m_menu; }
+    [[nodiscard]] NoteEditorController *editor() { return &m_editor; }
     [[nodiscard]] Tab tab() const { return m_tab; }
     void setTab(Tab tab);
     [[nodiscard]] const QString &search() const { return m_search; }
@@ -138,8 +140,6 @@ public:
     void setActiveField(Field field);
     [[nodiscard]] Field requestedField() const { return m_requestedField; }
     [[nodiscard]] qint64 fieldRequest() const { return m_fieldRequest; }
-    [[nodiscard]] KeyOwner keyOwner() const { return m_keyOwner; }
-    void setKeyOwner(KeyOwner owner);
     [[nodiscard]] bool isTrusted() const;
 
 Q_SIGNALS:
@@ -151,7 +151,7 @@ Q_SIGNALS:
     void activeFieldChanged();
     void requestedFieldChanged();
     void fieldRequestChanged();
-    void keyOwnerChanged();
+    void keyboardChanged();
     void isTrustedChanged();
     /// A field was asked for, so the panel has to be up and have the keyboard. The receiver shows it
     /// before it returns.
@@ -187,6 +187,7 @@ private:
     PromptListModel m_prompts;
     CardActions m_cards;
     PanelMenu m_menu;
+    NoteEditorController m_editor;
     Tab m_tab = Tab::Notes;
     QString m_search;
     QString m_draft;
@@ -195,7 +196,9 @@ private:
     Field m_activeField = Field::None;
     Field m_requestedField = Field::None;
     qint64 m_fieldRequest = 0;
-    KeyOwner m_keyOwner = KeyOwner::None;
+    bool m_isOnControl = false;
+    bool m_isEditing = false;
+    bool m_isComposing = false;
     bool m_savesSoon = false;
 };
 

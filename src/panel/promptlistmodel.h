@@ -9,8 +9,9 @@ class NotesStore;
 class Prompt;
 
 /// The prompts that the panel lists: those written in it, those saved from a selection, and those that
-/// are done. Follows the store and the search text. Owned by the panel's model.
-class PromptListModel final : public SectionedListModel
+/// are done. Follows the store and the search text. Owned by the panel's model. The
+/// base is named in full for the tools that read what QML sees.
+class PromptListModel final : public vesk::SectionedListModel
 {
     Q_OBJECT
     QML_ELEMENT

@@ -23,6 +23,7 @@
 #include <QCommandLineParser>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QMouseEvent>
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QScreen>
@@ -39,6 +40,45 @@ void installApplications(vesk::MemoryWorkspace &workspace)
     workspace.install(u"firefox-esr"_s, QIcon::fromTheme(u"firefox-esr"_s));
     workspace.install(u"org.xfce.mousepad"_s, QIcon::fromTheme(u"accessories-text-editor"_s));
     workspace.install(u"xfce4-terminal"_s, QIcon::fromTheme(u"utilities-terminal"_s));
+}
+
+void fillStore(vesk::NotesStore &store, vesk::MemoryClock &clock, int notes)
+{
+    vesk::samplenotes::fill(store, clock, notes);
+    vesk::samplenotes::fillPrompts(store, clock);
+}
+
+vesk::PanelModel::Tab tabNamed(const QString &name)
+{
+    using Tab = vesk::PanelModel::Tab;
+    return name == u"prompts" ? Tab::Prompts : name == u"checklists" ? Tab::Checklists : Tab::Notes;
+}
+
+/// The card with this number on the tab that is shown, from 1; none for 0 and what is beyond the last.
+std::optional<vesk::RecordId> cardAt(vesk::PanelModel &model, int number)
+{
+    const bool isOnPrompts = model.tab() == vesk::PanelModel::Tab::Prompts;
+    const vesk::SectionedListModel &list =
+        isOnPrompts ? static_cast<vesk::SectionedListModel &>(*model.prompts()) : *model.notes();
+    return number < 1 || number > list.visibleCount() ? std::nullopt
+                                                      : std::optional(list.visibleAt(number - 1));
+}
+
+/// Moves the pointer of this window alone, once all has settled, and clicks there if asked to.
+void point(QQuickWindow &window, const QString &place, bool clicks)
+{
+    const QPointF at(place.section(u',', 0, 0).toDouble(), place.section(u',', 1, 1).toDouble());
+    QTimer::singleShot(400, &window, [&window, at, clicks] {
+        const auto send = [&](QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held) {
+            QMouseEvent event(type, at, window.mapToGlobal(at), button, held, Qt::NoModifier);
+            QCoreApplication::sendEvent(&window, &event);
+        };
+        send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
+        if (!clicks)
+            return;
+        send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+        send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+    });
 }
 
 } // namespace
@@ -62,6 +102,12 @@ int main(int argc, char *argv[])
     const QCommandLineOption still(u"still"_s, u"No animation."_s);
     const QCommandLineOption notes(u"notes"_s, u"How many notes."_s, u"N"_s, u"8"_s);
     const QCommandLineOption search(u"search"_s, u"What to search for."_s, u"TEXT"_s);
+    const QCommandLineOption tab(u"tab"_s, u"Which tab: notes, checklists or prompts."_s, u"TAB"_s);
+    const QCommandLineOption select(u"select"_s, u"Which card is selected, from 1."_s, u"N"_s);
+    const QCommandLineOption open(u"open"_s, u"Which note is open, from 1."_s, u"N"_s);
+    const QCommandLineOption draft(u"draft"_s, u"What stands in the composer."_s, u"TEXT"_s);
+    const QCommandLineOption pointer(u"pointer"_s, u"Where the pointer is, in the panel."_s, u"X,Y"_s);
+    const QCommandLineOption click(u"click"_s, u"Where the pointer clicks, in the panel."_s, u"X,Y"_s);
     const QCommandLineOption notice(u"notice"_s, u"Shows a notice as well."_s, u"TEXT"_s);
     const QCommandLineOption editor(u"editor"_s, u"Shows a note in the editor instead."_s);
     const QCommandLineOption quickNote(u"quick-note"_s, u"Shows the quick-note box with a draft instead."_s,
@@ -69,8 +115,9 @@ int main(int argc, char *argv[])
     const QCommandLineOption quickChecklist(u"quick-checklist"_s, u"The same for a checklist."_s, u"TEXT"_s);
     const QCommandLineOption screenshot(u"screenshot"_s, u"Writes a picture of the panel and quits."_s,
                                         u"FILE"_s);
-    options.addOptions({dark, strong, textScale, empty, untrusted, composited, still, notes, search, notice,
-                        editor, quickNote, quickChecklist, screenshot});
+    options.addOptions({dark,  strong, textScale, empty,     untrusted,      composited, still,
+                        notes, search, tab,       select,    open,           draft,      pointer,
+                        click, notice, editor,    quickNote, quickChecklist, screenshot});
     options.process(program);
 
     const QTemporaryDir folder;
@@ -80,7 +127,7 @@ int main(int argc, char *argv[])
     if (!opened.store)
         qFatal("%s", qUtf8Printable(opened.error));
     if (!options.isSet(empty))
-        vesk::samplenotes::fill(*opened.store, clock, options.value(notes).toInt());
+        fillStore(*opened.store, clock, options.value(notes).toInt());
 
     vesk::MemoryAppearance appearance;
     appearance.setColorScheme(options.isSet(dark) ? vesk::Appearance::ColorScheme::Dark
@@ -99,10 +146,10 @@ int main(int argc, char *argv[])
     accessibility.setTrusted(!options.isSet(untrusted));
     vesk::MemoryApplication application;
     vesk::MemoryDefaults defaults;
+    vesk::MemoryPasteboard pasteboard;
 
     QQmlEngine engine;
     vesk::lendToEngine(engine, appearance, workspace, windows);
-    vesk::MemoryPasteboard pasteboard;
     vesk::MemoryPasteboard primary;
     vesk::lendToEditors(engine, pasteboard, &primary);
     std::unique_ptr<QQuickWindow> sheet;
@@ -130,12 +177,22 @@ int main(int argc, char *argv[])
         panel.showPanel();
     }
     QQuickWindow &shown = sheet ? *sheet : box.window() ? *box.window() : panel.window();
+    model.setTab(tabNamed(options.value(tab)));
     model.setSearch(options.value(search));
+    model.setDraft(options.value(draft));
+    if (const auto id = cardAt(model, options.value(select).toInt()))
+        model.setFocused(id);
+    if (const auto id = cardAt(model, options.value(open).toInt()))
+        model.cards()->open(id->toString(QUuid::WithoutBraces));
+    if (options.isSet(pointer))
+        point(panel.window(), options.value(pointer), false);
+    if (options.isSet(click))
+        point(panel.window(), options.value(click), true);
     if (options.isSet(notice))
         toast.show(options.value(notice), u"checkmark.circle.fill"_s);
     QObject::connect(&application, &vesk::Application::didHide, &program, &QGuiApplication::quit);
     if (options.isSet(screenshot)) {
-        QTimer::singleShot(800, &program, [&] {
+        QTimer::singleShot(1200, &program, [&] {
             const bool isWritten = shown.grabWindow().save(options.value(screenshot));
             QGuiApplication::exit(isWritten ? 0 : 1);
         });

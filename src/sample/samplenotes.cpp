@@ -20,6 +20,8 @@ struct Sample
     QStringView app = {};
     QStringView bundle = {};
     bool isPinned = false;
+    QStringView title = {};
+    QStringView url = {};
 };
 
 constexpr std::array kSamples{
@@ -32,7 +34,9 @@ constexpr std::array kSamples{
                u"The best interface is the one you stop noticing\nA tool should keep out of the way until it "
                u"is needed, and then be under the hand at once.",
            .app = u"Firefox",
-           .bundle = u"firefox-esr"},
+           .bundle = u"firefox-esr",
+           .title = u"Notes on quiet software",
+           .url = u"https://example.org/quiet-software"},
     Sample{.age = 24min,
            .text =
                u"Ideas for the garden wall\n• Espaliered pears on the south side\n• Climbing hydrangea, it "
@@ -59,6 +63,33 @@ constexpr std::array kSamples{
     Sample{.age = 70min * 24 * 60, .text = u"Passport expires in November"},
 };
 
+struct SamplePrompt
+{
+    std::chrono::minutes age;
+    QStringView text;
+    bool isDone = false;
+    bool isCaptured = false;
+};
+
+constexpr std::array kPrompts{
+    SamplePrompt{.age = 4min, .text = u"And how does that change if the list is already sorted?"},
+    SamplePrompt{.age = 50min,
+                 .text =
+                     u"Write the release announcement for people who have never heard of us.\nTone: calm, "
+                     u"concrete, no superlatives.\nLength: three short paragraphs.\nFirst the problem, then "
+                     u"what it does.\nThen how to get it.\nEnd with a thank-you to the translators, by "
+                     u"name.\nNo emoji."},
+    SamplePrompt{.age = 3min * 60,
+                 .text =
+                     u"Explain the difference between a semaphore and a mutex to someone who has only ever "
+                     u"written spreadsheets.",
+                 .isCaptured = true},
+    SamplePrompt{.age = 26min * 60,
+                 .text = u"Summarise the discussion above in five sentences, with who wants what.",
+                 .isCaptured = true},
+    SamplePrompt{.age = 2min * 24 * 60, .text = u"Which of these names is taken?", .isDone = true},
+};
+
 std::optional<QString> text(QStringView view)
 {
     return view.isEmpty() ? std::nullopt : std::optional(view.toString());
@@ -80,8 +111,20 @@ void fill(NotesStore &store, MemoryClock &clock, int count)
                                                                 .isPinned = sample.isPinned && round == 0,
                                                                 .sourceApp = text(sample.app),
                                                                 .sourceBundleID = text(sample.bundle),
-                                                                .sourceTitle = std::nullopt,
-                                                                .sourceURL = std::nullopt}));
+                                                                .sourceTitle = text(sample.title),
+                                                                .sourceURL = text(sample.url)}));
+    }
+    store.save();
+}
+
+void fillPrompts(NotesStore &store, const MemoryClock &clock)
+{
+    for (const SamplePrompt &sample : kPrompts) {
+        store.insert(std::make_unique<Prompt>(Prompt::Fields{.id = RecordId::createUuid(),
+                                                             .text = sample.text.toString(),
+                                                             .isDone = sample.isDone,
+                                                             .createdAt = clock.now() - sample.age,
+                                                             .isCaptured = sample.isCaptured}));
     }
     store.save();
 }

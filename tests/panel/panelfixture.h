@@ -2,6 +2,7 @@
 #pragma once
 
 #include "components/surroundings.h"
+#include "editor/lentpasteboards.h"
 #include "notes/notesstore.h"
 #include "panel/panelmodel.h"
 #include "panel/panelwindow.h"
@@ -10,6 +11,7 @@
 #include "platform/memory/memoryapplication.h"
 #include "platform/memory/memoryclock.h"
 #include "platform/memory/memorydefaults.h"
+#include "platform/memory/memorypasteboard.h"
 #include "platform/memory/memoryscreens.h"
 #include "platform/memory/memorywindows.h"
 #include "platform/memory/memoryworkspace.h"
@@ -41,9 +43,11 @@ struct PanelFixture
     MemoryWorkspace workspace;
     MemoryScreens screens;
     MemoryWindows windows{screens};
+    MemoryPasteboard pasteboard;
     PanelModel model{*store, clock, defaults, application, accessibility};
     QQmlEngine engine;
-    const bool isLent = (lendToEngine(engine, appearance, workspace, windows), true);
+    const bool isLent = (lendToEngine(engine, appearance, workspace, windows),
+                         lendToEditors(engine, pasteboard, nullptr), true);
     PanelWindow panel{engine, model, application, screens, windows};
 };
 

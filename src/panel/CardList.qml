@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Vesk.Components
+import Vesk.Panel
+
+// A list of sections and cards. Keeps its place when rows come and go, and brings what is selected into
+// view by the shortest way.
+FocusScope {
+    id: root
+
+    required property PanelModel panel
+    required property SectionedListModel rows
+    required property string name
+    property alias delegate: list.delegate
+    readonly property bool isAnimated: Theme.allowsMotion && !root.rows.isSweeping
+
+    // Selects the row of a card, or none, and brings it into view.
+    function select(cardId: string) {
+        const row = root.rows.rowOf(cardId);
+        list.currentIndex = row;
+        if (row < 0)
+            return;
+        reveal(row);
+        if (root.activeFocus && !root.panel.isEditing && !root.panel.isOnControl)
+            (list.currentItem as CardRow)?.shown?.forceActiveFocus();
+    }
+
+    function reveal(row: int) {
+        const item = list.itemAtIndex(row);
+        scroll.stop();
+        if (list.height <= 0)
+            return;
+        if (item === null) {
+            list.positionViewAtIndex(row, ListView.Contain);
+            return;
+        }
+        const top = item.y - (row === 1 ? list.itemAtIndex(0)?.height ?? 0 : 0);
+        const bottom = item.y + item.height + list.bottomMargin - list.height;
+        scroll.to = Math.min(top, Math.max(bottom, list.contentY));
+        if (scroll.to !== list.contentY)
+            scroll.start();
+    }
+
+    Connections {
+        function onFocusedChanged() {
+            settling.restart();
+        }
+
+        function onExpandedChanged() {
+            if (root.panel.expandedId.length > 0)
+                opening.restart();
+        }
+
+        target: root.panel
+        enabled: root.visible
+    }
+
+    // Waits for the end of the change that the selection comes with, since the rows that go or come
+    // count then.
+    Timer {
+        id: settling
+
+        interval: 0
+        onTriggered: root.select(root.panel.focusedId)
+    }
+
+    // By then the card has its full height.
+    Timer {
+        id: opening
+
+        interval: 380
+        onTriggered: {
+            const row = root.rows.rowOf(root.panel.expandedId);
+            if (row >= 0)
+                root.reveal(row);
+        }
+    }
+
+    Spring {
+        id: scroll
+
+        target: list
+        property: "contentY"
+    }
+
+    // The Tab key comes to what is selected, not to a list where nothing shows it.
+    TabStop {
+        activeFocusOnTab: list.count > 0 && !list.activeFocus
+        onReached: {
+            list.forceActiveFocus();
+            root.panel.selectSomething();
+            root.select(root.panel.focusedId);
+        }
+    }
+
+    ListView {
+        id: list
+
+        anchors.fill: parent
+        focus: true
+        leftMargin: Theme.margin
+        rightMargin: Theme.margin
+        bottomMargin: Theme.space
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        model: root.rows
+        currentIndex: -1
+        keyNavigationEnabled: false
+        highlightFollowsCurrentItem: false
+        Accessible.role: Accessible.List
+        Accessible.name: root.name
+        onMovementStarted: scroll.stop()
+
+        add: Transition {
+            enabled: root.isAnimated
+
+            Spring {
+                property: "opacity"
+                from: 0
+                to: 1
+            }
+            Spring {
+                property: "scale"
+                from: 0.97
+                to: 1
+            }
+        }
+        remove: Transition {
+            enabled: root.isAnimated
+
+            Spring {
+                property: "opacity"
+                to: 0
+                duration: Theme.pressDuration
+            }
+            Spring {
+                property: "scale"
+                to: 0.97
+                duration: Theme.pressDuration
+            }
+        }
+        move: shift
+        displaced: shift
+    }
+
+    TapHandler {
+        parent: list
+        onTapped: root.panel.collapse()
+    }
+
+    // A card that is displaced while it still appears ends up whole as well.
+    Transition {
+        id: shift
+
+        enabled: root.isAnimated
+
+        Spring {
+            property: "y"
+        }
+        Spring {
+            property: "opacity"
+            to: 1
+        }
+        Spring {
+            property: "scale"
+            to: 1
+        }
+    }
+
+    EdgeFade {
+        anchors.top: parent.top
+        height: 8
+        visible: !list.atYBeginning
+    }
+
+    EdgeFade {
+        anchors.bottom: parent.bottom
+        height: 12
+        rotation: 180
+        visible: !list.atYEnd
+    }
+
+    ScrollThumb {
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+        anchors.right: parent.right
+        list: list
+    }
+}

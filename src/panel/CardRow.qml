@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+// One row of a list: a section's header or a card, whichever is shown in it.
+FocusScope {
+    property Item shown: null
+
+    implicitHeight: shown ? shown.y + shown.height : 0
+}

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+
+// The buttons in the corner of a closed card, there while the pointer is over the card or one of them has
+// the keyboard.
+Rectangle {
+    id: root
+
+    required property bool isWanted
+    // Whether the Tab key goes through the buttons.
+    required property bool canTabIn
+    required property bool isPinned
+    readonly property bool isUp: root.isWanted || pin.activeFocus || copy.activeFocus || paste.activeFocus || trash.activeFocus
+
+    signal pinToggled
+    signal copied
+    signal pasted
+    signal removed
+
+    implicitWidth: buttons.width + 4
+    implicitHeight: buttons.height + 4
+    radius: height / 2
+    color: Theme.raised
+    border.width: 1
+    border.color: Theme.edge
+    antialiasing: true
+    opacity: root.isUp ? 1 : 0
+    enabled: root.isUp || root.canTabIn
+
+    Behavior on opacity {
+        NumberAnimation {
+            duration: Theme.easeDuration
+            easing.type: Easing.OutQuad
+        }
+    }
+
+    Row {
+        id: buttons
+
+        anchors.centerIn: parent
+        spacing: 1
+
+        SymbolButton {
+            id: pin
+
+            activeFocusOnTab: root.canTabIn || activeFocus
+            name: root.isPinned ? qsTr("Unpin") : qsTr("Pin")
+            symbol: root.isPinned ? "pin.slash" : "pin"
+            onClicked: root.pinToggled()
+        }
+
+        CopyButton {
+            id: copy
+
+            activeFocusOnTab: root.canTabIn || activeFocus
+            onClicked: {
+                root.copied();
+                copy.confirm();
+            }
+        }
+
+        SymbolButton {
+            id: paste
+
+            activeFocusOnTab: root.canTabIn || activeFocus
+            name: KeyLabels.spelt(qsTr("Paste into the App You Came From (⌘↩)"), KeyLabels.Window)
+            symbol: "arrow.up.forward.app"
+            onClicked: root.pasted()
+        }
+
+        SymbolButton {
+            id: trash
+
+            activeFocusOnTab: root.canTabIn || activeFocus
+            name: KeyLabels.spelt(qsTr("Delete (⌘⌫)"), KeyLabels.Window)
+            symbol: "trash"
+            onClicked: root.removed()
+        }
+    }
+}

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+import Vesk.Editor
+import Vesk.Panel
+
+// An open card: the editor of its note, and the way back to where the note comes from.
+FocusScope {
+    id: root
+
+    required property string cardId
+    required property string text
+    required property string sourceBundle
+    required property string sourceLabel
+    required property string sourceTip
+    required property PanelModel panel
+
+    implicitHeight: editor.height + Theme.space + footer.height
+    height: implicitHeight
+    Component.onDestruction: {
+        if (editor.hasFocus)
+            root.panel.isEditing = false;
+    }
+
+    NoteEditor {
+        id: editor
+
+        property real reportedHeight: 28
+        property bool isSettled: false
+
+        width: parent.width
+        height: Math.min(340, Math.max(28, reportedHeight))
+        focus: true
+        text: root.text
+        placeholder: qsTr("Title")
+        fontSize: 13.5
+        firstLineIsTitle: true
+        titleBoost: 3.5
+        titleWeight: Font.DemiBold
+        controller: root.panel.editor
+        autofocus: true
+        takesCommandReturn: true
+        takesEscape: true
+        onEdited: text => root.panel.cards.edit(root.cardId, text)
+        onCommandReturned: root.panel.collapse()
+        onEscaped: root.panel.collapse()
+        onContentHeightReported: height => {
+            reportedHeight = height;
+            isSettled = true;
+        }
+        onHasFocusChanged: root.panel.isEditing = hasFocus
+
+        Behavior on reportedHeight {
+            enabled: editor.isSettled
+
+            Spring {
+            }
+        }
+    }
+
+    Item {
+        id: footer
+
+        anchors.top: editor.bottom
+        anchors.topMargin: Theme.space
+        width: parent.width
+        height: 24
+
+        SourceButton {
+            anchors.left: parent.left
+            anchors.leftMargin: -6
+            anchors.verticalCenter: parent.verticalCenter
+            maximumWidth: done.x - Theme.margin
+            visible: root.sourceLabel.length > 0
+            label: root.sourceLabel
+            help: root.sourceTip
+            bundleId: root.sourceBundle
+            onClicked: root.panel.cards.openSource(root.cardId)
+        }
+
+        Row {
+            id: done
+
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: Theme.tightSpace
+
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                rightPadding: 2
+                text: qsTr("Done")
+                textFormat: Text.PlainText
+                font: Theme.captionFont
+                color: Theme.secondary
+            }
+
+            KeyCap {
+                glyph: "⌘"
+            }
+
+            KeyCap {
+                glyph: "↩"
+            }
+        }
+    }
+}

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Vesk.Components
+import Vesk.Panel
+
+// What a closed card shows of its note: its title, its first checkboxes or a preview, and where and when
+// it comes from.
+Column {
+    id: root
+
+    required property string title
+    required property string preview
+    required property list<string> itemTexts
+    required property list<bool> itemsDone
+    required property list<int> itemLines
+    required property int furtherItems
+    required property int done
+    required property int total
+    required property string time
+    required property string source
+    required property string sourceBundle
+    required property string query
+    // Whether the Tab key goes through the checkboxes.
+    required property bool canTabIn
+
+    signal itemToggled(int line)
+
+    spacing: 5
+
+    MatchText {
+        // Leaves the corner to the pin.
+        width: parent.width - 26
+        text: root.title
+        query: root.query
+        font: Theme.titleFont
+        color: Theme.primary
+        matchColor: Theme.matchFill
+    }
+
+    Column {
+        id: checklist
+
+        width: parent.width
+        topPadding: 1
+        spacing: 2
+        visible: root.itemTexts.length > 0
+
+        Repeater {
+            model: root.itemTexts.length
+
+            ChecklistRow {
+                required property int index
+
+                width: checklist.width
+                activeFocusOnTab: root.canTabIn || activeFocus
+                text: root.itemTexts[index] ?? ""
+                isDone: root.itemsDone[index] ?? false
+                query: root.query
+                onClicked: root.itemToggled(root.itemLines[index])
+            }
+        }
+
+        Text {
+            leftPadding: 24
+            visible: root.furtherItems > 0
+            text: qsTr("+ %1 more").arg(root.furtherItems)
+            textFormat: Text.PlainText
+            font: Theme.captionFont
+            color: Theme.secondary
+            Accessible.ignored: true
+        }
+    }
+
+    MatchText {
+        width: parent.width
+        visible: root.preview.length > 0
+        text: root.preview
+        query: root.query
+        maximumLineCount: 2
+        lineSpacing: 1
+        font: Theme.hintFont
+        color: Theme.secondary
+        matchColor: Theme.matchFill
+    }
+
+    NoteFooter {
+        width: parent.width
+        time: root.time
+        source: root.source
+        sourceBundle: root.sourceBundle
+        done: root.done
+        total: root.total
+    }
+}

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+
+// Leads from an open note back to the page or the application that it comes from.
+PressButton {
+    id: root
+
+    required property string label
+    required property string bundleId
+    required property real maximumWidth
+
+    name: root.label
+    pressedScale: 0.97
+    focusRadius: height / 2 + 3
+    implicitWidth: Math.min(root.maximumWidth, Math.ceil(name.implicitWidth) + name.x + 10 + arrow.width + 8)
+    implicitHeight: 24
+    Accessible.role: Accessible.Link
+
+    Rectangle {
+        anchors.fill: parent
+        radius: height / 2
+        antialiasing: true
+        color: Theme.fill
+        visible: root.hovered
+    }
+
+    AppIcon {
+        id: icon
+
+        x: 6
+        anchors.verticalCenter: parent.verticalCenter
+        bundleId: root.bundleId
+        size: 15
+        tileColor: Theme.neutralTile
+    }
+
+    Text {
+        id: name
+
+        x: icon.x + icon.width + 6
+        width: root.width - x - arrow.width - 5 - 8
+        anchors.verticalCenter: parent.verticalCenter
+        elide: Text.ElideMiddle
+        text: root.label
+        textFormat: Text.PlainText
+        font: Theme.captionFont
+        color: Theme.secondary
+        Accessible.ignored: true
+    }
+
+    Symbol {
+        id: arrow
+
+        anchors.right: parent.right
+        anchors.rightMargin: 8
+        anchors.verticalCenter: parent.verticalCenter
+        name: "arrow.up.right"
+        size: 9
+        color: Theme.accent
+    }
+}

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Vesk.Components
+import Vesk.Panel
+
+// Chooses what the list shows. A thumb slides to the tab that is chosen.
+Rectangle {
+    id: root
+
+    required property PanelModel model
+    readonly property real tabWidth: 128
+
+    implicitWidth: 3 * root.tabWidth + 6
+    implicitHeight: 32
+    radius: height / 2
+    color: Theme.fill
+    border.width: 1
+    border.color: Theme.edge
+    antialiasing: true
+    Accessible.role: Accessible.PageTabList
+    Accessible.name: qsTr("Tabs")
+
+    Rectangle {
+        anchors.fill: thumb
+        anchors.margins: -1
+        anchors.topMargin: 1
+        radius: height / 2
+        antialiasing: true
+        color: Qt.rgba(0, 0, 0, 0.13)
+    }
+
+    Rectangle {
+        id: thumb
+
+        x: 3 + root.model.tab * root.tabWidth
+        y: 3
+        width: root.tabWidth
+        height: 26
+        radius: height / 2
+        antialiasing: true
+        color: Theme.accent
+
+        Behavior on x {
+            Spring {
+            }
+        }
+    }
+
+    Row {
+        x: 3
+        y: 3
+
+        TabButton {
+            id: notes
+
+            width: root.tabWidth
+            model: root.model
+            tab: PanelModel.Tab.Notes
+            KeyNavigation.right: checklists
+            name: qsTr("Notes")
+            count: root.model.notes.noteCount
+        }
+
+        TabButton {
+            id: checklists
+
+            width: root.tabWidth
+            model: root.model
+            tab: PanelModel.Tab.Checklists
+            KeyNavigation.right: prompts
+            name: qsTr("Checklists")
+            count: root.model.notes.checklistCount
+        }
+
+        TabButton {
+            id: prompts
+
+            width: root.tabWidth
+            model: root.model
+            tab: PanelModel.Tab.Prompts
+            name: qsTr("Prompts")
+            count: root.model.prompts.openCount
+        }
+    }
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Components
+import Vesk.Panel
+
+// One tab: its title and, if there is anything in it, how much.
+PressButton {
+    id: root
+
+    required property PanelModel model
+    required property int tab
+    required property int count
+    readonly property bool isChosen: root.model.tab === root.tab
+
+    implicitHeight: 26
+    pressedScale: 0.97
+    focusRadius: height / 2 + 3
+    Accessible.role: Accessible.PageTab
+    Accessible.description: root.count > 0 ? root.count : ""
+    Accessible.selectable: true
+    Accessible.selected: root.isChosen
+    onClicked: root.model.tab = root.tab
+
+    Row {
+        anchors.centerIn: parent
+        spacing: 6
+
+        Text {
+            id: title
+
+            text: root.name
+            textFormat: Text.PlainText
+            font: root.isChosen ? Theme.strongBodyFont : Theme.mediumBodyFont
+            color: root.isChosen ? Theme.onAccent : root.hovered ? Theme.primary : Theme.secondary
+            Accessible.ignored: true
+
+            Behavior on color {
+                Ease {
+                }
+            }
+        }
+
+        CountText {
+            anchors.baseline: title.baseline
+            visible: root.count > 0
+            count: root.count
+            font: Theme.strongCaptionFont
+            color: root.isChosen ? Theme.onAccent : Theme.tertiary
+            opacity: root.isChosen ? 0.75 : 1
+        }
+    }
+}

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "panel/matchmarks.h"
+
+#include "panel/highlight.h"
+
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextLayout>
+
+namespace vesk {
+
+MatchMarks::MatchMarks(QObject *parent)
+    : QObject(parent)
+{
+}
+
+void MatchMarks::setDocument(QQuickTextDocument *document)
+{
+    if (m_document == document)
+        return;
+    m_document = document;
+    if (document)
+        connect(document->textDocument(), &QTextDocument::contentsChange, this, &MatchMarks::mark);
+    markAnew();
+    Q_EMIT changed();
+}
+
+void MatchMarks::setQuery(const QString &query)
+{
+    if (m_query == query)
+        return;
+    m_query = query;
+    markAnew();
+    Q_EMIT changed();
+}
+
+void MatchMarks::setColor(const QColor &color)
+{
+    if (m_color == color)
+        return;
+    m_color = color;
+    markAnew();
+    Q_EMIT changed();
+}
+
+/// Inside a change of the text, which then lays out and paints what has changed here as well.
+void MatchMarks::mark()
+{
+    if (!m_document || (m_query.isEmpty() && !m_hasMarks))
+        return;
+    m_hasMarks = !m_query.isEmpty();
+    QTextDocument &text = *m_document->textDocument();
+    QTextCharFormat format;
+    format.setBackground(m_color);
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+        QList<QTextLayout::FormatRange> formats;
+        for (const TextRange &range : matchRanges(block.text(), m_query)) {
+            formats.append({.start = static_cast<int>(range.start),
+                            .length = static_cast<int>(range.length),
+                            .format = format});
+        }
+        block.layout()->setFormats(formats);
+    }
+    // All at once: block by block it would be laid out as often.
+    text.markContentsDirty(0, text.characterCount());
+}
+
+void MatchMarks::markAnew()
+{
+    if (!m_document)
+        return;
+    // An empty change, without which the item would not paint itself again.
+    QTextCursor cursor(m_document->textDocument());
+    cursor.beginEditBlock();
+    mark();
+    cursor.endEditBlock();
+}
+
+} // namespace vesk

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QPointer>
+#include <QQmlEngine>
+#include <QQuickTextDocument>
+
+namespace vesk {
+
+/// Marks the matches of a search in the text of a text item.
+class MatchMarks : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QQuickTextDocument *document READ document WRITE setDocument NOTIFY changed)
+    Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY changed)
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY changed)
+
+public:
+    explicit MatchMarks(QObject *parent = nullptr);
+
+    [[nodiscard]] QQuickTextDocument *document() const { return m_document; }
+    void setDocument(QQuickTextDocument *document);
+    [[nodiscard]] const QString &query() const { return m_query; }
+    void setQuery(const QString &query);
+    [[nodiscard]] const QColor &color() const { return m_color; }
+    void setColor(const QColor &color);
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void mark();
+    void markAnew();
+
+    QPointer<QQuickTextDocument> m_document;
+    QString m_query;
+    QColor m_color;
+    bool m_hasMarks = false;
+};
+
+} // namespace vesk

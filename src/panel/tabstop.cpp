@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#include "panel/tabstop.h"
+
+namespace vesk {
+
+TabStop::TabStop(QQuickItem *parent)
+    : QQuickItem(parent)
+{
+    setActiveFocusOnTab(true);
+}
+
+void TabStop::focusInEvent(QFocusEvent *event)
+{
+    QQuickItem::focusInEvent(event);
+    // Only after the change of focus, in which another would be lost.
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+        QMetaObject::invokeMethod(this, &TabStop::reached, Qt::QueuedConnection);
+}
+
+} // namespace vesk

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "panel/textmeasure.h"
+
+#include <QFontMetricsF>
+#include <QTextLayout>
+
+namespace vesk {
+
+namespace {
+
+/// More of a text than this is not needed to fill one line; keeps a very long one from being laid out.
+constexpr qsizetype kLongestLine = 1000;
+
+/// The same text for a single layout, in which a line feed is no line break.
+QString forLayout(const QString &text)
+{
+    QString result = text;
+    result.replace(u'\n', QChar::LineSeparator);
+    return result;
+}
+
+} // namespace
+
+TextMeasure::TextMeasure(QObject *parent)
+    : QObject(parent)
+{
+    connect(this, &TextMeasure::inputChanged, this, &TextMeasure::measure);
+}
+
+void TextMeasure::componentComplete()
+{
+    m_isComplete = true;
+    measure();
+}
+
+void TextMeasure::measure()
+{
+    if (!m_isComplete || m_width <= 0)
+        return;
+    const QString start = m_text.left((m_lineLimit + 1) * kLongestLine);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    // As the item that shows the text does.
+    option.setUseDesignMetrics(true);
+    QTextLayout layout(forLayout(start), m_font);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    qsizetype lastStart = 0;
+    qsizetype lastEnd = 0;
+    for (int count = 0; count < m_lineLimit; ++count) {
+        QTextLine line = layout.createLine();
+        if (!line.isValid())
+            break;
+        line.setLineWidth(m_width);
+        lastStart = line.textStart();
+        lastEnd = lastStart + line.textLength();
+    }
+    const bool isLong = layout.createLine().isValid() || start.size() < m_text.size();
+    layout.endLayout();
+
+    m_isLong = isLong;
+    m_shortText = m_text;
+    if (isLong) {
+        QString last = m_text.sliced(lastStart, lastEnd - lastStart);
+        while (!last.isEmpty() && last.back().isSpace())
+            last.chop(1);
+        const QFontMetricsF metrics(m_font);
+        last += QChar(0x2026);
+        m_shortText = m_text.left(lastStart) + metrics.elidedText(last, Qt::ElideRight, m_width);
+    }
+    Q_EMIT measured();
+}
+
+} // namespace vesk

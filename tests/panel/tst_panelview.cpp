@@ -1,0 +1,348 @@
+// SPDX-License-Identifier: MIT
+#include "panelfixture.h"
+
+#include "panel/tabstop.h"
+
+#include <QQuickItem>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+
+using Field = PanelModel::Field;
+using Tab = PanelModel::Tab;
+
+/// Clicks and types in the panel's real view.
+class PanelViewTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_fixture.reset(); }
+    void noteIsEditedInPlace();
+    void editorKeepsItsKeys();
+    void fieldTakesTheKeyboardFromTheEditor();
+    void clickBesideTheCardsCloses();
+    void openingMovesNothingElse();
+    void tickingStaysOnTheClosedCard();
+    void hoverButtons();
+    void tabsChooseTheList();
+    void promptIsTickedAndDeleted();
+    void longPromptIsCutOff_data();
+    void longPromptIsCutOff();
+    void menuClearsDonePrompts();
+    void tabKeyGoesAround();
+    void buttonIsPressedByReturn();
+
+private:
+    [[nodiscard]] QQuickWindow &window() const { return m_fixture->panel.window(); }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        QTest::keyClick(&window(), key, modifiers);
+    }
+    void type(const QString &text) const
+    {
+        for (const QChar c : text)
+            QTest::keyClick(&window(), c.toLatin1());
+    }
+    void click(const QQuickItem &item) const
+    {
+        QTest::mouseClick(&window(), Qt::LeftButton, {}, middle(item));
+    }
+    [[nodiscard]] static QPoint middle(const QQuickItem &item)
+    {
+        return item.mapToScene(item.boundingRect().center()).toPoint();
+    }
+    /// All items of a QML type that are shown, in order of their place.
+    [[nodiscard]] QList<QQuickItem *> shown(const char *type) const;
+    /// The one button with this name; null if it is not shown.
+    [[nodiscard]] QQuickItem *button(const QString &name) const;
+    [[nodiscard]] bool hasEditor() const { return !shown("NoteEditor").isEmpty(); }
+    Note &addNote(const QString &text) { return m_fixture->addNote(text); }
+    Prompt &addPrompt(const QString &text)
+    {
+        Prompt &prompt = m_fixture->store->insert(
+            std::make_unique<Prompt>(m_fixture->clock, text, Prompt::Origin::FollowUp));
+        m_fixture->clock.advance(std::chrono::seconds(1));
+        return prompt;
+    }
+
+    std::unique_ptr<PanelFixture> m_fixture;
+};
+
+void PanelViewTest::init()
+{
+    m_fixture = std::make_unique<PanelFixture>();
+    m_fixture->appearance.setReduceMotion(true);
+    for (const QString &text : {u"one"_s, u"two"_s, u"three"_s})
+        addNote(text);
+    m_fixture->panel.showPanel();
+    QVERIFY(QTest::qWaitForWindowActive(&window()));
+    QTRY_COMPARE(shown("NoteCard").size(), 3);
+}
+
+QList<QQuickItem *> PanelViewTest::shown(const char *type) const
+{
+    QList<QQuickItem *> found;
+    QList<QQuickItem *> left{window().contentItem()};
+    while (!left.isEmpty()) {
+        QQuickItem *item = left.takeFirst();
+        if (!item->isVisible() || item->opacity() == 0)
+            continue;
+        if (QByteArray(item->metaObject()->className()).startsWith(QByteArray(type) + "_QMLTYPE"))
+            found.append(item);
+        left += item->childItems();
+    }
+    std::ranges::sort(found, {}, [](QQuickItem *item) { return item->mapToScene({}).y(); });
+    return found;
+}
+
+QQuickItem *PanelViewTest::button(const QString &name) const
+{
+    for (const char *type : {"SymbolButton", "CopyButton", "TabButton", "PanelMenuButton", "PressButton",
+                             "ChecklistRow", "SourceButton"}) {
+        for (QQuickItem *item : shown(type)) {
+            if (item->property("name").toString() == name)
+                return item;
+        }
+    }
+    return nullptr;
+}
+
+void PanelViewTest::noteIsEditedInPlace()
+{
+    Note &two = m_fixture->store->notes().at(1);
+    click(*shown("NoteCard").at(1));
+    QCOMPARE(m_fixture->model.expanded(), two.id());
+    QTRY_VERIFY(m_fixture->model.property("isEditing").toBool());
+    press(Qt::Key_End, Qt::ControlModifier);
+    type(u" more"_s);
+    QCOMPARE(two.text(), u"two more"_s);
+    // It has kept its place between the others.
+    QCOMPARE(m_fixture->model.notes()->visibleIndex(two.id()), 1);
+
+    press(Qt::Key_Return, Qt::ControlModifier);
+    QTRY_VERIFY(!hasEditor());
+    QCOMPARE(m_fixture->model.notes()->visibleIndex(two.id()), 0);
+    QVERIFY(!m_fixture->store->hasPendingChanges());
+    // The keys are the list's again.
+    press(Qt::Key_Down);
+    QCOMPARE(m_fixture->model.focused(), m_fixture->store->notes().at(1).id());
+}
+
+void PanelViewTest::editorKeepsItsKeys()
+{
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QTRY_VERIFY(m_fixture->model.property("isEditing").toBool());
+    press(Qt::Key_N, Qt::ControlModifier);
+    press(Qt::Key_Down);
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_Backspace);
+    QCOMPARE(m_fixture->model.activeField(), Field::None);
+    QCOMPARE(m_fixture->store->notes().first()->text(), QString());
+    press(Qt::Key_Escape);
+    // Left blank, the note is gone.
+    QTRY_VERIFY(!hasEditor());
+    QCOMPARE(m_fixture->store->notes().count(), 2);
+    QVERIFY(!m_fixture->application.isHidden());
+}
+
+void PanelViewTest::fieldTakesTheKeyboardFromTheEditor()
+{
+    click(*shown("NoteCard").constFirst());
+    QTRY_VERIFY(m_fixture->model.property("isEditing").toBool());
+    click(*shown("Composer").constFirst());
+    QCOMPARE(m_fixture->model.activeField(), Field::Composer);
+    QVERIFY(!m_fixture->model.expanded());
+    type(u"new"_s);
+    QCOMPARE(m_fixture->model.draft(), u"new"_s);
+}
+
+void PanelViewTest::clickBesideTheCardsCloses()
+{
+    click(*shown("NoteCard").constFirst());
+    QTRY_VERIFY(hasEditor());
+    // A click in the open card is the editor's.
+    click(*shown("NoteForm").constFirst());
+    QVERIFY(m_fixture->model.expanded());
+    QTest::mouseClick(&window(), Qt::LeftButton, {}, QPoint(220, window().height() - 120));
+    QVERIFY(!m_fixture->model.expanded());
+}
+
+void PanelViewTest::openingMovesNothingElse()
+{
+    for (int i = 0; i < 40; ++i)
+        addNote(u"note %1"_s.arg(i));
+    const auto card = [this](int number) { return shown("NoteCard").at(number); };
+    QTRY_VERIFY(shown("NoteCard").size() > 4);
+    const qreal before = card(1)->mapToScene({}).y();
+    const qreal height = card(1)->height();
+    click(*card(1));
+    QTRY_VERIFY(hasEditor());
+    QTRY_VERIFY(card(1)->height() > height);
+    QCOMPARE(card(1)->mapToScene({}).y(), before);
+    press(Qt::Key_Escape);
+    QTRY_COMPARE(card(1)->height(), height);
+    QCOMPARE(card(1)->mapToScene({}).y(), before);
+}
+
+void PanelViewTest::tickingStaysOnTheClosedCard()
+{
+    Note &list = addNote(u"list\n\u2610 milk\n\u2610 tea"_s);
+    addNote(u"newer"_s);
+    const Date date = list.updatedAt();
+    QTRY_VERIFY(button(u"Mark “tea” as done"_s));
+    click(*button(u"Mark “tea” as done"_s));
+    QCOMPARE(list.text(), u"list\n\u2610 milk\n\u2611 tea"_s);
+    QCOMPARE(list.updatedAt(), date);
+    QVERIFY(!m_fixture->model.expanded());
+    QTRY_VERIFY(button(u"Mark “tea” as not done"_s));
+}
+
+void PanelViewTest::hoverButtons()
+{
+    QSignalSpy copies(m_fixture->model.cards(), &CardActions::copyRequested);
+    QSignalSpy pastes(&m_fixture->model, &PanelModel::pasteRequested);
+    QVERIFY(!button(u"Copy"_s));
+    QTest::mouseMove(&window(), middle(*shown("NoteCard").constFirst()));
+    QTRY_VERIFY(button(u"Copy"_s));
+    click(*button(u"Copy"_s));
+    QCOMPARE(copies.constFirst().constFirst().toString(), u"three"_s);
+    QCOMPARE(button(u"Copy"_s)->property("symbol").toString(), u"checkmark"_s);
+    click(*button(u"Pin"_s));
+    QVERIFY(m_fixture->store->notes().first()->isPinned());
+    QTRY_VERIFY(button(u"Unpin"_s));
+    click(*button(u"Paste into the App You Came From (Ctrl+Enter)"_s));
+    QCOMPARE(pastes.constFirst().constFirst().toString(), u"three"_s);
+    click(*button(u"Delete (Ctrl+Backspace)"_s));
+    QCOMPARE(m_fixture->store->notes().count(), 2);
+    QVERIFY(!m_fixture->model.expanded());
+}
+
+void PanelViewTest::tabsChooseTheList()
+{
+    addNote(u"\u2610 milk"_s);
+    addPrompt(u"why?"_s);
+    click(*button(u"Checklists"_s));
+    QCOMPARE(m_fixture->model.tab(), Tab::Checklists);
+    QTRY_COMPARE(shown("NoteCard").size(), 1);
+    click(*button(u"Prompts"_s));
+    QTRY_COMPARE(shown("PromptCard").size(), 1);
+    QCOMPARE(shown("NoteCard").size(), 0);
+    // The list that has come has the keyboard.
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QVERIFY(m_fixture->store->prompts().first()->isDone());
+    click(*button(u"Notes"_s));
+    QTRY_COMPARE(shown("NoteCard").size(), 4);
+}
+
+void PanelViewTest::promptIsTickedAndDeleted()
+{
+    Prompt &prompt = addPrompt(u"why?"_s);
+    m_fixture->model.setTab(Tab::Prompts);
+    QTRY_VERIFY(button(u"Mark as done"_s));
+    click(*button(u"Mark as done"_s));
+    QVERIFY(prompt.isDone());
+    QTRY_VERIFY(button(u"Mark as not done"_s));
+    click(*button(u"Delete (Ctrl+Backspace)"_s));
+    QVERIFY(m_fixture->store->prompts().isEmpty());
+    QTRY_VERIFY(!shown("EmptyPrompts").isEmpty());
+}
+
+void PanelViewTest::longPromptIsCutOff_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isLong");
+
+    QTest::newRow("five lines") << u"1\n2\n3\n4\n5"_s << false;
+    QTest::newRow("six lines") << u"1\n2\n3\n4\n5\n6"_s << true;
+    QTest::newRow("one long line") << u"word "_s.repeated(90) << true;
+}
+
+void PanelViewTest::longPromptIsCutOff()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, isLong);
+    addPrompt(text);
+    m_fixture->model.setTab(Tab::Prompts);
+    QTRY_COMPARE(shown("ExpandableText").size(), 1);
+    const QQuickItem &body = *shown("ExpandableText").constFirst();
+    const qreal height = body.height();
+    QCOMPARE(button(u"Show more"_s) != nullptr, isLong);
+    if (!isLong)
+        return;
+    click(*button(u"Show more"_s));
+    QTRY_VERIFY(button(u"Show less"_s));
+    QTRY_VERIFY(body.height() > height + 1);
+    click(*button(u"Show less"_s));
+    QTRY_COMPARE(body.height(), height);
+}
+
+void PanelViewTest::menuClearsDonePrompts()
+{
+    addPrompt(u"why?"_s).toggleDone();
+    QSignalSpy guides(m_fixture->model.menu(), &PanelMenu::guideRequested);
+    click(*button(u"Menu"_s));
+    press(Qt::Key_Escape);
+    QVERIFY(!m_fixture->application.isHidden());
+    click(*button(u"Menu"_s));
+    QTRY_COMPARE(shown("MenuRow").size(), 10);
+    click(*shown("MenuRow").at(6));
+    QVERIFY(m_fixture->store->prompts().isEmpty());
+    QVERIFY(guides.isEmpty());
+    click(*button(u"Menu"_s));
+    QTRY_COMPARE(shown("MenuRow").size(), 10);
+    // Nothing could answer a check for updates, so the entry does nothing.
+    click(*shown("MenuRow").at(1));
+    press(Qt::Key_Escape);
+    click(*button(u"Menu"_s));
+    click(*shown("MenuRow").at(0));
+    QTRY_COMPARE(guides.size(), 1);
+}
+
+void PanelViewTest::tabKeyGoesAround()
+{
+    m_fixture->model.requestField(Field::Search);
+    const auto isPassing = [this] { return qobject_cast<TabStop *>(window().activeFocusItem()) != nullptr; };
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        QList<QQuickItem *> stops;
+        do {
+            stops.append(window().activeFocusItem());
+            QVERIFY(stops.constLast());
+            press(key);
+            QTRY_VERIFY(!isPassing());
+        } while (window().activeFocusItem() != stops.constFirst() && stops.size() < 40);
+        QCOMPARE(m_fixture->model.activeField(), Field::Search);
+        // On its way it has come to the list, which shows that by selecting the first card.
+        QCOMPARE(m_fixture->model.focused(), m_fixture->store->notes().first()->id());
+        QVERIFY(stops.contains(shown("NoteCard").constFirst()));
+        QVERIFY(stops.contains(button(u"Menu"_s)));
+        QVERIFY(stops.contains(button(u"Prompts"_s)));
+    }
+}
+
+void PanelViewTest::buttonIsPressedByReturn()
+{
+    press(Qt::Key_Down);
+    button(u"Checklists"_s)->forceActiveFocus();
+    press(Qt::Key_Return);
+    QVERIFY(!m_fixture->model.expanded());
+    QCOMPARE(m_fixture->model.tab(), Tab::Checklists);
+    button(u"Notes"_s)->forceActiveFocus();
+    press(Qt::Key_Space);
+    QCOMPARE(m_fixture->model.tab(), Tab::Notes);
+    // The arrows are the list's, and take the keyboard there.
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QVERIFY(m_fixture->model.expanded());
+}
+
+QTEST_MAIN(PanelViewTest)
+#include "tst_panelview.moc"
