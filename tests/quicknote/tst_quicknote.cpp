@@ -46,21 +46,21 @@ struct World
     }
 
     /// Opens the box and waits until it has the keyboard.
-    [[nodiscard]] bool show(Mode mode)
+    [[nodiscard]] bool show(Mode mode) const
     {
         box->show(mode);
         return QTest::qWaitForWindowActive(box->window());
     }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
     {
         QTest::keyClick(box->window(), key, modifiers);
     }
-    void type(const QString &text)
+    void type(const QString &text) const
     {
         for (const QChar letter : text)
             QTest::keyClick(box->window(), letter.toLatin1());
     }
-    [[nodiscard]] QStringList texts()
+    [[nodiscard]] QStringList texts() const
     {
         QStringList all;
         for (qsizetype i = 0; i < store->notes().count(); ++i)
@@ -69,7 +69,7 @@ struct World
     }
     [[nodiscard]] QString draft() const { return box->model().text(); }
     /// What the notice on the screen says; empty if there is none.
-    [[nodiscard]] QString notice()
+    [[nodiscard]] QString notice() const
     {
         return toast->window().isVisible() ? toast->window().title() : QString();
     }
