@@ -14,7 +14,7 @@ Rectangle {
     readonly property real tabWidth: 128
 
     implicitWidth: 3 * root.tabWidth + 6
-    implicitHeight: 32
+    implicitHeight: thumb.height + 6
     radius: height / 2
     color: Theme.fill
     border.width: 1
@@ -38,7 +38,7 @@ Rectangle {
         x: 3 + root.model.tab * root.tabWidth
         y: 3
         width: root.tabWidth
-        height: 26
+        height: Math.round(26 * Theme.textScale)
         radius: height / 2
         antialiasing: true
         color: Theme.accent

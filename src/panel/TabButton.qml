@@ -13,7 +13,7 @@ PressButton {
     required property int count
     readonly property bool isChosen: root.model.tab === root.tab
 
-    implicitHeight: 26
+    implicitHeight: Math.round(26 * Theme.textScale)
     pressedScale: 0.97
     focusRadius: height / 2 + 3
     Accessible.role: Accessible.PageTab

@@ -14,12 +14,11 @@ namespace vesk {
 
 namespace {
 
-enum : size_t {
-    kPinned,
-    kToday,
-    kEarlier,
-    kSectionCount,
-};
+// The sections, in the order in which they are shown.
+constexpr size_t kPinned = 0;
+constexpr size_t kToday = 1;
+constexpr size_t kEarlier = 2;
+constexpr size_t kSectionCount = 3;
 
 constexpr std::chrono::milliseconds kTimesStayFresh = 30s;
 /// So many notes are folded at a time, to leave the event loop its turns.

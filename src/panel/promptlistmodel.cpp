@@ -12,12 +12,11 @@ namespace vesk {
 
 namespace {
 
-enum : size_t {
-    kFollowUp,
-    kSaved,
-    kDone,
-    kSectionCount,
-};
+// The sections, in the order in which they are shown.
+constexpr size_t kFollowUp = 0;
+constexpr size_t kSaved = 1;
+constexpr size_t kDone = 2;
+constexpr size_t kSectionCount = 3;
 
 size_t sectionOf(const Prompt &prompt)
 {

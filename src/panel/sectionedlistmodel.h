@@ -89,8 +89,8 @@ protected:
 private:
     void insertCards(const CardPlace &at, const ListSections::Entries &entries);
     void removeCards(const CardPlace &at, size_t count);
-    void showHeader(size_t section);
-    void hideHeaderIfEmpty(size_t section);
+    void showHeader(size_t index);
+    void hideHeaderIfEmpty(size_t index);
     void headerChanged(size_t section);
 
     Defaults &m_defaults;
