@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+#include "platform/freedesktop/dbusmenu.h"
+
+#include <QDBusMetaType>
+#include <QGuiApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace vesk {
+
+namespace {
+
+constexpr uint kRevision = 1;
+
+} // namespace
+
+QDBusArgument &operator<<(QDBusArgument &argument, const DBusMenuItem &item)
+{
+    argument.beginStructure();
+    argument << item.id << item.properties;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuItem &item)
+{
+    argument.beginStructure();
+    argument >> item.id >> item.properties;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument &operator<<(QDBusArgument &argument, const DBusMenuLayout &layout)
+{
+    argument.beginStructure();
+    argument << layout.id << layout.properties << layout.children;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuLayout &layout)
+{
+    argument.beginStructure();
+    argument >> layout.id >> layout.properties >> layout.children;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument &operator<<(QDBusArgument &argument, const DBusMenuEvent &event)
+{
+    argument.beginStructure();
+    argument << event.id << event.name << event.data << event.timestamp;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuEvent &event)
+{
+    argument.beginStructure();
+    argument >> event.id >> event.name >> event.data >> event.timestamp;
+    argument.endStructure();
+    return argument;
+}
+
+DBusMenu::DBusMenu(QList<DBusMenuEntry> entries, QObject *parent)
+    : QDBusAbstractAdaptor(parent)
+    , m_entries(std::move(entries))
+{
+    qDBusRegisterMetaType<DBusMenuItem>();
+    qDBusRegisterMetaType<QList<DBusMenuItem>>();
+    qDBusRegisterMetaType<DBusMenuLayout>();
+    qDBusRegisterMetaType<DBusMenuEvent>();
+    qDBusRegisterMetaType<QList<DBusMenuEvent>>();
+    qDBusRegisterMetaType<QList<int>>();
+}
+
+QString DBusMenu::textDirection()
+{
+    return QGuiApplication::isRightToLeft() ? u"rtl"_s : u"ltr"_s;
+}
+
+QVariantMap DBusMenu::properties(int id, const QStringList &names) const
+{
+    QVariantMap all;
+    if (id == 0) {
+        all.insert(u"children-display"_s, u"submenu"_s);
+    } else if (m_entries.at(id - 1).label.isEmpty()) {
+        all.insert(u"type"_s, u"separator"_s);
+    } else {
+        // In the protocol a single underscore marks the key to choose the line by.
+        all.insert(u"label"_s, QString(m_entries.at(id - 1).label).replace(u'_', u"__"_s));
+    }
+    if (names.isEmpty())
+        return all;
+    all.removeIf([&names](const QVariantMap::iterator &it) { return !names.contains(it.key()); });
+    return all;
+}
+
+DBusMenuLayout DBusMenu::layout(int id, const QStringList &names) const
+{
+    return {.id = id, .properties = properties(id, names), .children = {}};
+}
+
+uint DBusMenu::GetLayout(int parentId, int recursionDepth, const QStringList &propertyNames,
+                         DBusMenuLayout &layout) const
+{
+    layout.id = parentId;
+    if (parentId != 0 && !hasEntry(parentId))
+        return kRevision;
+    layout = this->layout(parentId, propertyNames);
+    // Any depth but none reaches the lines.
+    if (parentId == 0 && recursionDepth != 0) {
+        for (int id = 1; id <= m_entries.size(); ++id)
+            layout.children.append(QVariant::fromValue(this->layout(id, propertyNames)));
+    }
+    return kRevision;
+}
+
+QList<DBusMenuItem> DBusMenu::GetGroupProperties(const QList<int> &ids,
+                                                 const QStringList &propertyNames) const
+{
+    QList<DBusMenuItem> items;
+    // No identifiers ask for all items.
+    for (int id = 0; id <= m_entries.size(); ++id) {
+        if (ids.isEmpty() || ids.contains(id))
+            items.append({.id = id, .properties = properties(id, propertyNames)});
+    }
+    return items;
+}
+
+QDBusVariant DBusMenu::GetProperty(int id, const QString &name) const
+{
+    const QVariantMap all = id == 0 || hasEntry(id) ? properties(id, {}) : QVariantMap();
+    // What is not set has no type that could be sent; an empty text is what it would be shown as.
+    return QDBusVariant(all.value(name, QString()));
+}
+
+void DBusMenu::Event(int id, const QString &eventId, const QDBusVariant &data, uint timestamp)
+{
+    Q_UNUSED(data);
+    Q_UNUSED(timestamp);
+    if (eventId != "clicked"_L1 || !hasEntry(id) || !m_entries.at(id - 1).action)
+        return;
+    // The desktop waits for the answer with its menu open.
+    QMetaObject::invokeMethod(this, m_entries.at(id - 1).action, Qt::QueuedConnection);
+}
+
+QList<int> DBusMenu::EventGroup(const QList<DBusMenuEvent> &events)
+{
+    QList<int> unknown;
+    for (const DBusMenuEvent &event : events) {
+        if (event.id == 0 || hasEntry(event.id))
+            Event(event.id, event.name, event.data, event.timestamp);
+        else
+            unknown.append(event.id);
+    }
+    return unknown;
+}
+
+bool DBusMenu::AboutToShow(int id)
+{
+    Q_UNUSED(id);
+    const bool hasChanged = false;
+    return hasChanged;
+}
+
+QList<int> DBusMenu::AboutToShowGroup(const QList<int> &ids, QList<int> &idErrors)
+{
+    Q_UNUSED(ids);
+    Q_UNUSED(idErrors);
+    return {};
+}
+
+} // namespace vesk

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDBusAbstractAdaptor>
+#include <QDBusArgument>
+#include <QDBusVariant>
+#include <QStringList>
+#include <QVariantMap>
+
+#include <functional>
+
+namespace vesk {
+
+/// One line of a menu that the desktop shows: something to do, or, without a label, a dividing line.
+struct DBusMenuEntry
+{
+    QString label;
+    std::function<void()> action;
+};
+
+// The structures of the protocol.
+
+struct DBusMenuItem
+{
+    int id = 0;
+    QVariantMap properties;
+};
+
+struct DBusMenuLayout
+{
+    int id = 0;
+    QVariantMap properties;
+    /// Of layouts.
+    QVariantList children;
+};
+
+struct DBusMenuEvent
+{
+    int id = 0;
+    QString name;
+    QDBusVariant data;
+    uint timestamp = 0;
+};
+
+QDBusArgument &operator<<(QDBusArgument &argument, const DBusMenuItem &item);
+const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuItem &item);
+QDBusArgument &operator<<(QDBusArgument &argument, const DBusMenuLayout &layout);
+const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuLayout &layout);
+QDBusArgument &operator<<(QDBusArgument &argument, const DBusMenuEvent &event);
+const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuEvent &event);
+
+/// A menu for a desktop that draws it itself and asks for its lines by the bus: com.canonical.dbusmenu,
+/// flat and never changing. Owned by the object under whose path it is called. The lines are numbered
+/// from 1; the menu itself is 0.
+class DBusMenu final : public QDBusAbstractAdaptor
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")
+    Q_PROPERTY(uint Version READ version CONSTANT)
+    Q_PROPERTY(QString Status READ status CONSTANT)
+    Q_PROPERTY(QString TextDirection READ textDirection CONSTANT)
+    Q_PROPERTY(QStringList IconThemePath READ iconThemePath CONSTANT)
+
+public:
+    DBusMenu(QList<DBusMenuEntry> entries, QObject *parent);
+
+    [[nodiscard]] static uint version() { return 3; }
+    [[nodiscard]] static QString status() { return QStringLiteral("normal"); }
+    [[nodiscard]] static QString textDirection();
+    [[nodiscard]] static QStringList iconThemePath() { return {}; }
+
+public Q_SLOTS:
+    uint GetLayout(int parentId, int recursionDepth, const QStringList &propertyNames,
+                   vesk::DBusMenuLayout &layout) const;
+    [[nodiscard]] QList<vesk::DBusMenuItem> GetGroupProperties(const QList<int> &ids,
+                                                               const QStringList &propertyNames) const;
+    [[nodiscard]] QDBusVariant GetProperty(int id, const QString &name) const;
+    void Event(int id, const QString &eventId, const QDBusVariant &data, uint timestamp);
+    QList<int> EventGroup(const QList<vesk::DBusMenuEvent> &events);
+    [[nodiscard]] static bool AboutToShow(int id);
+    static QList<int> AboutToShowGroup(const QList<int> &ids, QList<int> &idErrors);
+
+Q_SIGNALS:
+    // Part of the protocol; a menu that never changes sends none.
+    void LayoutUpdated(uint revision, int parent);
+
+private:
+    [[nodiscard]] bool hasEntry(int id) const { return id >= 1 && id <= m_entries.size(); }
+    /// Only those named; all if none is.
+    [[nodiscard]] QVariantMap properties(int id, const QStringList &names) const;
+    [[nodiscard]] DBusMenuLayout layout(int id, const QStringList &names) const;
+
+    QList<DBusMenuEntry> m_entries;
+};
+
+} // namespace vesk
+
+Q_DECLARE_METATYPE(vesk::DBusMenuItem)
+Q_DECLARE_METATYPE(vesk::DBusMenuLayout)
+Q_DECLARE_METATYPE(vesk::DBusMenuEvent)

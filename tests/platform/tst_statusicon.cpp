@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include "fakestatuswatcher.h"
+
+#include "desktop/childprocess.h"
+#include "platform/freedesktop/statusicon.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace vesk;
+
+/// The icon on a bus of its own, as a desktop's panel meets it.
+class StatusIconTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+    void cleanupTestCase();
+    void followsThePlaceForIcons();
+    void isFoundAndActivated();
+    void menuIsDrawnByTheDesktop();
+    void menuIsChosenFrom();
+    void answersWhatItDoesNotKnow();
+
+private:
+    void makeIcon()
+    {
+        m_icon = std::make_unique<StatusIcon>(
+            QDBusConnection(u"vesk"_s),
+            StatusIcon::Content{
+                .activated = [this] { m_done.append(u"activate"_s); },
+                .menu = {{.label = u"New_Note"_s, .action = [this] { m_done.append(u"new"_s); }},
+                         {},
+                         {.label = u"Quit"_s, .action = [this] { m_done.append(u"quit"_s); }}}});
+    }
+    /// The answer to a call of the desktop's; the event loop turns, since both ends live here.
+    [[nodiscard]] static QDBusMessage ask(const QString &path, const QString &interface,
+                                          const QString &method, const QVariantList &arguments);
+    [[nodiscard]] static QDBusMessage askMenu(const QString &method, const QVariantList &arguments)
+    {
+        return ask(u"/StatusNotifierItem/Menu"_s, u"com.canonical.dbusmenu"_s, method, arguments);
+    }
+    [[nodiscard]] static QDBusMessage click(int id)
+    {
+        return askMenu(u"Event"_s, {id, u"clicked"_s, QVariant::fromValue(QDBusVariant(0)), 0U});
+    }
+
+    QTemporaryDir m_folder;
+    std::unique_ptr<ChildProcess> m_daemon;
+    std::unique_ptr<StatusIcon> m_icon;
+    QStringList m_done;
+};
+
+void StatusIconTest::initTestCase()
+{
+    m_daemon = ChildProcess::start({.program = u"dbus-daemon"_s,
+                                    .arguments = {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s,
+                                                  u"--address=unix:dir="_s + m_folder.path()},
+                                    .environment = QProcessEnvironment::systemEnvironment(),
+                                    .errorFile = m_folder.filePath(u"bus.log"_s)});
+    QVERIFY(m_daemon);
+    const QString address = m_daemon->readLine(10s);
+    QVERIFY2(QDBusConnection::connectToBus(address, u"desktop"_s).isConnected(), qPrintable(address));
+    QVERIFY(QDBusConnection::connectToBus(address, u"vesk"_s).isConnected());
+}
+
+void StatusIconTest::cleanup()
+{
+    m_icon.reset();
+    m_done.clear();
+}
+
+void StatusIconTest::cleanupTestCase()
+{
+    QDBusConnection::disconnectFromBus(u"vesk"_s);
+    QDBusConnection::disconnectFromBus(u"desktop"_s);
+}
+
+QDBusMessage StatusIconTest::ask(const QString &path, const QString &interface, const QString &method,
+                                 const QVariantList &arguments)
+{
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(QDBusConnection(u"vesk"_s).baseService(), path, interface, method);
+    call.setArguments(arguments);
+    const QDBusPendingCall pending = QDBusConnection(u"desktop"_s).asyncCall(call);
+    (void)QTest::qWaitFor([&pending] { return pending.isFinished(); }, 10000);
+    return pending.reply();
+}
+
+void StatusIconTest::followsThePlaceForIcons()
+{
+    makeIcon();
+    const QStringList expected{QDBusConnection(u"vesk"_s).baseService()};
+    for (int round = 0; round < 2; ++round) {
+        const FakeStatusWatcher place(QDBusConnection(u"desktop"_s));
+        QTRY_COMPARE(place.items(), expected);
+    }
+    // There before the icon.
+    m_icon.reset();
+    const FakeStatusWatcher place(QDBusConnection(u"desktop"_s));
+    makeIcon();
+    QTRY_COMPARE(place.items(), expected);
+}
+
+void StatusIconTest::isFoundAndActivated()
+{
+    makeIcon();
+    const auto item = u"org.kde.StatusNotifierItem"_s;
+    const auto path = u"/StatusNotifierItem"_s;
+    const QDBusMessage found = ask(path, u"org.freedesktop.DBus.Properties"_s, u"GetAll"_s, {item});
+    QCOMPARE(found.type(), QDBusMessage::ReplyMessage);
+    const auto all = qdbus_cast<QVariantMap>(found.arguments().value(0));
+    QCOMPARE(all.value(u"Status"_s).toString(), u"Active"_s);
+    QCOMPARE(all.value(u"IconName"_s).toString(), u"org.vesk.Vesk"_s);
+    QCOMPARE(all.value(u"Menu"_s).value<QDBusObjectPath>().path(), u"/StatusNotifierItem/Menu"_s);
+    QCOMPARE(ask(path, item, u"Activate"_s, {7, 9}).type(), QDBusMessage::ReplyMessage);
+    QTRY_COMPARE(m_done, QStringList{u"activate"_s});
+}
+
+void StatusIconTest::menuIsDrawnByTheDesktop()
+{
+    makeIcon();
+    const QDBusMessage answer = askMenu(u"GetLayout"_s, {0, -1, QStringList()});
+    QCOMPARE(answer.signature(), u"u(ia{sv}av)"_s);
+    const auto layout = qdbus_cast<DBusMenuLayout>(answer.arguments().at(1));
+    QStringList lines;
+    for (const QVariant &child : layout.children) {
+        const auto line = qdbus_cast<DBusMenuLayout>(child);
+        lines.append(u"%1:%2%3"_s.arg(QString::number(line.id), line.properties.value(u"label"_s).toString(),
+                                      line.properties.value(u"type"_s).toString()));
+    }
+    QCOMPARE(lines, (QStringList{u"1:New__Note"_s, u"2:separator"_s, u"3:Quit"_s}));
+    const QDBusMessage group =
+        askMenu(u"GetGroupProperties"_s, {QVariant::fromValue(QList<int>{1, 2, 9}), QStringList{u"label"_s}});
+    QCOMPARE(group.signature(), u"a(ia{sv})"_s);
+    const auto items = qdbus_cast<QList<DBusMenuItem>>(group.arguments().value(0));
+    QCOMPARE(items.size(), 2);
+    QCOMPARE(items.at(0).properties, (QVariantMap{{u"label"_s, u"New__Note"_s}}));
+    QCOMPARE(items.at(1).properties, QVariantMap());
+}
+
+void StatusIconTest::menuIsChosenFrom()
+{
+    makeIcon();
+    QCOMPARE(click(3).type(), QDBusMessage::ReplyMessage);
+    QTRY_COMPARE(m_done, QStringList{u"quit"_s});
+    // Some desktops send events in groups, those of the pointer too.
+    const QList<DBusMenuEvent> events{
+        {.id = 1, .name = u"hovered"_s, .data = QDBusVariant(0), .timestamp = 0},
+        {.id = 1, .name = u"clicked"_s, .data = QDBusVariant(0), .timestamp = 0},
+        {.id = 44, .name = u"clicked"_s, .data = QDBusVariant(0), .timestamp = 0}};
+    const QDBusMessage answer = askMenu(u"EventGroup"_s, {QVariant::fromValue(events)});
+    QCOMPARE(qdbus_cast<QList<int>>(answer.arguments().value(0)), QList<int>{44});
+    QTRY_COMPARE(m_done, (QStringList{u"quit"_s, u"new"_s}));
+}
+
+void StatusIconTest::answersWhatItDoesNotKnow()
+{
+    makeIcon();
+    for (const int id : {-1, 2, 99})
+        QCOMPARE(click(id).type(), QDBusMessage::ReplyMessage);
+    QCOMPARE(askMenu(u"GetLayout"_s, {99, 1, QStringList()}).type(), QDBusMessage::ReplyMessage);
+    QCOMPARE(askMenu(u"GetProperty"_s, {99, u"label"_s}).type(), QDBusMessage::ReplyMessage);
+    QCOMPARE(askMenu(u"AboutToShow"_s, {0}).arguments(), QVariantList{false});
+    QVERIFY(m_done.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(StatusIconTest)
+#include "tst_statusicon.moc"
