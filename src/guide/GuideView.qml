@@ -130,7 +130,7 @@ FocusScope {
                     GuideRow {
                         id: row
 
-                        width: parent.width
+                        width: column.width
                         isTrusted: root.guide.isTrusted
                         onSettingsRequested: root.guide.askForTrust()
                         onKeyboardCame: scroller.reveal(row)

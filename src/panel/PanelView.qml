@@ -15,6 +15,9 @@ FocusScope {
     readonly property Item keyboard: Window.activeFocusItem
 
     function giveKeyboard(field: int) {
+        // Whatever covers the panel has it.
+        if (!root.enabled)
+            return;
         if (field === PanelModel.Field.Search)
             search.takeKeyboard();
         else if (field === PanelModel.Field.Composer)

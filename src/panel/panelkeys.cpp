@@ -11,7 +11,7 @@ namespace vesk {
 
 bool PanelModel::handleKey(const QKeyEvent &event)
 {
-    if (m_isEditing || m_isComposing)
+    if (m_isEditing || m_isComposing || m_guide.isShown())
         return false;
     if (m_activeField != Field::None && event.matches(QKeySequence::Paste)) {
         Q_EMIT fieldPasteRequested();

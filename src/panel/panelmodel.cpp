@@ -32,7 +32,9 @@ PanelModel::PanelModel(NotesStore &store, Clock &clock, Defaults &defaults, Appl
     , m_prompts(store, defaults)
     , m_cards(*this, store)
     , m_menu(this)
+    , m_guide(accessibility, defaults)
 {
+    connect(&m_menu, &PanelMenu::guideRequested, &m_guide, &Guide::show);
     connect(&accessibility, &Accessibility::trustChanged, this, &PanelModel::isTrustedChanged);
     connect(&store.notes(), &LiveQueryBase::removed, this, [this](qsizetype, const RecordId &id) {
         if (m_expanded == id)
@@ -159,8 +161,11 @@ void PanelModel::commitDraft()
 
 void PanelModel::requestField(Field field)
 {
-    if (field != Field::None)
+    if (field != Field::None) {
         Q_EMIT showRequested();
+        // What the user types next is meant for the field.
+        m_guide.setAside();
+    }
     if (m_requestedField != field) {
         m_requestedField = field;
         Q_EMIT requestedFieldChanged();
@@ -183,6 +188,7 @@ void PanelModel::prepareToShow()
 {
     setSearch({});
     m_notes.setShown(true);
+    m_guide.greet();
 }
 
 void PanelModel::becomeHidden()

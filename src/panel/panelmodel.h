@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editor/noteeditorcontroller.h"
+#include "guide/guide.h"
 #include "notes/record.h"
 #include "panel/cardactions.h"
 #include "panel/notelistmodel.h"
@@ -35,6 +36,7 @@ class PanelModel final : public QObject
     Q_PROPERTY(vesk::PromptListModel *prompts READ prompts CONSTANT)
     Q_PROPERTY(vesk::CardActions *cards READ cards CONSTANT)
     Q_PROPERTY(vesk::PanelMenu *menu READ menu CONSTANT)
+    Q_PROPERTY(vesk::Guide *guide READ guide CONSTANT)
     /// A handle on the text of the open note.
     Q_PROPERTY(vesk::NoteEditorController *editor READ editor CONSTANT)
     Q_PROPERTY(vesk::PanelModel::Tab tab READ tab WRITE setTab NOTIFY tabChanged)
@@ -101,7 +103,8 @@ public:
     void deletePrompt(Prompt &prompt);
     Q_INVOKABLE void clearDonePrompts();
 
-    /// Asks for a field, or with `None` for neither, to have the keyboard; the panel comes up for a field.
+    /// Asks for a field, or with `None` for neither, to have the keyboard; the panel comes up for a field,
+    /// without the guide.
     Q_INVOKABLE void requestField(vesk::PanelModel::Field field);
     /// Puts a text in place of the selection in the field that has the keyboard, if one has it.
     void insertIntoField(const QString &text) { Q_EMIT insertRequested(text); }
@@ -113,7 +116,8 @@ public:
     /// Has the user asked whether Vesk may read other applications.
     Q_INVOKABLE void askForTrust();
 
-    /// To be called before each show: nothing is searched for, and the day and times are of now.
+    /// To be called before each show: nothing is searched for, the day and times are of now, and a new
+    /// user is shown the guide.
     void prepareToShow();
     /// To be called when the panel has gone: no note is open, nothing is selected and no field has the
     /// keyboard.
@@ -123,6 +127,7 @@ public:
     [[nodiscard]] PromptListModel *prompts() { return &m_prompts; }
     [[nodiscard]] CardActions *cards() { return &m_cards; }
     [[nodiscard]] PanelMenu *menu() { return &m_menu; }
+    [[nodiscard]] Guide *guide() { return &m_guide; }
     [[nodiscard]] NoteEditorController *editor() { return &m_editor; }
     [[nodiscard]] Tab tab() const { return m_tab; }
     void setTab(Tab tab);
@@ -187,6 +192,7 @@ private:
     PromptListModel m_prompts;
     CardActions m_cards;
     PanelMenu m_menu;
+    Guide m_guide;
     NoteEditorController m_editor;
     Tab m_tab = Tab::Notes;
     QString m_search;

@@ -47,7 +47,7 @@ PanelWindow::PanelWindow(QQmlEngine &engine, PanelModel &model, Application &app
     m_view.resize(qRound(kPanelWidth), qRound(kDefaultPanelHeight));
     m_view.setInitialProperties(
         {{u"model"_s, QVariant::fromValue(&model)}, {u"cornerRadius"_s, kCornerRadius}});
-    m_view.setSource(QUrl(u"qrc:/qt/qml/Vesk/Panel/PanelView.qml"_s));
+    m_view.setSource(QUrl(u"qrc:/qt/qml/Vesk/Panel/PanelRoot.qml"_s));
     m_view.installEventFilter(this);
 
     m_fadeIn.setDuration(kFadeInMilliseconds);

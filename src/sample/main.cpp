@@ -109,15 +109,16 @@ int main(int argc, char *argv[])
     const QCommandLineOption pointer(u"pointer"_s, u"Where the pointer is, in the panel."_s, u"X,Y"_s);
     const QCommandLineOption click(u"click"_s, u"Where the pointer clicks, in the panel."_s, u"X,Y"_s);
     const QCommandLineOption notice(u"notice"_s, u"Shows a notice as well."_s, u"TEXT"_s);
+    const QCommandLineOption guide(u"guide"_s, u"Shows the guide, as on the first run."_s);
     const QCommandLineOption editor(u"editor"_s, u"Shows a note in the editor instead."_s);
     const QCommandLineOption quickNote(u"quick-note"_s, u"Shows the quick-note box with a draft instead."_s,
                                        u"TEXT"_s);
     const QCommandLineOption quickChecklist(u"quick-checklist"_s, u"The same for a checklist."_s, u"TEXT"_s);
     const QCommandLineOption screenshot(u"screenshot"_s, u"Writes a picture of the panel and quits."_s,
                                         u"FILE"_s);
-    options.addOptions({dark,  strong, textScale, empty,     untrusted,      composited, still,
-                        notes, search, tab,       select,    open,           draft,      pointer,
-                        click, notice, editor,    quickNote, quickChecklist, screenshot});
+    options.addOptions({dark,  strong, textScale, empty,  untrusted, composited,     still,
+                        notes, search, tab,       select, open,      draft,          pointer,
+                        click, notice, guide,     editor, quickNote, quickChecklist, screenshot});
     options.process(program);
 
     const QTemporaryDir folder;
@@ -146,6 +147,7 @@ int main(int argc, char *argv[])
     accessibility.setTrusted(!options.isSet(untrusted));
     vesk::MemoryApplication application;
     vesk::MemoryDefaults defaults;
+    defaults.setBool(!options.isSet(guide), u"hasSeenGuide"_s);
     vesk::MemoryPasteboard pasteboard;
 
     QQmlEngine engine;

@@ -37,6 +37,7 @@ struct PanelFixture
     std::unique_ptr<NotesStore> store =
         NotesStore::open(folder.filePath(QStringLiteral("Notes.store")), clock).store;
     MemoryDefaults defaults;
+    const bool hasSeenGuide = (defaults.setBool(true, QStringLiteral("hasSeenGuide")), true);
     MemoryApplication application;
     MemoryAccessibility accessibility{clock};
     MemoryAppearance appearance;
