@@ -57,8 +57,11 @@ bool MenuControl::eventFilter(QObject *watched, QEvent *event)
     case QEvent::KeyPress:
         handleKey(*static_cast<QKeyEvent *>(event));
         return true;
-    case QEvent::KeyRelease:
     case QEvent::ShortcutOverride:
+        // Keeps the key from the program's own shortcuts.
+        event->accept();
+        return true;
+    case QEvent::KeyRelease:
         return true;
     case QEvent::Hide:
     case QEvent::FocusOut:
