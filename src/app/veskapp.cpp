@@ -66,6 +66,7 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
                   .panelWindow = m_panelWindow,
                   .quickNote = m_quickNote,
                   .toast = m_toast})
+    , m_commands(m_panelWindow.window(), *m_panel.editor())
 {
     connect(&desktop.application, &Application::reopened, &m_panelWindow, &PanelWindow::showPanel);
     connect(&desktop.accessibility, &X11Accessibility::trustAsked, &m_accessWindow, &AccessWindow::show);
@@ -81,10 +82,11 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
     connect(m_panel.cards(), &CardActions::applicationRequested, &desktop.workspace,
             &Workspace::openApplication);
     connect(m_panel.menu(), &PanelMenu::accessibilitySettingsRequested, &m_accessWindow, &AccessWindow::show);
+    connect(&m_commands, &MenuCommands::chosen, this, &VeskApp::perform);
     connect(m_panel.menu(), &PanelMenu::quickNoteRequested, this,
-            [this] { m_quickNote.show(QuickNoteBox::Mode::Note); });
+            [this] { perform(MenuCommands::Command::QuickNote); });
     connect(m_panel.menu(), &PanelMenu::quickChecklistRequested, this,
-            [this] { m_quickNote.show(QuickNoteBox::Mode::Checklist); });
+            [this] { perform(MenuCommands::Command::QuickChecklist); });
     // Not quit(), which asks the windows, and the panel answers that it only hides.
     connect(m_panel.menu(), &PanelMenu::quitRequested, this, [] { QCoreApplication::exit(0); });
     connect(m_panel.menu(), &PanelMenu::updateCheckRequested, &m_updater, &AppUpdater::checkForUpdates);
@@ -94,7 +96,10 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
     m_watcher.start();
     m_services.start();
     offerCommands(desktop, store, service);
-    QTimer::singleShot(0, this, [&desktop] { desktop.workspace.warmUp(); });
+    QTimer::singleShot(0, this, [this, &desktop] {
+        desktop.workspace.warmUp();
+        offerIcon();
+    });
 }
 
 void VeskApp::offerCommands(Desktop &desktop, NotesStore &store, ApplicationService &service)
@@ -132,14 +137,53 @@ void VeskApp::offerCommands(Desktop &desktop, NotesStore &store, ApplicationServ
         });
 }
 
+void VeskApp::offerIcon()
+{
+    using Command = MenuCommands::Command;
+    const auto entry = [this](Command command) {
+        return DBusMenuEntry{.label = MenuCommands::title(command),
+                             .action = [this, command] { m_commands.perform(command); }};
+    };
+    const StatusIcon::Content content{
+        .activated = [this] { m_panelWindow.togglePanel(); },
+        .menu = {{.label = tr("Open Vesk"), .action = [this] { showPanel(); }},
+                 entry(Command::NewNote),
+                 entry(Command::QuickNote),
+                 entry(Command::QuickChecklist),
+                 {},
+                 {.label = tr("Quit"), .action = [] { QCoreApplication::exit(0); }}}};
+    m_statusIcon = std::make_unique<StatusIcon>(QDBusConnection::sessionBus(), content);
+}
+
 void VeskApp::onAction(const QString &name)
 {
     if (name == "new-note"_L1)
         write();
     else if (name == "quick-note"_L1)
-        m_quickNote.show(QuickNoteBox::Mode::Note);
+        perform(MenuCommands::Command::QuickNote);
     else
         showPanel();
+}
+
+void VeskApp::perform(MenuCommands::Command command)
+{
+    using Command = MenuCommands::Command;
+    switch (command) {
+    case Command::NewNote:
+        m_panel.requestField(PanelModel::Field::Composer);
+        return;
+    case Command::QuickNote:
+        m_quickNote.show(QuickNoteBox::Mode::Note);
+        return;
+    case Command::QuickChecklist:
+        m_quickNote.show(QuickNoteBox::Mode::Checklist);
+        return;
+    case Command::Checklist:
+    case Command::BulletedList:
+    case Command::Heading:
+        // The commands see to the text themselves.
+        return;
+    }
 }
 
 void VeskApp::write()

@@ -3,12 +3,14 @@
 
 #include "app/accesswindow.h"
 #include "app/appupdater.h"
+#include "app/menucommands.h"
 #include "capture/pasteback.h"
 #include "capture/pasteboardwatcher.h"
 #include "capture/selectionreader.h"
 #include "commands/veskservices.h"
 #include "panel/panelmodel.h"
 #include "panel/panelwindow.h"
+#include "platform/freedesktop/statusicon.h"
 #include "quicknote/quicknotepanel.h"
 #include "quicknote/toast.h"
 
@@ -16,6 +18,8 @@
 
 #include <QObject>
 #include <QQmlEngine>
+
+#include <memory>
 
 namespace vesk {
 
@@ -37,7 +41,10 @@ public:
 private:
     /// Lets other processes give the commands that the keys give.
     void offerCommands(Desktop &desktop, NotesStore &store, ApplicationService &service);
+    /// Puts Vesk among the icons of the desktop's panel.
+    void offerIcon();
     void onAction(const QString &name);
+    void perform(MenuCommands::Command command);
     void write();
     /// Reads the pasteboard for the panel's field.
     QCoro::Task<> pasteIntoField(Pasteboard &pasteboard);
@@ -53,6 +60,8 @@ private:
     AccessWindow m_accessWindow;
     AppUpdater m_updater;
     VeskServices m_services;
+    MenuCommands m_commands;
+    std::unique_ptr<StatusIcon> m_statusIcon;
 };
 
 } // namespace vesk

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#include "../panel/panelfixture.h"
+#include "app/menucommands.h"
+#include "editor/notetextview.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+
+using Command = MenuCommands::Command;
+
+/// The commands' keys in the real panel.
+class MenuCommandsTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_fixture.reset(); }
+    void formatTheOpenNote_data();
+    void formatTheOpenNote();
+    void formatWorksFromBesideTheText();
+    void formatNeedsAnOpenNoteInSight();
+    void newNoteIsTakenFromAnywhere();
+
+private:
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers) const
+    {
+        QTest::keyClick(&m_fixture->panel.window(), key, modifiers);
+    }
+    void openNote()
+    {
+        m_fixture->model.open(*m_note);
+        QTRY_VERIFY(m_fixture->model.editor()->textView());
+        m_fixture->model.editor()->forceFocus();
+    }
+
+    std::unique_ptr<PanelFixture> m_fixture;
+    Note *m_note = nullptr;
+};
+
+void MenuCommandsTest::init()
+{
+    m_fixture = std::make_unique<PanelFixture>();
+    m_fixture->appearance.setReduceMotion(true);
+    m_note = &m_fixture->addNote(u"milk"_s);
+    m_fixture->panel.showPanel();
+    QVERIFY(QTest::qWaitForWindowActive(&m_fixture->panel.window()));
+}
+
+void MenuCommandsTest::formatTheOpenNote_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("checklist") << Qt::Key_L << u"\u2610 milk"_s;
+    QTest::newRow("bullets") << Qt::Key_8 << u"\u2022 milk"_s;
+    QTest::newRow("heading") << Qt::Key_H << u"# milk"_s;
+}
+
+void MenuCommandsTest::formatTheOpenNote()
+{
+    QFETCH(Qt::Key, key);
+    QFETCH(QString, text);
+    const MenuCommands commands(m_fixture->panel.window(), *m_fixture->model.editor());
+    openNote();
+    press(key, Qt::ControlModifier | Qt::ShiftModifier);
+    QTRY_COMPARE(m_note->text(), text);
+    press(key, Qt::ControlModifier | Qt::ShiftModifier);
+    QTRY_COMPARE(m_note->text(), u"milk"_s);
+}
+
+void MenuCommandsTest::formatWorksFromBesideTheText()
+{
+    const MenuCommands commands(m_fixture->panel.window(), *m_fixture->model.editor());
+    openNote();
+    // Back to a button of the panel; what follows the note is a field, which would close it.
+    press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(m_fixture->model.editor()->textView() && !m_fixture->model.property("isEditing").toBool());
+    press(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
+    QTRY_COMPARE(m_note->text(), u"\u2610 milk"_s);
+}
+
+void MenuCommandsTest::formatNeedsAnOpenNoteInSight()
+{
+    MenuCommands commands(m_fixture->panel.window(), *m_fixture->model.editor());
+    const auto pressAll = [this] {
+        for (const Qt::Key key : {Qt::Key_L, Qt::Key_8, Qt::Key_H})
+            press(key, Qt::ControlModifier | Qt::ShiftModifier);
+    };
+    press(Qt::Key_Down, Qt::NoModifier);
+    pressAll();
+    QCOMPARE(m_note->text(), u"milk"_s);
+    openNote();
+    m_fixture->model.guide()->show();
+    pressAll();
+    commands.perform(Command::Heading);
+    QCOMPARE(m_note->text(), u"milk"_s);
+}
+
+void MenuCommandsTest::newNoteIsTakenFromAnywhere()
+{
+    const MenuCommands commands(m_fixture->panel.window(), *m_fixture->model.editor());
+    QSignalSpy chosen(&commands, &MenuCommands::chosen);
+    openNote();
+    press(Qt::Key_N, Qt::ControlModifier);
+    QCOMPARE(chosen.size(), 1);
+    QCOMPARE(chosen.first().first().value<Command>(), Command::NewNote);
+    // Another window of the program's.
+    QWindow other;
+    other.show();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QTest::keyClick(&other, Qt::Key_N, Qt::ControlModifier);
+    QCOMPARE(chosen.size(), 2);
+    QCOMPARE(m_note->text(), u"milk"_s);
+}
+
+QTEST_MAIN(MenuCommandsTest)
+#include "tst_menucommands.moc"
