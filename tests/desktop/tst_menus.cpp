@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/accessibletree.h"
+#include "desktop/desktoptest.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+
+namespace {
+
+const auto kBus = u"vesk-test-menus"_s;
+
+} // namespace
+
+/// A desktop's place for icons: what it is told goes out as a signal.
+class IconPlace : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
+
+public Q_SLOTS:
+    void RegisterStatusNotifierItem(const QString &service) { Q_EMIT registered(service); }
+
+Q_SIGNALS:
+    void registered(const QString &service);
+};
+
+/// The guide, the keys of the menus and the icon of the real program.
+class MenusTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void guideGreetsOnlyOnce();
+    void formatsByTheKeyWhateverTheLayout_data();
+    void formatsByTheKeyWhateverTheLayout();
+    void iconsMenuOpensTheBox();
+
+private:
+    [[nodiscard]] bool runToEnd(const QString &program, const QStringList &arguments)
+    {
+        const std::unique_ptr<ChildProcess> process = m_desktop->run(program, arguments);
+        return process && process->waitForExit(kBound) && process->exitCode() == 0;
+    }
+    /// Whether the panel has the keyboard now.
+    [[nodiscard]] bool openPanel()
+    {
+        if (!runToEnd(VirtualDesktop::veskProgram(), {u"toggle"_s}))
+            return false;
+        const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
+        return panel && m_desktop->windows().waitFocused(*panel, kBound);
+    }
+    [[nodiscard]] bool isGuideShown()
+    {
+        return AccessibleTree(m_desktop->busAddress()).names(m_vesk->pid()).contains(u"Welcome to Vesk"_s);
+    }
+    void type(const QList<xcb_keysym_t> &keys) { m_desktop->keyboard().tap(keys, kFinger); }
+
+    std::unique_ptr<VirtualDesktop> m_desktop;
+    std::unique_ptr<ChildProcess> m_vesk;
+};
+
+void MenusTest::init()
+{
+    QString problem;
+    m_desktop = VirtualDesktop::start(problem);
+    QVERIFY2(m_desktop, qPrintable(problem));
+}
+
+void MenusTest::cleanup()
+{
+    QDBusConnection::disconnectFromBus(kBus);
+    m_vesk.reset();
+    m_desktop.reset();
+}
+
+void MenusTest::guideGreetsOnlyOnce()
+{
+    m_vesk = m_desktop->startVesk();
+    QVERIFY(m_vesk);
+    QVERIFY(openPanel());
+    QTRY_VERIFY_WITH_TIMEOUT(isGuideShown(), 10000);
+    type({XK_Escape});
+    QTRY_VERIFY_WITH_TIMEOUT(!isGuideShown(), 10000);
+    VERIFY_ON(*m_desktop, m_desktop->windows().findViewable(kPanel));
+    QVERIFY(m_vesk->quit());
+    QVERIFY(m_desktop->readFile(u"config/Vesk/Vesk.conf"_s).contains(u"hasSeenGuide=true"_s));
+
+    m_vesk = m_desktop->startVesk();
+    QVERIFY(m_vesk);
+    QVERIFY(openPanel());
+    QTRY_VERIFY_WITH_TIMEOUT(AccessibleTree(m_desktop->busAddress()).names(m_vesk->pid()).contains(u"Menu"_s),
+                             10000);
+    QVERIFY(!isGuideShown());
+}
+
+void MenusTest::formatsByTheKeyWhateverTheLayout_data()
+{
+    QTest::addColumn<QString>("layout");
+    for (const char *layout : {"us", "de", "fr", "ru,us"})
+        QTest::newRow(layout) << QString::fromLatin1(layout);
+}
+
+void MenusTest::formatsByTheKeyWhateverTheLayout()
+{
+    QFETCH(QString, layout);
+    QVERIFY(m_desktop->prepareUser());
+    // The keys that the test presses stay those of the layout before.
+    QVERIFY(runToEnd(u"setxkbmap"_s, {layout}));
+    QVERIFY(runToEnd(VirtualDesktop::veskProgram(), {u"add"_s, u"milk"_s}));
+    m_vesk = m_desktop->startVesk();
+    QVERIFY(m_vesk);
+    QVERIFY(openPanel());
+    const QList<std::pair<xcb_keysym_t, QString>> steps{
+        {XK_8, u"\u2022 milk"_s}, {XK_h, u"# milk"_s}, {XK_l, u"\u2610 milk"_s}, {XK_l, u"milk"_s}};
+    type({XK_Down});
+    type({XK_Return});
+    for (const auto &[key, text] : steps) {
+        type({XK_Control_L, XK_Shift_L, key});
+        VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(
+                                  kBound, [&] { return m_desktop->notes().texts() == QStringList{text}; }));
+    }
+}
+
+void MenusTest::iconsMenuOpensTheBox()
+{
+    QVERIFY(m_desktop->prepareUser());
+    QDBusConnection bus = QDBusConnection::connectToBus(m_desktop->busAddress(), kBus);
+    IconPlace place;
+    QSignalSpy registered(&place, &IconPlace::registered);
+    QVERIFY(bus.registerObject(u"/StatusNotifierWatcher"_s, &place, QDBusConnection::ExportAllSlots));
+    QVERIFY(bus.registerService(u"org.kde.StatusNotifierWatcher"_s));
+    m_vesk = m_desktop->startVesk();
+    QVERIFY(m_vesk);
+    QTRY_COMPARE_WITH_TIMEOUT(registered.size(), 1, 10000);
+    const QString item = registered.first().first().toString();
+    const auto choose = [&](int line) {
+        QDBusMessage call = QDBusMessage::createMethodCall(item, u"/StatusNotifierItem/Menu"_s,
+                                                           u"com.canonical.dbusmenu"_s, u"Event"_s);
+        call.setArguments({line, u"clicked"_s, QVariant::fromValue(QDBusVariant(0)), 0U});
+        return bus.call(call).type() == QDBusMessage::ReplyMessage;
+    };
+    QVERIFY(choose(4));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kQuickChecklist, kBound));
+    QVERIFY(choose(1));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
+    QVERIFY(choose(6));
+    QVERIFY(m_vesk->waitForExit(kBound));
+    QCOMPARE(m_vesk->exitCode(), 0);
+}
+
+int main(int argc, char **argv)
+{
+    return runDesktopTest<MenusTest>(argc, argv);
+}
+
+#include "tst_menus.moc"
