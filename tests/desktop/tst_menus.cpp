@@ -26,7 +26,7 @@ public Q_SLOTS:
     void RegisterStatusNotifierItem(const QString &service) { Q_EMIT registered(service); }
 
 Q_SIGNALS:
-    void registered(const QString &service);
+    void registered(const QString &);
 };
 
 /// The guide, the keys of the menus and the icon of the real program.

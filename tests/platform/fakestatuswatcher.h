@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QStringList>
 
+#include <utility>
+
 namespace vesk {
 
 /// The place for icons of a desktop's panel, on a bus of the test's own.
@@ -16,8 +18,8 @@ class FakeStatusWatcher final : public QObject, protected QDBusContext
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
 
 public:
-    explicit FakeStatusWatcher(const QDBusConnection &bus)
-        : m_bus(bus)
+    explicit FakeStatusWatcher(QDBusConnection bus)
+        : m_bus(std::move(bus))
     {
         m_bus.registerObject(QStringLiteral("/StatusNotifierWatcher"), this, QDBusConnection::ExportAllSlots);
         m_bus.registerService(QStringLiteral("org.kde.StatusNotifierWatcher"));
