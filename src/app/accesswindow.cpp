@@ -27,9 +27,13 @@ AccessWindow::AccessWindow(QQmlEngine &engine, Consent &consent)
 {
     connect(&m_window, &MessageWindow::accepted, this, [this, &consent] {
         consent.setGiven(true);
+        Q_EMIT answered();
         m_window.hide();
     });
-    connect(&m_window, &MessageWindow::rejected, this, [this] { m_window.hide(); });
+    connect(&m_window, &MessageWindow::rejected, this, [this] {
+        Q_EMIT answered();
+        m_window.hide();
+    });
 }
 
 } // namespace vesk

@@ -22,6 +22,10 @@ public:
 
     void show() { m_window.show(); }
 
+Q_SIGNALS:
+    /// The user has answered, either way; the window is about to go.
+    void answered();
+
 private:
     MessageWindow m_window;
 };

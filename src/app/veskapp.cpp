@@ -70,6 +70,11 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
 {
     connect(&desktop.application, &Application::reopened, &m_panelWindow, &PanelWindow::showPanel);
     connect(&desktop.accessibility, &X11Accessibility::trustAsked, &m_accessWindow, &AccessWindow::show);
+    // Else the keyboard would go on to another application, and the panel, which was asked from, away.
+    connect(&m_accessWindow, &AccessWindow::answered, this, [this, &desktop] {
+        if (m_panelWindow.isShown())
+            desktop.application.activate(m_panelWindow.window());
+    });
     connect(desktop.x11.get(), &X11Connection::lost, this, [] { QCoreApplication::exit(1); });
     connect(&m_panel, &PanelModel::pasteRequested, &m_pasteBack, &PasteBack::pasteIntoPreviousApp);
     connect(&m_panel, &PanelModel::fieldPasteRequested, this,

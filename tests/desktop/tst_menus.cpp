@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/accessibletree.h"
 #include "desktop/desktoptest.h"
+#include "platform/fakestatuswatcher.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
-#include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
 using namespace vesk;
@@ -16,19 +16,6 @@ const auto kBus = u"vesk-test-menus"_s;
 
 } // namespace
 
-/// A desktop's place for icons: what it is told goes out as a signal.
-class IconPlace : public QObject
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
-
-public Q_SLOTS:
-    void RegisterStatusNotifierItem(const QString &service) { Q_EMIT registered(service); }
-
-Q_SIGNALS:
-    void registered(const QString &);
-};
-
 /// The guide, the keys of the menus and the icon of the real program.
 class MenusTest : public QObject
 {
@@ -38,6 +25,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void guideGreetsOnlyOnce();
+    void guideStaysForTheAnswer();
     void formatsByTheKeyWhateverTheLayout_data();
     void formatsByTheKeyWhateverTheLayout();
     void iconsMenuOpensTheBox();
@@ -56,10 +44,12 @@ private:
         const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
         return panel && m_desktop->windows().waitFocused(*panel, kBound);
     }
-    [[nodiscard]] bool isGuideShown()
+    /// Whether Vesk tells a screen reader of this.
+    [[nodiscard]] bool tells(const QString &name)
     {
-        return AccessibleTree(m_desktop->busAddress()).names(m_vesk->pid()).contains(u"Welcome to Vesk"_s);
+        return AccessibleTree(m_desktop->busAddress()).names(m_vesk->pid()).contains(name);
     }
+    [[nodiscard]] bool isGuideShown() { return tells(u"Welcome to Vesk"_s); }
     void type(const QList<xcb_keysym_t> &keys) { m_desktop->keyboard().tap(keys, kFinger); }
 
     std::unique_ptr<VirtualDesktop> m_desktop;
@@ -95,9 +85,30 @@ void MenusTest::guideGreetsOnlyOnce()
     m_vesk = m_desktop->startVesk();
     QVERIFY(m_vesk);
     QVERIFY(openPanel());
-    QTRY_VERIFY_WITH_TIMEOUT(AccessibleTree(m_desktop->busAddress()).names(m_vesk->pid()).contains(u"Menu"_s),
-                             10000);
+    QTRY_VERIFY_WITH_TIMEOUT(tells(u"Menu"_s), 10000);
     QVERIFY(!isGuideShown());
+}
+
+void MenusTest::guideStaysForTheAnswer()
+{
+    // The application that would get the keyboard when the question has gone.
+    const std::unique_ptr<TextEditor> editor = TextEditor::open(*m_desktop, {u"line"_s});
+    VERIFY_ON(*m_desktop, editor);
+    m_vesk = m_desktop->startVesk();
+    QVERIFY(m_vesk);
+    QVERIFY(openPanel());
+    QTRY_VERIFY_WITH_TIMEOUT(tells(u"Needs Accessibility access"_s), 10000);
+    type({XK_Tab});
+    type({XK_Return});
+    const auto title = u"Vesk: Let Vesk read what you select?"_s;
+    const std::optional<Window> question = m_desktop->windows().waitViewable(title, kBound);
+    VERIFY_ON(*m_desktop, question && m_desktop->windows().waitFocused(*question, kBound));
+    type({XK_Tab});
+    type({XK_Return});
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(title, kBound));
+    QTRY_VERIFY_WITH_TIMEOUT(tells(u"Accessibility access allowed"_s), 10000);
+    const std::optional<Window> panel = m_desktop->windows().findViewable(kPanel);
+    VERIFY_ON(*m_desktop, panel && m_desktop->windows().waitFocused(*panel, kBound));
 }
 
 void MenusTest::formatsByTheKeyWhateverTheLayout_data()
@@ -132,14 +143,11 @@ void MenusTest::iconsMenuOpensTheBox()
 {
     QVERIFY(m_desktop->prepareUser());
     QDBusConnection bus = QDBusConnection::connectToBus(m_desktop->busAddress(), kBus);
-    IconPlace place;
-    QSignalSpy registered(&place, &IconPlace::registered);
-    QVERIFY(bus.registerObject(u"/StatusNotifierWatcher"_s, &place, QDBusConnection::ExportAllSlots));
-    QVERIFY(bus.registerService(u"org.kde.StatusNotifierWatcher"_s));
+    const FakeStatusWatcher place(bus);
     m_vesk = m_desktop->startVesk();
     QVERIFY(m_vesk);
-    QTRY_COMPARE_WITH_TIMEOUT(registered.size(), 1, 10000);
-    const QString item = registered.first().first().toString();
+    QTRY_COMPARE_WITH_TIMEOUT(place.items().size(), 1, 10000);
+    const QString item = place.items().first();
     const auto choose = [&](int line) {
         QDBusMessage call = QDBusMessage::createMethodCall(item, u"/StatusNotifierItem/Menu"_s,
                                                            u"com.canonical.dbusmenu"_s, u"Event"_s);
