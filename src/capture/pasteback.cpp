@@ -11,6 +11,8 @@
 #include <QCoreApplication>
 #include <QPointer>
 
+#include <functional>
+
 namespace vesk {
 
 using namespace std::chrono_literals;
@@ -42,24 +44,34 @@ QCoro::Task<> PasteBack::pasteWhenAway()
     const QPointer<PasteBack> self(this);
     const Needs needs = m_needs;
     const int paste = ++m_paste;
-    for (int waits = 0; waits < kAwayWaits && isFrontmost(); ++waits) {
+    bool isBack = isAway();
+    for (int waits = 0; waits < kAwayWaits && !isBack; ++waits) {
         co_await needs.clock.sleep(kAwayPeriod);
         if (self.isNull() || m_paste != paste)
             co_return;
+        isBack = isAway();
     }
     co_await needs.clock.sleep(kSettling);
-    // The user may have come back meanwhile, or nobody took the keyboard: the text is on the
-    // pasteboard, and pasting it into Vesk itself would change a note.
-    if (self.isNull() || m_paste != paste || isFrontmost())
+    if (self.isNull() || m_paste != paste)
         co_return;
+    // The user may come to Vesk again, or go elsewhere from where the text was to go. It is on the
+    // pasteboard; pasted into Vesk itself it would change a note.
+    const std::function<bool()> isWanted = [self, paste, isBack] {
+        return !self.isNull() && self->m_paste == paste && (isBack ? self->isAway() : !self->isFrontmost());
+    };
     // Where the keys are refused the text is still on the pasteboard, for the user to paste.
-    co_await needs.poster.post(EventPoster::Command::Paste);
+    co_await needs.poster.post(EventPoster::Command::Paste, isWanted);
 }
 
 bool PasteBack::isFrontmost() const
 {
     const std::optional<RunningApplication> frontmost = m_needs.workspace.frontmostApplication();
     return frontmost && frontmost->processIdentifier == QCoreApplication::applicationPid();
+}
+
+bool PasteBack::isAway() const
+{
+    return m_needs.application.isAway() && !isFrontmost();
 }
 
 } // namespace vesk

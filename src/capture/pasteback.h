@@ -35,13 +35,15 @@ public:
     explicit PasteBack(const Needs &needs);
 
     /// Puts `text` on the pasteboard, where it stays, hides this program and returns; pastes as soon
-    /// as another application is frontmost. Nothing is pasted if none comes forward within 1 second,
-    /// nor into this program. A second call replaces one that still waits.
+    /// as the window that the user came from has the keyboard again. If it does not get it within 1
+    /// second, pastes into whatever application is frontmost then; never into this program, and not
+    /// where the text would be taken for a password. A second call replaces one that still waits.
     void pasteIntoPreviousApp(const QString &text);
 
 private:
     QCoro::Task<> pasteWhenAway();
     [[nodiscard]] bool isFrontmost() const;
+    [[nodiscard]] bool isAway() const;
 
     Needs m_needs;
     /// Counts the calls, so that one that waits knows whether it still is the last.

@@ -10,6 +10,8 @@
 #include <QCoreApplication>
 #include <QPointer>
 
+#include <functional>
+
 namespace vesk {
 
 using namespace std::chrono_literals;
@@ -18,28 +20,27 @@ namespace {
 
 constexpr auto kCopyPeriod = 25ms;
 constexpr int kCopyWaits = 20;
-/// An application that hung when it was asked to copy does so when it goes on.
+/// How long after the keys were sent an application may say that it was told to copy; they are in its
+/// queue at once.
+constexpr auto kAsked = 100ms;
+/// An application that hung when it was asked to copy does so when it goes on. Within this time, if the
+/// user does nothing, a copy that tells nothing of itself is taken for that.
 constexpr auto kLateCopy = 10s;
+/// What is saved may be large.
+constexpr auto kForgotten = 5min;
 
 } // namespace
 
 SyntheticCopy::SyntheticCopy(const Needs &needs)
     : m_needs(needs)
 {
-    connect(&needs.watcher, &PasteboardWatcher::changed, this, [this] {
-        if (!m_late)
-            return;
-        const Saved saved = *m_late;
-        m_late.reset();
-        undoLateCopy(saved);
-    });
-    // A change after something that the user did may be a copy of the user's own.
-    connect(&needs.tap, &EventTap::keyDown, this, [this] { m_late.reset(); });
+    connect(&needs.watcher, &PasteboardWatcher::changed, this, &SyntheticCopy::onChanged);
+    connect(&needs.tap, &EventTap::keyDown, this, &SyntheticCopy::setUserBusy);
     connect(&needs.workspace, &Workspace::didActivateApplication, this,
             [this](const RunningApplication &application) {
                 // Vesk comes forward by itself where nothing was selected.
                 if (application.processIdentifier != QCoreApplication::applicationPid())
-                    m_late.reset();
+                    setUserBusy();
             });
 }
 
@@ -64,26 +65,49 @@ QCoro::Task<std::optional<QString>> SyntheticCopy::copyAndRestore()
 {
     const QPointer<SyntheticCopy> self(this);
     Pasteboard &pasteboard = m_needs.pasteboard;
-    Saved saved{.items = {}, .standing = m_needs.watcher.standing()};
+    const std::optional<RunningApplication> target = m_needs.workspace.frontmostApplication();
     const qint64 before = pasteboard.changeCount();
-    saved.items = co_await pasteboard.pasteboardItems();
-    // Someone copies at this very moment; what is saved is of no use, and that copy is the newest.
-    if (self.isNull() || pasteboard.changeCount() != before)
+    const std::optional<Saved> saved = co_await save();
+    if (self.isNull() || !saved)
         co_return std::nullopt;
-    // A password, or the content of an application that hangs, could not be put back.
-    if (saved.items.isEmpty() && pasteboard.hasContents())
-        co_return std::nullopt;
-    const bool isPosted = co_await m_needs.poster.post(EventPoster::Command::Copy);
+    // While a key is still held the user may copy something, by the mouse or elsewhere. That is newer
+    // than what was selected, and the application's copy would take it away.
+    const std::function<bool()> isWanted = [self, before] {
+        return !self.isNull() && self->m_needs.pasteboard.changeCount() == before;
+    };
+    const bool isPosted = co_await m_needs.poster.post(EventPoster::Command::Copy, isWanted);
     if (self.isNull() || !isPosted)
         co_return std::nullopt;
-    for (int waits = 0; waits < kCopyWaits && pasteboard.changeCount() == before; ++waits) {
+    Request request{.processIdentifier = std::nullopt, .at = m_needs.clock.monotonic()};
+    if (target)
+        request.processIdentifier = target->processIdentifier;
+    co_return co_await takeAnswer(request, *saved);
+}
+
+QCoro::Task<std::optional<QString>> SyntheticCopy::takeAnswer(Request request, Saved saved)
+{
+    const QPointer<SyntheticCopy> self(this);
+    Pasteboard &pasteboard = m_needs.pasteboard;
+    qint64 seen = saved.changeCount;
+    for (int waits = 0;; ++waits) {
+        if (pasteboard.changeCount() != seen && authorOf(request) != Author::Another)
+            co_return co_await takeCopy(saved);
+        if (pasteboard.changeCount() != seen) {
+            // The user's own copy from elsewhere; it is what the user has now.
+            seen = pasteboard.changeCount();
+            const std::optional<Saved> newer = co_await save();
+            if (self.isNull())
+                co_return std::nullopt;
+            if (newer)
+                saved = *newer;
+        }
+        if (waits == kCopyWaits)
+            break;
         co_await m_needs.clock.sleep(kCopyPeriod);
         if (self.isNull())
             co_return std::nullopt;
     }
-    if (pasteboard.changeCount() != before)
-        co_return co_await takeCopy(saved);
-    awaitLateCopy(saved);
+    awaitLateCopy({.request = request, .saved = saved, .isUserBusy = false});
     co_return std::nullopt;
 }
 
@@ -104,39 +128,110 @@ QCoro::Task<std::optional<QString>> SyntheticCopy::takeCopy(Saved saved)
     co_return text;
 }
 
+QCoro::Task<std::optional<SyntheticCopy::Saved>> SyntheticCopy::save()
+{
+    const QPointer<SyntheticCopy> self(this);
+    Pasteboard &pasteboard = m_needs.pasteboard;
+    Saved saved{.items = {}, .standing = m_needs.watcher.standing(), .changeCount = pasteboard.changeCount()};
+    saved.items = co_await pasteboard.pasteboardItems();
+    // Someone copies at this very moment; what is saved is of no use, and that copy is the newest.
+    if (self.isNull() || pasteboard.changeCount() != saved.changeCount)
+        co_return std::nullopt;
+    // A password, or the content of an application that hangs, could not be put back.
+    if (saved.items.isEmpty() && pasteboard.hasContents())
+        co_return std::nullopt;
+    co_return std::move(saved);
+}
+
 void SyntheticCopy::restore(const Saved &saved)
 {
     m_needs.pasteboard.writeObjects(saved.items);
     m_needs.watcher.markRestored(saved.standing);
 }
 
-void SyntheticCopy::awaitLateCopy(const Saved &saved)
+SyntheticCopy::Author SyntheticCopy::authorOf(const Request &request) const
+{
+    const Pasteboard::Origin origin = m_needs.pasteboard.origin();
+    if (origin.processIdentifier && request.processIdentifier
+        && origin.processIdentifier != request.processIdentifier)
+        return Author::Another;
+    const bool isAsked = origin.delay && m_needs.clock.monotonic() - *origin.delay <= request.at + kAsked;
+    return isAsked ? Author::Asked : Author::Unclear;
+}
+
+void SyntheticCopy::awaitLateCopy(const Late &late)
 {
     // Where keys are not heard, a late copy cannot be told from the user's own, which must not be
     // undone.
     if (!m_needs.tap.start())
         return;
-    m_late = saved;
+    m_late = late;
     stopAwaitingLater();
+}
+
+void SyntheticCopy::onChanged()
+{
+    if (!m_late)
+        return;
+    const Author author = authorOf(m_late->request);
+    if (author == Author::Another) {
+        saveAgain();
+        return;
+    }
+    const Late late = *m_late;
+    m_late.reset();
+    // A change after something that the user did may be a copy of the user's own.
+    if (author == Author::Asked || !late.isUserBusy)
+        undoLateCopy(late);
+}
+
+void SyntheticCopy::setUserBusy()
+{
+    if (m_late)
+        m_late->isUserBusy = true;
 }
 
 QCoro::Task<> SyntheticCopy::stopAwaitingLater()
 {
     const QPointer<SyntheticCopy> self(this);
+    Clock *const clock = &m_needs.clock;
     const int wait = ++m_lateWait;
-    co_await m_needs.clock.sleep(kLateCopy);
+    co_await clock->sleep(kLateCopy);
+    if (self.isNull() || m_lateWait != wait)
+        co_return;
+    setUserBusy();
+    co_await clock->sleep(kForgotten);
     if (!self.isNull() && m_lateWait == wait)
         m_late.reset();
 }
 
-QCoro::Task<> SyntheticCopy::undoLateCopy(Saved saved)
+QCoro::Task<> SyntheticCopy::saveAgain()
+{
+    const QPointer<SyntheticCopy> self(this);
+    const int wait = m_lateWait;
+    const qint64 changeCount = m_needs.pasteboard.changeCount();
+    // Time for whoever has written to say that it was Vesk.
+    co_await m_needs.clock.sleep(kCopyPeriod);
+    if (self.isNull())
+        co_return;
+    const std::optional<Saved> newer = co_await save();
+    if (self.isNull() || !m_late || m_lateWait != wait)
+        co_return;
+    if (newer)
+        m_late->saved = *newer;
+    else if (m_needs.pasteboard.changeCount() == changeCount)
+        m_late.reset(); // What cannot be saved cannot be put back.
+}
+
+QCoro::Task<> SyntheticCopy::undoLateCopy(Late late)
 {
     const QPointer<SyntheticCopy> self(this);
     // Time for whoever has written to say that it was Vesk, and for a second announcement.
     co_await m_needs.clock.sleep(kCopyPeriod);
-    if (self.isNull() || m_isCopying || m_needs.watcher.standing().isOwn)
+    if (self.isNull() || m_isCopying || m_needs.watcher.standing().isOwn
+        || authorOf(late.request) == Author::Another)
         co_return;
-    restore(saved);
+    restore(late.saved);
 }
 
 } // namespace vesk

@@ -39,31 +39,63 @@ public:
     explicit SyntheticCopy(const Needs &needs);
 
     /// The text that the application copies, without white space at its ends. None if it copies
-    /// nothing within 0.5 seconds, no text or only white space, if the keys cannot be posted, or if
-    /// an earlier question is not answered yet. The pasteboard then has what it had before, unless
-    /// the user has copied something meanwhile.
+    /// nothing within 0.5 seconds, no text or only white space, if the keys cannot be posted, if the
+    /// user copies something before they are, or if an earlier question is not answered yet. The
+    /// pasteboard then has what it had before, or what the user has copied meanwhile.
     QCoro::Task<std::optional<QString>> copySelection();
 
 private:
-    /// What the user had on the pasteboard.
+    /// What the user has on the pasteboard.
     struct Saved
     {
         QList<PasteboardItem> items;
         PasteboardWatcher::Standing standing;
+        qint64 changeCount = 0;
+    };
+    /// The keys that were sent.
+    struct Request
+    {
+        std::optional<qint64> processIdentifier;
+        /// By the monotonic clock.
+        std::chrono::microseconds at{0};
+    };
+    /// Whose a change of the pasteboard is.
+    enum class Author {
+        /// The application's, by our keys.
+        Asked,
+        /// The application's perhaps; or the platform cannot tell.
+        Unclear,
+        /// Not the application's.
+        Another,
+    };
+    /// A request that the application has not answered in time.
+    struct Late
+    {
+        Request request;
+        Saved saved;
+        /// The user has done something since by which the application may have been told to copy.
+        bool isUserBusy = false;
     };
 
     QCoro::Task<std::optional<QString>> copyAndRestore();
+    QCoro::Task<std::optional<QString>> takeAnswer(Request request, Saved saved);
     QCoro::Task<std::optional<QString>> takeCopy(Saved saved);
+    /// What is on the pasteboard; none if it changes meanwhile or could not be put back.
+    QCoro::Task<std::optional<Saved>> save();
     void restore(const Saved &saved);
+    [[nodiscard]] Author authorOf(const Request &request) const;
 
-    void awaitLateCopy(const Saved &saved);
+    void awaitLateCopy(const Late &late);
+    void onChanged();
+    void setUserBusy();
     QCoro::Task<> stopAwaitingLater();
-    QCoro::Task<> undoLateCopy(Saved saved);
+    QCoro::Task<> saveAgain();
+    QCoro::Task<> undoLateCopy(Late late);
 
     Needs m_needs;
     bool m_isCopying = false;
     /// What is to be put back if the application still copies, after nobody waits for it any more.
-    std::optional<Saved> m_late;
+    std::optional<Late> m_late;
     /// Counts the waits for a late copy.
     int m_lateWait = 0;
 };

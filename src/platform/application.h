@@ -23,6 +23,10 @@ public:
     /// back to the window that had it before `activate`. Does nothing if already hidden.
     virtual void hide() = 0;
 
+    /// Whether what `hide` began is done: the window that had the keyboard before `activate` has it
+    /// again or, where there is no such window any more, another application has it.
+    [[nodiscard]] virtual bool isAway() const = 0;
+
     /// Ends the hidden state, without showing any window by itself.
     virtual void unhide() = 0;
 

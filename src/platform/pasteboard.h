@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QString>
 
+#include <chrono>
 #include <optional>
 
 namespace vesk {
@@ -30,11 +31,24 @@ class Pasteboard : public QObject
     Q_OBJECT
 
 public:
+    /// Where a content comes from, as far as the platform can tell.
+    struct Origin
+    {
+        /// The process that put it there.
+        std::optional<qint64> processIdentifier;
+        /// How long before the change was made the user had asked for it, by that process's word: an
+        /// application that hung makes a copy later than it was told to.
+        std::optional<std::chrono::milliseconds> delay;
+    };
+
     /// Rises with every change of the content, whoever made it, this program included.
     [[nodiscard]] virtual qint64 changeCount() const = 0;
 
     /// Whether there is anything on the pasteboard, readable or not. Read at the call.
     [[nodiscard]] virtual bool hasContents() const = 0;
+
+    /// Where the content came from that the last change brought.
+    [[nodiscard]] virtual Origin origin() const = 0;
 
     /// Everything on the pasteboard. Representations whose owner does not deliver them are left out;
     /// an empty pasteboard gives an empty list, and so does content that is declared secret or whose

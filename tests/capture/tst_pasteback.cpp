@@ -58,6 +58,8 @@ class TestPasteBack : public QObject
 private Q_SLOTS:
     void pastesOnceAnotherApplicationIsFrontmost();
     void pastedTextIsNotARecentCopy();
+    void windowThatTheUserLeftIsWaitedFor();
+    void nothingIsPastedWhereTheUserWentMeanwhile();
     void nothingIsPastedIntoVesk_data();
     void nothingIsPastedIntoVesk();
     void twoTextsInARowAreNotPastedTwice();
@@ -87,6 +89,35 @@ void TestPasteBack::pastedTextIsNotARecentCopy()
     world.bringForward(4711);
     world.clock.advance(1s);
     QCOMPARE(QCoro::waitFor(world.watcher.recentCopy(8s)), std::optional<QString>());
+}
+
+/// Another window of the desktop may have the keyboard for a moment, or for good.
+void TestPasteBack::windowThatTheUserLeftIsWaitedFor()
+{
+    for (const bool comes : {true, false}) {
+        World world;
+        world.application.setAway(false);
+        world.pasteBack->pasteIntoPreviousApp(u"text"_s);
+        world.bringForward(4711);
+        world.clock.advance(500ms);
+        world.application.setAway(comes);
+        world.clock.advance(85ms);
+        QCOMPARE(world.poster.posted().size(), comes ? 1 : 0);
+        world.clock.advance(475ms);
+        QCOMPARE(world.poster.posted().size(), 1);
+    }
+}
+
+void TestPasteBack::nothingIsPastedWhereTheUserWentMeanwhile()
+{
+    World world;
+    world.poster.setDelay(world.clock, 50ms);
+    world.pasteBack->pasteIntoPreviousApp(u"text"_s);
+    world.bringForward(4711);
+    world.clock.advance(90ms);
+    world.application.setAway(false);
+    world.clock.advance(5s);
+    QVERIFY(world.poster.posted().isEmpty());
 }
 
 void TestPasteBack::nothingIsPastedIntoVesk_data()

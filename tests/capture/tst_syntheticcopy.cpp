@@ -70,6 +70,11 @@ struct World
     }
 };
 
+Pasteboard::Origin by(qint64 process, std::optional<std::chrono::milliseconds> delay = {})
+{
+    return {.processIdentifier = process, .delay = delay};
+}
+
 /// Something that happens after the application has ignored the keys.
 using Event = std::function<void(World &)>;
 
@@ -92,6 +97,9 @@ private Q_SLOTS:
     void refusedKeysAreNotWaitedFor();
     void userCopiesBeforeTheRestore();
     void copyAnnouncedTwiceIsRestored();
+    void copyDuringTheWaitForTheKeysIsTheUsers();
+    void copyFromElsewhereIsNotTheAnswer();
+    void lateCopyBringsBackTheNewest();
     void secondQuestionMeanwhileIsRefused();
     void lateCopy_data();
     void lateCopy();
@@ -228,6 +236,59 @@ void TestSyntheticCopy::copyAnnouncedTwiceIsRestored()
     QCOMPARE(world.pasteboard.items(), world.users);
 }
 
+void TestSyntheticCopy::copyDuringTheWaitForTheKeysIsTheUsers()
+{
+    World world;
+    world.poster.setDelay(world.clock, 600ms);
+    world.ask();
+    world.clock.advance(300ms);
+    world.pasteboard.setString(u"the user's"_s);
+    const QList<PasteboardItem> copied = world.pasteboard.items();
+    world.clock.advance(5s);
+    QVERIFY(world.isAnswered);
+    QVERIFY(!world.answer);
+    QVERIFY(world.poster.posted().isEmpty());
+    QCOMPARE(world.pasteboard.items(), copied);
+}
+
+void TestSyntheticCopy::copyFromElsewhereIsNotTheAnswer()
+{
+    World world;
+    world.ask();
+    world.pasteboard.setOrigin(by(1));
+    world.pasteboard.setString(u"the user's"_s);
+    const QList<PasteboardItem> copied = world.pasteboard.items();
+    world.clock.advance(100ms);
+    QVERIFY(!world.isAnswered);
+    world.pasteboard.setOrigin(by(4711));
+    world.pasteboard.setString(u"word"_s);
+    world.clock.advance(1s);
+    QCOMPARE(world.answer, u"word"_s);
+    QCOMPARE(world.pasteboard.items(), copied);
+}
+
+/// The application hung for long, and the user has gone on in others.
+void TestSyntheticCopy::lateCopyBringsBackTheNewest()
+{
+    World world;
+    world.ask();
+    world.clock.advance(1s);
+    world.bringForward(1);
+    world.tap.press();
+    world.pasteboard.setOrigin(by(1, 0ms));
+    world.pasteboard.setString(u"the user's"_s);
+    const QList<PasteboardItem> copied = world.pasteboard.items();
+    world.clock.advance(2min);
+    world.pasteboard.setOrigin(by(4711, 121s));
+    world.pasteboard.setString(u"late"_s);
+    world.clock.advance(1s);
+    QCOMPARE(world.pasteboard.items(), copied);
+
+    world.pasteboard.setString(u"once more"_s);
+    world.clock.advance(1s);
+    QVERIFY(world.pasteboard.items() != copied);
+}
+
 void TestSyntheticCopy::secondQuestionMeanwhileIsRefused()
 {
     World world;
@@ -252,6 +313,14 @@ void TestSyntheticCopy::lateCopy_data()
         << Event([](World &world) { world.bringForward(QCoreApplication::applicationPid()); }) << true;
     QTest::newRow("user typed a key") << Event([](World &world) { world.tap.press(); }) << false;
     QTest::newRow("user went elsewhere") << Event([](World &world) { world.bringForward(1); }) << false;
+    QTest::newRow("user copies there by a key") << Event([](World &world) {
+        world.tap.press();
+        world.pasteboard.setOrigin(by(4711, 0ms));
+    }) << false;
+    QTest::newRow("it says that it was told long ago") << Event([](World &world) {
+        world.tap.press();
+        world.pasteboard.setOrigin(by(4711, 1s));
+    }) << true;
     QTest::newRow("after 10 seconds") << Event([](World &world) { world.clock.advance(10s); }) << false;
     QTest::newRow("after an earlier one") << Event([](World &world) {
         world.pasteboard.setString(u"late"_s);

@@ -10,6 +10,8 @@
 
 #include <QCoroTask>
 
+#include <csignal>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
@@ -28,6 +30,7 @@ private Q_SLOTS:
     void heldLetterIsWaitedFor();
     void letterThatStaysDownIsGivenUp();
     void terminalGetsNoCopy();
+    void hungApplicationIsNotAskedToCopyLater();
 
 private:
     std::unique_ptr<VirtualDesktop> m_desktop;
@@ -94,7 +97,7 @@ void TestEventPoster::takersAreTold()
 void TestEventPoster::copyReachesAnEditor()
 {
     VERIFY_ON(*m_desktop, m_editor->selectLine(0));
-    QVERIFY(QCoro::waitFor(m_poster->post(EventPoster::Command::Copy)));
+    QVERIFY(QCoro::waitFor(m_poster->post(EventPoster::Command::Copy, [] { return true; })));
     VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [this] {
         return m_desktop->display().readSelection("CLIPBOARD", 1s) == m_lines.at(0);
     }));
@@ -107,8 +110,9 @@ void TestEventPoster::heldLetterIsWaitedFor()
     for (const xcb_keysym_t key : {XK_Super_L, XK_Alt_L, XK_n})
         keyboard.press(key);
     std::optional<bool> isPosted;
-    const auto task =
-        m_poster->post(EventPoster::Command::Copy).then([&](bool posted) { isPosted = posted; });
+    const auto task = m_poster->post(EventPoster::Command::Copy, [] { return true; }).then([&](bool posted) {
+        isPosted = posted;
+    });
     QTest::qWait(200);
     QVERIFY(!isPosted);
     keyboard.release(XK_n); // The modifiers stay down.
@@ -127,7 +131,7 @@ void TestEventPoster::letterThatStaysDownIsGivenUp()
     const QList<xcb_keysym_t> keys{XK_Super_L, XK_Alt_L, XK_n};
     for (const xcb_keysym_t key : keys)
         m_desktop->keyboard().press(key);
-    QVERIFY(!QCoro::waitFor(m_poster->post(EventPoster::Command::Copy)));
+    QVERIFY(!QCoro::waitFor(m_poster->post(EventPoster::Command::Copy, [] { return true; })));
     for (const xcb_keysym_t key : keys)
         m_desktop->keyboard().release(key);
 }
@@ -139,9 +143,23 @@ void TestEventPoster::terminalGetsNoCopy()
     const std::optional<Window> window = m_desktop->windows().waitViewableOf(terminal->pid(), {}, kBound);
     VERIFY_ON(*m_desktop, window);
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(*window, kBound));
-    QVERIFY(!QCoro::waitFor(m_poster->post(EventPoster::Command::Copy)));
+    QVERIFY(!QCoro::waitFor(m_poster->post(EventPoster::Command::Copy, [] { return true; })));
     QTest::qWait(100);
     QVERIFY(terminal->isRunning());
+}
+
+void TestEventPoster::hungApplicationIsNotAskedToCopyLater()
+{
+    m_desktop->windows().activate(m_editor->window());
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    m_editor->process().signal(SIGSTOP);
+    const bool isPosted = QCoro::waitFor(m_poster->post(EventPoster::Command::Copy, [] { return true; }));
+    m_editor->process().signal(SIGCONT);
+    QVERIFY(!isPosted);
+    // It answers again, and has done by then whatever it was told before.
+    QCOMPARE(m_editor->text(), m_lines.join(u'\n') + u'\n');
+    QCOMPARE(m_desktop->display().readSelection("CLIPBOARD", 1s), m_lines.at(1));
 }
 
 int main(int argc, char **argv)

@@ -19,6 +19,7 @@
 #include <tuple>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using namespace vesk;
 
 namespace {
@@ -128,6 +129,7 @@ private Q_SLOTS:
     void twentyMegabytesReachSeveralReaders();
     void readerThatGoesHalfwayHarmsNobody();
     void changeBeforeOwnWriteIsNotCountedAfterIt();
+    void originTellsHowLongAgoTheUserCopied();
     void silentOwnerIsAskedOnce();
     void secretIsNotEvenRead();
     void lostSelectionIsNotServed();
@@ -295,6 +297,34 @@ void TestPasteboard::changeBeforeOwnWriteIsNotCountedAfterIt()
     vesk.catchUp();
     QCOMPARE(vesk.pasteboard.changeCount(), own);
     QVERIFY(QCoro::waitFor(other.pasteboard.string()) == std::optional(u"own"_s));
+}
+
+/// An application that hung claims the clipboard with the time of the key that told it to.
+void TestPasteboard::originTellsHowLongAgoTheUserCopied()
+{
+    Program vesk;
+    Program other;
+    other.pasteboard.setString(u"theirs"_s);
+    other.catchUp();
+    vesk.catchUp();
+    QCOMPARE(vesk.pasteboard.origin().delay, 0ms);
+    QCOMPARE(vesk.pasteboard.origin().processIdentifier, QCoreApplication::applicationPid());
+
+    const X11Connection &connection = *other.connection;
+    xcb_timestamp_t pressed = 0;
+    connect(&connection, &X11Connection::eventReceived, this, [&](const xcb_generic_event_t *event) {
+        if ((event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY)
+            pressed = reinterpret_cast<const xcb_property_notify_event_t *>(event)->time;
+    });
+    xcb_change_property(connection.xcb(), XCB_PROP_MODE_REPLACE, connection.window(), connection.atom("NOW"),
+                        XCB_ATOM_INTEGER, 8, 0, nullptr);
+    other.catchUp();
+    QVERIFY(pressed != 0);
+    QTest::qWait(60);
+    xcb_set_selection_owner(connection.xcb(), connection.window(), connection.atom("CLIPBOARD"), pressed);
+    other.catchUp();
+    vesk.catchUp();
+    QVERIFY(vesk.pasteboard.origin().delay >= 60ms);
 }
 
 void TestPasteboard::silentOwnerIsAskedOnce()

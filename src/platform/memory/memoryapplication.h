@@ -18,6 +18,7 @@ public:
     [[nodiscard]] bool isActive() const override { return m_isActive; }
     [[nodiscard]] bool isHidden() const override { return m_isHidden; }
     void hide() override;
+    [[nodiscard]] bool isAway() const override { return m_isAway; }
     void unhide() override { m_isHidden = false; }
     bool holdKeys() override { return false; }
     void activate(QWindow &window) override;
@@ -25,6 +26,8 @@ public:
 
     /// Plays the user turning to another application.
     void resignActive();
+    /// Plays a window manager that has, or has not, given the keyboard to the window that had it.
+    void setAway(bool isAway) { m_isAway = isAway; }
     /// Plays a second start of the program.
     void reopen() { Q_EMIT reopened(); }
     /// The window that was activated last.
@@ -33,6 +36,7 @@ public:
 private:
     bool m_isActive = false;
     bool m_isHidden = false;
+    bool m_isAway = true;
     QPointer<QWindow> m_activatedWindow;
 };
 

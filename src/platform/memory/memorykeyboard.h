@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/clock.h"
 #include "platform/eventposter.h"
 #include "platform/eventtap.h"
 #include "platform/hotkeys.h"
@@ -56,16 +57,24 @@ private:
 class MemoryEventPoster final : public EventPoster
 {
 public:
-    QCoro::Task<bool> post(Command command) override;
+    QCoro::Task<bool> post(Command command, std::function<bool()> isWanted) override;
 
     [[nodiscard]] const QList<Command> &posted() const { return m_posted; }
     /// What the frontmost application does with a command that it gets.
     void setResponse(std::function<void(Command)> response) { m_response = std::move(response); }
+    /// Lets posting take this long, as if a key stayed down.
+    void setDelay(Clock &clock, std::chrono::milliseconds delay)
+    {
+        m_clock = &clock;
+        m_delay = delay;
+    }
     /// Whether commands are posted at all; if not, `post` gives false.
     void setAllowed(bool isAllowed) { m_isAllowed = isAllowed; }
 
 private:
     bool m_isAllowed = true;
+    Clock *m_clock = nullptr;
+    std::chrono::milliseconds m_delay{0};
     QList<Command> m_posted;
     std::function<void(Command)> m_response;
 };

@@ -19,6 +19,7 @@ public:
 
     [[nodiscard]] qint64 changeCount() const override { return m_changeCount; }
     [[nodiscard]] bool hasContents() const override { return !m_items.isEmpty(); }
+    [[nodiscard]] Origin origin() const override { return m_origin; }
     QCoro::Task<QList<PasteboardItem>> pasteboardItems() override;
     QCoro::Task<std::optional<QString>> string() override;
     void clearContents() override;
@@ -34,6 +35,8 @@ public:
         m_clock = &clock;
         m_delay = delay;
     }
+    /// Plays where the content of the next changes comes from; unknown at first.
+    void setOrigin(const Origin &origin) { m_origin = origin; }
     /// Plays content whose owner declares it secret.
     void setSecret(bool isSecret) { m_isSecret = isSecret; }
     /// What is on it now, read at once.
@@ -45,6 +48,7 @@ private:
     bool m_isSecret = false;
     Clock *m_clock = nullptr;
     std::chrono::milliseconds m_delay{0};
+    Origin m_origin;
     QList<PasteboardItem> m_items;
 };
 

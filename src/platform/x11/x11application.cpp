@@ -63,10 +63,21 @@ void X11Application::hide()
     }
     // Window managers differ in whom they give the keyboard to when a window goes, so it is said. A
     // number may have been given to a new window since, which is no harm: it is looked up as it is now.
-    if (hadKeyboard && m_previousWindow && m_workspace.processOf(*m_previousWindow))
+    m_returnedTo.reset();
+    if (hadKeyboard && m_previousWindow && m_workspace.processOf(*m_previousWindow)) {
         ownwindows::requestActivation(*m_previousWindow, m_connection.userTime());
+        m_returnedTo = m_previousWindow;
+    }
     m_previousWindow.reset();
     Q_EMIT didHide();
+}
+
+bool X11Application::isAway() const
+{
+    const std::optional<xcb_window_t> window = foreignActiveWindow();
+    if (m_returnedTo && m_workspace.processOf(*m_returnedTo))
+        return window == m_returnedTo;
+    return window.has_value();
 }
 
 bool X11Application::holdKeys()

@@ -30,6 +30,7 @@ public:
     [[nodiscard]] bool isActive() const override { return m_isActive || m_activation.isActive(); }
     [[nodiscard]] bool isHidden() const override { return m_isHidden; }
     void hide() override;
+    [[nodiscard]] bool isAway() const override;
     void unhide() override { m_isHidden = false; }
     bool holdKeys() override;
     void activate(QWindow &window) override;
@@ -53,6 +54,8 @@ private:
     std::optional<xcb_window_t> m_previousWindow;
     QPointer<QWindow> m_previousOwnWindow;
     QPointer<QWindow> m_activatedWindow;
+    /// The window that was given the keyboard back last.
+    std::optional<xcb_window_t> m_returnedTo;
     bool m_isActive = false;
     bool m_isHidden = false;
 };

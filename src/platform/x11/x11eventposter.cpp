@@ -4,6 +4,7 @@
 #include "platform/clock.h"
 #include "platform/x11/keytaker.h"
 #include "platform/x11/rawinput.h"
+#include "platform/x11/windowping.h"
 #include "platform/x11/x11connection.h"
 #include "platform/x11/x11workspace.h"
 
@@ -25,6 +26,8 @@ constexpr auto kLook = 10ms;
 /// up only after it was up for so long.
 constexpr auto kUpFor = 50ms;
 constexpr auto kPatience = 700ms;
+/// An application that takes longer to say that it is there hangs.
+constexpr auto kAnswer = 200ms;
 
 } // namespace
 
@@ -37,15 +40,24 @@ X11EventPoster::X11EventPoster(X11Connection &connection, RawInput &input, X11Wo
 {
 }
 
-QCoro::Task<bool> X11EventPoster::post(Command command)
+QCoro::Task<bool> X11EventPoster::post(Command command, std::function<bool()> isWanted)
 {
     const QPointer<X11EventPoster> self(this);
     const std::optional<xcb_window_t> window = m_workspace.activeWindow();
     if (!window)
         co_return false;
+    std::optional<WindowPing> ping;
+    // An application that hangs would copy at any later time, over what the user has copied by then. To
+    // paste late is what the user wants.
+    if (command == Command::Copy)
+        ping.emplace(m_connection, *window);
+    const auto start = m_clock.monotonic();
     const bool areUp = co_await waitForLetters();
+    while (!self.isNull() && ping && !ping->isAnswered() && m_clock.monotonic() - start < kAnswer)
+        co_await m_clock.sleep(kLook);
+    const bool hangs = ping && !ping->isAnswered();
     // Keys that were meant for one window must not reach another.
-    if (self.isNull() || !areUp || m_workspace.activeWindow() != window)
+    if (self.isNull() || !areUp || hangs || m_workspace.activeWindow() != window || !isWanted())
         co_return false;
     co_return postToActiveWindow(command);
 }

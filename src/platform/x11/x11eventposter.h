@@ -25,7 +25,7 @@ class X11EventPoster final : public QObject, public EventPoster
 public:
     X11EventPoster(X11Connection &connection, RawInput &input, X11Workspace &workspace, Clock &clock);
 
-    QCoro::Task<bool> post(Command command) override;
+    QCoro::Task<bool> post(Command command, std::function<bool()> isWanted) override;
 
 private:
     using KeyStates = std::bitset<256>;

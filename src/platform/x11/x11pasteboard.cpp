@@ -4,6 +4,7 @@
 #include "platform/x11/selectioncontent.h"
 #include "platform/x11/x11connection.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 
 #include <xcb/xfixes.h>
@@ -41,6 +42,16 @@ bool X11Pasteboard::hasContents() const
     const XReply<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(m_connection.xcb(), cookie, nullptr));
     return reply && reply->owner != XCB_WINDOW_NONE;
+}
+
+Pasteboard::Origin X11Pasteboard::origin() const
+{
+    if (m_server.isOwner())
+        return {.processIdentifier = QCoreApplication::applicationPid(),
+                .delay = std::chrono::milliseconds{0}};
+    if (!m_owner)
+        return {};
+    return {.processIdentifier = m_connection.clientProcess(*m_owner), .delay = m_delay};
 }
 
 QCoro::Task<QList<PasteboardItem>> X11Pasteboard::pasteboardItems()
@@ -110,8 +121,13 @@ void X11Pasteboard::onEvent(const xcb_generic_event_t *event)
     // Our own writes have been counted when they were made, and what was there before a write of ours
     // is gone already: counted now, it would look like a change after the write.
     const bool isCounted = notify->owner == m_server.window() || m_server.isOlderThanOffer(event);
-    if (notify->selection == m_selection && !isCounted)
-        rise();
+    if (notify->selection != m_selection || isCounted)
+        return;
+    m_owner = notify->owner;
+    // Most applications claim a selection with the time of the key that the user copied by.
+    const auto late = static_cast<int32_t>(notify->timestamp - notify->selection_timestamp);
+    m_delay = std::chrono::milliseconds{std::max(late, int32_t{0})};
+    rise();
 }
 
 void X11Pasteboard::rise()

@@ -26,6 +26,7 @@ public:
 
     [[nodiscard]] qint64 changeCount() const override { return m_changeCount; }
     [[nodiscard]] bool hasContents() const override;
+    [[nodiscard]] Origin origin() const override;
     QCoro::Task<QList<PasteboardItem>> pasteboardItems() override;
     QCoro::Task<std::optional<QString>> string() override;
     void clearContents() override;
@@ -42,6 +43,10 @@ private:
     xcb_atom_t m_selection;
     SelectionServer m_server;
     qint64 m_changeCount = 0;
+    /// The window that owned the selection after the last change by another application; none before
+    /// the first.
+    std::optional<xcb_window_t> m_owner;
+    std::chrono::milliseconds m_delay{0};
 };
 
 } // namespace vesk
