@@ -9,6 +9,8 @@
 #include "components/surroundings.h"
 #include "notes/notesstore.h"
 
+#include <QCoroTask>
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QIcon>
@@ -98,6 +100,8 @@ int runVesk(bool isInBackground)
     // Any other result means that there is no display left to ask on.
     if (result == 0 && !opened.store->save())
         showUnwritten(desktop, *opened.store);
+    // A text that was just pasted, or that is the user's own, is not to go with Vesk.
+    QCoro::waitFor(desktop.pasteboard.handOver());
     return result;
 }
 

@@ -153,7 +153,7 @@ bool SelectionServer::convertMultiple(SelectionSender::Request request)
 void SelectionServer::putTargets(SelectionSender::Request request)
 {
     QList<xcb_atom_t> targets{m_connection.atom("TARGETS"), m_connection.atom("TIMESTAMP"),
-                              m_connection.atom("MULTIPLE")};
+                              m_connection.atom("MULTIPLE"), m_connection.atom("SAVE_TARGETS")};
     for (const Representation &representation : std::as_const(m_representations))
         targets.append(representation.target);
     xcb_change_property(m_connection.xcb(), XCB_PROP_MODE_REPLACE, request.requestor, request.property,

@@ -10,9 +10,11 @@
 namespace vesk {
 
 QCoro::Task<SelectionTransfer::Data> SelectionTransfer::read(X11Connection &connection, xcb_atom_t selection,
-                                                             xcb_atom_t target, qsizetype limit)
+                                                             xcb_atom_t target, qsizetype limit,
+                                                             std::chrono::milliseconds patience)
 {
-    std::unique_ptr<SelectionTransfer> transfer(new SelectionTransfer(connection, selection, target, limit));
+    std::unique_ptr<SelectionTransfer> transfer(
+        new SelectionTransfer(connection, selection, target, limit, patience));
     if (!transfer->m_isFinished)
         co_await qCoro(transfer.get(), &SelectionTransfer::finished);
     Data data = std::move(transfer->m_data);
@@ -22,7 +24,7 @@ QCoro::Task<SelectionTransfer::Data> SelectionTransfer::read(X11Connection &conn
 }
 
 SelectionTransfer::SelectionTransfer(X11Connection &connection, xcb_atom_t selection, xcb_atom_t target,
-                                     qsizetype limit)
+                                     qsizetype limit, std::chrono::milliseconds patience)
     : m_connection(&connection)
     , m_window(xcb_generate_id(connection.xcb()))
     , m_property(connection.atom("VESK_SELECTION"))
@@ -30,7 +32,7 @@ SelectionTransfer::SelectionTransfer(X11Connection &connection, xcb_atom_t selec
 {
     m_stall.setSingleShot(true);
     m_stall.setTimerType(Qt::PreciseTimer);
-    m_stall.setInterval(kDeadline);
+    m_stall.setInterval(patience);
     connect(&m_stall, &QTimer::timeout, this, [this] { finish(Outcome::Stalled); });
     connect(&connection, &X11Connection::eventReceived, this, &SelectionTransfer::onEvent);
     // Nothing comes any more then, and whoever waits may not outlive the event loop.

@@ -45,9 +45,11 @@ public:
     static constexpr std::chrono::milliseconds kDeadline{100};
 
     /// The selection's data in the form `target`; worth something only if complete. Data beyond
-    /// `limit` bytes is not waited for, and what has come is returned.
+    /// `limit` bytes is not waited for, and what has come is returned. `patience` is the longest silence
+    /// of the owner that is borne.
     [[nodiscard]] static QCoro::Task<Data> read(X11Connection &connection, xcb_atom_t selection,
-                                                xcb_atom_t target, qsizetype limit);
+                                                xcb_atom_t target, qsizetype limit,
+                                                std::chrono::milliseconds patience = kDeadline);
 
     ~SelectionTransfer() override;
 
@@ -55,7 +57,8 @@ Q_SIGNALS:
     void finished();
 
 private:
-    SelectionTransfer(X11Connection &connection, xcb_atom_t selection, xcb_atom_t target, qsizetype limit);
+    SelectionTransfer(X11Connection &connection, xcb_atom_t selection, xcb_atom_t target, qsizetype limit,
+                      std::chrono::milliseconds patience);
 
     void onEvent(const xcb_generic_event_t *event);
     void onNotify(xcb_atom_t property);

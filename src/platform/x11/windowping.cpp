@@ -9,8 +9,12 @@ namespace vesk {
 
 namespace {
 
+/// Whether an answer to others than the window manager can be expected.
 bool takesPings(const X11Connection &connection, xcb_window_t window)
 {
+    // Qt tells its answer to the window manager alone; GTK tells it to all.
+    if (connection.property(window, connection.atom("_GTK_APPLICATION_ID")).isEmpty())
+        return false;
     const QByteArray bytes = connection.property(window, connection.atom("WM_PROTOCOLS"));
     const xcb_atom_t ping = connection.atom("_NET_WM_PING");
     for (qsizetype at = 0; at + qsizetype{sizeof ping} <= bytes.size(); at += sizeof ping) {

@@ -16,7 +16,7 @@ class WindowPing final : public QObject
     Q_OBJECT
 
 public:
-    /// Asks at once. A window that takes no such question counts as answering.
+    /// Asks at once. A window whose answer could not be heard counts as answering.
     WindowPing(X11Connection &connection, xcb_window_t window);
     ~WindowPing() override;
 

@@ -2,6 +2,7 @@
 #include "platform/x11/x11pasteboard.h"
 
 #include "platform/x11/selectioncontent.h"
+#include "platform/x11/selectiontransfer.h"
 #include "platform/x11/x11connection.h"
 
 #include <QCoreApplication>
@@ -36,9 +37,12 @@ X11Pasteboard::X11Pasteboard(X11Connection &connection, Kind kind)
 
 bool X11Pasteboard::hasContents() const
 {
-    if (m_server.isOwner())
-        return m_server.hasOffer();
-    const auto cookie = xcb_get_selection_owner(m_connection.xcb(), m_selection);
+    return m_server.isOwner() ? m_server.hasOffer() : hasOwner(m_selection);
+}
+
+bool X11Pasteboard::hasOwner(xcb_atom_t selection) const
+{
+    const auto cookie = xcb_get_selection_owner(m_connection.xcb(), selection);
     const XReply<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(m_connection.xcb(), cookie, nullptr));
     return reply && reply->owner != XCB_WINDOW_NONE;
@@ -111,6 +115,19 @@ void X11Pasteboard::writeObjects(const QList<PasteboardItem> &items)
         merged.append(item);
     m_server.offer(merged);
     rise();
+}
+
+QCoro::Task<> X11Pasteboard::handOver()
+{
+    const xcb_atom_t manager = m_connection.atom("CLIPBOARD_MANAGER");
+    if (!m_server.isOwner() || !m_server.hasOffer() || !hasOwner(manager))
+        co_return;
+    // The manager reads all that we offer before it answers. The answer itself says nothing; whatever
+    // went wrong, there is nobody else to give it to.
+    constexpr std::chrono::seconds kPatience{1};
+    constexpr qsizetype kNothing = 16;
+    co_await SelectionTransfer::read(m_connection, manager, m_connection.atom("SAVE_TARGETS"), kNothing,
+                                     kPatience);
 }
 
 void X11Pasteboard::onEvent(const xcb_generic_event_t *event)

@@ -33,9 +33,13 @@ public:
     void setString(const QString &text) override;
     /// Items beyond the first add the types that those before them lack.
     void writeObjects(const QList<PasteboardItem> &items) override;
+    /// Gives content of ours to the desktop's clipboard manager, if there is one, so that it outlives
+    /// this program. Ends when that is done, or after 1 second of silence.
+    QCoro::Task<> handOver();
     [[nodiscard]] bool reportsChanges() const override { return true; }
 
 private:
+    [[nodiscard]] bool hasOwner(xcb_atom_t selection) const;
     void onEvent(const xcb_generic_event_t *event);
     void rise();
 
