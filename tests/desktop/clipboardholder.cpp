@@ -63,7 +63,7 @@ void ClipboardHolder::serve()
         pollfd descriptor = {xcb_get_file_descriptor(m_connection), POLLIN, 0};
         poll(&descriptor, 1, kPollMilliseconds);
         while (const Reply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
-            if ((event->response_type & 0x7f) != XCB_SELECTION_REQUEST)
+            if (m_isHanging || (event->response_type & 0x7f) != XCB_SELECTION_REQUEST)
                 continue;
             xcb_selection_request_event_t request;
             std::memcpy(&request, event.get(), sizeof request);

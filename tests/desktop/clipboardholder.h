@@ -26,6 +26,9 @@ public:
 
     [[nodiscard]] const Forms &forms() const { return m_forms; }
 
+    /// A program that hangs goes on owning the clipboard and answers nobody.
+    void setHanging(bool isHanging) { m_isHanging = isHanging; }
+
 private:
     ClipboardHolder(xcb_connection_t *connection, Forms forms);
 
@@ -37,6 +40,7 @@ private:
     xcb_window_t m_window;
     const Forms m_forms;
     std::atomic_bool m_isEnding = false;
+    std::atomic_bool m_isHanging = false;
     std::thread m_thread;
 };
 

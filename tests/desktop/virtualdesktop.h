@@ -16,7 +16,17 @@ namespace vesk {
 class VirtualDesktop final
 {
 public:
+    /// What a desktop may lack.
+    struct Lacks
+    {
+        /// Nobody answers for it, as where it is not installed.
+        bool accessibilityBus = false;
+        /// An extension of the X server.
+        QString extension;
+    };
+
     /// Null if some part did not come up; `problem` then says which.
+    [[nodiscard]] static std::unique_ptr<VirtualDesktop> start(QString &problem, const Lacks &lacks);
     [[nodiscard]] static std::unique_ptr<VirtualDesktop> start(QString &problem);
     ~VirtualDesktop();
     Q_DISABLE_COPY_MOVE(VirtualDesktop)
@@ -49,7 +59,7 @@ public:
     [[nodiscard]] const QString &busAddress() const { return m_busAddress; }
 
 private:
-    VirtualDesktop();
+    explicit VirtualDesktop(const Lacks &lacks);
 
     void prepareEnvironment();
     [[nodiscard]] bool startServer();
@@ -57,6 +67,7 @@ private:
     [[nodiscard]] bool startBus();
     [[nodiscard]] bool enableAccessibility();
 
+    const Lacks m_lacks;
     QTemporaryDir m_home;
     QProcessEnvironment m_environment;
     QString m_displayName;

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/heartbeat.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QElapsedTimer>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace vesk {
+
+Heartbeat::Heartbeat(const QString &busAddress)
+    : m_thread([this, busAddress] { run(busAddress); })
+{
+}
+
+Heartbeat::~Heartbeat()
+{
+    static_cast<void>(longestSilence());
+}
+
+std::chrono::milliseconds Heartbeat::longestSilence()
+{
+    m_isEnding = true;
+    if (m_thread.joinable())
+        m_thread.join();
+    return m_longest;
+}
+
+void Heartbeat::run(const QString &busAddress)
+{
+    constexpr auto kPause = 5ms;
+    constexpr int kBound = 20'000; // ms
+    const auto name = u"vesk-test-heartbeat"_s;
+    QDBusConnection bus = QDBusConnection::connectToBus(busAddress, name);
+    while (!m_isEnding) {
+        // The object's own answer comes from the thread that it lives on.
+        const QDBusMessage question =
+            QDBusMessage::createMethodCall(u"org.vesk.Vesk"_s, u"/org/vesk/Vesk"_s,
+                                           u"org.freedesktop.DBus.Introspectable"_s, u"Introspect"_s);
+        QElapsedTimer sinceQuestion;
+        sinceQuestion.start();
+        if (bus.call(question, QDBus::Block, kBound).type() == QDBusMessage::ReplyMessage)
+            ++m_beats;
+        m_longest = std::max(m_longest.load(), std::chrono::milliseconds(sinceQuestion.elapsed()));
+        std::this_thread::sleep_for(kPause);
+    }
+    QDBusConnection::disconnectFromBus(name);
+}
+
+} // namespace vesk

@@ -1,0 +1,330 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/clipboardholder.h"
+#include "desktop/clipboardmanager.h"
+#include "desktop/desktoptest.h"
+#include "desktop/heartbeat.h"
+
+#include <QElapsedTimer>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace vesk;
+
+namespace {
+
+/// The longest that a capture may take, whatever else hangs, beyond what an ordinary one takes on this
+/// machine at this hour.
+constexpr auto kLongest = 700ms;
+/// The shortest of Vesk's own deadlines is as long; an event loop that stands still for one wait stands
+/// still for longer than that.
+constexpr auto kStandstill = 100ms;
+
+const ClipboardHolder::Forms kCopied{{"UTF8_STRING", "copied before"}, {"text/html", "<i>copied</i> before"}};
+
+} // namespace
+
+/// Captures while something else on the desktop is broken: they end in time, with the note or the way to
+/// write one, Vesk stays awake throughout, and the clipboard is as it was.
+class TestFaults : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void nothingIsBroken();
+    void clipboardsOwnerHangs();
+    void applicationHangsAndGoesOnLater();
+    void windowClosesAtThePress();
+    void dialogIsInFront();
+    void windowFillsTheScreen();
+    void nothingIsInFront();
+    void accessibilityBusIsMissing();
+    void extensionOfTheServerIsMissing_data();
+    void extensionOfTheServerIsMissing();
+    void textOutlivesVesk_data();
+    void textOutlivesVesk();
+
+private:
+    enum class Outcome {
+        Note,
+        Fallback,
+        None
+    };
+
+    [[nodiscard]] QString setUp(const VirtualDesktop::Lacks &lacks = {});
+    void press() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_n}, kFinger); }
+    /// Presses the key for a capture, does `meanwhile`, and measures what follows.
+    [[nodiscard]] Outcome capture(const std::function<void()> &meanwhile = {});
+    /// What was wrong with the last capture's time, and with the clipboard now; empty for nothing.
+    [[nodiscard]] QString complaint();
+    [[nodiscard]] std::optional<Window> veskWindow() const;
+    void dismissFallback();
+
+    const QStringList m_lines = {u"Water the lemon tree on the balcony"_s, u"Ask about the train to Ghent"_s};
+    std::unique_ptr<VirtualDesktop> m_desktop;
+    std::unique_ptr<ClipboardHolder> m_clipboard;
+    std::unique_ptr<ChildProcess> m_vesk;
+    std::unique_ptr<TextEditor> m_editor;
+    QElapsedTimer m_sinceCapture;
+    /// How long a capture takes with nothing broken.
+    std::chrono::milliseconds m_ordinary{};
+    std::chrono::milliseconds m_took{};
+    std::chrono::milliseconds m_silence{};
+    int m_beats = 0;
+};
+
+QString TestFaults::setUp(const VirtualDesktop::Lacks &lacks)
+{
+    QString problem;
+    m_desktop = VirtualDesktop::start(problem, lacks);
+    if (!m_desktop)
+        return problem;
+    m_clipboard = ClipboardHolder::hold(m_desktop->displayName(), kCopied);
+    if (!m_clipboard || !m_desktop->prepareUser())
+        return u"The user could not be prepared."_s;
+    m_vesk = m_desktop->startVesk();
+    m_editor = m_vesk ? TextEditor::open(*m_desktop, m_lines) : nullptr;
+    if (!m_editor)
+        return u"Vesk or the editor did not start."_s;
+    if (!m_editor->selectLine(0) || capture() != Outcome::Note)
+        return u"Not even an ordinary capture works."_s;
+    m_ordinary = m_took;
+    return {};
+}
+
+void TestFaults::cleanup()
+{
+    if (m_vesk && QTest::currentTestFailed())
+        qWarning().noquote() << "Vesk said:" << m_vesk->errorOutput();
+    m_editor.reset();
+    m_vesk.reset();
+    m_clipboard.reset();
+    m_desktop.reset();
+    m_sinceCapture.invalidate();
+}
+
+std::optional<Window> TestFaults::veskWindow() const
+{
+    return m_desktop->windows().findViewableIf([this](const Window &window) {
+        return window.pid == m_vesk->pid() && window.title != kSaved && window.title != kAlready;
+    });
+}
+
+TestFaults::Outcome TestFaults::capture(const std::function<void()> &meanwhile)
+{
+    if (m_sinceCapture.isValid() && !m_sinceCapture.hasExpired(kCaptureGate.count()))
+        QTest::qWait(int(kCaptureGate.count() - m_sinceCapture.elapsed()));
+    const qsizetype before = m_desktop->notes().texts().size();
+    Heartbeat heartbeat(m_desktop->busAddress());
+    Outcome outcome = Outcome::None;
+    press();
+    m_sinceCapture.start();
+    if (meanwhile)
+        meanwhile();
+    static_cast<void>(m_desktop->display().waitUntil(kBound, [&] {
+        if (veskWindow())
+            outcome = Outcome::Fallback;
+        else if (m_desktop->notes().texts().size() > before)
+            outcome = Outcome::Note;
+        return outcome != Outcome::None;
+    }));
+    m_took = std::chrono::milliseconds(m_sinceCapture.elapsed());
+    m_silence = heartbeat.longestSilence();
+    m_beats = heartbeat.beats();
+    return outcome;
+}
+
+QString TestFaults::complaint()
+{
+    if (m_took > kLongest + m_ordinary)
+        return u"It took %1 ms, an ordinary capture %2."_s.arg(m_took.count()).arg(m_ordinary.count());
+    if (m_beats == 0 || m_silence > kStandstill + m_ordinary)
+        return u"Vesk slept for %1 ms."_s.arg(m_silence.count());
+    for (const auto &[form, bytes] : kCopied.asKeyValueRange()) {
+        if (m_desktop->display().readForm("CLIPBOARD", form.constData(), 1s) != bytes)
+            return u"%1 is no longer on the clipboard."_s.arg(QString::fromLatin1(form));
+    }
+    return m_vesk->isRunning() ? QString() : u"Vesk has ended."_s;
+}
+
+void TestFaults::dismissFallback()
+{
+    if (const auto window = veskWindow())
+        static_cast<void>(m_desktop->windows().waitFocused(*window, kBound));
+    m_desktop->keyboard().tap({XK_Escape}, kFinger);
+    static_cast<void>(m_desktop->display().waitUntil(kBound, [this] { return !veskWindow(); }));
+}
+
+void TestFaults::nothingIsBroken()
+{
+    QCOMPARE(setUp(), QString());
+    VERIFY_ON(*m_desktop, m_editor->deselect());
+    QCOMPARE(capture(), Outcome::Fallback);
+    QCOMPARE(complaint(), QString());
+}
+
+void TestFaults::clipboardsOwnerHangs()
+{
+    QCOMPARE(setUp(), QString());
+    m_clipboard->setHanging(true);
+    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
+    QCOMPARE(capture(), Outcome::Note);
+    VERIFY_ON(*m_desktop, m_editor->deselect());
+    QCOMPARE(capture(), Outcome::Fallback);
+    m_clipboard->setHanging(false);
+    QCOMPARE(complaint(), QString());
+}
+
+void TestFaults::applicationHangsAndGoesOnLater()
+{
+    QCOMPARE(setUp(), QString());
+    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
+    m_editor->process().signal(SIGSTOP);
+    QCOMPARE(capture(), Outcome::Fallback);
+    QCOMPARE(complaint(), QString());
+    dismissFallback();
+
+    // The user copies something else, and then the application goes on and does all that it was told.
+    const ClipboardHolder::Forms newer{{"UTF8_STRING", "copied meanwhile"}};
+    m_clipboard = ClipboardHolder::hold(m_desktop->displayName(), newer);
+    m_editor->process().signal(SIGCONT);
+    m_desktop->windows().activate(m_editor->window());
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+    QCOMPARE(m_editor->text(), m_lines.join(u'\n') + u'\n');
+    QTest::qWait(300); // For an undoing, which takes a moment.
+    QCOMPARE(m_desktop->display().readSelection("CLIPBOARD", 1s), u"copied meanwhile"_s);
+}
+
+void TestFaults::windowClosesAtThePress()
+{
+    QCOMPARE(setUp(), QString());
+    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
+    QVERIFY(capture([this] { m_editor->process().kill(); }) != Outcome::None);
+    QCOMPARE(complaint(), QString());
+    const QStringList texts = m_desktop->notes().texts();
+    QVERIFY(texts.size() == 1 || texts.constLast() == m_lines.at(1));
+}
+
+void TestFaults::dialogIsInFront()
+{
+    QCOMPARE(setUp(), QString());
+    m_desktop->keyboard().tap({XK_Control_L, XK_r}, kFinger);
+    const auto dialog = m_desktop->windows().waitViewableOf(m_editor->process().pid(), u"Replace"_s, kBound);
+    VERIFY_ON(*m_desktop, dialog);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*dialog, kBound));
+    const QString word = u"lemon"_s;
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
+        m_desktop->keyboard().tap({XK_Control_L, XK_a}, kFinger);
+        m_desktop->keyboard().type(word);
+        m_desktop->keyboard().tap({XK_Control_L, XK_a}, kFinger);
+        return m_desktop->display().readSelection("PRIMARY", 500ms) == word;
+    }));
+    QCOMPARE(capture(), Outcome::Note);
+    QCOMPARE(complaint(), QString());
+    const NotesFile::Row note = m_desktop->notes().notes().value_or(QList<NotesFile::Row>()).value(1);
+    QCOMPARE(note.value(u"text"_s), word);
+    QCOMPARE(note.value(u"sourceBundleID"_s), u"org.xfce.mousepad"_s);
+    QCOMPARE(note.value(u"sourceTitle"_s), dialog->title);
+}
+
+void TestFaults::windowFillsTheScreen()
+{
+    QCOMPARE(setUp(), QString());
+    m_desktop->keyboard().tap({XK_F11}, kFinger);
+    const xcb_window_t editor = m_editor->window().id;
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
+        return m_desktop->windows()
+            .findViewableIf([&](const Window &window) {
+                return window.id == editor && window.geometry.size() == m_desktop->display().size();
+            })
+            .has_value();
+    }));
+    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
+    QCOMPARE(capture(), Outcome::Note);
+    QCOMPARE(complaint(), QString());
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+    VERIFY_ON(*m_desktop, m_desktop->windows().isActive(m_editor->window()));
+}
+
+void TestFaults::nothingIsInFront()
+{
+    QCOMPARE(setUp(), QString());
+    const Window window = m_editor->window();
+    m_editor.reset();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(window.title, kBound));
+    QCOMPARE(capture(), Outcome::Fallback);
+    QCOMPARE(complaint(), QString());
+    QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(0)});
+}
+
+void TestFaults::accessibilityBusIsMissing()
+{
+    QCOMPARE(setUp({.accessibilityBus = true, .extension = {}}), QString());
+    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
+    QCOMPARE(capture(), Outcome::Note);
+    QCOMPARE(complaint(), QString());
+    QCOMPARE(m_desktop->notes().texts().constLast(), m_lines.at(1));
+    VERIFY_ON(*m_desktop, m_editor->deselect());
+    QCOMPARE(capture(), Outcome::Fallback);
+    QCOMPARE(complaint(), QString());
+}
+
+void TestFaults::extensionOfTheServerIsMissing_data()
+{
+    QTest::addColumn<QString>("extension");
+    for (const char *extension : {"XTEST", "RANDR"})
+        QTest::newRow(extension) << QString::fromLatin1(extension);
+}
+
+void TestFaults::extensionOfTheServerIsMissing()
+{
+    QFETCH(const QString, extension);
+    QString problem;
+    m_desktop = VirtualDesktop::start(problem, {.accessibilityBus = true, .extension = extension});
+    QVERIFY2(m_desktop, qPrintable(problem));
+    QVERIFY(m_desktop->prepareUser());
+    m_vesk = m_desktop->run(VirtualDesktop::veskProgram());
+    QVERIFY(m_vesk && m_vesk->waitForExit(kBound));
+    QCOMPARE(m_vesk->exitCode(), 1);
+    const QString expected = u"The X server lacks the extension %1, which Vesk needs."_s.arg(extension);
+    QVERIFY2(m_vesk->errorOutput().contains(expected), qPrintable(m_vesk->errorOutput()));
+}
+
+void TestFaults::textOutlivesVesk_data()
+{
+    QTest::addColumn<bool>("hangs");
+    QTest::newRow("the clipboard manager takes it") << false;
+    QTest::newRow("the clipboard manager hangs") << true;
+}
+
+void TestFaults::textOutlivesVesk()
+{
+    QFETCH(const bool, hangs);
+    QCOMPARE(setUp(), QString());
+    VERIFY_ON(*m_desktop, m_editor->deselect());
+    m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}, kFinger);
+    const auto panel = m_desktop->windows().waitViewable(kPanel, kBound);
+    VERIFY_ON(*m_desktop, panel);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
+    m_desktop->keyboard().tap({XK_Down}, kFinger);
+    m_desktop->keyboard().tap({XK_Control_L, XK_Return}, kFinger);
+    const auto clipboard = [this] { return m_desktop->display().readSelection("CLIPBOARD", 1s); };
+    VERIFY_ON(*m_desktop,
+              m_desktop->display().waitUntil(kBound, [&] { return clipboard() == m_lines.at(0); }));
+
+    const auto manner = hangs ? ClipboardManager::Manner::Hanging : ClipboardManager::Manner::Ordinary;
+    const auto manager = ClipboardManager::start(m_desktop->displayName(), manner);
+    QVERIFY(manager);
+    QVERIFY(m_vesk->quit());
+    QCOMPARE(m_vesk->exitCode(), 0);
+    QCOMPARE(clipboard(), hangs ? std::nullopt : std::optional(m_lines.at(0)));
+}
+
+int main(int argc, char **argv)
+{
+    return runDesktopTest<TestFaults>(argc, argv);
+}
+
+#include "tst_faults.moc"
