@@ -73,11 +73,13 @@ void TestEventPoster::takersAreTold_data()
     QTest::addColumn<QString>("className");
     QTest::addColumn<bool>("hasTerminalEntry");
     QTest::addColumn<bool>("getsCopy");
-    QTest::newRow("editor") << u"Mousepad"_s << false << true;
-    QTest::newRow("terminal by its class") << u"XTerm"_s << false << false;
-    QTest::newRow("unknown terminal by its entry") << u"Newterm"_s << true << false;
-    QTest::newRow("Emacs") << u"Emacs"_s << false << false;
-    QTest::newRow("password prompt") << u"Pinentry"_s << false << false;
+    QTest::addColumn<bool>("getsPaste");
+    QTest::newRow("editor") << u"Mousepad"_s << false << true << true;
+    QTest::newRow("terminal by its class") << u"Kitty"_s << false << false << true;
+    QTest::newRow("terminal without a clipboard") << u"XTerm"_s << false << false << false;
+    QTest::newRow("unknown terminal by its entry") << u"Newterm"_s << true << false << true;
+    QTest::newRow("Emacs") << u"Emacs"_s << false << false << true;
+    QTest::newRow("password prompt") << u"Pinentry"_s << false << false << false;
 }
 
 void TestEventPoster::takersAreTold()
@@ -85,13 +87,14 @@ void TestEventPoster::takersAreTold()
     QFETCH(const QString, className);
     QFETCH(const bool, hasTerminalEntry);
     QFETCH(const bool, getsCopy);
+    QFETCH(const bool, getsPaste);
     DesktopEntry entry;
     entry.isTerminal = hasTerminalEntry;
     WindowIdentity window;
     window.className = className;
     const KeyTaker taker = keyTakerOf(window, &entry);
     QCOMPARE(!keysFor(EventPoster::Command::Copy, taker).isEmpty(), getsCopy);
-    QCOMPARE(keysFor(EventPoster::Command::Paste, taker).isEmpty(), taker == KeyTaker::PasswordPrompt);
+    QCOMPARE(!keysFor(EventPoster::Command::Paste, taker).isEmpty(), getsPaste);
 }
 
 void TestEventPoster::copyReachesAnEditor()

@@ -19,7 +19,6 @@ constexpr std::array kTerminals{
     "contour"_L1,
     "cool-retro-term"_L1,
     "deepin-terminal"_L1,
-    "eterm"_L1,
     "ghostty"_L1,
     "gnome-terminal"_L1,
     "gnome-terminal-server"_L1,
@@ -34,7 +33,6 @@ constexpr std::array kTerminals{
     "qterminal"_L1,
     "rio"_L1,
     "roxterm"_L1,
-    "rxvt"_L1,
     "sakura"_L1,
     "st"_L1,
     "st-256color"_L1,
@@ -43,11 +41,16 @@ constexpr std::array kTerminals{
     "tilda"_L1,
     "tilix"_L1,
     "urxvt"_L1,
-    "uxterm"_L1,
     "wezterm"_L1,
     "xfce4-terminal"_L1,
-    "xterm"_L1,
     "yakuake"_L1,
+};
+
+constexpr std::array kOldTerminals{
+    "eterm"_L1,
+    "rxvt"_L1,
+    "uxterm"_L1,
+    "xterm"_L1,
 };
 
 constexpr std::array kPasswordPrompts{
@@ -85,6 +88,8 @@ KeyTaker keyTakerOf(const WindowIdentity &window, const DesktopEntry *entry)
 {
     if (isOneOf(window, kPasswordPrompts))
         return KeyTaker::PasswordPrompt;
+    if (isOneOf(window, kOldTerminals))
+        return KeyTaker::OldTerminal;
     if ((entry && entry->isTerminal) || isOneOf(window, kTerminals))
         return KeyTaker::Terminal;
     if (window.className.compare("Emacs"_L1, Qt::CaseInsensitive) == 0)
@@ -102,6 +107,7 @@ QList<uint32_t> keysFor(EventPoster::Command command, KeyTaker taker)
         return isCopy ? QList<uint32_t>() : QList<uint32_t>{kControl, kShift, 'v'};
     case KeyTaker::Emacs:
         return isCopy ? QList<uint32_t>() : QList<uint32_t>{kControl, 'y'};
+    case KeyTaker::OldTerminal:
     case KeyTaker::PasswordPrompt:
         break;
     }

@@ -15,6 +15,8 @@ enum class KeyTaker {
     Ordinary,
     /// Control-C interrupts what runs in it.
     Terminal,
+    /// A terminal that has no key for the clipboard; what others paste by, it quotes the next key by.
+    OldTerminal,
     /// Control-C begins a command of its own.
     Emacs,
     /// Asks for a password; gets no key of ours.
