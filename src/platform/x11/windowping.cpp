@@ -36,23 +36,30 @@ WindowPing::WindowPing(X11Connection &connection, xcb_window_t window)
     }
     connect(&connection, &X11Connection::eventReceived, this, &WindowPing::onEvent);
     listenToAnswers(true);
-    xcb_client_message_event_t message{};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = window;
-    message.type = connection.atom("WM_PROTOCOLS");
-    message.data.data32[0] = connection.atom("_NET_WM_PING");
-    message.data.data32[1] = connection.userTime();
-    message.data.data32[2] = window;
-    xcb_send_event(connection.xcb(), 0, window, XCB_EVENT_MASK_NO_EVENT,
-                   reinterpret_cast<const char *>(&message));
-    connection.flush();
+    ask();
 }
 
 WindowPing::~WindowPing()
 {
     if (!m_connection.isNull())
         listenToAnswers(false);
+}
+
+void WindowPing::ask()
+{
+    if (m_connection.isNull() || m_isAnswered)
+        return;
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = m_window;
+    message.type = m_connection->atom("WM_PROTOCOLS");
+    message.data.data32[0] = m_connection->atom("_NET_WM_PING");
+    message.data.data32[1] = m_connection->userTime();
+    message.data.data32[2] = m_window;
+    xcb_send_event(m_connection->xcb(), 0, m_window, XCB_EVENT_MASK_NO_EVENT,
+                   reinterpret_cast<const char *>(&message));
+    m_connection->flush();
 }
 
 void WindowPing::listenToAnswers(bool isListening)

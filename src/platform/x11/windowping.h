@@ -10,7 +10,7 @@ namespace vesk {
 
 class X11Connection;
 
-/// One question to a window whether its application still takes events (`_NET_WM_PING`).
+/// A question to a window whether its application still takes events (`_NET_WM_PING`).
 class WindowPing final : public QObject
 {
     Q_OBJECT
@@ -20,6 +20,8 @@ public:
     WindowPing(X11Connection &connection, xcb_window_t window);
     ~WindowPing() override;
 
+    /// Asks once more. GTK may keep an answer back until it has something else to do.
+    void ask();
     [[nodiscard]] bool isAnswered() const { return m_isAnswered; }
 
 private:

@@ -51,13 +51,17 @@ QCoro::Task<bool> X11EventPoster::post(Command command, std::function<bool()> is
     // paste late is what the user wants.
     if (command == Command::Copy)
         ping.emplace(m_connection, *window);
-    const auto start = m_clock.monotonic();
     const bool areUp = co_await waitForLetters();
-    while (!self.isNull() && ping && !ping->isAnswered() && m_clock.monotonic() - start < kAnswer)
+    if (self.isNull() || !areUp)
+        co_return false;
+    const auto up = m_clock.monotonic();
+    while (!self.isNull() && ping && !ping->isAnswered() && m_clock.monotonic() - up < kAnswer) {
+        ping->ask();
         co_await m_clock.sleep(kLook);
+    }
     const bool hangs = ping && !ping->isAnswered();
     // Keys that were meant for one window must not reach another.
-    if (self.isNull() || !areUp || hangs || m_workspace.activeWindow() != window || !isWanted())
+    if (self.isNull() || hangs || m_workspace.activeWindow() != window || !isWanted())
         co_return false;
     co_return postToActiveWindow(command);
 }
