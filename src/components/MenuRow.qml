@@ -22,7 +22,7 @@ Rectangle {
     antialiasing: true
     Accessible.role: root.entry.isDivider ? Accessible.Separator : Accessible.MenuItem
     Accessible.name: label.text
-    Accessible.focusable: root.entry.isEnabled
+    Accessible.focusable: root.entry.isEnabled && !root.entry.isDivider
     Accessible.onPressAction: root.clicked()
     // The keyboard goes along, for a screen reader to say where it is.
     onIsCurrentChanged: {

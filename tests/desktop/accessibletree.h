@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/accessibleobject.h"
+
 #include <QDBusConnection>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
 namespace vesk {
 
-/// What an application tells a screen reader: the names of what it shows.
+/// What an application tells a screen reader: everything that it shows.
 class AccessibleTree final
 {
 public:
@@ -19,6 +22,9 @@ public:
     /// The names of all objects of a process, in the order of the tree; empty if it tells none.
     [[nodiscard]] QStringList names(qint64 pid) const;
 
+    /// All that it tells of them, in the same order.
+    [[nodiscard]] QList<AccessibleObject> objects(qint64 pid) const;
+
 private:
     struct Object
     {
@@ -26,8 +32,16 @@ private:
         QString path;
     };
 
+    [[nodiscard]] QList<Object> all(qint64 pid) const;
     [[nodiscard]] QList<Object> children(const Object &object) const;
-    [[nodiscard]] QString name(const Object &object) const;
+    [[nodiscard]] AccessibleObject describe(const Object &object) const;
+    [[nodiscard]] QVariant property(const Object &object, const QString &interface,
+                                    const QString &name) const;
+    /// The answer to a call without a value for what was not answered.
+    [[nodiscard]] QVariant ask(const Object &object, const QString &interface, const QString &method,
+                               const QVariantList &arguments = {}) const;
+    [[nodiscard]] quint64 states(const Object &object) const;
+    [[nodiscard]] QRect area(const Object &object) const;
     [[nodiscard]] qint64 processOf(const QString &service) const;
 
     QDBusConnection m_bus;
