@@ -52,6 +52,23 @@ Item {
         }
     }
 
+    // A soft shadow, dense at the edge.
+    Repeater {
+        model: 6
+
+        Rectangle {
+            required property int index
+
+            anchors.fill: sheet
+            anchors.margins: -index - 1
+            anchors.topMargin: 2 - index
+            anchors.bottomMargin: -index - 3
+            radius: sheet.radius + index + 1
+            antialiasing: true
+            color: Qt.rgba(0, 0, 0, 0.024)
+        }
+    }
+
     Rectangle {
         id: sheet
 

@@ -61,10 +61,10 @@ PressButton {
     }
 
     Rectangle {
-        anchors.left: number.right
-        anchors.leftMargin: Theme.tightSpace
-        anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
+        // On whole points, so that it ends where the cards below do.
+        x: Math.round(number.x + number.width) + Theme.tightSpace
+        width: parent.width - x
         height: 1
         color: Theme.strongEdge
     }

@@ -5,6 +5,7 @@
 
 #include <QPainter>
 #include <QQmlEngine>
+#include <QQuickWindow>
 
 namespace vesk {
 
@@ -19,7 +20,12 @@ void AppIcon::paint(QPainter *painter)
     const QIcon icon = engine && !m_bundleId.isEmpty() ? Surroundings::of(*engine).icon(m_bundleId) : QIcon();
     painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     if (!icon.isNull()) {
-        icon.paint(painter, boundingRect().toAlignedRect());
+        // With as many pixels as the screen has; the painter's own device does not say.
+        const qreal density = window() ? window()->effectiveDevicePixelRatio() : 1;
+        const QPixmap pixmap = icon.pixmap(boundingRect().size().toSize(), density);
+        QRectF place(QPointF(), QSizeF(pixmap.size()).scaled(boundingRect().size(), Qt::KeepAspectRatio));
+        place.moveCenter(boundingRect().center());
+        painter->drawPixmap(place, pixmap, pixmap.rect());
         return;
     }
     const qreal side = 0.85 * size();

@@ -4,17 +4,24 @@ import QtQuick
 import Vesk.Components
 
 // The caret of a text item, in the accent colour. Blinks as the desktop has it, and stays after a move.
-Rectangle {
+Item {
     id: root
 
     required property TextEdit edit
     // In milliseconds; 0 for a caret that does not blink.
     required property int flashTime
+    // As high as the placeholder while that stands beside it.
+    required property real leastHeight
 
     width: 2
-    color: Theme.accent
     visible: root.edit.cursorVisible
     opacity: blink.isDark ? 0 : 1
+
+    Rectangle {
+        width: parent.width
+        height: Math.max(parent.height, root.leastHeight)
+        color: Theme.accent
+    }
 
     Timer {
         id: blink

@@ -123,6 +123,7 @@ FocusScope {
             cursorDelegate: Caret {
                 edit: edit
                 flashTime: view.caretFlashTime
+                leastHeight: hint.visible ? hint.height : 0
             }
             Accessible.role: Accessible.EditableText
             Accessible.multiLine: true
@@ -130,6 +131,8 @@ FocusScope {
             onCursorRectangleChanged: root.followCaret()
 
             Text {
+                id: hint
+
                 visible: edit.length === 0 && edit.preeditText.length === 0
                 width: parent.width
                 elide: Text.ElideRight

@@ -87,6 +87,7 @@ FocusScope {
         anchors.top: search.bottom
         anchors.topMargin: Theme.wideSpace
         anchors.horizontalCenter: parent.horizontalCenter
+        maximumWidth: parent.width - 2 * Theme.margin
         model: root.model
     }
 

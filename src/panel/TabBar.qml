@@ -11,7 +11,9 @@ Rectangle {
     id: root
 
     required property PanelModel model
-    readonly property real tabWidth: 128
+    // Larger texts take what room there is.
+    readonly property real tabWidth: Math.min(Math.round(128 * Theme.textScale), Math.floor((root.maximumWidth - 6) / 3))
+    property real maximumWidth: 3 * 128 + 6
 
     implicitWidth: 3 * root.tabWidth + 6
     implicitHeight: thumb.height + 6
