@@ -21,12 +21,15 @@
 #include "quicknote/toast.h"
 
 #include <QCommandLineParser>
+#include <QCursor>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QScreen>
+#include <QStyleHints>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -38,13 +41,16 @@ namespace {
 void installApplications(vesk::MemoryWorkspace &workspace)
 {
     workspace.install(u"firefox-esr"_s, QIcon::fromTheme(u"firefox-esr"_s));
-    workspace.install(u"org.xfce.mousepad"_s, QIcon::fromTheme(u"accessories-text-editor"_s));
-    workspace.install(u"xfce4-terminal"_s, QIcon::fromTheme(u"utilities-terminal"_s));
+    const QIcon editor = QIcon::fromTheme(u"accessories-text-editor"_s);
+    workspace.install(u"org.xfce.mousepad"_s, QIcon::fromTheme(u"org.xfce.mousepad"_s, editor));
+    const QIcon terminal = QIcon::fromTheme(u"utilities-terminal"_s);
+    workspace.install(u"xfce4-terminal"_s, QIcon::fromTheme(u"org.xfce.terminal"_s, terminal));
+    workspace.install(u"org.gnome.Evince"_s, QIcon::fromTheme(u"org.gnome.Evince"_s));
 }
 
-void fillStore(vesk::NotesStore &store, vesk::MemoryClock &clock, int notes)
+void fillStore(vesk::NotesStore &store, vesk::MemoryClock &clock, int notes, const QString &texts)
 {
-    vesk::samplenotes::fill(store, clock, notes);
+    vesk::samplenotes::fill(store, clock, notes, texts);
     vesk::samplenotes::fillPrompts(store, clock);
 }
 
@@ -81,6 +87,12 @@ void point(QQuickWindow &window, const QString &place, bool clicks)
     });
 }
 
+void moveCaretToEnd(QQuickWindow &window)
+{
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_End, Qt::ControlModifier);
+    QCoreApplication::sendEvent(&window, &press);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -101,6 +113,8 @@ int main(int argc, char *argv[])
     const QCommandLineOption composited(u"composited"_s, u"Rely on a compositor that blends windows."_s);
     const QCommandLineOption still(u"still"_s, u"No animation."_s);
     const QCommandLineOption notes(u"notes"_s, u"How many notes."_s, u"N"_s, u"8"_s);
+    const QCommandLineOption texts(u"texts"_s, u"Which notes: everyday, right-to-left or long-words."_s,
+                                   u"KIND"_s);
     const QCommandLineOption search(u"search"_s, u"What to search for."_s, u"TEXT"_s);
     const QCommandLineOption tab(u"tab"_s, u"Which tab: notes, checklists or prompts."_s, u"TAB"_s);
     const QCommandLineOption select(u"select"_s, u"Which card is selected, from 1."_s, u"N"_s);
@@ -116,9 +130,9 @@ int main(int argc, char *argv[])
     const QCommandLineOption quickChecklist(u"quick-checklist"_s, u"The same for a checklist."_s, u"TEXT"_s);
     const QCommandLineOption screenshot(u"screenshot"_s, u"Writes a picture of the panel and quits."_s,
                                         u"FILE"_s);
-    options.addOptions({dark,  strong, textScale, empty,  untrusted, composited,     still,
-                        notes, search, tab,       select, open,      draft,          pointer,
-                        click, notice, guide,     editor, quickNote, quickChecklist, screenshot});
+    options.addOptions({dark,   strong, textScale, empty,     untrusted,      composited, still,   notes,
+                        texts,  search, tab,       select,    open,           draft,      pointer, click,
+                        notice, guide,  editor,    quickNote, quickChecklist, screenshot});
     options.process(program);
 
     const QTemporaryDir folder;
@@ -128,7 +142,7 @@ int main(int argc, char *argv[])
     if (!opened.store)
         qFatal("%s", qUtf8Printable(opened.error));
     if (!options.isSet(empty))
-        fillStore(*opened.store, clock, options.value(notes).toInt());
+        fillStore(*opened.store, clock, options.value(notes).toInt(), options.value(texts));
 
     vesk::MemoryAppearance appearance;
     appearance.setColorScheme(options.isSet(dark) ? vesk::Appearance::ColorScheme::Dark
@@ -182,10 +196,15 @@ int main(int argc, char *argv[])
     model.setTab(tabNamed(options.value(tab)));
     model.setSearch(options.value(search));
     model.setDraft(options.value(draft));
-    if (const auto id = cardAt(model, options.value(select).toInt()))
-        model.setFocused(id);
-    if (const auto id = cardAt(model, options.value(open).toInt()))
-        model.cards()->open(id->toString(QUuid::WithoutBraces));
+    // The list has its size by then, and the box its text.
+    QTimer::singleShot(200, &program, [&] {
+        if (const auto id = cardAt(model, options.value(select).toInt()))
+            model.setFocused(id);
+        if (const auto id = cardAt(model, options.value(open).toInt()))
+            model.cards()->open(id->toString(QUuid::WithoutBraces));
+        if (box.window())
+            moveCaretToEnd(*box.window());
+    });
     if (options.isSet(pointer))
         point(panel.window(), options.value(pointer), false);
     if (options.isSet(click))
@@ -194,6 +213,9 @@ int main(int argc, char *argv[])
         toast.show(options.value(notice), u"checkmark.circle.fill"_s);
     QObject::connect(&application, &vesk::Application::didHide, &program, &QGuiApplication::quit);
     if (options.isSet(screenshot)) {
+        // The real pointer would be in the picture by what it hovers.
+        QCursor::setPos(QPoint());
+        QGuiApplication::styleHints()->setCursorFlashTime(0);
         QTimer::singleShot(1200, &program, [&] {
             const bool isWritten = shown.grabWindow().save(options.value(screenshot));
             QGuiApplication::exit(isWritten ? 0 : 1);

@@ -5,6 +5,7 @@
 #include "platform/memory/memoryclock.h"
 
 #include <array>
+#include <span>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -24,7 +25,8 @@ struct Sample
     QStringView url = {};
 };
 
-constexpr std::array kSamples{
+/// What people keep every day.
+constexpr std::array kEveryday{
     Sample{.age = 2min * 24 * 60,
            .text = u"Launch checklist\n☑ Write the release notes\n☑ Tag the build\n☐ Update the website\n"
                    u"☐ Tell the translators\n☐ Sleep",
@@ -63,6 +65,50 @@ constexpr std::array kSamples{
     Sample{.age = 70min * 24 * 60, .text = u"Passport expires in November"},
 };
 
+/// Written from right to left, wholly or in part.
+constexpr std::array kRightToLeft{
+    Sample{.age = 2min,
+           .text = u"قائمة التسوق\n☑ خبز وزيتون\n☐ تمر من السوق القديم\n☐ شاي بالنعناع",
+           .isPinned = true},
+    Sample{.age = 18min,
+           .text = u"أفكار للرحلة إلى عمّان\nنصل مساء الخميس ونزور وسط البلد في الصباح، ثم نعود قبل الغروب "
+                   u"لأن الطريق طويل.",
+           .app = u"Firefox",
+           .bundle = u"firefox-esr",
+           .title = u"دليل عمّان",
+           .url = u"https://example.org/amman"},
+    Sample{.age = 75min,
+           .text = u"פגישה עם Müller ביום שלישי\nלהביא את התמונות ואת החוזה בגרסה 2.4, ולשאול על Qt Quick.",
+           .app = u"Text Editor",
+           .bundle = u"org.xfce.mousepad"},
+    Sample{.age = 26min * 60,
+           .text = u"Tea with the neighbours\nשלום means hello, and سلام nearly the same."},
+};
+
+/// Words that no line can hold, as addresses and hashes are.
+constexpr std::array kLongWords{
+    Sample{.age = 1min,
+           .text = u"Donaudampfschifffahrtselektrizitätenhauptbetriebswerkbauunterbeamtengesellschaft\n"
+                   u"sha256:9f86d081884c7d659a2feaa0c55ad015a3bf4f1b2b0b822cd15d6c15b0f00a08aa17c2f1e6d0b3c4",
+           .app = u"A terminal whose name is far longer than any card is wide, with tabs and panes",
+           .bundle = u"xfce4-terminal"},
+    Sample{
+        .age = 9min,
+        .text =
+            u"https://example.org/a/very/long/path/that/nobody/would/ever/type?with=parameters&and=more"
+            u"&until=the-end-of-the-line-and-beyond#fragment\n☐ "
+            u"/usr/lib/x86_64-linux-gnu/qt6/plugins/platforminputcontexts/libcomposeplatforminputcontext.so"
+            u"\n☑ "
+            u"Rindfleischetikettierungsüberwachungsaufgabenübertragungsgesetzgebungskompetenzzuordnung",
+        .app = u"Firefox",
+        .bundle = u"firefox-esr",
+        .title = u"Pneumonoultramicroscopicsilicovolcanoconiosis_Llanfairpwllgwyngyllgogerychwyrndrobwll",
+        .url = u"https://example.org/long"},
+    Sample{.age = 40min,
+           .text = u"λοπαδοτεμαχοσελαχογαλεοκρανιολειψανοδριμυποτριμματοσιλφιοκαραβομελιτοκατακεχυμενοκιχλεπι"
+                   u"κοσσυφο"},
+};
+
 struct SamplePrompt
 {
     std::chrono::minutes age;
@@ -95,14 +141,22 @@ std::optional<QString> text(QStringView view)
     return view.isEmpty() ? std::nullopt : std::optional(view.toString());
 }
 
+std::span<const Sample> samples(const QString &kind)
+{
+    return kind == u"right-to-left" ? std::span<const Sample>(kRightToLeft)
+           : kind == u"long-words"  ? std::span<const Sample>(kLongWords)
+                                    : std::span<const Sample>(kEveryday);
+}
+
 } // namespace
 
-void fill(NotesStore &store, MemoryClock &clock, int count)
+void fill(NotesStore &store, MemoryClock &clock, int count, const QString &kind)
 {
+    const std::span<const Sample> kinds = samples(kind);
     const Date now = clock.now();
     for (int i = 0; i < count; ++i) {
-        const Sample &sample = kSamples.at(static_cast<size_t>(i) % kSamples.size());
-        const int round = i / static_cast<int>(kSamples.size());
+        const Sample &sample = kinds[static_cast<size_t>(i) % kinds.size()];
+        const int round = i / static_cast<int>(kinds.size());
         const Date date = now - sample.age - round * 24h;
         store.insert(std::make_unique<Note>(clock, Note::Fields{.id = RecordId::createUuid(),
                                                                 .text = sample.text.toString(),

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 namespace vesk {
 
 class MemoryClock;
@@ -8,8 +10,9 @@ class NotesStore;
 
 namespace samplenotes {
 
-/// Fills a store with notes of the last days, up to the clock's time, which ends where it was.
-void fill(NotesStore &store, MemoryClock &clock, int count);
+/// Fills a store with notes of the last days, up to the clock's time, which ends where it was. Their
+/// texts are of this kind: "right-to-left", "long-words", or everyday ones.
+void fill(NotesStore &store, MemoryClock &clock, int count, const QString &kind);
 /// Adds prompts of every kind.
 void fillPrompts(NotesStore &store, const MemoryClock &clock);
 
