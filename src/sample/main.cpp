@@ -134,6 +134,9 @@ int main(int argc, char *argv[])
                         texts,  search, tab,       select,    open,           draft,      pointer, click,
                         notice, guide,  editor,    quickNote, quickChecklist, screenshot});
     options.process(program);
+    // A caret that blinks would be in some of the pictures only.
+    if (options.isSet(screenshot))
+        QGuiApplication::styleHints()->setCursorFlashTime(0);
 
     const QTemporaryDir folder;
     const auto now = std::chrono::floor<std::chrono::microseconds>(std::chrono::system_clock::now());
@@ -215,7 +218,6 @@ int main(int argc, char *argv[])
     if (options.isSet(screenshot)) {
         // The real pointer would be in the picture by what it hovers.
         QCursor::setPos(QPoint());
-        QGuiApplication::styleHints()->setCursorFlashTime(0);
         QTimer::singleShot(1200, &program, [&] {
             const bool isWritten = shown.grabWindow().save(options.value(screenshot));
             QGuiApplication::exit(isWritten ? 0 : 1);
