@@ -16,6 +16,7 @@
 #include <QThread>
 #include <QUuid>
 
+#include <array>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -26,9 +27,11 @@ namespace vesk {
 namespace {
 
 constexpr int kNotes = 10'000;
+constexpr int kManyNotes = 100'000;
 constexpr int kNoteLength = 488;
 constexpr int kStarts = 15;
 constexpr int kPanels = 40;
+constexpr int kSearches = 4;
 constexpr int kCaptures = 20;
 constexpr int kFloors = 40;
 constexpr auto kBound = 10s;
@@ -41,8 +44,9 @@ int fail(const char *what)
     return 1;
 }
 
-/// Fills the store that a first start has made, one note a minute back from an hour ago.
-void fill(const QString &path)
+/// Fills the store that a first start has made, one note a minute back from an hour ago: those from
+/// `first` to before `end`.
+void fill(const QString &path, int first, int end)
 {
     SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE);
     SQLite::Transaction transaction(database);
@@ -51,7 +55,7 @@ void fill(const QString &path)
                              "VALUES (?, ?, ?, ?, 0, 'Mousepad')");
     const QString filler = u"Lorem ipsum dolor sit amet, consectetur adipiscing elit. "_s.repeated(10);
     const qint64 anHourAgo = (QDateTime::currentMSecsSinceEpoch() - 3'600'000) * 1000;
-    for (int i = 0; i < kNotes; ++i) {
+    for (int i = first; i < end; ++i) {
         const QString text = (u"Note %1\n"_s.arg(i) + filler).left(kNoteLength);
         const qint64 date = anHourAgo - qint64{i} * 60'000'000;
         insert.bind(1, QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString());
@@ -131,6 +135,49 @@ void benchPanel(VirtualDesktop &desktop)
     painted.print();
 }
 
+/// Times each key of a search that every note satisfies at first, to its last letter and back. The first
+/// picture that differs has the matches marked.
+void benchSearch(VirtualDesktop &desktop, int notes)
+{
+    Figures letters(u"search key to list painted, %L1 notes"_s.arg(notes));
+    Figures backspaces(u"search key taken back to list painted, %L1 notes"_s.arg(notes));
+    desktop.keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}, 20ms);
+    const std::optional<Window> panel = desktop.windows().waitViewable(u"Vesk"_s, kBound);
+    if (!panel || !desktop.windows().waitFocused(*panel, kBound))
+        return;
+    desktop.keyboard().tap({XK_Control_L, XK_f}, 20ms);
+    Stopwatch watch(desktop);
+    const QRect list(panel->geometry.topLeft() + QPoint(20, 140), QSize(300, 120));
+    const auto time = [&](xcb_keysym_t key, Figures &figures) {
+        const QByteArray before = watch.settledPixels(list);
+        watch.press({key});
+        // At once, since a key that is held repeats itself.
+        watch.release();
+        const std::optional<double> painted = watch.untilChanged(list, before);
+        if (painted)
+            figures.add(*painted);
+        return painted.has_value();
+    };
+    constexpr std::array kWord{XK_n, XK_o, XK_t, XK_e};
+    for (int i = 0; i < kSearches; ++i) {
+        for (const xcb_keysym_t key : kWord) {
+            // Without an answer there is nothing more to wait for.
+            if (!time(key, letters))
+                return;
+        }
+        for (size_t back = 0; back < kWord.size(); ++back) {
+            if (!time(XK_BackSpace, backspaces))
+                return;
+        }
+    }
+    letters.print();
+    backspaces.print();
+    desktop.keyboard().tap({XK_Escape}, 20ms);
+    desktop.keyboard().tap({XK_Escape}, 20ms);
+    if (!desktop.windows().waitGone(u"Vesk"_s, kBound))
+        std::printf("the panel did not go after the search\n");
+}
+
 void benchCapture(VirtualDesktop &desktop, TextEditor &editor)
 {
     Stopwatch watch(desktop);
@@ -148,6 +195,24 @@ void benchCapture(VirtualDesktop &desktop, TextEditor &editor)
     captures.print();
 }
 
+/// The same search with many more notes; ends what runs with the few.
+void benchManyNotes(VirtualDesktop &desktop, std::unique_ptr<ChildProcess> vesk)
+{
+    vesk.reset();
+    fill(desktop.notes().path(), kNotes, kManyNotes);
+    vesk = desktop.startVesk();
+    if (!vesk)
+        return;
+    QThread::sleep(3);
+    benchSearch(desktop, kManyNotes);
+    if (!vesk->isRunning()) {
+        std::printf("Vesk ended: %s\n", qPrintable(vesk->errorOutput()));
+        return;
+    }
+    std::printf("memory, hidden, %d notes, after a search: %.1f MB\n", kManyNotes,
+                residentMemory(vesk->pid()));
+}
+
 /// The figures of the note editor, by a program of its own.
 void benchEditor(VirtualDesktop &desktop)
 {
@@ -159,7 +224,8 @@ void benchEditor(VirtualDesktop &desktop)
         std::printf("the editor's bench did not come to an end\n");
 }
 
-int bench()
+/// The searches alone if `isSearchOnly`.
+int bench(bool isSearchOnly)
 {
     QString problem;
     const std::unique_ptr<VirtualDesktop> desktop = VirtualDesktop::start(problem);
@@ -167,9 +233,17 @@ int bench()
         return fail(qPrintable(problem));
     if (!desktop->prepareUser() || !desktop->startVesk())
         return fail("Vesk did not start.");
-    fill(desktop->notes().path());
+    fill(desktop->notes().path(), 0, kNotes);
     std::printf("%d notes of %d characters\n", kNotes, kNoteLength);
 
+    if (isSearchOnly) {
+        std::unique_ptr<ChildProcess> vesk = desktop->startVesk();
+        if (!vesk)
+            return fail("Vesk did not start.");
+        benchSearch(*desktop, kNotes);
+        benchManyNotes(*desktop, std::move(vesk));
+        return 0;
+    }
     Figures floors(u"floor: a key press and a bare window"_s);
     Stopwatch watch(*desktop);
     for (int i = 0; i < kFloors; ++i) {
@@ -179,7 +253,7 @@ int bench()
     floors.print();
     benchStarts(*desktop);
 
-    const std::unique_ptr<ChildProcess> vesk = desktop->startVesk();
+    std::unique_ptr<ChildProcess> vesk = desktop->startVesk();
     if (!vesk)
         return fail("Vesk did not start.");
     QThread::sleep(3);
@@ -198,6 +272,8 @@ int bench()
         return fail("The editor did not start.");
     benchCapture(*desktop, *editor);
     std::printf("memory, hidden, after use (bar 66): %.1f MB\n", residentMemory(vesk->pid()));
+    benchSearch(*desktop, kNotes);
+    benchManyNotes(*desktop, std::move(vesk));
     benchEditor(*desktop);
     return 0;
 }
@@ -210,6 +286,6 @@ int main(int argc, char **argv)
 {
     return vesk::runGuarded([&] {
         const QCoreApplication application(argc, argv);
-        return vesk::bench();
+        return vesk::bench(QCoreApplication::arguments().contains(u"search"));
     });
 }

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "stopwatch.h"
 
+#include <QThread>
+
 #include <ranges>
+#include <utility>
 
 namespace vesk {
 
@@ -33,6 +36,43 @@ std::optional<double> Stopwatch::untilViewable(const QString &title)
 std::optional<double> Stopwatch::untilPainted(QPoint point)
 {
     return until([&] { return !isBlack(point); });
+}
+
+std::optional<double> Stopwatch::untilChanged(const QRect &area, const QByteArray &before)
+{
+    return until([&] { return pixels(area) != before; });
+}
+
+QByteArray Stopwatch::settledPixels(const QRect &area) const
+{
+    constexpr qint64 kStill = 120;
+    constexpr qint64 kBound = 5000;
+    QByteArray now = pixels(area);
+    QElapsedTimer bound;
+    QElapsedTimer unchanged;
+    bound.start();
+    unchanged.start();
+    while (!unchanged.hasExpired(kStill) && !bound.hasExpired(kBound)) {
+        QThread::msleep(5);
+        const QByteArray before = std::exchange(now, pixels(area));
+        if (before != now)
+            unchanged.start();
+    }
+    return now;
+}
+
+QByteArray Stopwatch::pixels(const QRect &area) const
+{
+    xcb_connection_t *x = m_desktop.display().xcb();
+    const auto cookie =
+        xcb_get_image(x, XCB_IMAGE_FORMAT_Z_PIXMAP, m_desktop.display().root(),
+                      static_cast<int16_t>(area.x()), static_cast<int16_t>(area.y()),
+                      static_cast<uint16_t>(area.width()), static_cast<uint16_t>(area.height()), ~0U);
+    const Reply<xcb_get_image_reply_t> reply(xcb_get_image_reply(x, cookie, nullptr));
+    if (!reply)
+        return {};
+    return {reinterpret_cast<const char *>(xcb_get_image_data(reply.get())),
+            xcb_get_image_data_length(reply.get())};
 }
 
 std::optional<double> Stopwatch::floor()

@@ -25,6 +25,12 @@ public:
     [[nodiscard]] std::optional<double> untilViewable(const QString &title);
     /// Milliseconds since the press until the point is no longer black; none after 5 s.
     [[nodiscard]] std::optional<double> untilPainted(QPoint point);
+    /// Milliseconds from the last key until this area of the screen looks different than before.
+    [[nodiscard]] std::optional<double> untilChanged(const QRect &area, const QByteArray &before);
+
+    /// What an area of the screen shows once it has stood still for a moment.
+    [[nodiscard]] QByteArray settledPixels(const QRect &area) const;
+
     /// Milliseconds from a key press until a window that the bench itself puts there is seen: what
     /// the server and the asking alone take. None if the key did not arrive.
     [[nodiscard]] std::optional<double> floor();
@@ -32,6 +38,7 @@ public:
 private:
     template <typename Condition>
     [[nodiscard]] std::optional<double> until(const Condition &condition);
+    [[nodiscard]] QByteArray pixels(const QRect &area) const;
     [[nodiscard]] bool isBlack(QPoint point) const;
 
     VirtualDesktop &m_desktop;
