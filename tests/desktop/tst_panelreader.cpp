@@ -91,7 +91,7 @@ void TestPanelReader::cleanup()
 
 bool TestPanelReader::fillStore()
 {
-    const qint64 threeHoursAgo = (QDateTime::currentMSecsSinceEpoch() - 3 * 3'600'000) * 1000;
+    const qint64 threeHoursAgo = (QDateTime::currentMSecsSinceEpoch() - qint64{3} * 3'600'000) * 1000;
     try {
         SQLite::Database database(m_desktop->notes().path().toStdString(), SQLite::OPEN_READWRITE);
         SQLite::Statement note(database, "INSERT INTO Note VALUES (?, ?, ?, ?, ?, ?, NULL, NULL, NULL)");
