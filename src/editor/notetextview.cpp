@@ -7,8 +7,6 @@
 #include "editor/textmouse.h"
 #include "editor/texttransfer.h"
 
-#include <QCoroTimer>
-
 #include <QAbstractTextDocumentLayout>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
@@ -19,8 +17,6 @@
 #include <QTextBlock>
 #include <QTextDocument>
 
-using namespace std::chrono_literals;
-
 namespace vesk {
 
 NoteTextView::NoteTextView(QQuickItem *parent)
@@ -28,6 +24,12 @@ NoteTextView::NoteTextView(QQuickItem *parent)
 {
     connect(this, &NoteTextView::lookChanged, this, &NoteTextView::restyle);
     connect(this, &NoteTextView::visiblePartChanged, this, &NoteTextView::polish);
+    connect(&m_focusTask, &FocusTask::ended, this, [this] {
+        if (!window())
+            return;
+        forceFocus();
+        moveCaretToEnd();
+    });
 }
 
 NoteTextView::~NoteTextView() = default;
@@ -272,21 +274,7 @@ void NoteTextView::forceFocus()
 
 void NoteTextView::focusWhenShown()
 {
-    waitForFocus();
-}
-
-QCoro::Task<> NoteTextView::waitForFocus()
-{
-    const QPointer<NoteTextView> self(this);
-    for (int check = 0; check < 20 && self && !self->window(); ++check)
-        co_await QCoro::sleepFor(10ms);
-    co_await QCoro::sleepFor(60ms);
-    for (int check = 0; check < 30 && self && self->window() && !self->window()->isActive(); ++check)
-        co_await QCoro::sleepFor(10ms);
-    if (self.isNull() || !self->window())
-        co_return;
-    forceFocus();
-    moveCaretToEnd();
+    m_focusTask.start();
 }
 
 bool NoteTextView::eventFilter(QObject *watched, QEvent *event)

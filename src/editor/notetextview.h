@@ -4,11 +4,10 @@
 #include "components/theme.h"
 #include "editor/edithistory.h"
 #include "editor/edititem.h"
+#include "editor/focustask.h"
 #include "editor/noteeditorcontroller.h"
 #include "editor/styler.h"
 #include "editor/visibleboxes.h"
-
-#include <QCoroTask>
 
 #include <QPointer>
 #include <QQuickItem>
@@ -137,7 +136,6 @@ private:
     void onChanged(const Splice &change);
     void replay(const Splice &change, const Selection &after);
     void restyle();
-    QCoro::Task<> waitForFocus();
 
     EditItem m_edit;
     std::unique_ptr<NoteText> m_text;
@@ -145,6 +143,7 @@ private:
     std::unique_ptr<TextTransfer> m_transfer;
     std::unique_ptr<TextMouse> m_mouse;
     VisibleBoxes m_boxes;
+    FocusTask m_focusTask{*this};
     EditHistory m_history;
     QPointer<NoteEditorController> m_controller;
     QPointer<Theme> m_theme;

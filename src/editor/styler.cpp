@@ -6,9 +6,33 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include <utility>
+
 namespace vesk {
 
 namespace {
+
+/// Lies in the title and takes note of its end. A block does not tell by itself: one that was removed
+/// still counts as valid, and may be another by then.
+class TitleMark final : public QTextBlockUserData
+{
+public:
+    explicit TitleMark(std::weak_ptr<QTextBlock> title)
+        : m_title(std::move(title))
+    {
+    }
+
+    Q_DISABLE_COPY_MOVE(TitleMark)
+
+    ~TitleMark() override
+    {
+        if (const std::shared_ptr<QTextBlock> title = m_title.lock())
+            *title = QTextBlock();
+    }
+
+private:
+    std::weak_ptr<QTextBlock> m_title;
+};
 
 /// The line as it is seen, with what is being composed in it.
 QString composed(QStringView line, const QTextLayout &layout)
@@ -33,7 +57,7 @@ void Styler::setLook(const TextLook &look, bool firstLineIsTitle)
 {
     m_formats = TextFormats(look);
     m_firstLineIsTitle = firstLineIsTitle;
-    m_title = findTitle();
+    markTitle(findTitle());
     // One change for all of it, so that everything is laid out once.
     QTextCursor cursor(&m_text.document());
     cursor.beginEditBlock();
@@ -44,12 +68,15 @@ void Styler::setLook(const TextLook &look, bool firstLineIsTitle)
 
 void Styler::restyle(int position, int length)
 {
-    const QTextBlock former = m_title;
-    m_title = findTitle();
-    if (former.isValid() && former != m_title)
-        restyle(former);
-    if (m_title.isValid() && former != m_title)
-        restyle(m_title);
+    const QTextBlock former = *m_title;
+    const QTextBlock title = findTitle();
+    if (former != title) {
+        markTitle(title);
+        if (former.isValid())
+            restyle(former);
+        if (title.isValid())
+            restyle(title);
+    }
     QTextBlock block = m_text.document().findBlock(position);
     for (; block.isValid() && block.position() <= position + length; block = block.next())
         restyle(block);
@@ -59,7 +86,7 @@ QList<QTextLayout::FormatRange> Styler::wanted(const QTextBlock &block) const
 {
     const QTextLayout &layout = *block.layout();
     const QStringView line = m_text.line(block);
-    const bool isTitle = block == m_title;
+    const bool isTitle = block == *m_title;
     if (!isComposing(layout))
         return m_formats.ranges(line, isTitle);
 
@@ -77,6 +104,19 @@ void Styler::restyle(const QTextBlock &block) const
     // Setting formats has the paragraph laid out again.
     if (ranges != block.layout()->formats())
         block.layout()->setFormats(ranges);
+}
+
+void Styler::markTitle(const QTextBlock &title)
+{
+    if (*m_title == title)
+        return;
+    // Ends the former mark, which says that there is no title.
+    if (m_title->isValid())
+        QTextBlock(*m_title).setUserData(nullptr);
+    if (!title.isValid())
+        return;
+    *m_title = title;
+    QTextBlock(title).setUserData(new TitleMark(m_title));
 }
 
 QTextBlock Styler::findTitle() const

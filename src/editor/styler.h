@@ -5,6 +5,8 @@
 
 #include <QTextBlock>
 
+#include <memory>
+
 namespace vesk {
 
 class NoteText;
@@ -28,11 +30,13 @@ public:
 private:
     void restyle(const QTextBlock &block) const;
     [[nodiscard]] QTextBlock findTitle() const;
+    void markTitle(const QTextBlock &title);
 
     const NoteText &m_text;
     TextFormats m_formats{TextLook()};
     bool m_firstLineIsTitle = false;
-    QTextBlock m_title;
+    /// The paragraph that is the title, while it is there; not valid for none.
+    std::shared_ptr<QTextBlock> m_title = std::make_shared<QTextBlock>();
 };
 
 } // namespace vesk

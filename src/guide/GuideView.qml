@@ -83,14 +83,10 @@ FocusScope {
                 width: parent.width
                 spacing: Theme.smallSpace
 
-                Image {
+                ProductMark {
                     anchors.horizontalCenter: parent.horizontalCenter
                     width: 72
                     height: 72
-                    // Drawn at the screen's own resolution.
-                    sourceSize.width: width * Screen.devicePixelRatio
-                    sourceSize.height: height * Screen.devicePixelRatio
-                    source: "qrc:/vesk/icon/org.vesk.Vesk.svg"
                     Accessible.ignored: true
                 }
 

@@ -26,6 +26,9 @@ bool isTextWanted(const QDBusArgument &rule)
     int how = 0;
     rule.beginStructure();
     rule >> numbers >> how >> attributes >> how >> numbers >> how >> interfaces;
+    bool isReversed = false;
+    rule >> isReversed;
+    rule.endStructure();
     return interfaces.contains("Text"_L1);
 }
 
