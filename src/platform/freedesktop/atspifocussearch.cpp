@@ -149,7 +149,7 @@ QCoro::Task<Step> lookAt(AtSpiQuestion question, QList<AtSpiReference> objects)
         if (!state)
             continue;
         step.isAnswered = true;
-        const AtSpiReference object = objects.at(static_cast<qsizetype>(index));
+        const AtSpiReference &object = objects.at(static_cast<qsizetype>(index));
         if (state->test(atspistate::kFocused))
             step.focused.append(object);
         // Closed menus and hidden pages have no part in this; GTK 4 says "showing" of few objects,
