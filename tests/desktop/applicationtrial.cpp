@@ -134,7 +134,9 @@ bool ApplicationTrial::isReady()
 
 bool ApplicationTrial::bringForward()
 {
-    m_desktop->windows().activate(m_window);
+    // Some forget which frame of a page has the keyboard when they are given it a second time.
+    if (!m_desktop->windows().isActive(m_window))
+        m_desktop->windows().activate(m_window);
     return m_desktop->windows().waitActive(m_window, kOutcomeBound)
            && m_desktop->windows().waitFocused(m_window, kOutcomeBound);
 }

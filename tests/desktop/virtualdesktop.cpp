@@ -153,10 +153,14 @@ bool VirtualDesktop::startBus()
 bool VirtualDesktop::startWindowManager()
 {
     m_windowManager = run(u"openbox"_s);
-    return m_windowManager && m_display->waitUntil(kStartBound, [this] {
-        const auto cookie =
-            xcb_get_property(m_display->xcb(), 0, m_display->root(),
-                             m_display->atom("_NET_SUPPORTING_WM_CHECK"), XCB_ATOM_WINDOW, 0, 1);
+    return m_windowManager && waitForRootProperty("_NET_SUPPORTING_WM_CHECK");
+}
+
+bool VirtualDesktop::waitForRootProperty(const char *name)
+{
+    return m_display->waitUntil(kStartBound, [&] {
+        const auto cookie = xcb_get_property(m_display->xcb(), 0, m_display->root(), m_display->atom(name),
+                                             XCB_ATOM_ANY, 0, 1);
         const Reply<xcb_get_property_reply_t> reply{
             xcb_get_property_reply(m_display->xcb(), cookie, nullptr)};
         return reply && xcb_get_property_value_length(reply.get()) > 0;
@@ -170,7 +174,14 @@ bool VirtualDesktop::enableAccessibility()
                                                        u"org.freedesktop.DBus.Properties"_s, u"Set"_s);
     call.setArguments({u"org.a11y.Status"_s, u"IsEnabled"_s, QVariant::fromValue(QDBusVariant(true))});
     const int bound = int(std::chrono::milliseconds(kStartBound).count());
-    return bus.call(call, QDBus::Block, bound).type() == QDBusMessage::ReplyMessage;
+    if (bus.call(call, QDBus::Block, bound).type() != QDBusMessage::ReplyMessage)
+        return false;
+    // The bus is made when its address is first asked for. Qt's applications look for it once, at their
+    // start, and by what the server says of it.
+    call = QDBusMessage::createMethodCall(u"org.a11y.Bus"_s, u"/org/a11y/bus"_s, u"org.a11y.Bus"_s,
+                                          u"GetAddress"_s);
+    return bus.call(call, QDBus::Block, bound).type() == QDBusMessage::ReplyMessage
+           && waitForRootProperty("AT_SPI_BUS");
 }
 
 QString VirtualDesktop::veskProgram()

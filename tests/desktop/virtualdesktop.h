@@ -64,6 +64,7 @@ private:
     void prepareEnvironment();
     [[nodiscard]] bool startServer();
     [[nodiscard]] bool startWindowManager();
+    [[nodiscard]] bool waitForRootProperty(const char *name);
     [[nodiscard]] bool startBus();
     [[nodiscard]] bool enableAccessibility();
 
