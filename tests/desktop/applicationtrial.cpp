@@ -48,9 +48,9 @@ QString quoted(const QString &text)
 
 } // namespace
 
-ApplicationTrial::ApplicationTrial(const ApplicationCase &application, const QString &pictures)
-    : m_application(application)
-    , m_pictures(pictures)
+ApplicationTrial::ApplicationTrial(ApplicationCase application, QString pictures)
+    : m_application(std::move(application))
+    , m_pictures(std::move(pictures))
 {
 }
 

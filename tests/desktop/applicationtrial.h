@@ -16,7 +16,7 @@ class ApplicationTrial final
 {
 public:
     /// `pictures` is a folder for pictures of what went wrong; none are taken for an empty one.
-    ApplicationTrial(const ApplicationCase &application, const QString &pictures);
+    ApplicationTrial(ApplicationCase application, QString pictures);
     ~ApplicationTrial();
 
     /// What is wrong with each promise, empty for what holds. Those that the application has no use for

@@ -32,7 +32,6 @@ std::unique_ptr<ClipboardHolder> ClipboardHolder::hold(const QString &displayNam
 
 ClipboardHolder::ClipboardHolder(xcb_connection_t *connection, Forms forms)
     : m_connection(connection)
-    , m_window(XCB_WINDOW_NONE)
     , m_forms(std::move(forms))
 {
 }

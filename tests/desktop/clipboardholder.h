@@ -37,7 +37,7 @@ private:
     void answer(const xcb_selection_request_event_t &request);
 
     xcb_connection_t *m_connection;
-    xcb_window_t m_window;
+    xcb_window_t m_window = XCB_WINDOW_NONE;
     const Forms m_forms;
     std::atomic_bool m_isEnding = false;
     std::atomic_bool m_isHanging = false;

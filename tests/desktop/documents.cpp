@@ -41,11 +41,12 @@ QByteArray pdf()
     for (const QString &line : SampleDocument::lines())
         drawing += " (" + line.toLatin1() + ") Tj T*";
     drawing += " ET";
+    const QByteArray sheet = "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 595 842] /Contents 4 0 R"
+                             " /Resources << /Font << /F 5 0 R >> >> >>";
     const QByteArrayList objects{
         "<< /Type /Catalog /Pages 2 0 R >>",
         "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
-        "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 595 842] /Contents 4 0 R"
-        " /Resources << /Font << /F 5 0 R >> >> >>",
+        sheet,
         "<< /Length " + QByteArray::number(drawing.size()) + " >>\nstream\n" + drawing + "\nendstream",
         "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>",
     };
