@@ -28,7 +28,7 @@ private:
     /// to hear of keys, Vesk looks every 20 ms whether it still is down.
     void toggle()
     {
-        QTest::qWait(3 * kFinger);
+        QTest::qWait(static_cast<int>(3 * kFinger.count()));
         m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}, kFinger);
     }
     [[nodiscard]] std::optional<Window> panel() const { return m_desktop->windows().findViewable(kPanel); }
