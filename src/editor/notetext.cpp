@@ -9,6 +9,7 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <utility>
 
 namespace vesk {
 
@@ -47,10 +48,10 @@ QString typed(QString slice)
 
 } // namespace
 
-NoteText::NoteText(QTextDocument &document, const QTextBlockFormat &paragraph, QObject *parent)
+NoteText::NoteText(QTextDocument &document, QTextBlockFormat paragraph, QObject *parent)
     : QObject(parent)
     , m_document(document)
-    , m_paragraph(paragraph)
+    , m_paragraph(std::move(paragraph))
 {
     // What the user may take back is kept elsewhere.
     document.setUndoRedoEnabled(false);

@@ -22,7 +22,7 @@ class NoteText final : public QObject
 
 public:
     /// Takes over the document, which has to outlive this. Each paragraph gets this format.
-    NoteText(QTextDocument &document, const QTextBlockFormat &paragraph, QObject *parent);
+    NoteText(QTextDocument &document, QTextBlockFormat paragraph, QObject *parent);
 
     [[nodiscard]] const QString &text() const { return m_text; }
     [[nodiscard]] QTextDocument &document() const { return m_document; }
