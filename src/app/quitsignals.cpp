@@ -30,7 +30,7 @@ QuitSignals::QuitSignals()
     if (g_descriptor < 0)
         return; // The signals end the program as they are: nothing that was saved is lost.
     m_notifier = std::make_unique<QSocketNotifier>(g_descriptor, QSocketNotifier::Read);
-    connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] {
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, [] {
         // Read, so that the next signal ends what is asked of the user at the end.
         uint64_t count = 0;
         static_cast<void>(!read(g_descriptor, &count, sizeof count));

@@ -65,7 +65,7 @@ EditorFixture::EditorFixture(const QString &properties, QSize size)
 
 EditorFixture::~EditorFixture() = default;
 
-void EditorFixture::load(const QString &text)
+void EditorFixture::load(const QString &text) const
 {
     editor->setProperty("text", text);
 }
@@ -95,7 +95,7 @@ void EditorFixture::type(const QString &keys, Qt::KeyboardModifiers modifiers)
     }
 }
 
-void EditorFixture::compose(const QString &preedit)
+void EditorFixture::compose(const QString &preedit) const
 {
     QTextCharFormat underlined;
     underlined.setFontUnderline(true);
@@ -104,7 +104,7 @@ void EditorFixture::compose(const QString &preedit)
     QCoreApplication::sendEvent(edit, &event);
 }
 
-void EditorFixture::commit(const QString &text)
+void EditorFixture::commit(const QString &text) const
 {
     QInputMethodEvent event;
     event.setCommitString(text);
@@ -122,7 +122,7 @@ int EditorFixture::anchor() const
     return caret() == start ? edit->property("selectionEnd").toInt() : start;
 }
 
-void EditorFixture::select(qsizetype anchor, qsizetype caret)
+void EditorFixture::select(qsizetype anchor, qsizetype caret) const
 {
     QMetaObject::invokeMethod(edit, "select", Q_ARG(int, static_cast<int>(anchor)),
                               Q_ARG(int, static_cast<int>(caret)));

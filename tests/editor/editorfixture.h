@@ -28,18 +28,18 @@ public:
     explicit EditorFixture(const QString &properties = {}, QSize size = QSize(320, 300));
     ~EditorFixture();
 
-    void load(const QString &text);
+    void load(const QString &text) const;
     [[nodiscard]] QString text() const;
     /// Types key by key: \n is Return, \b Backspace, \x1b Escape, and \x7f Delete.
     void type(const QString &keys, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString &text = {});
     /// What an input method does: shows what is being composed, then writes a text.
-    void compose(const QString &preedit);
-    void commit(const QString &text);
+    void compose(const QString &preedit) const;
+    void commit(const QString &text) const;
 
     [[nodiscard]] int caret() const;
     [[nodiscard]] int anchor() const;
-    void select(qsizetype anchor, qsizetype caret);
+    void select(qsizetype anchor, qsizetype caret) const;
     [[nodiscard]] QTextDocument &document() const;
     /// A point of the window, from one of the text item.
     [[nodiscard]] QPoint inWindow(const QPointF &point) const;

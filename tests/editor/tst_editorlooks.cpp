@@ -231,7 +231,7 @@ void EditorLooksTest::caretStaysInSight()
     const QPoint caret = fixture.inWindow(fixture.rectangleOf(fixture.caret()).center());
     QVERIFY(QRect(QPoint(), fixture.window.size()).contains(caret));
     fixture.press(Qt::Key_PageUp);
-    QVERIFY(fixture.caret() < fixture.text().size() - 4 * 7);
+    QVERIFY(fixture.caret() < fixture.text().size() - qsizetype{4} * 7);
     fixture.press(Qt::Key_Home, Qt::ControlModifier);
     fixture.paint();
     QVERIFY(fixture.inWindow(QPointF()).y() > 0);

@@ -74,7 +74,7 @@ void RandomEditsTest::act(int kind)
         m_fixture->press(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
         break;
     case 5: {
-        const QString pasted = kPastes.at(pick(static_cast<int>(kPastes.size())));
+        const QString &pasted = kPastes.at(pick(static_cast<int>(kPastes.size())));
         m_plain.insert(pasted);
         m_fixture->pasteboard.setString(pasted);
         m_fixture->press(Qt::Key_V, Qt::ControlModifier);
