@@ -11,6 +11,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -58,8 +60,8 @@ std::unique_ptr<VirtualDesktop> VirtualDesktop::start(QString &problem, const La
     return nullptr;
 }
 
-VirtualDesktop::VirtualDesktop(const Lacks &lacks)
-    : m_lacks(lacks)
+VirtualDesktop::VirtualDesktop(Lacks lacks)
+    : m_lacks(std::move(lacks))
     , m_notes(m_home.filePath(u"data/Vesk/Notes.store"_s))
 {
 }

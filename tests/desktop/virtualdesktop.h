@@ -59,7 +59,7 @@ public:
     [[nodiscard]] const QString &busAddress() const { return m_busAddress; }
 
 private:
-    explicit VirtualDesktop(const Lacks &lacks);
+    explicit VirtualDesktop(Lacks lacks);
 
     void prepareEnvironment();
     [[nodiscard]] bool startServer();
