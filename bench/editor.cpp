@@ -88,7 +88,7 @@ public:
     [[nodiscard]] NoteEditorController &controller() { return m_controller; }
 
 private:
-    [[nodiscard]] bool wait();
+    [[nodiscard]] bool wait() const;
 
     NoteEditorController m_controller;
     QQuickWindow m_window;
@@ -113,7 +113,7 @@ EditorBench::EditorBench(QQmlEngine &engine)
     m_controller.forceFocus();
 }
 
-bool EditorBench::wait()
+bool EditorBench::wait() const
 {
     QElapsedTimer bound;
     bound.start();
