@@ -67,7 +67,7 @@ void AccessibleApplication::announceFocus(const QString &name, bool isFocused)
 bool AccessibleApplication::handleMessage(const QDBusMessage &message, const QDBusConnection &connection)
 {
     ++m_calls;
-    if (m_manner.isSilent) {
+    if (m_manner.isSilent || message.path().section(u'/', -1) == m_manner.silentObject) {
         message.setDelayedReply(true);
         return true;
     }

@@ -40,6 +40,8 @@ public:
         /// Its root has no children before it is asked for its attributes.
         bool isAsleep = false;
         bool isSilent = false;
+        /// The one object that does not answer.
+        QString silentObject;
     };
 
     AccessibleApplication(const QString &busAddress, const QHash<QString, Object> &objects);
