@@ -76,8 +76,8 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
             desktop.application.activate(m_panelWindow.window());
     });
     connect(desktop.x11.get(), &X11Connection::lost, this, [] { QCoreApplication::exit(1); });
-    connect(&m_panel, &PanelModel::pasteRequested, &m_pasteBack, &PasteBack::pasteIntoPreviousApp);
-    connect(&m_panel, &PanelModel::fieldPasteRequested, this,
+    connect(m_panel.cards(), &CardActions::pasteRequested, &m_pasteBack, &PasteBack::pasteIntoPreviousApp);
+    connect(m_panel.keyboard(), &PanelKeyboard::fieldPasteRequested, this,
             [this, &desktop] { pasteIntoField(desktop.pasteboard); });
     connect(m_panel.cards(), &CardActions::copyRequested, this, [this, &desktop](const QString &text) {
         desktop.pasteboard.setString(text);
@@ -202,7 +202,7 @@ QCoro::Task<> VeskApp::pasteIntoField(Pasteboard &pasteboard)
     const QPointer<VeskApp> self(this);
     const std::optional<QString> text = co_await pasteboard.string();
     if (!self.isNull() && text)
-        m_panel.insertIntoField(*text);
+        m_panel.keyboard()->insertIntoField(*text);
 }
 
 } // namespace vesk

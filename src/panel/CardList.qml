@@ -24,7 +24,7 @@ FocusScope {
         if (row < 0)
             return;
         reveal(row);
-        if (root.activeFocus && !root.panel.isEditing && !root.panel.isOnControl)
+        if (root.activeFocus && !root.panel.keyboard.isEditing && !root.panel.keyboard.isOnControl)
             (list.currentItem as CardRow)?.shown?.forceActiveFocus();
     }
 
@@ -45,16 +45,21 @@ FocusScope {
     }
 
     Connections {
-        function onFocusedChanged() {
+        function onChanged() {
             settling.restart();
         }
 
-        function onExpandedChanged() {
-            if (root.panel.expandedId.length > 0)
+        target: root.panel.selection
+        enabled: root.visible
+    }
+
+    Connections {
+        function onChanged() {
+            if (root.panel.openNote.cardId.length > 0)
                 opening.restart();
         }
 
-        target: root.panel
+        target: root.panel.openNote
         enabled: root.visible
     }
 
@@ -64,7 +69,7 @@ FocusScope {
         id: settling
 
         interval: 0
-        onTriggered: root.select(root.panel.focusedId)
+        onTriggered: root.select(root.panel.selection.cardId)
     }
 
     // By then the card has its full height.
@@ -73,7 +78,7 @@ FocusScope {
 
         interval: 380
         onTriggered: {
-            const row = root.rows.rowOf(root.panel.expandedId);
+            const row = root.rows.rowOf(root.panel.openNote.cardId);
             if (row >= 0)
                 root.reveal(row);
         }
@@ -91,8 +96,8 @@ FocusScope {
         activeFocusOnTab: list.count > 0 && !list.activeFocus
         onReached: {
             list.forceActiveFocus();
-            root.panel.selectSomething();
-            root.select(root.panel.focusedId);
+            root.panel.selection.selectSomething();
+            root.select(root.panel.selection.cardId);
         }
     }
 
@@ -148,7 +153,7 @@ FocusScope {
 
     TapHandler {
         parent: list
-        onTapped: root.panel.collapse()
+        onTapped: root.panel.openNote.close()
     }
 
     // A card that is displaced while it still appears ends up whole as well.

@@ -52,6 +52,10 @@ Plate {
                 edit.text = root.model.draft;
         }
 
+        target: root.model
+    }
+
+    Connections {
         function onLineBreakRequested() {
             root.replaceSelection("\n");
         }
@@ -61,7 +65,7 @@ Plate {
                 root.replaceSelection(text);
         }
 
-        target: root.model
+        target: root.model.keyboard
     }
 
     MouseArea {

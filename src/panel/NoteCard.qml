@@ -12,8 +12,8 @@ Item {
 
     required property NoteRoles row
     readonly property PanelModel panel: root.row.panel
-    readonly property bool isExpanded: root.panel.expandedId === root.row.cardId
-    readonly property bool isSelected: root.panel.focusedId === root.row.cardId
+    readonly property bool isExpanded: root.panel.openNote.cardId === root.row.cardId
+    readonly property bool isSelected: root.panel.selection.cardId === root.row.cardId
     // How far the card is open, from 0 to 1.
     property real openness: root.isExpanded ? 1 : 0
     property Item form: null
@@ -27,7 +27,7 @@ Item {
     Accessible.focusable: true
     Accessible.selectable: true
     Accessible.selected: root.isSelected
-    Accessible.onPressAction: root.panel.cards.open(root.row.cardId)
+    Accessible.onPressAction: root.panel.cards.activate(root.row.cardId)
 
     Behavior on openness {
         Spring {
@@ -46,7 +46,7 @@ Item {
 
     MouseArea {
         anchors.fill: parent
-        onClicked: root.panel.cards.open(root.row.cardId)
+        onClicked: root.panel.cards.activate(root.row.cardId)
     }
 
     Item {
@@ -128,6 +128,6 @@ Item {
     MouseArea {
         anchors.fill: actions
         visible: !actions.isUp
-        onClicked: root.panel.cards.open(root.row.cardId)
+        onClicked: root.panel.cards.activate(root.row.cardId)
     }
 }

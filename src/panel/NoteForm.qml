@@ -20,7 +20,7 @@ FocusScope {
     height: implicitHeight
     Component.onDestruction: {
         if (editor.hasFocus)
-            root.panel.isEditing = false;
+            root.panel.keyboard.isEditing = false;
     }
 
     NoteEditor {
@@ -43,13 +43,13 @@ FocusScope {
         takesCommandReturn: true
         takesEscape: true
         onEdited: text => root.panel.cards.edit(root.cardId, text)
-        onCommandReturned: root.panel.collapse()
-        onEscaped: root.panel.collapse()
+        onCommandReturned: root.panel.openNote.close()
+        onEscaped: root.panel.openNote.close()
         onContentHeightReported: height => {
             reportedHeight = height;
             isSettled = true;
         }
-        onHasFocusChanged: root.panel.isEditing = hasFocus
+        onHasFocusChanged: root.panel.keyboard.isEditing = hasFocus
 
         Behavior on reportedHeight {
             enabled: editor.isSettled

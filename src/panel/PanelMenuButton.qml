@@ -38,7 +38,7 @@ SymbolButton {
 
         MenuEntry {
             text: qsTr("New Note (⌃⌥⌘N)")
-            onTriggered: root.model.requestField(PanelModel.Field.Composer)
+            onTriggered: root.model.requestField(PanelKeyboard.Field.Composer)
         }
 
         MenuEntry {
@@ -54,7 +54,7 @@ SymbolButton {
         MenuEntry {
             text: qsTr("Clear Done Prompts")
             isEnabled: root.model.prompts.hasDone
-            onTriggered: root.model.clearDonePrompts()
+            onTriggered: root.model.cards.clearDonePrompts()
         }
 
         MenuEntry {

@@ -18,9 +18,9 @@ FocusScope {
         // Whatever covers the panel has it.
         if (!root.enabled)
             return;
-        if (field === PanelModel.Field.Search)
+        if (field === PanelKeyboard.Field.Search)
             search.takeKeyboard();
-        else if (field === PanelModel.Field.Composer)
+        else if (field === PanelKeyboard.Field.Composer)
             composer.takeKeyboard();
         else
             content.takeKeyboard();
@@ -29,29 +29,29 @@ FocusScope {
     focus: true
 
     Binding {
-        target: root.model
+        target: root.model.keyboard
         property: "activeField"
-        value: search.hasKeyboard ? PanelModel.Field.Search : composer.hasKeyboard ? PanelModel.Field.Composer : PanelModel.Field.None
+        value: search.hasKeyboard ? PanelKeyboard.Field.Search : composer.hasKeyboard ? PanelKeyboard.Field.Composer : PanelKeyboard.Field.None
     }
 
     Binding {
-        target: root.model
+        target: root.model.keyboard
         property: "isComposing"
         value: search.isComposing || composer.isComposing
     }
 
     Binding {
-        target: root.model
+        target: root.model.keyboard
         property: "isOnControl"
         value: root.keyboard instanceof PressButton
     }
 
     Connections {
         function onFieldRequestChanged() {
-            root.giveKeyboard(root.model.requestedField);
+            root.giveKeyboard(root.model.keyboard.requestedField);
         }
 
-        target: root.model
+        target: root.model.keyboard
     }
 
     Surface {

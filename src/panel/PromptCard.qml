@@ -14,7 +14,7 @@ Item {
     required property string text
     required property bool isDone
     required property PanelModel panel
-    readonly property bool isSelected: root.panel.focusedId === root.cardId
+    readonly property bool isSelected: root.panel.selection.cardId === root.cardId
 
     implicitHeight: body.y + body.height + 3 + actions.height + 6
     activeFocusOnTab: root.isSelected || activeFocus
@@ -23,7 +23,7 @@ Item {
     Accessible.focusable: true
     Accessible.selectable: true
     Accessible.selected: root.isSelected
-    Accessible.onPressAction: root.panel.cards.toggleDone(root.cardId)
+    Accessible.onPressAction: root.panel.cards.activate(root.cardId)
 
     HoverHandler {
         id: hover
@@ -48,7 +48,7 @@ Item {
         Accessible.role: Accessible.CheckBox
         Accessible.checkable: true
         Accessible.checked: root.isDone
-        onClicked: root.panel.cards.toggleDone(root.cardId)
+        onClicked: root.panel.cards.activate(root.cardId)
 
         CheckCircle {
             anchors.centerIn: parent

@@ -35,6 +35,10 @@ Plate {
             input.insert(input.cursorPosition, text.replace(/\s*\n\s*/g, " "));
         }
 
+        target: root.model.keyboard
+    }
+
+    Connections {
         function onSearchChanged() {
             if (input.text !== root.model.search)
                 input.text = root.model.search;

@@ -2,11 +2,17 @@
 #include "panel/cardactions.h"
 
 #include "notes/notesstore.h"
-#include "panel/panelmodel.h"
+#include "panel/cardselection.h"
+#include "panel/opennote.h"
+
+using namespace std::chrono_literals;
 
 namespace vesk {
 
 namespace {
+
+/// So much of what is typed into a note can be lost with the power.
+constexpr auto kSavesWithin = 2s;
 
 RecordId idOf(const QString &text)
 {
@@ -24,34 +30,51 @@ std::optional<QUrl> findAddress(const std::optional<QString> &text)
 
 } // namespace
 
-CardActions::CardActions(PanelModel &panel, NotesStore &store)
-    : m_panel(panel)
-    , m_store(store)
+CardActions::CardActions(NotesStore &store, Clock &clock, OpenNote &openNote, CardSelection &selection)
+    : m_store(store)
+    , m_clock(clock)
+    , m_openNote(openNote)
+    , m_selection(selection)
 {
-}
-
-void CardActions::open(const QString &id)
-{
-    if (const Note *note = m_store.findNote(idOf(id)))
-        m_panel.open(*note);
 }
 
 void CardActions::edit(const QString &id, const QString &text)
 {
-    if (Note *note = m_store.findNote(idOf(id)))
-        m_panel.edit(*note, text);
+    Note *note = m_store.findNote(idOf(id));
+    if (!note || note->text() == text)
+        return;
+    note->setText(text);
+    if (!m_savesSoon)
+        saveSoon(this, &m_clock);
+}
+
+QCoro::Task<> CardActions::saveSoon(QPointer<CardActions> self, Clock *clock)
+{
+    self->m_savesSoon = true;
+    co_await clock->sleep(kSavesWithin);
+    if (!self)
+        co_return;
+    self->m_savesSoon = false;
+    // A save that fails is made up for by the store; here and below, what was done is in the list.
+    self->m_store.save();
 }
 
 void CardActions::togglePinned(const QString &id)
 {
-    if (Note *note = m_store.findNote(idOf(id)))
-        m_panel.togglePinned(*note);
+    Note *note = m_store.findNote(idOf(id));
+    if (!note)
+        return;
+    note->setPinned(!note->isPinned());
+    m_store.save();
 }
 
 void CardActions::toggleItem(const QString &id, int line)
 {
-    if (Note *note = m_store.findNote(idOf(id)))
-        m_panel.toggleItem(*note, line);
+    Note *note = m_store.findNote(idOf(id));
+    if (!note)
+        return;
+    note->toggleItem(line);
+    m_store.save();
 }
 
 void CardActions::openSource(const QString &id)
@@ -65,18 +88,50 @@ void CardActions::openSource(const QString &id)
         Q_EMIT applicationRequested(*bundle);
 }
 
-void CardActions::toggleDone(const QString &id)
+void CardActions::clearDonePrompts()
 {
-    if (Prompt *prompt = m_store.findPrompt(idOf(id)))
-        m_panel.toggleDone(*prompt);
+    const QList<Prompt *> done = m_store.donePrompts();
+    for (Prompt *prompt : done)
+        m_store.remove(*prompt);
+    m_store.save();
+}
+
+void CardActions::activate(const QString &id)
+{
+    activate(idOf(id));
+}
+
+bool CardActions::activate(const RecordId &id)
+{
+    const Note *note = m_store.findNote(id);
+    Prompt *prompt = m_store.findPrompt(id);
+    if (note) {
+        m_openNote.open(*note);
+    } else if (prompt) {
+        prompt->toggleDone();
+        m_store.save();
+    }
+    return note || prompt;
 }
 
 void CardActions::remove(const QString &id)
 {
-    if (Note *note = m_store.findNote(idOf(id)))
-        m_panel.deleteNote(*note);
-    else if (Prompt *prompt = m_store.findPrompt(idOf(id)))
-        m_panel.deletePrompt(*prompt);
+    remove(idOf(id));
+}
+
+bool CardActions::remove(const RecordId &id)
+{
+    Note *note = m_store.findNote(id);
+    Prompt *prompt = m_store.findPrompt(id);
+    if (!note && !prompt)
+        return false;
+    m_selection.leave(id);
+    if (note)
+        m_store.remove(*note);
+    else
+        m_store.remove(*prompt);
+    m_store.save();
+    return true;
 }
 
 void CardActions::copy(const QString &id)
@@ -101,8 +156,8 @@ bool CardActions::pasteBack(const RecordId &id)
     // Read before the note is closed, which removes a blank one.
     const QString text = note ? note->text() : prompt->text();
     if (note)
-        m_panel.collapse();
-    Q_EMIT m_panel.pasteRequested(text);
+        m_openNote.close();
+    Q_EMIT pasteRequested(text);
     return true;
 }
 

@@ -116,15 +116,15 @@ bool holds(When when, const PanelKeyState &state)
     case When::NoteIsOpen:
         return state.isNoteOpen;
     case When::NoField:
-        return state.field == PanelModel::Field::None;
+        return state.field == PanelKeyboard::Field::None;
     case When::AnyField:
-        return state.field != PanelModel::Field::None;
+        return state.field != PanelKeyboard::Field::None;
     case When::InSearch:
-        return state.field == PanelModel::Field::Search;
+        return state.field == PanelKeyboard::Field::Search;
     case When::InSearchWithText:
-        return state.field == PanelModel::Field::Search && state.isSearching;
+        return state.field == PanelKeyboard::Field::Search && state.isSearching;
     case When::InComposer:
-        return state.field == PanelModel::Field::Composer;
+        return state.field == PanelKeyboard::Field::Composer;
     }
     Q_UNREACHABLE();
 }

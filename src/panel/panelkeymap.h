@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "panel/panelmodel.h"
+#include "panel/panelkeyboard.h"
 
 namespace vesk {
 
@@ -27,7 +27,7 @@ enum class PanelAction {
 /// What the meaning of a key depends on.
 struct PanelKeyState
 {
-    PanelModel::Field field = PanelModel::Field::None;
+    PanelKeyboard::Field field = PanelKeyboard::Field::None;
     bool isNoteOpen = false;
     bool isSearching = false;
 };

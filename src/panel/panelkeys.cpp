@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The part of the panel's model that takes key presses. What a key means stands in the key map.
-#include "notes/notesstore.h"
+#include "panel/panelkeys.h"
+
 #include "panel/panelkeymap.h"
 #include "panel/panelmodel.h"
 #include "platform/application.h"
@@ -9,120 +9,85 @@
 
 namespace vesk {
 
-bool PanelModel::handleKey(const QKeyEvent &event)
+PanelKeys::PanelKeys(PanelModel &panel, Application &application)
+    : m_panel(panel)
+    , m_application(application)
 {
-    if (m_isEditing || m_isComposing || m_guide.isShown())
+}
+
+bool PanelKeys::handle(const QKeyEvent &event)
+{
+    PanelKeyboard &keyboard = *m_panel.keyboard();
+    if (keyboard.isEditing() || keyboard.isComposing() || m_panel.guide()->isShown())
         return false;
-    if (m_activeField != Field::None && event.matches(QKeySequence::Paste)) {
-        Q_EMIT fieldPasteRequested();
+    if (keyboard.isInField() && event.matches(QKeySequence::Paste)) {
+        Q_EMIT keyboard.fieldPasteRequested();
         return true;
     }
-    const PanelAction action = panelAction(
-        event.key(), event.modifiers(),
-        {.field = m_activeField, .isNoteOpen = m_expanded.has_value(), .isSearching = !m_search.isEmpty()});
-    if (action == PanelAction::OpenSelected && m_isOnControl)
+    const PanelAction action = panelAction(event.key(), event.modifiers(),
+                                           {.field = keyboard.activeField(),
+                                            .isNoteOpen = m_panel.openNote()->id().has_value(),
+                                            .isSearching = !m_panel.search().isEmpty()});
+    if (action == PanelAction::OpenSelected && keyboard.isOnControl())
         return false;
     return perform(action, event.key());
 }
 
-bool PanelModel::perform(PanelAction action, int key)
+bool PanelKeys::perform(PanelAction action, int key)
 {
+    using Field = PanelKeyboard::Field;
+    PanelKeyboard &keyboard = *m_panel.keyboard();
+    const std::optional<RecordId> &selected = m_panel.selection()->selected();
     switch (action) {
     case PanelAction::Pass:
         return false;
     case PanelAction::WriteNote:
-        requestField(Field::Composer);
+        m_panel.requestField(Field::Composer);
         return true;
     case PanelAction::Search:
-        requestField(Field::Search);
+        m_panel.requestField(Field::Search);
         return true;
     case PanelAction::MoveSelection:
-        if (m_activeField == Field::Search || m_isOnControl)
-            requestField(Field::None);
-        moveFocus(key == Qt::Key_Down ? 1 : -1);
+        if (keyboard.activeField() == Field::Search || keyboard.isOnControl())
+            keyboard.request(Field::None);
+        m_panel.selection()->move(key == Qt::Key_Down ? 1 : -1);
         return true;
     case PanelAction::DeleteSelected:
-        return deleteSelected();
+        return selected && m_panel.cards()->remove(*selected);
     case PanelAction::CloseNote:
-        collapse();
+        m_panel.openNote()->close();
         return true;
     case PanelAction::HidePanel:
         m_application.hide();
         return true;
     case PanelAction::ClearSearch:
-        setSearch({});
+        m_panel.setSearch({});
         return true;
     case PanelAction::LeaveField:
-        requestField(Field::None);
+        keyboard.request(Field::None);
         return true;
     case PanelAction::OpenFound:
         return openFound();
     case PanelAction::CommitDraft:
-        commitDraft();
+        m_panel.commitDraft();
         return true;
     case PanelAction::BreakLine:
-        Q_EMIT lineBreakRequested();
+        Q_EMIT keyboard.lineBreakRequested();
         return true;
     case PanelAction::OpenSelected:
-        return openSelected();
+        return selected && m_panel.cards()->activate(*selected);
     case PanelAction::PasteSelected:
-        return pasteSelected();
+        return selected && m_panel.cards()->pasteBack(*selected);
     }
     Q_UNREACHABLE();
 }
 
-bool PanelModel::openFound()
+bool PanelKeys::openFound()
 {
-    const SectionedListModel &list = currentList();
-    std::optional<RecordId> target = m_focused;
-    if (!target || !list.visibleIndex(*target))
-        target = list.visibleCount() > 0 ? std::optional(list.visibleAt(0)) : std::nullopt;
-    if (!target)
+    if (!m_panel.selection()->selectSomething())
         return false;
-    if (const Note *note = m_store.findNote(*target)) {
-        open(*note);
-        return true;
-    }
-    Prompt *prompt = m_store.findPrompt(*target);
-    if (!prompt)
-        return false;
-    requestField(Field::None);
-    setFocused(target);
-    toggleDone(*prompt);
-    return true;
-}
-
-bool PanelModel::openSelected()
-{
-    if (!m_focused)
-        return false;
-    if (const Note *note = m_store.findNote(*m_focused)) {
-        open(*note);
-        return true;
-    }
-    Prompt *prompt = m_store.findPrompt(*m_focused);
-    if (prompt)
-        toggleDone(*prompt);
-    return prompt != nullptr;
-}
-
-bool PanelModel::deleteSelected()
-{
-    if (!m_focused)
-        return false;
-    if (Note *note = m_store.findNote(*m_focused)) {
-        deleteNote(*note);
-        return true;
-    }
-    Prompt *prompt = m_store.findPrompt(*m_focused);
-    if (prompt)
-        deletePrompt(*prompt);
-    return prompt != nullptr;
-}
-
-bool PanelModel::pasteSelected()
-{
-    return m_focused && m_cards.pasteBack(*m_focused);
+    m_panel.keyboard()->request(PanelKeyboard::Field::None);
+    return m_panel.cards()->activate(*m_panel.selection()->selected());
 }
 
 } // namespace vesk

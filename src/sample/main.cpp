@@ -202,9 +202,9 @@ int main(int argc, char *argv[])
     // The list has its size by then, and the box its text.
     QTimer::singleShot(200, &program, [&] {
         if (const auto id = cardAt(model, options.value(select).toInt()))
-            model.setFocused(id);
+            model.selection()->select(id);
         if (const auto id = cardAt(model, options.value(open).toInt()))
-            model.cards()->open(id->toString(QUuid::WithoutBraces));
+            model.cards()->activate(*id);
         if (box.window())
             moveCaretToEnd(*box.window());
     });

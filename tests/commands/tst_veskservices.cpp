@@ -522,7 +522,7 @@ void TestVeskServices::openKeyTogglesThePanel()
     QVERIFY(!world.panelWindow->isShown());
     world.press(hotkeytable::kWrite);
     QVERIFY(world.panelWindow->isShown());
-    QCOMPARE(world.panel.requestedField(), PanelModel::Field::Composer);
+    QCOMPARE(world.panel.keyboard()->requestedField(), PanelModel::Field::Composer);
 }
 
 QTEST_MAIN(TestVeskServices)

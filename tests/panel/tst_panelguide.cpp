@@ -73,7 +73,7 @@ void PanelGuideTest::firstRunShowsIt()
     press(Qt::Key_Escape);
     QVERIFY2(!guide() && m_fixture->panel.isShown(), "Escape is for the guide alone.");
     press(Qt::Key_Down);
-    QVERIFY2(!model().focusedId().isEmpty(), "The list has the keyboard again.");
+    QVERIFY2(!model().selection()->cardId().isEmpty(), "The list has the keyboard again.");
     m_fixture->panel.togglePanel();
     show();
     QVERIFY(!guide());
@@ -96,9 +96,9 @@ void PanelGuideTest::panelIsOutOfReach()
     QVERIFY(card);
     QTest::mouseClick(&window(), Qt::LeftButton, {},
                       card->mapToScene(card->boundingRect().center()).toPoint());
-    QCOMPARE(model().focusedId(), QString());
-    QCOMPARE(model().expandedId(), QString());
-    QCOMPARE(model().activeField(), Field::None);
+    QCOMPARE(model().selection()->cardId(), QString());
+    QCOMPARE(model().openNote()->cardId(), QString());
+    QCOMPARE(model().keyboard()->activeField(), Field::None);
     QCOMPARE(m_fixture->store->notes().count(), 1);
     // Going away and coming back does not change who has the keyboard.
     m_fixture->panel.togglePanel();
@@ -111,12 +111,12 @@ void PanelGuideTest::keyboardGoesBackToWhereItWas()
     m_fixture->defaults.setBool(true, u"hasSeenGuide"_s);
     show();
     press(Qt::Key_F, Qt::ControlModifier);
-    QCOMPARE(model().activeField(), Field::Search);
+    QCOMPARE(model().keyboard()->activeField(), Field::Search);
     Q_EMIT model().menu()->guideRequested();
-    QCOMPARE(model().activeField(), Field::None);
+    QCOMPARE(model().keyboard()->activeField(), Field::None);
     QTest::keyClick(&window(), 'x');
     press(Qt::Key_Escape);
-    QCOMPARE(model().activeField(), Field::Search);
+    QCOMPARE(model().keyboard()->activeField(), Field::Search);
     QTest::keyClick(&window(), 'o');
     QCOMPARE(model().search(), u"o"_s);
 }

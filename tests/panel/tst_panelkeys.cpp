@@ -49,7 +49,7 @@ private:
     }
     [[nodiscard]] QString focusedText() const
     {
-        const std::optional<RecordId> &id = m_fixture->model.focused();
+        const std::optional<RecordId> &id = m_fixture->model.selection()->selected();
         return id ? m_fixture->store->findNote(*id)->text() : QString();
     }
 
@@ -63,7 +63,7 @@ void PanelKeysTest::init()
         m_fixture->addNote(text);
     m_fixture->panel.showPanel();
     QVERIFY(QTest::qWaitForWindowActive(&m_fixture->panel.window()));
-    QCOMPARE(m_fixture->model.activeField(), Field::None);
+    QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::None);
 }
 
 void PanelKeysTest::arrowsStopAtTheEnds()
@@ -101,10 +101,10 @@ void PanelKeysTest::arrowsByField()
 {
     QFETCH(Field, field);
     m_fixture->model.requestField(field);
-    QCOMPARE(m_fixture->model.activeField(), field);
+    QCOMPARE(m_fixture->model.keyboard()->activeField(), field);
     press(Qt::Key_Up);
     QTEST(focusedText(), "focused");
-    QTEST(m_fixture->model.activeField(), "fieldAfter");
+    QTEST(m_fixture->model.keyboard()->activeField(), "fieldAfter");
 }
 
 void PanelKeysTest::escapeGoesStepByStep()
@@ -116,9 +116,9 @@ void PanelKeysTest::escapeGoesStepByStep()
     QCOMPARE(m_fixture->model.search(), u"tw"_s);
     press(Qt::Key_Escape);
     QCOMPARE(m_fixture->model.search(), QString());
-    QCOMPARE(m_fixture->model.activeField(), Field::Search);
+    QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Search);
     press(Qt::Key_Escape);
-    QCOMPARE(m_fixture->model.activeField(), Field::None);
+    QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::None);
     QVERIFY(!m_fixture->application.isHidden());
     press(Qt::Key_Escape);
     QVERIFY(m_fixture->application.isHidden());
@@ -180,7 +180,7 @@ void PanelKeysTest::composerCommits()
     QVERIFY(!m_fixture->store->hasPendingChanges());
     QCOMPARE(m_fixture->model.draft(), QString());
     QCOMPARE(m_fixture->model.search(), QString());
-    QCOMPARE(m_fixture->model.activeField(), Field::Composer);
+    QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Composer);
     type(u"next"_s);
     QCOMPARE(m_fixture->model.draft(), u"next"_s);
 }
@@ -198,17 +198,17 @@ void PanelKeysTest::shortcutsFromAnyField()
     QFETCH(Field, from);
     m_fixture->model.requestField(from);
     press(Qt::Key_N, Qt::ControlModifier);
-    QCOMPARE(m_fixture->model.activeField(), Field::Composer);
+    QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Composer);
     m_fixture->model.requestField(from);
     press(Qt::Key_F, Qt::ControlModifier);
-    QCOMPARE(m_fixture->model.activeField(), Field::Search);
+    QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Search);
     press(Qt::Key_N, Qt::ControlModifier | Qt::AltModifier);
-    QCOMPARE(m_fixture->model.activeField(), Field::Search);
+    QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Search);
 }
 
 void PanelKeysTest::pasteGoesIntoTheFieldThatHasTheKeyboard()
 {
-    QSignalSpy pastes(&m_fixture->model, &PanelModel::fieldPasteRequested);
+    QSignalSpy pastes(m_fixture->model.keyboard(), &PanelKeyboard::fieldPasteRequested);
     press(Qt::Key_V, Qt::ControlModifier);
     QVERIFY(pastes.isEmpty());
     press(Qt::Key_N, Qt::ControlModifier);
@@ -216,19 +216,19 @@ void PanelKeysTest::pasteGoesIntoTheFieldThatHasTheKeyboard()
     press(Qt::Key_A, Qt::ControlModifier);
     press(Qt::Key_V, Qt::ControlModifier);
     QCOMPARE(pastes.count(), 1);
-    m_fixture->model.insertIntoField(u"one\ntwo"_s);
+    m_fixture->model.keyboard()->insertIntoField(u"one\ntwo"_s);
     QCOMPARE(m_fixture->model.draft(), u"one\ntwo"_s);
     press(Qt::Key_F, Qt::ControlModifier);
     press(Qt::Key_Insert, Qt::ShiftModifier);
     QCOMPARE(pastes.count(), 2);
-    m_fixture->model.insertIntoField(u"one\n two"_s);
+    m_fixture->model.keyboard()->insertIntoField(u"one\n two"_s);
     QCOMPARE(m_fixture->model.search(), u"one two"_s);
     QCOMPARE(m_fixture->model.draft(), u"one\ntwo"_s);
 }
 
 void PanelKeysTest::controlReturnPastesTheSelectedNote()
 {
-    QSignalSpy pastes(&m_fixture->model, &PanelModel::pasteRequested);
+    QSignalSpy pastes(m_fixture->model.cards(), &CardActions::pasteRequested);
     press(Qt::Key_Return, Qt::ControlModifier);
     QVERIFY(pastes.isEmpty());
     press(Qt::Key_Down);
@@ -256,7 +256,7 @@ void PanelKeysTest::sameFieldCanBeAskedForTwice()
     m_fixture->model.requestField(Field::Search);
     m_fixture->model.requestField(Field::Composer);
     m_fixture->model.requestField(Field::Composer);
-    QCOMPARE(m_fixture->model.activeField(), Field::Composer);
+    QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Composer);
 }
 
 void PanelKeysTest::composingKeepsItsKeys()
@@ -265,12 +265,12 @@ void PanelKeysTest::composingKeepsItsKeys()
     QInputMethodEvent composing(u"kana"_s, {});
     QCoreApplication::sendEvent(m_fixture->panel.window().focusObject(), &composing);
     press(Qt::Key_Escape);
-    QCOMPARE(m_fixture->model.activeField(), Field::Composer);
+    QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Composer);
     QInputMethodEvent committed;
     committed.setCommitString(u"x"_s);
     QCoreApplication::sendEvent(m_fixture->panel.window().focusObject(), &committed);
     press(Qt::Key_Escape);
-    QCOMPARE(m_fixture->model.activeField(), Field::None);
+    QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::None);
 }
 
 QTEST_MAIN(PanelKeysTest)

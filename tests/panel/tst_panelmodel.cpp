@@ -54,6 +54,10 @@ private:
             clock.advance(1s);
             return prompt;
         }
+        void edit(const Note &note, const QString &text)
+        {
+            model.cards()->edit(note.id().toString(QUuid::WithoutBraces), text);
+        }
         bool press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
         {
             return model.handleKey(QKeyEvent(QEvent::KeyPress, key, modifiers));
@@ -134,12 +138,12 @@ void PanelModelTest::openingAnotherClosesTheFirst()
 {
     Note &first = m_world->addNote(u"first"_s);
     Note &second = m_world->addNote(u"second"_s);
-    m_world->model.open(first);
-    m_world->model.edit(first, u"first, changed"_s);
+    m_world->model.openNote()->open(first);
+    m_world->edit(first, u"first, changed"_s);
     QCOMPARE(m_world->model.notes()->visibleAt(0), second.id());
-    m_world->model.open(second);
-    QCOMPARE(m_world->model.expanded(), second.id());
-    QCOMPARE(m_world->model.focused(), second.id());
+    m_world->model.openNote()->open(second);
+    QCOMPARE(m_world->model.openNote()->id(), second.id());
+    QCOMPARE(m_world->model.selection()->selected(), second.id());
     QCOMPARE(m_world->model.notes()->visibleAt(0), first.id());
     QVERIFY(!m_world->store->hasPendingChanges());
 }
@@ -148,11 +152,11 @@ void PanelModelTest::blankNoteGoesWhenItIsClosed()
 {
     Note &note = m_world->addNote(u"x"_s);
     const RecordId id = note.id();
-    m_world->model.open(note);
-    m_world->model.edit(note, u" \n "_s);
-    m_world->model.collapse();
+    m_world->model.openNote()->open(note);
+    m_world->edit(note, u" \n "_s);
+    m_world->model.openNote()->close();
     QVERIFY(!m_world->store->findNote(id));
-    QVERIFY(!m_world->model.focused());
+    QVERIFY(!m_world->model.selection()->selected());
     QVERIFY(!m_world->store->hasPendingChanges());
 }
 
@@ -160,15 +164,15 @@ void PanelModelTest::typedTextIsSavedSoon()
 {
     Note &note = m_world->addNote(u"x"_s);
     m_world->store->save();
-    m_world->model.open(note);
-    m_world->model.edit(note, u"xy"_s);
+    m_world->model.openNote()->open(note);
+    m_world->edit(note, u"xy"_s);
     QVERIFY(m_world->store->hasPendingChanges());
     m_world->clock.advance(2s);
     QVERIFY(!m_world->store->hasPendingChanges());
     const Date before = note.updatedAt();
     m_world->clock.advance(1s);
     // What the editor reports without a change is none.
-    m_world->model.edit(note, u"xy"_s);
+    m_world->edit(note, u"xy"_s);
     QCOMPARE(note.updatedAt(), before);
 }
 
@@ -176,10 +180,10 @@ void PanelModelTest::deletingTheOpenNoteLetsTheOthersMove()
 {
     m_world->addNote(u"other"_s);
     Note &note = m_world->addNote(u"open"_s);
-    m_world->model.open(note);
+    m_world->model.openNote()->open(note);
     Note &third = m_world->addNote(u"third"_s);
-    m_world->model.deleteNote(note);
-    QVERIFY(!m_world->model.expanded());
+    m_world->model.cards()->remove(note.id());
+    QVERIFY(!m_world->model.openNote()->id());
     third.setText(u"third, changed"_s);
     QCOMPARE(m_world->model.notes()->visibleAt(0), third.id());
 }
@@ -187,9 +191,9 @@ void PanelModelTest::deletingTheOpenNoteLetsTheOthersMove()
 void PanelModelTest::openNoteIsDeletedElsewhere()
 {
     Note &note = m_world->addNote(u"open"_s);
-    m_world->model.open(note);
+    m_world->model.openNote()->open(note);
     m_world->store->remove(note);
-    QVERIFY(!m_world->model.expanded());
+    QVERIFY(!m_world->model.openNote()->id());
     QVERIFY(!m_world->press(Qt::Key_Return));
     QVERIFY(!m_world->press(Qt::Key_Backspace, Qt::ControlModifier));
     QVERIFY(m_world->press(Qt::Key_Down));
@@ -241,7 +245,7 @@ void PanelModelTest::clearingDonePrompts()
     m_world->addPrompt(u"two"_s);
     m_world->addPrompt(u"three"_s).toggleDone();
     QVERIFY(m_world->model.prompts()->hasDone());
-    m_world->model.clearDonePrompts();
+    m_world->model.cards()->clearDonePrompts();
     QVERIFY(!m_world->model.prompts()->hasDone());
     QCOMPARE(m_world->store->prompts().count(), 1);
     QVERIFY(!m_world->store->hasPendingChanges());
@@ -270,15 +274,15 @@ void PanelModelTest::returnInSearch()
 {
     Note &note = m_world->addNote(u"tea"_s);
     Note &other = m_world->addNote(u"coffee"_s);
-    m_world->model.setActiveField(Field::Search);
+    m_world->model.keyboard()->setActiveField(Field::Search);
     // A selection that the search has taken away is not opened unseen.
-    m_world->model.setFocused(other.id());
+    m_world->model.selection()->select(other.id());
     m_world->model.setSearch(u"tea"_s);
     QVERIFY(m_world->press(Qt::Key_Return));
-    QCOMPARE(m_world->model.expanded(), note.id());
-    QCOMPARE(m_world->model.requestedField(), Field::None);
+    QCOMPARE(m_world->model.openNote()->id(), note.id());
+    QCOMPARE(m_world->model.keyboard()->requestedField(), Field::None);
 
-    m_world->model.collapse();
+    m_world->model.openNote()->close();
     m_world->model.setSearch(u"nothing such"_s);
     QVERIFY(!m_world->press(Qt::Key_Return));
 
@@ -287,16 +291,16 @@ void PanelModelTest::returnInSearch()
     m_world->model.setSearch(u"tea"_s);
     QVERIFY(m_world->press(Qt::Key_Return));
     QVERIFY(prompt.isDone());
-    QCOMPARE(m_world->model.focused(), prompt.id());
+    QCOMPARE(m_world->model.selection()->selected(), prompt.id());
 }
 
 void PanelModelTest::fieldClosesTheNote()
 {
-    m_world->model.open(m_world->addNote(u"tea"_s));
-    m_world->model.setActiveField(Field::None);
-    QVERIFY(m_world->model.expanded());
-    m_world->model.setActiveField(Field::Composer);
-    QVERIFY(!m_world->model.expanded());
+    m_world->model.openNote()->open(m_world->addNote(u"tea"_s));
+    m_world->model.keyboard()->setActiveField(Field::None);
+    QVERIFY(m_world->model.openNote()->id());
+    m_world->model.keyboard()->setActiveField(Field::Composer);
+    QVERIFY(!m_world->model.openNote()->id());
 }
 
 void PanelModelTest::sourceLeadsBack_data()
@@ -333,10 +337,10 @@ void PanelModelTest::sourceLeadsBack()
 void PanelModelTest::pastingAnOpenNoteClosesIt()
 {
     Note &note = m_world->addNote(u"tea"_s);
-    QSignalSpy pastes(&m_world->model, &PanelModel::pasteRequested);
-    m_world->model.open(note);
+    QSignalSpy pastes(m_world->model.cards(), &CardActions::pasteRequested);
+    m_world->model.openNote()->open(note);
     QVERIFY(m_world->press(Qt::Key_Return, Qt::ControlModifier));
-    QVERIFY(!m_world->model.expanded());
+    QVERIFY(!m_world->model.openNote()->id());
     QCOMPARE(pastes.constFirst().constFirst().toString(), u"tea"_s);
 }
 

@@ -118,8 +118,8 @@ void PanelViewTest::noteIsEditedInPlace()
 {
     Note &two = m_fixture->store->notes().at(1);
     click(*shown("NoteCard").at(1));
-    QCOMPARE(m_fixture->model.expanded(), two.id());
-    QTRY_VERIFY(m_fixture->model.property("isEditing").toBool());
+    QCOMPARE(m_fixture->model.openNote()->id(), two.id());
+    QTRY_VERIFY(m_fixture->model.keyboard()->isEditing());
     press(Qt::Key_End, Qt::ControlModifier);
     type(u" more"_s);
     QCOMPARE(two.text(), u"two more"_s);
@@ -132,19 +132,19 @@ void PanelViewTest::noteIsEditedInPlace()
     QVERIFY(!m_fixture->store->hasPendingChanges());
     // The keys are the list's again.
     press(Qt::Key_Down);
-    QCOMPARE(m_fixture->model.focused(), m_fixture->store->notes().at(1).id());
+    QCOMPARE(m_fixture->model.selection()->selected(), m_fixture->store->notes().at(1).id());
 }
 
 void PanelViewTest::editorKeepsItsKeys()
 {
     press(Qt::Key_Down);
     press(Qt::Key_Return);
-    QTRY_VERIFY(m_fixture->model.property("isEditing").toBool());
+    QTRY_VERIFY(m_fixture->model.keyboard()->isEditing());
     press(Qt::Key_N, Qt::ControlModifier);
     press(Qt::Key_Down);
     press(Qt::Key_A, Qt::ControlModifier);
     press(Qt::Key_Backspace);
-    QCOMPARE(m_fixture->model.activeField(), Field::None);
+    QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::None);
     QCOMPARE(m_fixture->store->notes().first()->text(), QString());
     press(Qt::Key_Escape);
     // Left blank, the note is gone.
@@ -156,10 +156,10 @@ void PanelViewTest::editorKeepsItsKeys()
 void PanelViewTest::fieldTakesTheKeyboardFromTheEditor()
 {
     click(*shown("NoteCard").constFirst());
-    QTRY_VERIFY(m_fixture->model.property("isEditing").toBool());
+    QTRY_VERIFY(m_fixture->model.keyboard()->isEditing());
     click(*shown("Composer").constFirst());
-    QCOMPARE(m_fixture->model.activeField(), Field::Composer);
-    QVERIFY(!m_fixture->model.expanded());
+    QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Composer);
+    QVERIFY(!m_fixture->model.openNote()->id());
     type(u"new"_s);
     QCOMPARE(m_fixture->model.draft(), u"new"_s);
 }
@@ -170,9 +170,9 @@ void PanelViewTest::clickBesideTheCardsCloses()
     QTRY_VERIFY(hasEditor());
     // A click in the open card is the editor's.
     click(*shown("NoteForm").constFirst());
-    QVERIFY(m_fixture->model.expanded());
+    QVERIFY(m_fixture->model.openNote()->id());
     QTest::mouseClick(&window(), Qt::LeftButton, {}, QPoint(220, window().height() - 120));
-    QVERIFY(!m_fixture->model.expanded());
+    QVERIFY(!m_fixture->model.openNote()->id());
 }
 
 void PanelViewTest::openingMovesNothingElse()
@@ -201,14 +201,14 @@ void PanelViewTest::tickingStaysOnTheClosedCard()
     click(*button(u"Mark “tea” as done"_s));
     QCOMPARE(list.text(), u"list\n\u2610 milk\n\u2611 tea"_s);
     QCOMPARE(list.updatedAt(), date);
-    QVERIFY(!m_fixture->model.expanded());
+    QVERIFY(!m_fixture->model.openNote()->id());
     QTRY_VERIFY(button(u"Mark “tea” as not done"_s));
 }
 
 void PanelViewTest::hoverButtons()
 {
     QSignalSpy copies(m_fixture->model.cards(), &CardActions::copyRequested);
-    QSignalSpy pastes(&m_fixture->model, &PanelModel::pasteRequested);
+    QSignalSpy pastes(m_fixture->model.cards(), &CardActions::pasteRequested);
     QVERIFY(!button(u"Copy"_s));
     QTest::mouseMove(&window(), middle(*shown("NoteCard").constFirst()));
     QTRY_VERIFY(button(u"Copy"_s));
@@ -222,7 +222,7 @@ void PanelViewTest::hoverButtons()
     QCOMPARE(pastes.constFirst().constFirst().toString(), u"three"_s);
     click(*button(u"Delete (Ctrl+Backspace)"_s));
     QCOMPARE(m_fixture->store->notes().count(), 2);
-    QVERIFY(!m_fixture->model.expanded());
+    QVERIFY(!m_fixture->model.openNote()->id());
 }
 
 void PanelViewTest::tabsChooseTheList()
@@ -319,9 +319,9 @@ void PanelViewTest::tabKeyGoesAround()
             press(key);
             QTRY_VERIFY(!isPassing());
         } while (window().activeFocusItem() != stops.constFirst() && stops.size() < 40);
-        QCOMPARE(m_fixture->model.activeField(), Field::Search);
+        QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Search);
         // On its way it has come to the list, which shows that by selecting the first card.
-        QCOMPARE(m_fixture->model.focused(), m_fixture->store->notes().first()->id());
+        QCOMPARE(m_fixture->model.selection()->selected(), m_fixture->store->notes().first()->id());
         QVERIFY(stops.contains(shown("NoteCard").constFirst()));
         QVERIFY(stops.contains(button(u"Menu"_s)));
         QVERIFY(stops.contains(button(u"Prompts"_s)));
@@ -333,7 +333,7 @@ void PanelViewTest::buttonIsPressedByReturn()
     press(Qt::Key_Down);
     button(u"Checklists"_s)->forceActiveFocus();
     press(Qt::Key_Return);
-    QVERIFY(!m_fixture->model.expanded());
+    QVERIFY(!m_fixture->model.openNote()->id());
     QCOMPARE(m_fixture->model.tab(), Tab::Checklists);
     button(u"Notes"_s)->forceActiveFocus();
     press(Qt::Key_Space);
@@ -341,7 +341,7 @@ void PanelViewTest::buttonIsPressedByReturn()
     // The arrows are the list's, and take the keyboard there.
     press(Qt::Key_Down);
     press(Qt::Key_Return);
-    QVERIFY(m_fixture->model.expanded());
+    QVERIFY(m_fixture->model.openNote()->id());
 }
 
 QTEST_MAIN(PanelViewTest)

@@ -84,17 +84,17 @@ void PanelWindowTest::toggles()
     m_fixture->panel.togglePanel();
     QVERIFY(m_fixture->panel.isShown());
     QVERIFY(QTest::qWaitForWindowActive(&m_fixture->panel.window()));
-    QCOMPARE(m_fixture->model.activeField(), PanelModel::Field::None);
+    QCOMPARE(m_fixture->model.keyboard()->activeField(), PanelModel::Field::None);
 }
 
 void PanelWindowTest::goesWhenAnotherApplicationIsUsed()
 {
     m_fixture->addNote(u"tea"_s);
     m_fixture->panel.showPanel();
-    m_fixture->model.setFocused(m_fixture->store->notes().first()->id());
+    m_fixture->model.selection()->select(m_fixture->store->notes().first()->id());
     m_fixture->application.resignActive();
     QVERIFY(!m_fixture->panel.isShown());
-    QVERIFY(!m_fixture->model.focused());
+    QVERIFY(!m_fixture->model.selection()->selected());
 }
 
 void PanelWindowTest::closingOnlyHides()
@@ -155,7 +155,7 @@ void PanelWindowTest::clickTicksWithoutMovingTheCard()
     QCOMPARE(note.updatedAt(), before);
     QVERIFY(find(u"Mark “milk” as not done"_s));
     // The card itself was not clicked.
-    QVERIFY(!m_fixture->model.focused());
+    QVERIFY(!m_fixture->model.selection()->selected());
 }
 
 void PanelWindowTest::bannerFollowsTrust()
