@@ -22,10 +22,10 @@ FocusScope {
     // Takes the keyboard when it is shown.
     property bool autofocus: false
     // Whether the host wants the key instead of what it does in a text.
-    property alias takesReturn: view.takesReturn
-    property alias takesCommandReturn: view.takesCommandReturn
-    property alias takesEmptyItemReturn: view.takesEmptyItemReturn
-    property alias takesEscape: view.takesEscape
+    property alias takesReturn: view.keys.takesReturn
+    property alias takesCommandReturn: view.keys.takesCommandReturn
+    property alias takesEmptyItemReturn: view.keys.takesEmptyItemReturn
+    property alias takesEscape: view.keys.takesEscape
     readonly property bool hasFocus: edit.activeFocus || menu.isOpen
     readonly property alias isComposing: edit.inputMethodComposing
     readonly property real inset: 4
@@ -81,10 +81,10 @@ FocusScope {
         visibleTop: flickable.contentY - edit.y
         visibleHeight: flickable.height
         onEdited: text => root.edited(text)
-        onReturned: root.returned()
-        onCommandReturned: root.commandReturned()
-        onEmptyItemReturned: root.emptyItemReturned()
-        onEscaped: root.escaped()
+        keys.onReturned: root.returned()
+        keys.onCommandReturned: root.commandReturned()
+        keys.onEmptyItemReturned: root.emptyItemReturned()
+        keys.onEscaped: root.escaped()
         onLaidOut: root.followCaret()
         onContextMenuRequested: point => menu.show(point)
     }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The key map of the editor: the part of its view that takes keys and what an input method writes.
+#include "editor/notetextkeys.h"
+
+#include "editor/edititem.h"
 #include "editor/editrules.h"
+#include "editor/editsteps.h"
 #include "editor/notetext.h"
 #include "editor/notetextview.h"
 
@@ -63,7 +66,19 @@ bool isModifier(const QKeyEvent &event)
 
 } // namespace
 
-bool NoteTextView::handleShortcut(QKeyEvent &event) const
+NoteTextKeys::NoteTextKeys(NoteTextView &view, const EditItem &edit)
+    : m_view(view)
+    , m_edit(edit)
+{
+}
+
+void NoteTextKeys::start(const NoteText &text, EditSteps &steps)
+{
+    m_text = &text;
+    m_steps = &steps;
+}
+
+bool NoteTextKeys::handleShortcut(QKeyEvent &event) const
 {
     // What is accepted here comes as a key press instead of setting off a shortcut of the window.
     const bool isOurs = m_edit.isComposing() || isRedo(event) || isChecklist(event)
@@ -74,10 +89,8 @@ bool NoteTextView::handleShortcut(QKeyEvent &event) const
     return isOurs;
 }
 
-bool NoteTextView::handleKey(QKeyEvent &event)
+bool NoteTextKeys::handleKey(QKeyEvent &event)
 {
-    m_time = event.timestamp();
-    m_isMovingRight = event.key() == Qt::Key_Right;
     if (m_edit.isComposing()) {
         // The input method lets through what it has no use for. A letter follows what was composed so
         // far; any other key would tear it apart.
@@ -89,7 +102,7 @@ bool NoteTextView::handleKey(QKeyEvent &event)
         return false;
     }
     if (!isTyping(event) && !isModifier(event))
-        m_history.endStep();
+        m_steps->endStep();
     if (handleEditingKey(event) || handleReturn(event) || handlePage(event)) {
         event.accept();
         return true;
@@ -97,20 +110,20 @@ bool NoteTextView::handleKey(QKeyEvent &event)
     return false;
 }
 
-bool NoteTextView::handleEditingKey(const QKeyEvent &event)
+bool NoteTextKeys::handleEditingKey(const QKeyEvent &event)
 {
     if (event.matches(QKeySequence::Undo))
-        undo();
+        m_view.undo();
     else if (isRedo(event))
-        redo();
+        m_view.redo();
     else if (event.matches(QKeySequence::Cut))
-        cut();
+        m_view.cut();
     else if (event.matches(QKeySequence::Copy))
-        copy();
+        m_view.copy();
     else if (event.matches(QKeySequence::Paste))
-        paste();
+        m_view.paste();
     else if (isChecklist(event))
-        toggleLinePrefix(QStringLiteral(u"\u2610 "));
+        m_view.toggleLinePrefix(QStringLiteral(u"\u2610 "));
     else if (event.key() == Qt::Key_Escape && modifiersOf(event) == Qt::NoModifier && m_takesEscape)
         Q_EMIT escaped();
     else if (isTabbingAway(event))
@@ -124,24 +137,24 @@ bool NoteTextView::handleEditingKey(const QKeyEvent &event)
     return true;
 }
 
-bool NoteTextView::eraseLineBreak(const QKeyEvent &event)
+bool NoteTextKeys::eraseLineBreak(const QKeyEvent &event)
 {
     const Selection selection = m_edit.selection();
     const qsizetype start = selection.caret - (event.key() == Qt::Key_Backspace ? 2 : 0);
     if (modifiersOf(event) != Qt::NoModifier || !selection.isEmpty() || start < 0
         || QStringView(m_text->text()).mid(start, 2) != u"\r\n")
         return false;
-    edit(start, 2, {}, Selection::at(start));
+    m_steps->edit(start, 2, {}, Selection::at(start));
     return true;
 }
 
-void NoteTextView::leaveText(bool isForwards)
+void NoteTextKeys::leaveText(bool isForwards)
 {
     if (QQuickItem *next = m_edit.item()->nextItemInFocusChain(isForwards))
         next->forceActiveFocus(isForwards ? Qt::TabFocusReason : Qt::BacktabFocusReason);
 }
 
-bool NoteTextView::handleReturn(const QKeyEvent &event)
+bool NoteTextKeys::handleReturn(const QKeyEvent &event)
 {
     if (!isReturn(event))
         return false;
@@ -159,21 +172,21 @@ bool NoteTextView::handleReturn(const QKeyEvent &event)
     return true;
 }
 
-bool NoteTextView::handlePage(const QKeyEvent &event)
+bool NoteTextKeys::handlePage(const QKeyEvent &event)
 {
     const bool isDown = event.key() == Qt::Key_PageDown;
     if ((!isDown && event.key() != Qt::Key_PageUp) || (modifiersOf(event) & ~Qt::ShiftModifier))
         return false;
     const Selection selection = m_edit.selection();
     const QRectF caret = m_edit.rectangleOf(selection.caret);
-    const qreal page = std::max(m_visibleHeight - caret.height(), caret.height());
+    const qreal page = std::max(m_view.visibleHeight() - caret.height(), caret.height());
     const qsizetype position = m_edit.positionAt({caret.x(), caret.center().y() + (isDown ? page : -page)});
     const bool isSelecting = modifiersOf(event) == Qt::ShiftModifier;
     m_edit.select({.anchor = isSelecting ? selection.anchor : position, .caret = position});
     return true;
 }
 
-bool NoteTextView::handleInputMethod(const QInputMethodEvent &event)
+bool NoteTextKeys::handleInputMethod(const QInputMethodEvent &event)
 {
     const QString &commit = event.commitString();
     const bool isRuled = commit == u" " || commit == u"\n";
@@ -181,17 +194,17 @@ bool NoteTextView::handleInputMethod(const QInputMethodEvent &event)
         return false;
     // What was being composed goes first, and is replaced by nothing.
     QInputMethodEvent rest(event.preeditString(), event.attributes());
-    m_edit.item()->removeEventFilter(this);
+    m_edit.item()->removeEventFilter(&m_view);
     QCoreApplication::sendEvent(m_edit.item(), &rest);
-    m_edit.item()->installEventFilter(this);
+    m_edit.item()->installEventFilter(&m_view);
     if (commit == u"\n")
         typeLineBreak();
     else if (!typeSpace())
-        edit(m_edit.selection().caret, 0, commit, Selection::at(m_edit.selection().caret + 1));
+        m_steps->edit(m_edit.selection().caret, 0, commit, Selection::at(m_edit.selection().caret + 1));
     return true;
 }
 
-bool NoteTextView::typeSpace()
+bool NoteTextKeys::typeSpace()
 {
     const Selection selection = m_edit.selection();
     if (!selection.isEmpty())
@@ -201,12 +214,12 @@ bool NoteTextView::typeSpace()
     const std::optional<editrules::MarkerChange> change = editrules::typedSpace(before);
     if (!change)
         return false;
-    edit(block.position(), change->length, change->marker.toString(),
-         Selection::at(block.position() + change->marker.size()));
+    m_steps->edit(block.position(), change->length, change->marker.toString(),
+                  Selection::at(block.position() + change->marker.size()));
     return true;
 }
 
-void NoteTextView::typeLineBreak()
+void NoteTextKeys::typeLineBreak()
 {
     using Kind = editrules::LineBreak::Kind;
     const Selection selection = m_edit.selection();
@@ -218,11 +231,12 @@ void NoteTextView::typeLineBreak()
         if (m_takesEmptyItemReturn)
             Q_EMIT emptyItemReturned();
         else
-            edit(block.position(), lineBreak.marker.size(), {}, Selection::at(block.position()));
+            m_steps->edit(block.position(), lineBreak.marker.size(), {}, Selection::at(block.position()));
         return;
     }
     const QString typed = u'\n' + lineBreak.marker.toString();
-    edit(selection.start(), selection.length(), typed, Selection::at(selection.start() + typed.size()));
+    m_steps->edit(selection.start(), selection.length(), typed,
+                  Selection::at(selection.start() + typed.size()));
 }
 
 } // namespace vesk

@@ -12,7 +12,6 @@
 #include <QInputMethodEvent>
 #include <QMouseEvent>
 #include <QQuickWindow>
-#include <QScopedValueRollback>
 #include <QStyleHints>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -52,7 +51,9 @@ void NoteTextView::componentComplete()
     QTextDocument *document = m_edit.document();
     m_text = std::make_unique<NoteText>(*document, TextFormats::paragraph(), nullptr);
     m_styler = std::make_unique<Styler>(*m_text);
-    m_transfer = std::make_unique<TextTransfer>(*this, m_edit, *m_text, LentPasteboards::findFor(*engine));
+    m_steps = std::make_unique<EditSteps>(m_edit, *m_text);
+    m_keys.start(*m_text, *m_steps);
+    m_transfer = std::make_unique<TextTransfer>(*m_steps, m_edit, *m_text, LentPasteboards::findFor(*engine));
     m_mouse = std::make_unique<TextMouse>(*this, m_edit, *m_text, *m_transfer);
     m_theme = engine->singletonInstance<Theme *>(qmlTypeId("Vesk.Components", 1, 0, "Theme"));
     connect(m_theme, &Theme::changed, this, &NoteTextView::restyle);
@@ -114,7 +115,7 @@ void NoteTextView::setText(const QString &text)
         return;
     const Selection selection = m_edit.selection();
     m_text->load(text);
-    m_history.clear();
+    m_steps->clear();
     m_edit.select(
         {.anchor = std::min(selection.anchor, text.size()), .caret = std::min(selection.caret, text.size())});
     Q_EMIT textChanged();
@@ -154,50 +155,19 @@ void NoteTextView::onChanged(const Splice &change)
 {
     m_isLaidOut = false;
     m_boxes.follow(change);
-    const Selection after = m_after.value_or(m_edit.selection());
-    if (m_after)
-        m_edit.select(after);
-    if (!m_isReplaying)
-        m_history.record({.change = change, .before = m_before, .after = after}, m_kind, m_time);
-    m_before = after;
-    m_after.reset();
-    m_kind = EditHistory::Kind::Typing;
+    m_steps->record(change);
     Q_EMIT textChanged();
     Q_EMIT edited(m_text->text());
 }
 
-void NoteTextView::edit(qsizetype position, qsizetype length, const QString &text, const Selection &after)
-{
-    m_before = m_edit.selection();
-    m_after = after;
-    m_kind = EditHistory::Kind::Single;
-    m_text->replace(position, length, text);
-}
-
-void NoteTextView::replay(const Splice &change, const Selection &after)
-{
-    const QScopedValueRollback replaying(m_isReplaying, true);
-    m_after = after;
-    m_text->replace(change.position, change.removed.size(), change.inserted);
-}
-
 void NoteTextView::undo()
 {
-    if (m_edit.isComposing())
-        return;
-    if (const std::optional<EditHistory::Step> step = m_history.undo()) {
-        const Splice &change = step->change;
-        replay({.position = change.position, .removed = change.inserted, .inserted = change.removed},
-               step->before);
-    }
+    m_steps->undo();
 }
 
 void NoteTextView::redo()
 {
-    if (m_edit.isComposing())
-        return;
-    if (const std::optional<EditHistory::Step> step = m_history.redo())
-        replay(step->change, step->after);
+    m_steps->redo();
 }
 
 void NoteTextView::cut()
@@ -222,9 +192,7 @@ void NoteTextView::selectAll()
 
 void NoteTextView::insertPlainText(const QString &text)
 {
-    const Selection selection = m_edit.selection();
-    if (!text.isEmpty())
-        edit(selection.start(), selection.length(), text, Selection::at(selection.start() + text.size()));
+    m_steps->replaceSelection(text);
 }
 
 void NoteTextView::dropText(const QString &text)
@@ -233,7 +201,7 @@ void NoteTextView::dropText(const QString &text)
     setDropPosition(-1);
     if (position < 0 || text.isEmpty())
         return;
-    edit(position, 0, text, {.anchor = position, .caret = position + text.size()});
+    m_steps->edit(position, 0, text, {.anchor = position, .caret = position + text.size()});
     forceFocus();
 }
 
@@ -249,8 +217,8 @@ void NoteTextView::toggleLinePrefix(const QString &marker)
     const auto moved = [&](qsizetype position) {
         return std::max(position, start + change.length) - change.length + change.marker.size();
     };
-    edit(start, change.length, change.marker.toString(),
-         {.anchor = moved(selection.anchor), .caret = moved(selection.caret)});
+    m_steps->edit(start, change.length, change.marker.toString(),
+                  {.anchor = moved(selection.anchor), .caret = moved(selection.caret)});
     forceFocus();
 }
 
@@ -259,7 +227,7 @@ void NoteTextView::toggleBox(int position)
     if (m_edit.isComposing() || position < 0 || position >= m_text->text().size())
         return;
     const QStringView toggled = editrules::toggledBox(m_text->text().at(position));
-    edit(position, 1, toggled.toString(), m_edit.selection());
+    m_steps->edit(position, 1, toggled.toString(), m_edit.selection());
 }
 
 void NoteTextView::moveCaretToEnd()
@@ -277,28 +245,37 @@ void NoteTextView::focusWhenShown()
     m_focusTask.start();
 }
 
+void NoteTextView::publishSelection()
+{
+    // The item sees what ends the selecting after this.
+    QMetaObject::invokeMethod(m_transfer.get(), &TextTransfer::publishSelection, Qt::QueuedConnection);
+}
+
 bool NoteTextView::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::ShortcutOverride:
-        return handleShortcut(static_cast<QKeyEvent &>(*event));
-    case QEvent::KeyPress:
-        m_before = m_edit.selection();
-        return handleKey(static_cast<QKeyEvent &>(*event));
+        return m_keys.handleShortcut(static_cast<QKeyEvent &>(*event));
+    case QEvent::KeyPress: {
+        auto &key = static_cast<QKeyEvent &>(*event);
+        m_steps->beforeKey(key.timestamp());
+        m_isMovingRight = key.key() == Qt::Key_Right;
+        return m_keys.handleKey(key);
+    }
     case QEvent::InputMethod:
-        m_before = m_edit.selection();
-        return handleInputMethod(static_cast<const QInputMethodEvent &>(*event));
+        m_steps->beforeEvent();
+        return m_keys.handleInputMethod(static_cast<const QInputMethodEvent &>(*event));
     case QEvent::KeyRelease:
+        publishSelection();
+        return false;
     case QEvent::MouseButtonRelease:
-        QMetaObject::invokeMethod(m_transfer.get(), &TextTransfer::publishSelection, Qt::QueuedConnection);
+        publishSelection();
         [[fallthrough]];
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
+        m_steps->endStep();
+        [[fallthrough]];
     case QEvent::MouseMove:
-        if (event->type() == QEvent::KeyRelease)
-            return false;
-        if (event->type() != QEvent::MouseMove)
-            m_history.endStep();
         m_isMovingRight = false;
         return !m_edit.isComposing() && m_mouse->handle(static_cast<const QMouseEvent &>(*event));
     default:

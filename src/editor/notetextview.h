@@ -2,10 +2,11 @@
 #pragma once
 
 #include "components/theme.h"
-#include "editor/edithistory.h"
 #include "editor/edititem.h"
+#include "editor/editsteps.h"
 #include "editor/focustask.h"
 #include "editor/noteeditorcontroller.h"
+#include "editor/notetextkeys.h"
 #include "editor/styler.h"
 #include "editor/visibleboxes.h"
 
@@ -13,9 +14,6 @@
 #include <QQuickItem>
 
 #include <memory>
-
-class QInputMethodEvent;
-class QKeyEvent;
 
 namespace vesk {
 
@@ -33,14 +31,11 @@ class NoteTextView : public QQuickItem
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
     Q_PROPERTY(
         vesk::NoteEditorController *controller READ controller WRITE setController NOTIFY controllerChanged)
+    Q_PROPERTY(vesk::NoteTextKeys *keys READ keys CONSTANT)
     Q_PROPERTY(qreal fontSize MEMBER m_fontSize NOTIFY lookChanged)
     Q_PROPERTY(bool firstLineIsTitle MEMBER m_firstLineIsTitle NOTIFY lookChanged)
     Q_PROPERTY(qreal titleBoost MEMBER m_titleBoost NOTIFY lookChanged)
     Q_PROPERTY(int titleWeight MEMBER m_titleWeight NOTIFY lookChanged)
-    Q_PROPERTY(bool takesReturn MEMBER m_takesReturn NOTIFY takesChanged)
-    Q_PROPERTY(bool takesCommandReturn MEMBER m_takesCommandReturn NOTIFY takesChanged)
-    Q_PROPERTY(bool takesEmptyItemReturn MEMBER m_takesEmptyItemReturn NOTIFY takesChanged)
-    Q_PROPERTY(bool takesEscape MEMBER m_takesEscape NOTIFY takesChanged)
     /// Top and height of what can be seen of the target, in its coordinates.
     Q_PROPERTY(qreal visibleTop MEMBER m_visibleTop NOTIFY visiblePartChanged)
     Q_PROPERTY(qreal visibleHeight MEMBER m_visibleHeight NOTIFY visiblePartChanged)
@@ -74,20 +69,18 @@ public:
     /// Puts a text that was dropped where it was dropped.
     Q_INVOKABLE void dropText(const QString &text);
 
-    /// Changes the text as one step to take back. An operation for the rules, the mouse and the
-    /// pasteboards of the editor.
-    void edit(qsizetype position, qsizetype length, const QString &text, const Selection &after);
-
     [[nodiscard]] QQuickItem *target() const { return m_edit.item(); }
     void setTarget(QQuickItem *target);
     [[nodiscard]] QString text() const;
     void setText(const QString &text);
     [[nodiscard]] NoteEditorController *controller() const { return m_controller; }
     void setController(NoteEditorController *controller);
+    [[nodiscard]] NoteTextKeys *keys() { return &m_keys; }
+    [[nodiscard]] qreal visibleHeight() const { return m_visibleHeight; }
     [[nodiscard]] QAbstractItemModel *boxes() { return &m_boxes; }
     [[nodiscard]] static int caretFlashTime();
-    [[nodiscard]] bool canUndo() const { return m_history.canUndo(); }
-    [[nodiscard]] bool canRedo() const { return m_history.canRedo(); }
+    [[nodiscard]] bool canUndo() const { return m_steps && m_steps->canUndo(); }
+    [[nodiscard]] bool canRedo() const { return m_steps && m_steps->canRedo(); }
     [[nodiscard]] int dropPosition() const { return m_dropPosition; }
     void setDropPosition(int position);
 
@@ -103,13 +96,8 @@ Q_SIGNALS:
     void edited(const QString &text);
     void controllerChanged();
     void lookChanged();
-    void takesChanged();
     void visiblePartChanged();
     void dropPositionChanged();
-    void returned();
-    void commandReturned();
-    void emptyItemReturned();
-    void escaped();
     /// After a change of the text is laid out, before it is painted.
     void laidOut();
     /// The menu shall be shown at this point of the target.
@@ -121,40 +109,21 @@ protected:
     void updatePolish() override;
 
 private:
-    // The key map, in notetextkeys.cpp. True if the event was for the rules, not for the item.
-    bool handleShortcut(QKeyEvent &event) const;
-    bool handleKey(QKeyEvent &event);
-    bool handleEditingKey(const QKeyEvent &event);
-    bool handleReturn(const QKeyEvent &event);
-    bool handlePage(const QKeyEvent &event);
-    bool handleInputMethod(const QInputMethodEvent &event);
-    bool eraseLineBreak(const QKeyEvent &event);
-    void leaveText(bool isForwards);
-    bool typeSpace();
-    void typeLineBreak();
-
     void onChanged(const Splice &change);
-    void replay(const Splice &change, const Selection &after);
     void restyle();
+    void publishSelection();
 
     EditItem m_edit;
     std::unique_ptr<NoteText> m_text;
     std::unique_ptr<Styler> m_styler;
+    std::unique_ptr<EditSteps> m_steps;
     std::unique_ptr<TextTransfer> m_transfer;
     std::unique_ptr<TextMouse> m_mouse;
+    NoteTextKeys m_keys{*this, m_edit};
     VisibleBoxes m_boxes;
     FocusTask m_focusTask{*this};
-    EditHistory m_history;
     QPointer<NoteEditorController> m_controller;
     QPointer<Theme> m_theme;
-
-    /// What the next change starts from, how it joins the last one, and what it leaves selected if that
-    /// is not up to the item.
-    Selection m_before;
-    EditHistory::Kind m_kind = EditHistory::Kind::Typing;
-    std::optional<Selection> m_after;
-    quint64 m_time = 0;
-    bool m_isReplaying = false;
 
     bool m_isLaidOut = true;
     QString m_loadedText;
@@ -162,10 +131,6 @@ private:
     bool m_firstLineIsTitle = false;
     qreal m_titleBoost = 7;
     int m_titleWeight = QFont::Bold;
-    bool m_takesReturn = false;
-    bool m_takesCommandReturn = false;
-    bool m_takesEmptyItemReturn = false;
-    bool m_takesEscape = false;
     qreal m_visibleTop = 0;
     qreal m_visibleHeight = 0;
     int m_dropPosition = -1;

@@ -2,8 +2,8 @@
 #include "editor/texttransfer.h"
 
 #include "editor/edititem.h"
+#include "editor/editsteps.h"
 #include "editor/notetext.h"
-#include "editor/notetextview.h"
 #include "platform/pasteboard.h"
 
 #include <QTextCursor>
@@ -11,9 +11,9 @@
 
 namespace vesk {
 
-TextTransfer::TextTransfer(NoteTextView &view, const EditItem &edit, const NoteText &text,
+TextTransfer::TextTransfer(EditSteps &steps, const EditItem &edit, const NoteText &text,
                            LentPasteboards *lent)
-    : m_view(view)
+    : m_steps(steps)
     , m_edit(edit)
     , m_text(text)
     , m_lent(lent)
@@ -38,7 +38,7 @@ void TextTransfer::cut()
     if (!m_lent || selection.isEmpty())
         return;
     copy();
-    m_view.edit(selection.start(), selection.length(), {}, Selection::at(selection.start()));
+    m_steps.edit(selection.start(), selection.length(), {}, Selection::at(selection.start()));
 }
 
 void TextTransfer::paste()
@@ -64,7 +64,7 @@ QCoro::Task<> TextTransfer::insertFrom(Pasteboard &pasteboard, std::optional<qsi
         co_return;
     if (position)
         m_edit.select(Selection::at(place.position()));
-    m_view.insertPlainText(*text);
+    m_steps.replaceSelection(*text);
 }
 
 void TextTransfer::publishSelection()
@@ -83,15 +83,15 @@ void TextTransfer::moveSelection(qsizetype position, bool isCopied)
     const Selection selection = m_edit.selection();
     const QString moved = selectedText();
     if (isCopied) {
-        m_view.edit(position, 0, moved, {.anchor = position, .caret = position + moved.size()});
+        m_steps.edit(position, 0, moved, {.anchor = position, .caret = position + moved.size()});
     } else if (position < selection.start()) {
         const QString passed = m_text.text().mid(position, selection.start() - position);
-        m_view.edit(position, selection.end() - position, moved + passed,
-                    {.anchor = position, .caret = position + moved.size()});
+        m_steps.edit(position, selection.end() - position, moved + passed,
+                     {.anchor = position, .caret = position + moved.size()});
     } else if (position > selection.end()) {
         const QString passed = m_text.text().mid(selection.end(), position - selection.end());
-        m_view.edit(selection.start(), position - selection.start(), passed + moved,
-                    {.anchor = position - moved.size(), .caret = position});
+        m_steps.edit(selection.start(), position - selection.start(), passed + moved,
+                     {.anchor = position - moved.size(), .caret = position});
     }
 }
 

@@ -14,8 +14,8 @@
 namespace vesk {
 
 class EditItem;
+class EditSteps;
 class NoteText;
-class NoteTextView;
 class Pasteboard;
 
 /// Moves text into, out of and within an editor: by the pasteboards, and by dragging. The text goes as
@@ -27,7 +27,7 @@ class TextTransfer final : public QObject
 
 public:
     /// All but `lent`, which may be null, have to outlive this.
-    TextTransfer(NoteTextView &view, const EditItem &edit, const NoteText &text, LentPasteboards *lent);
+    TextTransfer(EditSteps &steps, const EditItem &edit, const NoteText &text, LentPasteboards *lent);
 
     void cut();
     void copy() const;
@@ -43,7 +43,7 @@ private:
     [[nodiscard]] QString selectedText() const;
     QCoro::Task<> insertFrom(Pasteboard &pasteboard, std::optional<qsizetype> position);
 
-    NoteTextView &m_view;
+    EditSteps &m_steps;
     const EditItem &m_edit;
     const NoteText &m_text;
     QPointer<LentPasteboards> m_lent;

@@ -80,7 +80,7 @@ void MenuCommandsTest::formatWorksFromBesideTheText()
     openNote();
     // Back to a button of the panel; what follows the note is a field, which would close it.
     press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
-    QVERIFY(m_fixture->model.editor()->textView() && !m_fixture->model.property("isEditing").toBool());
+    QVERIFY(m_fixture->model.editor()->textView() && !m_fixture->model.keyboard()->isEditing());
     press(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
     QTRY_COMPARE(m_note->text(), u"\u2610 milk"_s);
 }
