@@ -254,7 +254,10 @@ void ControlsTest::headerOffersTheOtherState()
     stage.root->setHeight(20);
     QAccessibleInterface *heard = QAccessible::queryAccessibleInterface(stage.root);
     QCOMPARE(heard->text(QAccessible::Description), u"Hide"_s);
+    QCOMPARE(heard->text(QAccessible::Name), u"Pinned, 12 items, expanded"_s);
+    stage.root->setProperty("count", 1);
     stage.click(stage.root);
+    QCOMPARE(heard->text(QAccessible::Name), u"Pinned, 1 item, collapsed"_s);
     QCOMPARE(heard->text(QAccessible::Description), u"Show"_s);
     QTest::keyClick(&stage.view, Qt::Key_Tab);
     QTest::keyClick(&stage.view, Qt::Key_Space);
