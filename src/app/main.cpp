@@ -4,6 +4,7 @@
 #include "app/messagewindow.h"
 #include "app/notification.h"
 #include "app/quitsignals.h"
+#include "app/saveatexit.h"
 #include "app/unwrittenwindow.h"
 #include "app/veskapp.h"
 #include "components/surroundings.h"
@@ -96,9 +97,11 @@ int runVesk(bool isInBackground)
         showFatal(desktop, u"Could not open the notes store: %1"_s.arg(opened.error));
         return 1;
     }
+    const vesk::SaveAtExit saveAtExit(*opened.store);
     const int result = runUntilQuit(desktop, *opened.store, service, isInBackground);
+    const bool isSaved = opened.store->save();
     // Any other result means that there is no display left to ask on.
-    if (result == 0 && !opened.store->save())
+    if (result == 0 && !isSaved)
         showUnwritten(desktop, *opened.store);
     // A text that was just pasted, or that is the user's own, is not to go with Vesk.
     QCoro::waitFor(desktop.pasteboard.handOver());

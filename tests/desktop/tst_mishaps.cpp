@@ -6,7 +6,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// What Vesk keeps of its word when it is killed and when the application in front hangs.
+/// What Vesk keeps of its word when it is killed or cut off and when the application in front hangs.
 class TestMishaps : public QObject
 {
     Q_OBJECT
@@ -15,6 +15,8 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void killedAtTheNoticeLosesNothing();
+    void endedWhileTypingLosesNothing_data();
+    void endedWhileTypingLosesNothing();
     void hungApplicationDoesNotHangVesk();
     void keyUpBeforeItsPressIsHeardFiresAgain();
 
@@ -25,6 +27,9 @@ private:
     {
         m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}, hold);
     }
+
+    /// Copies all of the text that has the keyboard, until it is this one.
+    [[nodiscard]] bool copyUntil(const QString &text);
 
     QStringList m_lines;
     std::unique_ptr<VirtualDesktop> m_desktop;
@@ -62,6 +67,15 @@ void TestMishaps::cleanup()
     m_desktop.reset();
 }
 
+bool TestMishaps::copyUntil(const QString &text)
+{
+    return m_desktop->display().waitUntil(kBound, [&] {
+        m_desktop->keyboard().tap({XK_Control_L, XK_a});
+        m_desktop->keyboard().tap({XK_Control_L, XK_c});
+        return m_desktop->display().readSelection("CLIPBOARD", kFinger) == text;
+    });
+}
+
 void TestMishaps::killedAtTheNoticeLosesNothing()
 {
     for (int round = 0; round < rounds(); ++round) {
@@ -79,6 +93,45 @@ void TestMishaps::killedAtTheNoticeLosesNothing()
     m_vesk = m_desktop->startVesk();
     QVERIFY(m_vesk);
     QCOMPARE(m_desktop->notes().texts(), m_lines);
+}
+
+void TestMishaps::endedWhileTypingLosesNothing_data()
+{
+    QTest::addColumn<bool>("losesItsDisplay");
+    QTest::newRow("told to quit") << false;
+    QTest::newRow("cut off from the display") << true;
+}
+
+/// Far sooner than what is typed into a note is saved by itself.
+void TestMishaps::endedWhileTypingLosesNothing()
+{
+    QFETCH(bool, losesItsDisplay);
+    m_vesk = m_desktop->startVesk();
+    QVERIFY(m_vesk);
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    capture();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+    togglePanel(kFinger);
+    const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
+    VERIFY_ON(*m_desktop, panel);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
+    Keyboard &keyboard = m_desktop->keyboard();
+    keyboard.tap({XK_Down}, kFinger);
+    keyboard.tap({XK_Return}, kFinger);
+    const QString typed = m_lines.at(0) + u" more"_s;
+    // The editor takes the keyboard once it is there.
+    VERIFY_ON(*m_desktop, copyUntil(m_lines.at(0)));
+    keyboard.tap({XK_End}, kFinger);
+    keyboard.type(u" more"_s);
+    VERIFY_ON(*m_desktop, copyUntil(typed));
+    if (losesItsDisplay) {
+        xcb_kill_client(m_desktop->display().xcb(), panel->id);
+        xcb_flush(m_desktop->display().xcb());
+    } else {
+        m_vesk->signal(SIGTERM);
+    }
+    QVERIFY(m_vesk->waitForExit(kBound));
+    QCOMPARE(m_desktop->notes().texts(), QStringList{typed});
 }
 
 void TestMishaps::hungApplicationDoesNotHangVesk()

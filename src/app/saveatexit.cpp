@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "app/saveatexit.h"
+
+#include "notes/notesstore.h"
+
+#include <cstdlib>
+
+namespace vesk {
+
+namespace {
+
+NotesStore *g_store = nullptr;
+
+void saveNow()
+{
+    // Nobody is left to be told of a failure; it has been logged.
+    if (g_store)
+        g_store->save();
+}
+
+} // namespace
+
+SaveAtExit::SaveAtExit(NotesStore &store)
+{
+    g_store = &store;
+    // Without it, what was typed in the last two seconds can be lost, as with the power.
+    static_cast<void>(std::atexit(saveNow));
+}
+
+SaveAtExit::~SaveAtExit()
+{
+    g_store = nullptr;
+}
+
+} // namespace vesk
