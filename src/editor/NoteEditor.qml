@@ -27,7 +27,6 @@ FocusScope {
     property alias takesEmptyItemReturn: view.keys.takesEmptyItemReturn
     property alias takesEscape: view.keys.takesEscape
     readonly property bool hasFocus: edit.activeFocus || menu.isOpen
-    readonly property alias isComposing: edit.inputMethodComposing
     readonly property real inset: 4
     readonly property real contentHeight: edit.implicitHeight + 2 * root.inset
 
@@ -37,14 +36,6 @@ FocusScope {
     signal emptyItemReturned
     signal escaped
     signal contentHeightReported(real height)
-
-    function insertPlainText(text: string) {
-        view.insertPlainText(text);
-    }
-
-    function moveCaretToEnd() {
-        view.moveCaretToEnd();
-    }
 
     function forceFocus() {
         view.forceFocus();

@@ -42,10 +42,4 @@ void NoteEditorController::forceFocus()
         m_textView->forceFocus();
 }
 
-void NoteEditorController::insertPlainText(const QString &text)
-{
-    if (m_textView)
-        m_textView->insertPlainText(text);
-}
-
 } // namespace vesk

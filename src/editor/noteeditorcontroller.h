@@ -24,12 +24,10 @@ public:
     void setTextView(NoteTextView *textView);
 
     /// Gives the line at the start of the selection this marker (with its space), or takes it away.
-    Q_INVOKABLE void toggleLinePrefix(const QString &marker);
-    Q_INVOKABLE void moveCaretToEnd();
+    void toggleLinePrefix(const QString &marker);
+    void moveCaretToEnd();
     /// Gives the text the keyboard.
-    Q_INVOKABLE void forceFocus();
-    /// Puts a text in place of the selection, as pasting does.
-    Q_INVOKABLE void insertPlainText(const QString &text);
+    void forceFocus();
 
 private:
     QPointer<NoteTextView> m_textView;

@@ -190,11 +190,6 @@ void NoteTextView::selectAll()
     m_edit.select({.anchor = 0, .caret = m_text->text().size()});
 }
 
-void NoteTextView::insertPlainText(const QString &text)
-{
-    m_steps->replaceSelection(text);
-}
-
 void NoteTextView::dropText(const QString &text)
 {
     const int position = m_dropPosition;

@@ -58,11 +58,10 @@ public:
     Q_INVOKABLE void copy();
     Q_INVOKABLE void paste();
     Q_INVOKABLE void selectAll();
-    Q_INVOKABLE void insertPlainText(const QString &text);
-    Q_INVOKABLE void toggleLinePrefix(const QString &marker);
+    void toggleLinePrefix(const QString &marker);
     /// Ticks or unticks the box at this position; the selection stays.
     Q_INVOKABLE void toggleBox(int position);
-    Q_INVOKABLE void moveCaretToEnd();
+    void moveCaretToEnd();
     Q_INVOKABLE void forceFocus();
     /// Gives the text the keyboard as soon as its window can have it, or after half a second.
     Q_INVOKABLE void focusWhenShown();
