@@ -14,10 +14,10 @@ FocusScope {
     // Set by the host to load a text; read back it is the text as edited.
     property alias text: view.text
     property string placeholder: qsTr("Start typing…")
-    property alias fontSize: view.fontSize
-    property alias firstLineIsTitle: view.firstLineIsTitle
-    property alias titleBoost: view.titleBoost
-    property alias titleWeight: view.titleWeight
+    property alias fontSize: view.look.fontSize
+    property alias firstLineIsTitle: view.look.firstLineIsTitle
+    property alias titleBoost: view.look.titleBoost
+    property alias titleWeight: view.look.titleWeight
     property alias controller: view.controller
     // Takes the keyboard when it is shown.
     property bool autofocus: false

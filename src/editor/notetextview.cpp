@@ -21,7 +21,6 @@ namespace vesk {
 NoteTextView::NoteTextView(QQuickItem *parent)
     : QQuickItem(parent)
 {
-    connect(this, &NoteTextView::lookChanged, this, &NoteTextView::restyle);
     connect(this, &NoteTextView::visiblePartChanged, this, &NoteTextView::polish);
     connect(&m_focusTask, &FocusTask::ended, this, [this] {
         if (!window())
@@ -50,16 +49,11 @@ void NoteTextView::componentComplete()
     target->setFlag(QQuickItem::ItemObservesViewport);
     QTextDocument *document = m_edit.document();
     m_text = std::make_unique<NoteText>(*document, TextFormats::paragraph(), nullptr);
-    m_styler = std::make_unique<Styler>(*m_text);
+    m_look.start(*m_text, *engine->singletonInstance<Theme *>(qmlTypeId("Vesk.Components", 1, 0, "Theme")));
     m_steps = std::make_unique<EditSteps>(m_edit, *m_text);
     m_keys.start(*m_text, *m_steps);
     m_transfer = std::make_unique<TextTransfer>(*m_steps, m_edit, *m_text, LentPasteboards::findFor(*engine));
     m_mouse = std::make_unique<TextMouse>(*this, m_edit, *m_text, *m_transfer);
-    m_theme = engine->singletonInstance<Theme *>(qmlTypeId("Vesk.Components", 1, 0, "Theme"));
-    connect(m_theme, &Theme::changed, this, &NoteTextView::restyle);
-    restyle();
-    connect(m_text.get(), &NoteText::touched, this,
-            [this](int position, int length) { m_styler->restyle(position, length); });
     connect(m_text.get(), &NoteText::changed, this, &NoteTextView::onChanged);
     connect(document, &QTextDocument::contentsChanged, this, &NoteTextView::polish);
     connect(document->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
@@ -83,21 +77,6 @@ void NoteTextView::updatePolish()
 int NoteTextView::caretFlashTime()
 {
     return QGuiApplication::styleHints()->cursorFlashTime();
-}
-
-void NoteTextView::restyle()
-{
-    if (!m_styler || !m_theme)
-        return;
-    m_styler->setLook({.scale = m_theme->textScale(),
-                       .fontSize = m_fontSize,
-                       .titleBoost = m_titleBoost,
-                       .titleWeight = m_titleWeight,
-                       .secondary = m_theme->secondary(),
-                       .tertiary = m_theme->tertiary(),
-                       .quaternary = m_theme->quaternary(),
-                       .accent = m_theme->accent()},
-                      m_firstLineIsTitle);
 }
 
 QString NoteTextView::text() const

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "components/theme.h"
 #include "editor/edititem.h"
 #include "editor/editsteps.h"
 #include "editor/focustask.h"
 #include "editor/noteeditorcontroller.h"
 #include "editor/notetextkeys.h"
-#include "editor/styler.h"
+#include "editor/notetextlook.h"
 #include "editor/visibleboxes.h"
 
 #include <QPointer>
@@ -32,10 +31,7 @@ class NoteTextView : public QQuickItem
     Q_PROPERTY(
         vesk::NoteEditorController *controller READ controller WRITE setController NOTIFY controllerChanged)
     Q_PROPERTY(vesk::NoteTextKeys *keys READ keys CONSTANT)
-    Q_PROPERTY(qreal fontSize MEMBER m_fontSize NOTIFY lookChanged)
-    Q_PROPERTY(bool firstLineIsTitle MEMBER m_firstLineIsTitle NOTIFY lookChanged)
-    Q_PROPERTY(qreal titleBoost MEMBER m_titleBoost NOTIFY lookChanged)
-    Q_PROPERTY(int titleWeight MEMBER m_titleWeight NOTIFY lookChanged)
+    Q_PROPERTY(vesk::NoteTextLook *look READ look CONSTANT)
     /// Top and height of what can be seen of the target, in its coordinates.
     Q_PROPERTY(qreal visibleTop MEMBER m_visibleTop NOTIFY visiblePartChanged)
     Q_PROPERTY(qreal visibleHeight MEMBER m_visibleHeight NOTIFY visiblePartChanged)
@@ -75,6 +71,7 @@ public:
     [[nodiscard]] NoteEditorController *controller() const { return m_controller; }
     void setController(NoteEditorController *controller);
     [[nodiscard]] NoteTextKeys *keys() { return &m_keys; }
+    [[nodiscard]] NoteTextLook *look() { return &m_look; }
     [[nodiscard]] qreal visibleHeight() const { return m_visibleHeight; }
     [[nodiscard]] QAbstractItemModel *boxes() { return &m_boxes; }
     [[nodiscard]] static int caretFlashTime();
@@ -94,7 +91,6 @@ Q_SIGNALS:
     /// After each change by the user.
     void edited(const QString &text);
     void controllerChanged();
-    void lookChanged();
     void visiblePartChanged();
     void dropPositionChanged();
     /// After a change of the text is laid out, before it is painted.
@@ -109,27 +105,21 @@ protected:
 
 private:
     void onChanged(const Splice &change);
-    void restyle();
     void publishSelection();
 
     EditItem m_edit;
     std::unique_ptr<NoteText> m_text;
-    std::unique_ptr<Styler> m_styler;
     std::unique_ptr<EditSteps> m_steps;
     std::unique_ptr<TextTransfer> m_transfer;
     std::unique_ptr<TextMouse> m_mouse;
     NoteTextKeys m_keys{*this, m_edit};
+    NoteTextLook m_look;
     VisibleBoxes m_boxes;
     FocusTask m_focusTask{*this};
     QPointer<NoteEditorController> m_controller;
-    QPointer<Theme> m_theme;
 
     bool m_isLaidOut = true;
     QString m_loadedText;
-    qreal m_fontSize = 14;
-    bool m_firstLineIsTitle = false;
-    qreal m_titleBoost = 7;
-    int m_titleWeight = QFont::Bold;
     qreal m_visibleTop = 0;
     qreal m_visibleHeight = 0;
     int m_dropPosition = -1;

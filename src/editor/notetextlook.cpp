@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "editor/notetextlook.h"
+
+#include "editor/notetext.h"
+
+namespace vesk {
+
+void NoteTextLook::start(const NoteText &text, Theme &theme)
+{
+    m_styler = std::make_unique<Styler>(text);
+    m_theme = &theme;
+    connect(this, &NoteTextLook::changed, this, &NoteTextLook::apply);
+    connect(&theme, &Theme::changed, this, &NoteTextLook::apply);
+    apply();
+    connect(&text, &NoteText::touched, this,
+            [this](int position, int length) { m_styler->restyle(position, length); });
+}
+
+void NoteTextLook::apply()
+{
+    if (!m_theme)
+        return;
+    m_styler->setLook({.scale = m_theme->textScale(),
+                       .fontSize = m_fontSize,
+                       .titleBoost = m_titleBoost,
+                       .titleWeight = m_titleWeight,
+                       .secondary = m_theme->secondary(),
+                       .tertiary = m_theme->tertiary(),
+                       .quaternary = m_theme->quaternary(),
+                       .accent = m_theme->accent()},
+                      m_firstLineIsTitle);
+}
+
+} // namespace vesk

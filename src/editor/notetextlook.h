@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "components/theme.h"
+#include "editor/styler.h"
+
+#include <QFont>
+#include <QObject>
+#include <QPointer>
+#include <QQmlEngine>
+
+#include <memory>
+
+namespace vesk {
+
+class NoteText;
+
+/// How a note's text looks in an editor: as its host wants it, in the colours and the size of the
+/// desktop. Owned by the editor's view.
+class NoteTextLook : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The editor's view has the one.")
+    Q_PROPERTY(qreal fontSize MEMBER m_fontSize NOTIFY changed)
+    Q_PROPERTY(bool firstLineIsTitle MEMBER m_firstLineIsTitle NOTIFY changed)
+    /// In points, on top of the font's size.
+    Q_PROPERTY(qreal titleBoost MEMBER m_titleBoost NOTIFY changed)
+    Q_PROPERTY(int titleWeight MEMBER m_titleWeight NOTIFY changed)
+
+public:
+    /// Styles the text from now on. It has to outlive this.
+    void start(const NoteText &text, Theme &theme);
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void apply();
+
+    std::unique_ptr<Styler> m_styler;
+    QPointer<Theme> m_theme;
+    qreal m_fontSize = 14;
+    bool m_firstLineIsTitle = false;
+    qreal m_titleBoost = 7;
+    int m_titleWeight = QFont::Bold;
+};
+
+} // namespace vesk
