@@ -13,6 +13,7 @@ namespace vesk {
 MatchMarks::MatchMarks(QObject *parent)
     : QObject(parent)
 {
+    connect(this, &MatchMarks::changed, this, &MatchMarks::markAnew);
 }
 
 void MatchMarks::setDocument(QQuickTextDocument *document)
@@ -22,25 +23,6 @@ void MatchMarks::setDocument(QQuickTextDocument *document)
     m_document = document;
     if (document)
         connect(document->textDocument(), &QTextDocument::contentsChange, this, &MatchMarks::mark);
-    markAnew();
-    Q_EMIT changed();
-}
-
-void MatchMarks::setQuery(const QString &query)
-{
-    if (m_query == query)
-        return;
-    m_query = query;
-    markAnew();
-    Q_EMIT changed();
-}
-
-void MatchMarks::setColor(const QColor &color)
-{
-    if (m_color == color)
-        return;
-    m_color = color;
-    markAnew();
     Q_EMIT changed();
 }
 

@@ -15,18 +15,14 @@ class MatchMarks : public QObject
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QQuickTextDocument *document READ document WRITE setDocument NOTIFY changed)
-    Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY changed)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY changed)
+    Q_PROPERTY(QString query MEMBER m_query NOTIFY changed)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
 
 public:
     explicit MatchMarks(QObject *parent = nullptr);
 
     [[nodiscard]] QQuickTextDocument *document() const { return m_document; }
     void setDocument(QQuickTextDocument *document);
-    [[nodiscard]] const QString &query() const { return m_query; }
-    void setQuery(const QString &query);
-    [[nodiscard]] const QColor &color() const { return m_color; }
-    void setColor(const QColor &color);
 
 Q_SIGNALS:
     void changed();

@@ -13,6 +13,7 @@ namespace vesk {
 MatchText::MatchText(QQuickItem *parent)
     : QQuickPaintedItem(parent)
 {
+    connect(this, &MatchText::changed, this, &MatchText::layOut);
 }
 
 void MatchText::componentComplete()
