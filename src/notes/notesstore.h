@@ -79,12 +79,8 @@ private:
         std::unique_ptr<Record> record;
         Date date;
     };
-    struct IdHash
-    {
-        size_t operator()(const RecordId &id) const noexcept { return qHash(id); }
-    };
     template <typename Record>
-    using Shelf = std::unordered_map<RecordId, Held<Record>, IdHash>;
+    using Shelf = std::unordered_map<RecordId, Held<Record>, RecordIdHash>;
 
     NotesStore(std::unique_ptr<Database> database, Clock &clock);
 

@@ -8,6 +8,11 @@ namespace vesk {
 /// The stable identity of a note or prompt; the two share one space of identities.
 using RecordId = QUuid;
 
+struct RecordIdHash
+{
+    size_t operator()(const RecordId &id) const noexcept { return qHash(id); }
+};
+
 class Note;
 class Prompt;
 

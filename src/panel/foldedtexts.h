@@ -27,14 +27,9 @@ public:
     void forgetAll() { m_texts = {}; }
 
 private:
-    struct IdHash
-    {
-        size_t operator()(const RecordId &id) const noexcept { return qHash(id); }
-    };
-
     const QByteArray &find(const Note &note);
 
-    std::unordered_map<RecordId, QByteArray, IdHash> m_texts;
+    std::unordered_map<RecordId, QByteArray, RecordIdHash> m_texts;
 };
 
 } // namespace vesk

@@ -171,7 +171,7 @@ bool NoteListModel::matches(const Note &note)
 {
     if (m_scope == Scope::Checklists && !m_checklists.contains(note.id()))
         return false;
-    return m_foldedQuery.isEmpty() || m_folded.contains(note, m_foldedQuery);
+    return m_folded.contains(note, m_foldedQuery);
 }
 
 size_t NoteListModel::sectionOf(const Note &note) const

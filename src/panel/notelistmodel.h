@@ -84,11 +84,6 @@ protected:
     [[nodiscard]] QVariant cardData(const RecordId *id, int role) const override;
 
 private:
-    struct IdHash
-    {
-        size_t operator()(const RecordId &id) const noexcept { return qHash(id); }
-    };
-
     static QCoro::Task<> refreshWhileShown(QPointer<NoteListModel> self, Clock *clock, quint64 show);
 
     [[nodiscard]] bool matches(const Note &note);
@@ -114,10 +109,10 @@ private:
     Scope m_scope = Scope::AllNotes;
     QString m_query;
     QByteArray m_foldedQuery;
-    std::unordered_set<RecordId, IdHash> m_checklists;
+    std::unordered_set<RecordId, RecordIdHash> m_checklists;
     std::optional<RecordId> m_openNote;
     /// Of all notes that were there when the open one was opened.
-    std::unordered_map<RecordId, Date, IdHash> m_frozenDates;
+    std::unordered_map<RecordId, Date, RecordIdHash> m_frozenDates;
     /// The user's current day: from its first moment up to the next day's.
     Date m_dayStart{};
     Date m_dayEnd{};
