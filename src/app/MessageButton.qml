@@ -29,7 +29,7 @@ PressButton {
         anchors.centerIn: parent
         textFormat: Text.PlainText
         text: root.text
-        font: Theme.strongBodyFont
+        font: Theme.fonts.strongBody
         color: root.isMain ? Theme.onAccent : Theme.primary
         Accessible.ignored: true
     }

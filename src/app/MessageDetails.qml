@@ -34,7 +34,7 @@ Rectangle {
             wrapMode: TextEdit.Wrap
             textFormat: TextEdit.PlainText
             text: root.text
-            font: Theme.bodyFont
+            font: Theme.fonts.body
             color: Theme.primary
             selectionColor: Theme.textSelection
             selectedTextColor: Theme.primary

@@ -42,7 +42,7 @@ Rectangle {
             wrapMode: Text.Wrap
             textFormat: Text.PlainText
             text: root.heading
-            font: Theme.headlineFont
+            font: Theme.fonts.headline
             color: Theme.primary
         }
 
@@ -52,7 +52,7 @@ Rectangle {
             textFormat: Text.PlainText
             lineHeight: 1.15
             text: root.message
-            font: Theme.bodyFont
+            font: Theme.fonts.body
             color: Theme.secondary
         }
 

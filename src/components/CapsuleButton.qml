@@ -12,7 +12,7 @@ PressButton {
 
     name: root.text
     implicitWidth: Math.ceil(label.implicitWidth) + 2 * 14
-    implicitHeight: Math.round(28 * Theme.textScale)
+    implicitHeight: Math.round(28 * Theme.fonts.scale)
     pressedScale: 0.96
     focusRadius: height / 2 + 3
 
@@ -36,7 +36,7 @@ PressButton {
         anchors.centerIn: parent
         text: root.text
         textFormat: Text.PlainText
-        font: Theme.strongSmallFont
+        font: Theme.fonts.strongSmall
         color: root.isMain ? Theme.onAccent : Theme.primary
         Accessible.ignored: true
     }

@@ -9,7 +9,7 @@ Text {
 
     required property int count
 
-    width: Math.max(implicitWidth, Theme.digitsWidth(root.font, root.text.length))
+    width: Math.max(implicitWidth, Theme.fonts.digitsWidth(root.font, root.text.length))
     text: root.count
     textFormat: Text.PlainText
     horizontalAlignment: Text.AlignHCenter

@@ -43,7 +43,7 @@ Rectangle {
         text: root.text
         textFormat: Text.PlainText
         elide: Text.ElideMiddle
-        font: Theme.captionFont
+        font: Theme.fonts.caption
         color: Theme.primary
     }
 }

@@ -11,7 +11,7 @@ Rectangle {
     property int place: KeyLabels.Window
 
     implicitWidth: Math.max(implicitHeight, Math.ceil(label.implicitWidth) + 2 * (label.text.length > 1 ? 4 : 2))
-    implicitHeight: Math.round(20 * Theme.textScale)
+    implicitHeight: Math.round(20 * Theme.fonts.scale)
     radius: 5
     color: Theme.capFill
     border.width: 1
@@ -25,7 +25,7 @@ Rectangle {
         anchors.centerIn: parent
         text: KeyLabels.label(root.glyph, root.place)
         textFormat: Text.PlainText
-        font: Theme.keyFont
+        font: Theme.fonts.key
         color: Theme.primary
     }
 }

@@ -16,7 +16,7 @@ Rectangle {
     signal clicked
 
     implicitWidth: root.entry.isDivider ? 0 : label.implicitWidth + 2 * 10
-    implicitHeight: root.entry.isDivider ? 9 : Math.round(24 * Theme.textScale)
+    implicitHeight: root.entry.isDivider ? 9 : Math.round(24 * Theme.fonts.scale)
     radius: 6
     color: root.isCurrent ? Theme.accent : "transparent"
     antialiasing: true
@@ -37,7 +37,7 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         text: KeyLabels.spelt(root.entry.text, root.place)
         textFormat: Text.PlainText
-        font: Theme.bodyFont
+        font: Theme.fonts.body
         color: root.isCurrent ? Theme.onAccent : root.entry.isEnabled ? Theme.primary : Theme.tertiary
         Accessible.ignored: true
     }

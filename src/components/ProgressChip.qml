@@ -44,7 +44,7 @@ Row {
         anchors.verticalCenter: parent.verticalCenter
         text: qsTr("%1 of %2").arg(root.done).arg(root.total)
         textFormat: Text.PlainText
-        font: Theme.captionFont
+        font: Theme.fonts.caption
         color: Theme.secondary
         Accessible.ignored: true
     }

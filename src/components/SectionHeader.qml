@@ -14,7 +14,7 @@ PressButton {
     name: qsTr("%1, %2, %3").arg(title).arg(count === 1 ? qsTr("1 item") : qsTr("%1 items").arg(count)).arg(isCollapsed ? qsTr("collapsed") : qsTr("expanded"))
     help: root.isCollapsed ? qsTr("Show") : qsTr("Hide")
     pressedScale: 1
-    implicitHeight: Math.round(20 * Theme.textScale)
+    implicitHeight: Math.round(20 * Theme.fonts.scale)
 
     Symbol {
         id: chevron
@@ -39,7 +39,7 @@ PressButton {
         anchors.verticalCenter: parent.verticalCenter
         text: root.title
         textFormat: Text.PlainText
-        font: Theme.sectionFont
+        font: Theme.fonts.section
         color: root.hovered ? Theme.primary : Theme.secondary
         Accessible.ignored: true
 
@@ -56,7 +56,7 @@ PressButton {
         anchors.leftMargin: Theme.smallSpace
         anchors.baseline: heading.baseline
         count: root.count
-        font: Theme.countFont
+        font: Theme.fonts.count
         color: Theme.tertiary
     }
 

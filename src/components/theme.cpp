@@ -4,12 +4,10 @@
 #include "components/surroundings.h"
 #include "platform/windows.h"
 
-#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QStyleHints>
 
 #include <algorithm>
-#include <cmath>
 
 namespace vesk {
 
@@ -52,7 +50,7 @@ void Theme::update()
                 .hasHighContrast = appearance.shouldIncreaseContrast(),
                 .accent = appearance.accentColor()};
     m_allowsMotion = !appearance.shouldReduceMotion();
-    m_textFont = appearance.textFont();
+    m_fonts.setTextFont(appearance.textFont());
     m_palette = palette(m_colors);
     if (const auto flashTime = appearance.cursorFlashTime())
         QGuiApplication::styleHints()->setCursorFlashTime(static_cast<int>(flashTime->count()));
@@ -143,105 +141,6 @@ QColor Theme::matchFill() const
 QColor Theme::opaqueEdge() const
 {
     return over(strongEdge(), m_palette.background);
-}
-
-QFont Theme::font(qreal pixels, QFont::Weight weight) const
-{
-    QFont made = QGuiApplication::font();
-    if (!m_textFont.family.isEmpty())
-        made.setFamily(m_textFont.family);
-    made.setPixelSize(qRound(pixels * m_textFont.scale));
-    made.setWeight(weight);
-    return made;
-}
-
-QFont Theme::welcomeFont() const
-{
-    QFont made = font(22, QFont::Bold);
-    made.setLetterSpacing(QFont::AbsoluteSpacing, -0.3);
-    return made;
-}
-
-QFont Theme::headlineFont() const
-{
-    return font(17, QFont::DemiBold);
-}
-
-QFont Theme::titleFont() const
-{
-    return font(14, QFont::DemiBold);
-}
-
-QFont Theme::fieldFont() const
-{
-    return font(14);
-}
-
-QFont Theme::bodyFont() const
-{
-    return font(13);
-}
-
-QFont Theme::strongBodyFont() const
-{
-    return font(13, QFont::DemiBold);
-}
-
-QFont Theme::mediumBodyFont() const
-{
-    return font(13, QFont::Medium);
-}
-
-QFont Theme::hintFont() const
-{
-    return font(12.5);
-}
-
-QFont Theme::smallFont() const
-{
-    return font(12);
-}
-
-QFont Theme::strongSmallFont() const
-{
-    return font(12, QFont::DemiBold);
-}
-
-QFont Theme::captionFont() const
-{
-    return font(11);
-}
-
-QFont Theme::strongCaptionFont() const
-{
-    return font(11, QFont::DemiBold);
-}
-
-QFont Theme::sectionFont() const
-{
-    QFont made = font(11, QFont::DemiBold);
-    made.setLetterSpacing(QFont::AbsoluteSpacing, 0.6);
-    made.setCapitalization(QFont::AllUppercase);
-    return made;
-}
-
-QFont Theme::countFont() const
-{
-    return font(10, QFont::DemiBold);
-}
-
-QFont Theme::keyFont() const
-{
-    return font(12, QFont::Medium);
-}
-
-qreal Theme::digitsWidth(const QFont &font, int count)
-{
-    const QFontMetricsF metrics(font);
-    qreal widest = 0;
-    for (char16_t digit = u'0'; digit <= u'9'; ++digit)
-        widest = std::max(widest, metrics.horizontalAdvance(QChar(digit)));
-    return std::ceil(widest * count);
 }
 
 int Theme::springDuration() const

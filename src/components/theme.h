@@ -2,12 +2,10 @@
 #pragma once
 
 #include "components/palette.h"
-#include "platform/appearance.h"
+#include "components/themefonts.h"
 
-#include <QFont>
 #include <QObject>
 #include <QQmlEngine>
-#include <QVariant>
 
 namespace vesk {
 
@@ -20,8 +18,6 @@ class Theme final : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-
-    Q_PROPERTY(bool isDark READ isDark NOTIFY changed)
     /// Whether lines and texts have to stand out strongly.
     Q_PROPERTY(bool hasHighContrast READ hasHighContrast NOTIFY changed)
     /// Whether windows are blended by the desktop, so that one may be translucent.
@@ -58,24 +54,7 @@ class Theme final : public QObject
     /// A window's edge where nothing shines through.
     Q_PROPERTY(QColor opaqueEdge READ opaqueEdge NOTIFY changed)
 
-    Q_PROPERTY(QFont welcomeFont READ welcomeFont NOTIFY changed)
-    Q_PROPERTY(QFont headlineFont READ headlineFont NOTIFY changed)
-    Q_PROPERTY(QFont titleFont READ titleFont NOTIFY changed)
-    Q_PROPERTY(QFont fieldFont READ fieldFont NOTIFY changed)
-    Q_PROPERTY(QFont bodyFont READ bodyFont NOTIFY changed)
-    Q_PROPERTY(QFont strongBodyFont READ strongBodyFont NOTIFY changed)
-    Q_PROPERTY(QFont mediumBodyFont READ mediumBodyFont NOTIFY changed)
-    Q_PROPERTY(QFont hintFont READ hintFont NOTIFY changed)
-    Q_PROPERTY(QFont smallFont READ smallFont NOTIFY changed)
-    Q_PROPERTY(QFont strongSmallFont READ strongSmallFont NOTIFY changed)
-    Q_PROPERTY(QFont captionFont READ captionFont NOTIFY changed)
-    Q_PROPERTY(QFont strongCaptionFont READ strongCaptionFont NOTIFY changed)
-    Q_PROPERTY(QFont sectionFont READ sectionFont NOTIFY changed)
-    Q_PROPERTY(QFont countFont READ countFont NOTIFY changed)
-    Q_PROPERTY(QFont keyFont READ keyFont NOTIFY changed)
-
-    /// How large the user wants texts; what holds one line of text grows by this.
-    Q_PROPERTY(qreal textScale READ textScale NOTIFY changed)
+    Q_PROPERTY(vesk::ThemeFonts *fonts READ fonts CONSTANT)
 
     Q_PROPERTY(qreal tightSpace MEMBER kTightSpace CONSTANT)
     Q_PROPERTY(qreal smallSpace MEMBER kSmallSpace CONSTANT)
@@ -104,7 +83,6 @@ class Theme final : public QObject
 public:
     static Theme *create(QQmlEngine *engine, QJSEngine *scriptEngine);
 
-    [[nodiscard]] bool isDark() const { return m_colors.isDark; }
     [[nodiscard]] bool hasHighContrast() const { return m_colors.hasHighContrast; }
     [[nodiscard]] bool isComposited() const;
     [[nodiscard]] QColor background() const { return m_palette.background; }
@@ -132,24 +110,7 @@ public:
     [[nodiscard]] QColor matchFill() const;
     [[nodiscard]] QColor opaqueEdge() const;
 
-    [[nodiscard]] QFont welcomeFont() const;
-    [[nodiscard]] QFont headlineFont() const;
-    [[nodiscard]] QFont titleFont() const;
-    [[nodiscard]] QFont fieldFont() const;
-    [[nodiscard]] QFont bodyFont() const;
-    [[nodiscard]] QFont strongBodyFont() const;
-    [[nodiscard]] QFont mediumBodyFont() const;
-    [[nodiscard]] QFont hintFont() const;
-    [[nodiscard]] QFont smallFont() const;
-    [[nodiscard]] QFont strongSmallFont() const;
-    [[nodiscard]] QFont captionFont() const;
-    [[nodiscard]] QFont strongCaptionFont() const;
-    [[nodiscard]] QFont sectionFont() const;
-    [[nodiscard]] QFont countFont() const;
-    [[nodiscard]] QFont keyFont() const;
-    [[nodiscard]] qreal textScale() const { return m_textFont.scale; }
-    /// How much room `count` digits of a font need, whichever they are.
-    [[nodiscard]] Q_INVOKABLE static qreal digitsWidth(const QFont &font, int count);
+    [[nodiscard]] ThemeFonts *fonts() { return &m_fonts; }
 
     [[nodiscard]] bool allowsMotion() const { return m_allowsMotion; }
     [[nodiscard]] int springDuration() const;
@@ -170,8 +131,6 @@ private:
     void update();
     [[nodiscard]] QColor primaryAt(float opacity) const;
     [[nodiscard]] QColor lineAt(float opacity) const;
-    /// Sizes are pixels, so that the proportions of a view hold whatever resolution the desktop reports.
-    [[nodiscard]] QFont font(qreal pixels, QFont::Weight weight = QFont::Normal) const;
 
     static constexpr qreal kTightSpace = 4;
     static constexpr qreal kSmallSpace = 6;
@@ -183,7 +142,7 @@ private:
 
     Surroundings &m_surroundings;
     ColorChoice m_colors;
-    Appearance::TextFont m_textFont;
+    ThemeFonts m_fonts{this};
     bool m_allowsMotion = true;
     Palette m_palette;
 };

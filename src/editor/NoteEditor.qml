@@ -104,8 +104,8 @@ FocusScope {
             focus: true
             wrapMode: TextEdit.Wrap
             textFormat: TextEdit.PlainText
-            font.family: Theme.fieldFont.family
-            font.pixelSize: Math.round(root.fontSize * Theme.textScale)
+            font.family: Theme.fonts.field.family
+            font.pixelSize: Math.round(root.fontSize * Theme.fonts.scale)
             color: Theme.primary
             selectionColor: Theme.textSelection
             selectedTextColor: Theme.primary
@@ -129,7 +129,7 @@ FocusScope {
                 elide: Text.ElideRight
                 text: root.placeholder
                 font.family: edit.font.family
-                font.pixelSize: Math.round((root.fontSize + (root.firstLineIsTitle ? root.titleBoost : 0)) * Theme.textScale)
+                font.pixelSize: Math.round((root.fontSize + (root.firstLineIsTitle ? root.titleBoost : 0)) * Theme.fonts.scale)
                 font.weight: root.firstLineIsTitle ? root.titleWeight : Font.Normal
                 color: Theme.tertiary
                 Accessible.ignored: true

@@ -35,7 +35,7 @@ Flow {
 
             textFormat: Text.PlainText
             text: root.isTrusted ? qsTr("Accessibility access allowed") : qsTr("Needs Accessibility access")
-            font: Theme.smallFont
+            font: Theme.fonts.small
             color: root.color
             Accessible.ignored: true
         }
@@ -62,7 +62,7 @@ Flow {
 
             textFormat: Text.PlainText
             text: qsTr("Open Settings")
-            font: Theme.strongSmallFont
+            font: Theme.fonts.strongSmall
             color: Theme.accent
             Accessible.ignored: true
         }

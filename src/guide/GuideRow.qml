@@ -63,7 +63,7 @@ Item {
                 verticalAlignment: Text.AlignVCenter
                 textFormat: Text.PlainText
                 text: root.title
-                font: Theme.strongBodyFont
+                font: Theme.fonts.strongBody
                 color: Theme.primary
                 Accessible.ignored: true
             }
@@ -92,7 +92,7 @@ Item {
             wrapMode: Text.Wrap
             textFormat: Text.PlainText
             text: root.text
-            font: Theme.smallFont
+            font: Theme.fonts.small
             color: Theme.secondary
             Accessible.ignored: true
         }

@@ -33,7 +33,7 @@ FocusScope {
         id: scroller
 
         readonly property real end: Math.max(0, contentHeight - height)
-        readonly property real line: Math.round(40 * Theme.textScale)
+        readonly property real line: Math.round(40 * Theme.fonts.scale)
         readonly property real page: height - line
 
         function moveTo(y: real) {
@@ -97,7 +97,7 @@ FocusScope {
                     horizontalAlignment: Text.AlignHCenter
                     wrapMode: Text.Wrap
                     text: qsTr("Welcome to Vesk")
-                    font: Theme.welcomeFont
+                    font: Theme.fonts.welcome
                     color: Theme.primary
                     Accessible.role: Accessible.Heading
                     Accessible.name: text
@@ -108,7 +108,7 @@ FocusScope {
                     horizontalAlignment: Text.AlignHCenter
                     wrapMode: Text.Wrap
                     text: qsTr("A quiet notes pad that catches whatever you select.")
-                    font: Theme.bodyFont
+                    font: Theme.fonts.body
                     color: Theme.secondary
                     Accessible.role: Accessible.StaticText
                     Accessible.name: text
@@ -176,7 +176,7 @@ FocusScope {
 
             anchors.centerIn: parent
             text: qsTr("Got it")
-            font: Theme.titleFont
+            font: Theme.fonts.title
             color: Theme.onAccent
             Accessible.ignored: true
         }

@@ -58,7 +58,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             wrapMode: Text.Wrap
             text: qsTr("Vesk needs Accessibility access to read selected text")
-            font: Theme.smallFont
+            font: Theme.fonts.small
             color: Theme.primary
         }
 
@@ -87,7 +87,7 @@ Item {
 
                 anchors.centerIn: parent
                 text: qsTr("Open Settings")
-                font: Theme.strongSmallFont
+                font: Theme.fonts.strongSmall
                 color: Theme.primary
                 Accessible.ignored: true
             }

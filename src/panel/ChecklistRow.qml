@@ -36,7 +36,7 @@ PressButton {
         anchors.verticalCenter: parent.verticalCenter
         text: root.text
         query: root.query
-        font: Theme.bodyFont
+        font: Theme.fonts.body
         color: root.isDone ? Theme.secondary : Theme.primary
         matchColor: Theme.matchFill
         strikeOut: root.isDone

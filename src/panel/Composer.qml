@@ -43,7 +43,7 @@ Plate {
     FontMetrics {
         id: metrics
 
-        font: Theme.fieldFont
+        font: Theme.fonts.field
     }
 
     Connections {
@@ -104,7 +104,7 @@ Plate {
             width: flickable.width
             wrapMode: TextEdit.Wrap
             textFormat: TextEdit.PlainText
-            font: Theme.fieldFont
+            font: Theme.fonts.field
             color: Theme.primary
             selectionColor: Theme.textSelection
             selectedTextColor: Theme.primary

@@ -35,7 +35,7 @@ Item {
             elide: Text.ElideRight
             text: root.title
             textFormat: Text.PlainText
-            font: Theme.bodyFont
+            font: Theme.fonts.body
             color: Theme.secondary
             Accessible.ignored: true
         }
@@ -47,7 +47,7 @@ Item {
             wrapMode: Text.Wrap
             text: root.hint
             textFormat: Text.PlainText
-            font: Theme.smallFont
+            font: Theme.fonts.small
             color: Theme.secondary
             Accessible.ignored: true
         }

@@ -23,7 +23,7 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             bottomPadding: 2
             text: qsTr("No prompts yet")
-            font: Theme.headlineFont
+            font: Theme.fonts.headline
             color: Theme.primary
             Accessible.ignored: true
         }
@@ -38,7 +38,7 @@ Item {
                 anchors.verticalCenter: parent.verticalCenter
                 rightPadding: 2
                 text: qsTr("Select text anywhere and tap")
-                font: Theme.bodyFont
+                font: Theme.fonts.body
                 color: Theme.secondary
                 Accessible.ignored: true
             }
@@ -61,7 +61,7 @@ Item {
 
             anchors.horizontalCenter: parent.horizontalCenter
             text: qsTr("or write a follow-up prompt below.")
-            font: Theme.smallFont
+            font: Theme.fonts.small
             color: Theme.secondary
             Accessible.ignored: true
         }

@@ -29,14 +29,14 @@ Item {
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
             text: qsTr("Nothing here yet")
-            font: Theme.headlineFont
+            font: Theme.fonts.headline
             color: Theme.primary
         }
 
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
             text: qsTr("Vesk catches whatever you select, from any app.")
-            font: Theme.bodyFont
+            font: Theme.fonts.body
             color: Theme.secondary
         }
 
@@ -86,7 +86,7 @@ Item {
                     width: Math.min(implicitWidth, root.width - 136 - 3 * Theme.margin)
                     wrapMode: Text.Wrap
                     text: command.hint
-                    font: Theme.hintFont
+                    font: Theme.fonts.hint
                     color: Theme.secondary
                     Accessible.ignored: true
                 }

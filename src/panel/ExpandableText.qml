@@ -45,8 +45,8 @@ Item {
         wrapMode: TextEdit.Wrap
         textFormat: TextEdit.PlainText
         text: root.isExpanded ? root.text : measure.shortText
-        font.family: Theme.bodyFont.family
-        font.pixelSize: Theme.bodyFont.pixelSize
+        font.family: Theme.fonts.body.family
+        font.pixelSize: Theme.fonts.body.pixelSize
         font.strikeout: root.isDone
         color: root.isDone ? Theme.secondary : Theme.primary
         selectionColor: Theme.textSelection

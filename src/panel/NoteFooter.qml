@@ -31,7 +31,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             text: root.time
             textFormat: Text.PlainText
-            font: Theme.captionFont
+            font: Theme.fonts.caption
             color: Theme.secondary
         }
 

@@ -91,7 +91,7 @@ FocusScope {
                 rightPadding: 2
                 text: qsTr("Done")
                 textFormat: Text.PlainText
-                font: Theme.captionFont
+                font: Theme.fonts.caption
                 color: Theme.secondary
             }
 

@@ -35,7 +35,7 @@ Column {
         width: parent.width - 26
         text: root.title
         query: root.query
-        font: Theme.titleFont
+        font: Theme.fonts.title
         color: Theme.primary
         matchColor: Theme.matchFill
     }
@@ -68,7 +68,7 @@ Column {
             visible: root.furtherItems > 0
             text: qsTr("+ %1 more").arg(root.furtherItems)
             textFormat: Text.PlainText
-            font: Theme.captionFont
+            font: Theme.fonts.caption
             color: Theme.secondary
             Accessible.ignored: true
         }
@@ -81,7 +81,7 @@ Column {
         query: root.query
         maximumLineCount: 2
         lineSpacing: 1
-        font: Theme.hintFont
+        font: Theme.fonts.hint
         color: Theme.secondary
         matchColor: Theme.matchFill
     }

@@ -88,7 +88,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             text: body.isExpanded ? qsTr("Show less") : qsTr("Show more")
             textFormat: Text.PlainText
-            font: Theme.captionFont
+            font: Theme.fonts.caption
             color: more.hovered ? Theme.primary : Theme.secondary
             Accessible.ignored: true
         }

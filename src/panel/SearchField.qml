@@ -73,7 +73,7 @@ Plate {
         anchors.rightMargin: clear.visible ? Theme.space : Theme.margin
         anchors.verticalCenter: parent.verticalCenter
         clip: true
-        font: Theme.bodyFont
+        font: Theme.fonts.body
         color: Theme.primary
         selectionColor: Theme.textSelection
         selectedTextColor: Theme.primary

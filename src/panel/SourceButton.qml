@@ -45,7 +45,7 @@ PressButton {
         elide: Text.ElideMiddle
         text: root.label
         textFormat: Text.PlainText
-        font: Theme.captionFont
+        font: Theme.fonts.caption
         color: Theme.secondary
         Accessible.ignored: true
     }

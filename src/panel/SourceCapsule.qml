@@ -38,7 +38,7 @@ Rectangle {
         elide: Text.ElideRight
         text: qsTr("from %1").arg(root.source)
         textFormat: Text.PlainText
-        font: Theme.captionFont
+        font: Theme.fonts.caption
         color: Theme.secondary
         Accessible.ignored: true
     }

@@ -12,7 +12,7 @@ Rectangle {
 
     required property PanelModel model
     // Larger texts take what room there is.
-    readonly property real tabWidth: Math.min(Math.round(128 * Theme.textScale), Math.floor((root.maximumWidth - 6) / 3))
+    readonly property real tabWidth: Math.min(Math.round(128 * Theme.fonts.scale), Math.floor((root.maximumWidth - 6) / 3))
     property real maximumWidth: 3 * 128 + 6
 
     implicitWidth: 3 * root.tabWidth + 6
@@ -40,7 +40,7 @@ Rectangle {
         x: 3 + root.model.tab * root.tabWidth
         y: 3
         width: root.tabWidth
-        height: Math.round(26 * Theme.textScale)
+        height: Math.round(26 * Theme.fonts.scale)
         radius: height / 2
         antialiasing: true
         color: Theme.accent

@@ -13,7 +13,7 @@ PressButton {
     required property int count
     readonly property bool isChosen: root.model.tab === root.tab
 
-    implicitHeight: Math.round(26 * Theme.textScale)
+    implicitHeight: Math.round(26 * Theme.fonts.scale)
     pressedScale: 0.97
     focusRadius: height / 2 + 3
     Accessible.role: Accessible.PageTab
@@ -31,7 +31,7 @@ PressButton {
 
             text: root.name
             textFormat: Text.PlainText
-            font: root.isChosen ? Theme.strongBodyFont : Theme.mediumBodyFont
+            font: root.isChosen ? Theme.fonts.strongBody : Theme.fonts.mediumBody
             color: root.isChosen ? Theme.onAccent : root.hovered ? Theme.primary : Theme.secondary
             Accessible.ignored: true
 
@@ -45,7 +45,7 @@ PressButton {
             anchors.baseline: title.baseline
             visible: root.count > 0
             count: root.count
-            font: Theme.strongCaptionFont
+            font: Theme.fonts.strongCaption
             color: root.isChosen ? Theme.onAccent : Theme.tertiary
             opacity: root.isChosen ? 0.75 : 1
         }

@@ -33,7 +33,7 @@ Row {
         anchors.verticalCenter: parent.verticalCenter
         text: root.label
         textFormat: Text.PlainText
-        font: Theme.captionFont
+        font: Theme.fonts.caption
         color: Theme.secondary
         Accessible.ignored: true
     }

@@ -46,7 +46,7 @@ FocusScope {
 
             anchors.verticalCenter: parent.verticalCenter
             name: root.model.symbol
-            size: 13 * Theme.textScale
+            size: 13 * Theme.fonts.scale
             color: Theme.accent
         }
 
@@ -56,7 +56,7 @@ FocusScope {
             x: icon.width + Theme.space
             text: root.model.title
             textFormat: Text.PlainText
-            font: Theme.strongBodyFont
+            font: Theme.fonts.strongBody
             color: Theme.secondary
             Accessible.ignored: true
         }
@@ -66,7 +66,7 @@ FocusScope {
             anchors.baseline: heading.baseline
             text: "Vesk"
             textFormat: Text.PlainText
-            font: Theme.strongCaptionFont
+            font: Theme.fonts.strongCaption
             color: Theme.tertiary
             Accessible.ignored: true
         }

@@ -34,7 +34,7 @@ Surface {
         anchors.verticalCenter: parent.verticalCenter
         text: root.message
         textFormat: Text.PlainText
-        font: Theme.strongBodyFont
+        font: Theme.fonts.strongBody
         color: Theme.primary
         Accessible.ignored: true
     }

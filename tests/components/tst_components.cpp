@@ -134,7 +134,7 @@ void ComponentsTest::themeFollowsTheDesktop()
     MemoryWindows windows(screens);
     QQmlEngine engine;
     lendToEngine(engine, appearance, workspace, windows);
-    const Theme *theme = Theme::create(&engine, &engine);
+    Theme *theme = Theme::create(&engine, &engine);
     QVERIFY(theme->springDuration() > 0);
     const QColor lightGround = theme->background();
 
@@ -154,10 +154,10 @@ void ComponentsTest::themeFollowsTheDesktop()
     QCOMPARE(contrast(theme->primary(), theme->background()), 21.0);
     QVERIFY(theme->edge().alphaF() > 2 * usualLine);
 
-    const int usualSize = theme->titleFont().pixelSize();
+    const int usualSize = theme->fonts()->title().pixelSize();
     appearance.setTextFont({.family = u"Some Family"_s, .scale = 1.5});
-    QCOMPARE(theme->titleFont().family(), u"Some Family"_s);
-    QCOMPARE(theme->titleFont().pixelSize(), qRound(1.5 * usualSize));
+    QCOMPARE(theme->fonts()->title().family(), u"Some Family"_s);
+    QCOMPARE(theme->fonts()->title().pixelSize(), qRound(1.5 * usualSize));
     appearance.setCursorFlashTime(std::chrono::milliseconds(0));
     QCOMPARE(QGuiApplication::styleHints()->cursorFlashTime(), 0);
 }
