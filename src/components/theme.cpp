@@ -153,11 +153,6 @@ int Theme::pressDuration() const
     return m_allowsMotion ? 360 : 0;
 }
 
-int Theme::fadeDuration() const
-{
-    return m_allowsMotion ? 200 : 0;
-}
-
 QVariantList Theme::springCurve()
 {
     // Follows 1 - (1 + wt) * exp(-wt) with w = 2 pi / 0.35 s over the spring's duration, in which it

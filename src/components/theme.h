@@ -71,8 +71,6 @@ class Theme final : public QObject
     /// The same for a button under the finger: response 0.25 s.
     Q_PROPERTY(int pressDuration READ pressDuration NOTIFY changed)
     Q_PROPERTY(QVariantList springCurve READ springCurve CONSTANT)
-    /// How long a window takes to appear. In milliseconds.
-    Q_PROPERTY(int fadeDuration READ fadeDuration NOTIFY changed)
     /// How long a control says that it has done what it was asked for. In milliseconds.
     Q_PROPERTY(int feedbackDuration READ feedbackDuration CONSTANT)
     /// How long the pointer rests on a control until its help comes up. In milliseconds.
@@ -116,7 +114,6 @@ public:
     [[nodiscard]] int springDuration() const;
     [[nodiscard]] int pressDuration() const;
     [[nodiscard]] static QVariantList springCurve();
-    [[nodiscard]] int fadeDuration() const;
     [[nodiscard]] static int feedbackDuration() { return 1200; }
     [[nodiscard]] static int helpDelay() { return 600; }
     [[nodiscard]] static int easeDuration() { return 140; }

@@ -145,7 +145,6 @@ void ComponentsTest::themeFollowsTheDesktop()
     QVERIFY(theme->background().lightnessF() < lightGround.lightnessF());
     QCOMPARE(theme->springDuration(), 0);
     QCOMPARE(theme->pressDuration(), 0);
-    QCOMPARE(theme->fadeDuration(), 0);
 
     appearance.setAccentColor(QColor(0x00, 0x80, 0x40));
     QCOMPARE(theme->accent().hslHue(), QColor(0x00, 0x80, 0x40).hslHue());
