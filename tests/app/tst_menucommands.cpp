@@ -35,7 +35,7 @@ private:
     }
     void openNote()
     {
-        m_fixture->model.open(*m_note);
+        m_fixture->model.openNote()->open(*m_note);
         QTRY_VERIFY(m_fixture->model.editor()->textView());
         m_fixture->model.editor()->forceFocus();
     }
