@@ -14,10 +14,11 @@ FocusScope {
     // Set by the host to load a text; read back it is the text as edited.
     property alias text: view.text
     property string placeholder: qsTr("Start typing…")
-    property alias fontSize: view.look.fontSize
-    property alias firstLineIsTitle: view.look.firstLineIsTitle
-    property alias titleBoost: view.look.titleBoost
-    property alias titleWeight: view.look.titleWeight
+    property real fontSize: 14
+    property bool firstLineIsTitle: false
+    // In points, on top of the font's size.
+    property real titleBoost: 7
+    property int titleWeight: Font.Bold
     property alias controller: view.controller
     // Takes the keyboard when it is shown.
     property bool autofocus: false
@@ -72,6 +73,10 @@ FocusScope {
         visibleTop: flickable.contentY - edit.y
         visibleHeight: flickable.height
         onEdited: text => root.edited(text)
+        look.fontSize: root.fontSize
+        look.firstLineIsTitle: root.firstLineIsTitle
+        look.titleBoost: root.titleBoost
+        look.titleWeight: root.titleWeight
         keys.onReturned: root.returned()
         keys.onCommandReturned: root.commandReturned()
         keys.onEmptyItemReturned: root.emptyItemReturned()
