@@ -23,10 +23,10 @@ FocusScope {
     // Takes the keyboard when it is shown.
     property bool autofocus: false
     // Whether the host wants the key instead of what it does in a text.
-    property alias takesReturn: view.keys.takesReturn
-    property alias takesCommandReturn: view.keys.takesCommandReturn
-    property alias takesEmptyItemReturn: view.keys.takesEmptyItemReturn
-    property alias takesEscape: view.keys.takesEscape
+    property bool takesReturn: false
+    property bool takesCommandReturn: false
+    property bool takesEmptyItemReturn: false
+    property bool takesEscape: false
     readonly property bool hasFocus: edit.activeFocus || menu.isOpen
     readonly property real inset: 4
     readonly property real contentHeight: edit.implicitHeight + 2 * root.inset
@@ -77,6 +77,10 @@ FocusScope {
         look.firstLineIsTitle: root.firstLineIsTitle
         look.titleBoost: root.titleBoost
         look.titleWeight: root.titleWeight
+        keys.takesReturn: root.takesReturn
+        keys.takesCommandReturn: root.takesCommandReturn
+        keys.takesEmptyItemReturn: root.takesEmptyItemReturn
+        keys.takesEscape: root.takesEscape
         keys.onReturned: root.returned()
         keys.onCommandReturned: root.commandReturned()
         keys.onEmptyItemReturned: root.emptyItemReturned()
