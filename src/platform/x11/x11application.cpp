@@ -25,8 +25,14 @@ X11Application::X11Application(X11Connection &connection, X11Workspace &workspac
     m_elsewhere.setInterval(kSettled);
     connect(&m_elsewhere, &QTimer::timeout, this, [this] {
         // News of an earlier switch may be all that was heard so far.
-        if (!isOwnWindowActive())
-            setActive(false);
+        if (isOwnWindowActive())
+            return;
+        // The keyboard may have come and gone before either was read.
+        if (m_activation.isActive() && hasUserTurnedElsewhere()) {
+            m_activation.stop();
+            m_isActive = true;
+        }
+        setActive(false);
     });
     constexpr std::chrono::milliseconds kActivation{500};
     m_activation.setSingleShot(true);
@@ -52,7 +58,7 @@ void X11Application::hide()
     if (m_isHidden)
         return;
     m_isHidden = true;
-    const bool hadKeyboard = isActive();
+    const bool hadKeyboard = isActive() && !hasUserTurnedElsewhere();
     m_isActive = false;
     m_hold.end();
     m_activation.stop();
@@ -103,7 +109,8 @@ void X11Application::activate(QWindow &window)
 
 void X11Application::giveKeyboardBack(QWindow &window)
 {
-    const bool isToHaveIt = m_activation.isActive() && m_activatedWindow == &window;
+    const bool isToHaveIt =
+        m_activation.isActive() && m_activatedWindow == &window && !hasUserTurnedElsewhere();
     if (!isToHaveIt && m_workspace.activeWindow() != ownwindows::idOf(window))
         return;
     m_hold.end();
@@ -144,6 +151,12 @@ bool X11Application::isOwnWindowActive() const
 {
     const std::optional<xcb_window_t> window = m_workspace.activeWindow();
     return window && m_workspace.processOf(*window) == QCoreApplication::applicationPid();
+}
+
+bool X11Application::hasUserTurnedElsewhere() const
+{
+    const std::optional<xcb_window_t> window = foreignActiveWindow();
+    return window && window != m_previousWindow;
 }
 
 std::optional<xcb_window_t> X11Application::foreignActiveWindow() const

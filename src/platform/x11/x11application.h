@@ -40,6 +40,8 @@ private:
     void onActiveWindowChanged();
     void setActive(bool isActive);
     [[nodiscard]] bool isOwnWindowActive() const;
+    /// Whether a window is active that is neither ours nor the one that had the keyboard before.
+    [[nodiscard]] bool hasUserTurnedElsewhere() const;
     /// The active window, if it is another application's.
     [[nodiscard]] std::optional<xcb_window_t> foreignActiveWindow() const;
 
