@@ -9,6 +9,19 @@
 
 namespace vesk {
 
+namespace {
+
+/// Whether a key types something that a search can begin with; a space is for the control under it.
+bool typesText(const QKeyEvent &event)
+{
+    constexpr Qt::KeyboardModifiers kCommands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    const QString text = event.text();
+    return (event.modifiers() & kCommands) == Qt::NoModifier && !text.isEmpty() && text.front().isPrint()
+           && !text.front().isSpace();
+}
+
+} // namespace
+
 PanelKeys::PanelKeys(PanelModel &panel, Application &application)
     : m_panel(panel)
     , m_application(application)
@@ -30,6 +43,12 @@ bool PanelKeys::handle(const QKeyEvent &event)
                                             .isSearching = !m_panel.search().isEmpty()});
     if (action == PanelAction::OpenSelected && keyboard.isOnControl())
         return false;
+    if (action == PanelAction::Pass && typesText(event) && !keyboard.isInField()
+        && !m_panel.openNote()->id()) {
+        // Whoever opens the panel and types is looking for something. The field, which has the keyboard
+        // now, is given the key that began it.
+        keyboard.request(PanelKeyboard::Field::Search);
+    }
     return perform(action, event.key());
 }
 

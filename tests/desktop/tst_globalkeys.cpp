@@ -28,6 +28,7 @@ private Q_SLOTS:
     void twoLettersAtOnce();
     void doubleShiftIsHeardDuringAGrab();
     void withoutConsentShiftIsNotHeard();
+    void whatIsTypedFromThePressOnReachesThePanel();
 };
 
 void TestGlobalKeys::eachKeyDoesItsOwn()
@@ -236,6 +237,44 @@ void TestGlobalKeys::withoutConsentShiftIsNotHeard()
     tapShiftTwice();
     VERIFY_ON(*m_desktop, waitNotice(kSavedPrompt));
     QCOMPARE(m_desktop->notes().promptTexts(), QStringList{m_lines.at(1)});
+}
+
+/// The first letters come before the panel is on the screen.
+void TestGlobalKeys::whatIsTypedFromThePressOnReachesThePanel()
+{
+    constexpr auto kFastTyping = 33ms;
+    const QString words = u"lemon tree on the balcony"_s;
+    const auto typeFast = [&] {
+        for (const QChar letter : words) {
+            QTest::qWait(int(kFastTyping.count()));
+            m_desktop->keyboard().type(letter);
+        }
+    };
+    // Without a note there is no search.
+    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
+    capture();
+    VERIFY_ON(*m_desktop, waitNotice(kSaved));
+    constexpr int kRounds = 5;
+    for (int round = 0; round < kRounds; ++round) {
+        togglePanel();
+        typeFast();
+        m_desktop->keyboard().tap({XK_Control_L, XK_a});
+        m_desktop->keyboard().tap({XK_Control_L, XK_x});
+        VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
+            return m_desktop->display().readSelection("CLIPBOARD", 1s) == words;
+        }));
+        togglePanel();
+        VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
+        VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+    }
+    press({XK_Control_L, XK_n});
+    typeFast();
+    m_desktop->keyboard().tap({XK_Return});
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(
+                              kBound, [&] { return m_desktop->notes().texts().value(1) == words; }));
+    togglePanel();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+    QVERIFY(isEditorUntouched());
 }
 
 int main(int argc, char **argv)

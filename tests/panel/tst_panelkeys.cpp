@@ -36,6 +36,7 @@ private Q_SLOTS:
     void locksAndNumberPadDoNotCount();
     void sameFieldCanBeAskedForTwice();
     void composingKeepsItsKeys();
+    void typingBeginsASearch();
 
 private:
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
@@ -271,6 +272,26 @@ void PanelKeysTest::composingKeepsItsKeys()
     QCoreApplication::sendEvent(m_fixture->panel.window().focusObject(), &committed);
     press(Qt::Key_Escape);
     QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::None);
+}
+
+void PanelKeysTest::typingBeginsASearch()
+{
+    press(Qt::Key_Space);
+    QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::None);
+    type(u"Two"_s);
+    QCOMPARE(m_fixture->model.search(), u"Two"_s);
+    press(Qt::Key_Escape);
+    press(Qt::Key_Escape);
+    QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::None);
+
+    // A letter beside the text of an open note must not close it.
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(!m_fixture->model.keyboard()->isEditing());
+    type(u"x"_s);
+    QVERIFY(m_fixture->model.openNote()->id());
+    QCOMPARE(m_fixture->model.search(), QString());
 }
 
 QTEST_MAIN(PanelKeysTest)
