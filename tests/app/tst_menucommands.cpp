@@ -29,10 +29,6 @@ private Q_SLOTS:
     void newNoteIsTakenFromAnywhere();
 
 private:
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers) const
-    {
-        QTest::keyClick(&m_fixture->panel.window(), key, modifiers);
-    }
     void openNote()
     {
         m_fixture->model.openNote()->open(*m_note);
@@ -49,8 +45,7 @@ void MenuCommandsTest::init()
     m_fixture = std::make_unique<PanelFixture>();
     m_fixture->appearance.setReduceMotion(true);
     m_note = &m_fixture->addNote(u"milk"_s);
-    m_fixture->panel.showPanel();
-    QVERIFY(QTest::qWaitForWindowActive(&m_fixture->panel.window()));
+    m_fixture->show();
 }
 
 void MenuCommandsTest::formatTheOpenNote_data()
@@ -68,9 +63,9 @@ void MenuCommandsTest::formatTheOpenNote()
     QFETCH(QString, text);
     const MenuCommands commands(m_fixture->panel.window(), *m_fixture->model.editor());
     openNote();
-    press(key, Qt::ControlModifier | Qt::ShiftModifier);
+    m_fixture->press(key, Qt::ControlModifier | Qt::ShiftModifier);
     QTRY_COMPARE(m_note->text(), text);
-    press(key, Qt::ControlModifier | Qt::ShiftModifier);
+    m_fixture->press(key, Qt::ControlModifier | Qt::ShiftModifier);
     QTRY_COMPARE(m_note->text(), u"milk"_s);
 }
 
@@ -79,9 +74,9 @@ void MenuCommandsTest::formatWorksFromBesideTheText()
     const MenuCommands commands(m_fixture->panel.window(), *m_fixture->model.editor());
     openNote();
     // Back to a button of the panel; what follows the note is a field, which would close it.
-    press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    m_fixture->press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
     QVERIFY(m_fixture->model.editor()->textView() && !m_fixture->model.keyboard()->isEditing());
-    press(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
+    m_fixture->press(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
     QTRY_COMPARE(m_note->text(), u"\u2610 milk"_s);
 }
 
@@ -90,9 +85,9 @@ void MenuCommandsTest::formatNeedsAnOpenNoteInSight()
     MenuCommands commands(m_fixture->panel.window(), *m_fixture->model.editor());
     const auto pressAll = [this] {
         for (const Qt::Key key : {Qt::Key_L, Qt::Key_8, Qt::Key_H})
-            press(key, Qt::ControlModifier | Qt::ShiftModifier);
+            m_fixture->press(key, Qt::ControlModifier | Qt::ShiftModifier);
     };
-    press(Qt::Key_Down, Qt::NoModifier);
+    m_fixture->press(Qt::Key_Down);
     pressAll();
     QCOMPARE(m_note->text(), u"milk"_s);
     openNote();
@@ -107,7 +102,7 @@ void MenuCommandsTest::newNoteIsTakenFromAnywhere()
     const MenuCommands commands(m_fixture->panel.window(), *m_fixture->model.editor());
     QSignalSpy chosen(&commands, &MenuCommands::chosen);
     openNote();
-    press(Qt::Key_N, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_N, Qt::ControlModifier);
     QCOMPARE(chosen.size(), 1);
     QCOMPARE(chosen.first().first().value<Command>(), Command::NewNote);
     // Another window of the program's.

@@ -1,10 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "capture/selectionreader.h"
-#include "platform/memory/memoryaccessibility.h"
-#include "platform/memory/memoryclock.h"
-#include "platform/memory/memorykeyboard.h"
-#include "platform/memory/memorypasteboard.h"
-#include "platform/memory/memoryworkspace.h"
+#include "capturedesktop.h"
 
 #include <QCoroTask>
 
@@ -16,42 +11,10 @@ using namespace vesk;
 
 namespace {
 
-/// The desktop of a user who works in an editor.
-struct World
+/// Asks what is selected, and keeps the answer.
+struct World : CaptureDesktop
 {
-    static constexpr qint64 kPid = 4711;
-
-    MemoryClock clock;
-    MemoryAccessibility accessibility{clock};
-    MemoryWorkspace workspace;
-    MemoryPasteboard pasteboard;
-    MemoryEventPoster poster;
-    MemoryEventTap tap;
-    PasteboardWatcher watcher{pasteboard, clock};
-    SelectionReader reader{{.accessibility = accessibility,
-                            .workspace = workspace,
-                            .pasteboard = pasteboard,
-                            .watcher = watcher,
-                            .poster = poster,
-                            .tap = tap,
-                            .clock = clock}};
-    bool isAnswered = false;
-    std::optional<QString> answer;
-
-    World()
-    {
-        watcher.start();
-        workspace.setFrontmostApplication(RunningApplication{.processIdentifier = kPid,
-                                                             .localizedName = u"Editor"_s,
-                                                             .bundleIdentifier = u"org.example.Editor"_s});
-    }
-
-    void select(const std::optional<QString> &text)
-    {
-        const AccessibleElement field{.processIdentifier = kPid, .address = u"field"_s};
-        accessibility.setElement(field, {.role = u"text"_s, .selectedText = text, .url = {}, .parent = {}});
-        accessibility.setFocusedElement(field);
-    }
+    World() { watcher.start(); }
 
     void ask()
     {
@@ -60,6 +23,9 @@ struct World
             answer = text;
         });
     }
+
+    bool isAnswered = false;
+    std::optional<QString> answer;
 };
 
 } // namespace
@@ -230,13 +196,9 @@ void TestSelectionReader::sourceOfNobody()
     World world;
     world.workspace.setFrontmostApplication(std::nullopt);
     QVERIFY(!world.reader.readSource());
-    world.workspace.setFrontmostApplication(
-        RunningApplication{.processIdentifier = QCoreApplication::applicationPid(),
-                           .localizedName = u"Vesk"_s,
-                           .bundleIdentifier = {}});
+    world.bringForward(QCoreApplication::applicationPid(), u"Vesk"_s);
     QVERIFY(!world.reader.readSource());
-    world.workspace.setFrontmostApplication(
-        RunningApplication{.processIdentifier = World::kPid, .localizedName = {}, .bundleIdentifier = {}});
+    world.bringForward(World::kPid);
     QVERIFY(!world.reader.readSource());
 }
 

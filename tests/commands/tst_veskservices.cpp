@@ -1,184 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "capture/selectionreader.h"
-#include "commands/veskservices.h"
-#include "components/surroundings.h"
-#include "input/hotkeytable.h"
-#include "notes/notesstore.h"
-#include "panel/panelmodel.h"
-#include "panel/panelwindow.h"
-#include "platform/memory/memoryaccessibility.h"
-#include "platform/memory/memoryappearance.h"
-#include "platform/memory/memoryapplication.h"
-#include "platform/memory/memoryclock.h"
-#include "platform/memory/memorydefaults.h"
-#include "platform/memory/memorykeyboard.h"
-#include "platform/memory/memorypasteboard.h"
-#include "platform/memory/memoryscreens.h"
-#include "platform/memory/memorysounds.h"
-#include "platform/memory/memorywindows.h"
-#include "platform/memory/memoryworkspace.h"
-#include "quicknote/toast.h"
+#include "servicesworld.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
-#include <QGuiApplication>
-#include <QQmlEngine>
-#include <QQuickWindow>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
-
-namespace {
-
-/// Keeps the store's file from being written, as another program's transaction does.
-class WriteLock
-{
-public:
-    explicit WriteLock(const QString &path)
-        : m_database(path.toStdString(), SQLite::OPEN_READWRITE)
-    {
-        m_database.exec("BEGIN IMMEDIATE");
-    }
-
-private:
-    SQLite::Database m_database;
-};
-
-/// One of the hub's commands: a hot key, or the double Shift.
-struct Command
-{
-    const HotKeyRow *key = nullptr;
-};
-constexpr Command kNote{&hotkeytable::kQuickNote};
-constexpr Command kAppend{&hotkeytable::kAppend};
-constexpr Command kChecklist{&hotkeytable::kChecklist};
-constexpr Command kAdd{&hotkeytable::kAddToChecklist};
-constexpr Command kPrompt{};
-
-/// The quick-note box, without a window.
-class MemoryBox final : public QuickNoteBox
-{
-public:
-    void show(Mode mode) override { m_mode = mode; }
-    void close() override { m_mode.reset(); }
-    [[nodiscard]] bool isShowing() const override { return m_mode.has_value(); }
-    [[nodiscard]] std::optional<Mode> mode() const { return m_mode; }
-
-private:
-    std::optional<Mode> m_mode;
-};
-
-/// The whole program but for its platform.
-struct World
-{
-    QTemporaryDir folder;
-    MemoryClock clock;
-    NotesStore::OpenResult opened = NotesStore::open(folder.filePath(u"Notes.store"_s), clock);
-    NotesStore &store = *opened.store;
-    MemoryAccessibility accessibility{clock};
-    MemoryWorkspace workspace;
-    MemoryAppearance appearance;
-    MemoryApplication application;
-    MemoryDefaults defaults;
-    MemoryHotKeys hotKeys;
-    MemoryScreens screens;
-    MemorySounds sounds;
-    MemoryWindows windows{screens};
-    QQmlEngine engine;
-    MemoryPasteboard pasteboard;
-    MemoryEventPoster poster;
-    MemoryEventTap tap;
-    PasteboardWatcher watcher{pasteboard, clock};
-    SelectionReader reader{{.accessibility = accessibility,
-                            .workspace = workspace,
-                            .pasteboard = pasteboard,
-                            .watcher = watcher,
-                            .poster = poster,
-                            .tap = tap,
-                            .clock = clock}};
-    PanelModel panel{store, clock, defaults, application, accessibility};
-    std::unique_ptr<PanelWindow> panelWindow;
-    std::unique_ptr<Toast> toast;
-    MemoryBox box;
-    std::unique_ptr<VeskServices> services;
-
-    /// `owners` have the checklist's combination for themselves.
-    explicit World(std::span<const QStringView> owners = {})
-    {
-        lendToEngine(engine, appearance, workspace, windows);
-        panelWindow = std::make_unique<PanelWindow>(engine, panel, application, screens, windows);
-        toast = std::make_unique<Toast>(engine, screens, windows, clock);
-        services = std::make_unique<VeskServices>(VeskServices::Needs{.clock = clock,
-                                                                      .hotKeys = hotKeys,
-                                                                      .tap = tap,
-                                                                      .accessibility = accessibility,
-                                                                      .workspace = workspace,
-                                                                      .sounds = sounds,
-                                                                      .store = store,
-                                                                      .reader = reader,
-                                                                      .panel = panel,
-                                                                      .panelWindow = *panelWindow,
-                                                                      .quickNote = box,
-                                                                      .toast = *toast,
-                                                                      .checklistKeyOwners = owners});
-        services->start();
-        workspace.setFrontmostApplication(RunningApplication{.processIdentifier = 4711,
-                                                             .localizedName = u"Editor"_s,
-                                                             .bundleIdentifier = u"org.example.Editor"_s});
-    }
-
-    /// Selects a text in the application that the user works in; an empty one for nothing.
-    void select(const QString &text)
-    {
-        const AccessibleElement field{.processIdentifier = 4711, .address = u"field"_s};
-        accessibility.setElement(field, {.role = u"text"_s, .selectedText = text, .url = {}, .parent = {}});
-        accessibility.setFocusedElement(field);
-    }
-
-    void press(const HotKeyRow &row) { QVERIFY(hotKeys.press(row.combination)); }
-    void tapShiftTwice()
-    {
-        for (const auto held : {Qt::ShiftModifier, Qt::NoModifier, Qt::ShiftModifier, Qt::NoModifier})
-            tap.setFlags({.held = held, .isCapsLocked = false, .time = {}});
-    }
-    void command(Command command)
-    {
-        if (command.key)
-            press(*command.key);
-        else
-            tapShiftTwice();
-    }
-
-    /// The message on the screen; empty if there is none.
-    [[nodiscard]] static QString notice()
-    {
-        const QWindowList windows = QGuiApplication::topLevelWindows();
-        for (const QWindow *window : windows) {
-            if (window->isVisible() && (window->flags() & Qt::WindowDoesNotAcceptFocus))
-                return window->title();
-        }
-        return {};
-    }
-
-    /// Newest first.
-    [[nodiscard]] QStringList texts() { return textsOf(store.notes()); }
-    [[nodiscard]] QStringList prompts() { return textsOf(store.prompts()); }
-
-private:
-    template <typename Record>
-    static QStringList textsOf(const LiveQuery<Record> &query)
-    {
-        QStringList texts;
-        for (qsizetype i = 0; i < query.count(); ++i)
-            texts.append(query.at(i).text());
-        return texts;
-    }
-};
-
-} // namespace
 
 Q_DECLARE_METATYPE(Command)
 
@@ -223,7 +52,7 @@ void TestVeskServices::commands()
 
 void TestVeskServices::captureKeepsTextAndSource()
 {
-    World world;
+    ServicesWorld world;
     world.select(u" Lemon tree \n"_s);
     world.accessibility.setFocusedWindowTitle(4711, u"garden.txt"_s);
     world.press(hotkeytable::kQuickNote);
@@ -232,7 +61,7 @@ void TestVeskServices::captureKeepsTextAndSource()
     QCOMPARE(world.store.notes().first()->sourceBundleID(), u"org.example.Editor"_s);
     QCOMPARE(world.store.notes().first()->sourceTitle(), u"garden.txt"_s);
     QVERIFY(!world.store.hasPendingChanges());
-    QCOMPARE(World::notice(), u"Saved to Vesk"_s);
+    QCOMPARE(ServicesWorld::notice(), u"Saved to Vesk"_s);
     QCOMPARE(world.sounds.played(), QList{Sounds::Sound::Tink});
     QVERIFY(!world.panelWindow->isShown());
 }
@@ -277,7 +106,7 @@ void TestVeskServices::selectionGoesWhereTheKeySays()
     QFETCH(const QString, selection);
     QFETCH(const QStringList, after);
     QFETCH(const QString, notice);
-    World world;
+    ServicesWorld world;
     for (const QString &text : before) {
         world.store.insert(std::make_unique<Note>(world.clock, text));
         world.clock.advance(1s);
@@ -285,7 +114,7 @@ void TestVeskServices::selectionGoesWhereTheKeySays()
     world.select(selection);
     world.command(command);
     QCOMPARE(world.texts(), after);
-    QCOMPARE(World::notice(), notice);
+    QCOMPARE(ServicesWorld::notice(), notice);
     QVERIFY(!world.store.hasPendingChanges());
     QCOMPARE(world.sounds.played(), QList{Sounds::Sound::Tink});
 }
@@ -314,7 +143,7 @@ void TestVeskServices::commandsKeepTheirDistance()
     QFETCH(const Command, second);
     QFETCH(const std::chrono::milliseconds, distance);
     QFETCH(const bool, isAccepted);
-    World world;
+    ServicesWorld world;
     world.select(u"one"_s);
     world.command(first);
     // The time of day is none of the keys' business.
@@ -332,12 +161,11 @@ void TestVeskServices::commandsKeepTheirDistance()
 void TestVeskServices::sourceIsOfTheKeyPress()
 {
     for (const HotKeyRow *key : {&hotkeytable::kQuickNote, &hotkeytable::kAddToChecklist}) {
-        World world;
+        ServicesWorld world;
         world.select(u"text"_s);
         world.accessibility.setDelay(50ms);
         world.press(*key);
-        world.workspace.setFrontmostApplication(
-            RunningApplication{.processIdentifier = 1, .localizedName = u"Other"_s, .bundleIdentifier = {}});
+        world.bringForward(1, u"Other"_s);
         QVERIFY(world.texts().isEmpty());
         world.clock.advance(200ms);
         QCOMPARE(world.texts().size(), 1);
@@ -348,27 +176,29 @@ void TestVeskServices::sourceIsOfTheKeyPress()
 void TestVeskServices::tooLongTextIsRefused()
 {
     QFETCH(const Command, command);
-    World world;
+    ServicesWorld world;
     // Two bytes each: the text is over the limit in bytes, not in characters.
     world.select(QString(kMaximumTextBytes / 2 + 1, u'ä'));
     world.command(command);
-    QCOMPARE(World::notice(), u"The selection is too long to keep"_s);
+    QCOMPARE(ServicesWorld::notice(), u"The selection is too long to keep"_s);
     world.clock.advance(3s);
     world.select(QString(kMaximumTextBytes / 2, u'ä'));
     world.command(command);
     QCOMPARE(world.texts().size() + world.prompts().size(), 1);
-    QVERIFY(World::notice().startsWith(u"Saved to "_s));
+    QVERIFY(ServicesWorld::notice().startsWith(u"Saved to "_s));
 }
 
 void TestVeskServices::failedSaveIsNotConfirmed()
 {
     QFETCH(const Command, command);
-    World world;
+    ServicesWorld world;
     world.select(u"kept in memory"_s);
     {
-        const WriteLock lock(world.folder.filePath(u"Notes.store"_s));
+        // As another program's transaction does.
+        SQLite::Database other(world.folder.filePath(u"Notes.store"_s).toStdString(), SQLite::OPEN_READWRITE);
+        other.exec("BEGIN IMMEDIATE");
         world.command(command);
-        QCOMPARE(World::notice(), u"Not saved yet, Vesk keeps trying"_s);
+        QCOMPARE(ServicesWorld::notice(), u"Not saved yet, Vesk keeps trying"_s);
         QVERIFY(world.sounds.played().isEmpty());
         QVERIFY(world.store.hasPendingChanges());
     }
@@ -407,13 +237,13 @@ void TestVeskServices::nothingSelected()
     QFETCH(const bool, isTrusted);
     QFETCH(const std::optional<QuickNoteBox::Mode>, mode);
     QFETCH(const QString, notice);
-    World world;
+    ServicesWorld world;
     world.accessibility.setTrusted(isTrusted);
     world.select(isTrusted ? QString() : u"private"_s);
     for (int press = 0; press < 2; ++press) {
         world.command(command);
         QCOMPARE(world.box.mode(), mode);
-        QCOMPARE(World::notice(), notice);
+        QCOMPARE(ServicesWorld::notice(), notice);
         world.box.close();
         world.clock.advance(3s);
     }
@@ -427,8 +257,8 @@ void TestVeskServices::nothingSelected()
 
 void TestVeskServices::sameKeyClosesTheBox()
 {
-    World world;
-    world.select({});
+    ServicesWorld world;
+    world.select(QString());
     world.press(hotkeytable::kQuickNote);
     QVERIFY(world.box.isShowing());
     world.select(u"not to be read"_s);
@@ -447,7 +277,7 @@ void TestVeskServices::sameKeyClosesTheBox()
 
 void TestVeskServices::trustWithdrawnWhileReading()
 {
-    World world;
+    ServicesWorld world;
     world.select(u"private"_s);
     world.accessibility.setDelay(50ms);
     world.press(hotkeytable::kQuickNote);
@@ -460,7 +290,7 @@ void TestVeskServices::trustWithdrawnWhileReading()
 
 void TestVeskServices::doubleShiftIsHeardOnlyWithTrust()
 {
-    World world;
+    ServicesWorld world;
     for (const auto &[text, isTrusted, notice] :
          {std::tuple(u"one"_s, true, u"Saved to Prompts"_s),
           std::tuple(u"one"_s, true, u"Already in Prompts"_s), std::tuple(u"two"_s, false, QString()),
@@ -472,7 +302,7 @@ void TestVeskServices::doubleShiftIsHeardOnlyWithTrust()
         world.tapShiftTwice();
         // The one before may still be fading.
         if (!notice.isEmpty())
-            QCOMPARE(World::notice(), notice);
+            QCOMPARE(ServicesWorld::notice(), notice);
     }
     QCOMPARE(world.prompts(), (QStringList{u"one"_s, u"two"_s, u"one"_s}));
     QVERIFY(world.store.prompts().first()->isCaptured());
@@ -494,28 +324,24 @@ void TestVeskServices::doubleShiftIsHeardOnlyWithTrust()
 void TestVeskServices::checklistKeyIsLeftToItsOwner()
 {
     static constexpr QStringView kOwners[]{u"org.example.Files"};
-    World world(kOwners);
+    ServicesWorld world(kOwners);
     const KeyCombination key = hotkeytable::kChecklist.combination;
-    const auto turnTo = [&world](qint64 process, const std::optional<QString> &identifier) {
-        world.workspace.setFrontmostApplication(RunningApplication{
-            .processIdentifier = process, .localizedName = u"App"_s, .bundleIdentifier = identifier});
-    };
     world.select(u"text"_s);
-    turnTo(1, u"org.example.Files"_s);
+    world.bringForward(1, u"App"_s, u"org.example.Files"_s);
     QVERIFY(!world.hotKeys.press(key));
     QVERIFY(world.hotKeys.press(hotkeytable::kAddToChecklist.combination));
-    turnTo(2, std::nullopt);
+    world.bringForward(2, u"App"_s);
     QVERIFY(world.hotKeys.press(key));
-    turnTo(3, u"org.example.Files"_s);
-    turnTo(4, u"org.example.files"_s);
-    turnTo(5, u"org.example.Editor"_s);
+    world.bringForward(3, u"App"_s, u"org.example.Files"_s);
+    world.bringForward(4, u"App"_s, u"org.example.files"_s);
+    world.bringForward(5, u"App"_s, u"org.example.Editor"_s);
     QVERIFY(world.hotKeys.press(key));
     QCOMPARE(world.hotKeys.registrationCount(), 6);
 }
 
 void TestVeskServices::openKeyTogglesThePanel()
 {
-    World world;
+    ServicesWorld world;
     world.press(hotkeytable::kOpen);
     QVERIFY(world.panelWindow->isShown());
     world.press(hotkeytable::kOpen);

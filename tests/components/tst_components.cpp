@@ -25,8 +25,6 @@ class ComponentsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void keyLabelsSayWhatWorksInTheirPlace_data();
-    void keyLabelsSayWhatWorksInTheirPlace();
     void combinationsInTextsAreSpelt_data();
     void combinationsInTextsAreSpelt();
     void everyAccentCanBeRead_data();
@@ -36,31 +34,6 @@ private Q_SLOTS:
     void iconIsLookedUpOnce();
 };
 
-void ComponentsTest::keyLabelsSayWhatWorksInTheirPlace_data()
-{
-    QTest::addColumn<QString>("glyph");
-    QTest::addColumn<QString>("global");
-    QTest::addColumn<QString>("window");
-
-    QTest::newRow("command") << u"\u2318"_s << u"Super"_s << u"Ctrl"_s;
-    QTest::newRow("option") << u"\u2325"_s << u"Alt"_s << u"Alt"_s;
-    QTest::newRow("control") << u"\u2303"_s << u"Ctrl"_s << u"Ctrl"_s;
-    QTest::newRow("shift") << u"\u21E7"_s << u"Shift"_s << u"Shift"_s;
-    QTest::newRow("return") << u"\u21A9"_s << u"Enter"_s << u"Enter"_s;
-    QTest::newRow("delete") << u"\u232B"_s << u"Backspace"_s << u"Backspace"_s;
-    QTest::newRow("space") << u"\u2423"_s << u"Space"_s << u"Space"_s;
-    QTest::newRow("escape") << u"esc"_s << u"Esc"_s << u"Esc"_s;
-    QTest::newRow("a letter is its own label") << u"N"_s << u"N"_s << u"N"_s;
-    QTest::newRow("so is what is typed") << u"[ ]"_s << u"[ ]"_s << u"[ ]"_s;
-}
-
-void ComponentsTest::keyLabelsSayWhatWorksInTheirPlace()
-{
-    QFETCH(QString, glyph);
-    QTEST(KeyLabels::label(glyph, KeyLabels::Global), "global");
-    QTEST(KeyLabels::label(glyph, KeyLabels::Window), "window");
-}
-
 void ComponentsTest::combinationsInTextsAreSpelt_data()
 {
     QTest::addColumn<QString>("text");
@@ -69,8 +42,8 @@ void ComponentsTest::combinationsInTextsAreSpelt_data()
 
     QTest::newRow("with a letter") << u"New Note (\u2303\u2325\u2318N)"_s << u"New Note (Ctrl+Alt+Super+N)"_s
                                    << u"New Note (Ctrl+Alt+Ctrl+N)"_s;
-    QTest::newRow("with a key") << u"Delete (\u2318\u232B)"_s << u"Delete (Super+Backspace)"_s
-                                << u"Delete (Ctrl+Backspace)"_s;
+    QTest::newRow("with a key") << u"Delete (\u21E7\u2318\u232B)"_s << u"Delete (Shift+Super+Backspace)"_s
+                                << u"Delete (Shift+Ctrl+Backspace)"_s;
     QTest::newRow("a key alone, then a word")
         << u"Press \u21A9 to save"_s << u"Press Enter to save"_s << u"Press Enter to save"_s;
     QTest::newRow("no key") << u"Quit Vesk"_s << u"Quit Vesk"_s << u"Quit Vesk"_s;

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QDBusConnection>
+#include "desktop/accessiblebus.h"
+
 #include <QDBusMessage>
 #include <QObject>
 #include <QString>
@@ -17,7 +18,6 @@ class Announcements final : public QObject
 public:
     /// `busAddress` is that of the session bus, which knows the accessibility bus.
     explicit Announcements(const QString &busAddress);
-    ~Announcements() override;
 
     /// Their names, the first one first.
     [[nodiscard]] const QStringList &heard() const { return m_heard; }
@@ -26,7 +26,7 @@ private Q_SLOTS:
     void onStateChanged(const QDBusMessage &message);
 
 private:
-    QDBusConnection m_bus;
+    AccessibleBus m_bus;
     QStringList m_heard;
 };
 

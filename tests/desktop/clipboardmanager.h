@@ -15,24 +15,16 @@ public:
         Hanging,
     };
 
-    /// Is the manager when this returns. Null if the server did not answer.
-    [[nodiscard]] static std::unique_ptr<ClipboardManager> start(const QString &displayName, Manner manner);
-    ~ClipboardManager();
-    Q_DISABLE_COPY_MOVE(ClipboardManager)
+    /// Is the manager when this returns, unless the server did not answer.
+    ClipboardManager(const QString &displayName, Manner manner);
 
 private:
-    ClipboardManager(QString displayName, Manner manner, xcb_connection_t *connection);
-
-    void claim();
-    void serve();
-    void save(const xcb_selection_request_event_t &request);
+    void save(DisplayConnection &display, const xcb_selection_request_event_t &request);
 
     const QString m_displayName;
-    const Manner m_manner;
-    xcb_connection_t *m_connection;
     std::unique_ptr<ClipboardHolder> m_saved;
-    std::atomic_bool m_isEnding = false;
-    std::thread m_thread;
+    // Ends before what it uses.
+    std::unique_ptr<SelectionThread> m_thread;
 };
 
 } // namespace vesk

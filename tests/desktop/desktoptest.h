@@ -2,7 +2,6 @@
 #pragma once
 
 #include "desktop/guard.h"
-#include "desktop/texteditor.h"
 #include "desktop/veskfacts.h"
 
 #include <QCoreApplication>

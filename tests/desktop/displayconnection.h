@@ -40,6 +40,8 @@ public:
 
     [[nodiscard]] xcb_atom_t atom(const char *name) const;
     [[nodiscard]] xcb_connection_t *xcb() const { return m_connection; }
+    /// A window that is never shown, for owning and asking.
+    [[nodiscard]] xcb_window_t window() const { return m_window; }
     [[nodiscard]] xcb_window_t root() const { return m_screen->root; }
     [[nodiscard]] QSize size() const { return {m_screen->width_in_pixels, m_screen->height_in_pixels}; }
 
@@ -50,7 +52,6 @@ private:
 
     xcb_connection_t *m_connection;
     xcb_screen_t *m_screen;
-    /// Takes the selections' texts; never shown.
     xcb_window_t m_window;
 };
 

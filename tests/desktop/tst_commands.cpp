@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/desktoptest.h"
+#include "desktop/texteditor.h"
+#include "desktop/vesktest.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -37,12 +38,11 @@ QStringList methodsOf(const QString &description)
 } // namespace
 
 /// The command line against the real program and a bus of its own.
-class TestCommands : public QObject
+class TestCommands : public VeskTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void cleanup();
     void addsAndListsWithoutARunningVesk();
     void addsThroughTheRunningVesk();
@@ -68,22 +68,12 @@ private:
     /// The words of an outcome, for the message of a test that failed.
     static QString told(const Outcome &outcome) { return outcome.output + outcome.errors; }
     [[nodiscard]] bool isOnTheBus();
-
-    std::unique_ptr<VirtualDesktop> m_desktop;
 };
-
-void TestCommands::init()
-{
-    QString problem;
-    m_desktop = VirtualDesktop::start(problem);
-    QVERIFY2(m_desktop, qPrintable(problem));
-    QVERIFY(m_desktop->prepareUser());
-}
 
 void TestCommands::cleanup()
 {
     QDBusConnection::disconnectFromBus(u"vesk-test-commands"_s);
-    m_desktop.reset();
+    VeskTest::cleanup();
 }
 
 TestCommands::Outcome TestCommands::shell(const QString &line)
@@ -182,14 +172,10 @@ void TestCommands::commandsStartVeskAndEndIt()
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
 
     QCOMPARE(vesk(u"write"_s).code, 0);
-    const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
-    VERIFY_ON(*m_desktop, panel);
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kPanel, kBound));
     m_desktop->keyboard().type(u"written"_s);
     m_desktop->keyboard().tap({XK_Return});
-    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
-        return m_desktop->notes().texts() == QStringList{u"written"_s};
-    }));
+    VERIFY_ON(*m_desktop, waitNotes(QStringList{u"written"_s}));
 
     QCOMPARE(vesk(u"quit"_s).code, 0);
     QVERIFY(!isOnTheBus());

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/clipboardholder.h"
 #include "desktop/clipboardmanager.h"
-#include "desktop/desktoptest.h"
 #include "desktop/heartbeat.h"
+#include "desktop/texteditor.h"
+#include "desktop/vesktest.h"
 
 #include <QElapsedTimer>
 
@@ -27,18 +28,17 @@ const ClipboardHolder::Forms kCopied{{"UTF8_STRING", "copied before"}, {"text/ht
 
 /// Captures while something else on the desktop is broken: they end in time, with the note or the way to
 /// write one, Vesk stays awake throughout, and the clipboard is as it was.
-class TestFaults : public QObject
+class TestFaults : public VeskTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() {} // The functions differ in what their desktops lack.
     void cleanup();
     void nothingIsBroken();
     void clipboardsOwnerHangs();
     void applicationHangsAndGoesOnLater();
     void windowClosesAtThePress();
-    void dialogIsInFront();
-    void windowFillsTheScreen();
     void nothingIsInFront();
     void accessibilityBusIsMissing();
     void extensionOfTheServerIsMissing_data();
@@ -54,7 +54,6 @@ private:
     };
 
     [[nodiscard]] QString setUp(const VirtualDesktop::Lacks &lacks = {});
-    void press() { m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_n}, kFinger); }
     /// Presses the key for a capture, does `meanwhile`, and measures what follows.
     [[nodiscard]] Outcome capture(const std::function<void()> &meanwhile = {});
     /// What was wrong with the last capture's time, and with the clipboard now; empty for nothing.
@@ -63,9 +62,7 @@ private:
     void dismissFallback();
 
     const QStringList m_lines = {u"Water the lemon tree on the balcony"_s, u"Ask about the train to Ghent"_s};
-    std::unique_ptr<VirtualDesktop> m_desktop;
     std::unique_ptr<ClipboardHolder> m_clipboard;
-    std::unique_ptr<ChildProcess> m_vesk;
     std::unique_ptr<TextEditor> m_editor;
     QElapsedTimer m_sinceCapture;
     /// How long a capture takes with nothing broken.
@@ -84,8 +81,7 @@ QString TestFaults::setUp(const VirtualDesktop::Lacks &lacks)
     m_clipboard = ClipboardHolder::hold(m_desktop->displayName(), kCopied);
     if (!m_clipboard || !m_desktop->prepareUser())
         return u"The user could not be prepared."_s;
-    m_vesk = m_desktop->startVesk();
-    m_editor = m_vesk ? TextEditor::open(*m_desktop, m_lines) : nullptr;
+    m_editor = startVesk() ? TextEditor::open(*m_desktop, m_lines) : nullptr;
     if (!m_editor)
         return u"Vesk or the editor did not start."_s;
     if (!m_editor->selectLine(0) || capture() != Outcome::Note)
@@ -96,12 +92,9 @@ QString TestFaults::setUp(const VirtualDesktop::Lacks &lacks)
 
 void TestFaults::cleanup()
 {
-    if (m_vesk && QTest::currentTestFailed())
-        qWarning().noquote() << "Vesk said:" << m_vesk->errorOutput();
     m_editor.reset();
-    m_vesk.reset();
     m_clipboard.reset();
-    m_desktop.reset();
+    VeskTest::cleanup();
     m_sinceCapture.invalidate();
 }
 
@@ -119,7 +112,7 @@ TestFaults::Outcome TestFaults::capture(const std::function<void()> &meanwhile)
     const qsizetype before = m_desktop->notes().texts().size();
     Heartbeat heartbeat(m_desktop->busAddress());
     Outcome outcome = Outcome::None;
-    press();
+    press({XK_n});
     m_sinceCapture.start();
     if (meanwhile)
         meanwhile();
@@ -207,47 +200,6 @@ void TestFaults::windowClosesAtThePress()
     QVERIFY(texts.size() == 1 || texts.constLast() == m_lines.at(1));
 }
 
-void TestFaults::dialogIsInFront()
-{
-    QCOMPARE(setUp(), QString());
-    m_desktop->keyboard().tap({XK_Control_L, XK_r}, kFinger);
-    const auto dialog = m_desktop->windows().waitViewableOf(m_editor->process().pid(), u"Replace"_s, kBound);
-    VERIFY_ON(*m_desktop, dialog);
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*dialog, kBound));
-    const QString word = u"lemon"_s;
-    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
-        m_desktop->keyboard().tap({XK_Control_L, XK_a}, kFinger);
-        m_desktop->keyboard().type(word);
-        m_desktop->keyboard().tap({XK_Control_L, XK_a}, kFinger);
-        return m_desktop->display().readSelection("PRIMARY", 500ms) == word;
-    }));
-    QCOMPARE(capture(), Outcome::Note);
-    QCOMPARE(complaint(), QString());
-    const NotesFile::Row note = m_desktop->notes().notes().value_or(QList<NotesFile::Row>()).value(1);
-    QCOMPARE(note.value(u"text"_s), word);
-    QCOMPARE(note.value(u"sourceBundleID"_s), u"org.xfce.mousepad"_s);
-    QCOMPARE(note.value(u"sourceTitle"_s), dialog->title);
-}
-
-void TestFaults::windowFillsTheScreen()
-{
-    QCOMPARE(setUp(), QString());
-    m_desktop->keyboard().tap({XK_F11}, kFinger);
-    const xcb_window_t editor = m_editor->window().id;
-    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
-        return m_desktop->windows()
-            .findViewableIf([&](const Window &window) {
-                return window.id == editor && window.geometry.size() == m_desktop->display().size();
-            })
-            .has_value();
-    }));
-    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
-    QCOMPARE(capture(), Outcome::Note);
-    QCOMPARE(complaint(), QString());
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
-    VERIFY_ON(*m_desktop, m_desktop->windows().isActive(m_editor->window()));
-}
-
 void TestFaults::nothingIsInFront()
 {
     QCOMPARE(setUp(), QString());
@@ -281,10 +233,8 @@ void TestFaults::extensionOfTheServerIsMissing_data()
 void TestFaults::extensionOfTheServerIsMissing()
 {
     QFETCH(const QString, extension);
-    QString problem;
-    m_desktop = VirtualDesktop::start(problem, {.accessibilityBus = true, .extension = extension});
-    QVERIFY2(m_desktop, qPrintable(problem));
-    QVERIFY(m_desktop->prepareUser());
+    startDesktop({.accessibilityBus = true, .extension = extension});
+    QVERIFY(m_desktop && m_desktop->prepareUser());
     m_vesk = m_desktop->run(VirtualDesktop::veskProgram());
     QVERIFY(m_vesk && m_vesk->waitForExit(kBound));
     QCOMPARE(m_vesk->exitCode(), 1);
@@ -304,10 +254,8 @@ void TestFaults::textOutlivesVesk()
     QFETCH(const bool, hangs);
     QCOMPARE(setUp(), QString());
     VERIFY_ON(*m_desktop, m_editor->deselect());
-    m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}, kFinger);
-    const auto panel = m_desktop->windows().waitViewable(kPanel, kBound);
-    VERIFY_ON(*m_desktop, panel);
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
+    togglePanel();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kPanel, kBound));
     m_desktop->keyboard().tap({XK_Down}, kFinger);
     m_desktop->keyboard().tap({XK_Control_L, XK_Return}, kFinger);
     const auto clipboard = [this] { return m_desktop->display().readSelection("CLIPBOARD", 1s); };
@@ -315,8 +263,7 @@ void TestFaults::textOutlivesVesk()
               m_desktop->display().waitUntil(kBound, [&] { return clipboard() == m_lines.at(0); }));
 
     const auto manner = hangs ? ClipboardManager::Manner::Hanging : ClipboardManager::Manner::Ordinary;
-    const auto manager = ClipboardManager::start(m_desktop->displayName(), manner);
-    QVERIFY(manager);
+    const ClipboardManager manager(m_desktop->displayName(), manner);
     QVERIFY(m_vesk->quit());
     QCOMPARE(m_vesk->exitCode(), 0);
     QCOMPARE(clipboard(), hangs ? std::nullopt : std::optional(m_lines.at(0)));

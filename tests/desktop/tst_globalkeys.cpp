@@ -18,15 +18,12 @@ class TestGlobalKeys : public EditorTest
 
 private Q_SLOTS:
     void eachKeyDoesItsOwn();
-    void locks_data();
-    void locks();
     void layouts_data();
     void layouts();
     void layoutChangedWhileRunning();
     void takenCombinationLeavesTheOthers();
     void letterHeldLongerThanItsModifiersTypesNothing();
     void twoLettersAtOnce();
-    void doubleShiftIsHeardDuringAGrab();
     void withoutConsentShiftIsNotHeard();
     void whatIsTypedFromThePressOnReachesThePanel();
 };
@@ -62,46 +59,18 @@ void TestGlobalKeys::eachKeyDoesItsOwn()
 
     Windows &windows = m_desktop->windows();
     togglePanel();
-    VERIFY_ON(*m_desktop,
-              windows.waitFocused(windows.waitViewable(kPanel, kBound).value_or(Window()), kBound));
+    VERIFY_ON(*m_desktop, windows.waitFocused(kPanel, kBound));
     togglePanel();
     VERIFY_ON(*m_desktop, windows.waitGone(kPanel, kBound));
     VERIFY_ON(*m_desktop, windows.waitActive(m_editor->window(), kBound));
     QVERIFY(isEditorUntouched());
 
     press({XK_Control_L, XK_n});
-    VERIFY_ON(*m_desktop,
-              windows.waitFocused(windows.waitViewable(kPanel, kBound).value_or(Window()), kBound));
+    VERIFY_ON(*m_desktop, windows.waitFocused(kPanel, kBound));
     m_desktop->keyboard().type(u"written"_s);
     m_desktop->keyboard().tap({XK_Return});
     VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(
                               kBound, [this] { return m_desktop->notes().texts().contains(u"written"_s); }));
-}
-
-void TestGlobalKeys::locks_data()
-{
-    QTest::addColumn<xcb_keysym_t>("lock");
-    QTest::addColumn<bool>("isPromptExpected");
-    QTest::newRow("Caps Lock") << xcb_keysym_t{XK_Caps_Lock} << false;
-    QTest::newRow("Num Lock") << xcb_keysym_t{XK_Num_Lock} << true;
-}
-
-void TestGlobalKeys::locks()
-{
-    QFETCH(const xcb_keysym_t, lock);
-    QFETCH(const bool, isPromptExpected);
-    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
-    m_desktop->keyboard().tap({lock}, kFinger);
-    tapShiftTwice();
-    if (isPromptExpected)
-        VERIFY_ON(*m_desktop, waitNotice(kSavedPrompt));
-    capture();
-    // A prompt would have been stored before the note.
-    VERIFY_ON(*m_desktop, waitNotice(kSaved));
-    QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(0)});
-    QCOMPARE(m_desktop->notes().promptTexts().size(), isPromptExpected ? 1 : 0);
-    m_desktop->keyboard().tap({lock}, kFinger);
-    QVERIFY(isEditorUntouched());
 }
 
 void TestGlobalKeys::layouts_data()
@@ -141,8 +110,7 @@ void TestGlobalKeys::layouts()
     QTest::qWait(int(kCaptureGate.count()));
     press({XK_c});
     const QStringList expected{m_lines.at(1), u"☐ "_s + m_lines.at(1)};
-    VERIFY_ON(*m_desktop,
-              m_desktop->display().waitUntil(kBound, [&] { return m_desktop->notes().texts() == expected; }));
+    VERIFY_ON(*m_desktop, waitNotes(expected));
 }
 
 /// Super and Alt change places on the keyboard, and then back.
@@ -209,17 +177,6 @@ void TestGlobalKeys::twoLettersAtOnce()
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kSaved, kBound));
     QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(0)});
     QVERIFY(isEditorUntouched());
-}
-
-/// Another program has the keyboard for itself, as a menu has or a screen's magnifier.
-void TestGlobalKeys::doubleShiftIsHeardDuringAGrab()
-{
-    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
-    QVERIFY(m_desktop->keyboard().grab());
-    tapShiftTwice();
-    m_desktop->keyboard().ungrab();
-    VERIFY_ON(*m_desktop, waitNotice(kSavedPrompt));
-    QCOMPARE(m_desktop->notes().promptTexts(), QStringList{m_lines.at(1)});
 }
 
 void TestGlobalKeys::withoutConsentShiftIsNotHeard()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/desktoptest.h"
+#include "desktop/vesktest.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,14 +11,12 @@ using namespace Qt::StringLiterals;
 using namespace vesk;
 
 /// Vesk as it is installed, started the ways in which desktops start it.
-class TestInstallation : public QObject
+class TestInstallation : public VeskTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase();
-    void init();
-    void cleanup() { m_desktop.reset(); }
     void sessionStartsItInTheBackground();
     void menuShowsIt();
     void iconsAreThere();
@@ -30,7 +28,6 @@ private:
     [[nodiscard]] std::unique_ptr<ChildProcess> startEntry(const QString &path);
 
     QTemporaryDir m_folder;
-    std::unique_ptr<VirtualDesktop> m_desktop;
 };
 
 void TestInstallation::initTestCase()
@@ -42,14 +39,6 @@ void TestInstallation::initTestCase()
     install.start(QStringLiteral(VESK_CMAKE), {u"--install"_s, QStringLiteral(VESK_BUILD)});
     QVERIFY(install.waitForFinished(60'000));
     QVERIFY2(install.exitCode() == 0, install.readAllStandardError().constData());
-}
-
-void TestInstallation::init()
-{
-    QString problem;
-    m_desktop = VirtualDesktop::start(problem);
-    QVERIFY2(m_desktop, qPrintable(problem));
-    QVERIFY(m_desktop->prepareUser());
 }
 
 std::unique_ptr<ChildProcess> TestInstallation::startEntry(const QString &path)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/accessibletree.h"
-#include "desktop/desktoptest.h"
+#include "desktop/texteditor.h"
+#include "desktop/vesktest.h"
 #include "platform/fakestatuswatcher.h"
 
 #include <QDBusConnection>
@@ -17,12 +18,12 @@ const auto kBus = u"vesk-test-menus"_s;
 } // namespace
 
 /// The guide, the keys of the menus and the icon of the real program.
-class MenusTest : public QObject
+class MenusTest : public VeskTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() { startDesktop(); }
     void cleanup();
     void guideGreetsOnlyOnce();
     void guideStaysForTheAnswer();
@@ -31,18 +32,11 @@ private Q_SLOTS:
     void iconsMenuOpensTheBox();
 
 private:
-    [[nodiscard]] bool runToEnd(const QString &program, const QStringList &arguments)
-    {
-        const std::unique_ptr<ChildProcess> process = m_desktop->run(program, arguments);
-        return process && process->waitForExit(kBound) && process->exitCode() == 0;
-    }
     /// Whether the panel has the keyboard now.
     [[nodiscard]] bool openPanel()
     {
-        if (!runToEnd(VirtualDesktop::veskProgram(), {u"toggle"_s}))
-            return false;
-        const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
-        return panel && m_desktop->windows().waitFocused(*panel, kBound);
+        return runToEnd(VirtualDesktop::veskProgram(), {u"toggle"_s})
+               && m_desktop->windows().waitFocused(kPanel, kBound);
     }
     /// Whether Vesk tells a screen reader of this.
     [[nodiscard]] bool tells(const QString &name)
@@ -51,29 +45,17 @@ private:
     }
     [[nodiscard]] bool isGuideShown() { return tells(u"Welcome to Vesk"_s); }
     void type(const QList<xcb_keysym_t> &keys) { m_desktop->keyboard().tap(keys, kFinger); }
-
-    std::unique_ptr<VirtualDesktop> m_desktop;
-    std::unique_ptr<ChildProcess> m_vesk;
 };
-
-void MenusTest::init()
-{
-    QString problem;
-    m_desktop = VirtualDesktop::start(problem);
-    QVERIFY2(m_desktop, qPrintable(problem));
-}
 
 void MenusTest::cleanup()
 {
     QDBusConnection::disconnectFromBus(kBus);
-    m_vesk.reset();
-    m_desktop.reset();
+    VeskTest::cleanup();
 }
 
 void MenusTest::guideGreetsOnlyOnce()
 {
-    m_vesk = m_desktop->startVesk();
-    QVERIFY(m_vesk);
+    QVERIFY(startVesk());
     QVERIFY(openPanel());
     QTRY_VERIFY_WITH_TIMEOUT(isGuideShown(), 10000);
     type({XK_Escape});
@@ -82,8 +64,7 @@ void MenusTest::guideGreetsOnlyOnce()
     QVERIFY(m_vesk->quit());
     QVERIFY(m_desktop->readFile(u"config/Vesk/Vesk.conf"_s).contains(u"hasSeenGuide=true"_s));
 
-    m_vesk = m_desktop->startVesk();
-    QVERIFY(m_vesk);
+    QVERIFY(startVesk());
     QVERIFY(openPanel());
     QTRY_VERIFY_WITH_TIMEOUT(tells(u"Menu"_s), 10000);
     QVERIFY(!isGuideShown());
@@ -94,15 +75,13 @@ void MenusTest::guideStaysForTheAnswer()
     // The application that would get the keyboard when the question has gone.
     const std::unique_ptr<TextEditor> editor = TextEditor::open(*m_desktop, {u"line"_s});
     VERIFY_ON(*m_desktop, editor);
-    m_vesk = m_desktop->startVesk();
-    QVERIFY(m_vesk);
+    QVERIFY(startVesk());
     QVERIFY(openPanel());
     QTRY_VERIFY_WITH_TIMEOUT(tells(u"Needs Accessibility access"_s), 10000);
     type({XK_Tab});
     type({XK_Return});
     const auto title = u"Vesk: Let Vesk read what you select?"_s;
-    const std::optional<Window> question = m_desktop->windows().waitViewable(title, kBound);
-    VERIFY_ON(*m_desktop, question && m_desktop->windows().waitFocused(*question, kBound));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(title, kBound));
     type({XK_Tab});
     type({XK_Return});
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(title, kBound));
@@ -125,8 +104,7 @@ void MenusTest::formatsByTheKeyWhateverTheLayout()
     // The keys that the test presses stay those of the layout before.
     QVERIFY(runToEnd(u"setxkbmap"_s, {layout}));
     QVERIFY(runToEnd(VirtualDesktop::veskProgram(), {u"add"_s, u"milk"_s}));
-    m_vesk = m_desktop->startVesk();
-    QVERIFY(m_vesk);
+    QVERIFY(startVesk());
     QVERIFY(openPanel());
     const QList<std::pair<xcb_keysym_t, QString>> steps{
         {XK_8, u"\u2022 milk"_s}, {XK_h, u"# milk"_s}, {XK_l, u"\u2610 milk"_s}, {XK_l, u"milk"_s}};
@@ -134,8 +112,7 @@ void MenusTest::formatsByTheKeyWhateverTheLayout()
     type({XK_Return});
     for (const auto &[key, text] : steps) {
         type({XK_Control_L, XK_Shift_L, key});
-        VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(
-                                  kBound, [&] { return m_desktop->notes().texts() == QStringList{text}; }));
+        VERIFY_ON(*m_desktop, waitNotes(QStringList{text}));
     }
 }
 
@@ -144,8 +121,7 @@ void MenusTest::iconsMenuOpensTheBox()
     QVERIFY(m_desktop->prepareUser());
     QDBusConnection bus = QDBusConnection::connectToBus(m_desktop->busAddress(), kBus);
     const FakeStatusWatcher place(bus);
-    m_vesk = m_desktop->startVesk();
-    QVERIFY(m_vesk);
+    QVERIFY(startVesk());
     QTRY_COMPARE_WITH_TIMEOUT(place.items().size(), 1, 10000);
     const QString item = place.items().first();
     const auto choose = [&](int line) {

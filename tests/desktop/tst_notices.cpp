@@ -113,7 +113,10 @@ void TestNotices::dialogStaysAsItWas()
     }));
     capture();
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
-    QCOMPARE(m_desktop->notes().texts(), QStringList{u"pears"_s});
+    const NotesFile::Row note = m_desktop->notes().notes().value_or(QList<NotesFile::Row>()).value(0);
+    QCOMPARE(note.value(u"text"_s), u"pears"_s);
+    QCOMPARE(note.value(u"sourceBundleID"_s), u"org.xfce.mousepad"_s);
+    QCOMPARE(note.value(u"sourceTitle"_s), dialog->title);
     VERIFY_ON(*m_desktop, m_desktop->windows().isActive(*dialog));
     QCOMPARE(m_desktop->display().readSelection("PRIMARY", 500ms), u"pears"_s);
     // Still being changed, at the same place.

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/desktoptest.h"
 #include "desktop/monitors.h"
 #include "desktop/plainwindow.h"
+#include "desktop/vesktest.h"
 
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
 /// Where the panel's window comes up on a real desktop, what it stands above, and when it goes.
-class TestPanelPlace : public QObject
+class TestPanelPlace : public VeskTest
 {
     Q_OBJECT
 
@@ -37,29 +37,22 @@ private:
     [[nodiscard]] QString where() const;
     void sendToRoot(const char *message, quint32 value);
 
-    std::unique_ptr<VirtualDesktop> m_desktop;
     std::unique_ptr<Monitors> m_monitors;
-    std::unique_ptr<ChildProcess> m_vesk;
 };
 
 void TestPanelPlace::init()
 {
-    QString problem;
-    m_desktop = VirtualDesktop::start(problem);
-    QVERIFY2(m_desktop, qPrintable(problem));
+    VeskTest::init();
+    QVERIFY(m_desktop);
     m_monitors = std::make_unique<Monitors>(m_desktop->display());
-    QVERIFY(m_desktop->prepareUser());
-    m_vesk = m_desktop->startVesk();
-    QVERIFY(m_vesk);
+    QVERIFY(startVesk());
 }
 
 void TestPanelPlace::cleanup()
 {
-    if (m_vesk && QTest::currentTestFailed())
-        qWarning().noquote() << "Vesk said:" << m_vesk->errorOutput();
     m_vesk.reset();
     m_monitors.reset();
-    m_desktop.reset();
+    VeskTest::cleanup();
 }
 
 bool TestPanelPlace::waitInCorner(QPoint corner)

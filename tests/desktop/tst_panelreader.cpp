@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/accessibletree.h"
-#include "desktop/desktoptest.h"
+#include "desktop/vesktest.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
@@ -28,7 +28,7 @@ QByteArray line(const AccessibleObject &object)
 } // namespace
 
 /// The panel as a screen reader has it, over the accessibility bus.
-class TestPanelReader : public QObject
+class TestPanelReader : public VeskTest
 {
     Q_OBJECT
 
@@ -57,36 +57,28 @@ private:
     /// All that is told, one object a line, for the message of a test that failed.
     [[nodiscard]] QByteArray told() const;
 
-    std::unique_ptr<VirtualDesktop> m_desktop;
-    std::unique_ptr<ChildProcess> m_vesk;
     std::unique_ptr<AccessibleTree> m_tree;
     Objects m_objects;
 };
 
 void TestPanelReader::init()
 {
-    QString problem;
-    m_desktop = VirtualDesktop::start(problem);
-    QVERIFY2(m_desktop, qPrintable(problem));
-    QVERIFY(m_desktop->prepareUser());
+    VeskTest::init();
+    QVERIFY(m_desktop);
     // The first start makes the store.
     QVERIFY(m_desktop->startVesk());
     QVERIFY(fillStore());
-    m_vesk = m_desktop->startVesk();
-    QVERIFY(m_vesk);
+    QVERIFY(startVesk());
     m_tree = std::make_unique<AccessibleTree>(m_desktop->busAddress());
-    press({XK_Super_L, XK_Alt_L, XK_t});
+    togglePanel();
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
     VERIFY_TOLD(waitFor(u"list item"_s, u"Of the train"_s));
 }
 
 void TestPanelReader::cleanup()
 {
-    if (m_vesk && QTest::currentTestFailed())
-        qWarning().noquote() << "Vesk said:" << m_vesk->errorOutput();
     m_tree.reset();
-    m_vesk.reset();
-    m_desktop.reset();
+    VeskTest::cleanup();
 }
 
 bool TestPanelReader::fillStore()

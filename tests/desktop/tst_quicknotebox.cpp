@@ -165,9 +165,7 @@ void TestQuickNoteBox::goesAndKeepsItsDraft()
 void TestQuickNoteBox::checklistKeyBeginsAChecklist()
 {
     press({XK_c});
-    const std::optional<Window> box = m_desktop->windows().waitViewable(kQuickChecklist, kBound);
-    VERIFY_ON(*m_desktop, box);
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*box, kBound));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kQuickChecklist, kBound));
     m_desktop->keyboard().type(u"Milk"_s);
     m_desktop->keyboard().tap({XK_Return});
     m_desktop->keyboard().type(u"Bread"_s);
@@ -202,8 +200,8 @@ void TestQuickNoteBox::draggingItsGroundMovesIt()
 void TestQuickNoteBox::givesTheKeyboardBackToThePanel()
 {
     togglePanel();
-    const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
-    VERIFY_ON(*m_desktop, panel && m_desktop->windows().waitFocused(*panel, kBound));
+    const auto panel = m_desktop->windows().waitFocused(kPanel, kBound);
+    VERIFY_ON(*m_desktop, panel);
     VERIFY_ON(*m_desktop, openBox());
     m_desktop->keyboard().tap({XK_Escape});
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kQuickNote, kBound));

@@ -12,7 +12,6 @@ class TestSelection : public EditorTest
 
 private Q_SLOTS:
     void selectionOutlivesATurnToAnotherWindow();
-    void whatIsNoLongerSelectedIsNotKept();
     void withoutConsentNothingIsRead();
 
 private:
@@ -35,41 +34,14 @@ void TestSelection::selectionOutlivesATurnToAnotherWindow()
     QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(1)});
 }
 
-void TestSelection::whatIsNoLongerSelectedIsNotKept()
-{
-    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
-    VERIFY_ON(*m_desktop, m_editor->deselect());
-    capture();
-    // Nothing to keep: the box comes up to write a note instead, and the same key takes it away.
-    Windows &windows = m_desktop->windows();
-    VERIFY_ON(*m_desktop,
-              windows.waitFocused(windows.waitViewable(kQuickNote, kBound).value_or(Window()), kBound));
-    capture();
-    VERIFY_ON(*m_desktop, windows.waitGone(kQuickNote, kBound));
-    VERIFY_ON(*m_desktop, windows.waitActive(m_editor->window(), kBound));
-    QTest::qWait(int(kCaptureGate.count()));
-    capture();
-    VERIFY_ON(*m_desktop,
-              windows.waitFocused(windows.waitViewable(kQuickNote, kBound).value_or(Window()), kBound));
-    QVERIFY(m_desktop->notes().texts().isEmpty());
-
-    const QString written = u"written at once"_s;
-    m_desktop->keyboard().type(written);
-    m_desktop->keyboard().tap({XK_Return});
-    const QStringList expected{written};
-    VERIFY_ON(*m_desktop,
-              m_desktop->display().waitUntil(kBound, [&] { return m_desktop->notes().texts() == expected; }));
-}
-
 void TestSelection::withoutConsentNothingIsRead()
 {
     QVERIFY(setConsent(u"deny"_s));
     VERIFY_ON(*m_desktop, m_editor->selectLine(0));
     capture();
     const QString question = u"Vesk: Let Vesk read what you select?"_s;
-    const std::optional<Window> window = m_desktop->windows().waitViewable(question, kBound);
+    const auto window = m_desktop->windows().waitFocused(question, kBound);
     VERIFY_ON(*m_desktop, window);
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*window, kBound));
     QVERIFY(m_desktop->notes().texts().isEmpty());
 
     // A key meant for the document must not agree to anything. The box, which came with the question, may

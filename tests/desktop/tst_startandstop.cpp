@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/desktoptest.h"
+#include "desktop/vesktest.h"
 
 #include <QDir>
 #include <QFile>
@@ -21,42 +21,19 @@ QByteArray contentsOf(const QString &path)
 } // namespace
 
 /// How Vesk starts when it runs already or its store cannot be opened, and how it ends.
-class TestStartAndStop : public QObject
+class TestStartAndStop : public VeskTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void secondStartShowsTheFirstOnesPanel();
     void unusableStoreIsSaidAndLeftAlone_data();
     void unusableStoreIsSaidAndLeftAlone();
-
-private:
-    std::unique_ptr<VirtualDesktop> m_desktop;
-    std::unique_ptr<ChildProcess> m_vesk;
 };
-
-void TestStartAndStop::init()
-{
-    QString problem;
-    m_desktop = VirtualDesktop::start(problem);
-    QVERIFY2(m_desktop, qPrintable(problem));
-    QVERIFY(m_desktop->prepareUser());
-}
-
-void TestStartAndStop::cleanup()
-{
-    if (m_vesk && QTest::currentTestFailed())
-        qWarning().noquote() << "Vesk said:" << m_vesk->errorOutput();
-    m_vesk.reset();
-    m_desktop.reset();
-}
 
 void TestStartAndStop::secondStartShowsTheFirstOnesPanel()
 {
-    m_vesk = m_desktop->startVesk();
-    QVERIFY(m_vesk);
+    QVERIFY(startVesk());
     VERIFY_ON(*m_desktop, !m_desktop->windows().findViewable(kPanel));
 
     const std::unique_ptr<ChildProcess> second = m_desktop->run(VirtualDesktop::veskProgram());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/busdaemon.h"
 #include "desktop/childprocess.h"
 #include "desktop/keyboard.h"
 #include "desktop/notesfile.h"
@@ -77,6 +78,8 @@ private:
     NotesFile m_notes;
     std::unique_ptr<ChildProcess> m_server;
     std::unique_ptr<ChildProcess> m_bus;
+    /// Instead of it, where the accessibility bus is missing.
+    std::unique_ptr<BusDaemon> m_bareBus;
     std::unique_ptr<ChildProcess> m_windowManager;
     std::unique_ptr<DisplayConnection> m_display;
     std::unique_ptr<Windows> m_windows;

@@ -149,6 +149,12 @@ std::optional<Window> Windows::waitViewableOf(qint64 pid, const QString &part,
     return isViewable ? window : std::nullopt;
 }
 
+std::optional<Window> Windows::waitFocused(const QString &title, std::chrono::milliseconds bound)
+{
+    const std::optional<Window> window = waitViewable(title, bound);
+    return window && waitFocused(*window, bound) ? window : std::nullopt;
+}
+
 bool Windows::waitGone(const QString &title, std::chrono::milliseconds bound)
 {
     return m_display.waitUntil(bound, [&] { return !findViewable(title); });

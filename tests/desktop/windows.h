@@ -41,6 +41,9 @@ public:
     [[nodiscard]] std::optional<Window> waitViewableOf(qint64 pid, const QString &part,
                                                        std::chrono::milliseconds bound);
 
+    /// The window with this title once it is viewable and has the keyboard. Failure: none after `bound`.
+    [[nodiscard]] std::optional<Window> waitFocused(const QString &title, std::chrono::milliseconds bound);
+
     /// True once no window of this title is viewable. Failure: false after `bound`.
     [[nodiscard]] bool waitGone(const QString &title, std::chrono::milliseconds bound);
 

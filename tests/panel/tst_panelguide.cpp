@@ -31,32 +31,11 @@ private Q_SLOTS:
 private:
     [[nodiscard]] QQuickWindow &window() const { return m_fixture->panel.window(); }
     [[nodiscard]] PanelModel &model() const { return m_fixture->model; }
-    [[nodiscard]] QQuickItem *guide() const { return find(window().contentItem(), "GuideView_QMLTYPE"); }
-    [[nodiscard]] static QQuickItem *find(QQuickItem *from, const QByteArray &type);
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
-    {
-        QTest::keyClick(&window(), key, modifiers);
-    }
-    void show() const
-    {
-        m_fixture->panel.showPanel();
-        QVERIFY(QTest::qWaitForWindowActive(&window()));
-    }
+    /// Null if it is not shown.
+    [[nodiscard]] QQuickItem *guide() const { return m_fixture->shown("GuideView").value(0); }
 
     std::unique_ptr<PanelFixture> m_fixture;
 };
-
-QQuickItem *PanelGuideTest::find(QQuickItem *from, const QByteArray &type)
-{
-    if (QByteArray(from->metaObject()->className()).startsWith(type))
-        return from;
-    const QList<QQuickItem *> children = from->childItems();
-    for (QQuickItem *child : children) {
-        if (QQuickItem *found = find(child, type))
-            return found;
-    }
-    return nullptr;
-}
 
 void PanelGuideTest::init()
 {
@@ -68,14 +47,14 @@ void PanelGuideTest::init()
 
 void PanelGuideTest::firstRunShowsIt()
 {
-    show();
+    m_fixture->show();
     QVERIFY(guide());
-    press(Qt::Key_Escape);
+    m_fixture->press(Qt::Key_Escape);
     QVERIFY2(!guide() && m_fixture->panel.isShown(), "Escape is for the guide alone.");
-    press(Qt::Key_Down);
+    m_fixture->press(Qt::Key_Down);
     QVERIFY2(!model().selection()->cardId().isEmpty(), "The list has the keyboard again.");
     m_fixture->panel.togglePanel();
-    show();
+    m_fixture->show();
     QVERIFY(!guide());
     Q_EMIT model().menu()->guideRequested();
     QVERIFY(guide() && guide()->hasActiveFocus());
@@ -83,71 +62,68 @@ void PanelGuideTest::firstRunShowsIt()
 
 void PanelGuideTest::panelIsOutOfReach()
 {
-    show();
+    m_fixture->show();
     for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Return, Qt::Key_A})
-        press(key);
-    press(Qt::Key_F, Qt::ControlModifier);
-    press(Qt::Key_Backspace, Qt::ControlModifier);
+        m_fixture->press(key);
+    m_fixture->press(Qt::Key_F, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_Backspace, Qt::ControlModifier);
     for (int i = 0; i < 4; ++i) {
-        press(Qt::Key_Tab);
+        m_fixture->press(Qt::Key_Tab);
         QVERIFY2(guide()->isAncestorOf(window().activeFocusItem()), "Tab leaves the guide.");
     }
-    const QQuickItem *card = find(window().contentItem(), "NoteCard_QMLTYPE");
-    QVERIFY(card);
-    QTest::mouseClick(&window(), Qt::LeftButton, {},
-                      card->mapToScene(card->boundingRect().center()).toPoint());
+    m_fixture->click(*m_fixture->shown("NoteCard").at(0));
     QCOMPARE(model().selection()->cardId(), QString());
     QCOMPARE(model().openNote()->cardId(), QString());
     QCOMPARE(model().keyboard()->activeField(), Field::None);
     QCOMPARE(m_fixture->store->notes().count(), 1);
     // Going away and coming back does not change who has the keyboard.
     m_fixture->panel.togglePanel();
-    show();
+    m_fixture->show();
     QVERIFY(guide() && guide()->hasActiveFocus());
 }
 
 void PanelGuideTest::keyboardGoesBackToWhereItWas()
 {
     m_fixture->defaults.setBool(true, u"hasSeenGuide"_s);
-    show();
-    press(Qt::Key_F, Qt::ControlModifier);
+    m_fixture->show();
+    m_fixture->press(Qt::Key_F, Qt::ControlModifier);
     QCOMPARE(model().keyboard()->activeField(), Field::Search);
     Q_EMIT model().menu()->guideRequested();
     QCOMPARE(model().keyboard()->activeField(), Field::None);
-    QTest::keyClick(&window(), 'x');
-    press(Qt::Key_Escape);
+    m_fixture->type(u"x"_s);
+    m_fixture->press(Qt::Key_Escape);
     QCOMPARE(model().keyboard()->activeField(), Field::Search);
-    QTest::keyClick(&window(), 'o');
+    m_fixture->type(u"o"_s);
     QCOMPARE(model().search(), u"o"_s);
 }
 
 void PanelGuideTest::fieldComesBeforeIt()
 {
-    show();
+    m_fixture->show();
     QVERIFY(guide());
     model().requestField(Field::Composer);
-    QTest::keyClick(&window(), 'm');
+    m_fixture->type(u"m"_s);
     QCOMPARE(model().draft(), u"m"_s);
     QVERIFY(!guide());
     // It was not dismissed.
     m_fixture->panel.togglePanel();
-    show();
+    m_fixture->show();
     QVERIFY(guide());
 }
 
 void PanelGuideTest::fitsIntoALowPanel()
 {
-    show();
+    m_fixture->show();
     const QRectF whole(QPointF(), window().size());
     QCOMPARE(guide()->size(), QSizeF(420, 600));
     QVERIFY(whole.contains(guide()->mapRectToScene(guide()->boundingRect())));
     window().resize(window().width(), 400);
     QTRY_COMPARE(guide()->height(), 380.0);
-    press(Qt::Key_End);
-    press(Qt::Key_Tab);
+    m_fixture->press(Qt::Key_End);
+    m_fixture->press(Qt::Key_Tab);
     QQuickItem *button = window().activeFocusItem();
     QVERIFY(QRectF(0, 0, window().width(), 400).contains(button->mapRectToScene(button->boundingRect())));
-    press(Qt::Key_Return);
+    m_fixture->press(Qt::Key_Return);
     QVERIFY(!guide());
 }
 

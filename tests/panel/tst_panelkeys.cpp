@@ -39,15 +39,6 @@ private Q_SLOTS:
     void typingBeginsASearch();
 
 private:
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QTest::keyClick(&m_fixture->panel.window(), key, modifiers);
-    }
-    void type(const QString &text)
-    {
-        for (const QChar c : text)
-            QTest::keyClick(&m_fixture->panel.window(), c.toLatin1());
-    }
     [[nodiscard]] QString focusedText() const
     {
         const std::optional<RecordId> &id = m_fixture->model.selection()->selected();
@@ -62,28 +53,27 @@ void PanelKeysTest::init()
     m_fixture = std::make_unique<PanelFixture>();
     for (const QString &text : {u"one"_s, u"two"_s, u"three"_s})
         m_fixture->addNote(text);
-    m_fixture->panel.showPanel();
-    QVERIFY(QTest::qWaitForWindowActive(&m_fixture->panel.window()));
+    m_fixture->show();
     QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::None);
 }
 
 void PanelKeysTest::arrowsStopAtTheEnds()
 {
-    press(Qt::Key_Down);
+    m_fixture->press(Qt::Key_Down);
     QCOMPARE(focusedText(), u"three"_s);
-    press(Qt::Key_Up);
+    m_fixture->press(Qt::Key_Up);
     QCOMPARE(focusedText(), u"three"_s);
-    press(Qt::Key_Down);
-    press(Qt::Key_Down);
+    m_fixture->press(Qt::Key_Down);
+    m_fixture->press(Qt::Key_Down);
     QCOMPARE(focusedText(), u"one"_s);
-    press(Qt::Key_Down);
+    m_fixture->press(Qt::Key_Down);
     QCOMPARE(focusedText(), u"one"_s);
-    press(Qt::Key_Up, Qt::ShiftModifier);
+    m_fixture->press(Qt::Key_Up, Qt::ShiftModifier);
     QCOMPARE(focusedText(), u"one"_s);
 
     // A search takes the selected card away: Up begins at the end again.
     m_fixture->model.setSearch(u"t"_s);
-    press(Qt::Key_Up);
+    m_fixture->press(Qt::Key_Up);
     QCOMPARE(focusedText(), u"two"_s);
 }
 
@@ -103,25 +93,25 @@ void PanelKeysTest::arrowsByField()
     QFETCH(Field, field);
     m_fixture->model.requestField(field);
     QCOMPARE(m_fixture->model.keyboard()->activeField(), field);
-    press(Qt::Key_Up);
+    m_fixture->press(Qt::Key_Up);
     QTEST(focusedText(), "focused");
     QTEST(m_fixture->model.keyboard()->activeField(), "fieldAfter");
 }
 
 void PanelKeysTest::escapeGoesStepByStep()
 {
-    press(Qt::Key_F, Qt::ControlModifier);
-    type(u"tw"_s);
+    m_fixture->press(Qt::Key_F, Qt::ControlModifier);
+    m_fixture->type(u"tw"_s);
     QCOMPARE(m_fixture->model.search(), u"tw"_s);
-    press(Qt::Key_Escape, Qt::ShiftModifier);
+    m_fixture->press(Qt::Key_Escape, Qt::ShiftModifier);
     QCOMPARE(m_fixture->model.search(), u"tw"_s);
-    press(Qt::Key_Escape);
+    m_fixture->press(Qt::Key_Escape);
     QCOMPARE(m_fixture->model.search(), QString());
     QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Search);
-    press(Qt::Key_Escape);
+    m_fixture->press(Qt::Key_Escape);
     QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::None);
     QVERIFY(!m_fixture->application.isHidden());
-    press(Qt::Key_Escape);
+    m_fixture->press(Qt::Key_Escape);
     QVERIFY(m_fixture->application.isHidden());
     QVERIFY(!m_fixture->panel.isShown());
 }
@@ -145,20 +135,20 @@ void PanelKeysTest::deleteKeyBelongsToTheList()
     QFETCH(int, downs);
     QFETCH(Field, field);
     for (int i = 0; i < downs; ++i)
-        press(Qt::Key_Down);
+        m_fixture->press(Qt::Key_Down);
     m_fixture->model.requestField(field);
-    press(Qt::Key_Backspace);
+    m_fixture->press(Qt::Key_Backspace);
     QCOMPARE(m_fixture->store->notes().count(), 3);
-    press(Qt::Key_Backspace, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_Backspace, Qt::ControlModifier);
     QTEST(static_cast<int>(m_fixture->store->notes().count()), "count");
     QTEST(focusedText(), "focused");
 }
 
 void PanelKeysTest::composerKeepsABlankDraft()
 {
-    press(Qt::Key_N, Qt::ControlModifier);
-    type(u"  "_s);
-    press(Qt::Key_Return);
+    m_fixture->press(Qt::Key_N, Qt::ControlModifier);
+    m_fixture->type(u"  "_s);
+    m_fixture->press(Qt::Key_Return);
     QCOMPARE(m_fixture->model.draft(), u"  "_s);
     QCOMPARE(m_fixture->store->notes().count(), 3);
 }
@@ -166,15 +156,15 @@ void PanelKeysTest::composerKeepsABlankDraft()
 void PanelKeysTest::composerCommits()
 {
     m_fixture->model.setSearch(u"tw"_s);
-    press(Qt::Key_N, Qt::ControlModifier);
-    type(u" list"_s);
-    press(Qt::Key_Return, Qt::ShiftModifier);
-    type(u"[] milk"_s);
+    m_fixture->press(Qt::Key_N, Qt::ControlModifier);
+    m_fixture->type(u" list"_s);
+    m_fixture->press(Qt::Key_Return, Qt::ShiftModifier);
+    m_fixture->type(u"[] milk"_s);
     QCOMPARE(m_fixture->model.draft(), u" list\n[] milk"_s);
-    press(Qt::Key_Return, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_Return, Qt::ControlModifier);
     QCOMPARE(m_fixture->store->notes().count(), 3);
     m_fixture->model.setDraft(u" list\n[] milk"_s);
-    press(Qt::Key_Enter, Qt::KeypadModifier);
+    m_fixture->press(Qt::Key_Enter, Qt::KeypadModifier);
 
     QCOMPARE(m_fixture->store->notes().count(), 4);
     QCOMPARE(m_fixture->store->notes().first()->text(), u"list\n\u2610 milk"_s);
@@ -182,7 +172,7 @@ void PanelKeysTest::composerCommits()
     QCOMPARE(m_fixture->model.draft(), QString());
     QCOMPARE(m_fixture->model.search(), QString());
     QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Composer);
-    type(u"next"_s);
+    m_fixture->type(u"next"_s);
     QCOMPARE(m_fixture->model.draft(), u"next"_s);
 }
 
@@ -198,29 +188,29 @@ void PanelKeysTest::shortcutsFromAnyField()
 {
     QFETCH(Field, from);
     m_fixture->model.requestField(from);
-    press(Qt::Key_N, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_N, Qt::ControlModifier);
     QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Composer);
     m_fixture->model.requestField(from);
-    press(Qt::Key_F, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_F, Qt::ControlModifier);
     QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Search);
-    press(Qt::Key_N, Qt::ControlModifier | Qt::AltModifier);
+    m_fixture->press(Qt::Key_N, Qt::ControlModifier | Qt::AltModifier);
     QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Search);
 }
 
 void PanelKeysTest::pasteGoesIntoTheFieldThatHasTheKeyboard()
 {
     QSignalSpy pastes(m_fixture->model.keyboard(), &PanelKeyboard::fieldPasteRequested);
-    press(Qt::Key_V, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_V, Qt::ControlModifier);
     QVERIFY(pastes.isEmpty());
-    press(Qt::Key_N, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_N, Qt::ControlModifier);
     m_fixture->model.setDraft(u"instead of this"_s);
-    press(Qt::Key_A, Qt::ControlModifier);
-    press(Qt::Key_V, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_A, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_V, Qt::ControlModifier);
     QCOMPARE(pastes.count(), 1);
     m_fixture->model.keyboard()->insertIntoField(u"one\ntwo"_s);
     QCOMPARE(m_fixture->model.draft(), u"one\ntwo"_s);
-    press(Qt::Key_F, Qt::ControlModifier);
-    press(Qt::Key_Insert, Qt::ShiftModifier);
+    m_fixture->press(Qt::Key_F, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_Insert, Qt::ShiftModifier);
     QCOMPARE(pastes.count(), 2);
     m_fixture->model.keyboard()->insertIntoField(u"one\n two"_s);
     QCOMPARE(m_fixture->model.search(), u"one two"_s);
@@ -230,22 +220,26 @@ void PanelKeysTest::pasteGoesIntoTheFieldThatHasTheKeyboard()
 void PanelKeysTest::controlReturnPastesTheSelectedNote()
 {
     QSignalSpy pastes(m_fixture->model.cards(), &CardActions::pasteRequested);
-    press(Qt::Key_Return, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_Return, Qt::ControlModifier);
     QVERIFY(pastes.isEmpty());
-    press(Qt::Key_Down);
-    press(Qt::Key_Return, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_Down);
+    m_fixture->press(Qt::Key_Return, Qt::ShiftModifier);
+    QVERIFY(!m_fixture->model.openNote()->id());
+    m_fixture->press(Qt::Key_Return, Qt::ControlModifier);
     QCOMPARE(pastes.count(), 1);
     QCOMPARE(pastes.constFirst().constFirst().toString(), u"three"_s);
-    press(Qt::Key_N, Qt::ControlModifier);
-    press(Qt::Key_Return, Qt::ControlModifier);
+    for (const Qt::Key field : {Qt::Key_N, Qt::Key_F}) {
+        m_fixture->press(field, Qt::ControlModifier);
+        m_fixture->press(Qt::Key_Return, Qt::ControlModifier);
+    }
     QCOMPARE(pastes.count(), 1);
 }
 
 void PanelKeysTest::locksAndNumberPadDoNotCount()
 {
-    press(Qt::Key_Down, Qt::KeypadModifier);
+    m_fixture->press(Qt::Key_Down, Qt::KeypadModifier);
     QCOMPARE(focusedText(), u"three"_s);
-    press(Qt::Key_Down, Qt::KeypadModifier | Qt::GroupSwitchModifier);
+    m_fixture->press(Qt::Key_Down, Qt::KeypadModifier | Qt::GroupSwitchModifier);
     QCOMPARE(focusedText(), u"two"_s);
 }
 
@@ -262,15 +256,15 @@ void PanelKeysTest::sameFieldCanBeAskedForTwice()
 
 void PanelKeysTest::composingKeepsItsKeys()
 {
-    press(Qt::Key_N, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_N, Qt::ControlModifier);
     QInputMethodEvent composing(u"kana"_s, {});
     QCoreApplication::sendEvent(m_fixture->panel.window().focusObject(), &composing);
-    press(Qt::Key_Escape);
+    m_fixture->press(Qt::Key_Escape);
     QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Composer);
     QInputMethodEvent committed;
     committed.setCommitString(u"x"_s);
     QCoreApplication::sendEvent(m_fixture->panel.window().focusObject(), &committed);
-    press(Qt::Key_Escape);
+    m_fixture->press(Qt::Key_Escape);
     QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::None);
 }
 

@@ -41,36 +41,9 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] QQuickWindow &window() const { return m_fixture->panel.window(); }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
-    {
-        QTest::keyClick(&window(), key, modifiers);
-    }
-    void type(const QString &text) const
-    {
-        for (const QChar c : text)
-            QTest::keyClick(&window(), c.toLatin1());
-    }
-    void click(const QQuickItem &item) const
-    {
-        QTest::mouseClick(&window(), Qt::LeftButton, {}, middle(item));
-    }
-    [[nodiscard]] static QPoint middle(const QQuickItem &item)
-    {
-        return item.mapToScene(item.boundingRect().center()).toPoint();
-    }
-    /// All items of a QML type that are shown, in order of their place.
-    [[nodiscard]] QList<QQuickItem *> shown(const char *type) const;
     /// The one button with this name; null if it is not shown.
     [[nodiscard]] QQuickItem *button(const QString &name) const;
-    [[nodiscard]] bool hasEditor() const { return !shown("NoteEditor").isEmpty(); }
-    Note &addNote(const QString &text) { return m_fixture->addNote(text); }
-    Prompt &addPrompt(const QString &text)
-    {
-        Prompt &prompt = m_fixture->store->insert(
-            std::make_unique<Prompt>(m_fixture->clock, text, Prompt::Origin::FollowUp));
-        m_fixture->clock.advance(std::chrono::seconds(1));
-        return prompt;
-    }
+    [[nodiscard]] bool hasEditor() const { return !m_fixture->shown("NoteEditor").isEmpty(); }
 
     std::unique_ptr<PanelFixture> m_fixture;
 };
@@ -80,33 +53,16 @@ void PanelViewTest::init()
     m_fixture = std::make_unique<PanelFixture>();
     m_fixture->appearance.setReduceMotion(true);
     for (const QString &text : {u"one"_s, u"two"_s, u"three"_s})
-        addNote(text);
-    m_fixture->panel.showPanel();
-    QVERIFY(QTest::qWaitForWindowActive(&window()));
-    QTRY_COMPARE(shown("NoteCard").size(), 3);
-}
-
-QList<QQuickItem *> PanelViewTest::shown(const char *type) const
-{
-    QList<QQuickItem *> found;
-    QList<QQuickItem *> left{window().contentItem()};
-    while (!left.isEmpty()) {
-        QQuickItem *item = left.takeFirst();
-        if (!item->isVisible() || item->opacity() == 0)
-            continue;
-        if (QByteArray(item->metaObject()->className()).startsWith(QByteArray(type) + "_QMLTYPE"))
-            found.append(item);
-        left += item->childItems();
-    }
-    std::ranges::sort(found, {}, [](QQuickItem *item) { return item->mapToScene({}).y(); });
-    return found;
+        m_fixture->addNote(text);
+    m_fixture->show();
+    QTRY_COMPARE(m_fixture->shown("NoteCard").size(), 3);
 }
 
 QQuickItem *PanelViewTest::button(const QString &name) const
 {
     for (const char *type : {"SymbolButton", "CopyButton", "TabButton", "PanelMenuButton", "PressButton",
                              "ChecklistRow", "SourceButton"}) {
-        for (QQuickItem *item : shown(type)) {
+        for (QQuickItem *item : m_fixture->shown(type)) {
             if (item->property("name").toString() == name)
                 return item;
         }
@@ -117,59 +73,61 @@ QQuickItem *PanelViewTest::button(const QString &name) const
 void PanelViewTest::noteIsEditedInPlace()
 {
     Note &two = m_fixture->store->notes().at(1);
-    click(*shown("NoteCard").at(1));
+    m_fixture->click(*m_fixture->shown("NoteCard").at(1));
     QCOMPARE(m_fixture->model.openNote()->id(), two.id());
     QTRY_VERIFY(m_fixture->model.keyboard()->isEditing());
-    press(Qt::Key_End, Qt::ControlModifier);
-    type(u" more"_s);
+    m_fixture->press(Qt::Key_End, Qt::ControlModifier);
+    m_fixture->type(u" more"_s);
     QCOMPARE(two.text(), u"two more"_s);
     // It has kept its place between the others.
     QCOMPARE(m_fixture->model.notes()->visibleIndex(two.id()), 1);
 
-    press(Qt::Key_Return, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_Return, Qt::ControlModifier);
     QTRY_VERIFY(!hasEditor());
     QCOMPARE(m_fixture->model.notes()->visibleIndex(two.id()), 0);
     QVERIFY(!m_fixture->store->hasPendingChanges());
     // The keys are the list's again.
-    press(Qt::Key_Down);
+    m_fixture->press(Qt::Key_Down);
     QCOMPARE(m_fixture->model.selection()->selected(), m_fixture->store->notes().at(1).id());
 }
 
 void PanelViewTest::editorKeepsItsKeys()
 {
-    press(Qt::Key_Down);
-    press(Qt::Key_Return);
+    m_fixture->press(Qt::Key_Down);
+    m_fixture->press(Qt::Key_Return);
     QTRY_VERIFY(m_fixture->model.keyboard()->isEditing());
-    press(Qt::Key_N, Qt::ControlModifier);
-    press(Qt::Key_Down);
-    press(Qt::Key_A, Qt::ControlModifier);
-    press(Qt::Key_Backspace);
+    m_fixture->press(Qt::Key_N, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_Down);
+    m_fixture->press(Qt::Key_A, Qt::ControlModifier);
+    m_fixture->press(Qt::Key_Backspace);
+    m_fixture->type(u" "_s);
     QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::None);
-    QCOMPARE(m_fixture->store->notes().first()->text(), QString());
-    press(Qt::Key_Escape);
+    QCOMPARE(m_fixture->store->notes().first()->text(), u" "_s);
+    m_fixture->press(Qt::Key_Escape);
     // Left blank, the note is gone.
     QTRY_VERIFY(!hasEditor());
     QCOMPARE(m_fixture->store->notes().count(), 2);
+    QVERIFY(!m_fixture->model.selection()->selected() && !m_fixture->store->hasPendingChanges());
     QVERIFY(!m_fixture->application.isHidden());
 }
 
 void PanelViewTest::fieldTakesTheKeyboardFromTheEditor()
 {
-    click(*shown("NoteCard").constFirst());
+    m_fixture->click(*m_fixture->shown("NoteCard").constFirst());
     QTRY_VERIFY(m_fixture->model.keyboard()->isEditing());
-    click(*shown("Composer").constFirst());
+    m_fixture->click(*m_fixture->shown("Composer").constFirst());
     QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Composer);
     QVERIFY(!m_fixture->model.openNote()->id());
-    type(u"new"_s);
+    m_fixture->type(u"new"_s);
     QCOMPARE(m_fixture->model.draft(), u"new"_s);
 }
 
 void PanelViewTest::clickBesideTheCardsCloses()
 {
-    click(*shown("NoteCard").constFirst());
+    m_fixture->click(*m_fixture->shown("NoteCard").constFirst());
     QTRY_VERIFY(hasEditor());
     // A click in the open card is the editor's.
-    click(*shown("NoteForm").constFirst());
+    m_fixture->click(*m_fixture->shown("NoteForm").constFirst());
     QVERIFY(m_fixture->model.openNote()->id());
     QTest::mouseClick(&window(), Qt::LeftButton, {}, QPoint(220, window().height() - 120));
     QVERIFY(!m_fixture->model.openNote()->id());
@@ -178,30 +136,30 @@ void PanelViewTest::clickBesideTheCardsCloses()
 void PanelViewTest::openingMovesNothingElse()
 {
     for (int i = 0; i < 40; ++i)
-        addNote(u"note %1"_s.arg(i));
-    const auto card = [this](int number) { return shown("NoteCard").at(number); };
-    QTRY_VERIFY(shown("NoteCard").size() > 4);
+        m_fixture->addNote(u"note %1"_s.arg(i));
+    const auto card = [this](int number) { return m_fixture->shown("NoteCard").at(number); };
+    QTRY_VERIFY(m_fixture->shown("NoteCard").size() > 4);
     const qreal before = card(1)->mapToScene({}).y();
     const qreal height = card(1)->height();
-    click(*card(1));
+    m_fixture->click(*card(1));
     QTRY_VERIFY(hasEditor());
     QTRY_VERIFY(card(1)->height() > height);
     QCOMPARE(card(1)->mapToScene({}).y(), before);
-    press(Qt::Key_Escape);
+    m_fixture->press(Qt::Key_Escape);
     QTRY_COMPARE(card(1)->height(), height);
     QCOMPARE(card(1)->mapToScene({}).y(), before);
 }
 
 void PanelViewTest::tickingStaysOnTheClosedCard()
 {
-    Note &list = addNote(u"list\n\u2610 milk\n\u2610 tea"_s);
-    addNote(u"newer"_s);
+    Note &list = m_fixture->addNote(u"list\n\u2610 milk\n\u2610 tea"_s);
+    m_fixture->addNote(u"newer"_s);
     const Date date = list.updatedAt();
     QTRY_VERIFY(button(u"Mark “tea” as done"_s));
-    click(*button(u"Mark “tea” as done"_s));
+    m_fixture->click(*button(u"Mark “tea” as done"_s));
     QCOMPARE(list.text(), u"list\n\u2610 milk\n\u2611 tea"_s);
     QCOMPARE(list.updatedAt(), date);
-    QVERIFY(!m_fixture->model.openNote()->id());
+    QVERIFY(!m_fixture->model.openNote()->id() && !m_fixture->model.selection()->selected());
     QTRY_VERIFY(button(u"Mark “tea” as not done"_s));
 }
 
@@ -210,50 +168,50 @@ void PanelViewTest::hoverButtons()
     QSignalSpy copies(m_fixture->model.cards(), &CardActions::copyRequested);
     QSignalSpy pastes(m_fixture->model.cards(), &CardActions::pasteRequested);
     QVERIFY(!button(u"Copy"_s));
-    QTest::mouseMove(&window(), middle(*shown("NoteCard").constFirst()));
+    QTest::mouseMove(&window(), m_fixture->middle(*m_fixture->shown("NoteCard").constFirst()));
     QTRY_VERIFY(button(u"Copy"_s));
-    click(*button(u"Copy"_s));
+    m_fixture->click(*button(u"Copy"_s));
     QCOMPARE(copies.constFirst().constFirst().toString(), u"three"_s);
     QCOMPARE(button(u"Copy"_s)->property("symbol").toString(), u"checkmark"_s);
-    click(*button(u"Pin"_s));
+    m_fixture->click(*button(u"Pin"_s));
     QVERIFY(m_fixture->store->notes().first()->isPinned());
     QTRY_VERIFY(button(u"Unpin"_s));
-    click(*button(u"Paste into the App You Came From (Ctrl+Enter)"_s));
+    m_fixture->click(*button(u"Paste into the App You Came From (Ctrl+Enter)"_s));
     QCOMPARE(pastes.constFirst().constFirst().toString(), u"three"_s);
-    click(*button(u"Delete (Ctrl+Backspace)"_s));
+    m_fixture->click(*button(u"Delete (Ctrl+Backspace)"_s));
     QCOMPARE(m_fixture->store->notes().count(), 2);
     QVERIFY(!m_fixture->model.openNote()->id());
 }
 
 void PanelViewTest::tabsChooseTheList()
 {
-    addNote(u"\u2610 milk"_s);
-    addPrompt(u"why?"_s);
-    click(*button(u"Checklists"_s));
+    m_fixture->addNote(u"\u2610 milk"_s);
+    m_fixture->addPrompt(u"why?"_s);
+    m_fixture->click(*button(u"Checklists"_s));
     QCOMPARE(m_fixture->model.tab(), Tab::Checklists);
-    QTRY_COMPARE(shown("NoteCard").size(), 1);
-    click(*button(u"Prompts"_s));
-    QTRY_COMPARE(shown("PromptCard").size(), 1);
-    QCOMPARE(shown("NoteCard").size(), 0);
+    QTRY_COMPARE(m_fixture->shown("NoteCard").size(), 1);
+    m_fixture->click(*button(u"Prompts"_s));
+    QTRY_COMPARE(m_fixture->shown("PromptCard").size(), 1);
+    QCOMPARE(m_fixture->shown("NoteCard").size(), 0);
     // The list that has come has the keyboard.
-    press(Qt::Key_Down);
-    press(Qt::Key_Return);
+    m_fixture->press(Qt::Key_Down);
+    m_fixture->press(Qt::Key_Return);
     QVERIFY(m_fixture->store->prompts().first()->isDone());
-    click(*button(u"Notes"_s));
-    QTRY_COMPARE(shown("NoteCard").size(), 4);
+    m_fixture->click(*button(u"Notes"_s));
+    QTRY_COMPARE(m_fixture->shown("NoteCard").size(), 4);
 }
 
 void PanelViewTest::promptIsTickedAndDeleted()
 {
-    Prompt &prompt = addPrompt(u"why?"_s);
+    Prompt &prompt = m_fixture->addPrompt(u"why?"_s);
     m_fixture->model.setTab(Tab::Prompts);
     QTRY_VERIFY(button(u"Mark as done"_s));
-    click(*button(u"Mark as done"_s));
+    m_fixture->click(*button(u"Mark as done"_s));
     QVERIFY(prompt.isDone());
     QTRY_VERIFY(button(u"Mark as not done"_s));
-    click(*button(u"Delete (Ctrl+Backspace)"_s));
+    m_fixture->click(*button(u"Delete (Ctrl+Backspace)"_s));
     QVERIFY(m_fixture->store->prompts().isEmpty());
-    QTRY_VERIFY(!shown("EmptyPrompts").isEmpty());
+    QTRY_VERIFY(!m_fixture->shown("EmptyPrompts").isEmpty());
 }
 
 void PanelViewTest::longPromptIsCutOff_data()
@@ -270,40 +228,42 @@ void PanelViewTest::longPromptIsCutOff()
 {
     QFETCH(QString, text);
     QFETCH(bool, isLong);
-    addPrompt(text);
+    m_fixture->addPrompt(text);
     m_fixture->model.setTab(Tab::Prompts);
-    QTRY_COMPARE(shown("ExpandableText").size(), 1);
-    const QQuickItem &body = *shown("ExpandableText").constFirst();
+    QTRY_COMPARE(m_fixture->shown("ExpandableText").size(), 1);
+    const QQuickItem &body = *m_fixture->shown("ExpandableText").constFirst();
     const qreal height = body.height();
     QCOMPARE(button(u"Show more"_s) != nullptr, isLong);
     if (!isLong)
         return;
-    click(*button(u"Show more"_s));
+    m_fixture->click(*button(u"Show more"_s));
     QTRY_VERIFY(button(u"Show less"_s));
     QTRY_VERIFY(body.height() > height + 1);
-    click(*button(u"Show less"_s));
+    m_fixture->click(*button(u"Show less"_s));
     QTRY_COMPARE(body.height(), height);
 }
 
 void PanelViewTest::menuClearsDonePrompts()
 {
-    addPrompt(u"why?"_s).toggleDone();
+    m_fixture->addPrompt(u"why?"_s).toggleDone();
+    m_fixture->addPrompt(u"how?"_s);
     QSignalSpy guides(m_fixture->model.menu(), &PanelMenu::guideRequested);
-    click(*button(u"Menu"_s));
-    press(Qt::Key_Escape);
+    m_fixture->click(*button(u"Menu"_s));
+    m_fixture->press(Qt::Key_Escape);
     QVERIFY(!m_fixture->application.isHidden());
-    click(*button(u"Menu"_s));
-    QTRY_COMPARE(shown("MenuRow").size(), 10);
-    click(*shown("MenuRow").at(6));
-    QVERIFY(m_fixture->store->prompts().isEmpty());
+    m_fixture->click(*button(u"Menu"_s));
+    QTRY_COMPARE(m_fixture->shown("MenuRow").size(), 10);
+    m_fixture->click(*m_fixture->shown("MenuRow").at(6));
+    QCOMPARE(m_fixture->store->prompts().count(), 1);
+    QVERIFY(!m_fixture->store->hasPendingChanges());
     QVERIFY(guides.isEmpty());
-    click(*button(u"Menu"_s));
-    QTRY_COMPARE(shown("MenuRow").size(), 10);
+    m_fixture->click(*button(u"Menu"_s));
+    QTRY_COMPARE(m_fixture->shown("MenuRow").size(), 10);
     // Nothing could answer a check for updates, so the entry does nothing.
-    click(*shown("MenuRow").at(1));
-    press(Qt::Key_Escape);
-    click(*button(u"Menu"_s));
-    click(*shown("MenuRow").at(0));
+    m_fixture->click(*m_fixture->shown("MenuRow").at(1));
+    m_fixture->press(Qt::Key_Escape);
+    m_fixture->click(*button(u"Menu"_s));
+    m_fixture->click(*m_fixture->shown("MenuRow").at(0));
     QTRY_COMPARE(guides.size(), 1);
 }
 
@@ -316,13 +276,13 @@ void PanelViewTest::tabKeyGoesAround()
         do {
             stops.append(window().activeFocusItem());
             QVERIFY(stops.constLast());
-            press(key);
+            m_fixture->press(key);
             QTRY_VERIFY(!isPassing());
         } while (window().activeFocusItem() != stops.constFirst() && stops.size() < 40);
         QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::Search);
         // On its way it has come to the list, which shows that by selecting the first card.
         QCOMPARE(m_fixture->model.selection()->selected(), m_fixture->store->notes().first()->id());
-        QVERIFY(stops.contains(shown("NoteCard").constFirst()));
+        QVERIFY(stops.contains(m_fixture->shown("NoteCard").constFirst()));
         QVERIFY(stops.contains(button(u"Menu"_s)));
         QVERIFY(stops.contains(button(u"Prompts"_s)));
     }
@@ -330,17 +290,17 @@ void PanelViewTest::tabKeyGoesAround()
 
 void PanelViewTest::buttonIsPressedByReturn()
 {
-    press(Qt::Key_Down);
+    m_fixture->press(Qt::Key_Down);
     button(u"Checklists"_s)->forceActiveFocus();
-    press(Qt::Key_Return);
+    m_fixture->press(Qt::Key_Return);
     QVERIFY(!m_fixture->model.openNote()->id());
     QCOMPARE(m_fixture->model.tab(), Tab::Checklists);
     button(u"Notes"_s)->forceActiveFocus();
-    press(Qt::Key_Space);
+    m_fixture->press(Qt::Key_Space);
     QCOMPARE(m_fixture->model.tab(), Tab::Notes);
     // The arrows are the list's, and take the keyboard there.
-    press(Qt::Key_Down);
-    press(Qt::Key_Return);
+    m_fixture->press(Qt::Key_Down);
+    m_fixture->press(Qt::Key_Return);
     QVERIFY(m_fixture->model.openNote()->id());
 }
 

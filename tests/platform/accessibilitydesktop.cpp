@@ -5,8 +5,6 @@
 
 #include <QDBusConnectionInterface>
 #include <QDBusMetaType>
-#include <QFile>
-#include <QProcessEnvironment>
 
 namespace vesk {
 
@@ -17,27 +15,14 @@ namespace {
 const QString kLauncher = QStringLiteral("test-launcher");
 const QString kRegistry = QStringLiteral("test-registry");
 
-// Starts no services by itself, so that what is not there stays away.
-constexpr auto kConfiguration = R"(<busconfig>
-  <type>session</type>
-  <listen>unix:tmpdir=/tmp</listen>
-  <policy context="default">
-    <allow send_destination="*" eavesdrop="true"/>
-    <allow eavesdrop="true"/>
-    <allow own="*"/>
-  </policy>
-</busconfig>
-)";
-
 } // namespace
 
 AccessibilityDesktop::AccessibilityDesktop()
 {
     qDBusRegisterMetaType<AccessibleReference>();
     qDBusRegisterMetaType<QList<AccessibleReference>>();
-    QString address;
-    m_session = startDaemon(address);
-    qputenv("DBUS_SESSION_BUS_ADDRESS", address.toUtf8());
+    if (m_session)
+        qputenv("DBUS_SESSION_BUS_ADDRESS", m_session->address().toUtf8());
 }
 
 AccessibilityDesktop::~AccessibilityDesktop()
@@ -47,10 +32,10 @@ AccessibilityDesktop::~AccessibilityDesktop()
 
 bool AccessibilityDesktop::startBus()
 {
-    m_bus = startDaemon(m_busAddress);
-    if (!m_bus)
+    m_bus = BusDaemon::start();
+    if (!m_session || !m_bus)
         return false;
-    QDBusConnection registry = QDBusConnection::connectToBus(m_busAddress, kRegistry);
+    QDBusConnection registry = QDBusConnection::connectToBus(m_bus->address(), kRegistry);
     QDBusConnection launcher = QDBusConnection::connectToBus(QDBusConnection::SessionBus, kLauncher);
     return registry.registerVirtualObject(u"/org/a11y/atspi"_s, this, QDBusConnection::SubPath)
            && registry.registerService(u"org.a11y.atspi.Registry"_s)
@@ -60,8 +45,6 @@ bool AccessibilityDesktop::startBus()
 
 void AccessibilityDesktop::killBus()
 {
-    if (m_bus)
-        m_bus->kill();
     m_bus.reset();
     m_listener.clear();
     QDBusConnection::disconnectFromBus(kLauncher);
@@ -80,7 +63,7 @@ bool AccessibilityDesktop::handleMessage(const QDBusMessage &message, const QDBu
 {
     QVariantList arguments;
     if (message.member() == "GetAddress"_L1)
-        arguments.append(m_busAddress);
+        arguments.append(busAddress());
     if (message.member() == "RegisterEvent"_L1)
         m_listener = message.service();
     if (message.member() == "GetChildren"_L1) {
@@ -91,22 +74,6 @@ bool AccessibilityDesktop::handleMessage(const QDBusMessage &message, const QDBu
     }
     connection.send(message.createReply(arguments));
     return true;
-}
-
-std::unique_ptr<ChildProcess> AccessibilityDesktop::startDaemon(QString &address)
-{
-    const QString configuration = m_folder.filePath(u"bus.conf"_s);
-    QFile file(configuration);
-    if (!file.open(QIODevice::WriteOnly) || file.write(kConfiguration) < 0)
-        return nullptr;
-    file.close();
-    std::unique_ptr<ChildProcess> daemon = ChildProcess::start(
-        {.program = u"dbus-daemon"_s,
-         .arguments = {u"--nofork"_s, u"--print-address"_s, u"--config-file="_s + configuration},
-         .environment = QProcessEnvironment::systemEnvironment(),
-         .errorFile = m_folder.filePath(u"bus.log"_s)});
-    address = daemon ? daemon->readLine(std::chrono::seconds(10)) : QString();
-    return address.isEmpty() ? nullptr : std::move(daemon);
 }
 
 } // namespace vesk

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/childprocess.h"
+#include "desktop/busdaemon.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -27,7 +26,7 @@ public:
     [[nodiscard]] bool startBus();
     /// Kills both.
     void killBus();
-    [[nodiscard]] const QString &busAddress() const { return m_busAddress; }
+    [[nodiscard]] QString busAddress() const { return m_bus ? m_bus->address() : QString(); }
 
     /// Puts applications below the registry.
     void setApplications(const QStringList &services) { m_applications = services; }
@@ -38,12 +37,8 @@ public:
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
 
 private:
-    [[nodiscard]] std::unique_ptr<ChildProcess> startDaemon(QString &address);
-
-    QTemporaryDir m_folder;
-    std::unique_ptr<ChildProcess> m_session;
-    std::unique_ptr<ChildProcess> m_bus;
-    QString m_busAddress;
+    std::unique_ptr<BusDaemon> m_session = BusDaemon::start();
+    std::unique_ptr<BusDaemon> m_bus;
     QStringList m_applications;
     QString m_listener;
 };

@@ -1,20 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/selectionthread.h"
+
 #include <QByteArray>
-#include <QList>
-#include <QObject>
-#include <QSocketNotifier>
 
-#include <xcb/xcb.h>
-
-#include <memory>
-
-/// An application that owns PRIMARY or another selection, well-behaved or not, on a connection of its own.
-class SelectionOwner final : public QObject
+/// An application that owns PRIMARY or another selection, well-behaved or not.
+class SelectionOwner final
 {
-    Q_OBJECT
-
 public:
     enum class Manner {
         Whole,
@@ -31,7 +24,6 @@ public:
     };
 
     SelectionOwner(QByteArray text, Manner manner, const char *selection = "PRIMARY");
-    ~SelectionOwner() override;
 
     /// How often its content was asked for.
     [[nodiscard]] int readings() const { return m_readings; }
@@ -39,22 +31,22 @@ public:
     [[nodiscard]] bool isSending() const { return m_property != XCB_ATOM_NONE; }
 
 private:
-    [[nodiscard]] xcb_atom_t atom(const char *name) const;
-    void onReadable();
-    void onRequest(const xcb_selection_request_event_t &request);
-    void sendTargets(const xcb_selection_request_event_t &request);
-    void sendText(const xcb_selection_request_event_t &request);
-    void sendNextPiece();
-    void notify(const xcb_selection_request_event_t &request, bool isGiven);
+    using Display = vesk::DisplayConnection;
+    using Request = xcb_selection_request_event_t;
 
-    QByteArray m_text;
-    Manner m_manner;
-    xcb_connection_t *m_connection;
-    xcb_window_t m_window;
-    std::unique_ptr<QSocketNotifier> m_notifier;
-    int m_readings = 0;
+    void handle(Display &display, const xcb_generic_event_t &event);
+    void answer(Display &display, const Request &request);
+    void sendTargets(Display &display, const Request &request) const;
+    void sendText(Display &display, const Request &request);
+    void sendNextPiece(Display &display);
+
+    const QByteArray m_text;
+    const Manner m_manner;
+    std::atomic_int m_readings = 0;
     /// The transfer in pieces that runs; no property for none.
     xcb_window_t m_requestor = XCB_WINDOW_NONE;
-    xcb_atom_t m_property = XCB_ATOM_NONE;
+    std::atomic<xcb_atom_t> m_property = XCB_ATOM_NONE;
     qsizetype m_sent = 0;
+    // Ends before what it uses.
+    std::unique_ptr<vesk::SelectionThread> m_thread;
 };

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/desktoptest.h"
-#include "desktop/virtualdesktop.h"
+#include "x11test.h"
+
+#include "desktop/texteditor.h"
 #include "platform/freedesktop/systemclock.h"
 #include "platform/x11/keytaker.h"
 #include "platform/x11/rawinput.h"
-#include "platform/x11/x11connection.h"
 #include "platform/x11/x11eventposter.h"
 #include "platform/x11/x11workspace.h"
 
@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 using namespace vesk;
 
 /// Keys sent to real applications, which must get no key but those, and some none at all.
-class TestEventPoster : public QObject
+class TestEventPoster : public X11Test
 {
     Q_OBJECT
 
@@ -33,9 +33,7 @@ private Q_SLOTS:
     void hungApplicationIsNotAskedToCopyLater();
 
 private:
-    std::unique_ptr<VirtualDesktop> m_desktop;
     std::unique_ptr<TextEditor> m_editor;
-    std::unique_ptr<X11Connection> m_connection;
     std::unique_ptr<RawInput> m_input;
     std::unique_ptr<X11Workspace> m_workspace;
     SystemClock m_clock;
@@ -45,11 +43,7 @@ private:
 
 void TestEventPoster::initTestCase()
 {
-    QString problem;
-    m_desktop = VirtualDesktop::start(problem);
-    QVERIFY2(m_desktop, qPrintable(problem));
-    qputenv("DISPLAY", m_desktop->displayName().toLatin1());
-    m_connection = X11Connection::open().connection;
+    X11Test::initTestCase();
     QVERIFY(m_connection);
     m_input = std::make_unique<RawInput>(*m_connection);
     m_workspace = std::make_unique<X11Workspace>(*m_connection);
@@ -64,8 +58,7 @@ void TestEventPoster::cleanupTestCase()
     m_poster.reset();
     m_workspace.reset();
     m_input.reset();
-    m_connection.reset();
-    m_desktop.reset();
+    X11Test::cleanupTestCase();
 }
 
 void TestEventPoster::takersAreTold_data()

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/desktoptest.h"
+#include "x11test.h"
+
 #include "input/doubleshiftmonitor.h"
 #include "platform/x11/rawinput.h"
-#include "platform/x11/x11connection.h"
 #include "platform/x11/x11eventtap.h"
 
 #include <QSignalSpy>
@@ -14,36 +14,14 @@ using namespace Qt::StringLiterals;
 using namespace vesk;
 
 /// Shift tapped twice on a real keyboard, in all that may come between.
-class TestEventTap : public QObject
+class TestEventTap : public X11Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase();
     void keysBecomeTaps_data();
     void keysBecomeTaps();
-
-private:
-    std::unique_ptr<VirtualDesktop> m_desktop;
-    std::unique_ptr<X11Connection> m_connection;
 };
-
-void TestEventTap::initTestCase()
-{
-    QString problem;
-    m_desktop = VirtualDesktop::start(problem);
-    QVERIFY2(m_desktop, qPrintable(problem));
-    qputenv("DISPLAY", m_desktop->displayName().toLatin1());
-    m_connection = X11Connection::open().connection;
-    QVERIFY(m_connection);
-}
-
-void TestEventTap::cleanupTestCase()
-{
-    m_connection.reset();
-    m_desktop.reset();
-}
 
 /// Letters for keys: s S, left Shift down and up; r R, right Shift; T, Shift goes up that was not down;
 /// c C, Control; k, n, Caps Lock and Num Lock tapped; x, a letter; b, a mouse button; w, the wheel; g G,

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/desktoptest.h"
-#include "desktop/virtualdesktop.h"
+#include "x11test.h"
+
 #include "platform/memory/memorykeyboard.h"
 #include "platform/x11/rawinput.h"
-#include "platform/x11/x11connection.h"
 #include "platform/x11/x11hotkeys.h"
 
 #include <QSignalSpy>
@@ -91,13 +90,11 @@ private:
 } // namespace
 
 /// What every platform's hot keys do alike.
-class TestHotKeys : public QObject
+class TestHotKeys : public X11Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase();
     void everyPressFiresOnce_data() { benches(); }
     void everyPressFiresOnce();
     void registeringAgainReplaces_data() { benches(); }
@@ -117,22 +114,7 @@ private:
     [[nodiscard]] std::unique_ptr<Bench> makeBench(const QString &name);
     /// The identifiers of the keys that fired, once `count` have, in their order.
     [[nodiscard]] static QList<quint32> fired(QSignalSpy &spy, qsizetype count);
-
-    std::unique_ptr<VirtualDesktop> m_desktop;
 };
-
-void TestHotKeys::initTestCase()
-{
-    QString problem;
-    m_desktop = VirtualDesktop::start(problem);
-    QVERIFY2(m_desktop, qPrintable(problem));
-    qputenv("DISPLAY", m_desktop->displayName().toLatin1());
-}
-
-void TestHotKeys::cleanupTestCase()
-{
-    m_desktop.reset();
-}
 
 void TestHotKeys::benches()
 {

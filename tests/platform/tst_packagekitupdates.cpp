@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "fakepackagekit.h"
 
-#include "desktop/childprocess.h"
+#include "desktop/busdaemon.h"
 #include "platform/freedesktop/packagekitupdates.h"
 
 #include <QDBusConnectionInterface>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -31,32 +30,17 @@ private Q_SLOTS:
     void mayDieWhileChecking();
 
 private:
-    QTemporaryDir m_folder;
-    std::unique_ptr<ChildProcess> m_daemon;
+    std::unique_ptr<BusDaemon> m_bus;
     std::unique_ptr<FakePackageKit> m_service;
     std::unique_ptr<PackageKitUpdates> m_updates;
 };
 
 void TestPackageKitUpdates::initTestCase()
 {
-    // With no service of the machine's to start.
-    QFile configuration(m_folder.filePath(u"bus.conf"_s));
-    QVERIFY(configuration.open(QIODevice::WriteOnly));
-    configuration.write(
-        u"<busconfig><type>session</type><listen>unix:dir=%1</listen>"
-        "<policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>"
-        "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>"_s.arg(m_folder.path())
-            .toUtf8());
-    configuration.close();
-    m_daemon = ChildProcess::start(
-        {.program = u"dbus-daemon"_s,
-         .arguments = {u"--nofork"_s, u"--print-address=1"_s, u"--config-file="_s + configuration.fileName()},
-         .environment = QProcessEnvironment::systemEnvironment(),
-         .errorFile = m_folder.filePath(u"bus.log"_s)});
-    QVERIFY(m_daemon);
-    const QString address = m_daemon->readLine(10s);
-    QVERIFY2(QDBusConnection::connectToBus(address, u"service"_s).isConnected(), qPrintable(address));
-    QVERIFY(QDBusConnection::connectToBus(address, u"client"_s).isConnected());
+    m_bus = BusDaemon::start();
+    QVERIFY(m_bus);
+    for (const QString &name : {u"service"_s, u"client"_s})
+        QVERIFY(QDBusConnection::connectToBus(m_bus->address(), name).isConnected());
 }
 
 void TestPackageKitUpdates::init()

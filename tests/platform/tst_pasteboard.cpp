@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "selectionowner.h"
+#include "x11test.h"
 
-#include "desktop/desktoptest.h"
-#include "desktop/virtualdesktop.h"
 #include "platform/memory/memorypasteboard.h"
 #include "platform/x11/selectiontransfer.h"
-#include "platform/x11/x11connection.h"
 #include "platform/x11/x11pasteboard.h"
 
 #include <QCoroTask>
@@ -110,13 +108,11 @@ const PasteboardItem &richItem()
 } // namespace
 
 /// What every platform's pasteboard does alike, and how the one on X11 stands other programs.
-class TestPasteboard : public QObject
+class TestPasteboard : public X11Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase();
     void textIsReadBack_data();
     void textIsReadBack();
     void itemsAreReadBack_data() { benches(); }
@@ -140,22 +136,7 @@ private Q_SLOTS:
 private:
     static void benches();
     [[nodiscard]] static std::unique_ptr<Bench> makeBench(const QString &name);
-
-    std::unique_ptr<VirtualDesktop> m_desktop;
 };
-
-void TestPasteboard::initTestCase()
-{
-    QString problem;
-    m_desktop = VirtualDesktop::start(problem);
-    QVERIFY2(m_desktop, qPrintable(problem));
-    qputenv("DISPLAY", m_desktop->displayName().toLatin1());
-}
-
-void TestPasteboard::cleanupTestCase()
-{
-    m_desktop.reset();
-}
 
 void TestPasteboard::benches()
 {

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "selectionowner.h"
+#include "x11test.h"
 
-#include "desktop/desktoptest.h"
-#include "desktop/virtualdesktop.h"
 #include "platform/accessibility.h"
 #include "platform/x11/primaryselection.h"
 #include "platform/x11/selectiontransfer.h"
-#include "platform/x11/x11connection.h"
 
 #include <QCoroTask>
 
@@ -14,42 +12,18 @@ using namespace Qt::StringLiterals;
 using namespace vesk;
 
 /// Reading a selection from owners of every manner.
-class TestPrimarySelection : public QObject
+class TestPrimarySelection : public X11Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase();
     void text_data();
     void text();
     void secretIsNotEvenRead();
-    void eventLoopTurnsWhileAnOwnerIsSilent();
     void lateAnswerIsNotTakenForTheNext();
     void readingGivenUpLetsTheOwnerFinish();
     void ownerAndTimeAreKnown();
-
-private:
-    std::unique_ptr<VirtualDesktop> m_desktop;
-    std::unique_ptr<X11Connection> m_connection;
 };
-
-void TestPrimarySelection::initTestCase()
-{
-    QString problem;
-    m_desktop = VirtualDesktop::start(problem);
-    QVERIFY2(m_desktop, qPrintable(problem));
-    qputenv("DISPLAY", m_desktop->displayName().toLatin1());
-    X11Connection::OpenResult opened = X11Connection::open();
-    QVERIFY2(opened.connection, qPrintable(opened.error));
-    m_connection = std::move(opened.connection);
-}
-
-void TestPrimarySelection::cleanupTestCase()
-{
-    m_connection.reset();
-    m_desktop.reset();
-}
 
 void TestPrimarySelection::text_data()
 {
@@ -64,7 +38,6 @@ void TestPrimarySelection::text_data()
     QTest::newRow("stalls halfway") << QByteArray(500'000, 'x') << Manner::StallsHalfway << false;
     QTest::newRow("silent") << QByteArray("x") << Manner::Silent << false;
     QTest::newRow("no text") << QByteArray("x") << Manner::NoText << false;
-    QTest::newRow("secret") << QByteArray("x") << Manner::Secret << false;
 }
 
 void TestPrimarySelection::text()
@@ -84,18 +57,6 @@ void TestPrimarySelection::secretIsNotEvenRead()
     PrimarySelection primary(*m_connection);
     QVERIFY(!QCoro::waitFor(primary.text()));
     QCOMPARE(owner.readings(), 0);
-}
-
-void TestPrimarySelection::eventLoopTurnsWhileAnOwnerIsSilent()
-{
-    const SelectionOwner owner("x", SelectionOwner::Manner::Silent);
-    PrimarySelection primary(*m_connection);
-    QTimer ticker;
-    int ticks = 0;
-    connect(&ticker, &QTimer::timeout, this, [&ticks] { ++ticks; });
-    ticker.start(5);
-    QVERIFY(!QCoro::waitFor(primary.text()));
-    QVERIFY(ticks > 5);
 }
 
 void TestPrimarySelection::lateAnswerIsNotTakenForTheNext()

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "fakestatuswatcher.h"
 
-#include "desktop/childprocess.h"
+#include "desktop/busdaemon.h"
 #include "platform/freedesktop/statusicon.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCall>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -52,23 +50,17 @@ private:
         return askMenu(u"Event"_s, {id, u"clicked"_s, QVariant::fromValue(QDBusVariant(0)), 0U});
     }
 
-    QTemporaryDir m_folder;
-    std::unique_ptr<ChildProcess> m_daemon;
+    std::unique_ptr<BusDaemon> m_bus;
     std::unique_ptr<StatusIcon> m_icon;
     QStringList m_done;
 };
 
 void StatusIconTest::initTestCase()
 {
-    m_daemon = ChildProcess::start({.program = u"dbus-daemon"_s,
-                                    .arguments = {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s,
-                                                  u"--address=unix:dir="_s + m_folder.path()},
-                                    .environment = QProcessEnvironment::systemEnvironment(),
-                                    .errorFile = m_folder.filePath(u"bus.log"_s)});
-    QVERIFY(m_daemon);
-    const QString address = m_daemon->readLine(10s);
-    QVERIFY2(QDBusConnection::connectToBus(address, u"desktop"_s).isConnected(), qPrintable(address));
-    QVERIFY(QDBusConnection::connectToBus(address, u"vesk"_s).isConnected());
+    m_bus = BusDaemon::start();
+    QVERIFY(m_bus);
+    for (const QString &name : {u"desktop"_s, u"vesk"_s})
+        QVERIFY(QDBusConnection::connectToBus(m_bus->address(), name).isConnected());
 }
 
 void StatusIconTest::cleanup()

@@ -104,7 +104,6 @@ private Q_SLOTS:
     void init() { m_world = std::make_unique<World>(); }
     void cleanup();
     void returnKeepsANote();
-    void checklistGoesOnUntilAnEmptyItem();
     void commandReturnKeepsAChecklist();
     void blankDraftIsNotKept_data();
     void blankDraftIsNotKept();
@@ -149,19 +148,6 @@ void QuickNoteTest::returnKeepsANote()
     QCOMPARE(m_world->draft(), QString());
     QCOMPARE(m_world->notice(), u"Saved to Vesk"_s);
     QCOMPARE(m_world->sounds.played().size(), 1);
-}
-
-void QuickNoteTest::checklistGoesOnUntilAnEmptyItem()
-{
-    QVERIFY(m_world->show(Mode::Checklist));
-    QCOMPARE(m_world->draft(), u"\u2610 "_s);
-    m_world->type(u"Milk"_s);
-    m_world->press(Qt::Key_Return);
-    QCOMPARE(m_world->draft(), u"\u2610 Milk\n\u2610 "_s);
-    QVERIFY(m_world->texts().isEmpty());
-    m_world->press(Qt::Key_Return);
-    QCOMPARE(m_world->texts(), QStringList{u"\u2610 Milk"_s});
-    QVERIFY(!m_world->box->isShowing());
 }
 
 void QuickNoteTest::commandReturnKeepsAChecklist()

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "capture/selectionreader.h"
+#include "platform/memory/memoryaccessibility.h"
+#include "platform/memory/memoryclock.h"
+#include "platform/memory/memorykeyboard.h"
+#include "platform/memory/memorypasteboard.h"
+#include "platform/memory/memoryworkspace.h"
+
+namespace vesk {
+
+/// The desktop of a user who works in an editor, in memory, and what reads the selection there.
+struct CaptureDesktop
+{
+    static constexpr qint64 kPid = 4711;
+
+    CaptureDesktop() { bringForward(kPid, QStringLiteral("Editor"), QStringLiteral("org.example.Editor")); }
+
+    /// Selects a text in the editor: an empty one is surely none, and no value is one that cannot be read.
+    void select(const std::optional<QString> &text)
+    {
+        const AccessibleElement field{.processIdentifier = kPid, .address = QStringLiteral("field")};
+        accessibility.setElement(
+            field, {.role = QStringLiteral("text"), .selectedText = text, .url = {}, .parent = {}});
+        accessibility.setFocusedElement(field);
+    }
+
+    void bringForward(qint64 process, const QString &name = {}, const std::optional<QString> &bundle = {})
+    {
+        workspace.setFrontmostApplication(RunningApplication{
+            .processIdentifier = process, .localizedName = name, .bundleIdentifier = bundle});
+    }
+
+    MemoryClock clock;
+    MemoryAccessibility accessibility{clock};
+    MemoryWorkspace workspace;
+    MemoryPasteboard pasteboard;
+    MemoryEventPoster poster;
+    MemoryEventTap tap;
+    PasteboardWatcher watcher{pasteboard, clock};
+    SelectionReader reader{{.accessibility = accessibility,
+                            .workspace = workspace,
+                            .pasteboard = pasteboard,
+                            .watcher = watcher,
+                            .poster = poster,
+                            .tap = tap,
+                            .clock = clock}};
+};
+
+} // namespace vesk
