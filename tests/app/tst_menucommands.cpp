@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "../panel/panelfixture.h"
+#include "../panel/paneltest.h"
 #include "app/menucommands.h"
 #include "editor/notetextview.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace vesk;
@@ -12,16 +11,12 @@ using namespace vesk;
 using Command = MenuCommands::Command;
 
 /// The commands' keys in the real panel.
-class MenuCommandsTest : public QObject
+class MenuCommandsTest : public PanelTest
 {
     Q_OBJECT
 
-public:
-    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
-
 private Q_SLOTS:
     void init();
-    void cleanup() { m_fixture.reset(); }
     void formatTheOpenNote_data();
     void formatTheOpenNote();
     void formatWorksFromBesideTheText();
@@ -31,21 +26,18 @@ private Q_SLOTS:
 private:
     void openNote()
     {
-        m_fixture->model.openNote()->open(*m_note);
-        QTRY_VERIFY(m_fixture->model.editor()->textView());
-        m_fixture->model.editor()->forceFocus();
+        model().openNote()->open(*m_note);
+        QTRY_VERIFY(model().editor()->textView());
+        model().editor()->forceFocus();
     }
-
-    std::unique_ptr<PanelFixture> m_fixture;
     Note *m_note = nullptr;
 };
 
 void MenuCommandsTest::init()
 {
-    m_fixture = std::make_unique<PanelFixture>();
-    m_fixture->appearance.setReduceMotion(true);
-    m_note = &m_fixture->addNote(u"milk"_s);
-    m_fixture->show();
+    PanelTest::init();
+    m_note = &addNote(u"milk"_s);
+    show();
 }
 
 void MenuCommandsTest::formatTheOpenNote_data()
@@ -61,37 +53,37 @@ void MenuCommandsTest::formatTheOpenNote()
 {
     QFETCH(Qt::Key, key);
     QFETCH(QString, text);
-    const MenuCommands commands(m_fixture->panel.window(), *m_fixture->model.editor());
+    const MenuCommands commands(window(), *model().editor());
     openNote();
-    m_fixture->press(key, Qt::ControlModifier | Qt::ShiftModifier);
+    press(key, Qt::ControlModifier | Qt::ShiftModifier);
     QTRY_COMPARE(m_note->text(), text);
-    m_fixture->press(key, Qt::ControlModifier | Qt::ShiftModifier);
+    press(key, Qt::ControlModifier | Qt::ShiftModifier);
     QTRY_COMPARE(m_note->text(), u"milk"_s);
 }
 
 void MenuCommandsTest::formatWorksFromBesideTheText()
 {
-    const MenuCommands commands(m_fixture->panel.window(), *m_fixture->model.editor());
+    const MenuCommands commands(window(), *model().editor());
     openNote();
     // Back to a button of the panel; what follows the note is a field, which would close it.
-    m_fixture->press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
-    QVERIFY(m_fixture->model.editor()->textView() && !m_fixture->model.keyboard()->isEditing());
-    m_fixture->press(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
+    press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(model().editor()->textView() && !model().keyboard()->isEditing());
+    press(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
     QTRY_COMPARE(m_note->text(), u"\u2610 milk"_s);
 }
 
 void MenuCommandsTest::formatNeedsAnOpenNoteInSight()
 {
-    MenuCommands commands(m_fixture->panel.window(), *m_fixture->model.editor());
+    MenuCommands commands(window(), *model().editor());
     const auto pressAll = [this] {
         for (const Qt::Key key : {Qt::Key_L, Qt::Key_8, Qt::Key_H})
-            m_fixture->press(key, Qt::ControlModifier | Qt::ShiftModifier);
+            press(key, Qt::ControlModifier | Qt::ShiftModifier);
     };
-    m_fixture->press(Qt::Key_Down);
+    press(Qt::Key_Down);
     pressAll();
     QCOMPARE(m_note->text(), u"milk"_s);
     openNote();
-    m_fixture->model.guide()->show();
+    model().guide()->show();
     pressAll();
     commands.perform(Command::Heading);
     QCOMPARE(m_note->text(), u"milk"_s);
@@ -99,10 +91,10 @@ void MenuCommandsTest::formatNeedsAnOpenNoteInSight()
 
 void MenuCommandsTest::newNoteIsTakenFromAnywhere()
 {
-    const MenuCommands commands(m_fixture->panel.window(), *m_fixture->model.editor());
+    const MenuCommands commands(window(), *model().editor());
     QSignalSpy chosen(&commands, &MenuCommands::chosen);
     openNote();
-    m_fixture->press(Qt::Key_N, Qt::ControlModifier);
+    press(Qt::Key_N, Qt::ControlModifier);
     QCOMPARE(chosen.size(), 1);
     QCOMPARE(chosen.first().first().value<Command>(), Command::NewNote);
     // Another window of the program's.

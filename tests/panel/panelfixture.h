@@ -17,11 +17,7 @@
 #include "platform/memory/memoryworkspace.h"
 
 #include <QQmlEngine>
-#include <QQuickItem>
 #include <QTemporaryDir>
-#include <QTest>
-
-#include <algorithm>
 
 namespace vesk {
 
@@ -41,45 +37,6 @@ struct PanelFixture
         Prompt &prompt = store->insert(std::make_unique<Prompt>(clock, text, Prompt::Origin::FollowUp));
         clock.advance(std::chrono::seconds(1));
         return prompt;
-    }
-
-    void show()
-    {
-        panel.showPanel();
-        QVERIFY(QTest::qWaitForWindowActive(&panel.window()));
-    }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QTest::keyClick(&panel.window(), key, modifiers);
-    }
-    void type(const QString &text)
-    {
-        for (const QChar letter : text)
-            QTest::keyClick(&panel.window(), letter.toLatin1());
-    }
-    void click(const QQuickItem &item)
-    {
-        QTest::mouseClick(&panel.window(), Qt::LeftButton, {}, middle(item));
-    }
-    [[nodiscard]] static QPoint middle(const QQuickItem &item)
-    {
-        return item.mapToScene(item.boundingRect().center()).toPoint();
-    }
-    /// All items of a QML type that are shown, in order of their place.
-    [[nodiscard]] QList<QQuickItem *> shown(const QByteArray &type)
-    {
-        QList<QQuickItem *> found;
-        QList<QQuickItem *> left{panel.window().contentItem()};
-        while (!left.isEmpty()) {
-            QQuickItem *item = left.takeFirst();
-            if (!item->isVisible() || item->opacity() == 0)
-                continue;
-            if (QByteArray(item->metaObject()->className()).startsWith(type + "_QMLTYPE"))
-                found.append(item);
-            left += item->childItems();
-        }
-        std::ranges::sort(found, {}, [](QQuickItem *item) { return item->mapToScene({}).y(); });
-        return found;
     }
 
     QTemporaryDir folder;

@@ -1,24 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "panelfixture.h"
+#include "paneltest.h"
 
 #include <QAccessible>
-#include <QQuickItem>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
 /// The panel's window as the user meets it: where it comes up, in which state, when it goes.
-class PanelWindowTest : public QObject
+class PanelWindowTest : public PanelTest
 {
     Q_OBJECT
 
-public:
-    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
-
 private Q_SLOTS:
     void init() { m_fixture = std::make_unique<PanelFixture>(); }
-    void cleanup() { m_fixture.reset(); }
     void comesUpOnTheScreenUnderThePointer();
     void toggles();
     void closingOnlyHides();
@@ -30,13 +24,11 @@ private Q_SLOTS:
 private:
     /// The item that a screen reader knows under this name; null if there is none on screen.
     [[nodiscard]] QQuickItem *find(const QString &name) const;
-
-    std::unique_ptr<PanelFixture> m_fixture;
 };
 
 QQuickItem *PanelWindowTest::find(const QString &name) const
 {
-    QList<QQuickItem *> items{m_fixture->panel.window().contentItem()};
+    QList<QQuickItem *> items{window().contentItem()};
     while (!items.isEmpty()) {
         QQuickItem *item = items.takeLast();
         if (!item->isVisible())
@@ -56,12 +48,12 @@ void PanelWindowTest::comesUpOnTheScreenUnderThePointer()
     m_fixture->screens.setScreens({{.frame = first, .visibleFrame = first},
                                    {.frame = second, .visibleFrame = second.adjusted(0, 40, 0, 0)}});
     m_fixture->screens.setMouseLocation(QPointF(2000, 400));
-    m_fixture->model.setSearch(u"left over"_s);
-    m_fixture->panel.showPanel();
+    model().setSearch(u"left over"_s);
+    panel().showPanel();
     QCOMPARE(m_fixture->windows.frame(), QRectF(2350, 50, 440, 620));
-    QCOMPARE(m_fixture->panel.window().title(), u"Vesk"_s);
-    QCOMPARE(m_fixture->model.search(), QString());
-    QCOMPARE(m_fixture->application.activatedWindow(), &m_fixture->panel.window());
+    QCOMPARE(window().title(), u"Vesk"_s);
+    QCOMPARE(model().search(), QString());
+    QCOMPARE(m_fixture->application.activatedWindow(), &window());
 
     // A change of the screens leaves it on its own, not on the pointer's.
     m_fixture->screens.setMouseLocation(QPointF(100, 100));
@@ -72,38 +64,38 @@ void PanelWindowTest::comesUpOnTheScreenUnderThePointer()
 
 void PanelWindowTest::toggles()
 {
-    m_fixture->panel.togglePanel();
-    QVERIFY(m_fixture->panel.isShown());
-    m_fixture->model.requestField(PanelModel::Field::Search);
-    m_fixture->model.selection()->select(m_fixture->addNote(u"tea"_s).id());
-    m_fixture->panel.togglePanel();
-    QVERIFY(!m_fixture->panel.isShown());
+    panel().togglePanel();
+    QVERIFY(panel().isShown());
+    model().requestField(Field::Search);
+    model().selection()->select(addNote(u"tea"_s).id());
+    panel().togglePanel();
+    QVERIFY(!panel().isShown());
     QVERIFY(m_fixture->application.isHidden());
-    QVERIFY(!m_fixture->model.selection()->selected());
-    m_fixture->panel.togglePanel();
-    QVERIFY(m_fixture->panel.isShown());
-    QVERIFY(QTest::qWaitForWindowActive(&m_fixture->panel.window()));
-    QCOMPARE(m_fixture->model.keyboard()->activeField(), PanelModel::Field::None);
+    QVERIFY(!model().selection()->selected());
+    panel().togglePanel();
+    QVERIFY(panel().isShown());
+    QVERIFY(QTest::qWaitForWindowActive(&window()));
+    QCOMPARE(model().keyboard()->activeField(), Field::None);
 }
 
 void PanelWindowTest::closingOnlyHides()
 {
-    m_fixture->panel.showPanel();
-    m_fixture->panel.window().close();
+    panel().showPanel();
+    window().close();
     QVERIFY(m_fixture->application.isHidden());
-    m_fixture->panel.showPanel();
-    QVERIFY(m_fixture->panel.isShown());
+    panel().showPanel();
+    QVERIFY(panel().isShown());
 }
 
 void PanelWindowTest::requestForAFieldBringsItUp()
 {
-    m_fixture->model.requestField(PanelModel::Field::None);
-    QVERIFY(!m_fixture->panel.isShown());
-    m_fixture->model.requestField(PanelModel::Field::Composer);
-    QVERIFY(m_fixture->panel.isShown());
-    QVERIFY(QTest::qWaitForWindowActive(&m_fixture->panel.window()));
-    m_fixture->type(u"a"_s);
-    QCOMPARE(m_fixture->model.draft(), u"a"_s);
+    model().requestField(Field::None);
+    QVERIFY(!panel().isShown());
+    model().requestField(Field::Composer);
+    QVERIFY(panel().isShown());
+    QVERIFY(QTest::qWaitForWindowActive(&window()));
+    type(u"a"_s);
+    QCOMPARE(model().draft(), u"a"_s);
 }
 
 void PanelWindowTest::fadesOnlyWhereThatIsWanted_data()
@@ -122,22 +114,21 @@ void PanelWindowTest::fadesOnlyWhereThatIsWanted()
     QFETCH(bool, reducesMotion);
     m_fixture->windows.setComposited(isComposited);
     m_fixture->appearance.setReduceMotion(reducesMotion);
-    m_fixture->panel.showPanel();
-    QTEST(m_fixture->panel.window().opacity() < 1, "fades");
-    m_fixture->panel.showPanel();
-    QTRY_COMPARE(m_fixture->panel.window().opacity(), 1.0);
+    panel().showPanel();
+    QTEST(window().opacity() < 1, "fades");
+    panel().showPanel();
+    QTRY_COMPARE(window().opacity(), 1.0);
 }
 
 void PanelWindowTest::bannerFollowsTrust()
 {
     m_fixture->appearance.setReduceMotion(true);
     m_fixture->accessibility.setTrusted(false);
-    m_fixture->panel.showPanel();
-    QVERIFY(QTest::qWaitForWindowExposed(&m_fixture->panel.window()));
+    panel().showPanel();
+    QVERIFY(QTest::qWaitForWindowExposed(&window()));
     QQuickItem *button = find(u"Open Settings"_s);
     QVERIFY(button);
-    QTest::mouseClick(&m_fixture->panel.window(), Qt::LeftButton, {},
-                      button->mapToScene(QPointF(20, 12)).toPoint());
+    QTest::mouseClick(&window(), Qt::LeftButton, {}, button->mapToScene(QPointF(20, 12)).toPoint());
     QCOMPARE(m_fixture->accessibility.askCount(), 1);
     m_fixture->accessibility.setTrusted(true);
     QVERIFY(!find(u"Open Settings"_s));

@@ -36,8 +36,10 @@ public:
 public Q_SLOTS:
     void RegisterStatusNotifierItem(const QString &service)
     {
-        // What a real one does with a path: the caller is the service.
-        m_items.append(service.startsWith(u'/') ? message().service() : service);
+        // What a real one does: with a path, the caller is the service, and one that it has is no news.
+        const QString item = service.startsWith(u'/') ? message().service() : service;
+        if (!m_items.contains(item))
+            m_items.append(item);
     }
 
 private:

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "panelfixture.h"
+
+#include <QQuickItem>
+#include <QTest>
+
+#include <algorithm>
+
+namespace vesk {
+
+/// A test in the panel's real window, which each function has anew.
+class PanelTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+
+protected:
+    using Field = PanelModel::Field;
+
+    [[nodiscard]] PanelModel &model() const { return m_fixture->model; }
+    [[nodiscard]] PanelWindow &panel() const { return m_fixture->panel; }
+    [[nodiscard]] QQuickView &window() const { return m_fixture->panel.window(); }
+    [[nodiscard]] NotesStore &store() const { return *m_fixture->store; }
+    Note &addNote(const QString &text) { return m_fixture->addNote(text); }
+
+    void show()
+    {
+        panel().showPanel();
+        QVERIFY(QTest::qWaitForWindowActive(&window()));
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(&window(), key, modifiers);
+    }
+    void type(const QString &text)
+    {
+        for (const QChar letter : text)
+            QTest::keyClick(&window(), letter.toLatin1());
+    }
+    void click(const QQuickItem &item) { QTest::mouseClick(&window(), Qt::LeftButton, {}, middle(item)); }
+    [[nodiscard]] static QPoint middle(const QQuickItem &item)
+    {
+        return item.mapToScene(item.boundingRect().center()).toPoint();
+    }
+    /// All items of a QML type that are shown, in order of their place.
+    [[nodiscard]] QList<QQuickItem *> shown(const QByteArray &type) const
+    {
+        QList<QQuickItem *> found;
+        QList<QQuickItem *> left{window().contentItem()};
+        while (!left.isEmpty()) {
+            QQuickItem *item = left.takeFirst();
+            if (!item->isVisible() || item->opacity() == 0)
+                continue;
+            if (QByteArray(item->metaObject()->className()).startsWith(type + "_QMLTYPE"))
+                found.append(item);
+            left += item->childItems();
+        }
+        std::ranges::sort(found, {}, [](QQuickItem *item) { return item->mapToScene({}).y(); });
+        return found;
+    }
+
+    std::unique_ptr<PanelFixture> m_fixture;
+
+protected Q_SLOTS:
+    void init()
+    {
+        m_fixture = std::make_unique<PanelFixture>();
+        m_fixture->appearance.setReduceMotion(true);
+    }
+    void cleanup() { m_fixture.reset(); }
+};
+
+} // namespace vesk
