@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "../components/memorydesktop.h"
 #include "app/appupdater.h"
-#include "components/surroundings.h"
-#include "platform/memory/memoryappearance.h"
-#include "platform/memory/memoryscreens.h"
 #include "platform/memory/memoryupdates.h"
-#include "platform/memory/memorywindows.h"
-#include "platform/memory/memoryworkspace.h"
 
 #include <QGuiApplication>
-#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QTest>
@@ -62,16 +57,12 @@ void TestAppUpdater::tells()
     QFETCH(bool, acceptsIt);
     QFETCH(QString, heading);
     QFETCH(QStringList, opened);
-    MemoryAppearance appearance;
-    MemoryWorkspace workspace;
-    MemoryScreens screens;
-    MemoryWindows windows(screens);
+    MemoryDesktop desktop;
+    MemoryWorkspace &workspace = desktop.workspace;
     MemoryUpdates updates;
-    QQmlEngine engine;
-    lendToEngine(engine, appearance, workspace, windows);
     if (!updater.isEmpty())
         workspace.install(updater);
-    AppUpdater appUpdater(engine, updates, workspace);
+    AppUpdater appUpdater(desktop.engine, updates, workspace);
     updates.setCanCheck(true);
     appUpdater.checkForUpdates();
     QVERIFY(!appUpdater.canCheck());

@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "components/surroundings.h"
+#include "memorydesktop.h"
+
 #include "components/theme.h"
-#include "platform/memory/memoryappearance.h"
-#include "platform/memory/memoryscreens.h"
-#include "platform/memory/memorywindows.h"
-#include "platform/memory/memoryworkspace.h"
 
 #include <QQmlComponent>
-#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QTest>
@@ -17,11 +13,10 @@
 namespace vesk {
 
 /// A window, over the platform in memory, with a piece of QML in it.
-struct ComponentStage
+struct ComponentStage : MemoryDesktop
 {
     explicit ComponentStage(const QByteArray &qml)
     {
-        lendToEngine(engine, appearance, workspace, windows);
         QQmlComponent component(&engine);
         component.setData("import QtQuick\nimport Vesk.Components\n" + qml, {});
         auto *item = qobject_cast<QQuickItem *>(component.create());
@@ -48,11 +43,6 @@ struct ComponentStage
                           item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint());
     }
 
-    MemoryAppearance appearance;
-    MemoryWorkspace workspace;
-    MemoryScreens screens;
-    MemoryWindows windows{screens};
-    QQmlEngine engine;
     QQuickView view{&engine, nullptr};
     QQuickItem *root = nullptr;
 };

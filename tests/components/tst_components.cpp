@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "memorydesktop.h"
+
 #include "components/keylabels.h"
 #include "components/palette.h"
-#include "components/surroundings.h"
 #include "components/symboltable.h"
 #include "components/theme.h"
-#include "platform/memory/memoryappearance.h"
-#include "platform/memory/memoryscreens.h"
-#include "platform/memory/memorywindows.h"
-#include "platform/memory/memoryworkspace.h"
 
 #include <QGuiApplication>
 #include <QPainter>
-#include <QQmlEngine>
 #include <QSignalSpy>
 #include <QStyleHints>
 #include <QSvgRenderer>
@@ -101,13 +97,9 @@ void ComponentsTest::everySymbolHasAPicture()
 
 void ComponentsTest::themeFollowsTheDesktop()
 {
-    MemoryAppearance appearance;
-    MemoryWorkspace workspace;
-    const MemoryScreens screens;
-    MemoryWindows windows(screens);
-    QQmlEngine engine;
-    lendToEngine(engine, appearance, workspace, windows);
-    Theme *theme = Theme::create(&engine, &engine);
+    MemoryDesktop desktop;
+    MemoryAppearance &appearance = desktop.appearance;
+    Theme *theme = Theme::create(&desktop.engine, &desktop.engine);
     QVERIFY(theme->springDuration() > 0);
     const QColor lightGround = theme->background();
 
@@ -138,18 +130,13 @@ void ComponentsTest::iconIsLookedUpOnce()
 {
     QPixmap pixmap(8, 8);
     pixmap.fill(Qt::red);
-    MemoryAppearance appearance;
-    MemoryWorkspace workspace;
-    workspace.install(u"org.example.Editor"_s, QIcon(pixmap));
-    const MemoryScreens screens;
-    MemoryWindows windows(screens);
-    QQmlEngine engine;
-    lendToEngine(engine, appearance, workspace, windows);
-    Surroundings &surroundings = Surroundings::of(engine);
+    MemoryDesktop desktop;
+    desktop.workspace.install(u"org.example.Editor"_s, QIcon(pixmap));
+    Surroundings &surroundings = Surroundings::of(desktop.engine);
 
     QVERIFY(surroundings.icon(u"org.example.Gone"_s).isNull());
     const qint64 first = surroundings.icon(u"org.example.Editor"_s).cacheKey();
-    workspace.install(u"org.example.Editor"_s, QIcon(QPixmap(4, 4)));
+    desktop.workspace.install(u"org.example.Editor"_s, QIcon(QPixmap(4, 4)));
     QCOMPARE(surroundings.icon(u"org.example.Editor"_s).cacheKey(), first);
 }
 

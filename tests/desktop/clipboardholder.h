@@ -22,8 +22,8 @@ public:
     void setHanging(bool isHanging) { m_isHanging = isHanging; }
 
 private:
-    explicit ClipboardHolder(const Forms &forms)
-        : m_forms(forms)
+    explicit ClipboardHolder(Forms forms)
+        : m_forms(std::move(forms))
     {
     }
 

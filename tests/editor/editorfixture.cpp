@@ -34,7 +34,6 @@ Qt::Key keyOf(QChar character)
 
 EditorFixture::EditorFixture(const QString &properties, QSize size)
 {
-    lendToEngine(engine, appearance, workspace, windows);
     lendToEditors(engine, pasteboard, &primary);
     QQmlComponent component(&engine);
     component.setData(u"import QtQuick\nimport Vesk.Components\nimport Vesk.Editor\n"

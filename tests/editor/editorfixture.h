@@ -1,17 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "components/surroundings.h"
+#include "../components/memorydesktop.h"
 #include "editor/lentpasteboards.h"
 #include "editor/noteeditorcontroller.h"
-#include "platform/memory/memoryappearance.h"
-#include "platform/memory/memoryclock.h"
-#include "platform/memory/memorypasteboard.h"
-#include "platform/memory/memoryscreens.h"
-#include "platform/memory/memorywindows.h"
-#include "platform/memory/memoryworkspace.h"
 
-#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTextDocument>
@@ -21,7 +14,7 @@
 namespace vesk {
 
 /// A real editor in a real window, for real keys.
-class EditorFixture final
+class EditorFixture final : public MemoryDesktop
 {
 public:
     /// `properties` are QML, for the editor. The window has the keyboard when this returns.
@@ -50,14 +43,7 @@ public:
     void paint() { static_cast<void>(picture()); }
     [[nodiscard]] QList<QQuickItem *> boxes() const;
 
-    MemoryAppearance appearance;
-    MemoryScreens screens;
-    MemoryWindows windows{screens};
-    MemoryWorkspace workspace;
-    MemoryPasteboard pasteboard;
-    MemoryPasteboard primary;
     NoteEditorController controller;
-    QQmlEngine engine;
     QQuickWindow window;
     QQuickItem *editor = nullptr;
     QQuickItem *edit = nullptr;

@@ -1,15 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "components/surroundings.h"
+#include "../components/memorydesktop.h"
 #include "guide/guide.h"
 #include "guide/guidetopics.h"
 #include "input/hotkeytable.h"
-#include "platform/memory/memoryaccessibility.h"
-#include "platform/memory/memoryappearance.h"
-#include "platform/memory/memoryclock.h"
-#include "platform/memory/memorydefaults.h"
-#include "platform/memory/memoryscreens.h"
-#include "platform/memory/memorywindows.h"
-#include "platform/memory/memoryworkspace.h"
 
 #include <QAbstractItemModelTester>
 #include <QAccessible>
@@ -52,12 +45,11 @@ QSet<QString> glyphs(const KeyCombination &combination)
 }
 
 /// The guide in a window of its own, over the platform in memory.
-struct Stage
+struct Stage : MemoryDesktop
 {
     explicit Stage(bool isTrusted, int height = 600)
     {
         accessibility.setTrusted(isTrusted);
-        lendToEngine(engine, appearance, workspace, windows);
         guide.show();
         view.setResizeMode(QQuickView::SizeRootObjectToView);
         view.setInitialProperties({{u"guide"_s, QVariant::fromValue(&guide)}, {u"focus"_s, true}});
@@ -86,15 +78,7 @@ struct Stage
     }
     [[nodiscard]] qreal scrolled() const { return scroller()->property("contentY").toReal(); }
 
-    MemoryClock clock;
-    MemoryAccessibility accessibility{clock};
-    MemoryDefaults defaults;
-    MemoryAppearance appearance;
-    MemoryWorkspace workspace;
-    MemoryScreens screens;
-    MemoryWindows windows{screens};
     Guide guide{accessibility, defaults};
-    QQmlEngine engine;
     QQuickView view{&engine, nullptr};
 };
 

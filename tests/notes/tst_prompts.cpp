@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "notes/promptrules.h"
-#include "platform/memory/memoryclock.h"
+#include "storefixture.h"
 
-#include <QTemporaryDir>
+#include "notes/promptrules.h"
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -15,7 +15,6 @@ class TestPrompts : public QObject
 
 private Q_SLOTS:
     void init();
-    void cleanup();
     void onlyTheNewestPromptIsARepeat();
     void repeatIsExact_data();
     void repeatIsExact();
@@ -27,45 +26,30 @@ private Q_SLOTS:
 private:
     promptrules::SaveOutcome save(const QString &text);
     QStringList texts() const;
-    void reopen();
 
-    MemoryClock m_clock;
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<NotesStore> m_store;
+    std::unique_ptr<StoreFixture> m_fixture;
 };
 
 using Outcome = promptrules::SaveOutcome;
 
 void TestPrompts::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    reopen();
-    QVERIFY(m_store);
-}
-
-void TestPrompts::cleanup()
-{
-    m_store.reset();
+    m_fixture = std::make_unique<StoreFixture>();
+    QVERIFY(m_fixture->open());
 }
 
 Outcome TestPrompts::save(const QString &text)
 {
-    m_clock.advance(1s);
-    return promptrules::saveFromSelection(*m_store, m_clock, text);
+    m_fixture->clock.advance(1s);
+    return promptrules::saveFromSelection(*m_fixture->store, m_fixture->clock, text);
 }
 
 QStringList TestPrompts::texts() const
 {
     QStringList result;
-    for (qsizetype i = 0; i < m_store->prompts().count(); ++i)
-        result.append(m_store->prompts().at(i).text());
+    for (qsizetype i = 0; i < m_fixture->store->prompts().count(); ++i)
+        result.append(m_fixture->store->prompts().at(i).text());
     return result;
-}
-
-void TestPrompts::reopen()
-{
-    m_store.reset();
-    m_store = NotesStore::open(m_folder->filePath(u"Notes.store"_s), m_clock).store;
 }
 
 void TestPrompts::onlyTheNewestPromptIsARepeat()
@@ -74,10 +58,10 @@ void TestPrompts::onlyTheNewestPromptIsARepeat()
     QCOMPARE(save(u"A"_s), Outcome::AlreadyThere);
     QCOMPARE(save(u"B"_s), Outcome::Saved);
     QCOMPARE(save(u"A"_s), Outcome::Saved);
-    reopen();
+    QVERIFY(m_fixture->open());
     QCOMPARE(texts(), (QStringList{u"A"_s, u"B"_s, u"A"_s}));
     QCOMPARE(save(u"A"_s), Outcome::AlreadyThere);
-    QVERIFY(m_store->prompts().first()->isCaptured());
+    QVERIFY(m_fixture->store->prompts().first()->isCaptured());
 }
 
 void TestPrompts::repeatIsExact_data()
@@ -93,7 +77,7 @@ void TestPrompts::repeatIsExact()
     QFETCH(QString, text);
     QCOMPARE(save(u"Explain this"_s), Outcome::Saved);
     QCOMPARE(save(text), Outcome::Saved);
-    QCOMPARE(m_store->prompts().first()->text(), text);
+    QCOMPARE(m_fixture->store->prompts().first()->text(), text);
 }
 
 void TestPrompts::repeatOfALoneSurrogateIsFound()
@@ -105,27 +89,27 @@ void TestPrompts::repeatOfALoneSurrogateIsFound()
 
 void TestPrompts::followUpIsTrimmedAndNeverARepeat()
 {
-    QVERIFY(promptrules::saveFollowUp(*m_store, m_clock, u"\n Again\t\u2028"_s));
-    QVERIFY(promptrules::saveFollowUp(*m_store, m_clock, u"Again"_s));
-    QVERIFY(!promptrules::saveFollowUp(*m_store, m_clock, u" \n"_s));
-    reopen();
+    QVERIFY(promptrules::saveFollowUp(*m_fixture->store, m_fixture->clock, u"\n Again\t\u2028"_s));
+    QVERIFY(promptrules::saveFollowUp(*m_fixture->store, m_fixture->clock, u"Again"_s));
+    QVERIFY(!promptrules::saveFollowUp(*m_fixture->store, m_fixture->clock, u" \n"_s));
+    QVERIFY(m_fixture->open());
     QCOMPARE(texts(), (QStringList{u"Again"_s, u"Again"_s}));
-    QVERIFY(!m_store->prompts().first()->isCaptured());
+    QVERIFY(!m_fixture->store->prompts().first()->isCaptured());
 }
 
 void TestPrompts::clearDoneDeletesTheDoneOnes()
 {
     for (const QString &text : {u"1"_s, u"2"_s, u"3"_s})
         save(text);
-    m_store->prompts().at(0).toggleDone();
-    m_store->prompts().at(2).toggleDone();
-    promptrules::clearDone(*m_store);
+    m_fixture->store->prompts().at(0).toggleDone();
+    m_fixture->store->prompts().at(2).toggleDone();
+    promptrules::clearDone(*m_fixture->store);
     QCOMPARE(texts(), QStringList{u"2"_s});
     // Also saves what was pending before, if no prompt is done.
-    m_store->insert(std::make_unique<Prompt>(m_clock, u"4"_s, Prompt::Origin::FollowUp));
-    promptrules::clearDone(*m_store);
-    QVERIFY(!m_store->hasPendingChanges());
-    reopen();
+    m_fixture->store->insert(std::make_unique<Prompt>(m_fixture->clock, u"4"_s, Prompt::Origin::FollowUp));
+    promptrules::clearDone(*m_fixture->store);
+    QVERIFY(!m_fixture->store->hasPendingChanges());
+    QVERIFY(m_fixture->open());
     QCOMPARE(texts(), (QStringList{u"4"_s, u"2"_s}));
 }
 
@@ -133,16 +117,16 @@ void TestPrompts::togglingKeepsThePlace()
 {
     for (const QString &text : {u"1"_s, u"2"_s, u"3"_s})
         save(text);
-    Prompt &middle = m_store->prompts().at(1);
+    Prompt &middle = m_fixture->store->prompts().at(1);
     middle.toggleDone();
     QCOMPARE(texts(), (QStringList{u"3"_s, u"2"_s, u"1"_s}));
-    QVERIFY(m_store->save());
-    reopen();
+    QVERIFY(m_fixture->store->save());
+    QVERIFY(m_fixture->open());
     QCOMPARE(texts(), (QStringList{u"3"_s, u"2"_s, u"1"_s}));
-    QVERIFY(m_store->prompts().at(1).isDone());
-    m_store->prompts().at(1).toggleDone();
-    QVERIFY(m_store->save());
-    QVERIFY(m_store->donePrompts().isEmpty());
+    QVERIFY(m_fixture->store->prompts().at(1).isDone());
+    m_fixture->store->prompts().at(1).toggleDone();
+    QVERIFY(m_fixture->store->save());
+    QVERIFY(m_fixture->store->donePrompts().isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestPrompts)

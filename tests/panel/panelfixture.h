@@ -1,28 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "components/surroundings.h"
+#include "../components/memorydesktop.h"
 #include "editor/lentpasteboards.h"
 #include "notes/notesstore.h"
 #include "panel/panelmodel.h"
 #include "panel/panelwindow.h"
-#include "platform/memory/memoryaccessibility.h"
-#include "platform/memory/memoryappearance.h"
-#include "platform/memory/memoryapplication.h"
-#include "platform/memory/memoryclock.h"
-#include "platform/memory/memorydefaults.h"
-#include "platform/memory/memorypasteboard.h"
-#include "platform/memory/memoryscreens.h"
-#include "platform/memory/memorywindows.h"
-#include "platform/memory/memoryworkspace.h"
 
-#include <QQmlEngine>
 #include <QTemporaryDir>
 
 namespace vesk {
 
 /// The real panel over the platform in memory and an empty store.
-struct PanelFixture
+struct PanelFixture : MemoryDesktop
 {
     /// A note of the present moment; the clock then goes on by a second, so that the next is newer.
     Note &addNote(const QString &text)
@@ -40,22 +30,11 @@ struct PanelFixture
     }
 
     QTemporaryDir folder;
-    MemoryClock clock;
     std::unique_ptr<NotesStore> store =
         NotesStore::open(folder.filePath(QStringLiteral("Notes.store")), clock).store;
-    MemoryDefaults defaults;
     const bool hasSeenGuide = (defaults.setBool(true, QStringLiteral("hasSeenGuide")), true);
-    MemoryApplication application;
-    MemoryAccessibility accessibility{clock};
-    MemoryAppearance appearance;
-    MemoryWorkspace workspace;
-    MemoryScreens screens;
-    MemoryWindows windows{screens};
-    MemoryPasteboard pasteboard;
     PanelModel model{*store, clock, defaults, application, accessibility};
-    QQmlEngine engine;
-    const bool isLent = (lendToEngine(engine, appearance, workspace, windows),
-                         lendToEditors(engine, pasteboard, nullptr), true);
+    const bool isLent = (lendToEditors(engine, pasteboard, nullptr), true);
     PanelWindow panel{engine, model, application, screens, windows};
 };
 

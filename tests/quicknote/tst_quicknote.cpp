@@ -1,21 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "components/surroundings.h"
+#include "../components/memorydesktop.h"
 #include "editor/lentpasteboards.h"
 #include "notes/notesstore.h"
-#include "platform/memory/memoryappearance.h"
-#include "platform/memory/memoryapplication.h"
-#include "platform/memory/memoryclock.h"
-#include "platform/memory/memorypasteboard.h"
-#include "platform/memory/memoryscreens.h"
-#include "platform/memory/memorysounds.h"
-#include "platform/memory/memorywindows.h"
-#include "platform/memory/memoryworkspace.h"
 #include "quicknote/quicknotepanel.h"
 #include "quicknote/toast.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
-#include <QQmlEngine>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -27,12 +18,11 @@ using Mode = QuickNoteBox::Mode;
 namespace {
 
 /// The real box over the platform in memory.
-struct World
+struct World : MemoryDesktop
 {
     World()
     {
         appearance.setReduceMotion(true);
-        lendToEngine(engine, appearance, workspace, windows);
         lendToEditors(engine, pasteboard, &primary);
         toast = std::make_unique<Toast>(engine, screens, windows, clock);
         box = std::make_unique<QuickNotePanel>(QuickNotePanel::Needs{.engine = engine,
@@ -75,17 +65,7 @@ struct World
     }
 
     QTemporaryDir folder;
-    MemoryClock clock;
     std::unique_ptr<NotesStore> store = NotesStore::open(folder.filePath(u"Notes.store"_s), clock).store;
-    MemoryApplication application;
-    MemoryAppearance appearance;
-    MemoryWorkspace workspace;
-    MemoryScreens screens;
-    MemoryWindows windows{screens};
-    MemorySounds sounds;
-    MemoryPasteboard pasteboard;
-    MemoryPasteboard primary;
-    QQmlEngine engine;
     std::unique_ptr<Toast> toast;
     std::unique_ptr<QuickNotePanel> box;
 };

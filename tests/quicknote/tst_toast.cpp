@@ -1,13 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "components/surroundings.h"
-#include "platform/memory/memoryappearance.h"
-#include "platform/memory/memoryclock.h"
-#include "platform/memory/memoryscreens.h"
-#include "platform/memory/memorywindows.h"
-#include "platform/memory/memoryworkspace.h"
+#include "../components/memorydesktop.h"
 #include "quicknote/toast.h"
 
-#include <QQmlEngine>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -33,44 +27,38 @@ private Q_SLOTS:
 private:
     [[nodiscard]] QQuickView &window() { return m_toast->window(); }
 
-    MemoryClock m_clock;
-    MemoryAppearance m_appearance;
-    MemoryWorkspace m_workspace;
-    MemoryScreens m_screens;
-    MemoryWindows m_windows{m_screens};
-    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<MemoryDesktop> m_desktop;
     std::unique_ptr<Toast> m_toast;
 };
 
 void ToastTest::init()
 {
-    m_windows.setComposited(true);
-    m_engine = std::make_unique<QQmlEngine>();
-    lendToEngine(*m_engine, m_appearance, m_workspace, m_windows);
-    m_toast = std::make_unique<Toast>(*m_engine, m_screens, m_windows, m_clock);
+    m_desktop = std::make_unique<MemoryDesktop>();
+    m_desktop->windows.setComposited(true);
+    m_toast =
+        std::make_unique<Toast>(m_desktop->engine, m_desktop->screens, m_desktop->windows, m_desktop->clock);
 }
 
 void ToastTest::cleanup()
 {
     m_toast.reset();
-    m_engine.reset();
-    m_clock.advance(1min);
+    m_desktop->clock.advance(1min);
 }
 
 void ToastTest::standsAboveTheBottom()
 {
     const QRectF frame(0, 0, 1600, 1000);
-    m_screens.setScreens({{.frame = frame, .visibleFrame = frame.adjusted(0, 40, 0, 0)}});
+    m_desktop->screens.setScreens({{.frame = frame, .visibleFrame = frame.adjusted(0, 40, 0, 0)}});
     m_toast->show(u"Saved to Vesk"_s, u"checkmark.circle.fill"_s);
     QVERIFY(window().isVisible());
     QCOMPARE(window().title(), u"Saved to Vesk"_s);
-    const QRectF shortNotice = m_windows.frame();
+    const QRectF shortNotice = m_desktop->windows.frame();
     QCOMPARE(shortNotice.center().x(), 800);
     QCOMPARE(shortNotice.y(), 100);
 
     m_toast->show(u"Added to “A note with a longer title”"_s, u"text.append"_s);
-    QVERIFY(m_windows.frame().width() > shortNotice.width());
-    QCOMPARE(m_windows.frame().center().x(), 800);
+    QVERIFY(m_desktop->windows.frame().width() > shortNotice.width());
+    QCOMPARE(m_desktop->windows.frame().center().x(), 800);
 }
 
 void ToastTest::secondNoticeKeepsItsFullTime_data()
@@ -83,14 +71,14 @@ void ToastTest::secondNoticeKeepsItsFullTime_data()
 void ToastTest::secondNoticeKeepsItsFullTime()
 {
     QFETCH(bool, isComposited);
-    m_windows.setComposited(isComposited);
+    m_desktop->windows.setComposited(isComposited);
     m_toast->show(u"First"_s, u"checkmark.circle.fill"_s);
-    m_clock.advance(1000ms);
+    m_desktop->clock.advance(1000ms);
     m_toast->show(u"Second"_s, u"checkmark.circle.fill"_s);
     QCOMPARE(window().title(), u"Second"_s);
-    m_clock.advance(1399ms);
+    m_desktop->clock.advance(1399ms);
     QVERIFY(window().isVisible());
-    m_clock.advance(1ms);
+    m_desktop->clock.advance(1ms);
     QCOMPARE(window().isVisible(), isComposited);
     QTRY_VERIFY(!window().isVisible());
 }
@@ -98,9 +86,9 @@ void ToastTest::secondNoticeKeepsItsFullTime()
 void ToastTest::noticeDuringTheFadeOutStays()
 {
     m_toast->show(u"First"_s, u"checkmark.circle.fill"_s);
-    m_clock.advance(1500ms);
+    m_desktop->clock.advance(1500ms);
     m_toast->show(u"Second"_s, u"checkmark.circle.fill"_s);
-    m_clock.advance(1399ms);
+    m_desktop->clock.advance(1399ms);
     QVERIFY(window().isVisible());
     QTRY_COMPARE(window().opacity(), 1.0);
 }
@@ -109,8 +97,8 @@ void ToastTest::goingAwayWhileShownIsHarmless()
 {
     m_toast->show(u"First"_s, u"checkmark.circle.fill"_s);
     m_toast.reset();
-    m_clock.advance(2s);
-    QCOMPARE(m_clock.sleeperCount(), 0);
+    m_desktop->clock.advance(2s);
+    QCOMPARE(m_desktop->clock.sleeperCount(), 0);
 }
 
 QTEST_MAIN(ToastTest)
