@@ -10,7 +10,7 @@
 
 namespace vesk {
 
-/// The desktop of a user who works in an editor, in memory, and what reads the selection there.
+/// The desktop of a user who works in an editor, in memory.
 struct CaptureDesktop
 {
     static constexpr qint64 kPid = 4711;
@@ -26,6 +26,23 @@ struct CaptureDesktop
         accessibility.setFocusedElement(field);
     }
 
+    [[nodiscard]] SelectionReader::Needs readersNeeds()
+    {
+        return {.accessibility = accessibility,
+                .workspace = workspace,
+                .pasteboard = pasteboard,
+                .watcher = watcher,
+                .poster = poster,
+                .tap = tap,
+                .clock = clock};
+    }
+
+    void writePicture()
+    {
+        const PasteboardData picture{.type = QStringLiteral("image/png"), .data = "other"};
+        pasteboard.writeObjects({PasteboardItem{picture}});
+    }
+
     void bringForward(qint64 process, const QString &name = {}, const std::optional<QString> &bundle = {})
     {
         workspace.setFrontmostApplication(RunningApplication{
@@ -39,13 +56,6 @@ struct CaptureDesktop
     MemoryEventPoster poster;
     MemoryEventTap tap;
     PasteboardWatcher watcher{pasteboard, clock};
-    SelectionReader reader{{.accessibility = accessibility,
-                            .workspace = workspace,
-                            .pasteboard = pasteboard,
-                            .watcher = watcher,
-                            .poster = poster,
-                            .tap = tap,
-                            .clock = clock}};
 };
 
 } // namespace vesk

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "capturedesktop.h"
+
 #include "capture/pasteback.h"
-#include "capture/pasteboardwatcher.h"
 #include "platform/memory/memoryapplication.h"
-#include "platform/memory/memoryclock.h"
-#include "platform/memory/memorykeyboard.h"
-#include "platform/memory/memorypasteboard.h"
-#include "platform/memory/memoryworkspace.h"
 
 #include <QCoroTask>
 
@@ -19,14 +16,9 @@ namespace {
 
 using Command = EventPoster::Command;
 
-struct World
+struct World : CaptureDesktop
 {
-    MemoryClock clock;
     MemoryApplication application;
-    MemoryWorkspace workspace;
-    MemoryPasteboard pasteboard;
-    PasteboardWatcher watcher{pasteboard, clock};
-    MemoryEventPoster poster;
     std::unique_ptr<PasteBack> pasteBack =
         std::make_unique<PasteBack>(PasteBack::Needs{.clock = clock,
                                                      .application = application,
@@ -39,12 +31,6 @@ struct World
     {
         watcher.start();
         bringForward(QCoreApplication::applicationPid());
-    }
-
-    void bringForward(qint64 processIdentifier)
-    {
-        workspace.setFrontmostApplication(RunningApplication{
-            .processIdentifier = processIdentifier, .localizedName = {}, .bundleIdentifier = {}});
     }
 };
 

@@ -24,6 +24,7 @@ struct World : CaptureDesktop
         });
     }
 
+    SelectionReader reader{readersNeeds()};
     bool isAnswered = false;
     std::optional<QString> answer;
 };
@@ -142,10 +143,7 @@ void TestSelectionReader::recentCopyIsTheLastResort()
     world.pasteboard.setString(u"copied"_s);
     world.clock.advance(std::chrono::seconds{age});
     if (copiesPicture) {
-        world.poster.setResponse([&world](EventPoster::Command) {
-            const PasteboardData picture{.type = u"image/png"_s, .data = "png"};
-            world.pasteboard.writeObjects({PasteboardItem{picture}});
-        });
+        world.poster.setResponse([&world](EventPoster::Command) { world.writePicture(); });
     }
     world.ask();
     world.clock.advance(500ms);

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "capture/pasteboardwatcher.h"
+#include "capturedesktop.h"
+
 #include "capture/syntheticcopy.h"
-#include "platform/memory/memoryclock.h"
-#include "platform/memory/memorykeyboard.h"
-#include "platform/memory/memorypasteboard.h"
-#include "platform/memory/memoryworkspace.h"
 
 #include <QTest>
 
@@ -19,15 +16,9 @@ namespace {
 using Command = EventPoster::Command;
 
 /// An application that is asked to copy, and a user who has something on the pasteboard.
-struct World
+struct World : CaptureDesktop
 {
-    MemoryClock clock;
-    MemoryWorkspace workspace;
-    MemoryPasteboard pasteboard;
-    MemoryEventPoster poster;
-    MemoryEventTap tap;
-    PasteboardWatcher watcher{pasteboard, clock};
-    std::unique_ptr<SyntheticCopy> copy =
+    std::unique_ptr<SyntheticCopy> synthetic =
         std::make_unique<SyntheticCopy>(SyntheticCopy::Needs{.clock = clock,
                                                              .workspace = workspace,
                                                              .pasteboard = pasteboard,
@@ -45,28 +36,22 @@ struct World
     {
         watcher.start();
         pasteboard.writeObjects(users);
-        bringForward(4711);
     }
 
     void ask()
     {
         isAnswered = false;
-        copy->copySelection().then([this](std::optional<QString> text) {
+        synthetic->copySelection().then([this](std::optional<QString> text) {
             isAnswered = true;
             answer = text;
         });
     }
 
-    void writePicture()
+    /// What the user has on the pasteboard then.
+    QList<PasteboardItem> copy(const QString &text)
     {
-        const PasteboardData picture{.type = u"image/png"_s, .data = "other"};
-        pasteboard.writeObjects({PasteboardItem{picture}});
-    }
-
-    void bringForward(qint64 processIdentifier)
-    {
-        workspace.setFrontmostApplication(RunningApplication{
-            .processIdentifier = processIdentifier, .localizedName = {}, .bundleIdentifier = {}});
+        pasteboard.setString(text);
+        return pasteboard.items();
     }
 };
 
@@ -217,8 +202,7 @@ void TestSyntheticCopy::userCopiesBeforeTheRestore()
     world.ask();
     // The saving takes 40 ms, then the application copies; reading begins 25 ms later.
     world.clock.advance(80ms);
-    world.pasteboard.setString(u"the user's"_s);
-    const QList<PasteboardItem> copied = world.pasteboard.items();
+    const QList<PasteboardItem> copied = world.copy(u"the user's"_s);
     world.clock.advance(1s);
     QCOMPARE(world.answer, u"word"_s);
     QCOMPARE(world.pasteboard.items(), copied);
@@ -242,8 +226,7 @@ void TestSyntheticCopy::copyDuringTheWaitForTheKeysIsTheUsers()
     world.poster.setDelay(world.clock, 600ms);
     world.ask();
     world.clock.advance(300ms);
-    world.pasteboard.setString(u"the user's"_s);
-    const QList<PasteboardItem> copied = world.pasteboard.items();
+    const QList<PasteboardItem> copied = world.copy(u"the user's"_s);
     world.clock.advance(5s);
     QVERIFY(world.isAnswered);
     QVERIFY(!world.answer);
@@ -256,8 +239,7 @@ void TestSyntheticCopy::copyFromElsewhereIsNotTheAnswer()
     World world;
     world.ask();
     world.pasteboard.setOrigin(by(1));
-    world.pasteboard.setString(u"the user's"_s);
-    const QList<PasteboardItem> copied = world.pasteboard.items();
+    const QList<PasteboardItem> copied = world.copy(u"the user's"_s);
     world.clock.advance(100ms);
     QVERIFY(!world.isAnswered);
     world.pasteboard.setOrigin(by(4711));
@@ -276,8 +258,7 @@ void TestSyntheticCopy::lateCopyBringsBackTheNewest()
     world.bringForward(1);
     world.tap.press();
     world.pasteboard.setOrigin(by(1, 0ms));
-    world.pasteboard.setString(u"the user's"_s);
-    const QList<PasteboardItem> copied = world.pasteboard.items();
+    const QList<PasteboardItem> copied = world.copy(u"the user's"_s);
     world.clock.advance(2min);
     world.pasteboard.setOrigin(by(4711, 121s));
     world.pasteboard.setString(u"late"_s);
@@ -336,8 +317,7 @@ void TestSyntheticCopy::lateCopy()
     world.ask();
     world.clock.advance(1s);
     event(world);
-    world.pasteboard.setString(u"word"_s);
-    const QList<PasteboardItem> copied = world.pasteboard.items();
+    const QList<PasteboardItem> copied = world.copy(u"word"_s);
     world.clock.advance(1s);
     QCOMPARE(world.pasteboard.items(), isUndone ? world.users : copied);
 }
@@ -384,7 +364,7 @@ void TestSyntheticCopy::endOfTheProgramWhileWaiting()
     world.clock.advance(1s);
     world.pasteboard.setString(u"late"_s);
     world.ask();
-    world.copy.reset();
+    world.synthetic.reset();
     world.clock.advance(1min);
     QCOMPARE(world.clock.sleeperCount(), 0);
 }

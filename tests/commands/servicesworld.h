@@ -72,6 +72,7 @@ struct ServicesWorld : CaptureDesktop
     MemorySounds sounds;
     MemoryWindows windows{screens};
     QQmlEngine engine;
+    SelectionReader reader{readersNeeds()};
     PanelModel panel{store, clock, defaults, application, accessibility};
     std::unique_ptr<PanelWindow> panelWindow;
     std::unique_ptr<Toast> toast;

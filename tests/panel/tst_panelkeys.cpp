@@ -261,21 +261,21 @@ void PanelKeysTest::composingKeepsItsKeys()
 void PanelKeysTest::typingBeginsASearch()
 {
     press(Qt::Key_Space);
-    QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::None);
+    QCOMPARE(model().keyboard()->activeField(), Field::None);
     type(u"Two"_s);
-    QCOMPARE(m_fixture->model.search(), u"Two"_s);
+    QCOMPARE(model().search(), u"Two"_s);
     press(Qt::Key_Escape);
     press(Qt::Key_Escape);
-    QCOMPARE(m_fixture->model.keyboard()->activeField(), Field::None);
+    QCOMPARE(model().keyboard()->activeField(), Field::None);
 
     // A letter beside the text of an open note must not close it.
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
-    QVERIFY(!m_fixture->model.keyboard()->isEditing());
+    QVERIFY(!model().keyboard()->isEditing());
     type(u"x"_s);
-    QVERIFY(m_fixture->model.openNote()->id());
-    QCOMPARE(m_fixture->model.search(), QString());
+    QVERIFY(model().openNote()->id());
+    QCOMPARE(model().search(), QString());
 }
 
 QTEST_MAIN(PanelKeysTest)
