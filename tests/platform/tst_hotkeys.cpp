@@ -107,6 +107,9 @@ private Q_SLOTS:
     void heldKeyFiresOnce();
     void locksDoNotMatter();
     void keysFollowTheModifiers();
+    void lettersAreWhereTheLayoutHasThem_data();
+    void lettersAreWhereTheLayoutHasThem();
+    void othersWithKeysAreNamed();
 
 private:
     static void benches();
@@ -277,6 +280,53 @@ void TestHotKeys::keysFollowTheModifiers()
     setMapping(QList(keys, keys + qsizetype{width} * 8));
     bench.press(kN);
     QCOMPARE(fired(spy, 4).constLast(), 1U);
+}
+
+void TestHotKeys::lettersAreWhereTheLayoutHasThem_data()
+{
+    QTest::addColumn<QString>("layout");
+    QTest::addColumn<QChar>("character");
+    QTest::addColumn<std::optional<KeyPosition>>("key");
+    QTest::addColumn<QChar>("onQ");
+    constexpr KeyPosition kQ{16};
+    const auto row = [](const char *name, const QString &layout, QChar character,
+                        std::optional<KeyPosition> key,
+                        QChar onQ) { QTest::newRow(name) << layout << character << key << onQ; };
+    row("American", u"us"_s, u'n', KeyPosition::N, u'Q');
+    row("American, sign", u"us"_s, u'#', KeyPosition(4), u'Q');
+    row("French", u"fr"_s, u'A', kQ, u'A');
+    row("French digit", u"fr"_s, u'1', KeyPosition(2), u'A');
+    row("Czech", u"cz"_s, u'č', KeyPosition(5), u'Q');
+    row("Russian", u"ru"_s, u'й', kQ, u'Й');
+    row("Russian, Latin letter", u"ru"_s, u'n', std::nullopt, u'Й');
+    row("Russian before American", u"ru,us"_s, u'n', KeyPosition::N, u'Q');
+}
+
+void TestHotKeys::lettersAreWhereTheLayoutHasThem()
+{
+    QFETCH(const QString, layout);
+    QFETCH(const QChar, character);
+    QFETCH(const std::optional<KeyPosition>, key);
+    X11Bench bench(m_desktop->keyboard(), false);
+    QSignalSpy changed(&bench.hotKeys(), &HotKeys::layoutChanged);
+    static_cast<void>(bench.hotKeys().findKey(character));
+    // The one that is set already is no change.
+    for (const QString &next : {u"se"_s, layout}) {
+        changed.clear();
+        const auto setter = m_desktop->run(u"setxkbmap"_s, {next});
+        QVERIFY(setter && setter->waitForExit(kBound));
+        QTRY_VERIFY(!changed.isEmpty());
+    }
+    QTRY_VERIFY2(bench.hotKeys().findKey(character) == key, qPrintable(layout));
+    QTEST(bench.hotKeys().characterOn(KeyPosition(16)), "onQ");
+}
+
+/// The test's own programs are left out; the window manager has keys of its own.
+void TestHotKeys::othersWithKeysAreNamed()
+{
+    X11Bench bench(m_desktop->keyboard(), false);
+    bench.take(kT);
+    QCOMPARE(bench.hotKeys().otherHolders(), QStringList{u"Openbox"_s});
 }
 
 int main(int argc, char **argv)

@@ -23,6 +23,21 @@ bool MemoryHotKeys::press(KeyCombination combination)
     return false;
 }
 
+std::optional<KeyPosition> MemoryHotKeys::findKey(QChar character) const
+{
+    for (auto [key, printed] : m_layout.asKeyValueRange()) {
+        if (printed == character.toUpper())
+            return key;
+    }
+    return std::nullopt;
+}
+
+void MemoryHotKeys::setLayout(const QHash<KeyPosition, QChar> &layout)
+{
+    m_layout = layout;
+    Q_EMIT layoutChanged();
+}
+
 bool MemoryEventTap::start()
 {
     m_isStarted = m_isStarted || m_isAllowed;

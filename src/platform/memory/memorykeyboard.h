@@ -21,16 +21,25 @@ class MemoryHotKeys final : public HotKeys
 public:
     bool registerHotKey(quint32 id, KeyCombination combination) override;
     void unregisterHotKey(quint32 id) override { m_registered.remove(id); }
+    [[nodiscard]] std::optional<KeyPosition> findKey(QChar character) const override;
+    [[nodiscard]] QChar characterOn(KeyPosition key) const override { return m_layout.value(key); }
+    [[nodiscard]] QStringList otherHolders() const override { return m_holders; }
 
     /// Presses a combination; true if someone has it.
     bool press(KeyCombination combination);
     /// Plays another application that has the combination already.
     void setTaken(KeyCombination combination) { m_taken.append(combination); }
+    void setFree(KeyCombination combination) { m_taken.removeAll(combination); }
+    void setHolders(const QStringList &holders) { m_holders = holders; }
+    /// Gives the keyboard another layout; keys that are not named have none of these characters.
+    void setLayout(const QHash<KeyPosition, QChar> &layout);
     [[nodiscard]] qsizetype registrationCount() const { return m_registered.size(); }
 
 private:
     QHash<quint32, KeyCombination> m_registered;
     QList<KeyCombination> m_taken;
+    QStringList m_holders;
+    QHash<KeyPosition, QChar> m_layout;
 };
 
 /// A keyboard that a test listens through.

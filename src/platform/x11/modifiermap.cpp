@@ -89,6 +89,7 @@ void ModifierMap::update()
     read();
     if (m_masks != oldMasks || m_bits != oldBits)
         Q_EMIT changed();
+    Q_EMIT keyboardChanged();
 }
 
 void ModifierMap::read()

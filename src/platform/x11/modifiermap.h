@@ -33,6 +33,8 @@ public:
 Q_SIGNALS:
     /// A modifier has moved to another key or bit.
     void changed();
+    /// The keyboard has another layout, in which modifiers may have moved too; sent after `changed`.
+    void keyboardChanged();
 
 private:
     struct Bits

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/x11hotkeys.h"
 
+#include "platform/x11/grabholders.h"
 #include "platform/x11/rawinput.h"
 #include "platform/x11/x11connection.h"
 
@@ -14,19 +15,10 @@ namespace {
 /// key, as going up and down at one and the same time. No finger is that fast.
 constexpr int kRepetitionMilliseconds = 2;
 
-/// Key codes of the positions: the kernel's codes of the letters that an ANSI keyboard has there,
-/// plus the 8 that X reserves.
+/// X reserves the first 8 key codes.
 xcb_keycode_t keyCodeOf(KeyPosition key)
 {
-    switch (key) {
-    case KeyPosition::T:
-        return 28;
-    case KeyPosition::C:
-        return 54;
-    case KeyPosition::N:
-        break;
-    }
-    return 57;
+    return static_cast<xcb_keycode_t>(static_cast<unsigned>(key) + 8);
 }
 
 /// Every choice of some of these bits, none and all of them included.
@@ -47,11 +39,17 @@ QList<uint8_t> subsetsOf(uint8_t bits)
 X11HotKeys::X11HotKeys(X11Connection &connection, RawInput &input)
     : m_connection(connection)
     , m_input(input)
+    , m_letters(connection)
     , m_lockBits(input.modifiers().lockBits())
 {
     connect(&connection, &X11Connection::eventReceived, this, &X11HotKeys::onEvent);
     connect(&input, &RawInput::keyReleased, this, &X11HotKeys::onKeyReleased);
     connect(&input.modifiers(), &ModifierMap::changed, this, &X11HotKeys::renewGrabs);
+    // After the grabs: they are made by what the modifiers are now.
+    connect(&input.modifiers(), &ModifierMap::keyboardChanged, this, [this] {
+        m_letters.forget();
+        Q_EMIT layoutChanged();
+    });
     // That a key goes up may not be heard any more.
     connect(&input, &RawInput::listeningChanged, this, [this] {
         endGuard();
@@ -61,8 +59,11 @@ X11HotKeys::X11HotKeys(X11Connection &connection, RawInput &input)
 
 bool X11HotKeys::registerHotKey(quint32 id, KeyCombination combination)
 {
+    const Grab wanted = grabFor(combination);
+    if (m_registrations.value(id).grab == wanted)
+        return true;
     unregisterHotKey(id);
-    const std::optional<Grab> grab = tryGrab(grabFor(combination));
+    const std::optional<Grab> grab = tryGrab(wanted);
     if (!grab)
         return false;
     m_registrations.insert(id, {.combination = combination, .grab = grab});
@@ -74,6 +75,21 @@ void X11HotKeys::unregisterHotKey(quint32 id)
     const std::optional<Grab> grab = m_registrations.take(id).grab;
     if (grab)
         ungrab(*grab);
+}
+
+std::optional<KeyPosition> X11HotKeys::findKey(QChar character) const
+{
+    return m_letters.findKey(character);
+}
+
+QChar X11HotKeys::characterOn(KeyPosition key) const
+{
+    return m_letters.characterOn(key);
+}
+
+QStringList X11HotKeys::otherHolders() const
+{
+    return grabHolders(m_connection);
 }
 
 X11HotKeys::Grab X11HotKeys::grabFor(KeyCombination combination) const

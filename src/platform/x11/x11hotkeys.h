@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/hotkeys.h"
+#include "platform/x11/keyletters.h"
 
 #include <QHash>
 #include <QList>
@@ -26,6 +27,9 @@ public:
 
     bool registerHotKey(quint32 id, KeyCombination combination) override;
     void unregisterHotKey(quint32 id) override;
+    [[nodiscard]] std::optional<KeyPosition> findKey(QChar character) const override;
+    [[nodiscard]] QChar characterOn(KeyPosition key) const override;
+    [[nodiscard]] QStringList otherHolders() const override;
 
 private:
     struct Grab
@@ -60,6 +64,7 @@ private:
 
     X11Connection &m_connection;
     RawInput &m_input;
+    KeyLetters m_letters;
     QHash<quint32, Registration> m_registrations;
     /// The locks' bits with which all grabs were made.
     uint8_t m_lockBits;
