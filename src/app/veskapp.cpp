@@ -27,7 +27,8 @@ QQmlEngine &lent(QQmlEngine &engine, Desktop &desktop)
 } // namespace
 
 VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &service)
-    : m_watcher(desktop.pasteboard, desktop.clock)
+    : m_keys(desktop.hotKeys, KeysFile::standardPath())
+    , m_watcher(desktop.pasteboard, desktop.clock)
     , m_reader({.accessibility = desktop.accessibility,
                 .workspace = desktop.workspace,
                 .pasteboard = desktop.pasteboard,
@@ -55,7 +56,7 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
     , m_accessWindow(m_engine, desktop.consent)
     , m_updater(m_engine, desktop.updates, desktop.workspace)
     , m_services({.clock = desktop.clock,
-                  .hotKeys = desktop.hotKeys,
+                  .keys = m_keys,
                   .tap = desktop.tap,
                   .accessibility = desktop.accessibility,
                   .workspace = desktop.workspace,

@@ -8,6 +8,7 @@
 #include "capture/pasteboardwatcher.h"
 #include "capture/selectionreader.h"
 #include "commands/veskservices.h"
+#include "input/globalkeys.h"
 #include "panel/panelmodel.h"
 #include "panel/panelwindow.h"
 #include "platform/freedesktop/statusicon.h"
@@ -49,6 +50,8 @@ private:
     /// Reads the pasteboard for the panel's field.
     QCoro::Task<> pasteIntoField(Pasteboard &pasteboard);
 
+    // Shown by the views of the engine, so it ends after that one.
+    GlobalKeys m_keys;
     QQmlEngine m_engine;
     PasteboardWatcher m_watcher;
     SelectionReader m_reader;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "commands/veskservices.h"
 
+#include "input/globalkeys.h"
 #include "notes/notesstore.h"
 #include "notes/promptrules.h"
 #include "panel/panelmodel.h"
@@ -52,26 +53,18 @@ Note *findLastChecklist(NotesStore &store)
 
 VeskServices::VeskServices(const Needs &needs)
     : m_needs(needs)
-    , m_quickNote(hotkeytable::kQuickNote.id, needs.hotKeys)
-    , m_append(hotkeytable::kAppend.id, needs.hotKeys)
-    , m_open(hotkeytable::kOpen.id, needs.hotKeys)
-    , m_write(hotkeytable::kWrite.id, needs.hotKeys)
-    , m_checklist(hotkeytable::kChecklist.id, needs.hotKeys)
-    , m_addToChecklist(hotkeytable::kAddToChecklist.id, needs.hotKeys)
     , m_doubleShift(needs.tap)
 {
 }
 
 void VeskServices::start()
 {
-    connectKeys();
+    connect(&m_needs.keys, &GlobalKeys::pressed, this, &VeskServices::perform);
+    connect(&m_needs.keys, &GlobalKeys::changed, this, &VeskServices::followTrust);
+    connect(&m_doubleShift, &DoubleShiftMonitor::doubleShift, this, &VeskServices::savePrompt);
     // A combination that another program has leaves its command to the others' ways: the panel can be
     // opened by starting Vesk again.
-    m_quickNote.registerKey(hotkeytable::kQuickNote.combination);
-    m_append.registerKey(hotkeytable::kAppend.combination);
-    m_open.registerKey(hotkeytable::kOpen.combination);
-    m_write.registerKey(hotkeytable::kWrite.combination);
-    m_addToChecklist.registerKey(hotkeytable::kAddToChecklist.combination);
+    m_needs.keys.start();
 
     const std::optional<RunningApplication> frontmost = m_needs.workspace.frontmostApplication();
     updateChecklistKey(frontmost ? frontmost->bundleIdentifier : std::nullopt);
@@ -83,23 +76,43 @@ void VeskServices::start()
     followTrust();
 }
 
-void VeskServices::connectKeys()
+void VeskServices::perform(quint32 id)
 {
-    connect(&m_quickNote, &GlobalHotKey::pressed, this, [this] { capture(Target::NewNote); });
-    connect(&m_append, &GlobalHotKey::pressed, this, [this] { capture(Target::LastNote); });
-    connect(&m_checklist, &GlobalHotKey::pressed, this, [this] { capture(Target::NewChecklist); });
-    connect(&m_addToChecklist, &GlobalHotKey::pressed, this, &VeskServices::addSelectionToChecklist);
-    connect(&m_open, &GlobalHotKey::pressed, this, [this] { m_needs.panelWindow.togglePanel(); });
-    connect(&m_write, &GlobalHotKey::pressed, this, &VeskServices::openComposer);
-    connect(&m_doubleShift, &DoubleShiftMonitor::doubleShift, this, &VeskServices::savePrompt);
+    switch (id) {
+    case hotkeytable::kQuickNote.id:
+        capture(Target::NewNote);
+        break;
+    case hotkeytable::kAppend.id:
+        capture(Target::LastNote);
+        break;
+    case hotkeytable::kOpen.id:
+        m_needs.panelWindow.togglePanel();
+        break;
+    case hotkeytable::kWrite.id:
+        openComposer();
+        break;
+    case hotkeytable::kChecklist.id:
+        capture(Target::NewChecklist);
+        break;
+    case hotkeytable::kAddToChecklist.id:
+        addSelectionToChecklist();
+        break;
+    case hotkeytable::kSavePrompt.id:
+        savePrompt();
+        break;
+    default:
+        break;
+    }
 }
 
 void VeskServices::followTrust()
 {
-    if (m_needs.accessibility.isProcessTrusted())
+    const bool isTrusted = m_needs.accessibility.isProcessTrusted();
+    if (isTrusted && m_needs.keys.isDoubleShiftWanted())
         m_doubleShift.start();
     else
         m_doubleShift.stop();
+    m_needs.keys.setShiftHeard(isTrusted);
 }
 
 void VeskServices::updateChecklistKey(const std::optional<QString> &frontmostBundleID)
@@ -107,10 +120,7 @@ void VeskServices::updateChecklistKey(const std::optional<QString> &frontmostBun
     const bool isOwners = frontmostBundleID
                           && std::ranges::find(m_needs.checklistKeyOwners, *frontmostBundleID)
                                  != m_needs.checklistKeyOwners.end();
-    if (isOwners)
-        m_checklist.unregisterKey();
-    else if (!m_checklist.isRegistered())
-        m_checklist.registerKey(hotkeytable::kChecklist.combination);
+    m_needs.keys.setLeftToApplications(hotkeytable::kChecklist.id, isOwners);
 }
 
 bool VeskServices::isWithinGap(Instant &last) const

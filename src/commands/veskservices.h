@@ -3,7 +3,6 @@
 
 #include "capture/selectionreader.h"
 #include "input/doubleshiftmonitor.h"
-#include "input/globalhotkey.h"
 #include "input/hotkeytable.h"
 #include "notes/capturesource.h"
 #include "platform/clock.h"
@@ -20,6 +19,7 @@
 namespace vesk {
 
 class Accessibility;
+class GlobalKeys;
 class NotesStore;
 class PanelModel;
 class PanelWindow;
@@ -37,7 +37,7 @@ public:
     struct Needs
     {
         Clock &clock;
-        HotKeys &hotKeys;
+        GlobalKeys &keys;
         EventTap &tap;
         Accessibility &accessibility;
         Workspace &workspace;
@@ -95,7 +95,8 @@ private:
         std::optional<CaptureSource> source;
     };
 
-    void connectKeys();
+    void perform(quint32 id);
+    /// Listens for the double Shift as far as the user lets it and wants it.
     void followTrust();
     /// Whether a command follows the last one too soon; if not, it is the last one from now on.
     [[nodiscard]] bool isWithinGap(Instant &last) const;
@@ -120,12 +121,6 @@ private:
     void openComposer();
 
     Needs m_needs;
-    GlobalHotKey m_quickNote;
-    GlobalHotKey m_append;
-    GlobalHotKey m_open;
-    GlobalHotKey m_write;
-    GlobalHotKey m_checklist;
-    GlobalHotKey m_addToChecklist;
     DoubleShiftMonitor m_doubleShift;
     /// When the last capture, and the last double Shift, were accepted; none before the first.
     Instant m_lastCapture;

@@ -27,7 +27,7 @@ ServicesWorld::ServicesWorld(std::span<const QStringView> owners)
     panelWindow = std::make_unique<PanelWindow>(engine, panel, application, screens, windows);
     toast = std::make_unique<Toast>(engine, screens, windows, clock);
     services = std::make_unique<VeskServices>(VeskServices::Needs{.clock = clock,
-                                                                  .hotKeys = hotKeys,
+                                                                  .keys = keys,
                                                                   .tap = tap,
                                                                   .accessibility = accessibility,
                                                                   .workspace = workspace,

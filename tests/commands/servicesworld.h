@@ -3,7 +3,7 @@
 
 #include "../capture/capturedesktop.h"
 #include "commands/veskservices.h"
-#include "input/hotkeytable.h"
+#include "input/globalkeys.h"
 #include "notes/notesstore.h"
 #include "panel/panelmodel.h"
 #include "panel/panelwindow.h"
@@ -68,6 +68,7 @@ struct ServicesWorld : CaptureDesktop
     MemoryApplication application;
     MemoryDefaults defaults;
     MemoryHotKeys hotKeys;
+    GlobalKeys keys{hotKeys, folder.filePath(QStringLiteral("Keys.conf"))};
     MemoryScreens screens;
     MemorySounds sounds;
     MemoryWindows windows{screens};

@@ -3,6 +3,7 @@
 #include "guide/guide.h"
 #include "guide/guidetopics.h"
 #include "input/hotkeytable.h"
+#include "input/keynames.h"
 
 #include <QAbstractItemModelTester>
 #include <QAccessible>
@@ -17,32 +18,6 @@ using namespace Qt::StringLiterals;
 using namespace vesk;
 
 namespace {
-
-/// A combination in the notation of the guide, with the modifiers in any order.
-QSet<QString> glyphs(const KeyCombination &combination)
-{
-    QSet<QString> made;
-    const QList<std::pair<Qt::KeyboardModifier, QString>> modifiers{{Qt::MetaModifier, u"\u2318"_s},
-                                                                    {Qt::AltModifier, u"\u2325"_s},
-                                                                    {Qt::ControlModifier, u"\u2303"_s},
-                                                                    {Qt::ShiftModifier, u"\u21E7"_s}};
-    for (const auto &[modifier, glyph] : modifiers) {
-        if (combination.modifiers.testFlag(modifier))
-            made.insert(glyph);
-    }
-    switch (combination.key) {
-    case KeyPosition::C:
-        made.insert(u"C"_s);
-        break;
-    case KeyPosition::N:
-        made.insert(u"N"_s);
-        break;
-    case KeyPosition::T:
-        made.insert(u"T"_s);
-        break;
-    }
-    return made;
-}
 
 /// The guide in a window of its own, over the platform in memory.
 struct Stage : MemoryDesktop
@@ -142,7 +117,7 @@ void GuideTest::showsTheKeysThatAreRegistered()
         if (!registered.contains(title))
             continue;
         const QStringList keys = index.data(GuideTopics::KeysRole).toStringList();
-        QCOMPARE(QSet<QString>(keys.begin(), keys.end()), glyphs(registered.value(title)));
+        QCOMPARE(keys, keynames::glyphs(registered.value(title), nullptr));
         QCOMPARE(index.data(GuideTopics::PlaceRole).toInt(), int(KeyLabels::Global));
         ++checked;
     }

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "input/globalkeys.h"
+
+#include "input/keysettings.h"
+
+#include <algorithm>
+
+namespace vesk {
+
+GlobalKeys::GlobalKeys(HotKeys &hotKeys, const QString &path)
+    : m_hotKeys(hotKeys)
+    , m_file(path)
+    , m_isLeft(hotkeytable::kAll.size())
+{
+    for (const HotKeyRow &row : hotkeytable::kAll) {
+        m_keys.push_back({.row = row, .combination = row.combination});
+        m_claims.push_back(std::make_unique<GlobalHotKey>(row.id, hotKeys));
+        connect(m_claims.back().get(), &GlobalHotKey::pressed, this,
+                [this, id = row.id] { Q_EMIT pressed(id); });
+    }
+}
+
+void GlobalKeys::start()
+{
+    if (m_isStarted)
+        return;
+    m_isStarted = true;
+    connect(&m_file, &KeysFile::changed, this, &GlobalKeys::followChange);
+    connect(&m_hotKeys, &HotKeys::layoutChanged, this, &GlobalKeys::followChange);
+    followChange();
+}
+
+void GlobalKeys::retry()
+{
+    if (m_isStarted && apply())
+        Q_EMIT changed();
+}
+
+void GlobalKeys::setLeftToApplications(quint32 id, bool isLeft)
+{
+    if (m_isLeft.at(id - 1) == isLeft)
+        return;
+    m_isLeft.at(id - 1) = isLeft;
+    retry();
+}
+
+void GlobalKeys::setShiftHeard(bool isHeard)
+{
+    if (m_isShiftHeard == isHeard)
+        return;
+    m_isShiftHeard = isHeard;
+    retry();
+}
+
+bool GlobalKeys::isDoubleShiftWanted() const
+{
+    return key(hotkeytable::kSavePrompt).combination == hotkeytable::kSavePrompt.combination;
+}
+
+void GlobalKeys::followChange()
+{
+    apply();
+    // What is printed on the keys may have changed even where nothing else has.
+    Q_EMIT changed();
+}
+
+bool GlobalKeys::apply()
+{
+    const std::vector<Key> oldKeys = m_keys;
+    const QStringList oldHolders = m_holders;
+    KeySettings settings = readKeySettings(m_file.text(), &m_hotKeys);
+    // What goes is given up before anything is claimed: two combinations may have changed places.
+    for (size_t i = 0; i < m_keys.size(); ++i) {
+        if (m_keys.at(i).combination != settings.combinations.at(i) || m_isLeft.at(i))
+            m_claims.at(i)->unregisterKey();
+        m_keys.at(i).combination = settings.combinations.at(i);
+    }
+    for (size_t i = 0; i < m_keys.size(); ++i)
+        m_keys.at(i).state = claim(i);
+    const bool isAnyTaken = std::ranges::find(m_keys, State::Taken, &Key::state) != m_keys.end();
+    m_holders = isAnyTaken ? m_hotKeys.otherHolders() : QStringList();
+    if (m_problems != settings.problems) {
+        m_problems = std::move(settings.problems);
+        Q_EMIT problemsChanged();
+    }
+    return m_keys != oldKeys || m_holders != oldHolders;
+}
+
+GlobalKeys::State GlobalKeys::claim(size_t place)
+{
+    const std::optional<KeyCombination> combination = m_keys.at(place).combination;
+    if (!combination)
+        return State::Off;
+    if (combination == hotkeytable::kSavePrompt.combination)
+        return m_isShiftHeard ? State::Works : State::NoAccess;
+    if (m_isLeft.at(place))
+        return State::Works;
+    return m_claims.at(place)->registerKey(*combination) ? State::Works : State::Taken;
+}
+
+} // namespace vesk

@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include "input/keysettings.h"
+
+#include "input/keynames.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace vesk {
+
+namespace {
+
+using Choice = std::optional<KeyCombination>;
+
+const KeyCombination kDoubleShift = hotkeytable::kSavePrompt.combination;
+
+struct ModifierName
+{
+    QStringView name;
+    Qt::KeyboardModifier modifier;
+};
+
+constexpr std::array kModifierNames{
+    ModifierName{.name = u"Super", .modifier = Qt::MetaModifier},
+    ModifierName{.name = u"Win", .modifier = Qt::MetaModifier},
+    ModifierName{.name = u"Meta", .modifier = Qt::MetaModifier},
+    ModifierName{.name = u"Alt", .modifier = Qt::AltModifier},
+    ModifierName{.name = u"Ctrl", .modifier = Qt::ControlModifier},
+    ModifierName{.name = u"Control", .modifier = Qt::ControlModifier},
+    ModifierName{.name = u"Shift", .modifier = Qt::ShiftModifier},
+};
+
+std::optional<Qt::KeyboardModifier> findModifier(QStringView name)
+{
+    const auto *const found = std::ranges::find_if(kModifierNames, [name](const ModifierName &each) {
+        return each.name.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return found == kModifierNames.end() ? std::nullopt : std::optional(found->modifier);
+}
+
+/// A combination, or, in one sentence, why it is none.
+struct ParsedCombination
+{
+    Choice combination;
+    QString problem;
+};
+
+QStringList wordsOf(const QString &text)
+{
+    static const QRegularExpression separators(u"[+\\s]+"_s);
+    QStringList words = text.split(separators, Qt::SkipEmptyParts);
+    // The key that has the separator on it.
+    if (text.endsWith("++"_L1) || text.endsWith("+ +"_L1))
+        words.append(u"+"_s);
+    return words;
+}
+
+ParsedCombination parseCombination(const QString &text, const HotKeys *keyboard)
+{
+    const auto wrong = [](const QString &problem) {
+        return ParsedCombination{.combination = std::nullopt, .problem = problem};
+    };
+    QStringList words = wordsOf(text);
+    if (words.isEmpty())
+        return wrong(u"There is no key in it."_s);
+    const QString name = words.takeLast();
+    KeyCombination combination{};
+    for (const QString &word : std::as_const(words)) {
+        const std::optional<Qt::KeyboardModifier> modifier = findModifier(word);
+        if (!modifier)
+            return wrong(u"“%1” is no modifier; there are Super, Alt, Ctrl and Shift."_s.arg(word));
+        combination.modifiers |= *modifier;
+    }
+    const std::optional<KeyPosition> key = keynames::findKey(name, keyboard);
+    if (!key)
+        return wrong(findModifier(name) ? u"After the modifiers a key is missing."_s
+                                        : u"There is no key “%1”."_s.arg(name));
+    combination.key = *key;
+    if (combination.key == KeyPosition::LeftShift)
+        return combination == kDoubleShift ? ParsedCombination{.combination = combination, .problem = {}}
+                                           : wrong(u"After the modifiers a key is missing."_s);
+    if (!(combination.modifiers & (Qt::MetaModifier | Qt::AltModifier | Qt::ControlModifier)))
+        return wrong(u"It needs Super, Alt or Ctrl, or every application would lose this key."_s);
+    return {.combination = combination, .problem = {}};
+}
+
+/// Puts a file's lines together to settings, one line after the other.
+class Reader
+{
+public:
+    explicit Reader(const HotKeys *keyboard)
+        : m_keyboard(keyboard)
+    {
+        for (size_t i = 0; i < m_lines.size(); ++i)
+            m_settings.combinations.at(i) = hotkeytable::kAll.at(i).combination;
+    }
+
+    void readLine(const QString &line, int number)
+    {
+        const QString text = line.trimmed();
+        if (text.isEmpty() || text.startsWith(u'#') || text.startsWith(u';'))
+            return;
+        const qsizetype equals = text.indexOf(u'=');
+        if (equals < 0) {
+            say(number, u"“%1” is no command with “=” and a combination behind it."_s.arg(text.left(40)));
+            return;
+        }
+        const QString command = text.left(equals).simplified();
+        const auto *const row = std::ranges::find_if(
+            hotkeytable::kAll, [&command](const HotKeyRow &each) { return each.command == command; });
+        if (row == hotkeytable::kAll.end()) {
+            say(number, u"No key has a command “%1”."_s.arg(command.left(40)));
+            return;
+        }
+        set(*row, text.mid(equals + 1).trimmed(), number);
+    }
+
+    KeySettings result()
+    {
+        while (undoOneClash()) {
+        }
+        return m_settings;
+    }
+
+private:
+    [[nodiscard]] Choice &choice(const HotKeyRow &row) { return m_settings.combinations.at(row.id - 1); }
+    [[nodiscard]] int &line(const HotKeyRow &row) { return m_lines.at(row.id - 1); }
+
+    void say(int number, const QString &problem)
+    {
+        m_settings.problems.append(u"Keys.conf, line %1: %2"_s.arg(number).arg(problem));
+    }
+
+    void keepDefault(const HotKeyRow &row, int number, const QString &problem)
+    {
+        choice(row) = row.combination;
+        say(number, u"%1 “%2” stays at %3."_s.arg(problem, row.command.toString(),
+                                                  keynames::written(row.combination, m_keyboard)));
+    }
+
+    void set(const HotKeyRow &row, const QString &value, int number)
+    {
+        if (line(row) != 0) {
+            say(number, u"“%1” was in line %2 already, which holds."_s.arg(row.command).arg(line(row)));
+            return;
+        }
+        line(row) = number;
+        if (value.isEmpty() || value.compare("none"_L1, Qt::CaseInsensitive) == 0) {
+            choice(row).reset();
+            return;
+        }
+        const ParsedCombination parsed = parseCombination(value, m_keyboard);
+        if (!parsed.combination)
+            keepDefault(row, number, parsed.problem);
+        else if (parsed.combination == kDoubleShift && row.id != hotkeytable::kSavePrompt.id)
+            keepDefault(row, number, u"Only save-prompt can be Shift tapped twice."_s);
+        else
+            choice(row) = parsed.combination;
+    }
+
+    /// Of two commands with one combination, a line of the user's loses, the later of two. False if there
+    /// are none. Ends, as the combinations by default are all different.
+    [[nodiscard]] bool undoOneClash()
+    {
+        for (const HotKeyRow &first : hotkeytable::kAll) {
+            for (const HotKeyRow &second : hotkeytable::kAll) {
+                if (first.id >= second.id || !choice(first) || choice(first) != choice(second))
+                    continue;
+                const bool isFirstByDefault = choice(first) == first.combination;
+                const bool isFirstLater = line(first) > line(second) && choice(second) != second.combination;
+                const bool losesFirst =
+                    !isFirstByDefault && (choice(second) == second.combination || isFirstLater);
+                const HotKeyRow &loser = losesFirst ? first : second;
+                const HotKeyRow &winner = losesFirst ? second : first;
+                const QString taken = keynames::written(*choice(winner), m_keyboard);
+                keepDefault(loser, line(loser),
+                            u"%1 is the combination of “%2”."_s.arg(taken, winner.command.toString()));
+                return true;
+            }
+        }
+        return false;
+    }
+
+    const HotKeys *m_keyboard;
+    KeySettings m_settings;
+    /// The line that sets each command; 0 for none.
+    std::array<int, hotkeytable::kAll.size()> m_lines{};
+};
+
+} // namespace
+
+KeySettings readKeySettings(const QString &text, const HotKeys *keyboard)
+{
+    Reader reader(keyboard);
+    int number = 0;
+    const QStringList lines = text.split(u'\n');
+    for (const QString &line : lines)
+        reader.readLine(line, ++number);
+    return reader.result();
+}
+
+} // namespace vesk

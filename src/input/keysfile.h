@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFileSystemWatcher>
+#include <QObject>
+#include <QTimer>
+
+namespace vesk {
+
+/// The file in which the user may choose other combinations. Vesk only reads it.
+class KeysFile final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `$XDG_CONFIG_HOME/Vesk/Keys.conf`.
+    [[nodiscard]] static QString standardPath();
+    /// What stands in the file at `path`; empty if there is none.
+    [[nodiscard]] static QString read(const QString &path);
+
+    /// Watches the file from now on, also while it does not exist.
+    explicit KeysFile(QString path);
+
+    [[nodiscard]] const QString &path() const { return m_path; }
+    [[nodiscard]] const QString &text() const { return m_text; }
+
+Q_SIGNALS:
+    /// The text is another one. Told once a change is over, and not before: editors write a file in parts,
+    /// or remove it and put another in its place.
+    void changed();
+
+private:
+    void watch();
+    void reload();
+
+    QString m_path;
+    QString m_text;
+    QFileSystemWatcher m_watcher;
+    QTimer m_settling;
+};
+
+} // namespace vesk

@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: MIT
+#include "input/globalkeys.h"
+#include "input/keynames.h"
+#include "input/keysettings.h"
+#include "platform/memory/memorykeyboard.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+using namespace vesk::hotkeytable;
+
+namespace {
+
+using State = GlobalKeys::State;
+
+constexpr Qt::KeyboardModifiers kSuperAlt = Qt::MetaModifier | Qt::AltModifier;
+constexpr KeyPosition kQ{16};
+constexpr KeyPosition kF5{63};
+constexpr KeyCombination kSuperAltQ{.key = kQ, .modifiers = kSuperAlt};
+
+/// The letters that a French keyboard has elsewhere, as far as they matter here.
+const QHash<KeyPosition, QChar> kFrench{{kQ, u'A'}, {KeyPosition(30), u'Q'}, {KeyPosition::N, u'N'}};
+const QHash<KeyPosition, QChar> kRussian{{kQ, u'Й'}, {KeyPosition::N, u'Т'}};
+
+/// Each command's combination as it would be written, separated by commas where it is not the default.
+QString choices(const KeySettings &settings, const HotKeys *keyboard)
+{
+    QStringList words;
+    for (const HotKeyRow &row : kAll) {
+        const auto &combination = settings.combinations.at(row.id - 1);
+        if (combination != row.combination)
+            words.append(row.command.toString() + u": "_s
+                         + (combination ? keynames::written(*combination, keyboard) : u"off"_s));
+    }
+    return words.join(u", "_s);
+}
+
+/// The program's keys over a keyboard and a file in a folder.
+struct World
+{
+    QTemporaryDir folder;
+    QString path = folder.filePath(u"Vesk/Keys.conf"_s);
+    MemoryHotKeys keyboard;
+    std::unique_ptr<GlobalKeys> keys;
+    QList<quint32> pressed;
+
+    explicit World(const QString &text = {})
+    {
+        if (!text.isEmpty())
+            write(text);
+        keys = std::make_unique<GlobalKeys>(keyboard, path);
+        QObject::connect(keys.get(), &GlobalKeys::pressed, keys.get(),
+                         [this](quint32 id) { pressed.append(id); });
+        keys->start();
+    }
+
+    void write(const QString &text) const
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(text.toUtf8());
+    }
+    /// As many editors save.
+    void replace(const QString &text) const
+    {
+        const QString draft = path + u'~';
+        QFile file(draft);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(text.toUtf8());
+        file.close();
+        QVERIFY(std::rename(qPrintable(draft), qPrintable(path)) == 0);
+    }
+    [[nodiscard]] QString written(const HotKeyRow &row) const
+    {
+        const auto combination = keys->key(row).combination;
+        return combination ? keynames::written(*combination, &keyboard) : u"off"_s;
+    }
+    /// Presses a combination; what it did.
+    QList<quint32> press(KeyCombination combination)
+    {
+        pressed.clear();
+        keyboard.press(combination);
+        return pressed;
+    }
+};
+
+} // namespace
+
+/// The combinations that the user has chosen, or would have liked to.
+class TestUsersKeys : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    static void fileIsRead_data();
+    static void fileIsRead();
+    static void layoutDecides_data();
+    static void layoutDecides();
+    static void takenKeyIsTakenBackWhenFree();
+    static void fileIsFollowed();
+    static void changedPlacesWork();
+    static void doubleShiftCanBeAnything();
+    static void lettersFollowTheLayout();
+};
+
+void TestUsersKeys::fileIsRead_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("choices");
+    // A part of each problem, in their order, separated by "|".
+    QTest::addColumn<QString>("problems");
+    const auto row = [](const char *name, const QString &text, const QString &choices,
+                        const QString &problems = {}) { QTest::newRow(name) << text << choices << problems; };
+    row("no file", {}, {});
+    row("letters, case and spaces", u"  Capture --append=x\ncapture = super + ALT+q \r\n"_s,
+        u"capture: Super+Alt+Q"_s, u"line 1: No key has a command “Capture --append”"_s);
+    row("option apart", u"capture   --append=Ctrl+Alt+F5"_s, u"capture --append: Alt+Ctrl+F5"_s);
+    row("remarks", u"# capture=Super+Q\n; toggle=none\n\n"_s, {});
+    row("off", u"toggle=\nwrite=none"_s, u"toggle: off, write: off"_s);
+    row("signs", u"toggle=Super+=\nwrite=Ctrl+Alt+#\nquit=x"_s, u"toggle: Super+="_s,
+        u"no key “#”. “write” stays at Super+Alt+Ctrl+N|command “quit”"_s);
+    row("unknown key", u"toggle=Super+Foo"_s, {},
+        u"line 1: There is no key “Foo”. “toggle” stays at Super+Alt+T."_s);
+    row("unknown modifier", u"toggle=Hyper+T"_s, {}, u"“Hyper” is no modifier"_s);
+    row("no key", u"toggle=Super+Alt"_s, {}, u"a key is missing"_s);
+    row("no modifier", u"toggle=F5\nwrite=Shift+N"_s, {}, u"line 1: It needs Super|line 2: It needs Super"_s);
+    row("no line", u"toggle Super+Q"_s, {}, u"“toggle Super+Q” is no command with “=”"_s);
+    row("said twice", u"toggle=Super+Q\ntoggle=Super+W"_s, u"toggle: Super+Q"_s, u"in line 1 already"_s);
+    row("another's default", u"capture=Super+Alt+T"_s, {},
+        u"Super+Alt+T is the combination of “toggle”. “capture” stays"_s);
+    row("another's line", u"toggle=Super+Q\ncapture=Super+Q"_s, u"toggle: Super+Q"_s,
+        u"line 2: Super+Q is the combination of “toggle”"_s);
+    row("changed places", u"toggle=Super+Alt+N\ncapture=Super+Alt+T"_s,
+        u"capture: Super+Alt+T, toggle: Super+Alt+N"_s);
+    // Each falls back for another's sake; in the end all have one.
+    row("chain", u"capture=Super+Alt+T\ntoggle=Super+Alt+C\nwrite=Super+Alt+C"_s, {},
+        u"line 3: |line 2: |line 1: "_s);
+    row("double Shift", u"save-prompt=Shift Shift\ncapture=Shift+Shift"_s, {}, u"Only save-prompt"_s);
+    row("prompt by a key", u"save-prompt=Super+P"_s, u"save-prompt: Super+P"_s);
+}
+
+void TestUsersKeys::fileIsRead()
+{
+    QFETCH(const QString, text);
+    QFETCH(const QString, problems);
+    const KeySettings settings = readKeySettings(text, nullptr);
+    QTEST(choices(settings, nullptr), "choices");
+    const QStringList expected = problems.split(u'|', Qt::SkipEmptyParts);
+    QVERIFY2(settings.problems.size() == expected.size(), qPrintable(settings.problems.join(u'\n')));
+    for (qsizetype i = 0; i < expected.size(); ++i)
+        QVERIFY2(settings.problems.at(i).contains(expected.at(i)), qPrintable(settings.problems.at(i)));
+}
+
+void TestUsersKeys::layoutDecides_data()
+{
+    QTest::addColumn<QHash<KeyPosition, QChar>>("layout");
+    QTest::addColumn<QString>("letter");
+    QTest::addColumn<KeyPosition>("key");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("ANSI") << QHash<KeyPosition, QChar>() << u"Q"_s << kQ << u"Q"_s;
+    QTest::newRow("French") << kFrench << u"a"_s << kQ << u"A"_s;
+    QTest::newRow("Latin letter on a Russian keyboard") << kRussian << u"N"_s << KeyPosition::N << u"N"_s;
+    QTest::newRow("Russian letter") << kRussian << u"т"_s << KeyPosition::N << u"N"_s;
+    QTest::newRow("named key") << kRussian << u"f5"_s << kF5 << u"F5"_s;
+}
+
+void TestUsersKeys::layoutDecides()
+{
+    using Layout = QHash<KeyPosition, QChar>;
+    QFETCH(const Layout, layout);
+    QFETCH(const QString, letter);
+    MemoryHotKeys keyboard;
+    keyboard.setLayout(layout);
+    const auto settings = readKeySettings(u"toggle=Super+Ctrl+"_s + letter, &keyboard);
+    QVERIFY2(settings.problems.isEmpty(), qPrintable(settings.problems.join(u'\n')));
+    const auto toggle = settings.combinations.at(kOpen.id - 1);
+    QVERIFY(toggle.has_value());
+    QTEST(toggle->key, "key");
+    QTEST(keynames::nameOf(toggle->key, &keyboard), "shown");
+}
+
+void TestUsersKeys::takenKeyIsTakenBackWhenFree()
+{
+    World world;
+    QVERIFY(world.keys->holders().isEmpty());
+    world.keyboard.setTaken(kSuperAltQ);
+    world.keyboard.setHolders({u"Openbox"_s});
+    world.replace(u"toggle=Super+Alt+Q"_s);
+    QTRY_COMPARE(world.keys->key(kOpen).state, State::Taken);
+    QCOMPARE(world.keys->holders(), QStringList{u"Openbox"_s});
+    QVERIFY2(world.press(kOpen.combination).isEmpty(), "The default works beside the user's choice.");
+    QCOMPARE(world.press(kWrite.combination), QList{kWrite.id});
+
+    world.keyboard.setFree(kSuperAltQ);
+    QSignalSpy changed(world.keys.get(), &GlobalKeys::changed);
+    world.keys->retry();
+    QCOMPARE(world.keys->key(kOpen).state, State::Works);
+    QVERIFY(world.keys->holders().isEmpty());
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(world.press(kSuperAltQ), QList{kOpen.id});
+    world.keys->retry();
+    QCOMPARE(changed.size(), 1);
+}
+
+/// Written in place, replaced, removed, written again; nothing of it was there at the start.
+void TestUsersKeys::fileIsFollowed()
+{
+    World world;
+    QCOMPARE(world.written(kOpen), u"Super+Alt+T"_s);
+    world.write(u"toggle=Super+Q"_s);
+    QTRY_COMPARE(world.written(kOpen), u"Super+Q"_s);
+    world.write(u"toggle=Super+W"_s);
+    QTRY_COMPARE(world.written(kOpen), u"Super+W"_s);
+    world.replace(u"toggle=Super+E\nwrite=bad"_s);
+    QTRY_COMPARE(world.written(kOpen), u"Super+E"_s);
+    QCOMPARE(world.keys->problems().size(), 1);
+    QVERIFY(QFile::remove(world.path));
+    QTRY_COMPARE(world.written(kOpen), u"Super+Alt+T"_s);
+    QVERIFY(world.keys->problems().isEmpty());
+    QCOMPARE(world.press(kOpen.combination), QList{kOpen.id});
+    world.replace(u"toggle=none"_s);
+    QTRY_COMPARE(world.keys->key(kOpen).state, State::Off);
+    QVERIFY(world.press(kOpen.combination).isEmpty());
+}
+
+void TestUsersKeys::changedPlacesWork()
+{
+    World world;
+    world.replace(u"toggle=Super+Alt+N\ncapture=Super+Alt+T"_s);
+    QTRY_COMPARE(world.press(kOpen.combination), QList{kQuickNote.id});
+    QCOMPARE(world.press(kQuickNote.combination), QList{kOpen.id});
+}
+
+void TestUsersKeys::doubleShiftCanBeAnything()
+{
+    World world;
+    QCOMPARE(world.keys->key(kSavePrompt).state, State::NoAccess);
+    world.keys->setShiftHeard(true);
+    QCOMPARE(world.keys->key(kSavePrompt).state, State::Works);
+    QVERIFY(world.keys->isDoubleShiftWanted());
+    world.replace(u"save-prompt=Super+Alt+Q"_s);
+    QTRY_VERIFY(!world.keys->isDoubleShiftWanted());
+    QCOMPARE(world.press(kSuperAltQ), QList{kSavePrompt.id});
+    QVERIFY(QFile::remove(world.path));
+    QTRY_VERIFY(world.keys->isDoubleShiftWanted());
+    QVERIFY(world.press(kSuperAltQ).isEmpty());
+}
+
+void TestUsersKeys::lettersFollowTheLayout()
+{
+    World world(u"toggle=Super+Alt+A"_s);
+    QVERIFY(world.press(kSuperAltQ).isEmpty());
+    world.keyboard.setLayout(kFrench);
+    QCOMPARE(world.press(kSuperAltQ), QList{kOpen.id});
+    QCOMPARE(world.written(kOpen), u"Super+Alt+A"_s);
+    // What the user did not choose stays where it was.
+    QCOMPARE(world.press(kQuickNote.combination), QList{kQuickNote.id});
+}
+
+QTEST_GUILESS_MAIN(TestUsersKeys)
+
+#include "tst_userskeys.moc"
