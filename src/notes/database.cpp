@@ -67,6 +67,7 @@ Database::Database(const StoreFile &file)
 
 QString Database::load(const StoreFile &file, OpenResult &result)
 {
+    const bool hadJournal = file.hasJournal();
     // SQLite falls back to reading alone without a word.
     if (sqlite3_db_readonly(m_connection.getHandle(), "main") != 0)
         return file.describe(SQLITE_READONLY, "");
@@ -93,6 +94,11 @@ QString Database::load(const StoreFile &file, OpenResult &result)
     }
     m_connection.exec("PRAGMA journal_mode = WAL");
     m_connection.exec("PRAGMA synchronous = FULL");
+    // What a crash has left may be there for reading and yet not on the disk: after a sync that failed,
+    // Linux takes the pages for clean, and no later sync of the journal writes them. So they are written
+    // once more, into the file, before anything is added to them. A failure leaves all as it was.
+    if (hadJournal)
+        static_cast<void>(m_connection.tryExec("PRAGMA wal_checkpoint(TRUNCATE)"));
     // Everything is in memory already; the pages that were read need not be kept as well.
     m_connection.exec("PRAGMA cache_size = -512");
     m_connection.exec("PRAGMA shrink_memory");
@@ -107,9 +113,15 @@ bool Database::write(const std::vector<Change> &changes)
         SQLite::Transaction transaction(m_connection, SQLite::TransactionBehavior::IMMEDIATE);
         for (const Change &change : changes)
             std::visit([this](const auto &one) { make(one); }, change);
+        // A transaction that changes nothing would leave the failed one in the journal, from where a
+        // crash brings it back.
+        if (m_hasFailed)
+            schema::touch(m_connection);
         transaction.commit();
+        m_hasFailed = false;
         return true;
     } catch (const SQLite::Exception &error) {
+        m_hasFailed = true;
         qWarning() << "The notes could not be saved:" << error.what();
         return false;
     }

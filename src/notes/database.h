@@ -59,6 +59,8 @@ private:
     // Prepared once the tables are known to be there.
     std::unique_ptr<NoteTable> m_notes;
     std::unique_ptr<PromptTable> m_prompts;
+    /// Whether the last transaction failed. Its pages may stand in the journal all the same.
+    bool m_hasFailed = false;
 };
 
 } // namespace vesk

@@ -170,10 +170,12 @@ bool NotesStore::write()
         else
             changes.emplace_back(Database::Removal{.kind = change.kind, .id = change.id});
     }
-    if (!m_database->write(changes))
-        return false;
-    m_pending.clear();
-    return true;
+    const bool isWritten = m_database->write(changes);
+    if (isWritten)
+        m_pending.clear();
+    else
+        m_pending.setMaybeStored();
+    return isWritten;
 }
 
 void NotesStore::startRetrying()

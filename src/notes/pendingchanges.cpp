@@ -14,6 +14,12 @@ void PendingChanges::addRemoved(RecordKind kind, const RecordId &id)
     add({.kind = kind, .id = id, .isStored = true});
 }
 
+void PendingChanges::setMaybeStored()
+{
+    for (auto &[number, change] : m_changes)
+        change.isStored = true;
+}
+
 void PendingChanges::clear()
 {
     m_changes.clear();

@@ -23,7 +23,7 @@ public:
     {
         RecordKind kind;
         RecordId id;
-        /// Whether the file has this record.
+        /// Whether the file has this record, or may have it.
         bool isStored;
     };
 
@@ -34,6 +34,9 @@ public:
     void addChanged(RecordKind kind, const RecordId &id) { add({.kind = kind, .id = id, .isStored = true}); }
     /// A record that never came into the file is forgotten.
     void addRemoved(RecordKind kind, const RecordId &id);
+    /// To be called when a save has failed: a crash may yet bring to light what it wrote, so that from
+    /// now on a removal has to be written as well.
+    void setMaybeStored();
     void clear();
 
     [[nodiscard]] bool isEmpty() const { return m_changes.empty(); }

@@ -59,4 +59,9 @@ void migrate(SQLite::Database &connection)
     connection.exec("PRAGMA user_version = " + std::to_string(kVersion));
 }
 
+void touch(SQLite::Database &connection)
+{
+    connection.exec("PRAGMA user_version = " + std::to_string(kVersion));
+}
+
 } // namespace vesk::schema

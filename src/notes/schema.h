@@ -22,4 +22,7 @@ inline constexpr int kVersion = 1;
 /// Brings a file of an older version to `kVersion`, step by step. Has to be called in a transaction.
 void migrate(SQLite::Database &connection);
 
+/// Has the transaction write a page, and changes nothing.
+void touch(SQLite::Database &connection);
+
 } // namespace vesk::schema

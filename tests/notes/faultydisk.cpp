@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: MIT
+#include "faultydisk.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <optional>
+#include <sys/stat.h>
+
+namespace vesk {
+
+namespace {
+
+std::optional<quint64> inodeOf(const char *name)
+{
+    struct stat status = {};
+    return ::stat(name, &status) == 0 ? std::optional<quint64>(status.st_ino) : std::nullopt;
+}
+
+QByteArray contentsOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+FaultyDisk::FaultyDisk()
+    : m_real(sqlite3_vfs_find(nullptr))
+    , m_vfs(*m_real)
+{
+    m_vfs.zName = "faulty";
+    m_vfs.pAppData = this;
+    m_vfs.szOsFile = int(sizeof(File)) + m_real->szOsFile;
+    m_vfs.xOpen = [](sqlite3_vfs *vfs, sqlite3_filename name, sqlite3_file *file, int flags, int *outFlags) {
+        return static_cast<FaultyDisk *>(vfs->pAppData)->open(name, file, flags, outFlags);
+    };
+    m_vfs.xDelete = [](sqlite3_vfs *vfs, const char *name, int syncsFolder) {
+        return static_cast<FaultyDisk *>(vfs->pAppData)->remove(name, syncsFolder);
+    };
+    sqlite3_vfs_register(&m_vfs, 1);
+}
+
+FaultyDisk::~FaultyDisk()
+{
+    sqlite3_vfs_unregister(&m_vfs);
+    sqlite3_vfs_register(m_real, 1);
+}
+
+void FaultyDisk::follow(const Plan &plan)
+{
+    m_plan = plan;
+    m_steps = 0;
+}
+
+void FaultyDisk::cutPower(const QString &folder, Loss loss, std::mt19937 &random)
+{
+    for (const QFileInfo &entry : QDir(folder).entryInfoList(QDir::Files)) {
+        const auto inode = inodeOf(QFile::encodeName(entry.filePath()).constData());
+        const auto found = inode ? m_media.find(*inode) : m_media.end();
+        if (found == m_media.end() || loss == Loss::None)
+            continue;
+        QByteArray contents = found->second.durable;
+        for (Change change : found->second.changes) {
+            const auto luck = loss == Loss::Random ? random() % 3 : 0;
+            if (luck == 1)
+                change.bytes.truncate(change.bytes.size() / 2);
+            if (luck != 0)
+                apply(contents, change);
+        }
+        QFile file(entry.filePath());
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(contents) != contents.size())
+            qFatal("A file could not be set back.");
+    }
+    m_media.clear();
+}
+
+sqlite3_file *FaultyDisk::real(sqlite3_file *file)
+{
+    return reinterpret_cast<sqlite3_file *>(reinterpret_cast<File *>(file) + 1);
+}
+
+sqlite3_io_methods FaultyDisk::methods()
+{
+    // Version 2: with the shared memory of a journal, without mapping the file itself.
+    sqlite3_io_methods methods = {};
+    methods.iVersion = 2;
+    methods.xClose = [](sqlite3_file *file) { return real(file)->pMethods->xClose(real(file)); };
+    methods.xRead = [](sqlite3_file *file, void *bytes, int size, sqlite3_int64 offset) {
+        return real(file)->pMethods->xRead(real(file), bytes, size, offset);
+    };
+    methods.xWrite = &FaultyDisk::write;
+    methods.xTruncate = &FaultyDisk::truncate;
+    methods.xSync = &FaultyDisk::sync;
+    methods.xFileSize = [](sqlite3_file *file, sqlite3_int64 *size) {
+        return real(file)->pMethods->xFileSize(real(file), size);
+    };
+    methods.xLock = [](sqlite3_file *file, int lock) {
+        return real(file)->pMethods->xLock(real(file), lock);
+    };
+    methods.xUnlock = [](sqlite3_file *file, int lock) {
+        return real(file)->pMethods->xUnlock(real(file), lock);
+    };
+    methods.xCheckReservedLock = [](sqlite3_file *file, int *result) {
+        return real(file)->pMethods->xCheckReservedLock(real(file), result);
+    };
+    methods.xFileControl = [](sqlite3_file *file, int operation, void *argument) {
+        return real(file)->pMethods->xFileControl(real(file), operation, argument);
+    };
+    methods.xSectorSize = [](sqlite3_file *file) { return real(file)->pMethods->xSectorSize(real(file)); };
+    methods.xDeviceCharacteristics = [](sqlite3_file *file) {
+        return real(file)->pMethods->xDeviceCharacteristics(real(file));
+    };
+    methods.xShmMap = [](sqlite3_file *file, int page, int size, int extends, void volatile **result) {
+        return real(file)->pMethods->xShmMap(real(file), page, size, extends, result);
+    };
+    methods.xShmLock = [](sqlite3_file *file, int offset, int count, int flags) {
+        return real(file)->pMethods->xShmLock(real(file), offset, count, flags);
+    };
+    methods.xShmBarrier = [](sqlite3_file *file) { real(file)->pMethods->xShmBarrier(real(file)); };
+    methods.xShmUnmap = [](sqlite3_file *file, int removes) {
+        return real(file)->pMethods->xShmUnmap(real(file), removes);
+    };
+    return methods;
+}
+
+void FaultyDisk::apply(QByteArray &contents, const Change &change)
+{
+    if (change.bytes.isEmpty()) {
+        contents.resize(change.offset);
+        return;
+    }
+    if (contents.size() < change.offset + change.bytes.size())
+        contents.append(change.offset + change.bytes.size() - contents.size(), '\0');
+    contents.replace(change.offset, change.bytes.size(), change.bytes);
+}
+
+bool FaultyDisk::isNextFailing()
+{
+    const qint64 step = m_steps++;
+    return step >= m_plan.first && step - m_plan.first < m_plan.count;
+}
+
+int FaultyDisk::open(sqlite3_filename name, sqlite3_file *file, int flags, int *outFlags)
+{
+    file->pMethods = nullptr;
+    if (isNextFailing())
+        return SQLITE_CANTOPEN;
+    const int result = m_real->xOpen(m_real, name, real(file), flags, outFlags);
+    if (result != SQLITE_OK)
+        return result;
+    auto *own = reinterpret_cast<File *>(file);
+    own->base.pMethods = &m_methods;
+    own->disk = this;
+    own->inode = name ? inodeOf(name).value_or(0) : 0;
+    // An empty one may have the number of one that is gone.
+    const QByteArray contents = name ? contentsOf(QFile::decodeName(name)) : QByteArray();
+    if (contents.isEmpty())
+        m_media.erase(own->inode);
+    m_media.try_emplace(own->inode, Medium{.durable = contents, .changes = {}});
+    return SQLITE_OK;
+}
+
+int FaultyDisk::remove(const char *name, int syncsFolder)
+{
+    return isNextFailing() ? SQLITE_IOERR_DELETE : m_real->xDelete(m_real, name, syncsFolder);
+}
+
+int FaultyDisk::write(sqlite3_file *file, const void *bytes, int size, sqlite3_int64 offset)
+{
+    const auto *own = reinterpret_cast<const File *>(file);
+    FaultyDisk &disk = *own->disk;
+    const bool fails = disk.isNextFailing();
+    if (fails && !disk.m_plan.tears)
+        return disk.m_plan.code;
+    const int written = fails ? size / 2 : size;
+    const int result = real(file)->pMethods->xWrite(real(file), bytes, written, offset);
+    if (result != SQLITE_OK)
+        return result;
+    disk.m_media.at(own->inode)
+        .changes.push_back(
+            {.offset = offset, .bytes = QByteArray(static_cast<const char *>(bytes), written)});
+    return fails ? disk.m_plan.code : SQLITE_OK;
+}
+
+int FaultyDisk::truncate(sqlite3_file *file, sqlite3_int64 size)
+{
+    const auto *own = reinterpret_cast<const File *>(file);
+    FaultyDisk &disk = *own->disk;
+    if (disk.isNextFailing())
+        return disk.m_plan.code;
+    disk.m_media.at(own->inode).changes.push_back({.offset = size, .bytes = {}});
+    return real(file)->pMethods->xTruncate(real(file), size);
+}
+
+int FaultyDisk::sync(sqlite3_file *file, int /*flags*/)
+{
+    const auto *own = reinterpret_cast<const File *>(file);
+    FaultyDisk &disk = *own->disk;
+    Medium &medium = disk.m_media.at(own->inode);
+    const bool fails = disk.isNextFailing();
+    if (!fails) {
+        for (const Change &change : medium.changes)
+            apply(medium.durable, change);
+    }
+    // After a sync that failed Linux forgets what it was about, and the next one succeeds without it.
+    medium.changes.clear();
+    return fails ? SQLITE_IOERR_FSYNC : SQLITE_OK;
+}
+
+} // namespace vesk

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <sqlite3.h>
+
+#include <limits>
+#include <map>
+#include <random>
+#include <vector>
+
+namespace vesk {
+
+/// What SQLite takes for the disk while this lives: the real one, but for the faults that a test orders,
+/// and for what a power cut does to writes that were not yet synced. Only for the files of one folder.
+class FaultyDisk final
+{
+public:
+    static constexpr qint64 kForever = std::numeric_limits<qint64>::max() / 2;
+
+    /// Which steps fail, and how. A step is an opening, a write, a truncation, a sync or a removal.
+    struct Plan
+    {
+        qint64 first = kForever;
+        qint64 count = kForever;
+        /// For a write or truncation, such as `SQLITE_FULL`.
+        int code = SQLITE_IOERR_WRITE;
+        /// Whether a write that fails has written its first half.
+        bool tears = false;
+    };
+
+    /// What a crash leaves of the writes since the last sync.
+    enum class Loss {
+        None,
+        Random,
+        All
+    };
+
+    FaultyDisk();
+    ~FaultyDisk();
+    Q_DISABLE_COPY_MOVE(FaultyDisk)
+
+    /// The steps are counted from 0 again.
+    void follow(const Plan &plan);
+    /// All steps fail from now on.
+    void die() { follow({.first = 0}); }
+    [[nodiscard]] qint64 steps() const { return m_steps; }
+
+    /// Brings the files of the folder into a state in which a power cut may leave them. No connection may
+    /// be open any more.
+    void cutPower(const QString &folder, Loss loss, std::mt19937 &random);
+
+private:
+    using Inode = quint64;
+
+    /// One that has not been synced; a truncation has no bytes.
+    struct Change
+    {
+        qint64 offset;
+        QByteArray bytes;
+    };
+    struct Medium
+    {
+        /// What is sure to be there after a power cut.
+        QByteArray durable;
+        std::vector<Change> changes;
+    };
+    /// What SQLite knows as an open file; the real one lies behind it.
+    struct File
+    {
+        sqlite3_file base;
+        FaultyDisk *disk;
+        Inode inode;
+    };
+
+    [[nodiscard]] static sqlite3_file *real(sqlite3_file *file);
+    [[nodiscard]] static sqlite3_io_methods methods();
+    static void apply(QByteArray &contents, const Change &change);
+
+    /// Counts one more step; whether it fails.
+    [[nodiscard]] bool isNextFailing();
+    [[nodiscard]] int open(sqlite3_filename name, sqlite3_file *file, int flags, int *outFlags);
+    [[nodiscard]] int remove(const char *name, int syncsFolder);
+    [[nodiscard]] static int write(sqlite3_file *file, const void *bytes, int size, sqlite3_int64 offset);
+    [[nodiscard]] static int truncate(sqlite3_file *file, sqlite3_int64 size);
+    [[nodiscard]] static int sync(sqlite3_file *file, int flags);
+
+    sqlite3_vfs *m_real;
+    sqlite3_vfs m_vfs;
+    const sqlite3_io_methods m_methods = methods();
+    std::map<Inode, Medium> m_media;
+    Plan m_plan;
+    qint64 m_steps = 0;
+};
+
+} // namespace vesk

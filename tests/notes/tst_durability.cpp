@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+#include "faultydisk.h"
+#include "storefixture.h"
+
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace vesk;
+
+namespace {
+
+using Contents = QMap<RecordId, QString>;
+
+/// Moves the journal into the file every few pages, so that a short run meets that as well.
+int checkpointOften(sqlite3 *connection, char ** /*error*/, const sqlite3_api_routines * /*routines*/)
+{
+    constexpr int kPages = 8;
+    return sqlite3_wal_autocheckpoint(connection, kPages);
+}
+
+/// VESK_FAULT_SEEDS asks for a longer run than the usual one: each seed is another history of changes.
+unsigned seeds()
+{
+    const int asked = qEnvironmentVariableIntValue("VESK_FAULT_SEEDS");
+    return asked > 0 ? unsigned(asked) : 1;
+}
+
+} // namespace
+
+/// What the store keeps of its word on a disk that fails at any step, for a while or for good.
+class TestDurability : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void keepsWhatItConfirmed_data();
+    void keepsWhatItConfirmed();
+
+private:
+    [[nodiscard]] Contents contents() const;
+    /// Makes one change, the kind of which `random` decides.
+    void change(std::mt19937 &random);
+    /// Notes what a save has confirmed, or what it may have written all the same.
+    void save();
+    void close();
+    /// Opens, changes, saves and closes a store; the disk may fail at any step of it.
+    void play(unsigned seed);
+    /// Plays with the faults, and looks at what is there after the crash.
+    void play(unsigned seed, const FaultyDisk::Plan &plan, FaultyDisk::Loss loss, qint64 &steps);
+
+    std::unique_ptr<StoreFixture> m_fixture;
+    /// What the file may hold after a crash: what was confirmed last, and what was tried since.
+    QList<Contents> m_possible;
+};
+
+void TestDurability::initTestCase()
+{
+    // What the disk has is known here without asking it to sync thousands of times.
+    if (QFileInfo(u"/dev/shm"_s).isWritable())
+        qputenv("TMPDIR", "/dev/shm");
+    // Every fault would be told of.
+    QLoggingCategory::setFilterRules(u"default.warning=false"_s);
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): what SQLite asks for.
+    QCOMPARE(sqlite3_auto_extension(reinterpret_cast<void (*)()>(checkpointOften)), SQLITE_OK);
+}
+
+Contents TestDurability::contents() const
+{
+    Contents result;
+    for (qsizetype i = 0; i < m_fixture->store->notes().count(); ++i) {
+        const Note &note = m_fixture->store->notes().at(i);
+        result.insert(note.id(), note.text());
+    }
+    for (qsizetype i = 0; i < m_fixture->store->prompts().count(); ++i) {
+        const Prompt &prompt = m_fixture->store->prompts().at(i);
+        result.insert(prompt.id(), prompt.text());
+    }
+    return result;
+}
+
+void TestDurability::change(std::mt19937 &random)
+{
+    LiveQuery<Note> &notes = m_fixture->store->notes();
+    const auto anyNote = [&]() -> Note & { return notes.at(qsizetype(random() % size_t(notes.count()))); };
+    // Some texts need several pages.
+    const QString text = QString::number(random()).repeated(random() % 4 == 0 ? 1500 : 3);
+    const unsigned choice = notes.isEmpty() ? 0 : random() % 6;
+    m_fixture->clock.advance(1ms);
+    if (choice < 3)
+        m_fixture->addNote(text);
+    else if (choice == 3)
+        anyNote().setText(text);
+    else if (choice == 4)
+        m_fixture->store->remove(anyNote());
+    else
+        m_fixture->store->insert(std::make_unique<Prompt>(m_fixture->clock, text, Prompt::Origin::Captured));
+}
+
+void TestDurability::save()
+{
+    const bool isSaved = m_fixture->store->save();
+    QCOMPARE(m_fixture->store->hasPendingChanges(), !isSaved);
+    if (isSaved)
+        m_possible.clear();
+    m_possible.append(contents());
+}
+
+void TestDurability::close()
+{
+    if (!m_fixture->store)
+        return;
+    // Closing tries once more.
+    m_possible.append(contents());
+    m_fixture->close();
+}
+
+void TestDurability::play(unsigned seed)
+{
+    std::mt19937 random(seed);
+    for (int session = 0; session < 2; ++session) {
+        // A disk that fails only for a while lets the second opening succeed, or a later one.
+        for (int attempt = 0; !m_fixture->open() && attempt < 13; ++attempt) {
+        }
+        if (!m_fixture->store)
+            return;
+        // What is there now is sure, whichever of the possible states it is.
+        QVERIFY(m_possible.contains(contents()));
+        m_possible = {contents()};
+        for (int saving = 0; saving < 4; ++saving) {
+            for (unsigned i = 0; i <= random() % 3; ++i)
+                change(random);
+            save();
+        }
+        close();
+    }
+}
+
+void TestDurability::play(unsigned seed, const FaultyDisk::Plan &plan, FaultyDisk::Loss loss, qint64 &steps)
+{
+    m_fixture = std::make_unique<StoreFixture>();
+    m_possible = {Contents()};
+    std::mt19937 random(seed);
+    FaultyDisk disk;
+    disk.follow(plan);
+    play(seed);
+    steps = disk.steps();
+    if (QTest::currentTestFailed())
+        return;
+    if (plan.count < FaultyDisk::kForever) {
+        // The disk is sound again, and nothing that was ever tried is missing.
+        disk.follow({});
+        QVERIFY2(m_fixture->open(), qPrintable(m_fixture->error));
+        change(random);
+        save();
+        QVERIFY(!m_fixture->store->hasPendingChanges());
+        QCOMPARE(m_possible.size(), 1);
+    }
+    disk.die();
+    m_fixture->close();
+    disk.cutPower(QFileInfo(m_fixture->path()).path(), loss, random);
+
+    disk.follow({});
+    QVERIFY2(m_fixture->open(), qPrintable(m_fixture->error));
+    QVERIFY(m_possible.contains(contents()));
+    change(random);
+    save();
+    QVERIFY(!m_fixture->store->hasPendingChanges());
+    QCOMPARE(m_fixture->integrity(), u"ok"_s);
+    QVERIFY(m_fixture->open());
+    QCOMPARE(contents(), m_possible.constLast());
+}
+
+void TestDurability::keepsWhatItConfirmed_data()
+{
+    QTest::addColumn<FaultyDisk::Plan>("plan");
+    QTest::addColumn<FaultyDisk::Loss>("loss");
+    using Plan = FaultyDisk::Plan;
+    using Loss = FaultyDisk::Loss;
+    QTest::newRow("crash") << Plan{} << Loss::None;
+    QTest::newRow("crash in the middle of a write") << Plan{.tears = true} << Loss::None;
+    QTest::newRow("power cut") << Plan{} << Loss::All;
+    QTest::newRow("power cut, some of it written") << Plan{.tears = true} << Loss::Random;
+    QTest::newRow("one step fails") << Plan{.count = 1} << Loss::All;
+    QTest::newRow("one write fails half way") << Plan{.count = 1, .tears = true} << Loss::Random;
+    QTest::newRow("disk full for a while") << Plan{.count = 12, .code = SQLITE_FULL} << Loss::All;
+    QTest::newRow("disk full, half of it fits")
+        << Plan{.count = 12, .code = SQLITE_FULL, .tears = true} << Loss::Random;
+}
+
+void TestDurability::keepsWhatItConfirmed()
+{
+    QFETCH(FaultyDisk::Plan, plan);
+    QFETCH(const FaultyDisk::Loss, loss);
+    int runs = 0;
+    for (unsigned seed = 1; seed <= seeds(); ++seed) {
+        qint64 steps = 0;
+        // Until the fault would come after all that is done.
+        for (plan.first = 0; plan.first == 0 || plan.first <= steps; ++plan.first, ++runs) {
+            play(seed, plan, loss, steps);
+            if (QTest::currentTestFailed()) {
+                qInfo("That was seed %u, step %lld.", seed, plan.first);
+                return;
+            }
+        }
+    }
+    qInfo("%d crashes and faults.", runs);
+}
+
+QTEST_GUILESS_MAIN(TestDurability)
+#include "tst_durability.moc"
