@@ -65,7 +65,7 @@ Database::Database(const StoreFile &file)
     setCheckpointOnClose(!file.hasJournal());
 }
 
-QString Database::load(const StoreFile &file, OpenResult &result)
+StoreError Database::load(const StoreFile &file, OpenResult &result)
 {
     const bool hadJournal = file.hasJournal();
     // SQLite falls back to reading alone without a word.

@@ -25,7 +25,7 @@ public:
         std::unique_ptr<Database> database;
         std::vector<Note::Fields> notes;
         std::vector<Prompt::Fields> prompts;
-        QString error;
+        StoreError error;
     };
 
     struct Removal
@@ -50,7 +50,7 @@ private:
     void setCheckpointOnClose(bool isAllowed);
     /// Reads everything, having made sure that the file can be written. Returns why the file is
     /// refused, or nothing.
-    [[nodiscard]] QString load(const StoreFile &file, OpenResult &result);
+    [[nodiscard]] StoreError load(const StoreFile &file, OpenResult &result);
     void make(const Note *note) { m_notes->write(*note); }
     void make(const Prompt *prompt) { m_prompts->write(*prompt); }
     void make(const Removal &removal);

@@ -27,9 +27,9 @@ NotesReading readNotes(const QString &path)
     if (!QFileInfo::exists(path))
         return reading;
     const StoreFile file(path);
-    reading.error = file.obstacle();
+    reading.error = file.obstacle().text;
     if (reading.error.isEmpty())
-        reading.error = file.contentsObstacle();
+        reading.error = file.contentsObstacle().text;
     if (!reading.error.isEmpty())
         return reading;
     try {
@@ -41,11 +41,11 @@ NotesReading readNotes(const QString &path)
         const SQLite::Transaction snapshot(connection, SQLite::TransactionBehavior::DEFERRED);
         const int version = schema::version(connection);
         if (version > schema::kVersion)
-            reading.error = file.newerVersion(version);
+            reading.error = file.newerVersion(version).text;
         else
             reading.notes = NoteTable(connection).load();
     } catch (const SQLite::Exception &error) {
-        reading.error = file.describe(error.getErrorCode(), error.what());
+        reading.error = file.describe(error.getErrorCode(), error.what()).text;
     }
     return reading;
 }

@@ -30,10 +30,10 @@ NotesStore::OpenResult NotesStore::open(const QString &path, Clock &clock)
 {
     Database::OpenResult opened = Database::open(path);
     if (!opened.database)
-        return {.store = nullptr, .error = opened.error};
+        return {.store = nullptr, .error = opened.error.text, .isDamaged = opened.error.isDamage};
     std::unique_ptr<NotesStore> store(new NotesStore(std::move(opened.database), clock));
     store->load(std::move(opened.notes), std::move(opened.prompts));
-    return {.store = std::move(store), .error = {}};
+    return {.store = std::move(store)};
 }
 
 NotesStore::NotesStore(std::unique_ptr<Database> database, Clock &clock)

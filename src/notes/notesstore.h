@@ -32,7 +32,9 @@ public:
     struct OpenResult
     {
         std::unique_ptr<NotesStore> store;
-        QString error;
+        QString error = {};
+        /// Whether what is in the file is beyond reach, so that only a copy of it helps.
+        bool isDamaged = false;
     };
 
     /// Where a user's store is: `Vesk/Notes.store` in the user's data folder.

@@ -25,12 +25,6 @@ namespace vesk {
 
 namespace {
 
-/// What SQLite keeps beside a database.
-[[nodiscard]] QString journalOf(const QString &path)
-{
-    return path + u"-wal"_s;
-}
-
 [[nodiscard]] QString sharedMemoryOf(const QString &path)
 {
     return path + u"-shm"_s;
@@ -38,24 +32,6 @@ namespace {
 
 /// No database is smaller.
 constexpr qint64 kSmallestPage = 512;
-
-void removeWithCompanions(const QString &path)
-{
-    QFile::remove(path);
-    QFile::remove(path + u"-journal"_s);
-    QFile::remove(journalOf(path));
-    QFile::remove(sharedMemoryOf(path));
-}
-
-/// Makes the entry of a new or renamed file survive a power failure.
-void syncFolder(const QString &folder)
-{
-    const int descriptor = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0)
-        return;
-    ::fsync(descriptor);
-    ::close(descriptor);
-}
 
 } // namespace
 
@@ -78,30 +54,65 @@ void StoreFile::makeFolder() const
         ::chmod(name.constData(), S_IRWXU);
 }
 
-QString StoreFile::obstacle() const
+QString StoreFile::journalOf(const QString &path)
+{
+    return path + u"-wal"_s;
+}
+
+void StoreFile::removeWithCompanions(const QString &path)
+{
+    QFile::remove(path);
+    QFile::remove(path + u"-journal"_s);
+    QFile::remove(journalOf(path));
+    QFile::remove(sharedMemoryOf(path));
+}
+
+bool StoreFile::makePrivate(const QString &path)
+{
+    const int descriptor =
+        ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (descriptor < 0)
+        return false;
+    // Whatever the process's mask has taken away.
+    ::fchmod(descriptor, S_IRUSR | S_IWUSR);
+    ::close(descriptor);
+    return true;
+}
+
+bool StoreFile::sync(const QString &path)
+{
+    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0)
+        return false;
+    const bool isSynced = ::fsync(descriptor) == 0;
+    ::close(descriptor);
+    return isSynced;
+}
+
+StoreError StoreFile::obstacle() const
 {
     const QFileInfo file(m_path);
     if (file.isSymLink())
-        return sentence(u"is a link to a file that does not exist"_s);
+        return error(u"is a link to a file that does not exist"_s);
     if (file.exists()) {
         if (file.isDir())
-            return sentence(u"is a folder"_s);
+            return error(u"is a folder"_s);
         if (!file.isFile())
-            return sentence(u"is not an ordinary file"_s);
+            return error(u"is not an ordinary file"_s);
         // Asked with the effective user, as the opening will be; tells of file systems that are
         // mounted read-only as well.
         if (::faccessat(AT_FDCWD, nativePath().c_str(), R_OK, AT_EACCESS) != 0)
-            return sentence(u"cannot be read (%1)"_s.arg(qt_error_string(errno)));
+            return error(u"cannot be read (%1)"_s.arg(qt_error_string(errno)));
         if (::faccessat(AT_FDCWD, nativePath().c_str(), W_OK, AT_EACCESS) != 0)
-            return sentence(u"cannot be written (%1)"_s.arg(qt_error_string(errno)));
+            return error(u"cannot be written (%1)"_s.arg(qt_error_string(errno)));
     }
     // SQLite would throw the journal away, and with it the last thing that is left of the notes.
     if (isEmpty() && hasJournal())
-        return sentence(u"is missing or empty, but its journal “%1” is not"_s.arg(journalOf(m_path)));
+        return error(u"is missing or empty, but its journal “%1” is not"_s.arg(journalOf(m_path)), true);
     return {};
 }
 
-QString StoreFile::contentsObstacle() const
+StoreError StoreFile::contentsObstacle() const
 {
     // An immutable database is read without locks and without regard to the journal.
     const QByteArray address = QUrl::fromLocalFile(m_path).toEncoded() + "?immutable=1";
@@ -111,13 +122,13 @@ QString StoreFile::contentsObstacle() const
         if (QFileInfo(m_path).size() < kSmallestPage)
             return damaged();
         if (schema::applicationId(connection) != schema::kApplicationId)
-            return sentence(u"is a database of another program"_s);
+            return error(u"is a database of another program"_s);
         if (version > schema::kVersion)
             return newerVersion(version);
-    } catch (const SQLite::Exception &error) {
+    } catch (const SQLite::Exception &exception) {
         // With a journal the main file alone may be half written; both together are read later.
         if (!hasJournal())
-            return describe(error.getErrorCode(), error.what());
+            return describe(exception.getErrorCode(), exception.what());
     }
     return {};
 }
@@ -132,18 +143,15 @@ bool StoreFile::hasJournal() const
     return QFileInfo(journalOf(m_path)).size() > 0;
 }
 
-QString StoreFile::create() const
+StoreError StoreFile::create() const
 {
     const QString unfinished = m_path + u".new"_s;
     removeWithCompanions(unfinished);
     const auto cleanUp = qScopeGuard([&unfinished] { removeWithCompanions(unfinished); });
 
     const QByteArray name = QFile::encodeName(unfinished);
-    const int descriptor = ::open(name.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (descriptor < 0)
-        return sentence(u"cannot be created (%1)"_s.arg(qt_error_string(errno)));
-    ::fchmod(descriptor, S_IRUSR | S_IWUSR);
-    ::close(descriptor);
+    if (!makePrivate(unfinished))
+        return error(u"cannot be created (%1)"_s.arg(qt_error_string(errno)));
     {
         SQLite::Database connection(name.constData(), SQLite::OPEN_READWRITE);
         SQLite::Transaction transaction(connection);
@@ -152,8 +160,9 @@ QString StoreFile::create() const
         connection.exec("PRAGMA journal_mode = WAL");
     }
     if (::rename(name.constData(), nativePath().c_str()) != 0)
-        return sentence(u"cannot be created (%1)"_s.arg(qt_error_string(errno)));
-    syncFolder(QFileInfo(m_path).absolutePath());
+        return error(u"cannot be created (%1)"_s.arg(qt_error_string(errno)));
+    // The entry of a renamed file is to survive a power failure too. Not every file system can.
+    static_cast<void>(sync(QFileInfo(m_path).absolutePath()));
     return {};
 }
 
@@ -168,39 +177,40 @@ std::string StoreFile::nativePath() const
     return QFile::encodeName(m_path).toStdString();
 }
 
-QString StoreFile::describe(int sqliteCode, const char *message) const
+StoreError StoreFile::describe(int sqliteCode, const char *message) const
 {
     switch (sqliteCode & 0xFF) {
     case SQLITE_NOTADB:
-        return sentence(u"is not a database"_s);
+        return error(u"is not a database"_s, true);
     case SQLITE_CORRUPT:
     case SQLITE_ERROR: // a table or column is missing
         return damaged();
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        return sentence(u"is in use by another program"_s);
+        return error(u"is in use by another program"_s);
     case SQLITE_READONLY:
-        return sentence(u"cannot be written"_s);
+        return error(u"cannot be written"_s);
     default:
-        return sentence(u"cannot be opened (%1)"_s.arg(QString::fromUtf8(message)));
+        return error(u"cannot be opened (%1)"_s.arg(QString::fromUtf8(message)),
+                     (sqliteCode & 0xFF) == SQLITE_IOERR);
     }
 }
 
-QString StoreFile::damaged() const
+StoreError StoreFile::damaged() const
 {
-    return sentence(u"is damaged"_s);
+    return error(u"is damaged"_s, true);
 }
 
-QString StoreFile::newerVersion(int version) const
+StoreError StoreFile::newerVersion(int version) const
 {
-    return sentence(
+    return error(
         u"was written by a newer Vesk (version %1 of the store; this one knows version %2)"_s.arg(version)
             .arg(schema::kVersion));
 }
 
-QString StoreFile::sentence(const QString &predicate) const
+StoreError StoreFile::error(const QString &predicate, bool isDamage) const
 {
-    return u"The file “%1” %2."_s.arg(m_path, predicate);
+    return {.text = u"The file “%1” %2."_s.arg(m_path, predicate), .isDamage = isDamage};
 }
 
 } // namespace vesk
