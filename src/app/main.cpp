@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "app/accesscommand.h"
+#include "app/dailycopy.h"
 #include "app/desktop.h"
 #include "app/messagewindow.h"
 #include "app/notification.h"
 #include "app/quitsignals.h"
 #include "app/saveatexit.h"
+#include "app/storefailure.h"
 #include "app/unwrittenwindow.h"
 #include "app/veskapp.h"
 #include "components/surroundings.h"
 #include "notes/notesstore.h"
+#include "notes/storecopy.h"
 
 #include <QCoroTask>
 
@@ -33,14 +36,14 @@ void say(const QString &message)
 
 /// Tells the user, on standard error and in a window, why Vesk does not start; returns when the user
 /// has closed it.
-void showFatal(vesk::Desktop &desktop, const QString &message)
+void showFatal(vesk::Desktop &desktop, const vesk::MessageWindow::Content &content)
 {
-    say(message);
+    say(content.message);
+    if (!content.details.isEmpty())
+        say(content.details);
     QQmlEngine engine;
     vesk::lendToEngine(engine, desktop.appearance, desktop.workspace, desktop.windows);
-    vesk::MessageWindow window(
-        engine,
-        {.heading = u"Vesk cannot start"_s, .message = message, .acceptLabel = u"Quit"_s, .rejectLabel = {}});
+    vesk::MessageWindow window(engine, content);
     QObject::connect(&window, &vesk::MessageWindow::accepted, qApp, &QCoreApplication::quit);
     QObject::connect(&window, &vesk::MessageWindow::rejected, qApp, &QCoreApplication::quit);
     window.show();
@@ -91,12 +94,13 @@ int runVesk(bool isInBackground)
         return 1;
     }
     vesk::Desktop desktop(std::move(x11.connection), service);
-    const vesk::NotesStore::OpenResult opened =
-        vesk::NotesStore::open(vesk::NotesStore::standardPath(), desktop.clock);
+    const QString path = vesk::NotesStore::standardPath();
+    const vesk::NotesStore::OpenResult opened = vesk::NotesStore::open(path, desktop.clock);
     if (!opened.store) {
-        showFatal(desktop, u"Could not open the notes store: %1"_s.arg(opened.error));
+        showFatal(desktop, vesk::describeStoreFailure(opened, vesk::StoreCopy(path)));
         return 1;
     }
+    const vesk::DailyCopy dailyCopy(path, QCoreApplication::applicationFilePath(), desktop.clock);
     const vesk::SaveAtExit saveAtExit(*opened.store);
     const int result = runUntilQuit(desktop, *opened.store, service, isInBackground);
     const bool isSaved = opened.store->save();
@@ -141,6 +145,8 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationVersion(QStringLiteral(VESK_VERSION));
     if (words.size() > 1 && QByteArrayView(words[1]) == QByteArrayView("access"))
         return runAccess(argc, argv);
+    if (words.size() > 1 && QByteArrayView(words[1]) == QByteArrayView(vesk::DailyCopy::kWord))
+        return vesk::StoreCopy(vesk::NotesStore::standardPath()).make() ? 0 : 1;
 
     // The windows are X11's, also where a Wayland compositor offers both.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))

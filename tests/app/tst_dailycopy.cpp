@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "app/dailycopy.h"
+#include "app/storefailure.h"
+#include "platform/memory/memoryclock.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace vesk;
+
+/// The program makes the copy when its time comes, and the message of a damaged store leads back to it.
+class TestDailyCopy : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void leadsBackToTheNotes();
+};
+
+void TestDailyCopy::leadsBackToTheNotes()
+{
+    const QTemporaryDir home;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
+    const QString path = home.filePath(u"Vesk/Notes.store"_s);
+    const StoreCopy copy(path);
+    MemoryClock clock(std::chrono::floor<std::chrono::microseconds>(std::chrono::system_clock::now()));
+    auto opened = NotesStore::open(path, clock);
+    QVERIFY2(opened.store, qPrintable(opened.error));
+    opened.store->insert(std::make_unique<Note>(clock, u"Water the lemon tree"_s));
+    QVERIFY(opened.store->save());
+
+    {
+        const DailyCopy dailyCopy(path, QStringLiteral(VESK_APP), clock);
+        clock.advance(1min);
+        QVERIFY(!copy.madeAt());
+        // The second look, because the store was written just before the first.
+        clock.advance(20min);
+        QTRY_VERIFY_WITH_TIMEOUT(copy.madeAt(), 30'000);
+    }
+    clock.advance(10min);
+    QCOMPARE(clock.sleeperCount(), 0);
+
+    opened.store.reset();
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadWrite) && file.write("rubbish") > 0);
+    file.close();
+    opened = NotesStore::open(path, clock);
+    QVERIFY(!opened.store);
+    const MessageWindow::Content content = describeStoreFailure(opened, copy);
+    QVERIFY2(content.message.contains(copy.path()), qPrintable(content.message));
+    QCOMPARE(QProcess::execute(u"sh"_s, {u"-c"_s, content.details}), 0);
+    opened = NotesStore::open(path, clock);
+    QVERIFY2(opened.store, qPrintable(opened.error));
+    QCOMPARE(opened.store->notes().first()->text(), u"Water the lemon tree"_s);
+
+    // A store that is only in the way of something else is not to be given up for the copy.
+    const NotesStore::OpenResult locked{.store = nullptr, .error = u"It is in use."_s};
+    QVERIFY(describeStoreFailure(locked, copy).details.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestDailyCopy)
+#include "tst_dailycopy.moc"
