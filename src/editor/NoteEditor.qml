@@ -136,6 +136,7 @@ FocusScope {
                 visible: edit.length === 0 && edit.preeditText.length === 0
                 width: parent.width
                 elide: Text.ElideRight
+                textFormat: Text.PlainText
                 text: root.placeholder
                 font.family: edit.font.family
                 font.pixelSize: Math.round((root.fontSize + (root.firstLineIsTitle ? root.titleBoost : 0)) * Theme.fonts.scale)

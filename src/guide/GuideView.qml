@@ -96,6 +96,7 @@ FocusScope {
                     width: parent.width
                     horizontalAlignment: Text.AlignHCenter
                     wrapMode: Text.Wrap
+                    textFormat: Text.PlainText
                     text: qsTr("Welcome to Vesk")
                     font: Theme.fonts.welcome
                     color: Theme.primary
@@ -107,6 +108,7 @@ FocusScope {
                     width: parent.width
                     horizontalAlignment: Text.AlignHCenter
                     wrapMode: Text.Wrap
+                    textFormat: Text.PlainText
                     text: qsTr("A quiet notes pad that catches whatever you select.")
                     font: Theme.fonts.body
                     color: Theme.secondary
@@ -175,6 +177,7 @@ FocusScope {
             id: label
 
             anchors.centerIn: parent
+            textFormat: Text.PlainText
             text: qsTr("Got it")
             font: Theme.fonts.title
             color: Theme.onAccent

@@ -57,6 +57,7 @@ Item {
             anchors.rightMargin: Theme.wideSpace
             anchors.verticalCenter: parent.verticalCenter
             wrapMode: Text.Wrap
+            textFormat: Text.PlainText
             text: qsTr("Vesk needs Accessibility access to read selected text")
             font: Theme.fonts.small
             color: Theme.primary
@@ -86,6 +87,7 @@ Item {
                 id: label
 
                 anchors.centerIn: parent
+                textFormat: Text.PlainText
                 text: qsTr("Open Settings")
                 font: Theme.fonts.strongSmall
                 color: Theme.primary

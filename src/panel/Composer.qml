@@ -123,6 +123,7 @@ Plate {
                 id: placeholder
 
                 visible: edit.length === 0 && edit.preeditText.length === 0
+                textFormat: Text.PlainText
                 text: root.model.tab === PanelModel.Tab.Prompts ? qsTr("Write a follow-up prompt…") : qsTr("Write a note…")
                 font: edit.font
                 color: Theme.tertiary

@@ -22,6 +22,7 @@ Item {
 
             anchors.horizontalCenter: parent.horizontalCenter
             bottomPadding: 2
+            textFormat: Text.PlainText
             text: qsTr("No prompts yet")
             font: Theme.fonts.headline
             color: Theme.primary
@@ -37,6 +38,7 @@ Item {
 
                 anchors.verticalCenter: parent.verticalCenter
                 rightPadding: 2
+                textFormat: Text.PlainText
                 text: qsTr("Select text anywhere and tap")
                 font: Theme.fonts.body
                 color: Theme.secondary
@@ -60,6 +62,7 @@ Item {
             id: second
 
             anchors.horizontalCenter: parent.horizontalCenter
+            textFormat: Text.PlainText
             text: qsTr("or write a follow-up prompt below.")
             font: Theme.fonts.small
             color: Theme.secondary

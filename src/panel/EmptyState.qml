@@ -28,6 +28,7 @@ Item {
 
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
+            textFormat: Text.PlainText
             text: qsTr("Nothing here yet")
             font: Theme.fonts.headline
             color: Theme.primary
@@ -35,6 +36,7 @@ Item {
 
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
+            textFormat: Text.PlainText
             text: qsTr("Vesk catches whatever you select, from any app.")
             font: Theme.fonts.body
             color: Theme.secondary
@@ -85,6 +87,7 @@ Item {
                     anchors.verticalCenter: parent.verticalCenter
                     width: Math.min(implicitWidth, root.width - 136 - 3 * Theme.margin)
                     wrapMode: Text.Wrap
+                    textFormat: Text.PlainText
                     text: command.hint
                     font: Theme.fonts.hint
                     color: Theme.secondary

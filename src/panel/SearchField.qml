@@ -87,6 +87,7 @@ Plate {
         Text {
             anchors.verticalCenter: parent.verticalCenter
             visible: input.length === 0 && input.preeditText.length === 0
+            textFormat: Text.PlainText
             text: qsTr("Search")
             font: input.font
             color: Theme.tertiary
