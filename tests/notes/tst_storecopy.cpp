@@ -25,6 +25,7 @@ class TestStoreCopy : public QObject
 private Q_SLOTS:
     void init();
     void holdsWhatIsSavedWhileTheStoreIsOpen();
+    void isForItsUserOnly_data();
     void isForItsUserOnly();
     void staysAsItIs_data();
     void staysAsItIs();
@@ -82,9 +83,17 @@ void TestStoreCopy::holdsWhatIsSavedWhileTheStoreIsOpen()
     QVERIFY(m_copy->make());
 }
 
+void TestStoreCopy::isForItsUserOnly_data()
+{
+    QTest::addColumn<uint>("mask");
+    QTest::newRow("permissive") << 0U;
+    QTest::newRow("everything taken away") << 0777U;
+}
+
 void TestStoreCopy::isForItsUserOnly()
 {
-    const mode_t before = ::umask(0);
+    QFETCH(const uint, mask);
+    const mode_t before = ::umask(mask);
     const auto restore = qScopeGuard([before] { ::umask(before); });
     QVERIFY(m_copy->make());
     struct stat status = {};

@@ -133,6 +133,7 @@ void TestStoreFile::isForItsUserOnly_data()
     QTest::newRow("permissive") << 0U;
     QTest::newRow("usual") << 022U;
     QTest::newRow("odd") << 0277U;
+    QTest::newRow("everything taken away") << 0777U;
 }
 
 void TestStoreFile::isForItsUserOnly()

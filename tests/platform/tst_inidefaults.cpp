@@ -3,9 +3,12 @@
 #include "platform/freedesktop/inidefaults.h"
 
 #include <QFile>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 using namespace vesk;
@@ -19,6 +22,8 @@ private Q_SLOTS:
     void choicesOutliveTheProgram();
     void choiceOfAnotherProcessArrives();
     void fileThatCannotBeWrittenIsSaid();
+    void isForItsUserOnly_data();
+    void isForItsUserOnly();
 };
 
 void TestIniDefaults::choicesOutliveTheProgram()
@@ -64,6 +69,33 @@ void TestIniDefaults::fileThatCannotBeWrittenIsSaid()
     defaults.setBool(true, u"hasSeenGuide"_s);
     QVERIFY(defaults.boolForKey(u"hasSeenGuide"_s));
     QVERIFY(!defaults.isWritable());
+}
+
+void TestIniDefaults::isForItsUserOnly_data()
+{
+    QTest::addColumn<uint>("mask");
+    QTest::newRow("permissive") << 0U;
+    QTest::newRow("usual") << 022U;
+    QTest::newRow("everything taken away") << 0777U;
+}
+
+void TestIniDefaults::isForItsUserOnly()
+{
+    QFETCH(const uint, mask);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"Vesk/Vesk.conf"_s);
+    const mode_t before = ::umask(mask);
+    const auto restore = qScopeGuard([before] { ::umask(before); });
+    IniDefaults defaults(path);
+    for (const bool value : {true, false}) {
+        defaults.setBool(value, u"hasSeenGuide"_s);
+        QVERIFY(defaults.isWritable());
+        struct stat status = {};
+        QCOMPARE(::stat(QFile::encodeName(path).constData(), &status), 0);
+        QCOMPARE(status.st_mode & 07777, mode_t{0600});
+        QCOMPARE(::stat(QFile::encodeName(folder.filePath(u"Vesk"_s)).constData(), &status), 0);
+        QCOMPARE(status.st_mode & 07777, mode_t{0700});
+    }
 }
 
 QTEST_GUILESS_MAIN(TestIniDefaults)

@@ -9,6 +9,12 @@
 
 namespace vesk {
 
+namespace {
+
+constexpr QFile::Permissions kForItsUser = QFile::ReadOwner | QFile::WriteOwner;
+
+} // namespace
+
 QString IniDefaults::standardPath()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
@@ -36,6 +42,10 @@ void IniDefaults::setBool(bool value, const QString &key)
     if (m_values.contains(key) && m_values.value(key) == value)
         return;
     m_values.insert(key, value);
+    // QSettings leaves the rights of a file that is there as they are.
+    QFile file(m_path);
+    if (file.open(QIODevice::NewOnly | QIODevice::WriteOnly, kForItsUser))
+        file.setPermissions(kForItsUser);
     QSettings settings(m_path, QSettings::IniFormat);
     settings.setValue(key, value);
     settings.sync();
@@ -58,7 +68,13 @@ QHash<QString, bool> IniDefaults::readFile() const
 void IniDefaults::watch()
 {
     const QString folder = QFileInfo(m_path).path();
-    QDir().mkpath(folder);
+    if (!QFileInfo::exists(folder)) {
+        QDir().mkpath(QFileInfo(folder).path());
+        // Twice, because the process's mask takes away from what is asked for at first.
+        constexpr auto kRights = kForItsUser | QFile::ExeOwner;
+        if (QDir().mkdir(folder, kRights))
+            QFile::setPermissions(folder, kRights);
+    }
     if (!m_watcher.directories().contains(folder))
         m_watcher.addPath(folder);
     if (QFile::exists(m_path) && !m_watcher.files().contains(m_path))
