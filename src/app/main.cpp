@@ -12,6 +12,7 @@
 #include "components/surroundings.h"
 #include "notes/notesstore.h"
 #include "notes/storecopy.h"
+#include "platform/freedesktop/coredumps.h"
 
 #include <QCoroTask>
 
@@ -140,6 +141,7 @@ int runAccess(int argc, char *argv[])
 
 int main(int argc, char *argv[])
 {
+    vesk::forbidCoreDumps();
     const std::span<char *> words(argv, static_cast<size_t>(argc));
     QCoreApplication::setApplicationName(u"Vesk"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(VESK_VERSION));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "client/client.h"
+#include "platform/freedesktop/coredumps.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -9,6 +10,7 @@ using namespace Qt::StringLiterals;
 int main(int argc, char *argv[])
 {
     constexpr int kWrongUse = 2;
+    vesk::forbidCoreDumps();
     const QCoreApplication program(argc, argv);
     QCoreApplication::setApplicationName(u"Vesk"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(VESK_VERSION));

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/editortest.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+
+namespace {
+
+QString contentsOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// The inodes that the process has sockets for.
+QSet<QString> socketsOf(qint64 process)
+{
+    QSet<QString> inodes;
+    const QDir folder(u"/proc/%1/fd"_s.arg(process));
+    for (const QString &name : folder.entryList(QDir::Files | QDir::System)) {
+        char target[64] = {};
+        const QByteArray path = QFile::encodeName(folder.filePath(name));
+        static_cast<void>(::readlink(path.constData(), target, sizeof(target) - 1));
+        const QString socket = QString::fromLatin1(target);
+        if (socket.startsWith(u"socket:["_s))
+            inodes.insert(socket.sliced(8).chopped(1));
+    }
+    return inodes;
+}
+
+} // namespace
+
+/// Who can learn of a note: its user, and nobody else.
+class TestPrivacy : public EditorTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void noteStaysBetweenVeskAndItsUser();
+    void otherUsersAreRefusedByTheBus();
+};
+
+void TestPrivacy::noteStaysBetweenVeskAndItsUser()
+{
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    capture();
+    VERIFY_ON(*m_desktop, waitNotice(kSaved));
+    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
+    tapShiftTwice();
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(
+                              kBound, [this] { return m_desktop->notes().promptTexts().size() == 1; }));
+    QVERIFY(runToEnd(VirtualDesktop::veskProgram(), {u"add"_s, u"Return the ladder"_s}));
+    togglePanel();
+    const auto panel = m_desktop->windows().waitViewable(kPanel, kBound);
+    VERIFY_ON(*m_desktop, panel);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
+    m_desktop->keyboard().tap({XK_Control_L, XK_f}, kFinger);
+    m_desktop->keyboard().type(u"ladder"_s);
+
+    // Nothing goes over a network: every socket is one of this machine's own.
+    const QSet<QString> sockets = socketsOf(m_vesk->pid());
+    QVERIFY(!sockets.isEmpty());
+    const QString own = contentsOf(u"/proc/net/unix"_s);
+    for (const QString &inode : sockets) {
+        const QRegularExpression line(u" %1( |$)"_s.arg(inode), QRegularExpression::MultilineOption);
+        QVERIFY2(own.contains(line), qPrintable(u"Socket %1 is of another kind."_s.arg(inode)));
+    }
+    const QString limits = contentsOf(u"/proc/%1/limits"_s.arg(m_vesk->pid()));
+    QVERIFY2(limits.contains(QRegularExpression(u"Max core file size +0 "_s)), qPrintable(limits));
+
+    const QString folder = QFileInfo(m_desktop->notes().path()).path();
+    for (const QString &name : QDir(folder).entryList(QDir::Files | QDir::Hidden)) {
+        constexpr auto kOthers = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+        QVERIFY2(!(QFile::permissions(folder + u'/' + name) & kOthers), qPrintable(name));
+    }
+
+    QVERIFY(m_vesk->quit());
+    QCOMPARE(m_desktop->notes().texts(), (QStringList{m_lines.at(0), u"Return the ladder"_s}));
+    for (const QString &word : {u"lemon"_s, u"Ghent"_s, u"ladder"_s}) {
+        QVERIFY2(!m_vesk->errorOutput().contains(word), qPrintable(m_vesk->errorOutput()));
+        QVERIFY(!m_vesk->output().contains(word));
+    }
+}
+
+void TestPrivacy::otherUsersAreRefusedByTheBus()
+{
+    const QStringList call{u"dbus-send"_s,      u"--bus="_s + m_desktop->busAddress(),
+                           u"--print-reply"_s,  u"--dest=org.vesk.Vesk"_s,
+                           u"/org/vesk/Vesk"_s, u"org.freedesktop.DBus.Peer.Ping"_s};
+    QVERIFY(runToEnd(call.first(), call.mid(1)));
+    if (::geteuid() != 0)
+        QSKIP("Only root can be another user.");
+    // The way to the socket must not be what stops him.
+    const QString socket = m_desktop->busAddress().section(u"path="_s, 1).section(u',', 0, 0);
+    for (QString folder = QFileInfo(socket).path(); folder.size() > QDir::tempPath().size();
+         folder = QFileInfo(folder).path())
+        QFile::setPermissions(folder, QFile::permissions(folder) | QFile::ExeOther);
+    QFile::setPermissions(socket, QFile::permissions(socket) | QFile::ReadOther | QFile::WriteOther);
+    const std::unique_ptr<ChildProcess> other = m_desktop->run(
+        u"setpriv"_s, QStringList{u"--reuid=65534"_s, u"--regid=65534"_s, u"--clear-groups"_s} + call);
+    QVERIFY(other && other->waitForExit(kBound));
+    QCOMPARE(other->exitCode(), 1);
+    QVERIFY2(!other->errorOutput().contains(u"Permission denied"_s), qPrintable(other->errorOutput()));
+}
+
+int main(int argc, char **argv)
+{
+    return runDesktopTest<TestPrivacy>(argc, argv);
+}
+
+#include "tst_privacy.moc"
