@@ -68,6 +68,7 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
                   .quickNote = m_quickNote,
                   .toast = m_toast})
     , m_commands(m_panelWindow.window(), *m_panel.editor())
+    , m_memoryTrim(desktop.application)
 {
     connect(&desktop.application, &Application::reopened, &m_panelWindow, &PanelWindow::showPanel);
     connect(&desktop.accessibility, &X11Accessibility::trustAsked, &m_accessWindow, &AccessWindow::show);

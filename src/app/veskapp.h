@@ -3,6 +3,7 @@
 
 #include "app/accesswindow.h"
 #include "app/appupdater.h"
+#include "app/memorytrim.h"
 #include "app/menucommands.h"
 #include "capture/pasteback.h"
 #include "capture/pasteboardwatcher.h"
@@ -64,6 +65,7 @@ private:
     AppUpdater m_updater;
     VeskServices m_services;
     MenuCommands m_commands;
+    MemoryTrim m_memoryTrim;
     std::unique_ptr<StatusIcon> m_statusIcon;
 };
 

@@ -31,7 +31,7 @@ QJsonObject toJson(const Note::Fields &note)
 {
     QJsonObject object{
         {u"id"_s, note.id.toString(QUuid::WithoutBraces)},
-        {u"text"_s, note.text},
+        {u"text"_s, note.text.toString()},
         {u"createdAt"_s, timeOf(note.createdAt).toString(Qt::ISODateWithMs)},
         {u"updatedAt"_s, timeOf(note.updatedAt).toString(Qt::ISODateWithMs)},
         {u"isPinned"_s, note.isPinned},
@@ -58,7 +58,7 @@ QByteArray notesAsLines(std::vector<Note::Fields> notes)
     for (const Note::Fields &note : notes) {
         const QString time = timeOf(note.updatedAt).toLocalTime().toString(u"yyyy-MM-dd HH:mm"_s);
         // A title is one line already; other controls, which could steer a terminal, are left out.
-        QString title = markup::title(note.text);
+        QString title = markup::title(note.text.toString());
         title.removeIf([](QChar character) { return character.category() == QChar::Other_Control; });
         lines += time.toUtf8() + '\t' + title.toUtf8() + '\n';
     }

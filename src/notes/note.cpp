@@ -34,7 +34,6 @@ Note::Note(const Clock &clock, Fields fields)
     : m_clock(clock)
     , m_fields(std::move(fields))
 {
-    m_fields.text = markup::wellFormed(m_fields.text);
     makeWellFormed(m_fields.sourceApp);
     makeWellFormed(m_fields.sourceBundleID);
     makeWellFormed(m_fields.sourceTitle);
@@ -43,7 +42,7 @@ Note::Note(const Clock &clock, Fields fields)
 
 void Note::setText(const QString &text)
 {
-    m_fields.text = markup::wellFormed(text);
+    m_fields.text = text;
     m_fields.updatedAt = m_clock.now();
     changed();
 }
@@ -58,21 +57,22 @@ void Note::setPinned(bool isPinned)
 
 void Note::toggleItem(qsizetype line)
 {
-    QString toggled = markup::toggledItem(m_fields.text, line);
-    if (toggled == m_fields.text)
+    const QString before = text();
+    const QString toggled = markup::toggledItem(before, line);
+    if (toggled == before)
         return;
-    m_fields.text = std::move(toggled);
+    m_fields.text = toggled;
     changed();
 }
 
 void Note::addChecklistItems(const QString &text)
 {
-    setText(markup::withChecklistItems(m_fields.text, markup::wellFormed(text)));
+    setText(markup::withChecklistItems(this->text(), markup::wellFormed(text)));
 }
 
 void Note::append(const QString &text)
 {
-    setText(markup::appended(m_fields.text, markup::wellFormed(text)));
+    setText(markup::appended(this->text(), markup::wellFormed(text)));
 }
 
 void Note::changed()

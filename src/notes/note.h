@@ -2,6 +2,7 @@
 #pragma once
 
 #include "notes/capturesource.h"
+#include "notes/compacttext.h"
 #include "notes/markup.h"
 #include "notes/record.h"
 #include "platform/clock.h"
@@ -21,7 +22,7 @@ public:
     struct Fields
     {
         RecordId id;
-        QString text;
+        CompactText text;
         Date createdAt{};
         Date updatedAt{};
         bool isPinned = false;
@@ -52,7 +53,9 @@ public:
     void append(const QString &text);
 
     [[nodiscard]] const RecordId &id() const { return m_fields.id; }
-    [[nodiscard]] const QString &text() const { return m_fields.text; }
+    /// Converted on every call.
+    [[nodiscard]] QString text() const { return m_fields.text.toString(); }
+    [[nodiscard]] const QByteArray &utf8Text() const { return m_fields.text.utf8(); }
     [[nodiscard]] Date createdAt() const { return m_fields.createdAt; }
     [[nodiscard]] Date updatedAt() const { return m_fields.updatedAt; }
     [[nodiscard]] bool isPinned() const { return m_fields.isPinned; }

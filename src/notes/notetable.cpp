@@ -30,7 +30,7 @@ std::vector<Note::Fields> NoteTable::load()
     while (select.executeStep()) {
         result.push_back({
             .id = sqlvalues::id(select.getColumn(0)),
-            .text = sqlvalues::text(select.getColumn(1)),
+            .text = sqlvalues::compactText(select.getColumn(1)),
             .createdAt = sqlvalues::date(select.getColumn(2)),
             .updatedAt = sqlvalues::date(select.getColumn(3)),
             .isPinned = select.getColumn(4).getInt() != 0,
@@ -48,7 +48,7 @@ void NoteTable::write(const Note &note)
     // Also after a failure, which leaves the statement where it stopped.
     m_write.tryReset();
     sqlvalues::bind(m_write, 1, note.id());
-    sqlvalues::bind(m_write, 2, note.text());
+    sqlvalues::bind(m_write, 2, note.utf8Text());
     sqlvalues::bind(m_write, 3, note.createdAt());
     sqlvalues::bind(m_write, 4, note.updatedAt());
     sqlvalues::bind(m_write, 5, note.isPinned());

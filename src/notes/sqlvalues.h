@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "notes/compacttext.h"
 #include "notes/record.h"
 #include "platform/clock.h"
 
@@ -18,6 +19,11 @@ inline void bind(SQLite::Statement &statement, int index, const QString &text)
 {
     // By its length, so that a NUL does not end it.
     statement.bind(index, text.toStdString());
+}
+
+inline void bind(SQLite::Statement &statement, int index, const QByteArray &utf8)
+{
+    statement.bind(index, utf8.toStdString());
 }
 
 inline void bind(SQLite::Statement &statement, int index, const std::optional<QString> &text)
@@ -43,15 +49,15 @@ inline void bind(SQLite::Statement &statement, int index, bool value)
     statement.bind(index, value ? 1 : 0);
 }
 
-[[nodiscard]] inline QString text(const SQLite::Column &column)
+[[nodiscard]] inline CompactText compactText(const SQLite::Column &column)
 {
     const auto *data = static_cast<const char *>(column.getBlob());
-    const QByteArrayView utf8(data, column.getBytes());
-    QString result = QString::fromUtf8(utf8);
-    // Qt takes U+FEFF at the start for a byte order mark and drops it.
-    if (utf8.startsWith("\xEF\xBB\xBF"))
-        result.prepend(QChar(QChar::ByteOrderMark));
-    return result;
+    return CompactText::fromUtf8(QByteArrayView(data, column.getBytes()));
+}
+
+[[nodiscard]] inline QString text(const SQLite::Column &column)
+{
+    return compactText(column).toString();
 }
 
 [[nodiscard]] inline std::optional<QString> optionalText(const SQLite::Column &column)

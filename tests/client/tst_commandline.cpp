@@ -121,10 +121,10 @@ void TestCommandLine::listsNewestFirst()
 
     const QJsonArray array = QJsonDocument::fromJson(notesAsJson({older, newer})).array();
     QCOMPARE(array.size(), 2);
-    QCOMPARE(array.at(0).toObject().value(u"text"_s), newer.text);
+    QCOMPARE(array.at(0).toObject().value(u"text"_s), newer.text.toString());
     const QJsonObject expected{
         {u"id"_s, id.toString(QUuid::WithoutBraces)},
-        {u"text"_s, older.text},
+        {u"text"_s, older.text.toString()},
         {u"createdAt"_s, u"1970-01-01T00:00:01.000Z"_s},
         {u"updatedAt"_s, u"1970-01-01T00:00:02.000Z"_s},
         {u"isPinned"_s, true},
