@@ -13,5 +13,5 @@ function(vesk_test name)
     vesk_compile_options(${target})
     add_test(NAME ${name} COMMAND ${target})
     set_tests_properties(${name} PROPERTIES LABELS unit TIMEOUT 120
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LANGUAGE=")
 endfunction()

@@ -4,6 +4,7 @@
 #include "platform/freedesktop/consent.h"
 #include "platform/freedesktop/inidefaults.h"
 
+#include <QCoreApplication>
 #include <QTextStream>
 
 namespace vesk {
@@ -18,18 +19,24 @@ int runAccessCommand(const QStringList &arguments)
     const QString action = arguments.value(0);
     const bool isKnown = action == "allow"_L1 || action == "deny"_L1 || action == "status"_L1;
     if (arguments.size() != 1 || !isKnown) {
-        errors << "Usage: vesk access allow|deny|status\n";
+        errors << QCoreApplication::translate("vesk::AccessCommand", "Usage: %1")
+                      .arg(u"vesk access allow|deny|status"_s)
+               << '\n';
         return kWrongUse;
     }
     IniDefaults defaults(IniDefaults::standardPath());
     Consent consent(defaults);
     if (action == "status"_L1) {
-        output << (consent.isGiven() ? "allowed\n" : "not allowed\n");
+        output << (consent.isGiven() ? QCoreApplication::translate("vesk::AccessCommand", "allowed")
+                                     : QCoreApplication::translate("vesk::AccessCommand", "not allowed"))
+               << '\n';
         return consent.isGiven() ? 0 : 1;
     }
     consent.setGiven(action == "allow"_L1);
     if (!defaults.isWritable()) {
-        errors << "The choice could not be written to " << IniDefaults::standardPath() << ".\n";
+        errors << QCoreApplication::translate("vesk::AccessCommand", "The choice could not be written to %1.")
+                      .arg(IniDefaults::standardPath())
+               << '\n';
         return 1;
     }
     return 0;

@@ -9,15 +9,15 @@ namespace {
 
 MessageWindow::Content question()
 {
-    return {.heading = QObject::tr("Let Vesk read what you select?"),
-            .message = QObject::tr(
+    return {.heading = AccessWindow::tr("Let Vesk read what you select?"),
+            .message = AccessWindow::tr(
                 "When you press one of Vesk’s keys, Vesk reads the text that is selected, or was copied a "
                 "moment before, and where it is: the application, its window’s title and, in a browser, the "
                 "page’s address. At other times it only notices when a key or button was pressed, not which "
                 "one, to tell what is selected now from what was. It sends nothing anywhere.\n\n"
                 "Applications that are open already may have to be started again before Vesk can read them."),
-            .acceptLabel = QObject::tr("Allow"),
-            .rejectLabel = QObject::tr("Not Now")};
+            .acceptLabel = AccessWindow::tr("Allow"),
+            .rejectLabel = AccessWindow::tr("Not Now")};
 }
 
 } // namespace

@@ -13,6 +13,7 @@
 #include "notes/notesstore.h"
 #include "notes/storecopy.h"
 #include "platform/freedesktop/coredumps.h"
+#include "translations/translation.h"
 
 #include <QCoroTask>
 
@@ -29,6 +30,12 @@
 namespace {
 
 using namespace Qt::StringLiterals;
+
+/// The texts of this file are few, and of no class.
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(vesk::Main)
+};
 
 void say(const QString &message)
 {
@@ -83,15 +90,15 @@ int runVesk(bool isInBackground)
     case vesk::ApplicationService::Claim::Forwarded:
         return 0;
     case vesk::ApplicationService::Claim::NoAnswer:
-        say(u"Vesk is running already, and does not answer."_s);
+        say(Texts::tr("Vesk is running already, and does not answer."));
         return 1;
     case vesk::ApplicationService::Claim::NoBus:
-        say(u"Vesk needs the session's message bus, and there is none."_s);
+        say(Texts::tr("Vesk needs the session's message bus, and there is none."));
         return 1;
     }
     vesk::X11Connection::OpenResult x11 = vesk::X11Connection::open();
     if (!x11.connection) {
-        say(u"Vesk cannot start: %1"_s.arg(x11.error));
+        say(Texts::tr("Vesk cannot start: %1").arg(x11.error));
         return 1;
     }
     vesk::Desktop desktop(std::move(x11.connection), service);
@@ -118,22 +125,27 @@ int runVesk(bool isInBackground)
 int refuseWithoutServer(int argc, char *argv[])
 {
     const QCoreApplication program(argc, argv);
+    const vesk::Translation translation;
     const bool isWayland = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
     const QString message =
         isWayland
-            ? u"Vesk needs an X11 desktop, and this is a Wayland desktop without an X server. Log in to a "
-              "session of X11, or use the commands that need none: vesk add and vesk list."_s
-            : u"Vesk needs an X11 desktop, and there is no X server at \"%1\". The commands vesk add and "
-              "vesk list need none."_s.arg(qEnvironmentVariable("DISPLAY"));
+            ? Texts::tr(
+                "Vesk needs an X11 desktop, and this is a Wayland desktop without an X server. Log in to a "
+                "session of X11, or use the commands that need none: vesk add and vesk list.")
+            : Texts::tr(
+                  "Vesk needs an X11 desktop, and there is no X server at \"%1\". The commands vesk add and "
+                  "vesk list need none.")
+                  .arg(qEnvironmentVariable("DISPLAY"));
     say(message);
     if (isWayland)
-        vesk::notifyUser(u"Vesk cannot start"_s, message);
+        vesk::notifyUser(Texts::tr("Vesk cannot start"), message);
     return 1;
 }
 
 int runAccess(int argc, char *argv[])
 {
     const QCoreApplication program(argc, argv);
+    const vesk::Translation translation;
     return vesk::runAccessCommand(QCoreApplication::arguments().mid(2));
 }
 
@@ -163,6 +175,8 @@ int main(int argc, char *argv[])
     if (!has("--gpu"))
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     const QGuiApplication program(argc, argv);
+    const vesk::Translation translation;
+    QGuiApplication::setLayoutDirection(translation.language().textDirection());
     QGuiApplication::setQuitOnLastWindowClosed(false);
     // Qt's text fields read the clipboard whenever it changes, and Qt waits for its owner: for seconds if
     // that one hangs, or is Vesk itself. They are not told of changes, and paste by our own pasteboard.

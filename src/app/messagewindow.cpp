@@ -12,7 +12,7 @@ MessageWindow::MessageWindow(QQmlEngine &engine, const Content &content)
     : m_view(&engine, nullptr)
     , m_isRejectCostly(content.isRejectCostly)
 {
-    m_view.setTitle(u"Vesk: %1"_s.arg(content.heading));
+    m_view.setTitle(tr("Vesk: %1").arg(content.heading));
     m_view.setFlags(Qt::Dialog);
     m_view.setResizeMode(QQuickView::SizeViewToRootObject);
     m_view.setInitialProperties({{u"heading"_s, content.heading},

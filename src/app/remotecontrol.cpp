@@ -30,20 +30,21 @@ void RemoteControl::AddNote(const QString &text, const QDBusMessage &message) co
 {
     const QString trimmed = text.trimmed();
     if (trimmed.isEmpty())
-        refuse(message, QDBusError::InvalidArgs, u"There is no text to add."_s);
+        refuse(message, QDBusError::InvalidArgs, tr("There is no text to add."));
     else if (trimmed.toUtf8().size() > kMaximumTextBytes)
-        refuse(message, QDBusError::LimitsExceeded, u"The text is too long for a note."_s);
+        refuse(message, QDBusError::LimitsExceeded, tr("The text is too long for a note."));
     else if (!m_commands.addNote(trimmed))
         // The store holds on to it and writes it when the disk lets it.
         refuse(
             message, QDBusError::Failed,
-            u"The note is not saved yet: the disk takes nothing. Vesk keeps it and goes on trying; do not add it again."_s);
+            tr("The note is not saved yet: the disk takes nothing. Vesk keeps it and goes on trying; do not "
+               "add it again."));
 }
 
 void RemoteControl::carryOut(const std::function<void()> &command, const QDBusMessage &message)
 {
     if (!command) {
-        refuse(message, QDBusError::NotSupported, u"This Vesk cannot do that."_s);
+        refuse(message, QDBusError::NotSupported, tr("This Vesk cannot do that."));
         return;
     }
     message.setDelayedReply(true);

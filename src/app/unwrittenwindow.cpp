@@ -12,13 +12,13 @@ namespace {
 
 MessageWindow::Content contentFor(const QString &texts)
 {
-    return {.heading = QObject::tr("Some notes are not saved"),
-            .message = QObject::tr(
+    return {.heading = UnwrittenWindow::tr("Some notes are not saved"),
+            .message = UnwrittenWindow::tr(
                 "Vesk could not write them to the disk, which may be full. It keeps trying while this window "
                 "is open, and once more when you quit. To be safe, copy them and paste them elsewhere before "
                 "that."),
-            .acceptLabel = QObject::tr("Copy"),
-            .rejectLabel = QObject::tr("Quit"),
+            .acceptLabel = UnwrittenWindow::tr("Copy"),
+            .rejectLabel = UnwrittenWindow::tr("Quit"),
             .details = texts,
             .isRejectCostly = true};
 }

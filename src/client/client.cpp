@@ -25,11 +25,16 @@ namespace {
 constexpr int kDone = 0;
 constexpr int kFailed = 1;
 
-const QString kNoBus = u"Vesk needs the session's message bus, and there is none: run this in your desktop's "
-                       "session."_s;
+QString noBus()
+{
+    return Client::tr("Vesk needs the session's message bus, and there is none: run this in your desktop's "
+                      "session.");
+}
 
-const QString kTooLong =
-    u"The text is longer than the %1 MB that a note may have."_s.arg(kMaximumTextBytes >> 20);
+QString tooLong()
+{
+    return Client::tr("The text is longer than the %1 MB that a note may have.").arg(kMaximumTextBytes >> 20);
+}
 
 int outcome(const Remote::Answer &answer)
 {
@@ -44,7 +49,7 @@ int print(const QByteArray &text)
     const bool isWritten =
         output.open(stdout, QIODevice::WriteOnly) && output.write(text) == text.size() && output.flush();
     if (!isWritten)
-        sayError(u"Standard output takes no more: %1."_s.arg(output.errorString()));
+        sayError(Client::tr("Standard output takes no more: %1.").arg(output.errorString()));
     return isWritten ? kDone : kFailed;
 }
 
@@ -105,7 +110,7 @@ int Client::start(const CommandLine &command)
 int Client::call(const QString &method)
 {
     if (!m_remote.hasBus()) {
-        sayError(kNoBus);
+        sayError(noBus());
         return kFailed;
     }
     if (!m_remote.isRunning()) {
@@ -129,7 +134,7 @@ int Client::addInput()
 {
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly)) {
-        sayError(u"Standard input cannot be read."_s);
+        sayError(tr("Standard input cannot be read."));
         return kFailed;
     }
     // A pipe gives what it has at the moment, so it is read until it gives nothing.
@@ -138,14 +143,14 @@ int Client::addInput()
     for (QByteArray part = input.read(kPart); !part.isEmpty(); part = input.read(kPart)) {
         bytes += part;
         if (bytes.size() > kMaximumTextBytes) {
-            sayError(kTooLong);
+            sayError(tooLong());
             return kFailed;
         }
     }
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder.decode(bytes);
     if (decoder.hasError() || text.contains(QChar::Null)) {
-        sayError(u"Standard input is not plain text in UTF-8."_s);
+        sayError(tr("Standard input is not plain text in UTF-8."));
         return kFailed;
     }
     return add(text);
@@ -155,15 +160,15 @@ int Client::add(const QString &text)
 {
     const QString trimmed = text.trimmed();
     if (trimmed.isEmpty()) {
-        sayError(u"There is no text to add."_s);
+        sayError(tr("There is no text to add."));
         return kFailed;
     }
     if (trimmed.toUtf8().size() > kMaximumTextBytes) {
-        sayError(kTooLong);
+        sayError(tooLong());
         return kFailed;
     }
     if (!m_remote.hasBus()) {
-        sayError(kNoBus);
+        sayError(noBus());
         return kFailed;
     }
     // A running Vesk has all notes in memory, so it alone may write. The name is the lock: who has it is
@@ -178,12 +183,12 @@ int Client::addToStore(const QString &text)
     SystemClock clock;
     const NotesStore::OpenResult opened = NotesStore::open(NotesStore::standardPath(), clock);
     if (!opened.store) {
-        sayError(u"Could not open the notes store: %1"_s.arg(opened.error));
+        sayError(tr("Could not open the notes store: %1").arg(opened.error));
         return kFailed;
     }
     opened.store->insert(std::make_unique<Note>(clock, text));
     if (!opened.store->save()) {
-        sayError(u"The note could not be written to %1."_s.arg(NotesStore::standardPath()));
+        sayError(tr("The note could not be written to %1.").arg(NotesStore::standardPath()));
         return kFailed;
     }
     return kDone;
@@ -201,7 +206,7 @@ int Client::becomeApp(const QStringList &arguments)
     pointers.push_back(nullptr);
     const QByteArray app = QFile::encodeName(m_app);
     execv(app.constData(), pointers.data());
-    sayError(u"%1 could not be started: %2."_s.arg(m_app, qt_error_string(errno)));
+    sayError(tr("%1 could not be started: %2.").arg(m_app, qt_error_string(errno)));
     return kFailed;
 }
 

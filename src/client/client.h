@@ -4,11 +4,15 @@
 #include "client/commandline.h"
 #include "client/remote.h"
 
+#include <QCoreApplication>
+
 namespace vesk {
 
 /// Does what a command line asks for. One for the run of the program.
 class Client final
 {
+    Q_DECLARE_TR_FUNCTIONS(vesk::Client)
+
 public:
     /// `app` is the path of the program that shows the windows.
     explicit Client(QString app);

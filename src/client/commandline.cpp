@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "client/commandline.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
+#include <span>
 
 using namespace Qt::StringLiterals;
 
@@ -23,7 +26,7 @@ struct Form
     QLatin1StringView method;
 };
 
-// The usage below, the completions and the manual page list the same.
+// The usages below, the completions and the manual page list the same.
 constexpr std::array kForms{
     Form{"toggle"_L1, ""_L1, Kind::Call, "Toggle"_L1},
     Form{"write"_L1, ""_L1, Kind::Call, "Write"_L1},
@@ -40,35 +43,60 @@ constexpr std::array kForms{
     Form{"help"_L1, ""_L1, Kind::Help, ""_L1},
 };
 
-constexpr auto kUsage = R"(Usage: vesk [command]
+/// What is said here.
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(vesk::CommandLine)
+};
 
-Keeps what you select, anywhere. Without a command: starts Vesk, or shows the panel of the Vesk that
-runs.
+/// How the program is called, and what that does.
+struct Usage
+{
+    const char *call;
+    const char *effect;
+};
 
-Commands for the running Vesk, which is started in the background if none runs:
-  toggle                           show or hide the panel
-  write                            show the panel to write a note
-  capture                          keep the selected text as a note
-  capture --append                 add it to the note changed last
-  capture --checklist              keep each selected line as a checkbox
-  add-to-checklist                 add the selected lines to the checklist changed last
-  save-prompt                      keep the selected text as a prompt
-  quick-note [--checklist]         open the box for a quick note
-  quit                             end Vesk
+constexpr std::array kCommands{
+    Usage{"toggle", QT_TRANSLATE_NOOP("vesk::CommandLine", "show or hide the panel")},
+    Usage{"write", QT_TRANSLATE_NOOP("vesk::CommandLine", "show the panel to write a note")},
+    Usage{"capture", QT_TRANSLATE_NOOP("vesk::CommandLine", "keep the selected text as a note")},
+    Usage{"capture --append", QT_TRANSLATE_NOOP("vesk::CommandLine", "add it to the note changed last")},
+    Usage{"capture --checklist",
+          QT_TRANSLATE_NOOP("vesk::CommandLine", "keep each selected line as a checkbox")},
+    Usage{"add-to-checklist",
+          QT_TRANSLATE_NOOP("vesk::CommandLine", "add the selected lines to the checklist changed last")},
+    Usage{"save-prompt", QT_TRANSLATE_NOOP("vesk::CommandLine", "keep the selected text as a prompt")},
+    Usage{"quick-note [--checklist]",
+          QT_TRANSLATE_NOOP("vesk::CommandLine", "open the box for a quick note")},
+    Usage{"quit", QT_TRANSLATE_NOOP("vesk::CommandLine", "end Vesk")},
+};
 
-Commands that need no running Vesk:
-  add TEXT                         keep TEXT as a note; "vesk add -" takes it from standard input
-  list [--json]                    print the notes, newest first
-  access allow|deny|status         whether Vesk may read what is selected in other applications
+constexpr std::array kOwnCommands{
+    Usage{"add TEXT", QT_TRANSLATE_NOOP("vesk::CommandLine",
+                                        "keep TEXT as a note; \"vesk add -\" takes it from standard input")},
+    Usage{"list [--json]", QT_TRANSLATE_NOOP("vesk::CommandLine", "print the notes, newest first")},
+    Usage{"access allow|deny|status",
+          QT_TRANSLATE_NOOP("vesk::CommandLine",
+                            "whether Vesk may read what is selected in other applications")},
+};
 
-Options:
-  --background                     start without showing the panel
-  --gpu                            draw the windows by the GPU (only at the start)
-  -h, --help                       print this
-  -v, --version                    print the version
+constexpr std::array kOptions{
+    Usage{"--background", QT_TRANSLATE_NOOP("vesk::CommandLine", "start without showing the panel")},
+    Usage{"--gpu", QT_TRANSLATE_NOOP("vesk::CommandLine", "draw the windows by the GPU (only at the start)")},
+    Usage{"-h, --help", QT_TRANSLATE_NOOP("vesk::CommandLine", "print this")},
+    Usage{"-v, --version", QT_TRANSLATE_NOOP("vesk::CommandLine", "print the version")},
+};
 
-Exit status: 0 done, 1 failed (standard error says why), 2 wrong use.
-)"_L1;
+/// A heading, and a line for each of `usages`.
+QString section(const QString &heading, std::span<const Usage> usages)
+{
+    constexpr int kColumn = 33;
+    QString text = heading + u'\n';
+    for (const Usage &usage : usages)
+        text += u"  "_s + QString::fromLatin1(usage.call).leftJustified(kColumn) + Texts::tr(usage.effect)
+                + u'\n';
+    return text + u'\n';
+}
 
 ParsedCommandLine wrong(const QString &error)
 {
@@ -87,7 +115,7 @@ ParsedCommandLine parseStart(const QStringList &words)
         if (word == "--background"_L1)
             command.isInBackground = true;
         else if (word != "--gpu"_L1)
-            return wrong(u"There is no option %1."_s.arg(word));
+            return wrong(Texts::tr("There is no option %1.").arg(word));
     }
     command.arguments = words;
     return right(command);
@@ -96,9 +124,9 @@ ParsedCommandLine parseStart(const QStringList &words)
 ParsedCommandLine parseAdd(const QStringList &words)
 {
     if (words.isEmpty())
-        return wrong(u"What is to be added? Give the text, or - to take it from standard input."_s);
+        return wrong(Texts::tr("What is to be added? Give the text, or - to take it from standard input."));
     if (words.size() > 1)
-        return wrong(u"Put the text into quotes, so that it is one argument."_s);
+        return wrong(Texts::tr("Put the text into quotes, so that it is one argument."));
     if (words.first() == "-"_L1)
         return right({.kind = Kind::AddInput});
     return right({.kind = Kind::Add, .text = words.first()});
@@ -108,14 +136,14 @@ ParsedCommandLine parseForm(const QString &word, const QStringList &options)
 {
     const auto isNamed = [&word](const Form &form) { return word == form.word; };
     if (std::ranges::none_of(kForms, isNamed))
-        return wrong(u"There is no command %1."_s.arg(word));
+        return wrong(Texts::tr("There is no command %1.").arg(word));
     if (options.size() > 1)
-        return wrong(u"%1 takes one option at most."_s.arg(word));
+        return wrong(Texts::tr("%1 takes one option at most.").arg(word));
     const QString option = options.value(0);
     const auto isMeant = [&](const Form &form) { return isNamed(form) && option == form.option; };
     const auto *const form = std::ranges::find_if(kForms, isMeant);
     if (form == kForms.end())
-        return wrong(u"%1 does not know %2."_s.arg(word, option));
+        return wrong(Texts::tr("%1 does not know %2.").arg(word, option));
     return right({.kind = form->kind, .method = form->method, .isJson = option == "--json"_L1});
 }
 
@@ -145,7 +173,15 @@ ParsedCommandLine parseCommandLine(const QStringList &words)
 
 QString commandLineHelp()
 {
-    return kUsage;
+    return Texts::tr("Usage: vesk [command]\n\nKeeps what you select, anywhere. Without a command: starts "
+                     "Vesk, or shows the panel of the Vesk that\nruns.")
+           + u"\n\n"_s
+           + section(Texts::tr("Commands for the running Vesk, which is started in the background if "
+                               "none runs:"),
+                     kCommands)
+           + section(Texts::tr("Commands that need no running Vesk:"), kOwnCommands)
+           + section(Texts::tr("Options:"), kOptions)
+           + Texts::tr("Exit status: 0 done, 1 failed (standard error says why), 2 wrong use.") + u'\n';
 }
 
 } // namespace vesk

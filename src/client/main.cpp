@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "client/client.h"
 #include "platform/freedesktop/coredumps.h"
+#include "translations/translation.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -14,9 +15,11 @@ int main(int argc, char *argv[])
     const QCoreApplication program(argc, argv);
     QCoreApplication::setApplicationName(u"Vesk"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(VESK_VERSION));
+    const vesk::Translation translation;
     const vesk::ParsedCommandLine parsed = vesk::parseCommandLine(QCoreApplication::arguments().mid(1));
     if (!parsed.command) {
-        vesk::sayError(parsed.error + u" See: vesk --help"_s);
+        //: After a sentence that says what is wrong with a command line.
+        vesk::sayError(parsed.error + u' ' + QCoreApplication::translate("main", "See: vesk --help"));
         return kWrongUse;
     }
     const QString app = QCoreApplication::applicationDirPath() + u'/' + QStringLiteral(VESK_APP_FROM_BIN);

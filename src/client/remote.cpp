@@ -105,7 +105,7 @@ Remote::Answer Remote::start(const QString &program)
     // a pipe that nobody reads would end the program at its first word.
     QTemporaryFile words(QDir::tempPath() + u"/vesk-start-XXXXXX"_s);
     if (!words.open())
-        return failed(u"No temporary file could be made in %1."_s.arg(QDir::tempPath()));
+        return failed(tr("No temporary file could be made in %1.").arg(QDir::tempPath()));
     QProcess process;
     process.setProgram(program);
     process.setArguments({u"--background"_s});
@@ -115,17 +115,17 @@ Remote::Answer Remote::start(const QString &program)
     process.setStandardErrorFile(words.fileName(), QIODevice::Append);
     qint64 pid = 0;
     if (!process.startDetached(&pid))
-        return failed(u"%1 could not be started."_s.arg(program));
+        return failed(tr("%1 could not be started.").arg(program));
     for (QDeadlineTimer deadline(kStartDeadline); !deadline.hasExpired();) {
         if (m_bus.interface()->isServiceRegistered(kService))
             return done();
         if (hasEnded(pid)) {
             const QString reason = contentsOf(words.fileName());
-            return failed(reason.isEmpty() ? u"Vesk ended as soon as it was started."_s : reason);
+            return failed(reason.isEmpty() ? tr("Vesk ended as soon as it was started.") : reason);
         }
         wait();
     }
-    return failed(u"Vesk was started, and does not answer yet."_s);
+    return failed(tr("Vesk was started, and does not answer yet."));
 }
 
 bool Remote::takeName()
@@ -139,7 +139,7 @@ Remote::Answer Remote::waitForEnd()
         if (!m_bus.interface()->isServiceRegistered(kService))
             return done();
     }
-    return failed(u"Vesk was told to quit, and has not ended yet."_s);
+    return failed(tr("Vesk was told to quit, and has not ended yet."));
 }
 
 Remote::Answer Remote::send(const QString &interface, const QString &method, const QVariantList &arguments)
@@ -153,11 +153,11 @@ Remote::Answer Remote::send(const QString &interface, const QString &method, con
     switch (QDBusError(reply).type()) {
     case QDBusError::NoReply:
     case QDBusError::TimedOut:
-        return failed(u"Vesk is running, and does not answer."_s);
+        return failed(tr("Vesk is running, and does not answer."));
     case QDBusError::UnknownInterface:
     case QDBusError::UnknownMethod:
-        return failed(u"The Vesk that is running does not know this command: it is of another version. "
-                      "Quit it and start it again."_s);
+        return failed(tr("The Vesk that is running does not know this command: it is of another version. "
+                         "Quit it and start it again."));
     default:
         return failed(reply.errorMessage());
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QString>
 #include <QVariantList>
@@ -13,6 +14,8 @@ namespace vesk {
 /// program that uses this does nothing else meanwhile.
 class Remote final
 {
+    Q_DECLARE_TR_FUNCTIONS(vesk::Remote)
+
 public:
     /// How a call went; `error` says in one sentence why it failed, and is empty if it did not.
     struct Answer

@@ -36,7 +36,7 @@ bool isTooLong(const QString &text)
 
 QString addedTo(const QString &title, const QString &untitled)
 {
-    return u"Added to “%1”"_s.arg(title.isEmpty() ? untitled : title);
+    return VeskServices::tr("Added to “%1”").arg(title.isEmpty() ? untitled : title);
 }
 
 /// The note changed last among those that have checkboxes; null if none has.
@@ -169,7 +169,7 @@ void VeskServices::addSelectionToChecklist()
     if (isWithinGap(m_lastCapture))
         return;
     if (!m_needs.accessibility.isProcessTrusted()) {
-        m_needs.toast.show(u"Vesk needs Accessibility access"_s, u"hand.raised.fill"_s);
+        m_needs.toast.show(tr("Vesk needs Accessibility access"), u"hand.raised.fill"_s);
         askForAccessOnce();
         return;
     }
@@ -185,7 +185,7 @@ QCoro::Task<> VeskServices::addToChecklist(Source press)
     if (selection)
         keepInChecklist(*selection);
     else
-        m_needs.toast.show(u"Select text to add to your checklist"_s, u"text.cursor"_s);
+        m_needs.toast.show(tr("Select text to add to your checklist"), u"text.cursor"_s);
 }
 
 void VeskServices::savePrompt()
@@ -229,12 +229,12 @@ void VeskServices::keep(const Selection &selection, Target target)
     if (newest && target == Target::LastNote) {
         const QString title = newest->title();
         newest->append(text);
-        saveAndConfirm(addedTo(title, u"New Note"_s), u"text.append"_s);
+        saveAndConfirm(addedTo(title, tr("New Note")), u"text.append"_s);
         return;
     }
     // Stored texts are well-formed, so the new one is compared as it would be stored.
     if (newest && newest->text() == markup::wellFormed(text)) {
-        saveAndConfirm(u"Already in Vesk"_s, kDone);
+        saveAndConfirm(tr("Already in Vesk"), kDone);
         return;
     }
     insertNote(text, selection.source);
@@ -251,7 +251,7 @@ void VeskServices::keepInChecklist(const Selection &selection)
     }
     const QString title = checklist->title();
     checklist->addChecklistItems(selection.text);
-    saveAndConfirm(addedTo(title, u"Checklist"_s), u"checklist"_s);
+    saveAndConfirm(addedTo(title, tr("Checklist")), u"checklist"_s);
 }
 
 void VeskServices::keepPrompt(const QString &text)
@@ -260,13 +260,13 @@ void VeskServices::keepPrompt(const QString &text)
         return;
     switch (promptrules::saveFromSelection(m_needs.store, m_needs.clock, text)) {
     case promptrules::SaveOutcome::Saved:
-        confirm(u"Saved to Prompts"_s, kDone);
+        confirm(tr("Saved to Prompts"), kDone);
         break;
     case promptrules::SaveOutcome::Pending:
         tellNotSaved();
         break;
     case promptrules::SaveOutcome::AlreadyThere:
-        m_needs.toast.show(u"Already in Prompts"_s, kDone);
+        m_needs.toast.show(tr("Already in Prompts"), kDone);
         break;
     }
 }
@@ -274,14 +274,14 @@ void VeskServices::keepPrompt(const QString &text)
 void VeskServices::insertNote(const QString &text, const std::optional<CaptureSource> &source)
 {
     m_needs.store.insert(std::make_unique<Note>(m_needs.clock, text, source));
-    saveAndConfirm(notices::kSaved.message.toString(), kDone);
+    saveAndConfirm(notices::kSaved.text(), kDone);
 }
 
 bool VeskServices::refuseTooLong(const QString &text)
 {
     if (!isTooLong(text))
         return false;
-    m_needs.toast.show(u"The selection is too long to keep"_s, kTrouble);
+    m_needs.toast.show(tr("The selection is too long to keep"), kTrouble);
     return true;
 }
 

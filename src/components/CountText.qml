@@ -10,7 +10,7 @@ Text {
     required property int count
 
     width: Math.max(implicitWidth, Theme.fonts.digitsWidth(root.font, root.text.length))
-    text: root.count
+    text: root.count.toLocaleString(Qt.locale(), "f", 0)
     textFormat: Text.PlainText
     horizontalAlignment: Text.AlignHCenter
     Accessible.ignored: true

@@ -42,7 +42,7 @@ Row {
         id: label
 
         anchors.verticalCenter: parent.verticalCenter
-        text: qsTr("%1 of %2").arg(root.done).arg(root.total)
+        text: qsTr("%L1 of %L2").arg(root.done).arg(root.total)
         textFormat: Text.PlainText
         font: Theme.fonts.caption
         color: Theme.secondary

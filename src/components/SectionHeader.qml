@@ -11,7 +11,7 @@ PressButton {
     required property int count
     required property bool isCollapsed
 
-    name: qsTr("%1, %2, %3").arg(title).arg(count === 1 ? qsTr("1 item") : qsTr("%1 items").arg(count)).arg(isCollapsed ? qsTr("collapsed") : qsTr("expanded"))
+    name: qsTr("%1, %2, %3").arg(title).arg(qsTr("%Ln items", "", count)).arg(isCollapsed ? qsTr("collapsed") : qsTr("expanded"))
     help: root.isCollapsed ? qsTr("Show") : qsTr("Hide")
     pressedScale: 1
     implicitHeight: Math.round(20 * Theme.fonts.scale)

@@ -12,47 +12,50 @@ namespace {
 struct Entry
 {
     QStringView glyph;
-    QStringView global;
-    QStringView window;
+    const char *global;
+    /// Null if it is the same.
+    const char *window = nullptr;
 };
 
 constexpr std::array kEntries{
-    Entry{.glyph = u"\u2318", .global = u"Super", .window = u"Ctrl"},
-    Entry{.glyph = u"\u2325", .global = u"Alt", .window = u"Alt"},
-    Entry{.glyph = u"\u2303", .global = u"Ctrl", .window = u"Ctrl"},
-    Entry{.glyph = u"\u21E7", .global = u"Shift", .window = u"Shift"},
-    Entry{.glyph = u"\u21A9", .global = u"Enter", .window = u"Enter"},
-    Entry{.glyph = u"\u232B", .global = u"Backspace", .window = u"Backspace"},
-    Entry{.glyph = u"\u2423", .global = u"Space", .window = u"Space"},
-    Entry{.glyph = u"\u21E5", .global = u"Tab", .window = u"Tab"},
-    Entry{.glyph = u"\u2191", .global = u"Up", .window = u"Up"},
-    Entry{.glyph = u"\u2193", .global = u"Down", .window = u"Down"},
-    Entry{.glyph = u"esc", .global = u"Esc", .window = u"Esc"},
+    Entry{.glyph = u"\u2318",
+          .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Super"),
+          .window = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Ctrl")},
+    Entry{.glyph = u"\u2325", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Alt")},
+    Entry{.glyph = u"\u2303", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Ctrl")},
+    Entry{.glyph = u"\u21E7", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Shift")},
+    Entry{.glyph = u"\u21A9", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Enter")},
+    Entry{.glyph = u"\u232B", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Backspace")},
+    Entry{.glyph = u"\u2423", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Space")},
+    Entry{.glyph = u"\u21E5", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Tab")},
+    Entry{.glyph = u"\u2191", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Up")},
+    Entry{.glyph = u"\u2193", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Down")},
+    Entry{.glyph = u"esc", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Esc")},
 };
 
 /// None for what is no glyph of a key.
-std::optional<QStringView> find(QStringView glyph, KeyLabels::Place place)
+std::optional<QString> find(QStringView glyph, KeyLabels::Place place)
 {
     const auto *const entry =
         std::ranges::find_if(kEntries, [glyph](const Entry &each) { return each.glyph == glyph; });
     if (entry == kEntries.end())
         return std::nullopt;
-    return place == KeyLabels::Global ? entry->global : entry->window;
+    const bool isOther = place == KeyLabels::Window && entry->window;
+    return KeyLabels::tr(isOther ? entry->window : entry->global);
 }
 
 } // namespace
 
 QString KeyLabels::label(const QString &glyph, Place place)
 {
-    const std::optional<QStringView> found = find(glyph, place);
-    return found ? found->toString() : glyph;
+    return find(glyph, place).value_or(glyph);
 }
 
 QString KeyLabels::spelt(const QString &text, Place place)
 {
     QString result;
     for (qsizetype i = 0; i < text.size(); ++i) {
-        const std::optional<QStringView> key = find(QStringView(text).mid(i, 1), place);
+        const std::optional<QString> key = find(QStringView(text).mid(i, 1), place);
         if (!key) {
             result += text.at(i);
             continue;

@@ -24,71 +24,72 @@ struct Topic
 // windows. The combination for checklists has no exception here: no file manager of this desktop has it.
 constexpr std::array kTopics{
     Topic{.symbol = "keyboard",
-          .title = QT_TRANSLATE_NOOP("GuideTopics", "Open Vesk anywhere"),
+          .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Open Vesk anywhere"),
           .keys = u"\u2325 \u2318 T",
           .place = KeyLabels::Global,
-          .text = QT_TRANSLATE_NOOP("GuideTopics", "Press it in any app to open or hide Vesk. Escape also "
-                                                   "hides it, and so does clicking another app.")},
+          .text =
+              QT_TRANSLATE_NOOP("vesk::GuideTopics", "Press it in any app to open or hide Vesk. Escape also "
+                                                     "hides it, and so does clicking another app.")},
     Topic{.symbol = "square.and.pencil",
-          .title = QT_TRANSLATE_NOOP("GuideTopics", "Write a new note"),
+          .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Write a new note"),
           .keys = u"\u2303 \u2325 \u2318 N",
           .place = KeyLabels::Global,
-          .text = QT_TRANSLATE_NOOP("GuideTopics",
+          .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Opens Vesk with the cursor in \u201CWrite a note\u2026\u201D. Return "
                                     "saves it, Shift-Return starts a new line.")},
     Topic{.symbol = "character.cursor.ibeam",
-          .title = QT_TRANSLATE_NOOP("GuideTopics", "Save selected text"),
+          .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Save selected text"),
           .keys = u"\u2325 \u2318 N",
           .place = KeyLabels::Global,
-          .text = QT_TRANSLATE_NOOP("GuideTopics",
+          .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Select text in a browser, ChatGPT, Claude, a terminal, anywhere, and "
                                     "press it. It becomes a note that remembers where it came from. With "
                                     "nothing selected, a quick note box opens."),
           .showsAccess = true},
     Topic{.symbol = "bubble.left.and.text.bubble.right",
-          .title = QT_TRANSLATE_NOOP("GuideTopics", "Prompts for your AI chats"),
+          .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Prompts for your AI chats"),
           .keys = u"\u21E7 \u21E7",
           .place = KeyLabels::Global,
-          .text = QT_TRANSLATE_NOOP("GuideTopics",
+          .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Select text and tap Shift twice to save it as a prompt, or write "
                                     "follow-up prompts in the Prompts tab. Copy or paste them into the chat "
                                     "and tick them off.")},
     Topic{.symbol = "text.append",
-          .title = QT_TRANSLATE_NOOP("GuideTopics", "Add to your last note"),
+          .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Add to your last note"),
           .keys = u"\u2325 \u21E7 \u2318 N",
           .place = KeyLabels::Global,
-          .text = QT_TRANSLATE_NOOP("GuideTopics",
+          .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Adds the selection to the bottom of the note you changed last. A note "
                                     "that ends in a checklist gets new checkboxes.")},
     Topic{.symbol = "checklist",
-          .title = QT_TRANSLATE_NOOP("GuideTopics", "Make a checklist"),
+          .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Make a checklist"),
           .keys = u"\u2325 \u2318 C",
           .place = KeyLabels::Global,
-          .text = QT_TRANSLATE_NOOP("GuideTopics",
+          .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Each selected line becomes a checkbox. With nothing selected, a box "
                                     "opens on the first checkbox: Return adds the next item, \u2318\u21A9 "
                                     "saves.")},
     Topic{.symbol = "text.badge.plus",
-          .title = QT_TRANSLATE_NOOP("GuideTopics", "Add to your checklist"),
+          .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Add to your checklist"),
           .keys = u"\u2325 \u21E7 \u2318 C",
           .place = KeyLabels::Global,
-          .text = QT_TRANSLATE_NOOP("GuideTopics",
+          .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Each selected line becomes a new checkbox in the checklist you changed "
                                     "last, even if you edited other notes since.")},
     Topic{.symbol = "list.bullet",
-          .title = QT_TRANSLATE_NOOP("GuideTopics", "Checkboxes and lists"),
+          .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Checkboxes and lists"),
           .keys = u"[ ] \u2423",
           .place = KeyLabels::Window,
-          .text = QT_TRANSLATE_NOOP("GuideTopics",
+          .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Type [ ] and a space for a checkbox, - and a space for a bullet, # and "
                                     "a space for a heading. Tick boxes right on the card.")},
     Topic{.symbol = "arrow.up.and.down",
-          .title = QT_TRANSLATE_NOOP("GuideTopics", "Keyboard in the panel"),
+          .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Keyboard in the panel"),
           .keys = u"\u2191 \u2193",
           .place = KeyLabels::Window,
-          .text = QT_TRANSLATE_NOOP("GuideTopics",
+          .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Move between notes. Return opens one, \u2318\u21A9 pastes it into the "
-                                    "app you came from, \u2318\u232B deletes it, \u2318F searches.")},
+                                    "app you came from, \u2318\u232B deletes it, ⌘F searches.")},
 };
 
 QStringList keysOf(const Topic &topic)

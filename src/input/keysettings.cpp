@@ -3,6 +3,7 @@
 
 #include "input/keynames.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -12,6 +13,12 @@ using namespace Qt::StringLiterals;
 namespace vesk {
 
 namespace {
+
+/// What is said about a file of keys.
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(vesk::KeySettings)
+};
 
 using Choice = std::optional<KeyCombination>;
 
@@ -65,25 +72,25 @@ ParsedCombination parseCombination(const QString &text, const HotKeys *keyboard)
     };
     QStringList words = wordsOf(text);
     if (words.isEmpty())
-        return wrong(u"There is no key in it."_s);
+        return wrong(Texts::tr("There is no key in it."));
     const QString name = words.takeLast();
     KeyCombination combination{};
     for (const QString &word : std::as_const(words)) {
         const std::optional<Qt::KeyboardModifier> modifier = findModifier(word);
         if (!modifier)
-            return wrong(u"“%1” is no modifier; there are Super, Alt, Ctrl and Shift."_s.arg(word));
+            return wrong(Texts::tr("“%1” is no modifier; there are Super, Alt, Ctrl and Shift.").arg(word));
         combination.modifiers |= *modifier;
     }
     const std::optional<KeyPosition> key = keynames::findKey(name, keyboard);
     if (!key)
-        return wrong(findModifier(name) ? u"After the modifiers a key is missing."_s
-                                        : u"There is no key “%1”."_s.arg(name));
+        return wrong(findModifier(name) ? Texts::tr("After the modifiers a key is missing.")
+                                        : Texts::tr("There is no key “%1”.").arg(name));
     combination.key = *key;
     if (combination.key == KeyPosition::LeftShift)
         return combination == kDoubleShift ? ParsedCombination{.combination = combination, .problem = {}}
-                                           : wrong(u"After the modifiers a key is missing."_s);
+                                           : wrong(Texts::tr("After the modifiers a key is missing."));
     if (!(combination.modifiers & (Qt::MetaModifier | Qt::AltModifier | Qt::ControlModifier)))
-        return wrong(u"It needs Super, Alt or Ctrl, or every application would lose this key."_s);
+        return wrong(Texts::tr("It needs Super, Alt or Ctrl, or every application would lose this key."));
     return {.combination = combination, .problem = {}};
 }
 
@@ -105,14 +112,15 @@ public:
             return;
         const qsizetype equals = text.indexOf(u'=');
         if (equals < 0) {
-            say(number, u"“%1” is no command with “=” and a combination behind it."_s.arg(text.left(40)));
+            say(number,
+                Texts::tr("“%1” is no command with “=” and a combination behind it.").arg(text.left(40)));
             return;
         }
         const QString command = text.left(equals).simplified();
         const auto *const row = std::ranges::find_if(
             hotkeytable::kAll, [&command](const HotKeyRow &each) { return each.command == command; });
         if (row == hotkeytable::kAll.end()) {
-            say(number, u"No key has a command “%1”."_s.arg(command.left(40)));
+            say(number, Texts::tr("No key has a command “%1”.").arg(command.left(40)));
             return;
         }
         set(*row, text.mid(equals + 1).trimmed(), number);
@@ -131,20 +139,22 @@ private:
 
     void say(int number, const QString &problem)
     {
-        m_settings.problems.append(u"Keys.conf, line %1: %2"_s.arg(number).arg(problem));
+        m_settings.problems.append(Texts::tr("Keys.conf, line %1: %2").arg(number).arg(problem));
     }
 
     void keepDefault(const HotKeyRow &row, int number, const QString &problem)
     {
         choice(row) = row.combination;
-        say(number, u"%1 “%2” stays at %3."_s.arg(problem, row.command.toString(),
-                                                  keynames::written(row.combination, m_keyboard)));
+        say(number,
+            Texts::tr("%1 “%2” stays at %3.")
+                .arg(problem, row.command.toString(), keynames::written(row.combination, m_keyboard)));
     }
 
     void set(const HotKeyRow &row, const QString &value, int number)
     {
         if (line(row) != 0) {
-            say(number, u"“%1” was in line %2 already, which holds."_s.arg(row.command).arg(line(row)));
+            say(number,
+                Texts::tr("“%1” was in line %2 already, which holds.").arg(row.command).arg(line(row)));
             return;
         }
         line(row) = number;
@@ -156,7 +166,7 @@ private:
         if (!parsed.combination)
             keepDefault(row, number, parsed.problem);
         else if (parsed.combination == kDoubleShift && row.id != hotkeytable::kSavePrompt.id)
-            keepDefault(row, number, u"Only save-prompt can be Shift tapped twice."_s);
+            keepDefault(row, number, Texts::tr("Only save-prompt can be Shift tapped twice."));
         else
             choice(row) = parsed.combination;
     }
@@ -176,8 +186,9 @@ private:
                 const HotKeyRow &loser = losesFirst ? first : second;
                 const HotKeyRow &winner = losesFirst ? second : first;
                 const QString taken = keynames::written(*choice(winner), m_keyboard);
-                keepDefault(loser, line(loser),
-                            u"%1 is the combination of “%2”."_s.arg(taken, winner.command.toString()));
+                keepDefault(
+                    loser, line(loser),
+                    Texts::tr("%1 is the combination of “%2”.").arg(taken, winner.command.toString()));
                 return true;
             }
         }

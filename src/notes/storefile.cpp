@@ -93,22 +93,22 @@ StoreError StoreFile::obstacle() const
 {
     const QFileInfo file(m_path);
     if (file.isSymLink())
-        return error(u"is a link to a file that does not exist"_s);
+        return error(tr("is a link to a file that does not exist"));
     if (file.exists()) {
         if (file.isDir())
-            return error(u"is a folder"_s);
+            return error(tr("is a folder"));
         if (!file.isFile())
-            return error(u"is not an ordinary file"_s);
+            return error(tr("is not an ordinary file"));
         // Asked with the effective user, as the opening will be; tells of file systems that are
         // mounted read-only as well.
         if (::faccessat(AT_FDCWD, nativePath().c_str(), R_OK, AT_EACCESS) != 0)
-            return error(u"cannot be read (%1)"_s.arg(qt_error_string(errno)));
+            return error(tr("cannot be read (%1)").arg(qt_error_string(errno)));
         if (::faccessat(AT_FDCWD, nativePath().c_str(), W_OK, AT_EACCESS) != 0)
-            return error(u"cannot be written (%1)"_s.arg(qt_error_string(errno)));
+            return error(tr("cannot be written (%1)").arg(qt_error_string(errno)));
     }
     // SQLite would throw the journal away, and with it the last thing that is left of the notes.
     if (isEmpty() && hasJournal())
-        return error(u"is missing or empty, but its journal “%1” is not"_s.arg(journalOf(m_path)), true);
+        return error(tr("is missing or empty, but its journal “%1” is not").arg(journalOf(m_path)), true);
     return {};
 }
 
@@ -122,7 +122,7 @@ StoreError StoreFile::contentsObstacle() const
         if (QFileInfo(m_path).size() < kSmallestPage)
             return damaged();
         if (schema::applicationId(connection) != schema::kApplicationId)
-            return error(u"is a database of another program"_s);
+            return error(tr("is a database of another program"));
         if (version > schema::kVersion)
             return newerVersion(version);
     } catch (const SQLite::Exception &exception) {
@@ -151,7 +151,7 @@ StoreError StoreFile::create() const
 
     const QByteArray name = QFile::encodeName(unfinished);
     if (!makePrivate(unfinished))
-        return error(u"cannot be created (%1)"_s.arg(qt_error_string(errno)));
+        return error(tr("cannot be created (%1)").arg(qt_error_string(errno)));
     {
         SQLite::Database connection(name.constData(), SQLite::OPEN_READWRITE);
         SQLite::Transaction transaction(connection);
@@ -160,7 +160,7 @@ StoreError StoreFile::create() const
         connection.exec("PRAGMA journal_mode = WAL");
     }
     if (::rename(name.constData(), nativePath().c_str()) != 0)
-        return error(u"cannot be created (%1)"_s.arg(qt_error_string(errno)));
+        return error(tr("cannot be created (%1)").arg(qt_error_string(errno)));
     // The entry of a renamed file is to survive a power failure too. Not every file system can.
     static_cast<void>(sync(QFileInfo(m_path).absolutePath()));
     return {};
@@ -181,36 +181,36 @@ StoreError StoreFile::describe(int sqliteCode, const char *message) const
 {
     switch (sqliteCode & 0xFF) {
     case SQLITE_NOTADB:
-        return error(u"is not a database"_s, true);
+        return error(tr("is not a database"), true);
     case SQLITE_CORRUPT:
     case SQLITE_ERROR: // a table or column is missing
         return damaged();
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        return error(u"is in use by another program"_s);
+        return error(tr("is in use by another program"));
     case SQLITE_READONLY:
-        return error(u"cannot be written"_s);
+        return error(tr("cannot be written"));
     default:
-        return error(u"cannot be opened (%1)"_s.arg(QString::fromUtf8(message)),
+        return error(tr("cannot be opened (%1)").arg(QString::fromUtf8(message)),
                      (sqliteCode & 0xFF) == SQLITE_IOERR);
     }
 }
 
 StoreError StoreFile::damaged() const
 {
-    return error(u"is damaged"_s, true);
+    return error(tr("is damaged"), true);
 }
 
 StoreError StoreFile::newerVersion(int version) const
 {
-    return error(
-        u"was written by a newer Vesk (version %1 of the store; this one knows version %2)"_s.arg(version)
-            .arg(schema::kVersion));
+    return error(tr("was written by a newer Vesk (version %1 of the store; this one knows version %2)")
+                     .arg(version)
+                     .arg(schema::kVersion));
 }
 
 StoreError StoreFile::error(const QString &predicate, bool isDamage) const
 {
-    return {.text = u"The file “%1” %2."_s.arg(m_path, predicate), .isDamage = isDamage};
+    return {.text = tr("The file “%1” %2.").arg(m_path, predicate), .isDamage = isDamage};
 }
 
 } // namespace vesk

@@ -3,6 +3,7 @@
 
 #include "notes/storeerror.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <string>
@@ -14,6 +15,8 @@ namespace vesk {
 /// for success; only what uses SQLite throws what SQLiteCpp throws.
 class StoreFile final
 {
+    Q_DECLARE_TR_FUNCTIONS(vesk::StoreFile)
+
 public:
     explicit StoreFile(const QString &path);
 

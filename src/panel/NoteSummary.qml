@@ -66,7 +66,7 @@ Column {
         Text {
             leftPadding: 24
             visible: root.furtherItems > 0
-            text: qsTr("+ %1 more").arg(root.furtherItems)
+            text: qsTr("+ %Ln more", "", root.furtherItems)
             textFormat: Text.PlainText
             font: Theme.fonts.caption
             color: Theme.secondary

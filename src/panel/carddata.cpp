@@ -63,15 +63,16 @@ int furtherItems(const Note &note)
 
 QString spoken(const Note &note, const QString &time)
 {
-    const auto tr = [](const char *text) { return QCoreApplication::translate("NoteCard", text); };
     QStringList parts;
     if (note.isPinned())
-        parts.append(tr("pinned"));
+        parts.append(QCoreApplication::translate("NoteCard", "pinned"));
     if (const std::optional<Progress> progress = note.progress())
-        parts.append(tr("%1 of %2 done").arg(progress->done).arg(progress->total));
+        parts.append(QCoreApplication::translate("NoteCard", "%L1 of %L2 done")
+                         .arg(progress->done)
+                         .arg(progress->total));
     parts.append(time);
     if (const std::optional<QString> &app = note.sourceApp())
-        parts.append(tr("from %1").arg(*app));
+        parts.append(QCoreApplication::translate("NoteCard", "from %1").arg(*app));
     parts.append(preview(note));
     parts.removeAll(QString());
     return parts.join(u", ");

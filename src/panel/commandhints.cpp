@@ -18,15 +18,16 @@ struct Entry
 
 constexpr std::array kEntries{
     Entry{.keys = u"\u2325 \u2318 N",
-          .hint = QT_TRANSLATE_NOOP("CommandHints", "Save selected text, or write a quick note")},
+          .hint = QT_TRANSLATE_NOOP("vesk::CommandHints", "Save selected text, or write a quick note")},
     Entry{.keys = u"\u2325 \u21E7 \u2318 N",
-          .hint = QT_TRANSLATE_NOOP("CommandHints", "Add the selection to your last note")},
-    Entry{.keys = u"\u2325 \u2318 T", .hint = QT_TRANSLATE_NOOP("CommandHints", "Open or hide Vesk")},
+          .hint = QT_TRANSLATE_NOOP("vesk::CommandHints", "Add the selection to your last note")},
+    Entry{.keys = u"\u2325 \u2318 T", .hint = QT_TRANSLATE_NOOP("vesk::CommandHints", "Open or hide Vesk")},
     Entry{.keys = u"\u2303 \u2325 \u2318 N",
-          .hint = QT_TRANSLATE_NOOP("CommandHints", "Open Vesk and write a new note")},
+          .hint = QT_TRANSLATE_NOOP("vesk::CommandHints", "Open Vesk and write a new note")},
     Entry{.keys = u"\u21E7 \u21E7",
-          .hint = QT_TRANSLATE_NOOP("CommandHints", "Save selected text as a prompt")},
-    Entry{.keys = u"[ ] \u2423", .hint = QT_TRANSLATE_NOOP("CommandHints", "Start a checklist while typing")},
+          .hint = QT_TRANSLATE_NOOP("vesk::CommandHints", "Save selected text as a prompt")},
+    Entry{.keys = u"[ ] \u2423",
+          .hint = QT_TRANSLATE_NOOP("vesk::CommandHints", "Start a checklist while typing")},
 };
 
 } // namespace

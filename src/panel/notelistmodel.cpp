@@ -40,10 +40,9 @@ bool isChecklist(const QString &text)
 
 std::vector<ListSections::Section> allSections()
 {
-    const auto title = [](const char *text) { return QCoreApplication::translate("NoteSections", text); };
-    return {{.key = u"pinned"_s, .title = title("Pinned")},
-            {.key = u"today"_s, .title = title("Today")},
-            {.key = u"earlier"_s, .title = title("Earlier")}};
+    return {{.key = u"pinned"_s, .title = NoteListModel::tr("Pinned")},
+            {.key = u"today"_s, .title = NoteListModel::tr("Today")},
+            {.key = u"earlier"_s, .title = NoteListModel::tr("Earlier")}};
 }
 
 } // namespace

@@ -32,10 +32,9 @@ ListSections::Entry entryOf(const Prompt &prompt)
 
 std::vector<ListSections::Section> allSections()
 {
-    const auto title = [](const char *text) { return QCoreApplication::translate("PromptSections", text); };
-    return {{.key = u"prompts.followup"_s, .title = title("Follow-up prompts")},
-            {.key = u"prompts.saved"_s, .title = title("Saved from selection")},
-            {.key = u"prompts.done"_s, .title = title("Done")}};
+    return {{.key = u"prompts.followup"_s, .title = PromptListModel::tr("Follow-up prompts")},
+            {.key = u"prompts.saved"_s, .title = PromptListModel::tr("Saved from selection")},
+            {.key = u"prompts.done"_s, .title = PromptListModel::tr("Done")}};
 }
 
 } // namespace

@@ -35,7 +35,7 @@ void QuickNoteModel::setText(const QString &text)
 
 QString QuickNoteModel::title() const
 {
-    return isChecklist() ? u"Quick Checklist"_s : u"Quick Note"_s;
+    return isChecklist() ? tr("Quick Checklist") : tr("Quick Note");
 }
 
 QString QuickNoteModel::symbol() const

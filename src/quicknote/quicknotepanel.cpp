@@ -44,7 +44,7 @@ QuickNotePanel::~QuickNotePanel() = default;
 void QuickNotePanel::makeWindow()
 {
     m_view = std::make_unique<QQuickView>(&m_needs.engine, nullptr);
-    m_view->setTitle(u"Quick Note"_s);
+    m_view->setTitle(tr("Quick Note"));
     m_view->setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     // Also asks for a window that can be translucent, should a compositor be there or come.
     m_view->setColor(Qt::transparent);

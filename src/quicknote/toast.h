@@ -33,7 +33,7 @@ public:
     /// Shows a message with a symbol, in place of the one before, for its full time: 1.4 seconds and
     /// the fading.
     void show(const QString &message, const QString &symbol);
-    void show(const Notice &notice) { show(notice.message.toString(), notice.symbol.toString()); }
+    void show(const Notice &notice) { show(notice.text(), notice.symbol.toString()); }
 
     [[nodiscard]] QQuickView &window() { return m_view; }
 

@@ -19,6 +19,7 @@
 #include "platform/memory/memoryworkspace.h"
 #include "quicknote/quicknotepanel.h"
 #include "quicknote/toast.h"
+#include "translations/translation.h"
 
 #include <QCommandLineParser>
 #include <QCursor>
@@ -115,6 +116,8 @@ int main(int argc, char *argv[])
     const QCommandLineOption notes(u"notes"_s, u"How many notes."_s, u"N"_s, u"8"_s);
     const QCommandLineOption texts(u"texts"_s, u"Which notes: everyday, right-to-left or long-words."_s,
                                    u"KIND"_s);
+    const QCommandLineOption language(u"language"_s, u"The language of Vesk's texts, such as de."_s,
+                                      u"CODE"_s, u"en"_s);
     const QCommandLineOption search(u"search"_s, u"What to search for."_s, u"TEXT"_s);
     const QCommandLineOption tab(u"tab"_s, u"Which tab: notes, checklists or prompts."_s, u"TAB"_s);
     const QCommandLineOption select(u"select"_s, u"Which card is selected, from 1."_s, u"N"_s);
@@ -130,10 +133,12 @@ int main(int argc, char *argv[])
     const QCommandLineOption quickChecklist(u"quick-checklist"_s, u"The same for a checklist."_s, u"TEXT"_s);
     const QCommandLineOption screenshot(u"screenshot"_s, u"Writes a picture of the panel and quits."_s,
                                         u"FILE"_s);
-    options.addOptions({dark,   strong, textScale, empty,     untrusted,      composited, still,   notes,
-                        texts,  search, tab,       select,    open,           draft,      pointer, click,
-                        notice, guide,  editor,    quickNote, quickChecklist, screenshot});
+    options.addOptions({dark,     strong, textScale, empty,  untrusted, composited,     still,     notes,
+                        texts,    search, tab,       select, open,      draft,          pointer,   click,
+                        language, notice, guide,     editor, quickNote, quickChecklist, screenshot});
     options.process(program);
+    const vesk::Translation translation({options.value(language)});
+    QGuiApplication::setLayoutDirection(translation.language().textDirection());
     // A caret that blinks would be in some of the pictures only.
     if (options.isSet(screenshot))
         QGuiApplication::styleHints()->setCursorFlashTime(0);

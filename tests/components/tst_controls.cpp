@@ -2,6 +2,7 @@
 #include "componentstage.h"
 
 #include "components/menucontrol.h"
+#include "translations/translation.h"
 
 #include <QAccessible>
 #include <QSignalSpy>
@@ -246,6 +247,7 @@ void ControlsTest::thumbMovesALongList()
 
 void ControlsTest::headerOffersTheOtherState()
 {
+    const Translation english({u"en"_s});
     ComponentStage stage(R"qml(
         SectionHeader {
             title: "Pinned"; count: 12; isCollapsed: false

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/canberrasounds.h"
 
+#include <QCoreApplication>
+
 #include <canberra.h>
 
 namespace vesk {
@@ -32,10 +34,12 @@ void CanberraSounds::play(Sound sound)
     // One sound waits at most; more would only come late.
     if (!m_context || m_thread.activeThreadCount() > 0)
         return;
-    m_thread.start([context = m_context.get()] {
+    const QString description = QCoreApplication::translate("vesk::CanberraSounds", "Saved to Vesk");
+    m_thread.start([context = m_context.get(), description = description.toUtf8()] {
         // The name for "something is done" in the sound naming rules of the free desktops.
-        ca_context_play(context, 0, CA_PROP_EVENT_ID, "complete", CA_PROP_EVENT_DESCRIPTION, "Saved to Vesk",
-                        CA_PROP_MEDIA_ROLE, "event", CA_PROP_CANBERRA_CACHE_CONTROL, "permanent", nullptr);
+        ca_context_play(context, 0, CA_PROP_EVENT_ID, "complete", CA_PROP_EVENT_DESCRIPTION,
+                        description.constData(), CA_PROP_MEDIA_ROLE, "event", CA_PROP_CANBERRA_CACHE_CONTROL,
+                        "permanent", nullptr);
     });
 }
 

@@ -45,7 +45,7 @@ X11Connection::OpenResult X11Connection::open()
     // Owned from here on: even a connection that failed has to be given back.
     std::unique_ptr<X11Connection> opened(new X11Connection(connection, screenNumber));
     if (xcb_connection_has_error(connection) != 0)
-        return {.connection = nullptr, .error = QStringLiteral("The X server cannot be reached.")};
+        return {.connection = nullptr, .error = tr("The X server cannot be reached.")};
     const QString error = opened->setUpExtensions();
     if (!error.isEmpty())
         return {.connection = nullptr, .error = error};
@@ -146,8 +146,7 @@ QString X11Connection::setUpExtensions()
         xcb_prefetch_extension_data(m_connection, &each.extension);
     for (const Needed &each : needed) {
         if (!findExtension(m_connection, each.extension))
-            return QStringLiteral("The X server lacks the extension %1, which Vesk needs.")
-                .arg(QLatin1String(each.name));
+            return tr("The X server lacks the extension %1, which Vesk needs.").arg(QLatin1String(each.name));
     }
     m_xfixesEvent = findExtension(m_connection, xcb_xfixes_id)->first_event;
     m_randrEvent = findExtension(m_connection, xcb_randr_id)->first_event;
@@ -166,7 +165,7 @@ QString X11Connection::setUpExtensions()
     };
     for (const XReply<void> &reply : replies) {
         if (!reply)
-            return QStringLiteral("The X server's extensions are too old for Vesk.");
+            return tr("The X server's extensions are too old for Vesk.");
     }
     return {};
 }

@@ -1,0 +1,1232 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>AccessBanner</name>
+    <message>
+        <source>Vesk needs Accessibility access to read selected text</source>
+        <translation>Vesk braucht Zugriff über die Barrierefreiheit, um markierten Text zu lesen</translation>
+    </message>
+    <message>
+        <source>Open Settings</source>
+        <translation>Einstellungen öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>AccessStatus</name>
+    <message>
+        <source>Accessibility access allowed</source>
+        <translation>Zugriff über die Barrierefreiheit erlaubt</translation>
+    </message>
+    <message>
+        <source>Needs Accessibility access</source>
+        <translation>Braucht Zugriff über die Barrierefreiheit</translation>
+    </message>
+    <message>
+        <source>Open Settings</source>
+        <translation>Einstellungen öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>ChecklistRow</name>
+    <message>
+        <source>Mark “%1” as not done</source>
+        <translation>„%1“ als nicht erledigt markieren</translation>
+    </message>
+    <message>
+        <source>Mark “%1” as done</source>
+        <translation>„%1“ als erledigt markieren</translation>
+    </message>
+</context>
+<context>
+    <name>Composer</name>
+    <message>
+        <source>Write a follow-up prompt…</source>
+        <translation>Folge-Prompt schreiben …</translation>
+    </message>
+    <message>
+        <source>Write a note…</source>
+        <translation>Notiz schreiben …</translation>
+    </message>
+</context>
+<context>
+    <name>CopyButton</name>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Kopiert</translation>
+    </message>
+</context>
+<context>
+    <name>EditMenu</name>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyPrompts</name>
+    <message>
+        <source>No prompts yet</source>
+        <translation>Noch keine Prompts</translation>
+    </message>
+    <message>
+        <source>Select text anywhere and tap</source>
+        <translation>Text irgendwo markieren und tippen:</translation>
+    </message>
+    <message>
+        <source>or write a follow-up prompt below.</source>
+        <translation>oder unten einen Folge-Prompt schreiben.</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Nothing here yet</source>
+        <translation>Noch nichts hier</translation>
+    </message>
+    <message>
+        <source>Vesk catches whatever you select, from any app.</source>
+        <translation>Vesk hält fest, was Sie markieren, in jeder Anwendung.</translation>
+    </message>
+</context>
+<context>
+    <name>GuideView</name>
+    <message>
+        <source>Quick Guide</source>
+        <translation>Kurzanleitung</translation>
+    </message>
+    <message>
+        <source>Welcome to Vesk</source>
+        <translation>Willkommen bei Vesk</translation>
+    </message>
+    <message>
+        <source>A quiet notes pad that catches whatever you select.</source>
+        <translation>Ein stiller Notizblock, der festhält, was Sie markieren.</translation>
+    </message>
+    <message>
+        <source>Got it</source>
+        <translation>Verstanden</translation>
+    </message>
+</context>
+<context>
+    <name>NoteActions</name>
+    <message>
+        <source>Unpin</source>
+        <translation>Lösen</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>Anheften</translation>
+    </message>
+    <message>
+        <source>Paste into the App You Came From (⌘↩)</source>
+        <translation>In die vorherige Anwendung einfügen (⌘↩)</translation>
+    </message>
+    <message>
+        <source>Delete (⌘⌫)</source>
+        <translation>Löschen (⌘⌫)</translation>
+    </message>
+</context>
+<context>
+    <name>NoteCard</name>
+    <message>
+        <source>New Note</source>
+        <translation>Neue Notiz</translation>
+    </message>
+    <message>
+        <source>pinned</source>
+        <translation>angeheftet</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 done</source>
+        <translation>%L1 von %L2 erledigt</translation>
+    </message>
+    <message>
+        <source>from %1</source>
+        <translation>aus %1</translation>
+    </message>
+    <message>
+        <source>the app</source>
+        <translation>die Anwendung</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation>%1 öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>NoteEditor</name>
+    <message>
+        <source>Start typing…</source>
+        <translation>Einfach schreiben …</translation>
+    </message>
+</context>
+<context>
+    <name>NoteForm</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+</context>
+<context>
+    <name>NoteList</name>
+    <message>
+        <source>Checklists</source>
+        <translation>Checklisten</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+</context>
+<context>
+    <name>NoteSummary</name>
+    <message numerus="yes">
+        <source>+ %Ln more</source>
+        <translation>
+            <numerusform>+ %Ln weiterer</numerusform>
+            <numerusform>+ %Ln weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PanelContent</name>
+    <message>
+        <source>No notes match “%1”</source>
+        <translation>Keine Notiz enthält „%1“</translation>
+    </message>
+    <message>
+        <source>No checklists yet</source>
+        <translation>Noch keine Checklisten</translation>
+    </message>
+    <message>
+        <source>Type [ ] and a space in a note to start one.</source>
+        <translation>Mit [ ] und einem Leerzeichen beginnt in einer Notiz eine Liste.</translation>
+    </message>
+    <message>
+        <source>No prompts match “%1”</source>
+        <translation>Kein Prompt enthält „%1“</translation>
+    </message>
+</context>
+<context>
+    <name>PanelMenuButton</name>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Quick Guide…</source>
+        <translation>Kurzanleitung …</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Nach Updates suchen …</translation>
+    </message>
+    <message>
+        <source>New Note (⌃⌥⌘N)</source>
+        <translation>Neue Notiz (⌃⌥⌘N)</translation>
+    </message>
+    <message>
+        <source>Quick Note…</source>
+        <translation>Schnellnotiz …</translation>
+    </message>
+    <message>
+        <source>Quick Checklist…</source>
+        <translation>Schnellcheckliste …</translation>
+    </message>
+    <message>
+        <source>Clear Done Prompts</source>
+        <translation>Erledigte Prompts löschen</translation>
+    </message>
+    <message>
+        <source>Accessibility Settings…</source>
+        <translation>Barrierefreiheit …</translation>
+    </message>
+    <message>
+        <source>Quit Vesk</source>
+        <translation>Vesk beenden</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressChip</name>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 von %L2</translation>
+    </message>
+</context>
+<context>
+    <name>PromptCard</name>
+    <message>
+        <source>%1, done</source>
+        <translation>%1, erledigt</translation>
+    </message>
+    <message>
+        <source>Mark as not done</source>
+        <translation>Als nicht erledigt markieren</translation>
+    </message>
+    <message>
+        <source>Mark as done</source>
+        <translation>Als erledigt markieren</translation>
+    </message>
+    <message>
+        <source>Show less</source>
+        <translation>Weniger anzeigen</translation>
+    </message>
+    <message>
+        <source>Show more</source>
+        <translation>Mehr anzeigen</translation>
+    </message>
+    <message>
+        <source>Paste into the App You Came From (⌘↩)</source>
+        <translation>In die vorherige Anwendung einfügen (⌘↩)</translation>
+    </message>
+    <message>
+        <source>Delete (⌘⌫)</source>
+        <translation>Löschen (⌘⌫)</translation>
+    </message>
+</context>
+<context>
+    <name>PromptList</name>
+    <message>
+        <source>Prompts</source>
+        <translation>Prompts</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Vesk cannot start</source>
+        <translation type="unfinished">Vesk kann nicht starten</translation>
+    </message>
+    <message>
+        <source>Could not open the notes store: %1</source>
+        <translation type="unfinished">Der Notizspeicher konnte nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation type="unfinished">Beenden</translation>
+    </message>
+    <message>
+        <source>There is a copy of your notes, made on %1: “%2”. To go on with it, run this command in a terminal and start Vesk again. It keeps the damaged file in the folder “damaged” beside it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QuickNoteView</name>
+    <message>
+        <source>Write a note…</source>
+        <translation>Notiz schreiben …</translation>
+    </message>
+    <message>
+        <source>Next item</source>
+        <translation>Nächster Punkt</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>New line</source>
+        <translation>Neue Zeile</translation>
+    </message>
+    <message>
+        <source>Checkbox</source>
+        <translation>Kästchen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>RelativeTime</name>
+    <message>
+        <source>Just now</source>
+        <translation>Gerade eben</translation>
+    </message>
+</context>
+<context>
+    <name>SearchField</name>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Clear Search</source>
+        <translation>Suche leeren</translation>
+    </message>
+</context>
+<context>
+    <name>SectionHeader</name>
+    <message>
+        <source>%1, %2, %3</source>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln items</source>
+        <translation>
+            <numerusform>%Ln Eintrag</numerusform>
+            <numerusform>%Ln Einträge</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>collapsed</source>
+        <translation>eingeklappt</translation>
+    </message>
+    <message>
+        <source>expanded</source>
+        <translation>ausgeklappt</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Ausblenden</translation>
+    </message>
+</context>
+<context>
+    <name>SourceCapsule</name>
+    <message>
+        <source>from %1</source>
+        <translation>aus %1</translation>
+    </message>
+</context>
+<context>
+    <name>TabBar</name>
+    <message>
+        <source>Tabs</source>
+        <translation>Bereiche</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Checklists</source>
+        <translation>Checklisten</translation>
+    </message>
+    <message>
+        <source>Prompts</source>
+        <translation>Prompts</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>See: vesk --help</source>
+        <extracomment>After a sentence that says what is wrong with a command line.</extracomment>
+        <translation>Siehe: vesk --help</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::AccessCommand</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>allowed</source>
+        <translation>erlaubt</translation>
+    </message>
+    <message>
+        <source>not allowed</source>
+        <translation>nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>The choice could not be written to %1.</source>
+        <translation>Die Wahl konnte nicht in %1 geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::AccessWindow</name>
+    <message>
+        <source>Let Vesk read what you select?</source>
+        <translation>Darf Vesk lesen, was Sie markieren?</translation>
+    </message>
+    <message>
+        <source>When you press one of Vesk’s keys, Vesk reads the text that is selected, or was copied a moment before, and where it is: the application, its window’s title and, in a browser, the page’s address. At other times it only notices when a key or button was pressed, not which one, to tell what is selected now from what was. It sends nothing anywhere.
+
+Applications that are open already may have to be started again before Vesk can read them.</source>
+        <translation>Wenn Sie eine der Tasten von Vesk drücken, liest Vesk den Text, der markiert ist oder kurz zuvor kopiert wurde, und wo er steht: die Anwendung, den Titel ihres Fensters und in einem Browser die Adresse der Seite. Sonst bemerkt es nur, dass eine Taste gedrückt wurde, nicht welche, um zu unterscheiden, was jetzt und was früher markiert wurde. Es sendet nichts irgendwohin.
+
+Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevor Vesk in ihnen lesen kann.</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Erlauben</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Nicht jetzt</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::AppUpdater</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Vesk is up to date</source>
+        <translation>Vesk ist aktuell</translation>
+    </message>
+    <message>
+        <source>Version %1 is the newest that your system can install.</source>
+        <translation>Version %1 ist die neueste, die Ihr System installieren kann.</translation>
+    </message>
+    <message>
+        <source>There is a newer Vesk</source>
+        <translation>Es gibt ein neueres Vesk</translation>
+    </message>
+    <message>
+        <source>Your system can install version %1, by what you install packages with.</source>
+        <translation>Ihr System kann Version %1 installieren, mit Ihrer Paketverwaltung.</translation>
+    </message>
+    <message>
+        <source>Your system can install version %1.</source>
+        <translation>Ihr System kann Version %1 installieren.</translation>
+    </message>
+    <message>
+        <source>Open Updates</source>
+        <translation>Updates öffnen</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Your system does not update this Vesk</source>
+        <translation>Ihr System aktualisiert dieses Vesk nicht</translation>
+    </message>
+    <message>
+        <source>It was not installed as a package. A newer version is where this one came from.</source>
+        <translation>Es wurde nicht als Paket installiert. Eine neuere Version gibt es dort, wo diese herkommt.</translation>
+    </message>
+    <message>
+        <source>Could not check for updates</source>
+        <translation>Die Suche nach Updates ging nicht</translation>
+    </message>
+    <message>
+        <source>Your system’s package service did not answer. Try again later.</source>
+        <translation>Der Paketdienst Ihres Systems hat nicht geantwortet. Versuchen Sie es später noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::CanberraSounds</name>
+    <message>
+        <source>Saved to Vesk</source>
+        <translation>In Vesk gespeichert</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::Client</name>
+    <message>
+        <source>Vesk needs the session&apos;s message bus, and there is none: run this in your desktop&apos;s session.</source>
+        <translation>Vesk braucht den Nachrichtenbus der Sitzung, und es gibt keinen: Rufen Sie dies in der Sitzung Ihrer Arbeitsumgebung auf.</translation>
+    </message>
+    <message>
+        <source>The text is longer than the %1 MB that a note may have.</source>
+        <translation>Der Text ist länger als die %1 MB, die eine Notiz haben darf.</translation>
+    </message>
+    <message>
+        <source>Standard output takes no more: %1.</source>
+        <translation>Die Standardausgabe nimmt nichts mehr an: %1.</translation>
+    </message>
+    <message>
+        <source>Standard input cannot be read.</source>
+        <translation>Die Standardeingabe kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Standard input is not plain text in UTF-8.</source>
+        <translation>Die Standardeingabe ist kein reiner Text in UTF-8.</translation>
+    </message>
+    <message>
+        <source>There is no text to add.</source>
+        <translation>Es gibt keinen Text zum Hinzufügen.</translation>
+    </message>
+    <message>
+        <source>Could not open the notes store: %1</source>
+        <translation>Der Notizspeicher konnte nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>The note could not be written to %1.</source>
+        <translation>Die Notiz konnte nicht in %1 geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>%1 could not be started: %2.</source>
+        <translation>%1 konnte nicht gestartet werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::CommandHints</name>
+    <message>
+        <source>Save selected text, or write a quick note</source>
+        <translation>Markierten Text speichern oder eine Schnellnotiz schreiben</translation>
+    </message>
+    <message>
+        <source>Add the selection to your last note</source>
+        <translation>Die Auswahl an die letzte Notiz anhängen</translation>
+    </message>
+    <message>
+        <source>Open or hide Vesk</source>
+        <translation>Vesk öffnen oder ausblenden</translation>
+    </message>
+    <message>
+        <source>Open Vesk and write a new note</source>
+        <translation>Vesk öffnen und eine neue Notiz schreiben</translation>
+    </message>
+    <message>
+        <source>Save selected text as a prompt</source>
+        <translation>Markierten Text als Prompt speichern</translation>
+    </message>
+    <message>
+        <source>Start a checklist while typing</source>
+        <translation>Beim Schreiben eine Checkliste beginnen</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::CommandLine</name>
+    <message>
+        <source>show or hide the panel</source>
+        <translation>das Panel anzeigen oder ausblenden</translation>
+    </message>
+    <message>
+        <source>show the panel to write a note</source>
+        <translation>das Panel anzeigen, um eine Notiz zu schreiben</translation>
+    </message>
+    <message>
+        <source>keep the selected text as a note</source>
+        <translation>den markierten Text als Notiz speichern</translation>
+    </message>
+    <message>
+        <source>add it to the note changed last</source>
+        <translation>ihn an die zuletzt geänderte Notiz anhängen</translation>
+    </message>
+    <message>
+        <source>keep each selected line as a checkbox</source>
+        <translation>jede markierte Zeile als Kästchen speichern</translation>
+    </message>
+    <message>
+        <source>add the selected lines to the checklist changed last</source>
+        <translation>die markierten Zeilen an die zuletzt geänderte Checkliste anhängen</translation>
+    </message>
+    <message>
+        <source>keep the selected text as a prompt</source>
+        <translation>den markierten Text als Prompt speichern</translation>
+    </message>
+    <message>
+        <source>open the box for a quick note</source>
+        <translation>das Feld für eine Schnellnotiz öffnen</translation>
+    </message>
+    <message>
+        <source>end Vesk</source>
+        <translation>Vesk beenden</translation>
+    </message>
+    <message>
+        <source>keep TEXT as a note; &quot;vesk add -&quot; takes it from standard input</source>
+        <translation>TEXT als Notiz speichern; „vesk add -“ nimmt ihn von der Standardeingabe</translation>
+    </message>
+    <message>
+        <source>print the notes, newest first</source>
+        <translation>die Notizen ausgeben, die neueste zuerst</translation>
+    </message>
+    <message>
+        <source>whether Vesk may read what is selected in other applications</source>
+        <translation>ob Vesk lesen darf, was in anderen Anwendungen markiert ist</translation>
+    </message>
+    <message>
+        <source>start without showing the panel</source>
+        <translation>starten, ohne das Panel anzuzeigen</translation>
+    </message>
+    <message>
+        <source>draw the windows by the GPU (only at the start)</source>
+        <translation>die Fenster mit der GPU zeichnen (nur beim Start)</translation>
+    </message>
+    <message>
+        <source>print this</source>
+        <translation>dies ausgeben</translation>
+    </message>
+    <message>
+        <source>print the version</source>
+        <translation>die Version ausgeben</translation>
+    </message>
+    <message>
+        <source>There is no option %1.</source>
+        <translation>Es gibt keine Option %1.</translation>
+    </message>
+    <message>
+        <source>What is to be added? Give the text, or - to take it from standard input.</source>
+        <translation>Was soll hinzugefügt werden? Geben Sie den Text an, oder - für die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>Put the text into quotes, so that it is one argument.</source>
+        <translation>Setzen Sie den Text in Anführungszeichen, damit er ein einziges Argument ist.</translation>
+    </message>
+    <message>
+        <source>There is no command %1.</source>
+        <translation>Es gibt keinen Befehl %1.</translation>
+    </message>
+    <message>
+        <source>%1 takes one option at most.</source>
+        <translation>%1 nimmt höchstens eine Option.</translation>
+    </message>
+    <message>
+        <source>%1 does not know %2.</source>
+        <translation>%1 kennt %2 nicht.</translation>
+    </message>
+    <message>
+        <source>Usage: vesk [command]
+
+Keeps what you select, anywhere. Without a command: starts Vesk, or shows the panel of the Vesk that
+runs.</source>
+        <translation>Aufruf: vesk [Befehl]
+
+Hält fest, was Sie markieren, überall. Ohne Befehl: startet Vesk oder zeigt das Panel des Vesk, das
+läuft.</translation>
+    </message>
+    <message>
+        <source>Commands for the running Vesk, which is started in the background if none runs:</source>
+        <translation>Befehle für das laufende Vesk; läuft keines, wird es im Hintergrund gestartet:</translation>
+    </message>
+    <message>
+        <source>Commands that need no running Vesk:</source>
+        <translation>Befehle, die kein laufendes Vesk brauchen:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 done, 1 failed (standard error says why), 2 wrong use.</source>
+        <translation>Rückgabewert: 0 erledigt, 1 fehlgeschlagen (die Standardfehlerausgabe sagt warum), 2 falscher Aufruf.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::GuideTopics</name>
+    <message>
+        <source>Open Vesk anywhere</source>
+        <translation>Vesk überall öffnen</translation>
+    </message>
+    <message>
+        <source>Press it in any app to open or hide Vesk. Escape also hides it, and so does clicking another app.</source>
+        <translation>In jeder Anwendung öffnet oder versteckt dies Vesk. Auch Escape oder ein Klick in eine andere Anwendung versteckt es.</translation>
+    </message>
+    <message>
+        <source>Write a new note</source>
+        <translation>Eine neue Notiz schreiben</translation>
+    </message>
+    <message>
+        <source>Opens Vesk with the cursor in “Write a note…”. Return saves it, Shift-Return starts a new line.</source>
+        <translation>Öffnet Vesk mit der Schreibmarke in „Notiz schreiben …“. Die Eingabetaste speichert, mit Umschalt beginnt sie eine neue Zeile.</translation>
+    </message>
+    <message>
+        <source>Save selected text</source>
+        <translation>Markierten Text speichern</translation>
+    </message>
+    <message>
+        <source>Select text in a browser, ChatGPT, Claude, a terminal, anywhere, and press it. It becomes a note that remembers where it came from. With nothing selected, a quick note box opens.</source>
+        <translation>Markieren Sie Text im Browser, in ChatGPT, Claude, einem Terminal, überall, und drücken Sie dies. Es wird eine Notiz, die weiß, woher sie kommt. Ist nichts markiert, öffnet sich ein Feld für eine Schnellnotiz.</translation>
+    </message>
+    <message>
+        <source>Prompts for your AI chats</source>
+        <translation>Prompts für Ihre KI-Chats</translation>
+    </message>
+    <message>
+        <source>Select text and tap Shift twice to save it as a prompt, or write follow-up prompts in the Prompts tab. Copy or paste them into the chat and tick them off.</source>
+        <translation>Markieren Sie Text und tippen Sie zweimal auf Umschalt, um ihn als Prompt zu speichern, oder schreiben Sie Folge-Prompts im Bereich Prompts. Kopieren Sie sie in den Chat und haken Sie sie ab.</translation>
+    </message>
+    <message>
+        <source>Add to your last note</source>
+        <translation>An die letzte Notiz anhängen</translation>
+    </message>
+    <message>
+        <source>Adds the selection to the bottom of the note you changed last. A note that ends in a checklist gets new checkboxes.</source>
+        <translation>Hängt die Auswahl unten an die zuletzt geänderte Notiz an. Eine Notiz, die mit einer Checkliste endet, bekommt neue Kästchen.</translation>
+    </message>
+    <message>
+        <source>Make a checklist</source>
+        <translation>Eine Checkliste anlegen</translation>
+    </message>
+    <message>
+        <source>Each selected line becomes a checkbox. With nothing selected, a box opens on the first checkbox: Return adds the next item, ⌘↩ saves.</source>
+        <translation>Jede markierte Zeile wird ein Kästchen. Ist nichts markiert, öffnet sich ein Feld mit dem ersten Kästchen: Die Eingabetaste fügt den nächsten Punkt hinzu, ⌘↩ speichert.</translation>
+    </message>
+    <message>
+        <source>Add to your checklist</source>
+        <translation>An die Checkliste anhängen</translation>
+    </message>
+    <message>
+        <source>Each selected line becomes a new checkbox in the checklist you changed last, even if you edited other notes since.</source>
+        <translation>Jede markierte Zeile wird ein neues Kästchen in der zuletzt geänderten Checkliste, auch wenn Sie seitdem andere Notizen bearbeitet haben.</translation>
+    </message>
+    <message>
+        <source>Checkboxes and lists</source>
+        <translation>Kästchen und Listen</translation>
+    </message>
+    <message>
+        <source>Type [ ] and a space for a checkbox, - and a space for a bullet, # and a space for a heading. Tick boxes right on the card.</source>
+        <translation>[ ] und ein Leerzeichen ergeben ein Kästchen, - und ein Leerzeichen einen Aufzählungspunkt, # und ein Leerzeichen eine Überschrift. Kästchen lassen sich auf der Karte abhaken.</translation>
+    </message>
+    <message>
+        <source>Keyboard in the panel</source>
+        <translation>Tastatur im Panel</translation>
+    </message>
+    <message>
+        <source>Move between notes. Return opens one, ⌘↩ pastes it into the app you came from, ⌘⌫ deletes it, ⌘F searches.</source>
+        <translation>Zwischen Notizen bewegen. Die Eingabetaste öffnet eine, ⌘↩ fügt sie in die vorherige Anwendung ein, ⌘⌫ löscht sie, ⌘F sucht.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::KeyLabels</name>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Rücktaste</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Auf</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Ab</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::KeySettings</name>
+    <message>
+        <source>There is no key in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is no modifier; there are Super, Alt, Ctrl and Shift.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>After the modifiers a key is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no key “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It needs Super, Alt or Ctrl, or every application would lose this key.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is no command with “=” and a combination behind it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No key has a command “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys.conf, line %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 “%2” stays at %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” was in line %2 already, which holds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only save-prompt can be Shift tapped twice.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is the combination of “%2”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>vesk::Main</name>
+    <message>
+        <source>Vesk cannot start</source>
+        <translation>Vesk kann nicht starten</translation>
+    </message>
+    <message>
+        <source>Vesk is running already, and does not answer.</source>
+        <translation>Vesk läuft bereits und antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>Vesk needs the session&apos;s message bus, and there is none.</source>
+        <translation>Vesk braucht den Nachrichtenbus der Sitzung, und es gibt keinen.</translation>
+    </message>
+    <message>
+        <source>Vesk cannot start: %1</source>
+        <translation>Vesk kann nicht starten: %1</translation>
+    </message>
+    <message>
+        <source>Vesk needs an X11 desktop, and this is a Wayland desktop without an X server. Log in to a session of X11, or use the commands that need none: vesk add and vesk list.</source>
+        <translation>Vesk braucht eine X11-Arbeitsumgebung, und dies ist eine mit Wayland ohne X-Server. Melden Sie sich in einer X11-Sitzung an, oder nutzen Sie die Befehle, die keine brauchen: vesk add und vesk list.</translation>
+    </message>
+    <message>
+        <source>Vesk needs an X11 desktop, and there is no X server at &quot;%1&quot;. The commands vesk add and vesk list need none.</source>
+        <translation>Vesk braucht eine X11-Arbeitsumgebung, und bei „%1“ ist kein X-Server. Die Befehle vesk add und vesk list brauchen keinen.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::MenuCommands</name>
+    <message>
+        <source>New Note</source>
+        <translation>Neue Notiz</translation>
+    </message>
+    <message>
+        <source>Quick Note…</source>
+        <translation>Schnellnotiz …</translation>
+    </message>
+    <message>
+        <source>Quick Checklist…</source>
+        <translation>Schnellcheckliste …</translation>
+    </message>
+    <message>
+        <source>Checklist</source>
+        <translation>Checkliste</translation>
+    </message>
+    <message>
+        <source>Bulleted List</source>
+        <translation>Aufzählung</translation>
+    </message>
+    <message>
+        <source>Heading</source>
+        <translation>Überschrift</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::MessageWindow</name>
+    <message>
+        <source>Vesk: %1</source>
+        <translation>Vesk: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::NoteListModel</name>
+    <message>
+        <source>Pinned</source>
+        <translation>Angeheftet</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>Earlier</source>
+        <translation>Früher</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::Notice</name>
+    <message>
+        <source>Saved to Vesk</source>
+        <translation>In Vesk gespeichert</translation>
+    </message>
+    <message>
+        <source>Not saved yet, Vesk keeps trying</source>
+        <translation>Noch nicht gespeichert, Vesk versucht es weiter</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::PromptListModel</name>
+    <message>
+        <source>Follow-up prompts</source>
+        <translation>Folge-Prompts</translation>
+    </message>
+    <message>
+        <source>Saved from selection</source>
+        <translation>Aus der Auswahl gespeichert</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Erledigt</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::QuickNoteModel</name>
+    <message>
+        <source>Quick Checklist</source>
+        <translation>Schnellcheckliste</translation>
+    </message>
+    <message>
+        <source>Quick Note</source>
+        <translation>Schnellnotiz</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::QuickNotePanel</name>
+    <message>
+        <source>Quick Note</source>
+        <translation>Schnellnotiz</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::Remote</name>
+    <message>
+        <source>No temporary file could be made in %1.</source>
+        <translation>In %1 konnte keine temporäre Datei angelegt werden.</translation>
+    </message>
+    <message>
+        <source>%1 could not be started.</source>
+        <translation>%1 konnte nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <source>Vesk ended as soon as it was started.</source>
+        <translation>Vesk endete gleich nach dem Start.</translation>
+    </message>
+    <message>
+        <source>Vesk was started, and does not answer yet.</source>
+        <translation>Vesk wurde gestartet und antwortet noch nicht.</translation>
+    </message>
+    <message>
+        <source>Vesk was told to quit, and has not ended yet.</source>
+        <translation>Vesk sollte sich beenden und läuft noch.</translation>
+    </message>
+    <message>
+        <source>Vesk is running, and does not answer.</source>
+        <translation>Vesk läuft und antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The Vesk that is running does not know this command: it is of another version. Quit it and start it again.</source>
+        <translation>Das laufende Vesk kennt diesen Befehl nicht: Es ist von einer anderen Version. Beenden Sie es und starten Sie es neu.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::RemoteControl</name>
+    <message>
+        <source>There is no text to add.</source>
+        <translation>Es gibt keinen Text zum Hinzufügen.</translation>
+    </message>
+    <message>
+        <source>The text is too long for a note.</source>
+        <translation>Der Text ist zu lang für eine Notiz.</translation>
+    </message>
+    <message>
+        <source>The note is not saved yet: the disk takes nothing. Vesk keeps it and goes on trying; do not add it again.</source>
+        <translation>Die Notiz ist noch nicht gespeichert: Der Datenträger nimmt nichts an. Vesk behält sie und versucht es weiter; fügen Sie sie nicht noch einmal hinzu.</translation>
+    </message>
+    <message>
+        <source>This Vesk cannot do that.</source>
+        <translation>Dieses Vesk kann das nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::StoreFile</name>
+    <message>
+        <source>is a link to a file that does not exist</source>
+        <translation>ist ein Verweis auf eine Datei, die es nicht gibt</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <translation>ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>is not an ordinary file</source>
+        <translation>ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>cannot be read (%1)</source>
+        <translation>kann nicht gelesen werden (%1)</translation>
+    </message>
+    <message>
+        <source>cannot be written (%1)</source>
+        <translation>kann nicht geschrieben werden (%1)</translation>
+    </message>
+    <message>
+        <source>is missing or empty, but its journal “%1” is not</source>
+        <translation>fehlt oder ist leer, aber ihr Journal „%1“ nicht</translation>
+    </message>
+    <message>
+        <source>is a database of another program</source>
+        <translation>ist eine Datenbank eines anderen Programms</translation>
+    </message>
+    <message>
+        <source>cannot be created (%1)</source>
+        <translation>kann nicht angelegt werden (%1)</translation>
+    </message>
+    <message>
+        <source>is not a database</source>
+        <translation>ist keine Datenbank</translation>
+    </message>
+    <message>
+        <source>is in use by another program</source>
+        <translation>wird von einem anderen Programm benutzt</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>cannot be opened (%1)</source>
+        <translation>kann nicht geöffnet werden (%1)</translation>
+    </message>
+    <message>
+        <source>is damaged</source>
+        <translation>ist beschädigt</translation>
+    </message>
+    <message>
+        <source>was written by a newer Vesk (version %1 of the store; this one knows version %2)</source>
+        <translation>wurde von einem neueren Vesk geschrieben (Version %1 des Speichers; dieses kennt Version %2)</translation>
+    </message>
+    <message>
+        <source>The file “%1” %2.</source>
+        <translation>Die Datei „%1“ %2.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::UnwrittenWindow</name>
+    <message>
+        <source>Some notes are not saved</source>
+        <translation>Einige Notizen sind nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Vesk could not write them to the disk, which may be full. It keeps trying while this window is open, and once more when you quit. To be safe, copy them and paste them elsewhere before that.</source>
+        <translation>Vesk konnte sie nicht auf den Datenträger schreiben, der vielleicht voll ist. Es versucht es weiter, solange dieses Fenster offen ist, und noch einmal beim Beenden. Kopieren Sie sie vorher sicherheitshalber und fügen Sie sie anderswo ein.</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Kopiert</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::VeskApp</name>
+    <message>
+        <source>Open Vesk</source>
+        <translation>Vesk öffnen</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::VeskServices</name>
+    <message>
+        <source>Added to “%1”</source>
+        <translation>An „%1“ angehängt</translation>
+    </message>
+    <message>
+        <source>Vesk needs Accessibility access</source>
+        <translation>Vesk braucht Zugriff über die Barrierefreiheit</translation>
+    </message>
+    <message>
+        <source>Select text to add to your checklist</source>
+        <translation>Markieren Sie Text für Ihre Checkliste</translation>
+    </message>
+    <message>
+        <source>New Note</source>
+        <translation>Neue Notiz</translation>
+    </message>
+    <message>
+        <source>Already in Vesk</source>
+        <translation>Schon in Vesk</translation>
+    </message>
+    <message>
+        <source>Checklist</source>
+        <translation>Checkliste</translation>
+    </message>
+    <message>
+        <source>Saved to Prompts</source>
+        <translation>In Prompts gespeichert</translation>
+    </message>
+    <message>
+        <source>Already in Prompts</source>
+        <translation>Schon in Prompts</translation>
+    </message>
+    <message>
+        <source>The selection is too long to keep</source>
+        <translation>Die Auswahl ist zu lang zum Speichern</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::X11Connection</name>
+    <message>
+        <source>The X server cannot be reached.</source>
+        <translation>Der X-Server ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The X server lacks the extension %1, which Vesk needs.</source>
+        <translation>Dem X-Server fehlt die Erweiterung %1, die Vesk braucht.</translation>
+    </message>
+    <message>
+        <source>The X server&apos;s extensions are too old for Vesk.</source>
+        <translation>Die Erweiterungen des X-Servers sind zu alt für Vesk.</translation>
+    </message>
+</context>
+</TS>

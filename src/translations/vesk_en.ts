@@ -1,0 +1,24 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>NoteSummary</name>
+    <message numerus="yes">
+        <source>+ %Ln more</source>
+        <translation>
+            <numerusform>+ %Ln more</numerusform>
+            <numerusform>+ %Ln more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SectionHeader</name>
+    <message numerus="yes">
+        <source>%Ln items</source>
+        <translation>
+            <numerusform>%Ln item</numerusform>
+            <numerusform>%Ln items</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

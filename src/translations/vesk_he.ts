@@ -1,0 +1,1232 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="he" sourcelanguage="en">
+<context>
+    <name>AccessBanner</name>
+    <message>
+        <source>Vesk needs Accessibility access to read selected text</source>
+        <translation>Vesk זקוק לגישה דרך הנגישות כדי לקרוא טקסט מסומן</translation>
+    </message>
+    <message>
+        <source>Open Settings</source>
+        <translation>פתיחת ההגדרות</translation>
+    </message>
+</context>
+<context>
+    <name>AccessStatus</name>
+    <message>
+        <source>Accessibility access allowed</source>
+        <translation>הגישה דרך הנגישות מותרת</translation>
+    </message>
+    <message>
+        <source>Needs Accessibility access</source>
+        <translation>נדרשת גישה דרך הנגישות</translation>
+    </message>
+    <message>
+        <source>Open Settings</source>
+        <translation>פתיחת ההגדרות</translation>
+    </message>
+</context>
+<context>
+    <name>ChecklistRow</name>
+    <message>
+        <source>Mark “%1” as not done</source>
+        <translation>סימון &quot;%1&quot; כלא בוצע</translation>
+    </message>
+    <message>
+        <source>Mark “%1” as done</source>
+        <translation>סימון &quot;%1&quot; כבוצע</translation>
+    </message>
+</context>
+<context>
+    <name>Composer</name>
+    <message>
+        <source>Write a follow-up prompt…</source>
+        <translation>כתיבת הנחיית המשך…</translation>
+    </message>
+    <message>
+        <source>Write a note…</source>
+        <translation>כתיבת פתק…</translation>
+    </message>
+</context>
+<context>
+    <name>CopyButton</name>
+    <message>
+        <source>Copy</source>
+        <translation>העתקה</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>הועתק</translation>
+    </message>
+</context>
+<context>
+    <name>EditMenu</name>
+    <message>
+        <source>Edit</source>
+        <translation>עריכה</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>ביטול</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>ביצוע מחדש</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>גזירה</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>העתקה</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>הדבקה</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>בחירת הכול</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyPrompts</name>
+    <message>
+        <source>No prompts yet</source>
+        <translation>אין עדיין הנחיות</translation>
+    </message>
+    <message>
+        <source>Select text anywhere and tap</source>
+        <translation>מסמנים טקסט בכל מקום ומקישים</translation>
+    </message>
+    <message>
+        <source>or write a follow-up prompt below.</source>
+        <translation>או כותבים הנחיית המשך למטה.</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Nothing here yet</source>
+        <translation>אין כאן עדיין כלום</translation>
+    </message>
+    <message>
+        <source>Vesk catches whatever you select, from any app.</source>
+        <translation>Vesk שומר כל מה שמסמנים, מכל יישום.</translation>
+    </message>
+</context>
+<context>
+    <name>GuideView</name>
+    <message>
+        <source>Quick Guide</source>
+        <translation>מדריך מהיר</translation>
+    </message>
+    <message>
+        <source>Welcome to Vesk</source>
+        <translation>ברוכים הבאים אל Vesk</translation>
+    </message>
+    <message>
+        <source>A quiet notes pad that catches whatever you select.</source>
+        <translation>פנקס שקט ששומר כל מה שמסמנים.</translation>
+    </message>
+    <message>
+        <source>Got it</source>
+        <translation>הבנתי</translation>
+    </message>
+</context>
+<context>
+    <name>NoteActions</name>
+    <message>
+        <source>Unpin</source>
+        <translation>ביטול הצמדה</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>הצמדה</translation>
+    </message>
+    <message>
+        <source>Paste into the App You Came From (⌘↩)</source>
+        <translation>הדבקה ביישום הקודם (⌘↩)</translation>
+    </message>
+    <message>
+        <source>Delete (⌘⌫)</source>
+        <translation>מחיקה (⌘⌫)</translation>
+    </message>
+</context>
+<context>
+    <name>NoteCard</name>
+    <message>
+        <source>New Note</source>
+        <translation>פתק חדש</translation>
+    </message>
+    <message>
+        <source>pinned</source>
+        <translation>מוצמד</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 done</source>
+        <translation>%L1 מתוך %L2 בוצעו</translation>
+    </message>
+    <message>
+        <source>from %1</source>
+        <translation>מתוך %1</translation>
+    </message>
+    <message>
+        <source>the app</source>
+        <translation>היישום</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation>פתיחת %1</translation>
+    </message>
+</context>
+<context>
+    <name>NoteEditor</name>
+    <message>
+        <source>Start typing…</source>
+        <translation>אפשר להתחיל לכתוב…</translation>
+    </message>
+</context>
+<context>
+    <name>NoteForm</name>
+    <message>
+        <source>Title</source>
+        <translation>כותרת</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>סיום</translation>
+    </message>
+</context>
+<context>
+    <name>NoteList</name>
+    <message>
+        <source>Checklists</source>
+        <translation>רשימות</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>פתקים</translation>
+    </message>
+</context>
+<context>
+    <name>NoteSummary</name>
+    <message numerus="yes">
+        <source>+ %Ln more</source>
+        <translation>
+            <numerusform>ועוד אחד</numerusform>
+            <numerusform>ועוד %Ln</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PanelContent</name>
+    <message>
+        <source>No notes match “%1”</source>
+        <translation>אין פתקים שמתאימים ל־&quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>No checklists yet</source>
+        <translation>אין עדיין רשימות</translation>
+    </message>
+    <message>
+        <source>Type [ ] and a space in a note to start one.</source>
+        <translation>כדי להתחיל רשימה מקלידים בפתק [ ] ורווח.</translation>
+    </message>
+    <message>
+        <source>No prompts match “%1”</source>
+        <translation>אין הנחיות שמתאימות ל־&quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>PanelMenuButton</name>
+    <message>
+        <source>Menu</source>
+        <translation>תפריט</translation>
+    </message>
+    <message>
+        <source>Quick Guide…</source>
+        <translation>מדריך מהיר…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>חיפוש עדכונים…</translation>
+    </message>
+    <message>
+        <source>New Note (⌃⌥⌘N)</source>
+        <translation>פתק חדש (⌃⌥⌘N)</translation>
+    </message>
+    <message>
+        <source>Quick Note…</source>
+        <translation>פתק מהיר…</translation>
+    </message>
+    <message>
+        <source>Quick Checklist…</source>
+        <translation>רשימה מהירה…</translation>
+    </message>
+    <message>
+        <source>Clear Done Prompts</source>
+        <translation>ניקוי ההנחיות שבוצעו</translation>
+    </message>
+    <message>
+        <source>Accessibility Settings…</source>
+        <translation>הגדרות נגישות…</translation>
+    </message>
+    <message>
+        <source>Quit Vesk</source>
+        <translation>יציאה מ־Vesk</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressChip</name>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 מתוך %L2</translation>
+    </message>
+</context>
+<context>
+    <name>PromptCard</name>
+    <message>
+        <source>%1, done</source>
+        <translation>%1, בוצע</translation>
+    </message>
+    <message>
+        <source>Mark as not done</source>
+        <translation>סימון כלא בוצע</translation>
+    </message>
+    <message>
+        <source>Mark as done</source>
+        <translation>סימון כבוצע</translation>
+    </message>
+    <message>
+        <source>Show less</source>
+        <translation>הצגת פחות</translation>
+    </message>
+    <message>
+        <source>Show more</source>
+        <translation>הצגת עוד</translation>
+    </message>
+    <message>
+        <source>Paste into the App You Came From (⌘↩)</source>
+        <translation>הדבקה ביישום הקודם (⌘↩)</translation>
+    </message>
+    <message>
+        <source>Delete (⌘⌫)</source>
+        <translation>מחיקה (⌘⌫)</translation>
+    </message>
+</context>
+<context>
+    <name>PromptList</name>
+    <message>
+        <source>Prompts</source>
+        <translation>הנחיות</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Vesk cannot start</source>
+        <translation type="unfinished">לא ניתן להפעיל את Vesk</translation>
+    </message>
+    <message>
+        <source>Could not open the notes store: %1</source>
+        <translation type="unfinished">לא ניתן לפתוח את מאגר הפתקים: %1</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation type="unfinished">יציאה</translation>
+    </message>
+    <message>
+        <source>There is a copy of your notes, made on %1: “%2”. To go on with it, run this command in a terminal and start Vesk again. It keeps the damaged file in the folder “damaged” beside it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QuickNoteView</name>
+    <message>
+        <source>Write a note…</source>
+        <translation>כתיבת פתק…</translation>
+    </message>
+    <message>
+        <source>Next item</source>
+        <translation>הפריט הבא</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>שמירה</translation>
+    </message>
+    <message>
+        <source>New line</source>
+        <translation>שורה חדשה</translation>
+    </message>
+    <message>
+        <source>Checkbox</source>
+        <translation>תיבת סימון</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>סגירה</translation>
+    </message>
+</context>
+<context>
+    <name>RelativeTime</name>
+    <message>
+        <source>Just now</source>
+        <translation>ממש עכשיו</translation>
+    </message>
+</context>
+<context>
+    <name>SearchField</name>
+    <message>
+        <source>Search</source>
+        <translation>חיפוש</translation>
+    </message>
+    <message>
+        <source>Clear Search</source>
+        <translation>ניקוי החיפוש</translation>
+    </message>
+</context>
+<context>
+    <name>SectionHeader</name>
+    <message>
+        <source>%1, %2, %3</source>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln items</source>
+        <translation>
+            <numerusform>פריט אחד</numerusform>
+            <numerusform>%Ln פריטים</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>collapsed</source>
+        <translation>מקופל</translation>
+    </message>
+    <message>
+        <source>expanded</source>
+        <translation>פרוס</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>הצגה</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>הסתרה</translation>
+    </message>
+</context>
+<context>
+    <name>SourceCapsule</name>
+    <message>
+        <source>from %1</source>
+        <translation>מתוך %1</translation>
+    </message>
+</context>
+<context>
+    <name>TabBar</name>
+    <message>
+        <source>Tabs</source>
+        <translation>לשוניות</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>פתקים</translation>
+    </message>
+    <message>
+        <source>Checklists</source>
+        <translation>רשימות</translation>
+    </message>
+    <message>
+        <source>Prompts</source>
+        <translation>הנחיות</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>See: vesk --help</source>
+        <extracomment>After a sentence that says what is wrong with a command line.</extracomment>
+        <translation>ראו: vesk --help</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::AccessCommand</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>שימוש: %1</translation>
+    </message>
+    <message>
+        <source>allowed</source>
+        <translation>מותר</translation>
+    </message>
+    <message>
+        <source>not allowed</source>
+        <translation>אסור</translation>
+    </message>
+    <message>
+        <source>The choice could not be written to %1.</source>
+        <translation>לא ניתן לכתוב את הבחירה אל %1.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::AccessWindow</name>
+    <message>
+        <source>Let Vesk read what you select?</source>
+        <translation>לאפשר ל־Vesk לקרוא את מה שמסמנים?</translation>
+    </message>
+    <message>
+        <source>When you press one of Vesk’s keys, Vesk reads the text that is selected, or was copied a moment before, and where it is: the application, its window’s title and, in a browser, the page’s address. At other times it only notices when a key or button was pressed, not which one, to tell what is selected now from what was. It sends nothing anywhere.
+
+Applications that are open already may have to be started again before Vesk can read them.</source>
+        <translation>כשלוחצים על אחד מצירופי המקשים של Vesk, הוא קורא את הטקסט שמסומן, או שהועתק רגע קודם לכן, ואת מקומו: היישום, כותרת החלון שלו, ובדפדפן גם כתובת הדף. בשאר הזמן הוא רק מבחין שנלחץ מקש או לחצן, ולא איזה, כדי להבדיל בין מה שמסומן עכשיו למה שסומן קודם. הוא לא שולח דבר לשום מקום.
+
+ייתכן שיישומים שכבר פתוחים יצטרכו הפעלה מחדש לפני ש־Vesk יוכל לקרוא מהם.</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>אישור</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>לא עכשיו</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::AppUpdater</name>
+    <message>
+        <source>OK</source>
+        <translation>אישור</translation>
+    </message>
+    <message>
+        <source>Vesk is up to date</source>
+        <translation>Vesk מעודכן</translation>
+    </message>
+    <message>
+        <source>Version %1 is the newest that your system can install.</source>
+        <translation>גרסה %1 היא החדשה ביותר שהמערכת יכולה להתקין.</translation>
+    </message>
+    <message>
+        <source>There is a newer Vesk</source>
+        <translation>יש Vesk חדש יותר</translation>
+    </message>
+    <message>
+        <source>Your system can install version %1, by what you install packages with.</source>
+        <translation>המערכת יכולה להתקין את גרסה %1, בעזרת מנהל החבילות.</translation>
+    </message>
+    <message>
+        <source>Your system can install version %1.</source>
+        <translation>המערכת יכולה להתקין את גרסה %1.</translation>
+    </message>
+    <message>
+        <source>Open Updates</source>
+        <translation>פתיחת העדכונים</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>מאוחר יותר</translation>
+    </message>
+    <message>
+        <source>Your system does not update this Vesk</source>
+        <translation>המערכת לא מעדכנת את Vesk הזה</translation>
+    </message>
+    <message>
+        <source>It was not installed as a package. A newer version is where this one came from.</source>
+        <translation>הוא לא הותקן כחבילה. גרסה חדשה יותר נמצאת במקום שממנו הגיעה הגרסה הזו.</translation>
+    </message>
+    <message>
+        <source>Could not check for updates</source>
+        <translation>לא ניתן היה לחפש עדכונים</translation>
+    </message>
+    <message>
+        <source>Your system’s package service did not answer. Try again later.</source>
+        <translation>שירות החבילות של המערכת לא השיב. כדאי לנסות שוב מאוחר יותר.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::CanberraSounds</name>
+    <message>
+        <source>Saved to Vesk</source>
+        <translation>נשמר ב־Vesk</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::Client</name>
+    <message>
+        <source>Vesk needs the session&apos;s message bus, and there is none: run this in your desktop&apos;s session.</source>
+        <translation>Vesk זקוק לאפיק ההודעות של ההפעלה, ואין כזה: יש להריץ זאת בתוך ההפעלה של שולחן העבודה.</translation>
+    </message>
+    <message>
+        <source>The text is longer than the %1 MB that a note may have.</source>
+        <translation>הטקסט ארוך מ־%1 MB, הגודל המרבי של פתק.</translation>
+    </message>
+    <message>
+        <source>Standard output takes no more: %1.</source>
+        <translation>הפלט התקני לא מקבל עוד: %1.</translation>
+    </message>
+    <message>
+        <source>Standard input cannot be read.</source>
+        <translation>לא ניתן לקרוא את הקלט התקני.</translation>
+    </message>
+    <message>
+        <source>Standard input is not plain text in UTF-8.</source>
+        <translation>הקלט התקני אינו טקסט פשוט בקידוד UTF-8.</translation>
+    </message>
+    <message>
+        <source>There is no text to add.</source>
+        <translation>אין טקסט להוספה.</translation>
+    </message>
+    <message>
+        <source>Could not open the notes store: %1</source>
+        <translation>לא ניתן לפתוח את מאגר הפתקים: %1</translation>
+    </message>
+    <message>
+        <source>The note could not be written to %1.</source>
+        <translation>לא ניתן לכתוב את הפתק אל %1.</translation>
+    </message>
+    <message>
+        <source>%1 could not be started: %2.</source>
+        <translation>לא ניתן להפעיל את %1: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::CommandHints</name>
+    <message>
+        <source>Save selected text, or write a quick note</source>
+        <translation>שמירת טקסט מסומן, או כתיבת פתק מהיר</translation>
+    </message>
+    <message>
+        <source>Add the selection to your last note</source>
+        <translation>הוספת הבחירה לפתק האחרון</translation>
+    </message>
+    <message>
+        <source>Open or hide Vesk</source>
+        <translation>פתיחה או הסתרה של Vesk</translation>
+    </message>
+    <message>
+        <source>Open Vesk and write a new note</source>
+        <translation>פתיחת Vesk וכתיבת פתק חדש</translation>
+    </message>
+    <message>
+        <source>Save selected text as a prompt</source>
+        <translation>שמירת טקסט מסומן כהנחיה</translation>
+    </message>
+    <message>
+        <source>Start a checklist while typing</source>
+        <translation>התחלת רשימה תוך כדי כתיבה</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::CommandLine</name>
+    <message>
+        <source>show or hide the panel</source>
+        <translation>הצגה או הסתרה של הלוח</translation>
+    </message>
+    <message>
+        <source>show the panel to write a note</source>
+        <translation>הצגת הלוח לכתיבת פתק</translation>
+    </message>
+    <message>
+        <source>keep the selected text as a note</source>
+        <translation>שמירת הטקסט המסומן כפתק</translation>
+    </message>
+    <message>
+        <source>add it to the note changed last</source>
+        <translation>הוספתו לפתק שהשתנה אחרון</translation>
+    </message>
+    <message>
+        <source>keep each selected line as a checkbox</source>
+        <translation>שמירת כל שורה מסומנת כתיבת סימון</translation>
+    </message>
+    <message>
+        <source>add the selected lines to the checklist changed last</source>
+        <translation>הוספת השורות המסומנות לרשימה שהשתנתה אחרונה</translation>
+    </message>
+    <message>
+        <source>keep the selected text as a prompt</source>
+        <translation>שמירת הטקסט המסומן כהנחיה</translation>
+    </message>
+    <message>
+        <source>open the box for a quick note</source>
+        <translation>פתיחת התיבה לפתק מהיר</translation>
+    </message>
+    <message>
+        <source>end Vesk</source>
+        <translation>סיום Vesk</translation>
+    </message>
+    <message>
+        <source>keep TEXT as a note; &quot;vesk add -&quot; takes it from standard input</source>
+        <translation>שמירת TEXT כפתק; ‏&quot;vesk add -&quot; לוקח אותו מהקלט התקני</translation>
+    </message>
+    <message>
+        <source>print the notes, newest first</source>
+        <translation>הדפסת הפתקים, החדש ביותר ראשון</translation>
+    </message>
+    <message>
+        <source>whether Vesk may read what is selected in other applications</source>
+        <translation>האם מותר ל־Vesk לקרוא את מה שמסומן ביישומים אחרים</translation>
+    </message>
+    <message>
+        <source>start without showing the panel</source>
+        <translation>הפעלה בלי להציג את הלוח</translation>
+    </message>
+    <message>
+        <source>draw the windows by the GPU (only at the start)</source>
+        <translation>ציור החלונות בעזרת המעבד הגרפי (רק בהפעלה)</translation>
+    </message>
+    <message>
+        <source>print this</source>
+        <translation>הדפסת טקסט זה</translation>
+    </message>
+    <message>
+        <source>print the version</source>
+        <translation>הדפסת הגרסה</translation>
+    </message>
+    <message>
+        <source>There is no option %1.</source>
+        <translation>אין אפשרות בשם %1.</translation>
+    </message>
+    <message>
+        <source>What is to be added? Give the text, or - to take it from standard input.</source>
+        <translation>מה להוסיף? יש לתת את הטקסט, או - כדי לקחת אותו מהקלט התקני.</translation>
+    </message>
+    <message>
+        <source>Put the text into quotes, so that it is one argument.</source>
+        <translation>יש לשים את הטקסט במירכאות, כדי שיהיה ארגומנט אחד.</translation>
+    </message>
+    <message>
+        <source>There is no command %1.</source>
+        <translation>אין פקודה בשם %1.</translation>
+    </message>
+    <message>
+        <source>%1 takes one option at most.</source>
+        <translation>%1 מקבלת לכל היותר אפשרות אחת.</translation>
+    </message>
+    <message>
+        <source>%1 does not know %2.</source>
+        <translation>%1 לא מכירה את %2.</translation>
+    </message>
+    <message>
+        <source>Usage: vesk [command]
+
+Keeps what you select, anywhere. Without a command: starts Vesk, or shows the panel of the Vesk that
+runs.</source>
+        <translation>שימוש: vesk [command]
+
+שומר כל מה שמסמנים, בכל מקום. בלי פקודה: מפעיל את Vesk, או מציג את הלוח של Vesk שכבר
+פועל.</translation>
+    </message>
+    <message>
+        <source>Commands for the running Vesk, which is started in the background if none runs:</source>
+        <translation>פקודות ל־Vesk הפועל, שמופעל ברקע אם אינו פועל:</translation>
+    </message>
+    <message>
+        <source>Commands that need no running Vesk:</source>
+        <translation>פקודות שאינן זקוקות ל־Vesk פועל:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>אפשרויות:</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 done, 1 failed (standard error says why), 2 wrong use.</source>
+        <translation>ערך חזרה: 0 בוצע, 1 נכשל (פלט השגיאה אומר מדוע), 2 שימוש שגוי.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::GuideTopics</name>
+    <message>
+        <source>Open Vesk anywhere</source>
+        <translation>פתיחת Vesk בכל מקום</translation>
+    </message>
+    <message>
+        <source>Press it in any app to open or hide Vesk. Escape also hides it, and so does clicking another app.</source>
+        <translation>לחיצה בכל יישום פותחת את Vesk או מסתירה אותו. גם Escape מסתיר אותו, וכך גם לחיצה על יישום אחר.</translation>
+    </message>
+    <message>
+        <source>Write a new note</source>
+        <translation>כתיבת פתק חדש</translation>
+    </message>
+    <message>
+        <source>Opens Vesk with the cursor in “Write a note…”. Return saves it, Shift-Return starts a new line.</source>
+        <translation>פותח את Vesk כשהסמן ב&quot;כתיבת פתק…&quot;. Enter שומר, Shift-Enter מתחיל שורה חדשה.</translation>
+    </message>
+    <message>
+        <source>Save selected text</source>
+        <translation>שמירת טקסט מסומן</translation>
+    </message>
+    <message>
+        <source>Select text in a browser, ChatGPT, Claude, a terminal, anywhere, and press it. It becomes a note that remembers where it came from. With nothing selected, a quick note box opens.</source>
+        <translation>מסמנים טקסט בדפדפן, ב־ChatGPT, ב־Claude, במסוף, בכל מקום, ולוחצים. הוא הופך לפתק שזוכר מאין הגיע. אם שום דבר לא מסומן, נפתחת תיבה לפתק מהיר.</translation>
+    </message>
+    <message>
+        <source>Prompts for your AI chats</source>
+        <translation>הנחיות לשיחות עם בינה מלאכותית</translation>
+    </message>
+    <message>
+        <source>Select text and tap Shift twice to save it as a prompt, or write follow-up prompts in the Prompts tab. Copy or paste them into the chat and tick them off.</source>
+        <translation>מסמנים טקסט ומקישים פעמיים על Shift כדי לשמור אותו כהנחיה, או כותבים הנחיות המשך בלשונית ההנחיות. מעתיקים או מדביקים אותן בשיחה ומסמנים שבוצעו.</translation>
+    </message>
+    <message>
+        <source>Add to your last note</source>
+        <translation>הוספה לפתק האחרון</translation>
+    </message>
+    <message>
+        <source>Adds the selection to the bottom of the note you changed last. A note that ends in a checklist gets new checkboxes.</source>
+        <translation>מוסיף את הבחירה לתחתית הפתק שהשתנה אחרון. פתק שמסתיים ברשימה מקבל תיבות סימון חדשות.</translation>
+    </message>
+    <message>
+        <source>Make a checklist</source>
+        <translation>יצירת רשימה</translation>
+    </message>
+    <message>
+        <source>Each selected line becomes a checkbox. With nothing selected, a box opens on the first checkbox: Return adds the next item, ⌘↩ saves.</source>
+        <translation>כל שורה מסומנת הופכת לתיבת סימון. אם שום דבר לא מסומן, נפתחת תיבה עם הסימון הראשון: Enter מוסיף את הפריט הבא, ⌘↩ שומר.</translation>
+    </message>
+    <message>
+        <source>Add to your checklist</source>
+        <translation>הוספה לרשימה</translation>
+    </message>
+    <message>
+        <source>Each selected line becomes a new checkbox in the checklist you changed last, even if you edited other notes since.</source>
+        <translation>כל שורה מסומנת הופכת לתיבת סימון חדשה ברשימה שהשתנתה אחרונה, גם אם מאז נערכו פתקים אחרים.</translation>
+    </message>
+    <message>
+        <source>Checkboxes and lists</source>
+        <translation>תיבות סימון ורשימות</translation>
+    </message>
+    <message>
+        <source>Type [ ] and a space for a checkbox, - and a space for a bullet, # and a space for a heading. Tick boxes right on the card.</source>
+        <translation>[ ] ורווח לתיבת סימון, - ורווח לתבליט, # ורווח לכותרת. אפשר לסמן תיבות ישירות בכרטיס.</translation>
+    </message>
+    <message>
+        <source>Keyboard in the panel</source>
+        <translation>המקלדת בלוח</translation>
+    </message>
+    <message>
+        <source>Move between notes. Return opens one, ⌘↩ pastes it into the app you came from, ⌘⌫ deletes it, ⌘F searches.</source>
+        <translation>מעבר בין פתקים. Enter פותח פתק, ⌘↩ מדביק אותו ביישום הקודם, ⌘⌫ מוחק אותו, ⌘F מחפש.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::KeyLabels</name>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Backspace</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>רווח</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>↑</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>↓</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::KeySettings</name>
+    <message>
+        <source>There is no key in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is no modifier; there are Super, Alt, Ctrl and Shift.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>After the modifiers a key is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no key “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It needs Super, Alt or Ctrl, or every application would lose this key.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is no command with “=” and a combination behind it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No key has a command “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys.conf, line %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 “%2” stays at %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” was in line %2 already, which holds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only save-prompt can be Shift tapped twice.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is the combination of “%2”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>vesk::Main</name>
+    <message>
+        <source>Vesk cannot start</source>
+        <translation>לא ניתן להפעיל את Vesk</translation>
+    </message>
+    <message>
+        <source>Vesk is running already, and does not answer.</source>
+        <translation>Vesk כבר פועל ואינו משיב.</translation>
+    </message>
+    <message>
+        <source>Vesk needs the session&apos;s message bus, and there is none.</source>
+        <translation>Vesk זקוק לאפיק ההודעות של ההפעלה, ואין כזה.</translation>
+    </message>
+    <message>
+        <source>Vesk cannot start: %1</source>
+        <translation>לא ניתן להפעיל את Vesk: %1</translation>
+    </message>
+    <message>
+        <source>Vesk needs an X11 desktop, and this is a Wayland desktop without an X server. Log in to a session of X11, or use the commands that need none: vesk add and vesk list.</source>
+        <translation>Vesk זקוק לשולחן עבודה של X11, וזהו שולחן עבודה של Wayland בלי שרת X. אפשר להיכנס להפעלה של X11, או להשתמש בפקודות שאינן זקוקות לה: vesk add ו־vesk list.</translation>
+    </message>
+    <message>
+        <source>Vesk needs an X11 desktop, and there is no X server at &quot;%1&quot;. The commands vesk add and vesk list need none.</source>
+        <translation>Vesk זקוק לשולחן עבודה של X11, ואין שרת X ב־&quot;%1&quot;. הפקודות vesk add ו־vesk list אינן זקוקות לו.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::MenuCommands</name>
+    <message>
+        <source>New Note</source>
+        <translation>פתק חדש</translation>
+    </message>
+    <message>
+        <source>Quick Note…</source>
+        <translation>פתק מהיר…</translation>
+    </message>
+    <message>
+        <source>Quick Checklist…</source>
+        <translation>רשימה מהירה…</translation>
+    </message>
+    <message>
+        <source>Checklist</source>
+        <translation>רשימה</translation>
+    </message>
+    <message>
+        <source>Bulleted List</source>
+        <translation>רשימת תבליטים</translation>
+    </message>
+    <message>
+        <source>Heading</source>
+        <translation>כותרת</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::MessageWindow</name>
+    <message>
+        <source>Vesk: %1</source>
+        <translation>Vesk: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::NoteListModel</name>
+    <message>
+        <source>Pinned</source>
+        <translation>מוצמדים</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>היום</translation>
+    </message>
+    <message>
+        <source>Earlier</source>
+        <translation>קודם לכן</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::Notice</name>
+    <message>
+        <source>Saved to Vesk</source>
+        <translation>נשמר ב־Vesk</translation>
+    </message>
+    <message>
+        <source>Not saved yet, Vesk keeps trying</source>
+        <translation>עדיין לא נשמר, Vesk ממשיך לנסות</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::PromptListModel</name>
+    <message>
+        <source>Follow-up prompts</source>
+        <translation>הנחיות המשך</translation>
+    </message>
+    <message>
+        <source>Saved from selection</source>
+        <translation>נשמרו מבחירה</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>בוצע</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::QuickNoteModel</name>
+    <message>
+        <source>Quick Checklist</source>
+        <translation>רשימה מהירה</translation>
+    </message>
+    <message>
+        <source>Quick Note</source>
+        <translation>פתק מהיר</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::QuickNotePanel</name>
+    <message>
+        <source>Quick Note</source>
+        <translation>פתק מהיר</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::Remote</name>
+    <message>
+        <source>No temporary file could be made in %1.</source>
+        <translation>לא ניתן ליצור קובץ זמני ב־%1.</translation>
+    </message>
+    <message>
+        <source>%1 could not be started.</source>
+        <translation>לא ניתן להפעיל את %1.</translation>
+    </message>
+    <message>
+        <source>Vesk ended as soon as it was started.</source>
+        <translation>Vesk הסתיים מיד אחרי שהופעל.</translation>
+    </message>
+    <message>
+        <source>Vesk was started, and does not answer yet.</source>
+        <translation>Vesk הופעל ועדיין אינו משיב.</translation>
+    </message>
+    <message>
+        <source>Vesk was told to quit, and has not ended yet.</source>
+        <translation>Vesk התבקש לצאת ועדיין לא הסתיים.</translation>
+    </message>
+    <message>
+        <source>Vesk is running, and does not answer.</source>
+        <translation>Vesk פועל ואינו משיב.</translation>
+    </message>
+    <message>
+        <source>The Vesk that is running does not know this command: it is of another version. Quit it and start it again.</source>
+        <translation>Vesk הפועל לא מכיר את הפקודה הזו: הוא מגרסה אחרת. יש לצאת ממנו ולהפעיל אותו שוב.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::RemoteControl</name>
+    <message>
+        <source>There is no text to add.</source>
+        <translation>אין טקסט להוספה.</translation>
+    </message>
+    <message>
+        <source>The text is too long for a note.</source>
+        <translation>הטקסט ארוך מדי לפתק.</translation>
+    </message>
+    <message>
+        <source>The note is not saved yet: the disk takes nothing. Vesk keeps it and goes on trying; do not add it again.</source>
+        <translation>הפתק עדיין לא נשמר: הכונן אינו מקבל דבר. Vesk שומר אותו וממשיך לנסות; אין להוסיף אותו שוב.</translation>
+    </message>
+    <message>
+        <source>This Vesk cannot do that.</source>
+        <translation>Vesk הזה לא יכול לעשות זאת.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::StoreFile</name>
+    <message>
+        <source>is a link to a file that does not exist</source>
+        <translation>הוא קישור לקובץ שאינו קיים</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <translation>הוא תיקייה</translation>
+    </message>
+    <message>
+        <source>is not an ordinary file</source>
+        <translation>אינו קובץ רגיל</translation>
+    </message>
+    <message>
+        <source>cannot be read (%1)</source>
+        <translation>אינו ניתן לקריאה (%1)</translation>
+    </message>
+    <message>
+        <source>cannot be written (%1)</source>
+        <translation>אינו ניתן לכתיבה (%1)</translation>
+    </message>
+    <message>
+        <source>is missing or empty, but its journal “%1” is not</source>
+        <translation>חסר או ריק, אך היומן שלו &quot;%1&quot; אינו כזה</translation>
+    </message>
+    <message>
+        <source>is a database of another program</source>
+        <translation>הוא מסד נתונים של תוכנה אחרת</translation>
+    </message>
+    <message>
+        <source>cannot be created (%1)</source>
+        <translation>אינו ניתן ליצירה (%1)</translation>
+    </message>
+    <message>
+        <source>is not a database</source>
+        <translation>אינו מסד נתונים</translation>
+    </message>
+    <message>
+        <source>is in use by another program</source>
+        <translation>נמצא בשימוש של תוכנה אחרת</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>אינו ניתן לכתיבה</translation>
+    </message>
+    <message>
+        <source>cannot be opened (%1)</source>
+        <translation>אינו ניתן לפתיחה (%1)</translation>
+    </message>
+    <message>
+        <source>is damaged</source>
+        <translation>פגום</translation>
+    </message>
+    <message>
+        <source>was written by a newer Vesk (version %1 of the store; this one knows version %2)</source>
+        <translation>נכתב בידי Vesk חדש יותר (גרסה %1 של המאגר; זה מכיר את גרסה %2)</translation>
+    </message>
+    <message>
+        <source>The file “%1” %2.</source>
+        <translation>הקובץ &quot;%1&quot; %2.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::UnwrittenWindow</name>
+    <message>
+        <source>Some notes are not saved</source>
+        <translation>חלק מהפתקים לא נשמרו</translation>
+    </message>
+    <message>
+        <source>Vesk could not write them to the disk, which may be full. It keeps trying while this window is open, and once more when you quit. To be safe, copy them and paste them elsewhere before that.</source>
+        <translation>Vesk לא הצליח לכתוב אותם לכונן, שאולי מלא. הוא ממשיך לנסות כל עוד החלון הזה פתוח, ופעם נוספת ביציאה. ליתר ביטחון, כדאי להעתיק אותם לפני כן ולהדביק במקום אחר.</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>העתקה</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>יציאה</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>הועתק</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::VeskApp</name>
+    <message>
+        <source>Open Vesk</source>
+        <translation>פתיחת Vesk</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>יציאה</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::VeskServices</name>
+    <message>
+        <source>Added to “%1”</source>
+        <translation>נוסף אל &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Vesk needs Accessibility access</source>
+        <translation>Vesk זקוק לגישה דרך הנגישות</translation>
+    </message>
+    <message>
+        <source>Select text to add to your checklist</source>
+        <translation>סמנו טקסט להוספה לרשימה</translation>
+    </message>
+    <message>
+        <source>New Note</source>
+        <translation>פתק חדש</translation>
+    </message>
+    <message>
+        <source>Already in Vesk</source>
+        <translation>כבר נמצא ב־Vesk</translation>
+    </message>
+    <message>
+        <source>Checklist</source>
+        <translation>רשימה</translation>
+    </message>
+    <message>
+        <source>Saved to Prompts</source>
+        <translation>נשמר בהנחיות</translation>
+    </message>
+    <message>
+        <source>Already in Prompts</source>
+        <translation>כבר נמצא בהנחיות</translation>
+    </message>
+    <message>
+        <source>The selection is too long to keep</source>
+        <translation>הבחירה ארוכה מכדי לשמור אותה</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::X11Connection</name>
+    <message>
+        <source>The X server cannot be reached.</source>
+        <translation>לא ניתן להגיע לשרת X.</translation>
+    </message>
+    <message>
+        <source>The X server lacks the extension %1, which Vesk needs.</source>
+        <translation>לשרת X חסרה ההרחבה %1, ש־Vesk זקוק לה.</translation>
+    </message>
+    <message>
+        <source>The X server&apos;s extensions are too old for Vesk.</source>
+        <translation>ההרחבות של שרת X ישנות מדי עבור Vesk.</translation>
+    </message>
+</context>
+</TS>
