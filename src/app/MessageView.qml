@@ -25,6 +25,8 @@ Rectangle {
     width: 440
     height: column.height + 2 * 24
     color: Theme.background
+    LayoutMirroring.enabled: Theme.isMirrored
+    LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.Dialog
     Accessible.name: root.heading
     Accessible.description: root.message

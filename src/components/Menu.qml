@@ -18,7 +18,7 @@ Item {
     property point corner
 
     function openBelow(item: Item) {
-        openAt(item, item.width, item.height + 4);
+        openAt(item, Theme.isMirrored ? 0 : item.width, item.height + 4);
     }
 
     function openAt(item: Item, x: real, y: real) {
@@ -33,6 +33,8 @@ Item {
 
     anchors.fill: parent
     z: 1000
+    LayoutMirroring.enabled: Theme.isMirrored
+    LayoutMirroring.childrenInherit: true
     visible: control.isOpen
     onVisibleChanged: {
         if (visible)

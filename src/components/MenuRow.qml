@@ -33,7 +33,8 @@ Rectangle {
     Text {
         id: label
 
-        x: 10
+        anchors.left: parent.left
+        anchors.leftMargin: 10
         anchors.verticalCenter: parent.verticalCenter
         text: KeyLabels.spelt(root.entry.text, root.place)
         textFormat: Text.PlainText

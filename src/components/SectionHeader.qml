@@ -19,11 +19,12 @@ PressButton {
     Symbol {
         id: chevron
 
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         name: "chevron.down"
         size: 9
         color: Theme.secondary
-        rotation: root.isCollapsed ? -90 : 0
+        rotation: root.isCollapsed ? (Theme.isMirrored ? 90 : -90) : 0
 
         Behavior on rotation {
             Spring {
@@ -63,8 +64,8 @@ PressButton {
     Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         // On whole points, so that it ends where the cards below do.
-        x: Math.round(number.x + number.width) + Theme.tightSpace
-        width: parent.width - x
+        x: Theme.isMirrored ? 0 : Math.round(number.x + number.width) + Theme.tightSpace
+        width: Theme.isMirrored ? Math.round(number.x) - Theme.tightSpace : parent.width - x
         height: 1
         color: Theme.strongEdge
     }

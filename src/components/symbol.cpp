@@ -3,6 +3,7 @@
 
 #include "components/symboltable.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -46,6 +47,8 @@ void Symbol::paint(QPainter *painter)
     // The pictures are black; the colour goes over whatever they cover.
     QSvgRenderer renderer(*picture);
     const QRectF area = boundingRect();
+    if (symboltable::isDirectional(name) && QGuiApplication::isRightToLeft())
+        painter->setTransform(QTransform(-1, 0, 0, 1, area.width(), 0), true);
     renderer.render(painter, area);
     if (isStruck)
         strike(*painter, area);

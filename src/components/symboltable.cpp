@@ -14,16 +14,19 @@ struct Entry
 {
     const char *symbol;
     const char *icon;
+    /// Points, or has lines that begin, where texts do not begin: turned over for a language that is read
+    /// from right to left.
+    bool isDirectional = false;
 };
 
 // The build reads the icon names from these lines and embeds those pictures, no others.
 constexpr std::array kEntries{
     Entry{.symbol = "arrow.up.and.down", .icon = "arrow-down-up"},
-    Entry{.symbol = "arrow.up.forward.app", .icon = "box-arrow-up-right"},
-    Entry{.symbol = "arrow.up.right", .icon = "arrow-up-right"},
+    Entry{.symbol = "arrow.up.forward.app", .icon = "box-arrow-up-right", .isDirectional = true},
+    Entry{.symbol = "arrow.up.right", .icon = "arrow-up-right", .isDirectional = true},
     Entry{.symbol = "bubble.left.and.text.bubble.right", .icon = "chat-left-text"},
     Entry{.symbol = "character.cursor.ibeam", .icon = "input-cursor-text"},
-    Entry{.symbol = "checklist", .icon = "list-check"},
+    Entry{.symbol = "checklist", .icon = "list-check", .isDirectional = true},
     Entry{.symbol = "checkmark", .icon = "check-lg"},
     Entry{.symbol = "checkmark.circle.fill", .icon = "check-circle-fill"},
     Entry{.symbol = "chevron.down", .icon = "chevron-down"},
@@ -32,28 +35,39 @@ constexpr std::array kEntries{
     Entry{.symbol = "exclamationmark.triangle.fill", .icon = "exclamation-triangle-fill"},
     Entry{.symbol = "hand.raised.fill", .icon = "shield-lock-fill"},
     Entry{.symbol = "keyboard", .icon = "keyboard"},
-    Entry{.symbol = "list.bullet", .icon = "list-ul"},
+    Entry{.symbol = "list.bullet", .icon = "list-ul", .isDirectional = true},
     Entry{.symbol = "magnifyingglass", .icon = "search"},
     Entry{.symbol = "pin", .icon = "pin-angle"},
     Entry{.symbol = "pin.fill", .icon = "pin-angle-fill"},
     Entry{.symbol = "plus", .icon = "plus-lg"},
     Entry{.symbol = "square.and.pencil", .icon = "pencil-square"},
-    Entry{.symbol = "text.append", .icon = "journal-plus"},
+    Entry{.symbol = "text.append", .icon = "journal-plus", .isDirectional = true},
     Entry{.symbol = "text.badge.plus", .icon = "bookmark-plus"},
     Entry{.symbol = "text.cursor", .icon = "cursor-text"},
     Entry{.symbol = "trash", .icon = "trash"},
     Entry{.symbol = "xmark.circle.fill", .icon = "x-circle-fill"},
 };
 
+const Entry *find(const QString &symbol)
+{
+    return std::ranges::find_if(
+        kEntries, [&symbol](const Entry &each) { return symbol == QLatin1StringView(each.symbol); });
+}
+
 } // namespace
 
 std::optional<QString> findPicture(const QString &symbol)
 {
-    const auto *const entry = std::ranges::find_if(
-        kEntries, [&symbol](const Entry &each) { return symbol == QLatin1StringView(each.symbol); });
+    const auto *const entry = find(symbol);
     if (entry == kEntries.end())
         return std::nullopt;
     return ":/vesk/symbols/"_L1 + QLatin1StringView(entry->icon) + ".svg"_L1;
+}
+
+bool isDirectional(const QString &symbol)
+{
+    const auto *const entry = find(symbol);
+    return entry != kEntries.end() && entry->isDirectional;
 }
 
 QList<QString> symbols()

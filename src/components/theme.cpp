@@ -40,7 +40,13 @@ Theme::Theme(Surroundings &surroundings, QObject *parent)
 {
     connect(&surroundings.appearance(), &Appearance::changed, this, &Theme::update);
     connect(&surroundings.windows(), &Windows::compositedChanged, this, &Theme::compositedChanged);
+    connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &Theme::mirroredChanged);
     update();
+}
+
+bool Theme::isMirrored()
+{
+    return QGuiApplication::isRightToLeft();
 }
 
 void Theme::update()

@@ -22,6 +22,8 @@ class Theme final : public QObject
     Q_PROPERTY(bool hasHighContrast READ hasHighContrast NOTIFY changed)
     /// Whether windows are blended by the desktop, so that one may be translucent.
     Q_PROPERTY(bool isComposited READ isComposited NOTIFY compositedChanged)
+    /// Whether the language is read from right to left, so that all begins at the right.
+    Q_PROPERTY(bool isMirrored READ isMirrored NOTIFY mirroredChanged)
 
     Q_PROPERTY(QColor background READ background NOTIFY changed)
     /// The background, wholly transparent: the other end of a fade.
@@ -83,6 +85,7 @@ public:
 
     [[nodiscard]] bool hasHighContrast() const { return m_colors.hasHighContrast; }
     [[nodiscard]] bool isComposited() const;
+    [[nodiscard]] static bool isMirrored();
     [[nodiscard]] QColor background() const { return m_palette.background; }
     [[nodiscard]] QColor clearBackground() const;
     [[nodiscard]] QColor primary() const { return m_palette.primary; }
@@ -121,6 +124,7 @@ public:
 Q_SIGNALS:
     void changed();
     void compositedChanged();
+    void mirroredChanged();
 
 private:
     Theme(Surroundings &surroundings, QObject *parent);

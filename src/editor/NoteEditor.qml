@@ -112,6 +112,9 @@ FocusScope {
             height: Math.max(implicitHeight, flickable.height - 2 * root.inset)
             focus: true
             wrapMode: TextEdit.Wrap
+            // Room for the caret of a line that begins at the right.
+            rightPadding: 2
+            horizontalAlignment: hint.visible ? TextEdit.AlignLeft : undefined
             textFormat: TextEdit.PlainText
             font.family: Theme.fonts.field.family
             font.pixelSize: Math.round(root.fontSize * Theme.fonts.scale)

@@ -31,6 +31,7 @@ Item {
     Rectangle {
         id: tile
 
+        anchors.left: parent.left
         width: 32
         height: 32
         radius: 8
@@ -73,6 +74,8 @@ Item {
 
                 visible: root.keys.length > 0
                 spacing: 3
+                // Keys are named in the order in which they are pressed, whatever the language.
+                LayoutMirroring.enabled: false
 
                 Repeater {
                     model: root.keys

@@ -41,7 +41,8 @@ Item {
         Disc {
             id: dot
 
-            x: 12
+            anchors.left: parent.left
+            anchors.leftMargin: 12
             anchors.verticalCenter: parent.verticalCenter
             width: 8
             height: 8

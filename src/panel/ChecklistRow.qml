@@ -14,6 +14,9 @@ PressButton {
 
     name: root.isDone ? qsTr("Mark “%1” as not done").arg(root.text) : qsTr("Mark “%1” as done").arg(root.text)
     pressedScale: 0.98
+    // The box stands where its line begins, as in the editor.
+    LayoutMirroring.enabled: label.isRightToLeft
+    LayoutMirroring.childrenInherit: true
     implicitHeight: Math.max(22, label.implicitHeight + 4)
     Accessible.role: Accessible.CheckBox
     Accessible.checkable: true
@@ -22,6 +25,7 @@ PressButton {
     CheckCircle {
         id: circle
 
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         isDone: root.isDone
         size: 16

@@ -77,7 +77,8 @@ Plate {
     Symbol {
         id: plus
 
-        x: Theme.margin
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.margin
         y: flickable.y + (metrics.height - height) / 2
         name: "plus"
         size: 16
@@ -103,6 +104,9 @@ Plate {
 
             width: flickable.width
             wrapMode: TextEdit.Wrap
+            // Room for the caret of a line that begins at the right.
+            rightPadding: 1
+            horizontalAlignment: placeholder.visible ? TextEdit.AlignLeft : undefined
             textFormat: TextEdit.PlainText
             font: Theme.fonts.field
             color: Theme.primary
@@ -122,6 +126,8 @@ Plate {
             Text {
                 id: placeholder
 
+                width: parent.width
+                elide: Text.ElideRight
                 visible: edit.length === 0 && edit.preeditText.length === 0
                 textFormat: Text.PlainText
                 text: root.model.tab === PanelModel.Tab.Prompts ? qsTr("Write a follow-up prompt…") : qsTr("Write a note…")

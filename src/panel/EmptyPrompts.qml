@@ -8,6 +8,7 @@ Item {
     id: root
 
     readonly property string shift: KeyLabels.label("⇧", KeyLabels.Global)
+    readonly property real textWidth: root.width - 2 * Theme.margin
 
     Accessible.role: Accessible.StaticText
     Accessible.name: heading.text + ". " + first.text + " " + root.shift + " " + root.shift + " " + second.text
@@ -22,39 +23,48 @@ Item {
 
             anchors.horizontalCenter: parent.horizontalCenter
             bottomPadding: 2
-            textFormat: Text.PlainText
             text: qsTr("No prompts yet")
+            textFormat: Text.PlainText
             font: Theme.fonts.headline
             color: Theme.primary
             Accessible.ignored: true
         }
 
-        Row {
+        // Breaks before the keys where there is no room for them.
+        Grid {
             anchors.horizontalCenter: parent.horizontalCenter
-            spacing: Theme.tightSpace
+            columns: first.implicitWidth + spacing + caps.width > root.textWidth ? 1 : 2
+            spacing: Theme.smallSpace
+            horizontalItemAlignment: Grid.AlignHCenter
+            verticalItemAlignment: Grid.AlignVCenter
 
             Text {
                 id: first
 
-                anchors.verticalCenter: parent.verticalCenter
-                rightPadding: 2
-                textFormat: Text.PlainText
+                width: Math.min(implicitWidth, root.textWidth)
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.Wrap
                 text: qsTr("Select text anywhere and tap")
+                textFormat: Text.PlainText
                 font: Theme.fonts.body
                 color: Theme.secondary
                 Accessible.ignored: true
             }
 
-            KeyCap {
-                anchors.verticalCenter: parent.verticalCenter
-                glyph: "⇧"
-                place: KeyLabels.Global
-            }
+            Row {
+                id: caps
 
-            KeyCap {
-                anchors.verticalCenter: parent.verticalCenter
-                glyph: "⇧"
-                place: KeyLabels.Global
+                spacing: Theme.tightSpace
+
+                KeyCap {
+                    glyph: "⇧"
+                    place: KeyLabels.Global
+                }
+
+                KeyCap {
+                    glyph: "⇧"
+                    place: KeyLabels.Global
+                }
             }
         }
 
@@ -62,8 +72,11 @@ Item {
             id: second
 
             anchors.horizontalCenter: parent.horizontalCenter
-            textFormat: Text.PlainText
+            width: Math.min(implicitWidth, root.textWidth)
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
             text: qsTr("or write a follow-up prompt below.")
+            textFormat: Text.PlainText
             font: Theme.fonts.small
             color: Theme.secondary
             Accessible.ignored: true

@@ -10,88 +10,112 @@ import Vesk.Panel
 Item {
     id: root
 
-    Column {
-        anchors.centerIn: parent
-        spacing: Theme.smallSpace
+    // As the longest combination of keys needs.
+    property real keysWidth: 136
 
-        ProductMark {
+    // Scrolls where large texts leave no room.
+    Flickable {
+        id: scroller
+
+        anchors.fill: parent
+        contentHeight: column.height
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+
+        Column {
+            id: column
+
             anchors.horizontalCenter: parent.horizontalCenter
-            width: 72
-            height: 72
-            Accessible.ignored: true
-        }
+            y: Math.max(0, (scroller.height - height) / 2)
+            spacing: Theme.smallSpace
 
-        Item {
-            width: 1
-            height: Theme.space
-        }
-
-        Text {
-            anchors.horizontalCenter: parent.horizontalCenter
-            textFormat: Text.PlainText
-            text: qsTr("Nothing here yet")
-            font: Theme.fonts.headline
-            color: Theme.primary
-        }
-
-        Text {
-            anchors.horizontalCenter: parent.horizontalCenter
-            textFormat: Text.PlainText
-            text: qsTr("Vesk catches whatever you select, from any app.")
-            font: Theme.fonts.body
-            color: Theme.secondary
-        }
-
-        Item {
-            width: 1
-            height: Theme.margin
-        }
-
-        Repeater {
-            model: CommandHints {
+            ProductMark {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: 72
+                height: 72
+                Accessible.ignored: true
             }
 
-            Row {
-                id: command
+            Item {
+                width: 1
+                height: Theme.space
+            }
 
-                required property list<string> keys
-                required property string hint
+            Text {
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: qsTr("Nothing here yet")
+                textFormat: Text.PlainText
+                font: Theme.fonts.headline
+                color: Theme.primary
+            }
 
-                spacing: Theme.margin
-                Accessible.role: Accessible.StaticText
-                Accessible.name: hint
+            Text {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: Math.min(implicitWidth, root.width - 2 * Theme.margin)
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.Wrap
+                text: qsTr("Vesk catches whatever you select, from any app.")
+                textFormat: Text.PlainText
+                font: Theme.fonts.body
+                color: Theme.secondary
+            }
 
-                Item {
-                    width: 136
-                    height: 24
+            Item {
+                width: 1
+                height: Theme.margin
+            }
 
-                    Row {
-                        anchors.right: parent.right
-                        anchors.verticalCenter: parent.verticalCenter
-                        spacing: Theme.tightSpace
+            Repeater {
+                model: CommandHints {
+                }
 
-                        Repeater {
-                            model: command.keys
+                Row {
+                    id: command
 
-                            KeyCap {
-                                required property string modelData
+                    required property list<string> keys
+                    required property string hint
 
-                                glyph: modelData
-                                place: KeyLabels.Global
+                    anchors.left: parent.left
+                    spacing: Theme.margin
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: hint
+
+                    Item {
+                        width: root.keysWidth
+                        height: Math.max(24, keyRow.height)
+
+                        Row {
+                            id: keyRow
+
+                            anchors.right: parent.right
+                            anchors.verticalCenter: parent.verticalCenter
+                            spacing: Theme.tightSpace
+                            onImplicitWidthChanged: root.keysWidth = Math.max(root.keysWidth, implicitWidth)
+                            layoutDirection: Theme.isMirrored ? Qt.RightToLeft : Qt.LeftToRight
+
+                            Repeater {
+                                model: command.keys
+
+                                KeyCap {
+                                    required property string modelData
+
+                                    glyph: modelData
+                                    place: KeyLabels.Global
+                                }
                             }
                         }
                     }
-                }
 
-                Text {
-                    anchors.verticalCenter: parent.verticalCenter
-                    width: Math.min(implicitWidth, root.width - 136 - 3 * Theme.margin)
-                    wrapMode: Text.Wrap
-                    textFormat: Text.PlainText
-                    text: command.hint
-                    font: Theme.fonts.hint
-                    color: Theme.secondary
-                    Accessible.ignored: true
+                    Text {
+                        anchors.verticalCenter: parent.verticalCenter
+                        width: Math.min(implicitWidth, root.width - root.keysWidth - 3 * Theme.margin)
+                        wrapMode: Text.Wrap
+                        text: command.hint
+                        textFormat: Text.PlainText
+                        font: Theme.fonts.hint
+                        color: Theme.secondary
+                        Accessible.ignored: true
+                    }
                 }
             }
         }

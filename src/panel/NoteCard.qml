@@ -65,6 +65,7 @@ Item {
             opacity: 1 - root.openness
             visible: opacity > 0
             title: root.row.title
+            isPinned: root.row.isPinned
             preview: root.row.preview
             itemTexts: root.row.itemTexts
             itemsDone: root.row.itemsDone

@@ -71,7 +71,7 @@ FocusScope {
             anchors.left: parent.left
             anchors.leftMargin: -6
             anchors.verticalCenter: parent.verticalCenter
-            maximumWidth: done.x - Theme.margin
+            maximumWidth: footer.width - done.width - Theme.margin
             visible: root.sourceLabel.length > 0
             label: root.sourceLabel
             help: root.sourceTip
@@ -88,19 +88,25 @@ FocusScope {
 
             Text {
                 anchors.verticalCenter: parent.verticalCenter
-                rightPadding: 2
+                rightPadding: Theme.isMirrored ? 0 : 2
+                leftPadding: Theme.isMirrored ? 2 : 0
                 text: qsTr("Done")
                 textFormat: Text.PlainText
                 font: Theme.fonts.caption
                 color: Theme.secondary
             }
 
-            KeyCap {
-                glyph: "⌘"
-            }
+            Row {
+                spacing: done.spacing
+                LayoutMirroring.enabled: false
 
-            KeyCap {
-                glyph: "↩"
+                KeyCap {
+                    glyph: "⌘"
+                }
+
+                KeyCap {
+                    glyph: "↩"
+                }
             }
         }
     }

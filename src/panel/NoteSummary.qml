@@ -12,6 +12,7 @@ Column {
     id: root
 
     required property string title
+    required property bool isPinned
     required property string preview
     required property list<string> itemTexts
     required property list<bool> itemsDone
@@ -31,8 +32,9 @@ Column {
     spacing: 5
 
     MatchText {
+        anchors.left: parent.left
         // Leaves the corner to the pin.
-        width: parent.width - 26
+        width: parent.width - (root.isPinned ? 26 : 0)
         text: root.title
         query: root.query
         font: Theme.fonts.title
@@ -64,7 +66,8 @@ Column {
         }
 
         Text {
-            leftPadding: 24
+            anchors.left: parent.left
+            anchors.leftMargin: 24
             visible: root.furtherItems > 0
             text: qsTr("+ %Ln more", "", root.furtherItems)
             textFormat: Text.PlainText

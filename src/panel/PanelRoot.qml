@@ -17,6 +17,8 @@ FocusScope {
     readonly property bool hasGuide: root.model.guide.isShown
 
     focus: true
+    LayoutMirroring.enabled: Theme.isMirrored
+    LayoutMirroring.childrenInherit: true
     onHasGuideChanged: {
         if (!hasGuide)
             panel.forceActiveFocus();

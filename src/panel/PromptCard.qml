@@ -38,7 +38,8 @@ Item {
     PressButton {
         id: tick
 
-        x: Theme.margin - 3
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.margin - 3
         y: 9
         width: 24
         height: 24
@@ -60,9 +61,11 @@ Item {
     ExpandableText {
         id: body
 
-        x: tick.x + tick.width + 7
+        anchors.left: tick.right
+        anchors.leftMargin: 7
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.margin
         y: 12
-        width: root.width - x - Theme.margin
         text: root.text
         query: root.panel.query
         lineLimit: 5
@@ -85,6 +88,7 @@ Item {
         Text {
             id: label
 
+            anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             text: body.isExpanded ? qsTr("Show less") : qsTr("Show more")
             textFormat: Text.PlainText

@@ -73,6 +73,7 @@ Plate {
         anchors.rightMargin: clear.visible ? Theme.space : Theme.margin
         anchors.verticalCenter: parent.verticalCenter
         clip: true
+        horizontalAlignment: placeholder.visible ? TextInput.AlignLeft : undefined
         font: Theme.fonts.body
         color: Theme.primary
         selectionColor: Theme.textSelection
@@ -85,7 +86,11 @@ Plate {
         onTextChanged: root.model.search = text
 
         Text {
+            id: placeholder
+
             anchors.verticalCenter: parent.verticalCenter
+            width: parent.width
+            elide: Text.ElideRight
             visible: input.length === 0 && input.preeditText.length === 0
             textFormat: Text.PlainText
             text: qsTr("Search")

@@ -14,7 +14,7 @@ PressButton {
     name: root.label
     pressedScale: 0.97
     focusRadius: height / 2 + 3
-    implicitWidth: Math.min(root.maximumWidth, Math.ceil(name.implicitWidth) + name.x + 10 + arrow.width + 8)
+    implicitWidth: Math.min(root.maximumWidth, Math.ceil(name.implicitWidth) + icon.width + 22 + arrow.width + 8)
     implicitHeight: 24
     Accessible.role: Accessible.Link
 
@@ -29,7 +29,8 @@ PressButton {
     AppIcon {
         id: icon
 
-        x: 6
+        anchors.left: parent.left
+        anchors.leftMargin: 6
         anchors.verticalCenter: parent.verticalCenter
         bundleId: root.bundleId
         size: 15
@@ -39,8 +40,10 @@ PressButton {
     Text {
         id: name
 
-        x: icon.x + icon.width + 6
-        width: root.width - x - arrow.width - 5 - 8
+        anchors.left: icon.right
+        anchors.leftMargin: 6
+        anchors.right: arrow.left
+        anchors.rightMargin: 5
         anchors.verticalCenter: parent.verticalCenter
         elide: Text.ElideMiddle
         text: root.label

@@ -11,7 +11,7 @@ Rectangle {
     required property string bundleId
     required property real maximumWidth
 
-    implicitWidth: Math.min(root.maximumWidth, label.x + label.implicitWidth + Theme.space)
+    implicitWidth: Math.min(root.maximumWidth, icon.width + 10 + label.implicitWidth + Theme.space)
     implicitHeight: 20
     radius: height / 2
     color: Theme.fill
@@ -22,7 +22,8 @@ Rectangle {
     AppIcon {
         id: icon
 
-        x: 5
+        anchors.left: parent.left
+        anchors.leftMargin: 5
         anchors.verticalCenter: parent.verticalCenter
         bundleId: root.bundleId
         size: 13
@@ -32,9 +33,11 @@ Rectangle {
     Text {
         id: label
 
-        x: icon.x + icon.width + 5
+        anchors.left: icon.right
+        anchors.leftMargin: 5
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.space
         anchors.verticalCenter: parent.verticalCenter
-        width: root.width - x - Theme.space
         elide: Text.ElideRight
         text: qsTr("from %1").arg(root.source)
         textFormat: Text.PlainText

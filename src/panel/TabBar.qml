@@ -37,7 +37,7 @@ Rectangle {
     Rectangle {
         id: thumb
 
-        x: 3 + root.model.tab * root.tabWidth
+        x: 3 + (Theme.isMirrored ? 2 - root.model.tab : root.model.tab) * root.tabWidth
         y: 3
         width: root.tabWidth
         height: Math.round(26 * Theme.fonts.scale)

@@ -25,6 +25,8 @@ PressButton {
     Row {
         anchors.centerIn: parent
         spacing: 6
+        // A long word among large texts is made to fit.
+        scale: Math.min(1, (root.width - 12) / Math.max(1, implicitWidth))
 
         Text {
             id: title

@@ -4,8 +4,10 @@
 #include "panel/highlight.h"
 
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace vesk {
@@ -14,6 +16,12 @@ MatchText::MatchText(QQuickItem *parent)
     : QQuickPaintedItem(parent)
 {
     connect(this, &MatchText::changed, this, &MatchText::layOut);
+}
+
+bool MatchText::isRightToLeft() const
+{
+    const bool hasLetters = std::ranges::any_of(m_text, [](QChar each) { return each.isLetter(); });
+    return hasLetters ? m_text.isRightToLeft() : QGuiApplication::isRightToLeft();
 }
 
 void MatchText::componentComplete()
@@ -52,6 +60,8 @@ MatchText::Lines MatchText::breakLines(const QString &text)
     QTextOption option;
     option.setWrapMode(m_maximumLineCount > 1 ? QTextOption::WrapAtWordBoundaryOrAnywhere
                                               : QTextOption::NoWrap);
+    option.setTextDirection(isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    option.setAlignment(isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);
     m_layout.setTextOption(option);
     m_layout.setText(text);
 

@@ -23,9 +23,14 @@ class MatchText : public QQuickPaintedItem
     /// In points, between two lines.
     Q_PROPERTY(qreal lineSpacing MEMBER m_lineSpacing NOTIFY changed)
     Q_PROPERTY(bool strikeOut MEMBER m_strikeOut NOTIFY changed)
+    /// Whether the text is read from right to left, and so begins at the right. One without letters
+    /// begins where those of the program do.
+    Q_PROPERTY(bool isRightToLeft READ isRightToLeft NOTIFY changed)
 
 public:
     explicit MatchText(QQuickItem *parent = nullptr);
+
+    [[nodiscard]] bool isRightToLeft() const;
 
     void paint(QPainter *painter) override;
 

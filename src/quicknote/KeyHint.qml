@@ -17,6 +17,7 @@ Row {
     Row {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
+        LayoutMirroring.enabled: false
 
         Repeater {
             model: root.keys

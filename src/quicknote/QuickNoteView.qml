@@ -17,6 +17,8 @@ FocusScope {
     readonly property real sideMargin: 22
 
     focus: true
+    LayoutMirroring.enabled: Theme.isMirrored
+    LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.Dialog
     Accessible.name: root.model.title
 
@@ -44,6 +46,7 @@ FocusScope {
         Symbol {
             id: icon
 
+            anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             name: root.model.symbol
             size: 13 * Theme.fonts.scale
@@ -53,7 +56,8 @@ FocusScope {
         Text {
             id: heading
 
-            x: icon.width + Theme.space
+            anchors.left: icon.right
+            anchors.leftMargin: Theme.space
             text: root.model.title
             textFormat: Text.PlainText
             font: Theme.fonts.strongBody
@@ -108,12 +112,15 @@ FocusScope {
         color: Theme.hasHighContrast ? Theme.edge : Theme.fill
     }
 
-    Row {
+    Flow {
         id: hints
 
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 11
-        x: root.sideMargin
+        anchors.left: parent.left
+        anchors.leftMargin: root.sideMargin
+        anchors.right: parent.right
+        anchors.rightMargin: root.sideMargin
         spacing: 16
 
         KeyHint {

@@ -14,13 +14,16 @@ Surface {
     implicitWidth: icon.size + Theme.space + label.implicitWidth + 2 * 18
     implicitHeight: Math.ceil(label.implicitHeight) + 2 * 11
     cornerRadius: height / 2
+    LayoutMirroring.enabled: Theme.isMirrored
+    LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.Notification
     Accessible.name: root.message
 
     Symbol {
         id: icon
 
-        x: 18
+        anchors.left: parent.left
+        anchors.leftMargin: 18
         anchors.verticalCenter: parent.verticalCenter
         name: root.symbol
         size: 15
@@ -30,7 +33,8 @@ Surface {
     Text {
         id: label
 
-        x: icon.x + icon.size + Theme.space
+        anchors.left: icon.right
+        anchors.leftMargin: Theme.space
         anchors.verticalCenter: parent.verticalCenter
         text: root.message
         textFormat: Text.PlainText

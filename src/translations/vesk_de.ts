@@ -328,19 +328,19 @@
     <name>QObject</name>
     <message>
         <source>Vesk cannot start</source>
-        <translation type="unfinished">Vesk kann nicht starten</translation>
+        <translation>Vesk kann nicht starten</translation>
     </message>
     <message>
         <source>Could not open the notes store: %1</source>
-        <translation type="unfinished">Der Notizspeicher konnte nicht geöffnet werden: %1</translation>
+        <translation>Der Notizspeicher konnte nicht geöffnet werden: %1</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished">Beenden</translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>There is a copy of your notes, made on %1: “%2”. To go on with it, run this command in a terminal and start Vesk again. It keeps the damaged file in the folder “damaged” beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt eine Kopie Ihrer Notizen vom %1: „%2“. Um mit ihr weiterzuarbeiten, führen Sie diesen Befehl in einem Terminal aus und starten Vesk neu. Er bewahrt die beschädigte Datei im Ordner „damaged“ daneben auf.</translation>
     </message>
 </context>
 <context>
@@ -751,7 +751,7 @@ läuft.</translation>
     </message>
     <message>
         <source>Opens Vesk with the cursor in “Write a note…”. Return saves it, Shift-Return starts a new line.</source>
-        <translation>Öffnet Vesk mit der Schreibmarke in „Notiz schreiben …“. Die Eingabetaste speichert, mit Umschalt beginnt sie eine neue Zeile.</translation>
+        <translation>Öffnet Vesk mit der Schreibmarke in „Notiz schreiben …“. Enter speichert, mit Umschalt beginnt es eine neue Zeile.</translation>
     </message>
     <message>
         <source>Save selected text</source>
@@ -783,7 +783,7 @@ läuft.</translation>
     </message>
     <message>
         <source>Each selected line becomes a checkbox. With nothing selected, a box opens on the first checkbox: Return adds the next item, ⌘↩ saves.</source>
-        <translation>Jede markierte Zeile wird ein Kästchen. Ist nichts markiert, öffnet sich ein Feld mit dem ersten Kästchen: Die Eingabetaste fügt den nächsten Punkt hinzu, ⌘↩ speichert.</translation>
+        <translation>Jede markierte Zeile wird ein Kästchen. Ist nichts markiert, öffnet sich ein Feld mit dem ersten Kästchen: Enter fügt den nächsten Punkt hinzu, ⌘↩ speichert.</translation>
     </message>
     <message>
         <source>Add to your checklist</source>
@@ -807,7 +807,7 @@ läuft.</translation>
     </message>
     <message>
         <source>Move between notes. Return opens one, ⌘↩ pastes it into the app you came from, ⌘⌫ deletes it, ⌘F searches.</source>
-        <translation>Zwischen Notizen bewegen. Die Eingabetaste öffnet eine, ⌘↩ fügt sie in die vorherige Anwendung ein, ⌘⌫ löscht sie, ⌘F sucht.</translation>
+        <translation>Zwischen Notizen bewegen. Enter öffnet eine, ⌘↩ fügt sie in die vorherige Anwendung ein, ⌘⌫ löscht sie, ⌘F sucht.</translation>
     </message>
 </context>
 <context>
@@ -830,15 +830,15 @@ läuft.</translation>
     </message>
     <message>
         <source>Enter</source>
-        <translation>Eingabe</translation>
+        <translation>Enter</translation>
     </message>
     <message>
         <source>Backspace</source>
-        <translation>Rücktaste</translation>
+        <translation>Rück</translation>
     </message>
     <message>
         <source>Space</source>
-        <translation>Leertaste</translation>
+        <translation>Leer</translation>
     </message>
     <message>
         <source>Tab</source>
@@ -861,59 +861,55 @@ läuft.</translation>
     <name>vesk::KeySettings</name>
     <message>
         <source>There is no key in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Darin steht keine Taste.</translation>
     </message>
     <message>
         <source>“%1” is no modifier; there are Super, Alt, Ctrl and Shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Umschalttaste; es gibt Super, Alt, Ctrl und Shift.</translation>
     </message>
     <message>
         <source>After the modifiers a key is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach den Umschalttasten fehlt eine Taste.</translation>
     </message>
     <message>
         <source>There is no key “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Taste „%1“.</translation>
     </message>
     <message>
         <source>It needs Super, Alt or Ctrl, or every application would lose this key.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es braucht Super, Alt oder Ctrl, sonst ginge diese Taste allen Anwendungen verloren.</translation>
     </message>
     <message>
         <source>“%1” is no command with “=” and a combination behind it.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Befehl mit „=“ und einer Kombination dahinter.</translation>
     </message>
     <message>
         <source>No key has a command “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Taste hat einen Befehl „%1“.</translation>
     </message>
     <message>
         <source>Keys.conf, line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Keys.conf, Zeile %1: %2</translation>
     </message>
     <message>
         <source>%1 “%2” stays at %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 „%2“ bleibt bei %3.</translation>
     </message>
     <message>
         <source>“%1” was in line %2 already, which holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ stand schon in Zeile %2, und diese gilt.</translation>
     </message>
     <message>
         <source>Only save-prompt can be Shift tapped twice.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur save-prompt kann zweimal Shift sein.</translation>
     </message>
     <message>
         <source>%1 is the combination of “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist die Kombination von „%2“.</translation>
     </message>
 </context>
 <context>
     <name>vesk::Main</name>
-    <message>
-        <source>Vesk cannot start</source>
-        <translation>Vesk kann nicht starten</translation>
-    </message>
     <message>
         <source>Vesk is running already, and does not answer.</source>
         <translation>Vesk läuft bereits und antwortet nicht.</translation>
@@ -933,6 +929,10 @@ läuft.</translation>
     <message>
         <source>Vesk needs an X11 desktop, and there is no X server at &quot;%1&quot;. The commands vesk add and vesk list need none.</source>
         <translation>Vesk braucht eine X11-Arbeitsumgebung, und bei „%1“ ist kein X-Server. Die Befehle vesk add und vesk list brauchen keinen.</translation>
+    </message>
+    <message>
+        <source>Vesk cannot start</source>
+        <translation>Vesk kann nicht starten</translation>
     </message>
 </context>
 <context>

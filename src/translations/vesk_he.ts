@@ -5,7 +5,7 @@
     <name>AccessBanner</name>
     <message>
         <source>Vesk needs Accessibility access to read selected text</source>
-        <translation>Vesk זקוק לגישה דרך הנגישות כדי לקרוא טקסט מסומן</translation>
+        <translation>‏Vesk זקוק לגישה דרך הנגישות כדי לקרוא טקסט מסומן</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -114,7 +114,7 @@
     </message>
     <message>
         <source>Vesk catches whatever you select, from any app.</source>
-        <translation>Vesk שומר כל מה שמסמנים, מכל יישום.</translation>
+        <translation>‏Vesk שומר כל מה שמסמנים, מכל יישום.</translation>
     </message>
 </context>
 <context>
@@ -167,7 +167,7 @@
     </message>
     <message>
         <source>%L1 of %L2 done</source>
-        <translation>%L1 מתוך %L2 בוצעו</translation>
+        <translation>‏%L1 מתוך %L2 בוצעו</translation>
     </message>
     <message>
         <source>from %1</source>
@@ -283,7 +283,7 @@
     <name>ProgressChip</name>
     <message>
         <source>%L1 of %L2</source>
-        <translation>%L1 מתוך %L2</translation>
+        <translation>‏%L1 מתוך %L2</translation>
     </message>
 </context>
 <context>
@@ -328,19 +328,19 @@
     <name>QObject</name>
     <message>
         <source>Vesk cannot start</source>
-        <translation type="unfinished">לא ניתן להפעיל את Vesk</translation>
+        <translation>לא ניתן להפעיל את Vesk</translation>
     </message>
     <message>
         <source>Could not open the notes store: %1</source>
-        <translation type="unfinished">לא ניתן לפתוח את מאגר הפתקים: %1</translation>
+        <translation>לא ניתן לפתוח את מאגר הפתקים: %1</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished">יציאה</translation>
+        <translation>יציאה</translation>
     </message>
     <message>
         <source>There is a copy of your notes, made on %1: “%2”. To go on with it, run this command in a terminal and start Vesk again. It keeps the damaged file in the folder “damaged” beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>יש עותק של הפתקים, שנוצר בתאריך %1: &quot;%2&quot;. כדי להמשיך איתו, יש להריץ את הפקודה הזו במסוף ולהפעיל את Vesk מחדש. היא שומרת את הקובץ הפגום בתיקייה &quot;damaged&quot; שלידו.</translation>
     </message>
 </context>
 <context>
@@ -398,7 +398,7 @@
         <source>%Ln items</source>
         <translation>
             <numerusform>פריט אחד</numerusform>
-            <numerusform>%Ln פריטים</numerusform>
+            <numerusform>‏%Ln פריטים</numerusform>
         </translation>
     </message>
     <message>
@@ -502,7 +502,7 @@ Applications that are open already may have to be started again before Vesk can 
     </message>
     <message>
         <source>Vesk is up to date</source>
-        <translation>Vesk מעודכן</translation>
+        <translation>‏Vesk מעודכן</translation>
     </message>
     <message>
         <source>Version %1 is the newest that your system can install.</source>
@@ -556,7 +556,7 @@ Applications that are open already may have to be started again before Vesk can 
     <name>vesk::Client</name>
     <message>
         <source>Vesk needs the session&apos;s message bus, and there is none: run this in your desktop&apos;s session.</source>
-        <translation>Vesk זקוק לאפיק ההודעות של ההפעלה, ואין כזה: יש להריץ זאת בתוך ההפעלה של שולחן העבודה.</translation>
+        <translation>‏Vesk זקוק לאפיק ההודעות של ההפעלה, ואין כזה: יש להריץ זאת בתוך ההפעלה של שולחן העבודה.</translation>
     </message>
     <message>
         <source>The text is longer than the %1 MB that a note may have.</source>
@@ -751,7 +751,7 @@ runs.</source>
     </message>
     <message>
         <source>Opens Vesk with the cursor in “Write a note…”. Return saves it, Shift-Return starts a new line.</source>
-        <translation>פותח את Vesk כשהסמן ב&quot;כתיבת פתק…&quot;. Enter שומר, Shift-Enter מתחיל שורה חדשה.</translation>
+        <translation>פותח את Vesk כשהסמן ב&quot;כתיבת פתק…&quot;. Enter שומר, Shift‑Enter מתחיל שורה חדשה.</translation>
     </message>
     <message>
         <source>Save selected text</source>
@@ -861,66 +861,62 @@ runs.</source>
     <name>vesk::KeySettings</name>
     <message>
         <source>There is no key in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>אין בו מקש.</translation>
     </message>
     <message>
         <source>“%1” is no modifier; there are Super, Alt, Ctrl and Shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; אינו מקש צירוף; יש Super, Alt, Ctrl ו־Shift.</translation>
     </message>
     <message>
         <source>After the modifiers a key is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>אחרי מקשי הצירוף חסר מקש.</translation>
     </message>
     <message>
         <source>There is no key “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>אין מקש בשם &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>It needs Super, Alt or Ctrl, or every application would lose this key.</source>
-        <translation type="unfinished"></translation>
+        <translation>נדרש Super, Alt או Ctrl, אחרת כל היישומים יאבדו את המקש הזה.</translation>
     </message>
     <message>
         <source>“%1” is no command with “=” and a combination behind it.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; אינו פקודה עם &quot;=&quot; וצירוף אחריה.</translation>
     </message>
     <message>
         <source>No key has a command “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>לאף מקש אין פקודה בשם &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Keys.conf, line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>‏Keys.conf, שורה %1: %2</translation>
     </message>
     <message>
         <source>%1 “%2” stays at %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>‏%1 &quot;%2&quot; נשאר %3.</translation>
     </message>
     <message>
         <source>“%1” was in line %2 already, which holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; כבר הופיע בשורה %2, והיא הקובעת.</translation>
     </message>
     <message>
         <source>Only save-prompt can be Shift tapped twice.</source>
-        <translation type="unfinished"></translation>
+        <translation>רק save-prompt יכול להיות הקשה כפולה על Shift.</translation>
     </message>
     <message>
         <source>%1 is the combination of “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>‏%1 הוא הצירוף של &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>
     <name>vesk::Main</name>
     <message>
-        <source>Vesk cannot start</source>
-        <translation>לא ניתן להפעיל את Vesk</translation>
-    </message>
-    <message>
         <source>Vesk is running already, and does not answer.</source>
-        <translation>Vesk כבר פועל ואינו משיב.</translation>
+        <translation>‏Vesk כבר פועל ואינו משיב.</translation>
     </message>
     <message>
         <source>Vesk needs the session&apos;s message bus, and there is none.</source>
-        <translation>Vesk זקוק לאפיק ההודעות של ההפעלה, ואין כזה.</translation>
+        <translation>‏Vesk זקוק לאפיק ההודעות של ההפעלה, ואין כזה.</translation>
     </message>
     <message>
         <source>Vesk cannot start: %1</source>
@@ -928,11 +924,15 @@ runs.</source>
     </message>
     <message>
         <source>Vesk needs an X11 desktop, and this is a Wayland desktop without an X server. Log in to a session of X11, or use the commands that need none: vesk add and vesk list.</source>
-        <translation>Vesk זקוק לשולחן עבודה של X11, וזהו שולחן עבודה של Wayland בלי שרת X. אפשר להיכנס להפעלה של X11, או להשתמש בפקודות שאינן זקוקות לה: vesk add ו־vesk list.</translation>
+        <translation>‏Vesk זקוק לשולחן עבודה של X11, וזהו שולחן עבודה של Wayland בלי שרת X. אפשר להיכנס להפעלה של X11, או להשתמש בפקודות שאינן זקוקות לה: vesk add ו־vesk list.</translation>
     </message>
     <message>
         <source>Vesk needs an X11 desktop, and there is no X server at &quot;%1&quot;. The commands vesk add and vesk list need none.</source>
-        <translation>Vesk זקוק לשולחן עבודה של X11, ואין שרת X ב־&quot;%1&quot;. הפקודות vesk add ו־vesk list אינן זקוקות לו.</translation>
+        <translation>‏Vesk זקוק לשולחן עבודה של X11, ואין שרת X ב־&quot;%1&quot;. הפקודות vesk add ו־vesk list אינן זקוקות לו.</translation>
+    </message>
+    <message>
+        <source>Vesk cannot start</source>
+        <translation>לא ניתן להפעיל את Vesk</translation>
     </message>
 </context>
 <context>
@@ -1040,23 +1040,23 @@ runs.</source>
     </message>
     <message>
         <source>Vesk ended as soon as it was started.</source>
-        <translation>Vesk הסתיים מיד אחרי שהופעל.</translation>
+        <translation>‏Vesk הסתיים מיד אחרי שהופעל.</translation>
     </message>
     <message>
         <source>Vesk was started, and does not answer yet.</source>
-        <translation>Vesk הופעל ועדיין אינו משיב.</translation>
+        <translation>‏Vesk הופעל ועדיין אינו משיב.</translation>
     </message>
     <message>
         <source>Vesk was told to quit, and has not ended yet.</source>
-        <translation>Vesk התבקש לצאת ועדיין לא הסתיים.</translation>
+        <translation>‏Vesk התבקש לצאת ועדיין לא הסתיים.</translation>
     </message>
     <message>
         <source>Vesk is running, and does not answer.</source>
-        <translation>Vesk פועל ואינו משיב.</translation>
+        <translation>‏Vesk פועל ואינו משיב.</translation>
     </message>
     <message>
         <source>The Vesk that is running does not know this command: it is of another version. Quit it and start it again.</source>
-        <translation>Vesk הפועל לא מכיר את הפקודה הזו: הוא מגרסה אחרת. יש לצאת ממנו ולהפעיל אותו שוב.</translation>
+        <translation>‏Vesk הפועל לא מכיר את הפקודה הזו: הוא מגרסה אחרת. יש לצאת ממנו ולהפעיל אותו שוב.</translation>
     </message>
 </context>
 <context>
@@ -1075,7 +1075,7 @@ runs.</source>
     </message>
     <message>
         <source>This Vesk cannot do that.</source>
-        <translation>Vesk הזה לא יכול לעשות זאת.</translation>
+        <translation>‏Vesk הזה לא יכול לעשות זאת.</translation>
     </message>
 </context>
 <context>
@@ -1149,7 +1149,7 @@ runs.</source>
     </message>
     <message>
         <source>Vesk could not write them to the disk, which may be full. It keeps trying while this window is open, and once more when you quit. To be safe, copy them and paste them elsewhere before that.</source>
-        <translation>Vesk לא הצליח לכתוב אותם לכונן, שאולי מלא. הוא ממשיך לנסות כל עוד החלון הזה פתוח, ופעם נוספת ביציאה. ליתר ביטחון, כדאי להעתיק אותם לפני כן ולהדביק במקום אחר.</translation>
+        <translation>‏Vesk לא הצליח לכתוב אותם לכונן, שאולי מלא. הוא ממשיך לנסות כל עוד החלון הזה פתוח, ופעם נוספת ביציאה. ליתר ביטחון, כדאי להעתיק אותם לפני כן ולהדביק במקום אחר.</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -1183,7 +1183,7 @@ runs.</source>
     </message>
     <message>
         <source>Vesk needs Accessibility access</source>
-        <translation>Vesk זקוק לגישה דרך הנגישות</translation>
+        <translation>‏Vesk זקוק לגישה דרך הנגישות</translation>
     </message>
     <message>
         <source>Select text to add to your checklist</source>
