@@ -167,7 +167,7 @@
     </message>
     <message>
         <source>%L1 of %L2 done</source>
-        <translation>‏%L1 מתוך %L2 בוצעו</translation>
+        <translation>%L1 מתוך %L2 בוצעו</translation>
     </message>
     <message>
         <source>from %1</source>
@@ -283,7 +283,7 @@
     <name>ProgressChip</name>
     <message>
         <source>%L1 of %L2</source>
-        <translation>‏%L1 מתוך %L2</translation>
+        <translation>%L1 מתוך %L2</translation>
     </message>
 </context>
 <context>
@@ -398,7 +398,7 @@
         <source>%Ln items</source>
         <translation>
             <numerusform>פריט אחד</numerusform>
-            <numerusform>‏%Ln פריטים</numerusform>
+            <numerusform>%Ln פריטים</numerusform>
         </translation>
     </message>
     <message>

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void cardsSayWhatTheyHold();
     void openNoteIsAnEditableText();
     void nothingThatTakesTheKeyboardIsUnnamed();
+    void languageIsThatOfTheDesktop();
 
 private:
     using Objects = QList<AccessibleObject>;
@@ -256,6 +257,19 @@ void TestPanelReader::nothingThatTakesTheKeyboardIsUnnamed()
         VERIFY_TOLD(waitFor(u"list"_s, tab));
         QCOMPARE(unnamed(), QByteArray());
     }
+}
+
+void TestPanelReader::languageIsThatOfTheDesktop()
+{
+    m_vesk.reset();
+    // As desktops name it, also where the system has no files of its own for it.
+    m_desktop->setVariable(u"LANG"_s, u"de_DE.UTF-8"_s);
+    QVERIFY(startVesk());
+    togglePanel();
+    VERIFY_TOLD(waitFor(u"page tab"_s, u"Notizen"_s));
+    VERIFY_TOLD(waitFor(u"list item"_s, u"Errands"_s));
+    VERIFY_TOLD(find(u"list item"_s, u"Errands"_s)->description
+                == u"1 von 2 erledigt, Vor 3 Std., aus Mousepad");
 }
 
 int main(int argc, char **argv)

@@ -32,6 +32,9 @@ public:
     ~VirtualDesktop();
     Q_DISABLE_COPY_MOVE(VirtualDesktop)
 
+    /// Sets a variable for the programs that are started from now on.
+    void setVariable(const QString &name, const QString &value) { m_environment.insert(name, value); }
+
     /// Starts a program on this desktop; null if that failed.
     [[nodiscard]] std::unique_ptr<ChildProcess> run(const QString &program,
                                                     const QStringList &arguments = {});
