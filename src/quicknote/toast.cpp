@@ -53,7 +53,7 @@ void Toast::prepareAhead()
     if (m_view.isVisible())
         return;
     // Draws once in memory, with the picture and the letters of the most common notice.
-    setContent(u"Saved to Vesk"_s, u"checkmark.circle.fill"_s);
+    setContent(notices::kSaved.text(), notices::kSaved.symbol.toString());
     m_view.create();
     m_view.grabWindow();
 }

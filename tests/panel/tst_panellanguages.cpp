@@ -16,7 +16,8 @@ class Untranslated final : public QTranslator
 public:
     Untranslated() { QCoreApplication::installTranslator(this); }
 
-    QString translate(const char *context, const char *source, const char *, int) const override
+    QString translate(const char *context, const char *source, const char * /*disambiguation*/,
+                      int /*number*/) const override
     {
         // Qt's own texts come with Qt.
         if (*context != 'Q')
@@ -165,7 +166,7 @@ void PanelLanguagesTest::layoutIsTurnedOver()
     QVERIFY(tabs.at(0)->hasActiveFocus());
     click(*shown("PanelMenuButton").at(0));
     QTRY_VERIFY(!shown("MenuRow").isEmpty());
-    QVERIFY(leftOf(shown("MenuRow").at(0)) < window().width() / 4);
+    QVERIFY(leftOf(shown("MenuRow").at(0)) < window().width() / 4.0);
     press(Qt::Key_Escape);
     Q_EMIT model().menu()->guideRequested();
     QList<QQuickItem *> caps = shown("KeyCap");
