@@ -4,13 +4,13 @@
 _vesk() {
     local word=${COMP_WORDS[COMP_CWORD]} words=
     if ((COMP_CWORD == 1)); then
-        words='toggle write quit capture add-to-checklist save-prompt quick-note add list access
+        words='toggle write quit capture add-to-checklist save-prompt quick-note add list keys access
             --background --gpu --help --version'
     elif ((COMP_CWORD == 2)); then
         case ${COMP_WORDS[1]} in
             capture) words='--append --checklist' ;;
             quick-note) words='--checklist' ;;
-            list) words='--json' ;;
+            list | keys) words='--json' ;;
             access) words='allow deny status' ;;
             --background) words='--gpu' ;;
             --gpu) words='--background' ;;

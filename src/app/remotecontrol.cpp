@@ -5,6 +5,7 @@
 #include "platform/freedesktop/applicationservice.h"
 
 #include <QDBusConnection>
+#include <QDBusMetaType>
 
 using namespace Qt::StringLiterals;
 
@@ -24,6 +25,7 @@ RemoteControl::RemoteControl(ApplicationService &service, Commands commands)
     : QDBusAbstractAdaptor(&service)
     , m_commands(std::move(commands))
 {
+    qDBusRegisterMetaType<QList<QVariantMap>>();
 }
 
 void RemoteControl::AddNote(const QString &text, const QDBusMessage &message) const
@@ -39,6 +41,13 @@ void RemoteControl::AddNote(const QString &text, const QDBusMessage &message) co
             message, QDBusError::Failed,
             tr("The note is not saved yet: the disk takes nothing. Vesk keeps it and goes on trying; do not "
                "add it again."));
+}
+
+QList<QVariantMap> RemoteControl::Keys(QStringList &problems) const
+{
+    const KeysReport report = m_commands.keys ? m_commands.keys() : KeysReport();
+    problems = report.problems;
+    return report.toMaps();
 }
 
 void RemoteControl::carryOut(const std::function<void()> &command, const QDBusMessage &message)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "input/keysreport.h"
+
 #include <QDBusAbstractAdaptor>
 #include <QDBusContext>
 #include <QDBusMessage>
@@ -36,6 +38,7 @@ public:
         std::function<void()> quickChecklist;
         /// Keeps the text as a new note; returns whether it is on the disk.
         std::function<bool(const QString &)> addNote;
+        std::function<KeysReport()> keys;
     };
 
     /// Owned by the service, under whose name and path it is called.
@@ -59,6 +62,8 @@ public Q_SLOTS:
     void QuickNote(const QDBusMessage &message) const { carryOut(m_commands.quickNote, message); }
     void QuickChecklist(const QDBusMessage &message) const { carryOut(m_commands.quickChecklist, message); }
     void AddNote(const QString &text, const QDBusMessage &message) const;
+    /// Returns a map for each combination, and what is wrong with the user's file.
+    [[nodiscard]] QList<QVariantMap> Keys(QStringList &problems) const;
 
 private:
     /// Answers the caller first: what a command does may take its time.

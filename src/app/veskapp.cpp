@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QPointer>
+#include <QTextStream>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -101,6 +102,7 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
     connect(&m_updater, &AppUpdater::canCheckChanged, this, followUpdater);
     followUpdater();
     m_watcher.start();
+    connect(&m_keys, &GlobalKeys::problemsChanged, this, &VeskApp::tellOfKeys);
     m_services.start();
     offerCommands(desktop, store, service);
     QTimer::singleShot(0, this, [this, &desktop] {
@@ -141,7 +143,21 @@ void VeskApp::offerCommands(Desktop &desktop, NotesStore &store, ApplicationServ
                     store.insert(std::make_unique<Note>(clock, text));
                     return store.save();
                 },
+            .keys =
+                [self] {
+                    if (self.isNull())
+                        return KeysReport();
+                    // Who asks may just have freed a combination.
+                    self->m_keys.retry();
+                    return KeysReport::of(self->m_keys);
+                },
         });
+}
+
+void VeskApp::tellOfKeys() const
+{
+    for (const QString &problem : m_keys.problems())
+        QTextStream(stderr) << "vesk: " << problem << '\n';
 }
 
 void VeskApp::offerIcon()

@@ -45,6 +45,8 @@ private:
     void offerCommands(Desktop &desktop, NotesStore &store, ApplicationService &service);
     /// Puts Vesk among the icons of the desktop's panel.
     void offerIcon();
+    /// Says on standard error what is wrong with the user's choice of keys.
+    void tellOfKeys() const;
     void onAction(const QString &name);
     void perform(MenuCommands::Command command);
     void write();

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "client/client.h"
 
+#include "client/keyslist.h"
 #include "client/noteslist.h"
+#include "input/keysfile.h"
 #include "notes/notesreader.h"
 #include "notes/notesstore.h"
 #include "platform/accessibility.h"
 #include "platform/freedesktop/systemclock.h"
 
 #include <QCoreApplication>
+#include <QDBusArgument>
 #include <QFile>
 #include <QStringDecoder>
 #include <QTextStream>
@@ -90,6 +93,8 @@ int Client::run(const CommandLine &command)
         return addInput();
     case CommandLine::Kind::List:
         return list(command.isJson);
+    case CommandLine::Kind::Keys:
+        return keys(command);
     case CommandLine::Kind::Access:
         return becomeApp(command.arguments);
     case CommandLine::Kind::Help:
@@ -128,6 +133,24 @@ int Client::quit(const QString &method)
         return kDone;
     const Remote::Answer answer = m_remote.call(method);
     return outcome(answer.isDone ? m_remote.waitForEnd() : answer);
+}
+
+int Client::keys(const CommandLine &command)
+{
+    KeysReport report;
+    if (m_remote.isRunning()) {
+        const Remote::Answer answer = m_remote.call(command.method);
+        if (!answer.isDone)
+            return outcome(answer);
+        report = KeysReport::fromMaps(qdbus_cast<QList<QVariantMap>>(answer.values.value(0)),
+                                      answer.values.value(1).toStringList());
+    } else {
+        report = KeysReport::withoutVesk(KeysFile::read(KeysFile::standardPath()));
+        sayError(u"Vesk is not running, so none of these works now."_s);
+    }
+    for (const QString &problem : std::as_const(report.problems))
+        sayError(problem);
+    return print(command.isJson ? keysAsJson(report) : keysAsLines(report));
 }
 
 int Client::addInput()

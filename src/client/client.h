@@ -25,6 +25,7 @@ private:
     [[nodiscard]] int start(const CommandLine &command);
     [[nodiscard]] int call(const QString &method);
     [[nodiscard]] int quit(const QString &method);
+    [[nodiscard]] int keys(const CommandLine &command);
     [[nodiscard]] int addInput();
     [[nodiscard]] int add(const QString &text);
     /// Adds to the store itself, while this process has the name of Vesk.

@@ -40,6 +40,8 @@ constexpr std::array kForms{
     Form{"quick-note"_L1, "--checklist"_L1, Kind::Call, "QuickChecklist"_L1},
     Form{"list"_L1, ""_L1, Kind::List, ""_L1},
     Form{"list"_L1, "--json"_L1, Kind::List, ""_L1},
+    Form{"keys"_L1, ""_L1, Kind::Keys, "Keys"_L1},
+    Form{"keys"_L1, "--json"_L1, Kind::Keys, "Keys"_L1},
     Form{"help"_L1, ""_L1, Kind::Help, ""_L1},
 };
 
@@ -75,6 +77,8 @@ constexpr std::array kOwnCommands{
     Usage{"add TEXT", QT_TRANSLATE_NOOP("vesk::CommandLine",
                                         "keep TEXT as a note; \"vesk add -\" takes it from standard input")},
     Usage{"list [--json]", QT_TRANSLATE_NOOP("vesk::CommandLine", "print the notes, newest first")},
+    Usage{"keys [--json]",
+          QT_TRANSLATE_NOOP("vesk::CommandLine", "print the keys that work everywhere, and whether they do")},
     Usage{"access allow|deny|status",
           QT_TRANSLATE_NOOP("vesk::CommandLine",
                             "whether Vesk may read what is selected in other applications")},

@@ -24,6 +24,8 @@ struct CommandLine
         AddInput,
         /// Print the notes.
         List,
+        /// Print the combinations of keys.
+        Keys,
         /// Ask or set whether Vesk may read other applications, by `arguments`.
         Access,
         Help,

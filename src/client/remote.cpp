@@ -149,7 +149,7 @@ Remote::Answer Remote::send(const QString &interface, const QString &method, con
     message.setAutoStartService(false);
     const QDBusMessage reply = m_bus.call(message, QDBus::Block, int(kCallDeadline.count()));
     if (reply.type() == QDBusMessage::ReplyMessage)
-        return done();
+        return {.isDone = true, .error = {}, .values = reply.arguments()};
     switch (QDBusError(reply).type()) {
     case QDBusError::NoReply:
     case QDBusError::TimedOut:

@@ -22,6 +22,8 @@ public:
     {
         bool isDone = false;
         QString error;
+        /// What the method returned.
+        QVariantList values = {};
     };
 
     Remote();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "client/commandline.h"
+#include "client/keyslist.h"
 #include "client/noteslist.h"
 
 #include <QJsonArray>
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void refuses_data();
     void refuses();
     void listsNewestFirst();
+    void tellsOfKeys();
 };
 
 void TestCommandLine::understands_data()
@@ -50,6 +52,8 @@ void TestCommandLine::understands_data()
     row("add -", Kind::AddInput);
     row("list", Kind::List);
     row("list --json", Kind::List);
+    row("keys", Kind::Keys, "Keys");
+    row("keys --json", Kind::Keys, "Keys");
     row("access status", Kind::Access);
     row("access", Kind::Access); // refused by the one that carries it out
     row("--help", Kind::Help);
@@ -131,6 +135,32 @@ void TestCommandLine::listsNewestFirst()
         {u"sourceApp"_s, u"Mousepad"_s},
     };
     QCOMPARE(array.at(1).toObject(), expected);
+}
+
+void TestCommandLine::tellsOfKeys()
+{
+    const auto key = [](const QString &command, const QString &keys, const QString &state,
+                        const QStringList &takenBy = {}) {
+        return KeysReport::Key{
+            .command = command, .keys = keys, .purpose = u"do it"_s, .state = state, .takenBy = takenBy};
+    };
+    const KeysReport sent{.keys = {key(u"a"_s, u"Super+A"_s, u"works"_s),
+                                   key(u"bc"_s, u"Super+Alt+B"_s, u"taken"_s, {u"Openbox"_s, u"p"_s}),
+                                   key(u"d"_s, u"Super+D"_s, u"taken"_s), key(u"e"_s, {}, u"off"_s),
+                                   key(u"f"_s, u"Shift Shift"_s, u"no-access"_s)},
+                          .problems = {}};
+    const KeysReport report = KeysReport::fromMaps(sent.toMaps(), {});
+    QCOMPARE(QString::fromUtf8(keysAsLines(report)), u"Super+A      works                     a   do it\n"
+                                                     "Super+Alt+B  taken by Openbox or p     bc  do it\n"
+                                                     "Super+D      taken by another program  d   do it\n"
+                                                     "none         off                       e   do it\n"
+                                                     "Shift Shift  needs access              f   do it\n"_s);
+    const QJsonArray array = QJsonDocument::fromJson(keysAsJson(report)).array();
+    QCOMPARE(array.size(), 5);
+    QVERIFY(!array.at(0).toObject().contains(u"takenBy"_s));
+    QCOMPARE(array.at(1).toObject().value(u"takenBy"_s).toArray(), (QJsonArray{u"Openbox"_s, u"p"_s}));
+    QCOMPARE(array.at(2).toObject().value(u"takenBy"_s).toArray(), QJsonArray());
+    QCOMPARE(array.at(3).toObject().value(u"keys"_s).toString(), QString());
 }
 
 QTEST_APPLESS_MAIN(TestCommandLine)

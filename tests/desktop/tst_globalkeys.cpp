@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/editortest.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
@@ -22,11 +24,28 @@ private Q_SLOTS:
     void layouts();
     void layoutChangedWhileRunning();
     void takenCombinationLeavesTheOthers();
+    void takenCombinationIsNamedAndTakenBack();
+    void usersOwnCombinationWorks();
     void letterHeldLongerThanItsModifiersTypesNothing();
     void twoLettersAtOnce();
     void withoutConsentShiftIsNotHeard();
     void whatIsTypedFromThePressOnReachesThePanel();
+
+private:
+    /// The line of `vesk keys` that begins with these keys; empty if there is none.
+    [[nodiscard]] QString lineOfKeys(const QString &keys);
 };
+
+QString TestGlobalKeys::lineOfKeys(const QString &keys)
+{
+    const auto process = m_desktop->run(VirtualDesktop::veskProgram(), {u"keys"_s});
+    if (!process || !process->waitForExit(kBound))
+        return {};
+    const QStringList lines = process->output().split(u'\n');
+    const auto line =
+        std::ranges::find_if(lines, [&keys](const QString &each) { return each.startsWith(keys + u' '); });
+    return line == lines.end() ? QString() : *line;
+}
 
 void TestGlobalKeys::eachKeyDoesItsOwn()
 {
@@ -144,6 +163,42 @@ void TestGlobalKeys::takenCombinationLeavesTheOthers()
     VERIFY_ON(*m_desktop, waitNotice(kSaved));
     togglePanel();
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
+}
+
+/// Another program comes first, and gives the combination up later.
+void TestGlobalKeys::takenCombinationIsNamedAndTakenBack()
+{
+    QVERIFY(m_vesk->quit());
+    std::unique_ptr<DisplayConnection> other = DisplayConnection::open(m_desktop->displayName());
+    QVERIFY(other);
+    Keyboard(*other).takeHotKey(XK_n);
+    m_vesk = m_desktop->startVesk();
+    QVERIFY(m_vesk);
+    const QString taken = lineOfKeys(u"Super+Alt+N"_s);
+    QVERIFY2(taken.contains("taken by"_L1) && taken.contains("tst_globalkeys"_L1), qPrintable(taken));
+    const QString free = lineOfKeys(u"Super+Alt+Shift+N"_s);
+    QVERIFY2(free.contains("works"_L1), qPrintable(free));
+
+    other.reset();
+    const auto isFree = [this] { return lineOfKeys(u"Super+Alt+N"_s).contains("works"_L1); };
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, isFree));
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    press({XK_n});
+    VERIFY_ON(*m_desktop, waitNotice(kSaved));
+}
+
+void TestGlobalKeys::usersOwnCombinationWorks()
+{
+    static_cast<void>(
+        m_desktop->writeFile(u"config/Vesk/Keys.conf"_s, u"capture = Super+Alt+B\nwrite = Hyper+W\n"_s));
+    const auto isRead = [this] { return lineOfKeys(u"Super+Alt+B"_s).contains("works"_L1); };
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, isRead));
+    QVERIFY2(m_vesk->errorOutput().contains("vesk: Keys.conf, line 2"_L1), qPrintable(m_vesk->errorOutput()));
+    QVERIFY2(!m_desktop->keyboard().isHotKeyTaken(XK_n), "The default is claimed beside the user's choice.");
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    press({XK_b});
+    VERIFY_ON(*m_desktop, waitNotice(kSaved));
+    QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(0)});
 }
 
 void TestGlobalKeys::letterHeldLongerThanItsModifiersTypesNothing()
