@@ -3,6 +3,7 @@
 
 #include "app/desktop.h"
 #include "app/remotecontrol.h"
+#include "components/commandkeys.h"
 #include "components/surroundings.h"
 #include "editor/lentpasteboards.h"
 #include "notes/notesstore.h"
@@ -18,9 +19,10 @@ namespace vesk {
 
 namespace {
 
-QQmlEngine &lent(QQmlEngine &engine, Desktop &desktop)
+QQmlEngine &lent(QQmlEngine &engine, Desktop &desktop, const GlobalKeys &keys)
 {
     lendToEngine(engine, desktop.appearance, desktop.workspace, desktop.windows);
+    lendKeys(engine, keys);
     lendToEditors(engine, desktop.pasteboard, &desktop.primary);
     return engine;
 }
@@ -44,7 +46,8 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
                    .watcher = m_watcher,
                    .poster = desktop.poster})
     , m_panel(store, desktop.clock, desktop.defaults, desktop.application, desktop.accessibility)
-    , m_panelWindow(lent(m_engine, desktop), m_panel, desktop.application, desktop.screens, desktop.windows)
+    , m_panelWindow(lent(m_engine, desktop, m_keys), m_panel, desktop.application, desktop.screens,
+                    desktop.windows)
     , m_toast(m_engine, desktop.screens, desktop.windows, desktop.clock)
     , m_quickNote({.engine = m_engine,
                    .store = store,
@@ -104,6 +107,11 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
     m_watcher.start();
     connect(&m_keys, &GlobalKeys::problemsChanged, this, &VeskApp::tellOfKeys);
     m_services.start();
+    // Whoever looks up a key that did nothing may have freed it. The panel is shown first.
+    connect(&m_panelWindow.window(), &QWindow::visibleChanged, this, [this](bool isVisible) {
+        if (isVisible)
+            QTimer::singleShot(0, this, [this] { m_keys.retry(); });
+    });
     offerCommands(desktop, store, service);
     QTimer::singleShot(0, this, [this, &desktop] {
         desktop.workspace.warmUp();

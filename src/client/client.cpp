@@ -146,7 +146,7 @@ int Client::keys(const CommandLine &command)
                                       answer.values.value(1).toStringList());
     } else {
         report = KeysReport::withoutVesk(KeysFile::read(KeysFile::standardPath()));
-        sayError(u"Vesk is not running, so none of these works now."_s);
+        sayError(tr("Vesk is not running, so none of these works now."));
     }
     for (const QString &problem : std::as_const(report.problems))
         sayError(problem);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "client/keyslist.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -14,13 +15,26 @@ namespace vesk {
 
 namespace {
 
+/// What is said here.
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(vesk::KeysReport)
+};
+
 QString spelt(const KeysReport::Key &key)
 {
-    if (key.state == "taken"_L1) {
-        const QString holders = key.takenBy.join(u" or "_s);
-        return u"taken by "_s + (holders.isEmpty() ? u"another program"_s : holders);
-    }
-    return key.state == "no-access"_L1 ? u"needs access"_s : key.state;
+    if (key.state == "works"_L1)
+        return Texts::tr("works");
+    if (key.state == "off"_L1)
+        return Texts::tr("off");
+    if (key.state == "no-access"_L1)
+        return Texts::tr("needs access");
+    if (key.state != "taken"_L1)
+        return Texts::tr("unknown");
+    QString holders;
+    for (const QString &name : key.takenBy)
+        holders = holders.isEmpty() ? name : Texts::tr("%1 or %2").arg(holders, name);
+    return holders.isEmpty() ? Texts::tr("taken by another program") : Texts::tr("taken by %1").arg(holders);
 }
 
 } // namespace
@@ -31,7 +45,8 @@ QByteArray keysAsLines(const KeysReport &report)
     QList<std::array<QString, kColumns>> rows;
     std::array<qsizetype, kColumns> widths{};
     for (const KeysReport::Key &key : report.keys) {
-        rows.append({key.keys.isEmpty() ? u"none"_s : key.keys, spelt(key), key.command, key.purpose});
+        rows.append(
+            {key.keys.isEmpty() ? Texts::tr("none") : key.keys, spelt(key), key.command, key.purpose});
         for (size_t i = 0; i < kColumns; ++i)
             widths.at(i) = std::max(widths.at(i), rows.last().at(i).size());
     }

@@ -9,6 +9,8 @@ Rectangle {
 
     required property string glyph
     property int place: KeyLabels.Window
+    // Pressing it does nothing now.
+    property bool isIdle: false
 
     implicitWidth: Math.max(implicitHeight, Math.ceil(label.implicitWidth) + 2 * (label.text.length > 1 ? 4 : 2))
     implicitHeight: Math.round(20 * Theme.fonts.scale)
@@ -26,6 +28,6 @@ Rectangle {
         text: KeyLabels.label(root.glyph, root.place)
         textFormat: Text.PlainText
         font: Theme.fonts.key
-        color: Theme.primary
+        color: root.isIdle ? Theme.tertiary : Theme.primary
     }
 }

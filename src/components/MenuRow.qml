@@ -15,6 +15,7 @@ Rectangle {
     signal pointedAway
     signal clicked
 
+    visible: root.entry.isVisible
     implicitWidth: root.entry.isDivider ? 0 : label.implicitWidth + 2 * 10
     implicitHeight: root.entry.isDivider ? 9 : Math.round(24 * Theme.fonts.scale)
     radius: 6

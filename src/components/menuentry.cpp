@@ -19,4 +19,12 @@ void MenuEntry::setEnabled(bool isEnabled)
     Q_EMIT changed();
 }
 
+void MenuEntry::setVisible(bool isVisible)
+{
+    if (m_isVisible == isVisible)
+        return;
+    m_isVisible = isVisible;
+    Q_EMIT changed();
+}
+
 } // namespace vesk

@@ -13,6 +13,8 @@ class MenuEntry : public QObject
     QML_ELEMENT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY changed)
     Q_PROPERTY(bool isEnabled READ isEnabled WRITE setEnabled NOTIFY changed)
+    /// Whether there is such a line now.
+    Q_PROPERTY(bool isVisible READ isVisible WRITE setVisible NOTIFY changed)
     Q_PROPERTY(bool isDivider READ isDivider NOTIFY changed)
 
 public:
@@ -22,8 +24,10 @@ public:
     void setText(const QString &text);
     [[nodiscard]] bool isEnabled() const { return m_isEnabled; }
     void setEnabled(bool isEnabled);
+    [[nodiscard]] bool isVisible() const { return m_isVisible; }
+    void setVisible(bool isVisible);
     [[nodiscard]] bool isDivider() const { return m_text.isEmpty(); }
-    [[nodiscard]] bool canBeChosen() const { return m_isEnabled && !isDivider(); }
+    [[nodiscard]] bool canBeChosen() const { return m_isEnabled && m_isVisible && !isDivider(); }
 
 Q_SIGNALS:
     /// The user has chosen the entry; its menu has gone.
@@ -33,6 +37,7 @@ Q_SIGNALS:
 private:
     QString m_text;
     bool m_isEnabled = true;
+    bool m_isVisible = true;
 };
 
 } // namespace vesk

@@ -17,6 +17,9 @@ Item {
     required property string text
     required property string spoken
     required property bool showsAccess
+    // Why the keys do not work; empty if they do.
+    required property string notice
+    required property bool isTaken
     property bool isTrusted: false
 
     signal settingsRequested
@@ -85,6 +88,7 @@ Item {
 
                         glyph: modelData
                         place: root.place
+                        isIdle: root.isTaken
                     }
                 }
             }
@@ -98,6 +102,32 @@ Item {
             font: Theme.fonts.small
             color: Theme.secondary
             Accessible.ignored: true
+        }
+
+        Row {
+            width: parent.width
+            visible: root.notice !== ""
+            spacing: Theme.smallSpace
+
+            Symbol {
+                id: sign
+
+                visible: root.isTaken
+                y: 2
+                name: "exclamationmark.triangle.fill"
+                size: 12
+                color: Theme.attentionText
+            }
+
+            Text {
+                width: parent.width - (sign.visible ? sign.width + parent.spacing : 0)
+                wrapMode: Text.Wrap
+                textFormat: Text.PlainText
+                text: root.notice
+                font: Theme.fonts.small
+                color: root.isTaken ? Theme.attentionText : Theme.tertiary
+                Accessible.ignored: true
+            }
         }
 
         Repeater {

@@ -123,6 +123,7 @@ FocusScope {
 
                 Repeater {
                     model: GuideTopics {
+                        commandKeys: CommandKeys
                     }
 
                     GuideRow {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "guide/guidetopics.h"
 
+#include "input/hotkeytable.h"
+
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -13,34 +15,32 @@ struct Topic
 {
     const char *symbol;
     const char *title;
-    /// Separated by spaces; empty for none.
-    QStringView keys;
-    KeyLabels::Place place;
+    /// The keys that work everywhere; null for those of Vesk's own windows.
+    const HotKeyRow *row = nullptr;
+    /// Those, separated by spaces.
+    QStringView keys = {};
     const char *text;
     bool showsAccess = false;
 };
 
-// The place of the keys is that of the caps alone: combinations within a text are all for Vesk's own
+// Combinations within a text are all for Vesk's own
 // windows. The combination for checklists has no exception here: no file manager of this desktop has it.
 constexpr std::array kTopics{
     Topic{.symbol = "keyboard",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Open Vesk anywhere"),
-          .keys = u"\u2325 \u2318 T",
-          .place = KeyLabels::Global,
+          .row = &hotkeytable::kOpen,
           .text =
               QT_TRANSLATE_NOOP("vesk::GuideTopics", "Press it in any app to open or hide Vesk. Escape also "
                                                      "hides it, and so does clicking another app.")},
     Topic{.symbol = "square.and.pencil",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Write a new note"),
-          .keys = u"\u2303 \u2325 \u2318 N",
-          .place = KeyLabels::Global,
+          .row = &hotkeytable::kWrite,
           .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Opens Vesk with the cursor in \u201CWrite a note\u2026\u201D. Return "
                                     "saves it, Shift-Return starts a new line.")},
     Topic{.symbol = "character.cursor.ibeam",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Save selected text"),
-          .keys = u"\u2325 \u2318 N",
-          .place = KeyLabels::Global,
+          .row = &hotkeytable::kQuickNote,
           .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Select text in a browser, ChatGPT, Claude, a terminal, anywhere, and "
                                     "press it. It becomes a note that remembers where it came from. With "
@@ -48,65 +48,64 @@ constexpr std::array kTopics{
           .showsAccess = true},
     Topic{.symbol = "bubble.left.and.text.bubble.right",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Prompts for your AI chats"),
-          .keys = u"\u21E7 \u21E7",
-          .place = KeyLabels::Global,
+          .row = &hotkeytable::kSavePrompt,
           .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Select text and tap Shift twice to save it as a prompt, or write "
                                     "follow-up prompts in the Prompts tab. Copy or paste them into the chat "
                                     "and tick them off.")},
     Topic{.symbol = "text.append",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Add to your last note"),
-          .keys = u"\u2325 \u21E7 \u2318 N",
-          .place = KeyLabels::Global,
+          .row = &hotkeytable::kAppend,
           .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Adds the selection to the bottom of the note you changed last. A note "
                                     "that ends in a checklist gets new checkboxes.")},
     Topic{.symbol = "checklist",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Make a checklist"),
-          .keys = u"\u2325 \u2318 C",
-          .place = KeyLabels::Global,
+          .row = &hotkeytable::kChecklist,
           .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Each selected line becomes a checkbox. With nothing selected, a box "
                                     "opens on the first checkbox: Return adds the next item, \u2318\u21A9 "
                                     "saves.")},
     Topic{.symbol = "text.badge.plus",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Add to your checklist"),
-          .keys = u"\u2325 \u21E7 \u2318 C",
-          .place = KeyLabels::Global,
+          .row = &hotkeytable::kAddToChecklist,
           .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Each selected line becomes a new checkbox in the checklist you changed "
                                     "last, even if you edited other notes since.")},
     Topic{.symbol = "list.bullet",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Checkboxes and lists"),
           .keys = u"[ ] \u2423",
-          .place = KeyLabels::Window,
           .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Type [ ] and a space for a checkbox, - and a space for a bullet, # and "
                                     "a space for a heading. Tick boxes right on the card.")},
     Topic{.symbol = "arrow.up.and.down",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Keyboard in the panel"),
           .keys = u"\u2191 \u2193",
-          .place = KeyLabels::Window,
           .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Move between notes. Return opens one, \u2318\u21A9 pastes it into the "
                                     "app you came from, \u2318\u232B deletes it, ⌘F searches.")},
 };
 
-QStringList keysOf(const Topic &topic)
+KeyLabels::Place placeOf(const Topic &topic)
 {
-    return topic.keys.toString().split(u' ', Qt::SkipEmptyParts);
-}
-
-QString spoken(const QString &title, const Topic &topic)
-{
-    QStringList words{title};
-    const QStringList keys = keysOf(topic);
-    for (const QString &key : keys)
-        words.append(KeyLabels::label(key, topic.place));
-    return words.join(u", "_s);
+    return topic.row ? KeyLabels::Global : KeyLabels::Window;
 }
 
 } // namespace
+
+void GuideTopics::setCommandKeys(CommandKeys *keys)
+{
+    if (m_keys == keys)
+        return;
+    if (m_keys)
+        m_keys->disconnect(this);
+    m_keys = keys;
+    const auto renew = [this] { Q_EMIT dataChanged(index(0), index(rowCount() - 1)); };
+    if (keys)
+        connect(keys, &CommandKeys::changed, this, renew);
+    renew();
+    Q_EMIT commandKeysChanged();
+}
 
 int GuideTopics::rowCount(const QModelIndex &parent) const
 {
@@ -117,25 +116,72 @@ QVariant GuideTopics::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const Topic &topic = kTopics.at(static_cast<size_t>(index.row()));
+    const auto place = static_cast<size_t>(index.row());
+    const Topic &topic = kTopics.at(place);
     switch (role) {
     case SymbolRole:
         return QString::fromLatin1(topic.symbol);
     case TitleRole:
         return tr(topic.title);
     case KeysRole:
-        return keysOf(topic);
+        return keysOf(place);
     case PlaceRole:
-        return topic.place;
+        return placeOf(topic);
     case TextRole:
-        return KeyLabels::spelt(tr(topic.text), KeyLabels::Window);
+        return KeyLabels::spelt(textOf(place), KeyLabels::Window);
     case SpokenRole:
-        return spoken(tr(topic.title), topic);
+        return spoken(place);
     case ShowsAccessRole:
         return topic.showsAccess;
+    case NoticeRole:
+        return noticeOf(place);
+    case IsTakenRole:
+        return topic.row && m_keys && m_keys->isTaken(*topic.row);
     default:
         return {};
     }
+}
+
+QStringList GuideTopics::keysOf(size_t place) const
+{
+    const Topic &topic = kTopics.at(place);
+    if (topic.row)
+        return m_keys ? m_keys->glyphs(*topic.row) : QStringList();
+    return topic.keys.toString().split(u' ', Qt::SkipEmptyParts);
+}
+
+QString GuideTopics::textOf(size_t place) const
+{
+    const Topic &topic = kTopics.at(place);
+    if (topic.row != &hotkeytable::kSavePrompt || !m_keys || m_keys->isPromptTapped())
+        return tr(topic.text);
+    const QString keys = m_keys->spelt(*topic.row);
+    if (keys.isEmpty())
+        return tr("Write follow-up prompts in the Prompts tab. Copy or paste them into the chat and tick "
+                  "them off.");
+    return tr("Select text and press %1 to save it as a prompt, or write follow-up prompts in the Prompts "
+              "tab. "
+              "Copy or paste them into the chat and tick them off.")
+        .arg(keys);
+}
+
+QString GuideTopics::noticeOf(size_t place) const
+{
+    const HotKeyRow *row = kTopics.at(place).row;
+    return row && m_keys ? m_keys->notice(*row) : QString();
+}
+
+QString GuideTopics::spoken(size_t place) const
+{
+    const Topic &topic = kTopics.at(place);
+    QStringList words{tr(topic.title)};
+    const QStringList keys = keysOf(place);
+    for (const QString &key : keys)
+        words.append(KeyLabels::label(key, placeOf(topic)));
+    const QString notice = noticeOf(place);
+    if (!notice.isEmpty())
+        words.append(notice);
+    return words.join(u", "_s);
 }
 
 QHash<int, QByteArray> GuideTopics::roleNames() const
@@ -146,7 +192,9 @@ QHash<int, QByteArray> GuideTopics::roleNames() const
             {PlaceRole, "place"},
             {TextRole, "text"},
             {SpokenRole, "spoken"},
-            {ShowsAccessRole, "showsAccess"}};
+            {ShowsAccessRole, "showsAccess"},
+            {NoticeRole, "notice"},
+            {IsTakenRole, "isTaken"}};
 }
 
 } // namespace vesk

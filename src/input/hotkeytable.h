@@ -17,7 +17,8 @@ struct HotKeyRow
     KeyCombination combination;
     /// The words after `vesk` that do the same; the name of the combination in the user's file.
     QStringView command;
-    QStringView purpose;
+    /// To be translated.
+    const char *purpose;
 };
 
 /// The combinations by which Vesk is reached from everywhere.
@@ -30,42 +31,44 @@ inline constexpr HotKeyRow kQuickNote{
     .id = 1,
     .combination = {.key = KeyPosition::N, .modifiers = kBase},
     .command = u"capture",
-    .purpose = u"save the selected text; with nothing selected, write a quick note"};
+    .purpose = QT_TRANSLATE_NOOP("vesk::KeysReport",
+                                 "save the selected text; with nothing selected, write a quick note")};
 /// Adds the selection to the last note.
 inline constexpr HotKeyRow kAppend{
     .id = 2,
     .combination = {.key = KeyPosition::N, .modifiers = kBase | Qt::ShiftModifier},
     .command = u"capture --append",
-    .purpose = u"add the selected text to the note changed last"};
+    .purpose = QT_TRANSLATE_NOOP("vesk::KeysReport", "add the selected text to the note changed last")};
 /// Opens or hides Vesk.
 inline constexpr HotKeyRow kOpen{.id = 3,
                                  .combination = {.key = KeyPosition::T, .modifiers = kBase},
                                  .command = u"toggle",
-                                 .purpose = u"open or hide Vesk"};
+                                 .purpose = QT_TRANSLATE_NOOP("vesk::KeysReport", "open or hide Vesk")};
 /// Opens Vesk to write a new note.
 inline constexpr HotKeyRow kWrite{
     .id = 4,
     .combination = {.key = KeyPosition::N, .modifiers = kBase | Qt::ControlModifier},
     .command = u"write",
-    .purpose = u"open Vesk to write a new note"};
+    .purpose = QT_TRANSLATE_NOOP("vesk::KeysReport", "open Vesk to write a new note")};
 /// Saves the selection as a checklist.
-inline constexpr HotKeyRow kChecklist{.id = 5,
-                                      .combination = {.key = KeyPosition::C, .modifiers = kBase},
-                                      .command = u"capture --checklist",
-                                      .purpose = u"make a checklist of the selected lines, or write one"};
+inline constexpr HotKeyRow kChecklist{
+    .id = 5,
+    .combination = {.key = KeyPosition::C, .modifiers = kBase},
+    .command = u"capture --checklist",
+    .purpose = QT_TRANSLATE_NOOP("vesk::KeysReport", "make a checklist of the selected lines, or write one")};
 /// Adds the selection to the last checklist.
 inline constexpr HotKeyRow kAddToChecklist{
     .id = 6,
     .combination = {.key = KeyPosition::C, .modifiers = kBase | Qt::ShiftModifier},
     .command = u"add-to-checklist",
-    .purpose = u"add the selected lines to the checklist changed last"};
+    .purpose = QT_TRANSLATE_NOOP("vesk::KeysReport", "add the selected lines to the checklist changed last")};
 /// Saves the selection as a prompt. Shift together with Shift stands for two taps of it, which are no
 /// combination that could be claimed.
 inline constexpr HotKeyRow kSavePrompt{
     .id = 7,
     .combination = {.key = KeyPosition::LeftShift, .modifiers = Qt::ShiftModifier},
     .command = u"save-prompt",
-    .purpose = u"save the selected text as a prompt"};
+    .purpose = QT_TRANSLATE_NOOP("vesk::KeysReport", "save the selected text as a prompt")};
 
 /// In the order of their identifiers, which begin with 1.
 inline constexpr std::array kAll{kQuickNote, kAppend,         kOpen,      kWrite,

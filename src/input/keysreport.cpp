@@ -37,7 +37,7 @@ KeysReport::Key keyOf(const HotKeyRow &row, const std::optional<KeyCombination> 
 {
     return {.command = row.command.toString(),
             .keys = combination ? keynames::written(*combination, keyboard) : QString(),
-            .purpose = row.purpose.toString(),
+            .purpose = KeysReport::tr(row.purpose),
             .state = {},
             .takenBy = {}};
 }

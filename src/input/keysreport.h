@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -13,6 +14,9 @@ class GlobalKeys;
 /// What there is to tell about the combinations, for other processes and for people.
 struct KeysReport
 {
+    Q_DECLARE_TR_FUNCTIONS(vesk::KeysReport)
+
+public:
     struct Key
     {
         /// The words after `vesk` that do the same.

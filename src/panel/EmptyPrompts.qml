@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
 import QtQuick
 
 import Vesk.Components
@@ -7,11 +9,11 @@ import Vesk.Components
 Item {
     id: root
 
-    readonly property string shift: KeyLabels.label("⇧", KeyLabels.Global)
+    readonly property bool hasKeys: CommandKeys.promptKeys.length > 0
     readonly property real textWidth: root.width - 2 * Theme.margin
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: heading.text + ". " + first.text + " " + root.shift + " " + root.shift + " " + second.text
+    Accessible.name: heading.text + ". " + (root.hasKeys ? first.text + " " + CommandKeys.promptSpoken + " " : "") + second.text
     Accessible.ignored: !root.visible
 
     Column {
@@ -33,6 +35,7 @@ Item {
         // Breaks before the keys where there is no room for them.
         Grid {
             anchors.horizontalCenter: parent.horizontalCenter
+            visible: root.hasKeys
             columns: first.implicitWidth + spacing + caps.width > root.textWidth ? 1 : 2
             spacing: Theme.smallSpace
             horizontalItemAlignment: Grid.AlignHCenter
@@ -44,7 +47,7 @@ Item {
                 width: Math.min(implicitWidth, root.textWidth)
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
-                text: qsTr("Select text anywhere and tap")
+                text: CommandKeys.isPromptTapped ? qsTr("Select text anywhere and tap") : qsTr("Select text anywhere and press")
                 textFormat: Text.PlainText
                 font: Theme.fonts.body
                 color: Theme.secondary
@@ -56,14 +59,16 @@ Item {
 
                 spacing: Theme.tightSpace
 
-                KeyCap {
-                    glyph: "⇧"
-                    place: KeyLabels.Global
-                }
+                Repeater {
+                    model: CommandKeys.promptKeys
 
-                KeyCap {
-                    glyph: "⇧"
-                    place: KeyLabels.Global
+                    KeyCap {
+                        required property string modelData
+
+                        glyph: modelData
+                        place: KeyLabels.Global
+                        isIdle: CommandKeys.isPromptTaken
+                    }
                 }
             }
         }
@@ -75,7 +80,7 @@ Item {
             width: Math.min(implicitWidth, root.textWidth)
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
-            text: qsTr("or write a follow-up prompt below.")
+            text: root.hasKeys ? qsTr("or write a follow-up prompt below.") : qsTr("Write a follow-up prompt below.")
             textFormat: Text.PlainText
             font: Theme.fonts.small
             color: Theme.secondary

@@ -67,6 +67,7 @@ Item {
 
             Repeater {
                 model: CommandHints {
+                    commandKeys: CommandKeys
                 }
 
                 Row {
@@ -74,6 +75,7 @@ Item {
 
                     required property list<string> keys
                     required property string hint
+                    required property bool isTaken
 
                     anchors.left: parent.left
                     spacing: Theme.margin
@@ -101,6 +103,7 @@ Item {
 
                                     glyph: modelData
                                     place: KeyLabels.Global
+                                    isIdle: command.isTaken
                                 }
                             }
                         }

@@ -28,6 +28,12 @@ SymbolButton {
         }
 
         MenuEntry {
+            text: CommandKeys.takenTitle
+            isVisible: CommandKeys.takenTitle !== ""
+            onTriggered: root.model.menu.guideRequested()
+        }
+
+        MenuEntry {
             text: qsTr("Check for Updates…")
             isEnabled: root.model.menu.canCheckForUpdates
             onTriggered: root.model.menu.updateCheckRequested()
@@ -37,7 +43,7 @@ SymbolButton {
         }
 
         MenuEntry {
-            text: qsTr("New Note (⌃⌥⌘N)")
+            text: CommandKeys.newNoteTitle
             onTriggered: root.model.requestField(PanelKeyboard.Field.Composer)
         }
 

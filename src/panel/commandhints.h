@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "components/commandkeys.h"
+
 #include <QAbstractListModel>
+#include <QPointer>
 #include <QQmlEngine>
 
 namespace vesk {
@@ -11,16 +14,32 @@ class CommandHints : public QAbstractListModel
 {
     Q_OBJECT
     QML_ELEMENT
+    /// Without them there are no rows.
+    Q_PROPERTY(vesk::CommandKeys *commandKeys READ commandKeys WRITE setCommandKeys NOTIFY commandKeysChanged)
 
 public:
     enum Role {
         KeysRole = Qt::UserRole + 1, ///< QStringList, in the notation of Vesk's texts
         HintRole,                    ///< QString
+        IsTakenRole,                 ///< bool, whether another program has the keys
     };
+
+    [[nodiscard]] CommandKeys *commandKeys() const { return m_keys; }
+    void setCommandKeys(CommandKeys *keys);
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void commandKeysChanged();
+
+private:
+    void reload();
+
+    QPointer<CommandKeys> m_keys;
+    /// Numbers of the entries whose keys are not switched off.
+    QList<size_t> m_shown;
 };
 
 } // namespace vesk

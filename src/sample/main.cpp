@@ -3,8 +3,10 @@
 #include "samplenotes.h"
 #include "samplewindows.h"
 
+#include "components/commandkeys.h"
 #include "components/surroundings.h"
 #include "editor/lentpasteboards.h"
+#include "input/globalkeys.h"
 #include "notes/notesstore.h"
 #include "panel/panelmodel.h"
 #include "panel/panelwindow.h"
@@ -13,6 +15,7 @@
 #include "platform/memory/memoryapplication.h"
 #include "platform/memory/memoryclock.h"
 #include "platform/memory/memorydefaults.h"
+#include "platform/memory/memorykeyboard.h"
 #include "platform/memory/memorypasteboard.h"
 #include "platform/memory/memoryscreens.h"
 #include "platform/memory/memorysounds.h"
@@ -127,15 +130,18 @@ int main(int argc, char *argv[])
     const QCommandLineOption click(u"click"_s, u"Where the pointer clicks, in the panel."_s, u"X,Y"_s);
     const QCommandLineOption notice(u"notice"_s, u"Shows a notice as well."_s, u"TEXT"_s);
     const QCommandLineOption guide(u"guide"_s, u"Shows the guide, as on the first run."_s);
+    const QCommandLineOption keysFile(u"keys"_s, u"The user's choice of keys."_s, u"FILE"_s);
+    const QCommandLineOption taken(u"taken"_s, u"Which program has two of the keys."_s, u"PROGRAM"_s);
     const QCommandLineOption editor(u"editor"_s, u"Shows a note in the editor instead."_s);
     const QCommandLineOption quickNote(u"quick-note"_s, u"Shows the quick-note box with a draft instead."_s,
                                        u"TEXT"_s);
     const QCommandLineOption quickChecklist(u"quick-checklist"_s, u"The same for a checklist."_s, u"TEXT"_s);
     const QCommandLineOption screenshot(u"screenshot"_s, u"Writes a picture of the panel and quits."_s,
                                         u"FILE"_s);
-    options.addOptions({dark,     strong, textScale, empty,  untrusted, composited,     still,     notes,
-                        texts,    search, tab,       select, open,      draft,          pointer,   click,
-                        language, notice, guide,     editor, quickNote, quickChecklist, screenshot});
+    options.addOptions({dark,           strong,     textScale, empty,  untrusted, composited, still,
+                        notes,          texts,      search,    tab,    select,    open,       draft,
+                        pointer,        click,      language,  notice, guide,     editor,     quickNote,
+                        quickChecklist, screenshot, keysFile,  taken});
     options.process(program);
     const vesk::Translation translation({options.value(language)});
     QGuiApplication::setLayoutDirection(translation.language().textDirection());
@@ -172,7 +178,18 @@ int main(int argc, char *argv[])
     defaults.setBool(!options.isSet(guide), u"hasSeenGuide"_s);
     vesk::MemoryPasteboard pasteboard;
 
+    vesk::MemoryHotKeys hotKeys;
+    if (options.isSet(taken)) {
+        hotKeys.setHolders({options.value(taken)});
+        hotKeys.setTaken(vesk::hotkeytable::kOpen.combination);
+        hotKeys.setTaken(vesk::hotkeytable::kWrite.combination);
+    }
+    vesk::GlobalKeys keys(hotKeys, options.isSet(keysFile) ? options.value(keysFile)
+                                                           : folder.filePath(u"Keys.conf"_s));
+    keys.start();
+
     QQmlEngine engine;
+    vesk::lendKeys(engine, keys);
     vesk::lendToEngine(engine, appearance, workspace, windows);
     vesk::MemoryPasteboard primary;
     vesk::lendToEditors(engine, pasteboard, &primary);

@@ -105,6 +105,14 @@
         <source>or write a follow-up prompt below.</source>
         <translation>oder unten einen Folge-Prompt schreiben.</translation>
     </message>
+    <message>
+        <source>Select text anywhere and press</source>
+        <translation>Text irgendwo markieren und drücken:</translation>
+    </message>
+    <message>
+        <source>Write a follow-up prompt below.</source>
+        <translation>Unten einen Folge-Prompt schreiben.</translation>
+    </message>
 </context>
 <context>
     <name>EmptyState</name>
@@ -253,10 +261,6 @@
     <message>
         <source>Check for Updates…</source>
         <translation>Nach Updates suchen …</translation>
-    </message>
-    <message>
-        <source>New Note (⌃⌥⌘N)</source>
-        <translation>Neue Notiz (⌃⌥⌘N)</translation>
     </message>
     <message>
         <source>Quick Note…</source>
@@ -590,6 +594,10 @@ Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevo
         <source>%1 could not be started: %2.</source>
         <translation>%1 konnte nicht gestartet werden: %2.</translation>
     </message>
+    <message>
+        <source>Vesk is not running, so none of these works now.</source>
+        <translation>Vesk läuft nicht, daher wirkt im Moment keine davon.</translation>
+    </message>
 </context>
 <context>
     <name>vesk::CommandHints</name>
@@ -616,6 +624,59 @@ Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevo
     <message>
         <source>Start a checklist while typing</source>
         <translation>Beim Schreiben eine Checkliste beginnen</translation>
+    </message>
+    <message>
+        <source>%1 (keys taken by %2)</source>
+        <translation>%1 (Tasten belegt von %2)</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::CommandKeys</name>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>einem anderen Programm</translation>
+    </message>
+    <message>
+        <source>%1 has these keys. Free them there, or choose others in %2.</source>
+        <translation>Diese Tasten sind belegt von %1. Geben Sie sie dort frei oder wählen Sie andere in %2.</translation>
+    </message>
+    <message>
+        <source>Switched off in %1.</source>
+        <translation>Abgeschaltet in %1.</translation>
+    </message>
+    <message>
+        <source>New Note</source>
+        <translation>Neue Notiz</translation>
+    </message>
+    <message>
+        <source>New Note (%1, taken)</source>
+        <translation>Neue Notiz (%1, belegt)</translation>
+    </message>
+    <message>
+        <source>New Note (%1)</source>
+        <translation>Neue Notiz (%1)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Key(s) Taken by %1…</source>
+        <translation>
+            <numerusform>%n Taste belegt von %1 …</numerusform>
+            <numerusform>%n Tasten belegt von %1 …</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Key(s) Taken…</source>
+        <translation>
+            <numerusform>%n Taste belegt …</numerusform>
+            <numerusform>%n Tasten belegt …</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Another program has these keys. Free them there, or choose others in %1.</source>
+        <translation>Ein anderes Programm hat diese Tasten. Geben Sie sie dort frei oder wählen Sie andere in %1.</translation>
     </message>
 </context>
 <context>
@@ -734,6 +795,10 @@ läuft.</translation>
         <source>Exit status: 0 done, 1 failed (standard error says why), 2 wrong use.</source>
         <translation>Rückgabewert: 0 erledigt, 1 fehlgeschlagen (die Standardfehlerausgabe sagt warum), 2 falscher Aufruf.</translation>
     </message>
+    <message>
+        <source>print the keys that work everywhere, and whether they do</source>
+        <translation>die überall wirkenden Tasten ausgeben, und ob sie wirken</translation>
+    </message>
 </context>
 <context>
     <name>vesk::GuideTopics</name>
@@ -808,6 +873,14 @@ läuft.</translation>
     <message>
         <source>Move between notes. Return opens one, ⌘↩ pastes it into the app you came from, ⌘⌫ deletes it, ⌘F searches.</source>
         <translation>Zwischen Notizen bewegen. Enter öffnet eine, ⌘↩ fügt sie in die vorherige Anwendung ein, ⌘⌫ löscht sie, ⌘F sucht.</translation>
+    </message>
+    <message>
+        <source>Write follow-up prompts in the Prompts tab. Copy or paste them into the chat and tick them off.</source>
+        <translation>Schreiben Sie Folge-Prompts im Bereich Prompts. Kopieren Sie sie in den Chat und haken Sie sie ab.</translation>
+    </message>
+    <message>
+        <source>Select text and press %1 to save it as a prompt, or write follow-up prompts in the Prompts tab. Copy or paste them into the chat and tick them off.</source>
+        <translation>Markieren Sie Text und drücken Sie %1, um ihn als Prompt zu speichern, oder schreiben Sie Folge-Prompts im Bereich Prompts. Kopieren Sie sie in den Chat und haken Sie sie ab.</translation>
     </message>
 </context>
 <context>
@@ -906,6 +979,69 @@ läuft.</translation>
     <message>
         <source>%1 is the combination of “%2”.</source>
         <translation>%1 ist die Kombination von „%2“.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::KeysReport</name>
+    <message>
+        <source>works</source>
+        <translation>wirkt</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>needs access</source>
+        <translation>braucht Zugriff</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
+    <message>
+        <source>taken by another program</source>
+        <translation>belegt von einem anderen Programm</translation>
+    </message>
+    <message>
+        <source>taken by %1</source>
+        <translation>belegt von %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>save the selected text; with nothing selected, write a quick note</source>
+        <translation>den markierten Text speichern; ist nichts markiert, eine Schnellnotiz schreiben</translation>
+    </message>
+    <message>
+        <source>add the selected text to the note changed last</source>
+        <translation>den markierten Text an die zuletzt geänderte Notiz anhängen</translation>
+    </message>
+    <message>
+        <source>open or hide Vesk</source>
+        <translation>Vesk öffnen oder ausblenden</translation>
+    </message>
+    <message>
+        <source>open Vesk to write a new note</source>
+        <translation>Vesk öffnen und eine neue Notiz schreiben</translation>
+    </message>
+    <message>
+        <source>make a checklist of the selected lines, or write one</source>
+        <translation>aus den markierten Zeilen eine Checkliste machen, oder eine schreiben</translation>
+    </message>
+    <message>
+        <source>add the selected lines to the checklist changed last</source>
+        <translation>die markierten Zeilen an die zuletzt geänderte Checkliste anhängen</translation>
+    </message>
+    <message>
+        <source>save the selected text as a prompt</source>
+        <translation>den markierten Text als Prompt speichern</translation>
     </message>
 </context>
 <context>

@@ -21,4 +21,21 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>vesk::CommandKeys</name>
+    <message numerus="yes">
+        <source>%n Key(s) Taken by %1…</source>
+        <translation>
+            <numerusform>%n Key Taken by %1…</numerusform>
+            <numerusform>%n Keys Taken by %1…</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Key(s) Taken…</source>
+        <translation>
+            <numerusform>%n Key Taken…</numerusform>
+            <numerusform>%n Keys Taken…</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

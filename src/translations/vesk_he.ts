@@ -105,6 +105,14 @@
         <source>or write a follow-up prompt below.</source>
         <translation>או כותבים הנחיית המשך למטה.</translation>
     </message>
+    <message>
+        <source>Select text anywhere and press</source>
+        <translation>מסמנים טקסט בכל מקום ולוחצים</translation>
+    </message>
+    <message>
+        <source>Write a follow-up prompt below.</source>
+        <translation>כותבים הנחיית המשך למטה.</translation>
+    </message>
 </context>
 <context>
     <name>EmptyState</name>
@@ -253,10 +261,6 @@
     <message>
         <source>Check for Updates…</source>
         <translation>חיפוש עדכונים…</translation>
-    </message>
-    <message>
-        <source>New Note (⌃⌥⌘N)</source>
-        <translation>פתק חדש (⌃⌥⌘N)</translation>
     </message>
     <message>
         <source>Quick Note…</source>
@@ -590,6 +594,10 @@ Applications that are open already may have to be started again before Vesk can 
         <source>%1 could not be started: %2.</source>
         <translation>לא ניתן להפעיל את %1: %2.</translation>
     </message>
+    <message>
+        <source>Vesk is not running, so none of these works now.</source>
+        <translation>Vesk אינו פועל, ולכן אף אחד מהצירופים אינו פועל כעת.</translation>
+    </message>
 </context>
 <context>
     <name>vesk::CommandHints</name>
@@ -616,6 +624,59 @@ Applications that are open already may have to be started again before Vesk can 
     <message>
         <source>Start a checklist while typing</source>
         <translation>התחלת רשימה תוך כדי כתיבה</translation>
+    </message>
+    <message>
+        <source>%1 (keys taken by %2)</source>
+        <translation>%1 (המקשים תפוסים על ידי %2)</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::CommandKeys</name>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 או %2</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>תוכנית אחרת</translation>
+    </message>
+    <message>
+        <source>%1 has these keys. Free them there, or choose others in %2.</source>
+        <translation>המקשים האלה תפוסים על ידי %1. אפשר לשחרר אותם שם או לבחור אחרים ב־%2.</translation>
+    </message>
+    <message>
+        <source>Switched off in %1.</source>
+        <translation>כבוי ב־%1.</translation>
+    </message>
+    <message>
+        <source>New Note</source>
+        <translation>פתק חדש</translation>
+    </message>
+    <message>
+        <source>New Note (%1, taken)</source>
+        <translation>פתק חדש (%1, תפוס)</translation>
+    </message>
+    <message>
+        <source>New Note (%1)</source>
+        <translation>פתק חדש (%1)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Key(s) Taken by %1…</source>
+        <translation>
+            <numerusform>צירוף %n תפוס על ידי %1…</numerusform>
+            <numerusform>%n צירופים תפוסים על ידי %1…</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Key(s) Taken…</source>
+        <translation>
+            <numerusform>צירוף אחד תפוס…</numerusform>
+            <numerusform>%n צירופים תפוסים…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Another program has these keys. Free them there, or choose others in %1.</source>
+        <translation>המקשים האלה תפוסים על ידי תוכנית אחרת. אפשר לשחרר אותם שם או לבחור אחרים ב־%1.</translation>
     </message>
 </context>
 <context>
@@ -734,6 +795,10 @@ runs.</source>
         <source>Exit status: 0 done, 1 failed (standard error says why), 2 wrong use.</source>
         <translation>ערך חזרה: 0 בוצע, 1 נכשל (פלט השגיאה אומר מדוע), 2 שימוש שגוי.</translation>
     </message>
+    <message>
+        <source>print the keys that work everywhere, and whether they do</source>
+        <translation>הדפסת המקשים שפועלים בכל מקום, והאם הם פועלים</translation>
+    </message>
 </context>
 <context>
     <name>vesk::GuideTopics</name>
@@ -808,6 +873,14 @@ runs.</source>
     <message>
         <source>Move between notes. Return opens one, ⌘↩ pastes it into the app you came from, ⌘⌫ deletes it, ⌘F searches.</source>
         <translation>מעבר בין פתקים. Enter פותח פתק, ⌘↩ מדביק אותו ביישום הקודם, ⌘⌫ מוחק אותו, ⌘F מחפש.</translation>
+    </message>
+    <message>
+        <source>Write follow-up prompts in the Prompts tab. Copy or paste them into the chat and tick them off.</source>
+        <translation>כותבים הנחיות המשך בלשונית ההנחיות. מעתיקים או מדביקים אותן בשיחה ומסמנים שבוצעו.</translation>
+    </message>
+    <message>
+        <source>Select text and press %1 to save it as a prompt, or write follow-up prompts in the Prompts tab. Copy or paste them into the chat and tick them off.</source>
+        <translation>מסמנים טקסט ולוחצים על %1 כדי לשמור אותו כהנחיה, או כותבים הנחיות המשך בלשונית ההנחיות. מעתיקים או מדביקים אותן בשיחה ומסמנים שבוצעו.</translation>
     </message>
 </context>
 <context>
@@ -906,6 +979,69 @@ runs.</source>
     <message>
         <source>%1 is the combination of “%2”.</source>
         <translation>‏%1 הוא הצירוף של &quot;%2&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::KeysReport</name>
+    <message>
+        <source>works</source>
+        <translation>פועל</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>כבוי</translation>
+    </message>
+    <message>
+        <source>needs access</source>
+        <translation>דורש גישה</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>לא ידוע</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 או %2</translation>
+    </message>
+    <message>
+        <source>taken by another program</source>
+        <translation>תפוס על ידי תוכנית אחרת</translation>
+    </message>
+    <message>
+        <source>taken by %1</source>
+        <translation>תפוס על ידי %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ללא</translation>
+    </message>
+    <message>
+        <source>save the selected text; with nothing selected, write a quick note</source>
+        <translation>שמירת הטקסט המסומן; כשאין סימון, כתיבת פתק מהיר</translation>
+    </message>
+    <message>
+        <source>add the selected text to the note changed last</source>
+        <translation>הוספת הטקסט המסומן לפתק ששונה אחרון</translation>
+    </message>
+    <message>
+        <source>open or hide Vesk</source>
+        <translation>פתיחה או הסתרה של Vesk</translation>
+    </message>
+    <message>
+        <source>open Vesk to write a new note</source>
+        <translation>פתיחת Vesk לכתיבת פתק חדש</translation>
+    </message>
+    <message>
+        <source>make a checklist of the selected lines, or write one</source>
+        <translation>יצירת רשימה מהשורות המסומנות, או כתיבת רשימה</translation>
+    </message>
+    <message>
+        <source>add the selected lines to the checklist changed last</source>
+        <translation>הוספת השורות המסומנות לרשימה ששונתה אחרונה</translation>
+    </message>
+    <message>
+        <source>save the selected text as a prompt</source>
+        <translation>שמירת הטקסט המסומן כהנחיה</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,7 @@ void ControlsTest::openMenu(qreal x, qreal y)
                 MenuEntry { text: "Off"; isEnabled: false; onTriggered: page.chosen += "off " }
                 MenuEntry { text: "First (⌘F)"; onTriggered: page.chosen += "first " }
                 MenuEntry { }
+                MenuEntry { text: "Third"; isVisible: false; onTriggered: page.chosen += "hidden " }
                 MenuEntry { text: "Second"; onTriggered: page.chosen += "second " }
                 MenuEntry { text: "Fourth"; onTriggered: page.chosen += "fourth " }
             }

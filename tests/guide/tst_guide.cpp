@@ -2,14 +2,16 @@
 #include "../components/memorydesktop.h"
 #include "guide/guide.h"
 #include "guide/guidetopics.h"
-#include "input/hotkeytable.h"
+#include "input/globalkeys.h"
 #include "input/keynames.h"
+#include "platform/memory/memorykeyboard.h"
 
 #include <QAbstractItemModelTester>
 #include <QAccessible>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
@@ -22,8 +24,10 @@ namespace {
 /// The guide in a window of its own, over the platform in memory.
 struct Stage : MemoryDesktop
 {
-    explicit Stage(bool isTrusted, int height = 600)
+    explicit Stage(bool isTrusted, int height = 600, const GlobalKeys *keys = nullptr)
     {
+        if (keys)
+            lendKeys(engine, *keys);
         accessibility.setTrusted(isTrusted);
         guide.show();
         view.setResizeMode(QQuickView::SizeRootObjectToView);
@@ -87,6 +91,7 @@ public:
 
 private Q_SLOTS:
     static void showsTheKeysThatAreRegistered();
+    static void showsTheUsersKeys();
     static void showsNothingThatIsFalseHere();
     static void comesByItselfUntilDismissed();
     static void isDismissed_data();
@@ -108,25 +113,55 @@ void GuideTest::showsTheKeysThatAreRegistered()
         {u"Make a checklist"_s, kChecklist.combination},
         {u"Add to your checklist"_s, kAddToChecklist.combination},
     };
-    const GuideTopics topics;
-    const QAbstractItemModelTester tester(const_cast<GuideTopics *>(&topics));
+    CommandKeys keys(nullptr);
+    GuideTopics topics;
+    const QAbstractItemModelTester tester(&topics);
+    topics.setCommandKeys(&keys);
     qsizetype checked = 0;
     for (int row = 0; row < topics.rowCount(); ++row) {
         const QModelIndex index = topics.index(row);
         const QString title = index.data(GuideTopics::TitleRole).toString();
         if (!registered.contains(title))
             continue;
-        const QStringList keys = index.data(GuideTopics::KeysRole).toStringList();
-        QCOMPARE(keys, keynames::glyphs(registered.value(title), nullptr));
+        QCOMPARE(index.data(GuideTopics::KeysRole).toStringList(),
+                 keynames::glyphs(registered.value(title), nullptr));
         QCOMPARE(index.data(GuideTopics::PlaceRole).toInt(), int(KeyLabels::Global));
         ++checked;
     }
     QCOMPARE(checked, registered.size());
 }
 
+void GuideTest::showsTheUsersKeys()
+{
+    using hotkeytable::kAppend;
+    QTemporaryDir folder;
+    QFile file(folder.filePath(u"Keys.conf"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("toggle=Super+Ctrl+Home\nwrite=none\nsave-prompt=Super+P\n");
+    file.close();
+    MemoryHotKeys hotKeys;
+    hotKeys.setTaken(kAppend.combination);
+    hotKeys.setHolders({u"openbox"_s, u"other"_s});
+    GlobalKeys keys(hotKeys, file.fileName());
+    keys.start();
+    Stage stage(true, 600, &keys);
+    const QString all = heard(stage.view);
+    for (const QString &part :
+         {u"Open Vesk anywhere, Ctrl, Super, Home"_s, u"Write a new note, Switched off in "_s,
+          u"Select text and press Super+P to save it"_s,
+          u"Add to your last note, Alt, Shift, Super, N, openbox or other has these keys. Free them there"_s})
+        QVERIFY2(all.contains(part), qPrintable(all));
+    hotKeys.setFree(kAppend.combination);
+    keys.retry();
+    const QString free = heard(stage.view);
+    QVERIFY2(free.contains(u"Add to your last note, Alt, Shift, Super, N | "_s), qPrintable(free));
+}
+
 void GuideTest::showsNothingThatIsFalseHere()
 {
-    const GuideTopics topics;
+    CommandKeys keys(nullptr);
+    GuideTopics topics;
+    topics.setCommandKeys(&keys);
     for (int row = 0; row < topics.rowCount(); ++row) {
         const QString all = topics.index(row).data(GuideTopics::SpokenRole).toString() + u' '
                             + topics.index(row).data(GuideTopics::TextRole).toString();
