@@ -33,6 +33,8 @@ Flow {
         Text {
             id: label
 
+            width: Math.min(implicitWidth, root.width - 13 - Theme.smallSpace)
+            wrapMode: Text.Wrap
             textFormat: Text.PlainText
             text: root.isTrusted ? qsTr("Accessibility access allowed") : qsTr("Needs Accessibility access")
             font: Theme.fonts.small

@@ -63,6 +63,8 @@ Item {
             spacing: Theme.space
 
             Text {
+                width: Math.min(implicitWidth, parent.width)
+                wrapMode: Text.Wrap
                 height: caps.visible ? Math.max(implicitHeight, caps.height) : implicitHeight
                 verticalAlignment: Text.AlignVCenter
                 textFormat: Text.PlainText
