@@ -344,7 +344,7 @@
     </message>
     <message>
         <source>There is a copy of your notes, made on %1: “%2”. To go on with it, run this command in a terminal and start Vesk again. It keeps the damaged file in the folder “damaged” beside it.</source>
-        <translation>יש עותק של הפתקים, שנוצר בתאריך %1: &quot;%2&quot;. כדי להמשיך איתו, יש להריץ את הפקודה הזו במסוף ולהפעיל את Vesk מחדש. היא שומרת את הקובץ הפגום בתיקייה &quot;damaged&quot; שלידו.</translation>
+        <translation>יש עותק של הפתקים, שנוצר בתאריך %1: &quot;⁦%2⁩&quot;. כדי להמשיך איתו, יש להריץ את הפקודה הזו במסוף ולהפעיל את Vesk מחדש. היא שומרת את הקובץ הפגום בתיקייה &quot;damaged&quot; שלידו.</translation>
     </message>
 </context>
 <context>
@@ -642,11 +642,11 @@ Applications that are open already may have to be started again before Vesk can 
     </message>
     <message>
         <source>%1 has these keys. Free them there, or choose others in %2.</source>
-        <translation>המקשים האלה תפוסים על ידי %1. אפשר לשחרר אותם שם או לבחור אחרים ב־%2.</translation>
+        <translation>המקשים האלה תפוסים על ידי %1. אפשר לשחרר אותם שם או לבחור אחרים ב־⁦%2⁩.</translation>
     </message>
     <message>
         <source>Switched off in %1.</source>
-        <translation>כבוי ב־%1.</translation>
+        <translation>כבוי ב־⁦%1⁩.</translation>
     </message>
     <message>
         <source>New Note</source>
@@ -1238,7 +1238,7 @@ runs.</source>
     </message>
     <message>
         <source>is missing or empty, but its journal “%1” is not</source>
-        <translation>חסר או ריק, אך היומן שלו &quot;%1&quot; אינו כזה</translation>
+        <translation>חסר או ריק, אך היומן שלו &quot;⁦%1⁩&quot; אינו כזה</translation>
     </message>
     <message>
         <source>is a database of another program</source>
@@ -1274,7 +1274,7 @@ runs.</source>
     </message>
     <message>
         <source>The file “%1” %2.</source>
-        <translation>הקובץ &quot;%1&quot; %2.</translation>
+        <translation>הקובץ &quot;⁦%1⁩&quot; %2.</translation>
     </message>
 </context>
 <context>
