@@ -7,11 +7,9 @@
 
 #include <optional>
 
-namespace vesk {
-
 /// How keys and combinations are called where the user writes and reads them. `keyboard` tells what is
 /// printed on the user's keys; where it is null or cannot tell, the keyboard is an ANSI one.
-namespace keynames {
+namespace vesk::keynames {
 
 /// The key with this name, as "Space", or with this one character. None if there is no such key.
 [[nodiscard]] std::optional<KeyPosition> findKey(QStringView name, const HotKeys *keyboard);
@@ -23,5 +21,4 @@ namespace keynames {
 /// Key by key in the notation of Vesk's texts: glyphs and the letters that are printed on the keys.
 [[nodiscard]] QStringList glyphs(KeyCombination combination, const HotKeys *keyboard);
 
-} // namespace keynames
-} // namespace vesk
+} // namespace vesk::keynames
