@@ -80,8 +80,8 @@ StoreError Database::load(const StoreFile &file, OpenResult &result)
         if (schema::applicationId(m_connection) != schema::kApplicationId)
             return file.damaged();
         // Damage that reading meets by itself is found below; this finds it in the indexes, too, where
-        // it would make every later save fail.
-        if (m_connection.execAndGet("PRAGMA quick_check(1)").getString() != "ok")
+        // it would make later saves fail, or write a note a second time.
+        if (m_connection.execAndGet("PRAGMA integrity_check(1)").getString() != "ok")
             return file.damaged();
         schema::migrate(m_connection);
         m_notes = std::make_unique<NoteTable>(m_connection);

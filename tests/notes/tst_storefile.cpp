@@ -258,6 +258,25 @@ void TestStoreFile::refuses_data()
                 .getInt64();
         overwritePage(fixture, root);
     });
+    row("a note missing in the index", u"is damaged"_s, [=](const StoreFixture &fixture) {
+        const std::string root =
+            fixture.outsider()
+                .execAndGet("SELECT rootpage FROM sqlite_schema WHERE name = 'sqlite_autoindex_Note_1'")
+                .getString();
+        // A note that comes in while SQLite does not know of the index.
+        execute(fixture, "PRAGMA writable_schema = ON;"
+                         "UPDATE sqlite_schema SET sql = replace(sql, 'PRIMARY KEY', '') WHERE name = 'Note';"
+                         "DELETE FROM sqlite_schema WHERE name = 'sqlite_autoindex_Note_1'");
+        execute(fixture, "INSERT INTO Note SELECT '6f9619ff-8b86-d011-b42d-00c04fc964ff', text, createdAt,"
+                         "updatedAt, isPinned, NULL, NULL, NULL, NULL FROM Note WHERE rowid = 1");
+        execute(fixture, ("PRAGMA writable_schema = ON; INSERT INTO sqlite_schema VALUES"
+                          "('index', 'sqlite_autoindex_Note_1', 'Note', "
+                          + root
+                          + ", NULL);"
+                            "UPDATE sqlite_schema SET sql = replace(sql, 'id TEXT NOT NULL ',"
+                            "'id TEXT NOT NULL PRIMARY KEY') WHERE name = 'Note'")
+                             .c_str());
+    });
     row("a table missing", u"is damaged"_s,
         [=](const StoreFixture &fixture) { execute(fixture, "DROP TABLE Prompt"); });
     row("a column missing", u"is damaged"_s,
