@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The keys of the main group; later groups are the entry's actions.
-QHash<QString, QString> readMainGroup(QFile &file)
+QHash<QString, QString> readMainGroup(QIODevice &file)
 {
     QHash<QString, QString> keys;
     bool isInGroup = false;
@@ -55,8 +55,11 @@ bool isTrue(const QHash<QString, QString> &keys, const QString &key)
 std::optional<DesktopEntry> DesktopEntry::read(const QString &path, const QString &id)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
+    return file.open(QIODevice::ReadOnly) ? read(file, id) : std::nullopt;
+}
+
+std::optional<DesktopEntry> DesktopEntry::read(QIODevice &file, const QString &id)
+{
     const QHash<QString, QString> keys = readMainGroup(file);
     if (keys.value(u"Type"_s) != "Application"_L1 || isTrue(keys, u"Hidden"_s))
         return std::nullopt;

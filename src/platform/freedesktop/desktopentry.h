@@ -6,6 +6,8 @@
 
 #include <optional>
 
+class QIODevice;
+
 namespace vesk {
 
 /// What Vesk needs of one desktop entry: the file by which an application is installed.
@@ -29,6 +31,8 @@ struct DesktopEntry
     /// Reads a desktop-entry file. None if it cannot be read, is no application, or is deleted by the
     /// user (`Hidden`).
     [[nodiscard]] static std::optional<DesktopEntry> read(const QString &path, const QString &id);
+    /// The same from what is open already.
+    [[nodiscard]] static std::optional<DesktopEntry> read(QIODevice &file, const QString &id);
 
     /// The command line in words, without field codes; empty if it is malformed.
     [[nodiscard]] QStringList command() const;

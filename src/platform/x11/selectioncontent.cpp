@@ -2,6 +2,7 @@
 #include "platform/x11/selectioncontent.h"
 
 #include "platform/accessibility.h"
+#include "platform/x11/selectionbytes.h"
 #include "platform/x11/selectiontransfer.h"
 #include "platform/x11/x11connection.h"
 
@@ -9,7 +10,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 namespace vesk::selectioncontent {
 
@@ -23,14 +23,14 @@ constexpr const char *kSecretHint = "x-kde-passwordManagerHint";
 struct TextTarget
 {
     const char *name;
-    bool isUtf8;
+    selectionbytes::Encoding encoding;
 };
 
 /// The forms in which text is taken, best first.
 constexpr std::array kTextTargets{
-    TextTarget{.name = "UTF8_STRING", .isUtf8 = true},
-    TextTarget{.name = "text/plain;charset=utf-8", .isUtf8 = true},
-    TextTarget{.name = "STRING", .isUtf8 = false},
+    TextTarget{.name = "UTF8_STRING", .encoding = selectionbytes::Encoding::Utf8},
+    TextTarget{.name = "text/plain;charset=utf-8", .encoding = selectionbytes::Encoding::Utf8},
+    TextTarget{.name = "STRING", .encoding = selectionbytes::Encoding::Latin1},
 };
 
 /// Targets that are no content. Some of them are commands: converting DELETE deletes. TEXT is whichever
@@ -39,13 +39,6 @@ constexpr std::array kProtocolTargets{
     "TARGETS", "TIMESTAMP",        "MULTIPLE",        "SAVE_TARGETS",
     "DELETE",  "INSERT_SELECTION", "INSERT_PROPERTY", "TEXT",
 };
-
-QList<xcb_atom_t> atomsIn(const QByteArray &bytes)
-{
-    QList<xcb_atom_t> atoms(bytes.size() / qsizetype{sizeof(xcb_atom_t)});
-    std::memcpy(atoms.data(), bytes.constData(), static_cast<size_t>(atoms.size()) * sizeof(xcb_atom_t));
-    return atoms;
-}
 
 /// The targets that the owner lists; none if it does not answer, or declares its content secret.
 QCoro::Task<QList<xcb_atom_t>> readTargets(QPointer<X11Connection> connection, xcb_atom_t selection)
@@ -56,7 +49,7 @@ QCoro::Task<QList<xcb_atom_t>> readTargets(QPointer<X11Connection> connection, x
         co_await SelectionTransfer::read(*connection, selection, list, kSmall);
     if (connection.isNull() || data.outcome != Outcome::Complete)
         co_return QList<xcb_atom_t>();
-    QList<xcb_atom_t> targets = atomsIn(data.bytes);
+    QList<xcb_atom_t> targets = selectionbytes::atoms(data.bytes);
     // Only owners that list the hint are asked for it: some answer every target with their text.
     if (targets.contains(hint)) {
         const SelectionTransfer::Data value =
@@ -92,7 +85,7 @@ QCoro::Task<std::optional<QString>> text(X11Connection &connection, xcb_atom_t s
         co_await SelectionTransfer::read(connection, selection, target, kMaximumTextBytes);
     if (data.outcome != Outcome::Complete)
         co_return std::nullopt;
-    co_return best->isUtf8 ? QString::fromUtf8(data.bytes) : QString::fromLatin1(data.bytes);
+    co_return selectionbytes::text(data.bytes, best->encoding);
 }
 
 QCoro::Task<PasteboardItem> representations(X11Connection &connection, xcb_atom_t selection)

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/selectionbytes.h"
+
+#include <cstring>
+
+namespace vesk::selectionbytes {
+
+QString text(const QByteArray &bytes, Encoding encoding)
+{
+    return encoding == Encoding::Utf8 ? QString::fromUtf8(bytes) : QString::fromLatin1(bytes);
+}
+
+QList<xcb_atom_t> atoms(const QByteArray &bytes)
+{
+    QList<xcb_atom_t> atoms(bytes.size() / qsizetype{sizeof(xcb_atom_t)});
+    if (!atoms.isEmpty())
+        std::memcpy(atoms.data(), bytes.constData(), static_cast<size_t>(atoms.size()) * sizeof(xcb_atom_t));
+    return atoms;
+}
+
+} // namespace vesk::selectionbytes
