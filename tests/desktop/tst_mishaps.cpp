@@ -2,7 +2,12 @@
 #include "desktop/texteditor.h"
 #include "desktop/vesktest.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
+
 #include <csignal>
+#include <random>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace vesk;
@@ -16,6 +21,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void killedAtTheNoticeLosesNothing();
+    void killedAtAnyMomentLosesNothing();
     void endedWhileTypingLosesNothing_data();
     void endedWhileTypingLosesNothing();
     void keyUpBeforeItsPressIsHeardFiresAgain();
@@ -25,6 +31,10 @@ private:
 
     /// Copies all of the text that has the keyboard, until it is this one.
     [[nodiscard]] bool copyUntil(const QString &text);
+
+    /// Has one note after another kept until Vesk is gone, which is after `life`. Returns those that were
+    /// confirmed; `last` is the one that was not.
+    [[nodiscard]] QStringList addUntilKilled(std::chrono::microseconds life, int &number, QString &last);
 
     QStringList m_lines;
     std::unique_ptr<TextEditor> m_editor;
@@ -62,6 +72,58 @@ bool TestMishaps::copyUntil(const QString &text)
         m_desktop->keyboard().tap({XK_Control_L, XK_c});
         return m_desktop->display().readSelection("CLIPBOARD", kFinger) == text;
     });
+}
+
+QStringList TestMishaps::addUntilKilled(std::chrono::microseconds life, int &number, QString &last)
+{
+    const QString name = u"mishaps%1"_s.arg(number);
+    QStringList confirmed;
+    {
+        QDBusConnection bus = QDBusConnection::connectToBus(m_desktop->busAddress(), name);
+        // Not from this thread, which waits for the answers.
+        std::thread killer([life, process = pid_t(m_vesk->pid())] {
+            std::this_thread::sleep_for(life);
+            ::kill(process, SIGKILL);
+        });
+        while (true) {
+            last = u"Note %1"_s.arg(++number);
+            QDBusMessage call = QDBusMessage::createMethodCall(u"org.vesk.Vesk"_s, u"/org/vesk/Vesk"_s,
+                                                               u"org.vesk.Vesk"_s, u"AddNote"_s);
+            call.setAutoStartService(false);
+            call.setArguments({last});
+            if (bus.call(call).type() != QDBusMessage::ReplyMessage)
+                break;
+            confirmed.append(last);
+        }
+        killer.join();
+    }
+    QDBusConnection::disconnectFromBus(name);
+    return confirmed;
+}
+
+void TestMishaps::killedAtAnyMomentLosesNothing()
+{
+    std::mt19937 random(20'261'125);
+    QStringList kept;
+    int confirmedCount = 0;
+    int number = 0;
+    for (int round = 0; round < rounds(); ++round) {
+        QVERIFY(startVesk());
+        QString last;
+        const QStringList confirmed =
+            addUntilKilled(std::chrono::microseconds(random() % 300'000), number, last);
+        QVERIFY(m_vesk->waitForExit(kBound));
+        confirmedCount += int(confirmed.size());
+        kept += confirmed;
+        const QStringList found = m_desktop->notes().texts();
+        // The one that was under way may be there or not, whole.
+        if (found.size() == kept.size() + 1)
+            kept.append(last);
+        QCOMPARE(found, kept);
+        QCOMPARE(m_desktop->notes().integrity(), u"ok"_s);
+    }
+    QVERIFY(confirmedCount > 0);
+    qInfo("%d notes confirmed, %d kills.", confirmedCount, rounds());
 }
 
 void TestMishaps::killedAtTheNoticeLosesNothing()
