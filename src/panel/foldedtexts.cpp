@@ -18,12 +18,17 @@ bool FoldedTexts::contains(const Note &note, const QByteArray &query)
     return query.isEmpty() || find(note).contains(query);
 }
 
-const QByteArray &FoldedTexts::find(const Note &note)
+std::optional<bool> FoldedTexts::contains(const RecordId &id, const QByteArray &query) const
 {
-    const auto [found, isNew] = m_texts.try_emplace(note.id());
-    QByteArray &folded = found->second;
-    if (isNew) {
-        folded = searchtext::folded(note.text());
+    const auto found = m_texts.constFind(id);
+    return found == m_texts.constEnd() ? std::nullopt : std::optional(found->contains(query));
+}
+
+QByteArray &FoldedTexts::find(const Note &note)
+{
+    QByteArray &folded = m_texts[note.id()];
+    if (folded.isNull()) {
+        folded = searchtext::folded(note.utf8Text());
         if (const std::optional<QString> &source = note.sourceApp())
             folded += kBetween + searchtext::folded(*source);
     }

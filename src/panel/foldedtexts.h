@@ -4,8 +4,9 @@
 #include "notes/record.h"
 
 #include <QByteArray>
+#include <QHash>
 
-#include <unordered_map>
+#include <optional>
 
 namespace vesk {
 
@@ -19,17 +20,20 @@ public:
     /// Whether a note's text or the name of its source contains a query that was folded by
     /// `searchtext::folded`.
     [[nodiscard]] bool contains(const Note &note, const QByteArray &query);
+    /// The same for a note that was folded before; none if it was not.
+    [[nodiscard]] std::optional<bool> contains(const RecordId &id, const QByteArray &query) const;
     /// Folds a note ahead of the first search.
     void prepare(const Note &note) { find(note); }
 
-    void forget(const RecordId &id) { m_texts.erase(id); }
+    void forget(const RecordId &id) { m_texts.remove(id); }
     /// Gives all memory back.
     void forgetAll() { m_texts = {}; }
 
 private:
-    const QByteArray &find(const Note &note);
+    QByteArray &find(const Note &note);
 
-    std::unordered_map<RecordId, QByteArray, RecordIdHash> m_texts;
+    /// A search looks each note up, in no order that a cache knows: a table without nodes saves it a wait.
+    QHash<RecordId, QByteArray> m_texts;
 };
 
 } // namespace vesk

@@ -168,9 +168,22 @@ int NoteListModel::noteCount() const
 
 bool NoteListModel::matches(const Note &note)
 {
-    if (m_scope == Scope::Checklists && !m_checklists.contains(note.id()))
+    return isInScope(note.id()) && m_folded.contains(note, m_foldedQuery);
+}
+
+bool NoteListModel::matches(const RecordId &id)
+{
+    if (!isInScope(id))
         return false;
-    return m_folded.contains(note, m_foldedQuery);
+    if (const std::optional<bool> known = m_folded.contains(id, m_foldedQuery))
+        return *known;
+    const Note *note = m_store.findNote(id);
+    return note && m_folded.contains(*note, m_foldedQuery);
+}
+
+bool NoteListModel::isInScope(const RecordId &id) const
+{
+    return m_scope == Scope::AllNotes || m_checklists.contains(id);
 }
 
 size_t NoteListModel::sectionOf(const Note &note) const
@@ -207,8 +220,7 @@ NoteListModel::Grouped NoteListModel::narrowed()
     Grouped wanted(kSectionCount);
     for (size_t i = 0; i < kSectionCount; ++i) {
         for (const Entry &entry : sections().section(i).entries) {
-            const Note *note = m_store.findNote(entry.id);
-            if (note && matches(*note))
+            if (matches(entry.id))
                 wanted.at(i).push_back(entry);
         }
     }

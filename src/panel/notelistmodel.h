@@ -87,6 +87,9 @@ private:
     static QCoro::Task<> refreshWhileShown(QPointer<NoteListModel> self, Clock *clock, quint64 show);
 
     [[nodiscard]] bool matches(const Note &note);
+    /// Without looking the note up, if its text was folded before.
+    [[nodiscard]] bool matches(const RecordId &id);
+    [[nodiscard]] bool isInScope(const RecordId &id) const;
     [[nodiscard]] size_t sectionOf(const Note &note) const;
     [[nodiscard]] Entry entryOf(const Note &note) const;
     [[nodiscard]] Grouped grouped();

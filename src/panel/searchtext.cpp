@@ -7,6 +7,21 @@
 
 namespace vesk::searchtext {
 
+namespace {
+
+/// Turkish and Azerbaijani pair the dotted and the dotless i; everywhere else the common folding holds.
+bool hasDottedPairs(const QLocale &locale)
+{
+    return locale.language() == QLocale::Turkish || locale.language() == QLocale::Azerbaijani;
+}
+
+bool isAscii(const QByteArray &utf8)
+{
+    return std::ranges::all_of(utf8, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+} // namespace
+
 QString query(const QString &typed)
 {
     const auto isSpace = [](QChar c) { return c == u'\t' || c.category() == QChar::Separator_Space; };
@@ -17,11 +32,17 @@ QString query(const QString &typed)
 
 QByteArray folded(const QString &text)
 {
-    // These languages pair the dotted and the dotless i; everywhere else the common folding holds.
     const QLocale locale;
-    const bool isDotted = locale.language() == QLocale::Turkish || locale.language() == QLocale::Azerbaijani;
-    const QString lower = isDotted ? locale.toLower(text) : text.toCaseFolded();
+    const QString lower = hasDottedPairs(locale) ? locale.toLower(text) : text.toCaseFolded();
     return lower.normalized(QString::NormalizationForm_C).toUtf8();
+}
+
+QByteArray folded(const QByteArray &utf8)
+{
+    // The first search of many notes waits for this, and most texts are nothing but ASCII.
+    if (isAscii(utf8) && !hasDottedPairs(QLocale()))
+        return utf8.toLower();
+    return folded(QString::fromUtf8(utf8));
 }
 
 } // namespace vesk::searchtext

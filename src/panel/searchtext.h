@@ -13,5 +13,7 @@ namespace vesk::searchtext {
 /// A text in the form in which one contains another exactly if a search finds it: UTF-8, case aside
 /// by the rules of the user's language, each accented letter in its one form. Accents count.
 [[nodiscard]] QByteArray folded(const QString &text);
+/// The same of a text in UTF-8.
+[[nodiscard]] QByteArray folded(const QByteArray &utf8);
 
 } // namespace vesk::searchtext
