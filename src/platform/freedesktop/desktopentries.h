@@ -27,7 +27,7 @@ struct WindowIdentity
 class DesktopEntries final
 {
 public:
-    /// Looks in `` and ``, the user's folder first.
+    /// Looks in `applications` below `$XDG_DATA_HOME` and `$XDG_DATA_DIRS`, the user’s folder first.
     DesktopEntries();
     /// Looks in these folders of desktop files, the first before the others.
     explicit DesktopEntries(QStringList folders);
