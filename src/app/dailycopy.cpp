@@ -6,6 +6,7 @@
 #include <csignal>
 #include <sys/prctl.h>
 #include <unistd.h>
+#include <utility>
 
 namespace vesk {
 
@@ -19,9 +20,9 @@ constexpr auto kPause = 10min;
 
 } // namespace
 
-DailyCopy::DailyCopy(const QString &store, const QString &program, Clock &clock)
+DailyCopy::DailyCopy(const QString &store, QString program, Clock &clock)
     : m_copy(store)
-    , m_program(program)
+    , m_program(std::move(program))
 {
     m_process.setStandardInputFile(QProcess::nullDevice());
     m_process.setStandardOutputFile(QProcess::nullDevice());

@@ -24,7 +24,7 @@ public:
     static constexpr auto kWord = "copy-store";
 
     /// `program` makes the copy; usually the one that runs. Looks for the first time after some minutes.
-    DailyCopy(const QString &store, const QString &program, Clock &clock);
+    DailyCopy(const QString &store, QString program, Clock &clock);
 
 private:
     void makeIfDue(Date now);

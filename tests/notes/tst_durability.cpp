@@ -52,6 +52,8 @@ private:
     /// Plays with the faults, and looks at what is there after the crash.
     void play(unsigned seed, const FaultyDisk::Plan &plan, FaultyDisk::Loss loss, qint64 &steps);
 
+    /// Outlives every connection to it.
+    std::unique_ptr<FaultyDisk> m_disk;
     std::unique_ptr<StoreFixture> m_fixture;
     /// What the file may hold after a crash: what was confirmed last, and what was tried since.
     QList<Contents> m_possible;
@@ -141,10 +143,13 @@ void TestDurability::play(unsigned seed)
 
 void TestDurability::play(unsigned seed, const FaultyDisk::Plan &plan, FaultyDisk::Loss loss, qint64 &steps)
 {
+    m_fixture.reset();
+    m_disk.reset();
+    m_disk = std::make_unique<FaultyDisk>();
     m_fixture = std::make_unique<StoreFixture>();
     m_possible = {Contents()};
     std::mt19937 random(seed);
-    FaultyDisk disk;
+    FaultyDisk &disk = *m_disk;
     disk.follow(plan);
     play(seed);
     steps = disk.steps();
