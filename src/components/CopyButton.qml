@@ -23,7 +23,7 @@ SymbolButton {
     Timer {
         id: moment
 
-        interval: Theme.feedbackDuration
+        interval: Theme.motion.feedback
     }
 
     Spring {
@@ -33,6 +33,6 @@ SymbolButton {
         property: "scale"
         from: 0.7
         to: 1
-        duration: Theme.pressDuration
+        duration: Theme.motion.press
     }
 }

@@ -5,6 +5,6 @@ import Vesk.Components
 
 // The short ease-out of hover and focus.
 ColorAnimation {
-    duration: Theme.easeDuration
+    duration: Theme.motion.ease
     easing.type: Easing.OutQuad
 }

@@ -30,7 +30,7 @@ Rectangle {
 
     Behavior on opacity {
         NumberAnimation {
-            duration: Theme.allowsMotion ? Theme.easeDuration : 0
+            duration: Theme.motion.ease
         }
     }
 

@@ -16,7 +16,7 @@ Item {
     Timer {
         id: patience
 
-        interval: Theme.helpDelay
+        interval: Theme.motion.helpDelay
         running: root.isWanted && root.text.length > 0
         onTriggered: bubble.setSource("HelpBubble.qml", {
                 "target": root,

@@ -31,7 +31,7 @@ Item {
 
     Behavior on scale {
         Spring {
-            duration: Theme.pressDuration
+            duration: Theme.motion.press
         }
     }
 

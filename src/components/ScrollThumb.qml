@@ -85,7 +85,7 @@ Item {
 
         Behavior on opacity {
             NumberAnimation {
-                duration: Theme.easeDuration
+                duration: Theme.motion.ease
                 easing.type: Easing.OutQuad
             }
         }

@@ -5,7 +5,7 @@ import Vesk.Components
 
 // The spring of every animated change; none where the user wants no motion.
 NumberAnimation {
-    duration: Theme.springDuration
+    duration: Theme.motion.spring
     easing.type: Easing.BezierSpline
-    easing.bezierCurve: Theme.springCurve
+    easing.bezierCurve: Theme.motion.springCurve
 }

@@ -55,7 +55,7 @@ void Theme::update()
     m_colors = {.isDark = appearance.colorScheme() == Appearance::ColorScheme::Dark,
                 .hasHighContrast = appearance.shouldIncreaseContrast(),
                 .accent = appearance.accentColor()};
-    m_allowsMotion = !appearance.shouldReduceMotion();
+    m_motion.setAllowed(!appearance.shouldReduceMotion());
     m_fonts.setTextFont(appearance.textFont());
     m_palette = palette(m_colors);
     if (const auto flashTime = appearance.cursorFlashTime())
@@ -147,23 +147,6 @@ QColor Theme::matchFill() const
 QColor Theme::opaqueEdge() const
 {
     return over(strongEdge(), m_palette.background);
-}
-
-int Theme::springDuration() const
-{
-    return m_allowsMotion ? 500 : 0;
-}
-
-int Theme::pressDuration() const
-{
-    return m_allowsMotion ? 360 : 0;
-}
-
-QVariantList Theme::springCurve()
-{
-    // Follows 1 - (1 + wt) * exp(-wt) with w = 2 pi / 0.35 s over the spring's duration, in which it
-    // comes to rest.
-    return {0.33, 0.684, 0.127, 1, 1, 1};
 }
 
 } // namespace vesk

@@ -3,6 +3,7 @@
 
 #include "components/palette.h"
 #include "components/themefonts.h"
+#include "components/thememotion.h"
 
 #include <QObject>
 #include <QQmlEngine>
@@ -57,6 +58,7 @@ class Theme final : public QObject
     Q_PROPERTY(QColor opaqueEdge READ opaqueEdge NOTIFY changed)
 
     Q_PROPERTY(vesk::ThemeFonts *fonts READ fonts CONSTANT)
+    Q_PROPERTY(vesk::ThemeMotion *motion READ motion CONSTANT)
 
     Q_PROPERTY(qreal tightSpace MEMBER kTightSpace CONSTANT)
     Q_PROPERTY(qreal smallSpace MEMBER kSmallSpace CONSTANT)
@@ -65,20 +67,6 @@ class Theme final : public QObject
     Q_PROPERTY(qreal margin MEMBER kMargin CONSTANT)
     Q_PROPERTY(qreal plateRadius MEMBER kPlateRadius CONSTANT)
     Q_PROPERTY(qreal cardRadius MEMBER kCardRadius CONSTANT)
-
-    /// False if the user wants no animation; then the durations of motion are 0.
-    Q_PROPERTY(bool allowsMotion READ allowsMotion NOTIFY changed)
-    /// The spring of every animated change: critically damped, response 0.35 s. In milliseconds.
-    Q_PROPERTY(int springDuration READ springDuration NOTIFY changed)
-    /// The same for a button under the finger: response 0.25 s.
-    Q_PROPERTY(int pressDuration READ pressDuration NOTIFY changed)
-    Q_PROPERTY(QVariantList springCurve READ springCurve CONSTANT)
-    /// How long a control says that it has done what it was asked for. In milliseconds.
-    Q_PROPERTY(int feedbackDuration READ feedbackDuration CONSTANT)
-    /// How long the pointer rests on a control until its help comes up. In milliseconds.
-    Q_PROPERTY(int helpDelay READ helpDelay CONSTANT)
-    /// The ease-out of focus and hover. In milliseconds.
-    Q_PROPERTY(int easeDuration READ easeDuration CONSTANT)
 
 public:
     static Theme *create(QQmlEngine *engine, QJSEngine *scriptEngine);
@@ -112,14 +100,7 @@ public:
     [[nodiscard]] QColor opaqueEdge() const;
 
     [[nodiscard]] ThemeFonts *fonts() { return &m_fonts; }
-
-    [[nodiscard]] bool allowsMotion() const { return m_allowsMotion; }
-    [[nodiscard]] int springDuration() const;
-    [[nodiscard]] int pressDuration() const;
-    [[nodiscard]] static QVariantList springCurve();
-    [[nodiscard]] static int feedbackDuration() { return 1200; }
-    [[nodiscard]] static int helpDelay() { return 600; }
-    [[nodiscard]] static int easeDuration() { return 140; }
+    [[nodiscard]] ThemeMotion *motion() { return &m_motion; }
 
 Q_SIGNALS:
     void changed();
@@ -144,7 +125,7 @@ private:
     Surroundings &m_surroundings;
     ColorChoice m_colors;
     ThemeFonts m_fonts{this};
-    bool m_allowsMotion = true;
+    ThemeMotion m_motion{this};
     Palette m_palette;
 };
 

@@ -15,7 +15,7 @@ FocusScope {
     required property SectionedListModel rows
     required property string name
     property alias delegate: list.delegate
-    readonly property bool isAnimated: Theme.allowsMotion && !root.rows.isSweeping
+    readonly property bool isAnimated: Theme.motion.isAllowed && !root.rows.isSweeping
 
     // Selects the row of a card, or none, and brings it into view.
     function select(cardId: string) {
@@ -139,12 +139,12 @@ FocusScope {
             Spring {
                 property: "opacity"
                 to: 0
-                duration: Theme.pressDuration
+                duration: Theme.motion.press
             }
             Spring {
                 property: "scale"
                 to: 0.97
-                duration: Theme.pressDuration
+                duration: Theme.motion.press
             }
         }
         move: shift

@@ -31,7 +31,7 @@ Rectangle {
 
     Behavior on opacity {
         NumberAnimation {
-            duration: Theme.easeDuration
+            duration: Theme.motion.ease
             easing.type: Easing.OutQuad
         }
     }

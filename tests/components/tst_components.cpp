@@ -100,7 +100,7 @@ void ComponentsTest::themeFollowsTheDesktop()
     MemoryDesktop desktop;
     MemoryAppearance &appearance = desktop.appearance;
     Theme *theme = Theme::create(&desktop.engine, &desktop.engine);
-    QVERIFY(theme->springDuration() > 0);
+    QVERIFY(theme->motion()->spring() > 0);
     const QColor lightGround = theme->background();
 
     QSignalSpy changed(theme, &Theme::changed);
@@ -108,8 +108,9 @@ void ComponentsTest::themeFollowsTheDesktop()
     appearance.setReduceMotion(true);
     QCOMPARE(changed.size(), 2);
     QVERIFY(theme->background().lightnessF() < lightGround.lightnessF());
-    QCOMPARE(theme->springDuration(), 0);
-    QCOMPARE(theme->pressDuration(), 0);
+    QCOMPARE(theme->motion()->spring(), 0);
+    QCOMPARE(theme->motion()->press(), 0);
+    QCOMPARE(theme->motion()->ease(), 0);
 
     appearance.setAccentColor(QColor(0x00, 0x80, 0x40));
     QCOMPARE(theme->accent().hslHue(), QColor(0x00, 0x80, 0x40).hslHue());

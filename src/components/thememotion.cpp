@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "components/thememotion.h"
+
+namespace vesk {
+
+ThemeMotion::ThemeMotion(QObject *parent)
+    : QObject(parent)
+{
+}
+
+void ThemeMotion::setAllowed(bool isAllowed)
+{
+    if (isAllowed == m_isAllowed)
+        return;
+    m_isAllowed = isAllowed;
+    Q_EMIT changed();
+}
+
+QVariantList ThemeMotion::springCurve()
+{
+    // Follows 1 - (1 + wt) * exp(-wt) with w = 2 pi / 0.35 s over the spring's duration, in which it
+    // comes to rest.
+    return {0.33, 0.684, 0.127, 1, 1, 1};
+}
+
+} // namespace vesk

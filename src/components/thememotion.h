@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QVariantList>
+
+namespace vesk {
+
+/// How long things move, and how, as the user wants motion. All durations are in milliseconds. Owned by
+/// the theme.
+class ThemeMotion final : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of the theme.")
+
+    /// False if the user wants no animation; then whatever moves takes 0.
+    Q_PROPERTY(bool isAllowed READ isAllowed NOTIFY changed)
+    /// The spring of every animated change: critically damped, response 0.35 s.
+    Q_PROPERTY(int spring READ spring NOTIFY changed)
+    /// The same for a button under the finger: response 0.25 s.
+    Q_PROPERTY(int press READ press NOTIFY changed)
+    Q_PROPERTY(QVariantList springCurve READ springCurve CONSTANT)
+    /// The ease-out of focus and hover.
+    Q_PROPERTY(int ease READ ease NOTIFY changed)
+    /// How long a control says that it has done what it was asked for.
+    Q_PROPERTY(int feedback READ feedback CONSTANT)
+    /// How long the pointer rests on a control until its help comes up.
+    Q_PROPERTY(int helpDelay READ helpDelay CONSTANT)
+
+public:
+    explicit ThemeMotion(QObject *parent);
+
+    void setAllowed(bool isAllowed);
+
+    [[nodiscard]] bool isAllowed() const { return m_isAllowed; }
+    [[nodiscard]] int spring() const { return m_isAllowed ? 500 : 0; }
+    [[nodiscard]] int press() const { return m_isAllowed ? 360 : 0; }
+    [[nodiscard]] static QVariantList springCurve();
+    [[nodiscard]] int ease() const { return m_isAllowed ? 140 : 0; }
+    [[nodiscard]] static int feedback() { return 1200; }
+    [[nodiscard]] static int helpDelay() { return 600; }
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    bool m_isAllowed = true;
+};
+
+} // namespace vesk
