@@ -6,6 +6,9 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include <cstdio>
+#include <cstdlib>
+
 using namespace Qt::StringLiterals;
 
 int main(int argc, char *argv[])
@@ -23,5 +26,9 @@ int main(int argc, char *argv[])
         return kWrongUse;
     }
     const QString app = QCoreApplication::applicationDirPath() + u'/' + QStringLiteral(VESK_APP_FROM_BIN);
-    return vesk::Client(QDir::cleanPath(app)).run(*parsed.command);
+    const int status = vesk::Client(QDir::cleanPath(app)).run(*parsed.command);
+    // Without the destructors of what is static: Qt's thread for the bus may still be at a message, the
+    // types of which are gone by then, and would complain of it on the terminal.
+    std::fflush(nullptr);
+    std::_Exit(status);
 }
