@@ -5,6 +5,7 @@
 
 #include <csignal>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 #include <utility>
 
@@ -30,7 +31,7 @@ DailyCopy::DailyCopy(const QString &store, QString program, Clock &clock)
     m_process.setChildProcessModifier([] {
         // Whatever else the machine does comes first.
         constexpr int kNice = 19;
-        static_cast<void>(::nice(kNice));
+        ::setpriority(PRIO_PROCESS, 0, kNice);
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     });
     keep(this, &clock);
