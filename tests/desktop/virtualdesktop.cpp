@@ -127,6 +127,12 @@ bool VirtualDesktop::startServer()
 
 bool VirtualDesktop::startBus()
 {
+    // The portal for documents mounts a file system in the home folder, which would stay behind when the
+    // desktop ends. Nothing here needs it.
+    if (writeFile(u"data/dbus-1/services/org.freedesktop.portal.Documents.service"_s,
+                  u"[D-BUS Service]\nName=org.freedesktop.portal.Documents\nExec=/bin/false\n"_s)
+            .isEmpty())
+        return false;
     if (m_lacks.accessibilityBus) {
         m_bareBus = BusDaemon::start();
         m_busAddress = m_bareBus ? m_bareBus->address() : QString();
