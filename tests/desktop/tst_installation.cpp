@@ -19,6 +19,7 @@ private Q_SLOTS:
     void initTestCase();
     void sessionStartsItInTheBackground();
     void menuShowsIt();
+    void busStartsIt();
     void iconsAreThere();
 
 private:
@@ -73,6 +74,19 @@ void TestInstallation::menuShowsIt()
     const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
     QVERIFY2(panel, qPrintable(vesk->errorOutput()));
     QCOMPARE(panel->pid, vesk->pid());
+}
+
+void TestInstallation::busStartsIt()
+{
+    QFile service(placed(QStringLiteral(VESK_DATADIR "/dbus-1/services/org.vesk.Vesk.service")));
+    QVERIFY(service.open(QIODevice::ReadOnly));
+    // Only the place is another one than that for which it was made.
+    const QString text =
+        QString::fromUtf8(service.readAll()).replace(u"Exec="_s, u"Exec="_s + m_folder.path());
+    QVERIFY(!m_desktop->writeFile(u"data/dbus-1/services/org.vesk.Vesk.service"_s, text).isEmpty());
+    QVERIFY(runToEnd(u"dbus-send"_s, {u"--session"_s, u"--print-reply"_s, u"--dest=org.vesk.Vesk"_s,
+                                      u"/org/vesk/Vesk"_s, u"org.vesk.Vesk.Write"_s}));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
 }
 
 void TestInstallation::iconsAreThere()
