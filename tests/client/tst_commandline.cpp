@@ -3,9 +3,11 @@
 #include "client/keyslist.h"
 #include "client/noteslist.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -22,6 +24,8 @@ private Q_SLOTS:
     void understands();
     void refuses_data();
     void refuses();
+    void isToldEverywhere_data();
+    void isToldEverywhere();
     void listsNewestFirst();
     void tellsOfKeys();
 };
@@ -98,6 +102,37 @@ void TestCommandLine::refuses()
     const ParsedCommandLine parsed = parseCommandLine(words);
     QVERIFY(!parsed.command);
     QVERIFY2(parsed.error.contains(named), qPrintable(parsed.error));
+}
+
+void TestCommandLine::isToldEverywhere_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char *file :
+         {"vesk.1.in", "completions/vesk.bash", "completions/_vesk", "completions/vesk.fish"})
+        QTest::newRow(file) << QString::fromLatin1(file);
+}
+
+/// The commands and options of the help stand in the manual page and in the completions too.
+void TestCommandLine::isToldEverywhere()
+{
+    QFETCH(QString, file);
+    QFile packaged(QStringLiteral(VESK_PACKAGING "/") + file);
+    QVERIFY(packaged.open(QIODevice::ReadOnly));
+    QString text = QString::fromUtf8(packaged.readAll());
+    // As they are written in a manual page, and for fish.
+    text.replace(u"\\-"_s, u"-"_s).replace(u"-l "_s, u"--"_s);
+
+    static const QRegularExpression kCall(u"^  \\S.*?  "_s, QRegularExpression::MultilineOption);
+    static const QRegularExpression kWord(u"(--)?\\b[a-z][a-z-]+\\b"_s);
+    int found = 0;
+    for (auto call = kCall.globalMatch(commandLineHelp()); call.hasNext();) {
+        for (auto word = kWord.globalMatch(call.next().captured()); word.hasNext(); ++found) {
+            const QString name = word.next().captured();
+            const QRegularExpression whole(u"(?<![\\w-])%1(?![\\w-])"_s.arg(name));
+            QVERIFY2(text.contains(whole), qPrintable(name));
+        }
+    }
+    QVERIFY(found > 20);
 }
 
 void TestCommandLine::listsNewestFirst()
