@@ -31,6 +31,18 @@ constexpr std::array kEntries{
     Entry{.glyph = u"\u2191", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Up")},
     Entry{.glyph = u"\u2193", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Down")},
     Entry{.glyph = u"esc", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Esc")},
+    // These have no glyph, and go by the names that Keys.conf has for them.
+    Entry{.glyph = u"Print", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Print")},
+    Entry{.glyph = u"Home", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Home")},
+    Entry{.glyph = u"End", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "End")},
+    Entry{.glyph = u"PageUp", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "PageUp")},
+    Entry{.glyph = u"PageDown", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "PageDown")},
+    Entry{.glyph = u"Left", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Left")},
+    Entry{.glyph = u"Right", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Right")},
+    Entry{.glyph = u"Insert", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Insert")},
+    Entry{.glyph = u"Delete", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Delete")},
+    Entry{.glyph = u"Pause", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Pause")},
+    Entry{.glyph = u"Menu", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Menu")},
 };
 
 /// None for what is no glyph of a key.

@@ -6,7 +6,8 @@
 
 namespace vesk {
 
-/// What is printed on this desktop's keyboards for the key glyphs that Vesk's texts are written in.
+/// What is printed on this desktop's keyboards for the key glyphs that Vesk's texts are written in,
+/// and for the keys that have a name instead.
 class KeyLabels : public QObject
 {
     Q_OBJECT
@@ -22,7 +23,7 @@ public:
     };
     Q_ENUM(Place)
 
-    /// The label of one key; whatever is no glyph of a key is its own label.
+    /// The label of one key; whatever is neither is its own label.
     [[nodiscard]] Q_INVOKABLE static QString label(const QString &glyph, vesk::KeyLabels::Place place);
     /// A text with its combinations, as in "Delete (⌘⌫)", spelt in labels: "Delete (Ctrl+Backspace)".
     [[nodiscard]] Q_INVOKABLE static QString spelt(const QString &text, vesk::KeyLabels::Place place);

@@ -929,6 +929,50 @@ runs.</source>
         <source>Esc</source>
         <translation>Esc</translation>
     </message>
+    <message>
+        <source>Print</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>PageUp</source>
+        <translation>PageUp</translation>
+    </message>
+    <message>
+        <source>PageDown</source>
+        <translation>PageDown</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>←</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>→</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Insert</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>תפריט</translation>
+    </message>
 </context>
 <context>
     <name>vesk::KeySettings</name>

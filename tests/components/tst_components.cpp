@@ -5,6 +5,7 @@
 #include "components/palette.h"
 #include "components/symboltable.h"
 #include "components/theme.h"
+#include "input/keynames.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -12,9 +13,26 @@
 #include <QStyleHints>
 #include <QSvgRenderer>
 #include <QTest>
+#include <QTranslator>
 
 using namespace Qt::StringLiterals;
 using namespace vesk;
+
+namespace {
+
+/// A language in which every word ends differently.
+class OtherLanguage : public QTranslator
+{
+public:
+    [[nodiscard]] QString translate(const char * /*context*/, const char *source, const char * /*remark*/,
+                                    int /*number*/) const override
+    {
+        return QString::fromLatin1(source) + u"ix"_s;
+    }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+};
+
+} // namespace
 
 class ComponentsTest : public QObject
 {
@@ -23,6 +41,7 @@ class ComponentsTest : public QObject
 private Q_SLOTS:
     void combinationsInTextsAreSpelt_data();
     void combinationsInTextsAreSpelt();
+    void everyKeyWithANameIsTranslated();
     void everyAccentCanBeRead_data();
     void everyAccentCanBeRead();
     void everySymbolHasAPicture();
@@ -50,6 +69,26 @@ void ComponentsTest::combinationsInTextsAreSpelt()
     QFETCH(QString, text);
     QTEST(KeyLabels::spelt(text, KeyLabels::Global), "global");
     QTEST(KeyLabels::spelt(text, KeyLabels::Window), "window");
+}
+
+/// Keyboards have other words on them in other countries.
+void ComponentsTest::everyKeyWithANameIsTranslated()
+{
+    OtherLanguage language;
+    QCoreApplication::installTranslator(&language);
+    int named = 0;
+    for (int position = 1; position < 128; ++position) {
+        const auto key = KeyPosition(position);
+        const QString name = keynames::nameOf(key, nullptr);
+        // Letters, digits and F1 to F12 are the same everywhere.
+        if (name.size() < 2 || (name.startsWith(u'F') && name.at(1).isDigit()))
+            continue;
+        const QString glyph = keynames::glyphs({.key = key, .modifiers = Qt::AltModifier}, nullptr).last();
+        const QString label = KeyLabels::label(glyph, KeyLabels::Global);
+        QVERIFY2(label.endsWith(u"ix"), qPrintable(name));
+        ++named;
+    }
+    QVERIFY(named > 15);
 }
 
 void ComponentsTest::everyAccentCanBeRead_data()
