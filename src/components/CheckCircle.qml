@@ -3,15 +3,15 @@ import QtQuick
 
 import Vesk.Components
 
-// A round check mark of `size` by `size`.
+// A round check mark of `size` by `size`, larger where texts are.
 Item {
     id: root
 
     required property bool isDone
     property real size: 16
 
-    implicitWidth: size
-    implicitHeight: size
+    implicitWidth: Math.round(root.size * Theme.fonts.scale)
+    implicitHeight: root.implicitWidth
 
     Disc {
         anchors.fill: parent
@@ -37,7 +37,7 @@ Item {
         Symbol {
             anchors.centerIn: parent
             name: "checkmark"
-            size: Math.round(0.56 * root.size)
+            size: Math.round(0.56 * root.width)
             color: Theme.onAccent
         }
     }

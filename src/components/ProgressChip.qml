@@ -16,8 +16,8 @@ Row {
 
     Item {
         anchors.verticalCenter: parent.verticalCenter
-        width: 10
-        height: 10
+        width: Math.round(10 * Theme.fonts.scale)
+        height: width
 
         Disc {
             anchors.fill: parent

@@ -22,7 +22,7 @@ PressButton {
         anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         name: "chevron.down"
-        size: 9
+        size: Math.round(9 * Theme.fonts.scale)
         color: Theme.secondary
         rotation: root.isCollapsed ? (Theme.isMirrored ? 90 : -90) : 0
 

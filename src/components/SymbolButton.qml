@@ -13,8 +13,8 @@ PressButton {
     property color hoverColor: Theme.primary
 
     help: root.name
-    implicitWidth: 26
-    implicitHeight: 26
+    implicitWidth: Math.round(26 * Theme.fonts.scale)
+    implicitHeight: root.implicitWidth
     focusRadius: height / 2 + 3
 
     Rectangle {
@@ -28,7 +28,7 @@ PressButton {
     Symbol {
         anchors.centerIn: parent
         name: root.symbol
-        size: root.symbolSize
+        size: Math.round(root.symbolSize * Theme.fonts.scale)
         color: root.hovered ? root.hoverColor : root.color
     }
 }

@@ -46,26 +46,26 @@ QRectF glyphRectangle(const QTextBlock &block)
             line.ascent() + line.descent()};
 }
 
-Box box(const NoteText &text, const QTextBlock &block)
+Box box(const NoteText &text, const QTextBlock &block, qreal size)
 {
     const QRectF glyph = glyphRectangle(block);
     const QStringView line = text.line(block);
     return {.position = block.position(),
-            .square = QRectF(glyph.x() + 1, glyph.y() + (glyph.height() - kSize) / 2, kSize, kSize),
+            .square = QRectF(glyph.x() + 1, glyph.y() + (glyph.height() - size) / 2, size, size),
             .isTicked = line.front() == markup::kTicked.front(),
             .label = line.sliced(1).trimmed().toString()};
 }
 
 } // namespace
 
-QList<Box> boxesBetween(const NoteText &text, qreal top, qreal bottom)
+QList<Box> boxesBetween(const NoteText &text, qreal top, qreal bottom, qreal scale)
 {
     QList<Box> boxes;
     for (QTextBlock block = blockAt(text, top); block.isValid(); block = block.next()) {
         if (block.layout()->position().y() > bottom)
             break;
         if (hasBox(text, block))
-            boxes.append(box(text, block));
+            boxes.append(box(text, block, kSize * scale));
     }
     return boxes;
 }

@@ -27,8 +27,9 @@ struct Box
 
 namespace boxgeometry {
 
-/// The boxes of the lines between two heights of the document, in order. The layout has to be done.
-[[nodiscard]] QList<Box> boxesBetween(const NoteText &text, qreal top, qreal bottom);
+/// The boxes of the lines between two heights of the document, in order, as large as texts of this scale
+/// want them. The layout has to be done.
+[[nodiscard]] QList<Box> boxesBetween(const NoteText &text, qreal top, qreal bottom, qreal scale);
 /// Position of the box that a click at this point of the document is meant for.
 [[nodiscard]] std::optional<qsizetype> findBox(const NoteText &text, const QPointF &point);
 

@@ -6,6 +6,13 @@
 
 namespace vesk {
 
+namespace {
+
+/// The side of the square that the mark is designed in.
+constexpr qreal kSide = 17;
+
+} // namespace
+
 BoxMark::BoxMark(QQuickItem *parent)
     : QQuickPaintedItem(parent)
 {
@@ -14,9 +21,10 @@ BoxMark::BoxMark(QQuickItem *parent)
 
 void BoxMark::paint(QPainter *painter)
 {
-    const QRectF square = boundingRect();
+    const QRectF square(0, 0, kSide, kSide);
     const QRectF circle = square.adjusted(0.75, 0.75, -0.75, -0.75);
     painter->setRenderHint(QPainter::Antialiasing);
+    painter->scale(width() / kSide, height() / kSide);
     if (!m_isTicked) {
         painter->setPen(QPen(m_ringColor, 1.4));
         painter->setBrush(Qt::NoBrush);

@@ -20,7 +20,7 @@ void NoteTextLook::apply()
 {
     if (!m_theme)
         return;
-    m_styler->setLook({.scale = m_theme->fonts()->scale(),
+    m_styler->setLook({.scale = scale(),
                        .fontSize = m_fontSize,
                        .titleBoost = m_titleBoost,
                        .titleWeight = m_titleWeight,

@@ -32,6 +32,9 @@ public:
     /// Styles the text from now on. It has to outlive this.
     void start(const NoteText &text, Theme &theme);
 
+    /// How large the user wants texts; 1 before the start.
+    [[nodiscard]] qreal scale() const { return m_theme ? m_theme->fonts()->scale() : 1; }
+
 Q_SIGNALS:
     void changed();
 

@@ -69,7 +69,8 @@ void NoteTextView::updatePolish()
 {
     if (!m_text)
         return;
-    m_boxes.update(boxgeometry::boxesBetween(*m_text, m_visibleTop, m_visibleTop + m_visibleHeight));
+    m_boxes.update(
+        boxgeometry::boxesBetween(*m_text, m_visibleTop, m_visibleTop + m_visibleHeight, m_look.scale()));
     if (!std::exchange(m_isLaidOut, true))
         Q_EMIT laidOut();
 }

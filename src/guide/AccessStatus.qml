@@ -26,7 +26,7 @@ Flow {
         Symbol {
             anchors.verticalCenter: label.verticalCenter
             name: root.isTrusted ? "checkmark.circle.fill" : "hand.raised.fill"
-            size: 13
+            size: Math.round(13 * Theme.fonts.scale)
             color: root.color
         }
 

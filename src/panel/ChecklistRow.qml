@@ -17,7 +17,7 @@ PressButton {
     // The box stands where its line begins, as in the editor.
     LayoutMirroring.enabled: label.isRightToLeft
     LayoutMirroring.childrenInherit: true
-    implicitHeight: Math.max(22, label.implicitHeight + 4)
+    implicitHeight: Math.max(Math.round(22 * Theme.fonts.scale), label.implicitHeight + 4)
     Accessible.role: Accessible.CheckBox
     Accessible.checkable: true
     Accessible.checked: root.isDone

@@ -81,7 +81,7 @@ Plate {
         anchors.leftMargin: Theme.margin
         y: flickable.y + (metrics.height - height) / 2
         name: "plus"
-        size: 16
+        size: Math.round(16 * Theme.fonts.scale)
         color: Theme.accent
     }
 

@@ -106,7 +106,7 @@ Item {
         anchors.margins: Theme.margin
         opacity: root.row.isPinned && !actions.isUp ? 1 - root.openness : 0
         name: "pin.fill"
-        size: 12
+        size: Math.round(12 * Theme.fonts.scale)
         color: Theme.accent
     }
 

@@ -16,7 +16,7 @@ Item {
     required property int done
     required property int total
 
-    implicitHeight: 22
+    implicitHeight: Math.round(22 * Theme.fonts.scale)
 
     Row {
         anchors.left: parent.left

@@ -65,7 +65,7 @@ FocusScope {
         anchors.top: editor.bottom
         anchors.topMargin: Theme.space
         width: parent.width
-        height: 24
+        height: Math.round(24 * Theme.fonts.scale)
 
         SourceButton {
             anchors.left: parent.left

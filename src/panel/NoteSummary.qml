@@ -34,7 +34,7 @@ Column {
     MatchText {
         anchors.left: parent.left
         // Leaves the corner to the pin.
-        width: parent.width - (root.isPinned ? 26 : 0)
+        width: parent.width - (root.isPinned ? 26 * Theme.fonts.scale : 0)
         text: root.title
         query: root.query
         font: Theme.fonts.title
@@ -67,7 +67,7 @@ Column {
 
         Text {
             anchors.left: parent.left
-            anchors.leftMargin: 24
+            anchors.leftMargin: Math.round(16 * Theme.fonts.scale) + Theme.space
             visible: root.furtherItems > 0
             text: qsTr("+ %Ln more", "", root.furtherItems)
             textFormat: Text.PlainText

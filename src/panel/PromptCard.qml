@@ -41,8 +41,8 @@ Item {
         anchors.left: parent.left
         anchors.leftMargin: Theme.margin - 3
         y: 9
-        width: 24
-        height: 24
+        width: Math.round(24 * Theme.fonts.scale)
+        height: width
         focusRadius: height / 2 + 3
         activeFocusOnTab: root.isSelected || activeFocus
         name: root.isDone ? qsTr("Mark as not done") : qsTr("Mark as done")
@@ -80,7 +80,7 @@ Item {
         visible: body.isLong
         activeFocusOnTab: root.isSelected || activeFocus
         implicitWidth: label.implicitWidth + 4 + chevron.width
-        implicitHeight: 22
+        implicitHeight: Math.round(22 * Theme.fonts.scale)
         pressedScale: 0.97
         name: label.text
         onClicked: body.isExpanded = !body.isExpanded
@@ -104,7 +104,7 @@ Item {
             anchors.leftMargin: 4
             anchors.verticalCenter: parent.verticalCenter
             name: "chevron.down"
-            size: 9
+            size: Math.round(9 * Theme.fonts.scale)
             color: label.color
             rotation: body.isExpanded ? 180 : 0
 

@@ -18,7 +18,7 @@ Plate {
         input.forceActiveFocus();
     }
 
-    implicitHeight: 34
+    implicitHeight: Math.round(34 * Theme.fonts.scale)
     radius: height / 2
     border.color: input.activeFocus ? Theme.accent : Theme.edge
 
@@ -60,7 +60,7 @@ Plate {
         anchors.leftMargin: Theme.margin
         anchors.verticalCenter: parent.verticalCenter
         name: "magnifyingglass"
-        size: 13
+        size: Math.round(13 * Theme.fonts.scale)
         color: Theme.secondary
     }
 
@@ -106,8 +106,8 @@ Plate {
         anchors.right: parent.right
         anchors.rightMargin: Theme.wideSpace
         anchors.verticalCenter: parent.verticalCenter
-        width: 18
-        height: 18
+        width: Math.round(18 * Theme.fonts.scale)
+        height: width
         visible: root.model.search.length > 0
         focusRadius: height / 2 + 3
         name: qsTr("Clear Search")
@@ -116,7 +116,7 @@ Plate {
         Symbol {
             anchors.centerIn: parent
             name: "xmark.circle.fill"
-            size: 14
+            size: Math.round(14 * Theme.fonts.scale)
             color: clear.hovered ? Theme.secondary : Theme.tertiary
         }
     }

@@ -15,7 +15,7 @@ PressButton {
     pressedScale: 0.97
     focusRadius: height / 2 + 3
     implicitWidth: Math.min(root.maximumWidth, Math.ceil(name.implicitWidth) + icon.width + 22 + arrow.width + 8)
-    implicitHeight: 24
+    implicitHeight: Math.round(24 * Theme.fonts.scale)
     Accessible.role: Accessible.Link
 
     Rectangle {
@@ -33,7 +33,7 @@ PressButton {
         anchors.leftMargin: 6
         anchors.verticalCenter: parent.verticalCenter
         bundleId: root.bundleId
-        size: 15
+        size: Math.round(15 * Theme.fonts.scale)
         tileColor: Theme.neutralTile
     }
 
@@ -60,7 +60,7 @@ PressButton {
         anchors.rightMargin: 8
         anchors.verticalCenter: parent.verticalCenter
         name: "arrow.up.right"
-        size: 9
+        size: Math.round(9 * Theme.fonts.scale)
         color: Theme.accent
     }
 }

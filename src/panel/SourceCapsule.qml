@@ -12,7 +12,7 @@ Rectangle {
     required property real maximumWidth
 
     implicitWidth: Math.min(root.maximumWidth, icon.width + 10 + label.implicitWidth + Theme.space)
-    implicitHeight: 20
+    implicitHeight: Math.round(20 * Theme.fonts.scale)
     radius: height / 2
     color: Theme.fill
     antialiasing: true
@@ -26,7 +26,7 @@ Rectangle {
         anchors.leftMargin: 5
         anchors.verticalCenter: parent.verticalCenter
         bundleId: root.bundleId
-        size: 13
+        size: Math.round(13 * Theme.fonts.scale)
         tileColor: Theme.neutralTile
     }
 

@@ -14,6 +14,8 @@ Rectangle {
     // Larger texts take what room there is.
     readonly property real tabWidth: Math.min(Math.round(128 * Theme.fonts.scale), Math.floor((root.maximumWidth - 6) / 3))
     property real maximumWidth: 3 * 128 + 6
+    // A long word among large texts is made to fit, and the others like it.
+    readonly property real labelScale: Math.min(notes.fittingScale, checklists.fittingScale, prompts.fittingScale)
 
     implicitWidth: 3 * root.tabWidth + 6
     implicitHeight: thumb.height + 6
@@ -59,6 +61,7 @@ Rectangle {
             id: notes
 
             width: root.tabWidth
+            labelScale: root.labelScale
             model: root.model
             tab: PanelModel.Tab.Notes
             KeyNavigation.right: checklists
@@ -70,6 +73,7 @@ Rectangle {
             id: checklists
 
             width: root.tabWidth
+            labelScale: root.labelScale
             model: root.model
             tab: PanelModel.Tab.Checklists
             KeyNavigation.right: prompts
@@ -81,6 +85,7 @@ Rectangle {
             id: prompts
 
             width: root.tabWidth
+            labelScale: root.labelScale
             model: root.model
             tab: PanelModel.Tab.Prompts
             name: qsTr("Prompts")

@@ -11,6 +11,9 @@ PressButton {
     required property PanelModel model
     required property int tab
     required property int count
+    // How large the label is, 1 for as large as texts are.
+    required property real labelScale
+    readonly property real fittingScale: Math.min(1, (root.width - 12) / Math.max(1, label.implicitWidth))
     readonly property bool isChosen: root.model.tab === root.tab
 
     implicitHeight: Math.round(26 * Theme.fonts.scale)
@@ -23,10 +26,11 @@ PressButton {
     onClicked: root.model.tab = root.tab
 
     Row {
+        id: label
+
         anchors.centerIn: parent
         spacing: 6
-        // A long word among large texts is made to fit.
-        scale: Math.min(1, (root.width - 12) / Math.max(1, implicitWidth))
+        scale: root.labelScale
 
         Text {
             id: title

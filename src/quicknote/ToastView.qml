@@ -26,7 +26,7 @@ Surface {
         anchors.leftMargin: 18
         anchors.verticalCenter: parent.verticalCenter
         name: root.symbol
-        size: 15
+        size: Math.round(15 * Theme.fonts.scale)
         color: Theme.accent
     }
 

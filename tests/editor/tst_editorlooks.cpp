@@ -124,6 +124,9 @@ void EditorLooksTest::boxIsACircleInItsLine()
         QVERIFY(std::abs(box->y() + 8.5 - line.center().y()) <= 2);
         QVERIFY(fixture.rectangleOf(isTicked ? 5 : 2).x() > box->x() + 18);
     }
+    fixture.appearance.setTextFont({.family = {}, .scale = 2});
+    QTRY_COMPARE(fixture.boxes().constFirst()->size(), QSizeF(34, 34));
+    QVERIFY(fixture.rectangleOf(2).x() > fixture.boxes().constFirst()->x() + 34);
 }
 
 void EditorLooksTest::clickTicks_data()
