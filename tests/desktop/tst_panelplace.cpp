@@ -21,6 +21,7 @@ private Q_SLOTS:
     void standsAboveAFullScreenWindow();
     void comesUpOnTheDesktopInUse();
     void isInNoTaskBar();
+    void isCutOnlyWithoutACompositor();
     void goesWhenAnotherApplicationIsUsed();
 
 private:
@@ -214,6 +215,29 @@ void TestPanelPlace::isInNoTaskBar()
         toggle();
         VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
     }
+}
+
+void TestPanelPlace::isCutOnlyWithoutACompositor()
+{
+    DisplayConnection &display = m_desktop->display();
+    const auto compositorIs = [&display](xcb_window_t owner) {
+        xcb_set_selection_owner(display.xcb(), owner, display.atom("_NET_WM_CM_S0"), XCB_CURRENT_TIME);
+        xcb_flush(display.xcb());
+    };
+    const auto isCut = [this] { return panel() && m_desktop->windows().isCut(*panel()); };
+    toggle();
+    VERIFY_ON(*m_desktop, display.waitUntil(kBound, isCut));
+    // One comes and goes while the panel is shown.
+    compositorIs(display.window());
+    VERIFY_ON(*m_desktop, display.waitUntil(kBound, [&] { return panel() && !isCut(); }));
+    compositorIs(XCB_WINDOW_NONE);
+    VERIFY_ON(*m_desktop, display.waitUntil(kBound, isCut));
+    // And comes while it is hidden.
+    toggle();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
+    compositorIs(display.window());
+    toggle();
+    VERIFY_ON(*m_desktop, display.waitUntil(kBound, [&] { return panel() && !isCut(); }));
 }
 
 void TestPanelPlace::goesWhenAnotherApplicationIsUsed()

@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include <cstring>
+#include <xcb/shape.h>
 
 using namespace Qt::StringLiterals;
 
@@ -204,6 +205,14 @@ QList<xcb_window_t> Windows::stack() const
 bool Windows::hasState(const Window &window, const char *state) const
 {
     return numbers(window.id, "_NET_WM_STATE").contains(m_display.atom(state));
+}
+
+bool Windows::isCut(const Window &window) const
+{
+    const auto cookie = xcb_shape_query_extents(m_display.xcb(), window.id);
+    const Reply<xcb_shape_query_extents_reply_t> reply{
+        xcb_shape_query_extents_reply(m_display.xcb(), cookie, nullptr)};
+    return reply && reply->bounding_shaped;
 }
 
 quint32 Windows::rootNumber(const char *property) const

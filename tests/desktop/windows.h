@@ -65,6 +65,9 @@ public:
     /// Whether the window manager says that a window is in this state.
     [[nodiscard]] bool hasState(const Window &window, const char *state) const;
 
+    /// Whether parts of the window are cut away.
+    [[nodiscard]] bool isCut(const Window &window) const;
+
     /// What the window manager says in a number on the root window; 0 if nothing.
     [[nodiscard]] quint32 rootNumber(const char *property) const;
 
