@@ -17,6 +17,8 @@ private Q_SLOTS:
     void docksKeepTheirRoom_data();
     void docksKeepTheirRoom();
     void comesUpOnTheMonitorOfThePointer();
+    void standsInItsCornerAtEveryScale_data();
+    void standsInItsCornerAtEveryScale();
     void unpluggedMonitorGivesThePanelBack();
     void standsAboveAFullScreenWindow();
     void comesUpOnTheDesktopInUse();
@@ -33,8 +35,8 @@ private:
         m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}, kFinger);
     }
     [[nodiscard]] std::optional<Window> panel() const { return m_desktop->windows().findViewable(kPanel); }
-    /// Whether the panel stands in this corner, 10 points in; waits for it.
-    [[nodiscard]] bool waitInCorner(QPoint corner);
+    /// Whether the panel stands in this corner, 10 points of `ratio` pixels in; waits for it.
+    [[nodiscard]] bool waitInCorner(QPoint corner, qreal ratio = 1);
     [[nodiscard]] QString where() const;
     void sendToRoot(const char *message, quint32 value);
 
@@ -56,12 +58,15 @@ void TestPanelPlace::cleanup()
     VeskTest::cleanup();
 }
 
-bool TestPanelPlace::waitInCorner(QPoint corner)
+bool TestPanelPlace::waitInCorner(QPoint corner, qreal ratio)
 {
-    const QPoint wanted = corner - QPoint(10, 10);
     return m_desktop->display().waitUntil(kBound, [&] {
         const std::optional<Window> found = panel();
-        return found && found->geometry.bottomRight() + QPoint(1, 1) == wanted;
+        if (!found)
+            return false;
+        // Half pixels are rounded.
+        const QPoint off = found->geometry.bottomRight() + QPoint(1, 1) + QPoint(10, 10) * ratio - corner;
+        return off.manhattanLength() <= (ratio > 1 ? 2 : 0) && found->geometry.width() == qRound(440 * ratio);
     });
 }
 
@@ -142,6 +147,40 @@ void TestPanelPlace::comesUpOnTheMonitorOfThePointer()
     m_monitors->movePointer(QPoint(100, 400));
     toggle();
     QVERIFY2(waitInCorner(QPoint(700, 900)), qPrintable(where()));
+}
+
+void TestPanelPlace::standsInItsCornerAtEveryScale_data()
+{
+    QTest::addColumn<QString>("factors");
+    QTest::addColumn<qreal>("left");
+    QTest::addColumn<qreal>("right");
+
+    QTest::newRow("1.25") << u"1.25;1.25"_s << 1.25 << 1.25;
+    QTest::newRow("1.5") << u"1.5;1.5"_s << 1.5 << 1.5;
+    QTest::newRow("2") << u"2;2"_s << 2.0 << 2.0;
+    QTest::newRow("1 and 2") << u"1;2"_s << 1.0 << 2.0;
+    QTest::newRow("2 and 1") << u"2;1"_s << 2.0 << 1.0;
+}
+
+void TestPanelPlace::standsInItsCornerAtEveryScale()
+{
+    QFETCH(QString, factors);
+    QFETCH(qreal, left);
+    QFETCH(qreal, right);
+    m_monitors->set({QRect(0, 0, 700, 900), QRect(700, 100, 900, 700)});
+    m_vesk.reset();
+    m_desktop->setVariable(u"QT_SCREEN_SCALE_FACTORS"_s, factors);
+    QVERIFY(startVesk());
+    // To the right, to the left, and to the right again: another scale each time.
+    for (int turn = 0; turn < 3; ++turn) {
+        const bool isRight = turn % 2 == 0;
+        m_monitors->movePointer(isRight ? QPoint(1000, 400) : QPoint(100, 400));
+        toggle();
+        QVERIFY2(waitInCorner(isRight ? QPoint(1600, 800) : QPoint(700, 900), isRight ? right : left),
+                 qPrintable(where()));
+        toggle();
+        VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
+    }
 }
 
 void TestPanelPlace::unpluggedMonitorGivesThePanelBack()
