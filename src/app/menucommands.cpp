@@ -22,7 +22,6 @@ struct Entry
 {
     Command command;
     const char *title;
-    /// Empty for a command whose key works everywhere, and so also in Vesk's windows.
     const char *keys;
     /// What a command of the Format menu puts before a line.
     QStringView marker;
@@ -66,7 +65,7 @@ MenuCommands::MenuCommands(QWindow &panel, NoteEditorController &editor)
     : m_editor(editor)
 {
     for (const Entry &entry : kEntries) {
-        const QKeySequence keys(QString::fromLatin1(entry.keys), QKeySequence::PortableText);
+        const QKeySequence keys = MenuCommands::keys(entry.command);
         if (keys.isEmpty())
             continue;
         // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it.
@@ -80,6 +79,11 @@ MenuCommands::MenuCommands(QWindow &panel, NoteEditorController &editor)
 QString MenuCommands::title(Command command)
 {
     return tr(entryOf(command).title);
+}
+
+QKeySequence MenuCommands::keys(Command command)
+{
+    return {QString::fromLatin1(entryOf(command).keys), QKeySequence::PortableText};
 }
 
 void MenuCommands::perform(Command command)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QKeySequence>
 #include <QObject>
 
 class QWindow;
@@ -34,6 +35,8 @@ public:
 
     /// As the menus show it.
     [[nodiscard]] static QString title(Command command);
+    /// Empty for a command whose key works everywhere, and so also in Vesk's windows.
+    [[nodiscard]] static QKeySequence keys(Command command);
     /// A command of the Format menu is done at once, and does nothing without an open note.
     void perform(Command command);
 

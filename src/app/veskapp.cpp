@@ -115,7 +115,7 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
     offerCommands(desktop, store, service);
     QTimer::singleShot(0, this, [this, &desktop] {
         desktop.workspace.warmUp();
-        offerIcon();
+        m_desktopMenus = std::make_unique<DesktopMenus>(m_panelWindow, m_commands);
     });
 }
 
@@ -166,24 +166,6 @@ void VeskApp::tellOfKeys() const
 {
     for (const QString &problem : m_keys.problems())
         QTextStream(stderr) << "vesk: " << problem << '\n';
-}
-
-void VeskApp::offerIcon()
-{
-    using Command = MenuCommands::Command;
-    const auto entry = [this](Command command) {
-        return DBusMenuEntry{.label = MenuCommands::title(command),
-                             .action = [this, command] { m_commands.perform(command); }};
-    };
-    const StatusIcon::Content content{
-        .activated = [this] { m_panelWindow.togglePanel(); },
-        .menu = {{.label = tr("Open Vesk"), .action = [this] { showPanel(); }},
-                 entry(Command::NewNote),
-                 entry(Command::QuickNote),
-                 entry(Command::QuickChecklist),
-                 {},
-                 {.label = tr("Quit"), .action = [] { QCoreApplication::exit(0); }}}};
-    m_statusIcon = std::make_unique<StatusIcon>(QDBusConnection::sessionBus(), content);
 }
 
 void VeskApp::onAction(const QString &name)

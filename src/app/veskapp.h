@@ -3,6 +3,7 @@
 
 #include "app/accesswindow.h"
 #include "app/appupdater.h"
+#include "app/desktopmenus.h"
 #include "app/memorytrim.h"
 #include "app/menucommands.h"
 #include "capture/pasteback.h"
@@ -12,7 +13,6 @@
 #include "input/globalkeys.h"
 #include "panel/panelmodel.h"
 #include "panel/panelwindow.h"
-#include "platform/freedesktop/statusicon.h"
 #include "quicknote/quicknotepanel.h"
 #include "quicknote/toast.h"
 
@@ -43,8 +43,6 @@ public:
 private:
     /// Lets other processes give the commands that the keys give.
     void offerCommands(Desktop &desktop, NotesStore &store, ApplicationService &service);
-    /// Puts Vesk among the icons of the desktop's panel.
-    void offerIcon();
     /// Says on standard error what is wrong with the user's choice of keys.
     void tellOfKeys() const;
     void onAction(const QString &name);
@@ -68,7 +66,7 @@ private:
     VeskServices m_services;
     MenuCommands m_commands;
     MemoryTrim m_memoryTrim;
-    std::unique_ptr<StatusIcon> m_statusIcon;
+    std::unique_ptr<DesktopMenus> m_desktopMenus;
 };
 
 } // namespace vesk

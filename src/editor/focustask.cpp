@@ -32,6 +32,15 @@ void FocusTask::start()
     check();
 }
 
+bool FocusTask::finish()
+{
+    if (!m_timer.isActive())
+        return false;
+    m_timer.stop();
+    Q_EMIT ended();
+    return true;
+}
+
 void FocusTask::check()
 {
     const QQuickWindow *window = m_item.window();

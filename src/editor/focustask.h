@@ -20,6 +20,8 @@ public:
 
     /// Begins to wait, anew if it waits already.
     void start();
+    /// Ends the wait at once; whether there was one.
+    bool finish();
 
 Q_SIGNALS:
     /// The wait is over, once for each start; the item may still be without a window.

@@ -42,4 +42,9 @@ void NoteEditorController::forceFocus()
         m_textView->forceFocus();
 }
 
+bool NoteEditorController::focusIfAwaited()
+{
+    return m_textView && m_textView->focusIfAwaited();
+}
+
 } // namespace vesk

@@ -28,6 +28,9 @@ public:
     void moveCaretToEnd();
     /// Gives the text the keyboard.
     void forceFocus();
+    /// Gives the text the keyboard now if it waits for it, as it does when it has just come up; whether it
+    /// did.
+    bool focusIfAwaited();
 
 private:
     QPointer<NoteTextView> m_textView;

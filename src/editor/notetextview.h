@@ -61,6 +61,8 @@ public:
     Q_INVOKABLE void forceFocus();
     /// Gives the text the keyboard as soon as its window can have it, or after half a second.
     Q_INVOKABLE void focusWhenShown();
+    /// Gives it the keyboard now if it waits for it; whether it did.
+    bool focusIfAwaited() { return m_focusTask.finish(); }
     /// Puts a text that was dropped where it was dropped.
     Q_INVOKABLE void dropText(const QString &text);
 

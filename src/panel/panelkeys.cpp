@@ -33,6 +33,9 @@ bool PanelKeys::handle(const QKeyEvent &event)
     PanelKeyboard &keyboard = *m_panel.keyboard();
     if (keyboard.isEditing() || keyboard.isComposing() || m_panel.guide()->isShown())
         return false;
+    // Whoever opens a note and types on writes into it.
+    if (m_panel.editor()->focusIfAwaited())
+        return false;
     if (keyboard.isInField() && event.matches(QKeySequence::Paste)) {
         Q_EMIT keyboard.fieldPasteRequested();
         return true;

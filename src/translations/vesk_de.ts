@@ -61,6 +61,25 @@
     </message>
 </context>
 <context>
+    <name>DesktopMenus</name>
+    <message>
+        <source>Open Vesk</source>
+        <translation>Vesk öffnen</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+</context>
+<context>
     <name>EditMenu</name>
     <message>
         <source>Edit</source>
@@ -1342,17 +1361,6 @@ läuft.</translation>
     <message>
         <source>Copied</source>
         <translation>Kopiert</translation>
-    </message>
-</context>
-<context>
-    <name>vesk::VeskApp</name>
-    <message>
-        <source>Open Vesk</source>
-        <translation>Vesk öffnen</translation>
-    </message>
-    <message>
-        <source>Quit</source>
-        <translation>Beenden</translation>
     </message>
 </context>
 <context>

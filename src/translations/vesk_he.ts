@@ -61,6 +61,25 @@
     </message>
 </context>
 <context>
+    <name>DesktopMenus</name>
+    <message>
+        <source>Open Vesk</source>
+        <translation>פתיחת Vesk</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>יציאה</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>קובץ</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>עיצוב</translation>
+    </message>
+</context>
+<context>
     <name>EditMenu</name>
     <message>
         <source>Edit</source>
@@ -1342,17 +1361,6 @@ runs.</source>
     <message>
         <source>Copied</source>
         <translation>הועתק</translation>
-    </message>
-</context>
-<context>
-    <name>vesk::VeskApp</name>
-    <message>
-        <source>Open Vesk</source>
-        <translation>פתיחת Vesk</translation>
-    </message>
-    <message>
-        <source>Quit</source>
-        <translation>יציאה</translation>
     </message>
 </context>
 <context>

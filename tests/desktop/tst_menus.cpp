@@ -2,6 +2,7 @@
 #include "desktop/accessibletree.h"
 #include "desktop/texteditor.h"
 #include "desktop/vesktest.h"
+#include "platform/fakemenuregistrar.h"
 #include "platform/fakestatuswatcher.h"
 
 #include <QDBusConnection>
@@ -17,7 +18,7 @@ const auto kBus = u"vesk-test-menus"_s;
 
 } // namespace
 
-/// The guide, the keys of the menus and the icon of the real program.
+/// The guide, the menus and their keys, and the icon of the real program.
 class MenusTest : public VeskTest
 {
     Q_OBJECT
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void formatsByTheKeyWhateverTheLayout_data();
     void formatsByTheKeyWhateverTheLayout();
     void iconsMenuOpensTheBox();
+    void menuBarFormatsTheOpenNote();
 
 private:
     /// Whether the panel has the keyboard now.
@@ -44,6 +46,14 @@ private:
         return AccessibleTree(m_desktop->busAddress()).names(m_vesk->pid()).contains(name);
     }
     [[nodiscard]] bool isGuideShown() { return tells(u"Welcome to Vesk"_s); }
+    /// Chooses a line of a menu as the desktop does.
+    [[nodiscard]] static bool choose(const QString &service, const QString &path, int line)
+    {
+        QDBusMessage call =
+            QDBusMessage::createMethodCall(service, path, u"com.canonical.dbusmenu"_s, u"Event"_s);
+        call.setArguments({line, u"clicked"_s, QVariant::fromValue(QDBusVariant(0)), 0U});
+        return QDBusConnection(kBus).call(call).type() == QDBusMessage::ReplyMessage;
+    }
     void type(const QList<xcb_keysym_t> &keys) { m_desktop->keyboard().tap(keys, kFinger); }
 };
 
@@ -119,24 +129,39 @@ void MenusTest::formatsByTheKeyWhateverTheLayout()
 void MenusTest::iconsMenuOpensTheBox()
 {
     QVERIFY(m_desktop->prepareUser());
-    QDBusConnection bus = QDBusConnection::connectToBus(m_desktop->busAddress(), kBus);
-    const FakeStatusWatcher place(bus);
+    const FakeStatusWatcher place(QDBusConnection::connectToBus(m_desktop->busAddress(), kBus));
     QVERIFY(startVesk());
     QTRY_COMPARE_WITH_TIMEOUT(place.items().size(), 1, 10000);
     const QString item = place.items().first();
-    const auto choose = [&](int line) {
-        QDBusMessage call = QDBusMessage::createMethodCall(item, u"/StatusNotifierItem/Menu"_s,
-                                                           u"com.canonical.dbusmenu"_s, u"Event"_s);
-        call.setArguments({line, u"clicked"_s, QVariant::fromValue(QDBusVariant(0)), 0U});
-        return bus.call(call).type() == QDBusMessage::ReplyMessage;
-    };
-    QVERIFY(choose(4));
+    const auto path = u"/StatusNotifierItem/Menu"_s;
+    QVERIFY(choose(item, path, 4));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kQuickChecklist, kBound));
-    QVERIFY(choose(1));
+    QVERIFY(choose(item, path, 1));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
-    QVERIFY(choose(6));
+    QVERIFY(choose(item, path, 6));
     QVERIFY(m_vesk->waitForExit(kBound));
     QCOMPARE(m_vesk->exitCode(), 0);
+}
+
+void MenusTest::menuBarFormatsTheOpenNote()
+{
+    QVERIFY(m_desktop->prepareUser());
+    const FakeMenuRegistrar place(QDBusConnection::connectToBus(m_desktop->busAddress(), kBus));
+    QVERIFY(runToEnd(VirtualDesktop::veskProgram(), {u"add"_s, u"milk"_s}));
+    QVERIFY(startVesk());
+    QVERIFY(openPanel());
+    const std::optional<Window> panel = m_desktop->windows().findViewable(kPanel);
+    VERIFY_ON(*m_desktop, panel);
+    QTRY_VERIFY_WITH_TIMEOUT(place.windows().contains(panel->id), 10000);
+    const auto [service, path] = place.windows().value(panel->id);
+    type({XK_Down});
+    type({XK_Return});
+    type({XK_y});
+    VERIFY_ON(*m_desktop, waitNotes({u"milky"_s}));
+    QVERIFY(choose(service, path, 6));
+    VERIFY_ON(*m_desktop, waitNotes({u"\u2610 milky"_s}));
+    QVERIFY(choose(service, path, 3));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kQuickNote, kBound));
 }
 
 int main(int argc, char **argv)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "paneltest.h"
+#include "editor/notetextview.h"
 
 #include <QSignalSpy>
 
@@ -268,9 +269,13 @@ void PanelKeysTest::typingBeginsASearch()
     press(Qt::Key_Escape);
     QCOMPARE(model().keyboard()->activeField(), Field::None);
 
-    // A letter beside the text of an open note must not close it.
+    // Into the note that was opened by the key before.
     press(Qt::Key_Down);
     press(Qt::Key_Return);
+    type(u"y!"_s);
+    QCOMPARE(model().editor()->textView()->text().last(2), u"y!"_s);
+
+    // A letter beside the text of an open note must not close it.
     press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
     QVERIFY(!model().keyboard()->isEditing());
     type(u"x"_s);

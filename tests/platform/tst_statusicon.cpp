@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "fakemenuregistrar.h"
 #include "fakestatuswatcher.h"
 
 #include "desktop/busdaemon.h"
+#include "platform/freedesktop/menubar.h"
 #include "platform/freedesktop/statusicon.h"
 
 #include <QDBusMessage>
@@ -12,7 +14,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
-/// The icon on a bus of its own, as a desktop's panel meets it.
+/// The icon and the menu bar on a bus of their own, as a desktop's panels meet them.
 class StatusIconTest : public QObject
 {
     Q_OBJECT
@@ -26,6 +28,7 @@ private Q_SLOTS:
     void menuIsDrawnByTheDesktop();
     void menuIsChosenFrom();
     void answersWhatItDoesNotKnow();
+    void windowsMenusHaveMenus();
 
 private:
     void makeIcon()
@@ -162,6 +165,36 @@ void StatusIconTest::answersWhatItDoesNotKnow()
     QCOMPARE(askMenu(u"GetProperty"_s, {99, u"label"_s}).type(), QDBusMessage::ReplyMessage);
     QCOMPARE(askMenu(u"AboutToShow"_s, {0}).arguments(), QVariantList{false});
     QVERIFY(m_done.isEmpty());
+}
+
+void StatusIconTest::windowsMenusHaveMenus()
+{
+    const MenuBar bar(QDBusConnection(u"vesk"_s), 77,
+                      {{.label = u"File"_s,
+                        .action = {},
+                        .children = {{.label = u"New"_s,
+                                      .action = [this] { m_done.append(u"new"_s); },
+                                      .keys = QKeySequence(u"Ctrl+Shift+N"_s)}}},
+                       {.label = u"Format"_s, .action = {}}});
+    for (int round = 0; round < 2; ++round) {
+        const FakeMenuRegistrar place(QDBusConnection(u"desktop"_s));
+        QTRY_COMPARE(place.windows().value(77).second, u"/MenuBar"_s);
+    }
+    const auto children = [](const QVariant &line) { return qdbus_cast<DBusMenuLayout>(line).children; };
+    const auto layout = [&children](int id, int depth) {
+        return children(
+            ask(u"/MenuBar"_s, u"com.canonical.dbusmenu"_s, u"GetLayout"_s, {id, depth, QStringList()})
+                .arguments()
+                .value(1));
+    };
+    QCOMPARE(layout(0, -1).size(), 2);
+    QCOMPARE(layout(3, -1).size(), 0);
+    QCOMPARE(children(layout(0, 1).constFirst()).size(), 0);
+    const auto line = qdbus_cast<DBusMenuLayout>(children(layout(0, 2).constFirst()).value(0));
+    QCOMPARE(line.id, 2);
+    QCOMPARE(line.properties.value(u"label"_s).toString(), u"New"_s);
+    QCOMPARE(qdbus_cast<QList<QStringList>>(line.properties.value(u"shortcut"_s)),
+             (QList<QStringList>{{u"Control"_s, u"Shift"_s, u"N"_s}}));
 }
 
 QTEST_GUILESS_MAIN(StatusIconTest)

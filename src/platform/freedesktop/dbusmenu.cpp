@@ -12,6 +12,14 @@ namespace {
 
 constexpr uint kRevision = 1;
 
+/// Combinations in the names of the protocol: one list of keys for each.
+QList<QStringList> shortcuts(const QKeySequence &keys)
+{
+    QStringList names = keys.toString(QKeySequence::PortableText).split(u'+');
+    names.replaceInStrings(u"Ctrl"_s, u"Control"_s);
+    return {names};
+}
+
 } // namespace
 
 QDBusArgument &operator<<(QDBusArgument &argument, const DBusMenuItem &item)
@@ -62,16 +70,25 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuEvent &ev
     return argument;
 }
 
-DBusMenu::DBusMenu(QList<DBusMenuEntry> entries, QObject *parent)
+DBusMenu::DBusMenu(const QList<DBusMenuEntry> &entries, QObject *parent)
     : QDBusAbstractAdaptor(parent)
-    , m_entries(std::move(entries))
 {
+    addLines(entries, 0);
     qDBusRegisterMetaType<DBusMenuItem>();
     qDBusRegisterMetaType<QList<DBusMenuItem>>();
     qDBusRegisterMetaType<DBusMenuLayout>();
     qDBusRegisterMetaType<DBusMenuEvent>();
     qDBusRegisterMetaType<QList<DBusMenuEvent>>();
     qDBusRegisterMetaType<QList<int>>();
+    qDBusRegisterMetaType<QList<QStringList>>();
+}
+
+void DBusMenu::addLines(const QList<DBusMenuEntry> &entries, int parent)
+{
+    for (const DBusMenuEntry &entry : entries) {
+        m_lines.append({.entry = entry, .parent = parent});
+        addLines(entry.children, static_cast<int>(m_lines.size()));
+    }
 }
 
 QString DBusMenu::textDirection()
@@ -82,37 +99,38 @@ QString DBusMenu::textDirection()
 QVariantMap DBusMenu::properties(int id, const QStringList &names) const
 {
     QVariantMap all;
-    if (id == 0) {
+    const DBusMenuEntry entry = id == 0 ? DBusMenuEntry() : m_lines.at(id - 1).entry;
+    if (id == 0 || !entry.children.isEmpty())
         all.insert(u"children-display"_s, u"submenu"_s);
-    } else if (m_entries.at(id - 1).label.isEmpty()) {
+    else if (entry.label.isEmpty())
         all.insert(u"type"_s, u"separator"_s);
-    } else {
-        // In the protocol a single underscore marks the key to choose the line by.
-        all.insert(u"label"_s, QString(m_entries.at(id - 1).label).replace(u'_', u"__"_s));
-    }
+    // In the protocol a single underscore marks the key to choose the line by.
+    if (!entry.label.isEmpty())
+        all.insert(u"label"_s, QString(entry.label).replace(u'_', u"__"_s));
+    if (!entry.keys.isEmpty())
+        all.insert(u"shortcut"_s, QVariant::fromValue(shortcuts(entry.keys)));
     if (names.isEmpty())
         return all;
     all.removeIf([&names](const QVariantMap::iterator &it) { return !names.contains(it.key()); });
     return all;
 }
 
-DBusMenuLayout DBusMenu::layout(int id, const QStringList &names) const
+DBusMenuLayout DBusMenu::layout(int id, int depth, const QStringList &names) const
 {
-    return {.id = id, .properties = properties(id, names), .children = {}};
+    DBusMenuLayout layout{.id = id, .properties = properties(id, names), .children = {}};
+    for (int child = id + 1; depth != 0 && child <= m_lines.size(); ++child) {
+        if (m_lines.at(child - 1).parent == id)
+            layout.children.append(QVariant::fromValue(this->layout(child, depth - 1, names)));
+    }
+    return layout;
 }
 
 uint DBusMenu::GetLayout(int parentId, int recursionDepth, const QStringList &propertyNames,
                          DBusMenuLayout &layout) const
 {
     layout.id = parentId;
-    if (parentId != 0 && !hasEntry(parentId))
-        return kRevision;
-    layout = this->layout(parentId, propertyNames);
-    // Any depth but none reaches the lines.
-    if (parentId == 0 && recursionDepth != 0) {
-        for (int id = 1; id <= m_entries.size(); ++id)
-            layout.children.append(QVariant::fromValue(this->layout(id, propertyNames)));
-    }
+    if (parentId == 0 || hasLine(parentId))
+        layout = this->layout(parentId, recursionDepth, propertyNames);
     return kRevision;
 }
 
@@ -121,7 +139,7 @@ QList<DBusMenuItem> DBusMenu::GetGroupProperties(const QList<int> &ids,
 {
     QList<DBusMenuItem> items;
     // No identifiers ask for all items.
-    for (int id = 0; id <= m_entries.size(); ++id) {
+    for (int id = 0; id <= m_lines.size(); ++id) {
         if (ids.isEmpty() || ids.contains(id))
             items.append({.id = id, .properties = properties(id, propertyNames)});
     }
@@ -130,7 +148,7 @@ QList<DBusMenuItem> DBusMenu::GetGroupProperties(const QList<int> &ids,
 
 QDBusVariant DBusMenu::GetProperty(int id, const QString &name) const
 {
-    const QVariantMap all = id == 0 || hasEntry(id) ? properties(id, {}) : QVariantMap();
+    const QVariantMap all = id == 0 || hasLine(id) ? properties(id, {}) : QVariantMap();
     // What is not set has no type that could be sent; an empty text is what it would be shown as.
     return QDBusVariant(all.value(name, QString()));
 }
@@ -139,17 +157,17 @@ void DBusMenu::Event(int id, const QString &eventId, const QDBusVariant &data, u
 {
     Q_UNUSED(data);
     Q_UNUSED(timestamp);
-    if (eventId != "clicked"_L1 || !hasEntry(id) || !m_entries.at(id - 1).action)
+    if (eventId != "clicked"_L1 || !hasLine(id) || !m_lines.at(id - 1).entry.action)
         return;
     // The desktop waits for the answer with its menu open.
-    QMetaObject::invokeMethod(this, m_entries.at(id - 1).action, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, m_lines.at(id - 1).entry.action, Qt::QueuedConnection);
 }
 
 QList<int> DBusMenu::EventGroup(const QList<DBusMenuEvent> &events)
 {
     QList<int> unknown;
     for (const DBusMenuEvent &event : events) {
-        if (event.id == 0 || hasEntry(event.id))
+        if (event.id == 0 || hasLine(event.id))
             Event(event.id, event.name, event.data, event.timestamp);
         else
             unknown.append(event.id);

@@ -4,6 +4,7 @@
 #include <QDBusAbstractAdaptor>
 #include <QDBusArgument>
 #include <QDBusVariant>
+#include <QKeySequence>
 #include <QStringList>
 #include <QVariantMap>
 
@@ -11,11 +12,15 @@
 
 namespace vesk {
 
-/// One line of a menu that the desktop shows: something to do, or, without a label, a dividing line.
+/// One line of a menu that the desktop shows: something to do, a menu of its own, or, without a label, a
+/// dividing line.
 struct DBusMenuEntry
 {
     QString label;
     std::function<void()> action;
+    /// Shown beside the label. Whoever owns the menu listens to them.
+    QKeySequence keys = {};
+    QList<DBusMenuEntry> children = {};
 };
 
 // The structures of the protocol.
@@ -50,8 +55,8 @@ QDBusArgument &operator<<(QDBusArgument &argument, const DBusMenuEvent &event);
 const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuEvent &event);
 
 /// A menu for a desktop that draws it itself and asks for its lines by the bus: com.canonical.dbusmenu,
-/// flat and never changing. Owned by the object under whose path it is called. The lines are numbered
-/// from 1; the menu itself is 0.
+/// never changing. Owned by the object under whose path it is called. The lines are numbered from 1, each
+/// before its children; the menu itself is 0.
 class DBusMenu final : public QDBusAbstractAdaptor
 {
     Q_OBJECT
@@ -62,7 +67,7 @@ class DBusMenu final : public QDBusAbstractAdaptor
     Q_PROPERTY(QStringList IconThemePath READ iconThemePath CONSTANT)
 
 public:
-    DBusMenu(QList<DBusMenuEntry> entries, QObject *parent);
+    DBusMenu(const QList<DBusMenuEntry> &entries, QObject *parent);
 
     [[nodiscard]] static uint version() { return 3; }
     [[nodiscard]] static QString status() { return QStringLiteral("normal"); }
@@ -85,12 +90,20 @@ Q_SIGNALS:
     void LayoutUpdated(uint revision, int parent);
 
 private:
-    [[nodiscard]] bool hasEntry(int id) const { return id >= 1 && id <= m_entries.size(); }
+    struct Line
+    {
+        DBusMenuEntry entry;
+        int parent = 0;
+    };
+
+    void addLines(const QList<DBusMenuEntry> &entries, int parent);
+    [[nodiscard]] bool hasLine(int id) const { return id >= 1 && id <= m_lines.size(); }
     /// Only those named; all if none is.
     [[nodiscard]] QVariantMap properties(int id, const QStringList &names) const;
-    [[nodiscard]] DBusMenuLayout layout(int id, const QStringList &names) const;
+    /// With the lines below, as deep as `depth` says; all of them if it is negative.
+    [[nodiscard]] DBusMenuLayout layout(int id, int depth, const QStringList &names) const;
 
-    QList<DBusMenuEntry> m_entries;
+    QList<Line> m_lines;
 };
 
 } // namespace vesk

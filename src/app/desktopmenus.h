@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/menucommands.h"
+#include "platform/freedesktop/menubar.h"
+#include "platform/freedesktop/statusicon.h"
+
+#include <QCoreApplication>
+
+namespace vesk {
+
+class PanelWindow;
+
+/// The menus that the desktop draws where it has a place for them: that of Vesk's icon, and the menu bar of
+/// the panel.
+class DesktopMenus final
+{
+    Q_DECLARE_TR_FUNCTIONS(DesktopMenus)
+
+public:
+    /// Both have to outlive it.
+    DesktopMenus(PanelWindow &panel, MenuCommands &commands);
+
+private:
+    StatusIcon m_icon;
+    MenuBar m_bar;
+};
+
+} // namespace vesk
