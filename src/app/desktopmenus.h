@@ -15,7 +15,7 @@ class PanelWindow;
 /// the panel.
 class DesktopMenus final
 {
-    Q_DECLARE_TR_FUNCTIONS(DesktopMenus)
+    Q_DECLARE_TR_FUNCTIONS(vesk::DesktopMenus)
 
 public:
     /// Both have to outlive it.

@@ -61,25 +61,6 @@
     </message>
 </context>
 <context>
-    <name>DesktopMenus</name>
-    <message>
-        <source>Open Vesk</source>
-        <translation>Vesk öffnen</translation>
-    </message>
-    <message>
-        <source>Quit</source>
-        <translation>Beenden</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Datei</translation>
-    </message>
-    <message>
-        <source>Format</source>
-        <translation>Format</translation>
-    </message>
-</context>
-<context>
     <name>EditMenu</name>
     <message>
         <source>Edit</source>
@@ -817,6 +798,25 @@ läuft.</translation>
     <message>
         <source>print the keys that work everywhere, and whether they do</source>
         <translation>die überall wirkenden Tasten ausgeben, und ob sie wirken</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::DesktopMenus</name>
+    <message>
+        <source>Open Vesk</source>
+        <translation>Vesk öffnen</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
     </message>
 </context>
 <context>

@@ -61,25 +61,6 @@
     </message>
 </context>
 <context>
-    <name>DesktopMenus</name>
-    <message>
-        <source>Open Vesk</source>
-        <translation>פתיחת Vesk</translation>
-    </message>
-    <message>
-        <source>Quit</source>
-        <translation>יציאה</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>קובץ</translation>
-    </message>
-    <message>
-        <source>Format</source>
-        <translation>עיצוב</translation>
-    </message>
-</context>
-<context>
     <name>EditMenu</name>
     <message>
         <source>Edit</source>
@@ -817,6 +798,25 @@ runs.</source>
     <message>
         <source>print the keys that work everywhere, and whether they do</source>
         <translation>הדפסת המקשים שפועלים בכל מקום, והאם הם פועלים</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::DesktopMenus</name>
+    <message>
+        <source>Open Vesk</source>
+        <translation>פתיחת Vesk</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>יציאה</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>קובץ</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>עיצוב</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "paneltest.h"
 #include "editor/notetextview.h"
+#include "paneltest.h"
 
 #include <QSignalSpy>
 
