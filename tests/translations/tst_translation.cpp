@@ -170,7 +170,7 @@ void TranslationTest::firstLanguageThatThereIsIsTaken()
     QFETCH(QLocale::Language, taken);
     const Translation translation(languages);
     QCOMPARE(translation.language().language(), taken);
-    const QString quit = QCoreApplication::translate("vesk::VeskApp", "Quit");
+    const QString quit = QCoreApplication::translate("vesk::DesktopMenus", "Quit");
     QCOMPARE(quit == u"Quit", taken == QLocale::English);
 }
 
