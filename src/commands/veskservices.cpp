@@ -7,6 +7,7 @@
 #include "panel/panelmodel.h"
 #include "panel/panelwindow.h"
 #include "platform/accessibility.h"
+#include "platform/eventtap.h"
 #include "platform/sounds.h"
 #include "platform/workspace.h"
 #include "quicknote/notice.h"
@@ -61,7 +62,12 @@ void VeskServices::start()
 {
     connect(&m_needs.keys, &GlobalKeys::pressed, this, &VeskServices::perform);
     connect(&m_needs.keys, &GlobalKeys::changed, this, &VeskServices::followTrust);
-    connect(&m_doubleShift, &DoubleShiftMonitor::doubleShift, this, &VeskServices::savePrompt);
+    connect(&m_doubleShift, &DoubleShiftMonitor::doubleShift, this, [this] {
+        // Shift is heard in front of a locked screen too, where nothing is to be read, and the keys of a
+        // copy would go to the lock. The combinations are not heard then.
+        if (!m_needs.tap.isKeyboardTaken())
+            savePrompt();
+    });
     // A combination that another program has leaves its command to the others' ways: the panel can be
     // opened by starting Vesk again.
     m_needs.keys.start();

@@ -28,6 +28,10 @@ public:
     /// Begins to listen; a second call does nothing. False if the platform does not allow it.
     virtual bool start() = 0;
 
+    /// Whether another program keeps all keys for itself now, as a screen lock or an open menu does. They
+    /// are heard nevertheless.
+    [[nodiscard]] virtual bool isKeyboardTaken() const = 0;
+
 Q_SIGNALS:
     /// A key that is not a modifier, or a mouse button, went down; once a press, not again for
     /// auto-repeat. Num Lock and Scroll Lock are such keys.

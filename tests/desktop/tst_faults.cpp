@@ -35,12 +35,13 @@ class TestFaults : public VeskTest
 private Q_SLOTS:
     void init() {} // The functions differ in what their desktops lack.
     void cleanup();
-    void nothingIsBroken();
     void clipboardsOwnerHangs();
     void applicationHangsAndGoesOnLater();
-    void windowClosesAtThePress();
+    void applicationEndsWhileItIsRead_data();
+    void applicationEndsWhileItIsRead();
     void nothingIsInFront();
     void accessibilityBusIsMissing();
+    void screenIsLocked();
     void extensionOfTheServerIsMissing_data();
     void extensionOfTheServerIsMissing();
     void textOutlivesVesk_data();
@@ -150,14 +151,6 @@ void TestFaults::dismissFallback()
     static_cast<void>(m_desktop->display().waitUntil(kBound, [this] { return !veskWindow(); }));
 }
 
-void TestFaults::nothingIsBroken()
-{
-    QCOMPARE(setUp(), QString());
-    VERIFY_ON(*m_desktop, m_editor->deselect());
-    QCOMPARE(capture(), Outcome::Fallback);
-    QCOMPARE(complaint(), QString());
-}
-
 void TestFaults::clipboardsOwnerHangs()
 {
     QCOMPARE(setUp(), QString());
@@ -190,11 +183,26 @@ void TestFaults::applicationHangsAndGoesOnLater()
     QCOMPARE(m_desktop->display().readSelection("CLIPBOARD", 1s), u"copied meanwhile"_s);
 }
 
-void TestFaults::windowClosesAtThePress()
+void TestFaults::applicationEndsWhileItIsRead_data()
 {
+    QTest::addColumn<bool>("hangs");
+    QTest::newRow("at the press") << false;
+    QTest::newRow("while Vesk waits for it") << true;
+}
+
+void TestFaults::applicationEndsWhileItIsRead()
+{
+    QFETCH(const bool, hangs);
     QCOMPARE(setUp(), QString());
     VERIFY_ON(*m_desktop, m_editor->selectLine(1));
-    QVERIFY(capture([this] { m_editor->process().kill(); }) != Outcome::None);
+    if (hangs)
+        m_editor->process().signal(SIGSTOP);
+    const Outcome outcome = capture([&] {
+        if (hangs)
+            QTest::qWait(int(kFinger.count()));
+        m_editor->process().kill();
+    });
+    QVERIFY(outcome == Outcome::Fallback || (outcome == Outcome::Note && !hangs));
     QCOMPARE(complaint(), QString());
     const QStringList texts = m_desktop->notes().texts();
     QVERIFY(texts.size() == 1 || texts.constLast() == m_lines.at(1));
@@ -221,6 +229,35 @@ void TestFaults::accessibilityBusIsMissing()
     VERIFY_ON(*m_desktop, m_editor->deselect());
     QCOMPARE(capture(), Outcome::Fallback);
     QCOMPARE(complaint(), QString());
+}
+
+/// A lock has all keys to itself, and no more than that: the editor behind it still has its selection.
+void TestFaults::screenIsLocked()
+{
+    // Told by the accessibility bus, the editor says that it has none while it has no keys.
+    QCOMPARE(setUp({.accessibilityBus = true, .extension = {}}), QString());
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    QTest::qWait(int(kCaptureGate.count()));
+    const std::unique_ptr<DisplayConnection> lock = DisplayConnection::open(m_desktop->displayName());
+    QVERIFY(lock);
+    Keyboard lockKeyboard(*lock);
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] { return lockKeyboard.grab(); }));
+    for (const Keys &keys : {Keys{XK_n}, Keys{XK_t}, Keys{XK_Shift_L, XK_c}})
+        press(keys);
+    tapShiftTwice();
+    // An answer of Vesk's comes after all of that.
+    QVERIFY(runToEnd(VirtualDesktop::veskProgram(), {u"keys"_s}));
+    VERIFY_ON(*m_desktop, !veskWindow());
+    lockKeyboard.ungrab();
+
+    // Had one of them been heard, these would come too soon after it.
+    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
+    tapShiftTwice();
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(
+                              kBound, [this] { return !m_desktop->notes().promptTexts().isEmpty(); }));
+    QCOMPARE(m_desktop->notes().promptTexts(), QStringList{m_lines.at(1)});
+    QCOMPARE(capture(), Outcome::Note);
+    QCOMPARE(m_desktop->notes().texts(), m_lines);
 }
 
 void TestFaults::extensionOfTheServerIsMissing_data()

@@ -49,6 +49,7 @@ class MemoryEventTap final : public EventTap
 
 public:
     bool start() override;
+    [[nodiscard]] bool isKeyboardTaken() const override { return false; }
 
     /// Plays a key; heard only once `start` was called.
     void press();

@@ -45,6 +45,16 @@ bool RawInput::isCapsLocked() const
     return reply && (reply->mask & XCB_MOD_MASK_LOCK) != 0;
 }
 
+bool RawInput::isKeyboardTaken() const
+{
+    // Asked for with a window that is not shown, the keyboard is never given, so nobody loses the focus.
+    const auto cookie = xcb_grab_keyboard(m_connection.xcb(), 0, m_connection.window(), XCB_CURRENT_TIME,
+                                          XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    const XReply<xcb_grab_keyboard_reply_t> reply(
+        xcb_grab_keyboard_reply(m_connection.xcb(), cookie, nullptr));
+    return reply && reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
+}
+
 xcb_timestamp_t RawInput::lastPress() const
 {
     const bool isHotKey = m_last.key == m_hotKey.key && m_last.time == m_hotKey.time;

@@ -36,6 +36,8 @@ public:
     [[nodiscard]] bool isModifier(xcb_keycode_t key) const { return m_modifiers.isModifier(key); }
     /// Whether Caps Lock is on now.
     [[nodiscard]] bool isCapsLocked() const;
+    /// Whether another client has grabbed the keyboard.
+    [[nodiscard]] bool isKeyboardTaken() const;
 
 Q_SIGNALS:
     /// A key went down, at the server's time; not repeated while it is held.

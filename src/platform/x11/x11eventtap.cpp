@@ -23,6 +23,11 @@ bool X11EventTap::start()
     return true;
 }
 
+bool X11EventTap::isKeyboardTaken() const
+{
+    return m_input.isKeyboardTaken();
+}
+
 void X11EventTap::onKeyPressed(xcb_keycode_t key, xcb_timestamp_t time)
 {
     const Qt::KeyboardModifiers modifiers = m_input.modifiers().modifiersOf(key);

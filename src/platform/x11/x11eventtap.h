@@ -20,6 +20,7 @@ public:
     explicit X11EventTap(RawInput &input);
 
     bool start() override;
+    [[nodiscard]] bool isKeyboardTaken() const override;
 
 private:
     void onKeyPressed(xcb_keycode_t key, xcb_timestamp_t time);
