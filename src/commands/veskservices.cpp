@@ -13,9 +13,8 @@
 #include "quicknote/notice.h"
 #include "quicknote/toast.h"
 
-#include <QPointer>
-
 #include <algorithm>
+#include <utility>
 
 namespace vesk {
 
@@ -84,6 +83,11 @@ void VeskServices::start()
 
 void VeskServices::perform(quint32 id)
 {
+    // With the focus, the panel would take away the selection that is being read.
+    if (m_readings > 0 && (id == hotkeytable::kOpen.id || id == hotkeytable::kWrite.id)) {
+        m_heldBack.append(id);
+        return;
+    }
     switch (id) {
     case hotkeytable::kQuickNote.id:
         capture(Target::NewNote);
@@ -109,6 +113,14 @@ void VeskServices::perform(quint32 id)
     default:
         break;
     }
+}
+
+void VeskServices::endReading()
+{
+    if (--m_readings > 0)
+        return;
+    for (const quint32 id : std::exchange(m_heldBack, {}))
+        perform(id);
 }
 
 void VeskServices::followTrust()
@@ -154,6 +166,7 @@ void VeskServices::capture(Target target)
 QCoro::Task<> VeskServices::captureSelection(Target target, Source press)
 {
     const QPointer<VeskServices> self(this);
+    const auto reading = beginReading();
     std::optional<Selection> selection;
     if (m_needs.accessibility.isProcessTrusted()) {
         selection = co_await readSelection(press);
@@ -185,6 +198,7 @@ void VeskServices::addSelectionToChecklist()
 QCoro::Task<> VeskServices::addToChecklist(Source press)
 {
     const QPointer<VeskServices> self(this);
+    const auto reading = beginReading();
     const std::optional<Selection> selection = co_await readSelection(press);
     if (self.isNull())
         co_return;
@@ -203,6 +217,7 @@ void VeskServices::savePrompt()
 QCoro::Task<> VeskServices::savePromptSelection()
 {
     const QPointer<VeskServices> self(this);
+    const auto reading = beginReading();
     const std::optional<QString> text = co_await m_needs.reader.readSelection();
     // Two taps of Shift mean nothing else where nothing is selected, so nothing is said.
     if (!self.isNull() && text)

@@ -10,7 +10,10 @@
 
 #include <QCoroTask>
 
+#include <QList>
 #include <QObject>
+#include <QPointer>
+#include <QScopeGuard>
 
 #include <chrono>
 #include <optional>
@@ -96,6 +99,16 @@ private:
     };
 
     void perform(quint32 id);
+    /// Marks a reading as under way for as long as what is returned lives.
+    [[nodiscard]] auto beginReading()
+    {
+        ++m_readings;
+        return qScopeGuard([self = QPointer(this)] {
+            if (!self.isNull())
+                self->endReading();
+        });
+    }
+    void endReading();
     /// Listens for the double Shift as far as the user lets it and wants it.
     void followTrust();
     /// Whether a command follows the last one too soon; if not, it is the last one from now on.
@@ -126,6 +139,9 @@ private:
     Instant m_lastCapture;
     Instant m_lastPrompt;
     bool m_hasAskedForAccess = false;
+    int m_readings = 0;
+    /// The keys of the panel that were pressed during a reading.
+    QList<quint32> m_heldBack;
 };
 
 } // namespace vesk
