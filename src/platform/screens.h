@@ -6,6 +6,7 @@
 #include <QPointF>
 #include <QRectF>
 
+#include <algorithm>
 #include <optional>
 
 namespace vesk {
@@ -47,6 +48,14 @@ public:
             }
         }
         return all.isEmpty() ? std::nullopt : std::optional(all.first());
+    }
+
+    /// Whether a window of this geometry, in Qt's coordinates, is all on one screen.
+    [[nodiscard]] bool holdsWhole(const QRectF &geometry) const
+    {
+        const QList<Screen> all = screens();
+        const QRectF frame = flipped(geometry);
+        return std::ranges::any_of(all, [&](const Screen &screen) { return screen.frame.contains(frame); });
     }
 
 Q_SIGNALS:

@@ -37,6 +37,10 @@ QuickNotePanel::QuickNotePanel(const Needs &needs)
     connect(&needs.application, &Application::didResignActive, this, &QuickNotePanel::close);
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &QuickNotePanel::onFocusWindowChanged);
     connect(&needs.windows, &Windows::compositedChanged, this, &QuickNotePanel::shape);
+    connect(&needs.screens, &Screens::changed, this, [this] {
+        if (m_isShowing && !m_needs.screens.holdsWhole(m_view->geometry()))
+            place();
+    });
 }
 
 QuickNotePanel::~QuickNotePanel() = default;

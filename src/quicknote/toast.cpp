@@ -43,6 +43,10 @@ Toast::Toast(QQmlEngine &engine, Screens &screens, Windows &windows, Clock &cloc
     m_view.setInitialProperties({{u"message"_s, QString()}, {u"symbol"_s, QString()}});
     m_view.setSource(QUrl(u"qrc:/qt/qml/Vesk/QuickNote/ToastView.qml"_s));
     connect(&m_fade, &WindowFade::gone, &m_view, &QWindow::hide);
+    connect(&screens, &Screens::changed, this, [this] {
+        if (m_view.isVisible() && !m_screens.holdsWhole(m_view.geometry()))
+            place();
+    });
     QTimer::singleShot(0, this, &Toast::prepareAhead);
 }
 
@@ -66,13 +70,7 @@ void Toast::show(const QString &message, const QString &symbol)
     setContent(message, symbol);
     if (!m_view.isVisible())
         m_windows.prepare(m_view, Windows::Kind::Notice);
-    if (const std::optional<Screen> screen = m_screens.screenUnderMouse()) {
-        const QSizeF size = m_view.size();
-        const QRectF &visible = screen->visibleFrame;
-        m_windows.setFrame(
-            m_view,
-            QRectF(QPointF(visible.center().x() - size.width() / 2, visible.y() + kHeightAboveBottom), size));
-    }
+    place();
     m_windows.setCornerRadius(m_view, m_view.height() / 2.0);
     m_fade.fadeIn(kFadeIn);
     m_view.show();
@@ -96,6 +94,18 @@ void Toast::setContent(const QString &message, const QString &symbol)
     content->setProperty("message", message);
     content->setProperty("symbol", symbol);
     m_view.resize(qCeil(content->implicitWidth()), qCeil(content->implicitHeight()));
+}
+
+void Toast::place()
+{
+    const std::optional<Screen> screen = m_screens.screenUnderMouse();
+    if (!screen)
+        return;
+    const QSizeF size = m_view.size();
+    const QRectF &visible = screen->visibleFrame;
+    m_windows.setFrame(
+        m_view,
+        QRectF(QPointF(visible.center().x() - size.width() / 2, visible.y() + kHeightAboveBottom), size));
 }
 
 void Toast::announce() const

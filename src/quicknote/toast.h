@@ -42,6 +42,7 @@ private:
 
     void prepareAhead();
     void setContent(const QString &message, const QString &symbol);
+    void place();
     /// Has a screen reader read the notice out.
     void announce() const;
 

@@ -59,6 +59,12 @@ void ToastTest::standsAboveTheBottom()
     m_toast->show(u"Added to “A note with a longer title”"_s, u"text.append"_s);
     QVERIFY(m_desktop->windows.frame().width() > shortNotice.width());
     QCOMPARE(m_desktop->windows.frame().center().x(), 800);
+
+    // That screen goes, and a smaller one is left.
+    const QRectF left(0, 0, 800, 600);
+    m_desktop->screens.setScreens({{.frame = left, .visibleFrame = left}});
+    QCOMPARE(m_desktop->windows.frame().center().x(), 400);
+    QCOMPARE(m_desktop->windows.frame().y(), 60);
 }
 
 void ToastTest::secondNoticeKeepsItsFullTime_data()
