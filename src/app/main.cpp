@@ -25,6 +25,7 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <csignal>
 #include <span>
 
 namespace {
@@ -184,6 +185,8 @@ int main(int argc, char *argv[])
     QGuiApplication::setDesktopFileName(u"org.vesk.Vesk"_s);
     QGuiApplication::setWindowIcon(QIcon(u":/vesk/icon/org.vesk.Vesk.svg"_s));
 
+    // Where the size of files is limited, a write is to fail as on a full disk, and not to end Vesk.
+    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
     const vesk::QuitSignals quitSignals;
     return runVesk(has("--background"));
 }
