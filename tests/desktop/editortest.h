@@ -14,6 +14,9 @@ class EditorTest : public VeskTest
 protected:
     /// Whether nothing was typed into the editor.
     [[nodiscard]] bool isEditorUntouched();
+    /// Has the window manager give the keyboard to the window under the pointer, and leaves the pointer in
+    /// the editor. False if it never did.
+    [[nodiscard]] bool letFocusFollowThePointer();
 
     const QStringList m_lines = {QStringLiteral("Water the lemon tree on the balcony"),
                                  QStringLiteral("Ask about the train to Ghent")};

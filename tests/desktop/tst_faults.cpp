@@ -168,8 +168,10 @@ void TestFaults::applicationHangsAndGoesOnLater()
     QCOMPARE(setUp(), QString());
     VERIFY_ON(*m_desktop, m_editor->selectLine(1));
     m_editor->process().signal(SIGSTOP);
-    QCOMPARE(capture(), Outcome::Fallback);
+    // An impatient second press is too soon, and does not close what the first one opens.
+    QCOMPARE(capture([this] { press({XK_n}); }), Outcome::Fallback);
     QCOMPARE(complaint(), QString());
+    VERIFY_ON(*m_desktop, veskWindow());
     dismissFallback();
 
     // The user copies something else, and then the application goes on and does all that it was told.

@@ -19,6 +19,7 @@ class TestGlobalKeys : public EditorTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void eachKeyDoesItsOwn_data();
     void eachKeyDoesItsOwn();
     void layouts_data();
     void layouts();
@@ -27,7 +28,9 @@ private Q_SLOTS:
     void takenCombinationIsNamedAndTakenBack();
     void usersOwnCombinationWorks();
     void letterHeldLongerThanItsModifiersTypesNothing();
-    void twoLettersAtOnce();
+    void twoAtOnce_data();
+    void twoAtOnce();
+    void cardThatIsEditedLosesNothing();
     void withoutConsentShiftIsNotHeard();
     void whatIsTypedFromThePressOnReachesThePanel();
 
@@ -47,8 +50,18 @@ QString TestGlobalKeys::lineOfKeys(const QString &keys)
     return line == lines.end() ? QString() : *line;
 }
 
+void TestGlobalKeys::eachKeyDoesItsOwn_data()
+{
+    QTest::addColumn<bool>("followsPointer");
+    QTest::newRow("focus by clicks") << false;
+    QTest::newRow("focus follows the pointer") << true;
+}
+
 void TestGlobalKeys::eachKeyDoesItsOwn()
 {
+    QFETCH(const bool, followsPointer);
+    if (followsPointer)
+        VERIFY_ON(*m_desktop, letFocusFollowThePointer());
     const auto waitForGate = [] { QTest::qWait(int(kCaptureGate.count())); };
     VERIFY_ON(*m_desktop, m_editor->selectLine(0));
     press({XK_n});
@@ -223,15 +236,73 @@ void TestGlobalKeys::letterHeldLongerThanItsModifiersTypesNothing()
     QCOMPARE(m_editor->text(), u'n' + m_lines.join(u'\n') + u'\n');
 }
 
-/// The second is too soon after the first, and is kept from the editor all the same.
-void TestGlobalKeys::twoLettersAtOnce()
+void TestGlobalKeys::twoAtOnce_data()
 {
+    QTest::addColumn<QList<Keys>>("taps");
+    QTest::addColumn<bool>("hasPanel");
+    const auto with = [](const Keys &keys) { return Keys{XK_Super_L, XK_Alt_L} + keys; };
+    QTest::newRow("note and checklist") << QList<Keys>{with({XK_n, XK_c})} << false;
+    QTest::newRow("note twice") << QList<Keys>{with({XK_n}), with({XK_n})} << false;
+    QTest::newRow("note and panel") << QList<Keys>{with({XK_n, XK_t})} << true;
+}
+
+/// A second capture is too soon after the first, and is kept from the editor all the same.
+void TestGlobalKeys::twoAtOnce()
+{
+    QFETCH(const QList<Keys>, taps);
+    QFETCH(const bool, hasPanel);
     VERIFY_ON(*m_desktop, m_editor->selectLine(0));
-    press({XK_n, XK_c});
+    for (const Keys &keys : taps)
+        m_desktop->keyboard().tap(keys);
     VERIFY_ON(*m_desktop, waitNotice(kSaved));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kSaved, kBound));
     QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(0)});
+    VERIFY_ON(*m_desktop, m_desktop->windows().findViewable(kPanel).has_value() == hasPanel);
+    VERIFY_ON(*m_desktop, !m_desktop->windows().findViewable(kQuickNote));
+    if (hasPanel)
+        togglePanel();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
     QVERIFY(isEditorUntouched());
+}
+
+/// What is selected in Vesk itself is kept like anything else, also in the very note that it is from.
+void TestGlobalKeys::cardThatIsEditedLosesNothing()
+{
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    capture();
+    VERIFY_ON(*m_desktop, waitNotice(kSaved));
+    togglePanel();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kPanel, kBound));
+    Keyboard &keyboard = m_desktop->keyboard();
+    const auto tap = [&keyboard](const Keys &keys) { keyboard.tap(keys, kFinger); };
+    const auto copied = [&] {
+        tap({XK_Control_L, XK_c});
+        return m_desktop->display().readSelection("CLIPBOARD", 500ms);
+    };
+    tap({XK_Down});
+    tap({XK_Return});
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
+        tap({XK_Control_L, XK_a});
+        return copied() == m_lines.at(0);
+    }));
+    tap({XK_End});
+    keyboard.type(u" more"_s);
+    tap({XK_Control_L, XK_Shift_L, XK_Left});
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] { return copied() == u"more"_s; }));
+    QTest::qWait(int(kCaptureGate.count()));
+    capture();
+    QString note = m_lines.at(0) + u" more"_s;
+    VERIFY_ON(*m_desktop, waitNotes({note, u"more"_s}));
+
+    QTest::qWait(int(kCaptureGate.count()));
+    tap({XK_End});
+    keyboard.type(u" yet"_s);
+    tap({XK_Control_L, XK_Shift_L, XK_Left});
+    press({XK_Shift_L, XK_n});
+    note += u" yet\n\nyet"_s;
+    VERIFY_ON(*m_desktop, waitNotes({note, u"more"_s}));
+    tap({XK_Control_L, XK_a});
+    QCOMPARE(copied(), note);
 }
 
 void TestGlobalKeys::withoutConsentShiftIsNotHeard()

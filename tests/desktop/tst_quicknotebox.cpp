@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/editortest.h"
-#include "desktop/plainwindow.h"
+#include "desktop/monitors.h"
 
-#include <QFile>
+#include <QFileInfo>
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
 #include <algorithm>
 #include <csignal>
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -27,12 +28,15 @@ private Q_SLOTS:
     void checklistKeyBeginsAChecklist();
     void draggingItsGroundMovesIt();
     void givesTheKeyboardBackToThePanel();
+    void unpluggedScreenGivesItBack();
+    void unwrittenNoteIsOfferedAtTheEnd_data();
     void unwrittenNoteIsOfferedAtTheEnd();
 
 private:
     /// Opens the box with a key and waits until it has the keyboard; none if it does not come.
     [[nodiscard]] std::optional<Window> openBox();
-    [[nodiscard]] bool letFocusFollowThePointer();
+    /// Lets Vesk's files grow to this many bytes, and no longer, as a full disk does.
+    [[nodiscard]] bool limitFiles(rlim_t bytes) const;
     /// Whether no program has the keyboard to itself.
     [[nodiscard]] bool isKeyboardFree() const;
 };
@@ -44,30 +48,10 @@ std::optional<Window> TestQuickNoteBox::openBox()
     return box && m_desktop->windows().waitFocused(*box, kBound) ? box : std::nullopt;
 }
 
-bool TestQuickNoteBox::letFocusFollowThePointer()
+bool TestQuickNoteBox::limitFiles(rlim_t bytes) const
 {
-    QFile usual(u"/etc/xdg/openbox/rc.xml"_s);
-    if (!usual.open(QIODevice::ReadOnly))
-        return false;
-    QString config = QString::fromUtf8(usual.readAll());
-    config.replace(u"<followMouse>no"_s, u"<followMouse>yes"_s);
-    config.replace(u"<focusDelay>200"_s, u"<focusDelay>0"_s);
-    if (m_desktop->writeFile(u"config/openbox/rc.xml"_s, config).isEmpty())
-        return false;
-    const std::unique_ptr<ChildProcess> teller = m_desktop->run(u"openbox"_s, {u"--reconfigure"_s});
-    if (!teller || !teller->waitForExit(kBound))
-        return false;
-    // Once it has heard, moving the pointer is enough.
-    PlainWindow other(m_desktop->display(), u"Other"_s, QRect(5, 5, 100, 100));
-    other.show();
-    const auto follows = [this](const Window &window, QPoint place) {
-        m_desktop->pointer().moveTo(place);
-        return m_desktop->windows().isActive(window);
-    };
-    const QPoint inEditor = m_editor->window().geometry.bottomLeft() + QPoint(40, -40);
-    return m_desktop->display().waitUntil(kBound, [&] {
-        return follows(other.window(), other.window().geometry.center());
-    }) && m_desktop->display().waitUntil(kBound, [&] { return follows(m_editor->window(), inEditor); });
+    const rlimit limit{.rlim_cur = bytes, .rlim_max = RLIM_INFINITY};
+    return prlimit(pid_t(m_vesk->pid()), RLIMIT_FSIZE, &limit, nullptr) == 0;
 }
 
 bool TestQuickNoteBox::isKeyboardFree() const
@@ -208,14 +192,46 @@ void TestQuickNoteBox::givesTheKeyboardBackToThePanel()
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
 }
 
+void TestQuickNoteBox::unpluggedScreenGivesItBack()
+{
+    const QRect left(0, 0, 800, 1000);
+    Monitors monitors(m_desktop->display());
+    monitors.set({left, QRect(800, 0, 800, 700)});
+    monitors.movePointer(QPoint(1200, 400));
+    const std::optional<Window> box = openBox();
+    VERIFY_ON(*m_desktop, box);
+    QVERIFY(!left.intersects(box->geometry));
+    m_desktop->keyboard().type(u"tea"_s);
+    monitors.set({left});
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
+        const std::optional<Window> moved = m_desktop->windows().findViewable(kQuickNote);
+        return moved && left.contains(moved->geometry);
+    }));
+    m_desktop->keyboard().type(u" at five"_s);
+    m_desktop->keyboard().tap({XK_Return});
+    VERIFY_ON(*m_desktop, waitNotes({u"tea at five"_s}));
+}
+
+void TestQuickNoteBox::unwrittenNoteIsOfferedAtTheEnd_data()
+{
+    QTest::addColumn<qint64>("pages");
+    QTest::newRow("another program holds the file") << qint64(-1);
+    for (const qint64 pages : {0, 1})
+        QTest::addRow("the disk is full after %lld more pages", pages) << pages;
+}
+
 void TestQuickNoteBox::unwrittenNoteIsOfferedAtTheEnd()
 {
+    QFETCH(const qint64, pages);
     const QString note = u"Call Ada about the lease"_s;
     VERIFY_ON(*m_desktop, openBox());
     m_desktop->keyboard().type(note);
-    auto full =
-        std::make_unique<SQLite::Database>(m_desktop->notes().path().toStdString(), SQLite::OPEN_READWRITE);
-    full->exec("BEGIN IMMEDIATE");
+    const QString path = m_desktop->notes().path();
+    std::optional<SQLite::Database> holder;
+    if (pages < 0)
+        holder.emplace(path.toStdString(), SQLite::OPEN_READWRITE).exec("BEGIN IMMEDIATE");
+    else
+        QVERIFY(limitFiles(QFileInfo(path + u"-wal"_s).size() + 100 + pages * 4200));
     m_desktop->keyboard().tap({XK_Return});
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kNotSaved, kBound));
     QVERIFY(m_desktop->notes().texts().isEmpty());
@@ -233,8 +249,12 @@ void TestQuickNoteBox::unwrittenNoteIsOfferedAtTheEnd()
     }));
     QVERIFY(m_vesk->isRunning());
 
-    // With the disk's trouble over, quitting writes it after all.
-    full.reset();
+    // With the disk's trouble over, waiting writes it, or quitting does.
+    holder.reset();
+    if (pages >= 0) {
+        QVERIFY(limitFiles(RLIM_INFINITY));
+        VERIFY_ON(*m_desktop, waitNotes({note}));
+    }
     m_vesk->signal(SIGTERM);
     QVERIFY(m_vesk->waitForExit(kBound));
     QCOMPARE(m_vesk->exitCode(), 0);
