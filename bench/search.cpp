@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+//
+// From a key in the search field until the list is painted: words that all notes have, and numbers that
+// fewer and fewer have.
+#include "bench.h"
+#include "stopwatch.h"
+
+#include "desktop/veskfacts.h"
+
+#include <QThread>
+
+#include <cstring>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace vesk {
+
+namespace {
+
+constexpr Table::Bars kBars{.usual = 16, .most = 50};
+
+/// What looking through all bytes takes that the search looks through, once and in vain, and painting a
+/// window thereafter.
+void measureFloor(Bench &bench, Stopwatch &watch, Table::Row &row)
+{
+    constexpr char kNowhere[] = "notes";
+    QList<QByteArray> texts;
+    for (const QString &text : bench.desktop.notes().texts())
+        texts.append(text.toUtf8());
+    row.floorName = u"memmem, then a bare window"_s;
+    for (int i = 0; i < runs(); ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        qsizetype found = 0;
+        for (const QByteArray &text : std::as_const(texts)) {
+            if (memmem(text.constData(), static_cast<size_t>(text.size()), kNowhere, sizeof kNowhere - 1))
+                ++found;
+        }
+        const double searched = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+        const std::optional<double> painted = watch.floor();
+        if (found > 0 || !painted)
+            return complain("the floor of the search is not one");
+        row.floors[bench.notes].add(searched + *painted);
+    }
+}
+
+/// Times each key of a word to its last letter, and back. False if a key changed nothing.
+bool typeWord(Stopwatch &watch, const QRect &list, const QList<xcb_keysym_t> &word, Figures &letters,
+              Figures &backspaces)
+{
+    const auto time = [&](xcb_keysym_t key, Figures &figures) {
+        const QByteArray before = watch.settledPixels(list);
+        watch.press({key});
+        // At once, since a key that is held repeats itself.
+        watch.release();
+        const std::optional<double> painted = watch.untilChanged(list, before);
+        if (painted)
+            figures.add(*painted);
+        else
+            complain("a key of the search changed nothing");
+        return painted.has_value();
+    };
+    return std::ranges::all_of(word, [&](xcb_keysym_t key) { return time(key, letters); })
+           && std::ranges::all_of(word, [&](xcb_keysym_t) { return time(XK_BackSpace, backspaces); });
+}
+
+} // namespace
+
+void benchSearch(Bench &bench)
+{
+    constexpr int kKeys = 5;
+    // Those that come first are painted otherwise after each key of these.
+    const QList<xcb_keysym_t> words[] = {{XK_n, XK_o, XK_t, XK_e}, {XK_7, XK_7, XK_7}};
+    const int rounds = std::max(1, runs() / kKeys);
+    const std::unique_ptr<ChildProcess> vesk = startQuiet(bench);
+    const std::optional<Window> panel = vesk ? showPanel(bench) : std::nullopt;
+    if (!panel)
+        return;
+    Table::Row &letters = bench.table.row(u"search key → list painted"_s, kBars);
+    Table::Row &backspaces = bench.table.row(u"search key taken back → list painted"_s, kBars);
+    Stopwatch watch(bench.desktop);
+    measureFloor(bench, watch, letters);
+    backspaces.floorName = letters.floorName;
+    backspaces.floors[bench.notes] = letters.floors[bench.notes];
+
+    bench.desktop.keyboard().tap({XK_Control_L, XK_f}, kFinger);
+    QThread::msleep(500);
+    const QRect list(panel->geometry.topLeft() + QPoint(20, 140), QSize(300, 120));
+    for (int i = 0; i < rounds; ++i) {
+        for (const QList<xcb_keysym_t> &word : words) {
+            // Without an answer there is nothing more to wait for.
+            if (!typeWord(watch, list, word, letters.sizes[bench.notes], backspaces.sizes[bench.notes]))
+                return;
+        }
+    }
+    hidePanel(bench);
+}
+
+} // namespace vesk
