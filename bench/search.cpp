@@ -9,6 +9,7 @@
 
 #include <QThread>
 
+#include <algorithm>
 #include <cstring>
 
 using namespace Qt::StringLiterals;
@@ -46,10 +47,9 @@ void measureFloor(Bench &bench, Stopwatch &watch, Table::Row &row)
 }
 
 /// Times each key of a word to its last letter, and back. False if a key changed nothing.
-bool typeWord(Stopwatch &watch, const QRect &list, const QList<xcb_keysym_t> &word, Figures &letters,
-              Figures &backspaces)
+bool typeWord(Stopwatch &watch, const QRect &list, const QList<xcb_keysym_t> &word, Figures &figures)
 {
-    const auto time = [&](xcb_keysym_t key, Figures &figures) {
+    const auto time = [&](xcb_keysym_t key) {
         const QByteArray before = watch.settledPixels(list);
         watch.press({key});
         // At once, since a key that is held repeats itself.
@@ -61,36 +61,41 @@ bool typeWord(Stopwatch &watch, const QRect &list, const QList<xcb_keysym_t> &wo
             complain("a key of the search changed nothing");
         return painted.has_value();
     };
-    return std::ranges::all_of(word, [&](xcb_keysym_t key) { return time(key, letters); })
-           && std::ranges::all_of(word, [&](xcb_keysym_t) { return time(XK_BackSpace, backspaces); });
+    return std::ranges::all_of(word, time)
+           && std::ranges::all_of(word, [&](xcb_keysym_t) { return time(XK_BackSpace); });
 }
+
+struct Search
+{
+    QString what;
+    /// Those that come first are painted otherwise after each key of it.
+    QList<xcb_keysym_t> word;
+};
 
 } // namespace
 
 void benchSearch(Bench &bench)
 {
     constexpr int kKeys = 5;
-    // Those that come first are painted otherwise after each key of these.
-    const QList<xcb_keysym_t> words[] = {{XK_n, XK_o, XK_t, XK_e}, {XK_7, XK_7, XK_7}};
+    const Search searches[] = {
+        {u"search key that leaves the same notes → painted"_s, {XK_n, XK_o, XK_t, XK_e}},
+        {u"search key that brings other notes → painted"_s, {XK_7, XK_7, XK_7}},
+    };
     const int rounds = std::max(1, runs() / kKeys);
     const std::unique_ptr<ChildProcess> vesk = startQuiet(bench);
     const std::optional<Window> panel = vesk ? showPanel(bench) : std::nullopt;
     if (!panel)
         return;
-    Table::Row &letters = bench.table.row(u"search key → list painted"_s, kBars);
-    Table::Row &backspaces = bench.table.row(u"search key taken back → list painted"_s, kBars);
     Stopwatch watch(bench.desktop);
-    measureFloor(bench, watch, letters);
-    backspaces.floorName = letters.floorName;
-    backspaces.floors[bench.notes] = letters.floors[bench.notes];
-
+    const QRect list(panel->geometry.topLeft() + QPoint(20, 140), QSize(300, 120));
+    for (const Search &search : searches)
+        measureFloor(bench, watch, bench.table.row(search.what, kBars));
     bench.desktop.keyboard().tap({XK_Control_L, XK_f}, kFinger);
     QThread::msleep(500);
-    const QRect list(panel->geometry.topLeft() + QPoint(20, 140), QSize(300, 120));
     for (int i = 0; i < rounds; ++i) {
-        for (const QList<xcb_keysym_t> &word : words) {
+        for (const Search &search : searches) {
             // Without an answer there is nothing more to wait for.
-            if (!typeWord(watch, list, word, letters.sizes[bench.notes], backspaces.sizes[bench.notes]))
+            if (!typeWord(watch, list, search.word, bench.table.row(search.what).sizes[bench.notes]))
                 return;
         }
     }
