@@ -63,6 +63,7 @@ const Entry &entryOf(Command command)
 
 MenuCommands::MenuCommands(QWindow &panel, NoteEditorController &editor)
     : m_editor(editor)
+    , m_order(panel)
 {
     for (const Entry &entry : kEntries) {
         const QKeySequence keys = MenuCommands::keys(entry.command);
@@ -72,7 +73,8 @@ MenuCommands::MenuCommands(QWindow &panel, NoteEditorController &editor)
         auto *shortcut = new QShortcut(keys, &panel);
         shortcut->setAutoRepeat(false);
         shortcut->setContext(entry.marker.isEmpty() ? Qt::ApplicationShortcut : Qt::WindowShortcut);
-        connect(shortcut, &QShortcut::activated, this, [this, command = entry.command] { perform(command); });
+        connect(shortcut, &QShortcut::activated, this,
+                [this, command = entry.command] { m_order.run([this, command] { perform(command); }); });
     }
 }
 

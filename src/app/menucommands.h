@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/keyorder.h"
+
 #include <QKeySequence>
 #include <QObject>
 
@@ -46,6 +48,7 @@ Q_SIGNALS:
 
 private:
     NoteEditorController &m_editor;
+    KeyOrder m_order;
 };
 
 } // namespace vesk
