@@ -23,7 +23,8 @@ NoteTextView::NoteTextView(QQuickItem *parent)
 {
     connect(this, &NoteTextView::visiblePartChanged, this, &NoteTextView::polish);
     connect(&m_focusTask, &FocusTask::ended, this, [this] {
-        if (!window())
+        // An editor that has been closed meanwhile leaves the keyboard where it is.
+        if (!window() || !isEnabled())
             return;
         forceFocus();
         moveCaretToEnd();

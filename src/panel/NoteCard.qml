@@ -87,14 +87,17 @@ Item {
             onItemRemoved: root.form = null
 
             NoteForm {
+                // While it fades away, no key and no click may come to a note that is closed, and its row may
+                // be gone.
+                enabled: root.isExpanded
                 width: content.width
                 opacity: root.openness
                 focus: true
-                cardId: root.row.cardId
-                text: root.row.text
-                sourceBundle: root.row.sourceBundle
-                sourceLabel: root.row.sourceLabel
-                sourceTip: root.row.sourceTip
+                cardId: root.row?.cardId ?? ""
+                text: root.row?.text ?? ""
+                sourceBundle: root.row?.sourceBundle ?? ""
+                sourceLabel: root.row?.sourceLabel ?? ""
+                sourceTip: root.row?.sourceTip ?? ""
                 panel: root.panel
             }
         }

@@ -20,6 +20,8 @@ private Q_SLOTS:
     void noteIsEditedInPlace();
     void editorKeepsItsKeys();
     void fieldTakesTheKeyboardFromTheEditor();
+    void closingEditorTakesNoKeyboard();
+    void closingCardMayGoAtOnce();
     void clickBesideTheCardsCloses();
     void openingMovesNothingElse();
     void tickingStaysOnTheClosedCard();
@@ -109,6 +111,33 @@ void PanelViewTest::fieldTakesTheKeyboardFromTheEditor()
     QVERIFY(!model().openNote()->id());
     type(u"new"_s);
     QCOMPARE(model().draft(), u"new"_s);
+}
+
+void PanelViewTest::closingEditorTakesNoKeyboard()
+{
+    m_fixture->appearance.setReduceMotion(false);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QTRY_VERIFY(hasEditor());
+    // Sooner than the editor has come to take the keyboard by itself.
+    model().requestField(Field::Composer);
+    QVERIFY(!model().openNote()->id());
+    QTRY_VERIFY(!hasEditor());
+    QCOMPARE(model().keyboard()->activeField(), Field::Composer);
+}
+
+void PanelViewTest::closingCardMayGoAtOnce()
+{
+    QTest::failOnWarning(QRegularExpression(u"TypeError"_s));
+    m_fixture->appearance.setReduceMotion(false);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QTRY_VERIFY(model().keyboard()->isEditing());
+    press(Qt::Key_Escape);
+    press(Qt::Key_Backspace, Qt::ControlModifier);
+    QCOMPARE(store().notes().count(), 2);
+    QTRY_COMPARE(shown("NoteCard").size(), 2);
+    QTRY_VERIFY(!hasEditor());
 }
 
 void PanelViewTest::clickBesideTheCardsCloses()
