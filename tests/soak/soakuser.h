@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "soak/ledger.h"
+
+#include <QRandomGenerator>
+
+#include <array>
+
+namespace vesk {
+
+struct SoakWorld;
+
+/// A user who does anything at all, with the keyboard, the pointer and the desktop around the program.
+class SoakUser final
+{
+public:
+    /// The same seed does the same again, as long as the program does.
+    explicit SoakUser(int seed)
+        : m_random(static_cast<quint32>(seed))
+    {
+    }
+
+    /// Does one thing, and tells what may come of it in a store that holds this.
+    [[nodiscard]] Ledger::Effect act(SoakWorld &world, const Ledger::Entries &entries);
+
+    /// What was done last, in words.
+    [[nodiscard]] const QString &done() const { return m_done; }
+
+private:
+    struct Action
+    {
+        const char *name;
+        int weight;
+        void (SoakUser::*run)();
+    };
+    static const std::array<Action, 10> kActions;
+
+    void press();
+    void type();
+    void compose();
+    void click();
+    void capture();
+    void addToChecklist();
+    void savePrompt();
+    void useHotKey();
+    void passTime();
+    void changeDesktop();
+
+    [[nodiscard]] int pick(qsizetype count) { return m_random.bounded(static_cast<int>(count)); }
+    template <typename List>
+    [[nodiscard]] const auto &oneOf(const List &list)
+    {
+        return list[pick(static_cast<qsizetype>(std::size(list)))];
+    }
+    [[nodiscard]] bool isInPanel() const;
+    /// The note or prompt with the newest date of those for which `isWanted` is true.
+    [[nodiscard]] std::optional<RecordId> newest(auto isWanted) const;
+    void note(const QString &what) { m_done += u' ' + what; }
+    void expectDraft(bool isSure);
+    void expectAnything();
+
+    QRandomGenerator m_random;
+    SoakWorld *m_world = nullptr;
+    const Ledger::Entries *m_entries = nullptr;
+    Ledger::Effect m_effect;
+    QString m_done;
+};
+
+} // namespace vesk
