@@ -66,6 +66,14 @@ void NoteTextView::componentComplete()
     setText(std::exchange(m_loadedText, QString()));
 }
 
+void NoteTextView::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    // Opened again before it was gone; another may have had the commands meanwhile.
+    if (change == ItemEnabledHasChanged && data.boolValue && m_controller)
+        m_controller->setTextView(this);
+    QQuickItem::itemChange(change, data);
+}
+
 void NoteTextView::updatePolish()
 {
     if (!m_text)

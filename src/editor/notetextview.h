@@ -103,6 +103,7 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void componentComplete() override;
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
     void updatePolish() override;
 
 private:

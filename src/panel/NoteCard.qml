@@ -12,7 +12,8 @@ Item {
 
     required property NoteRoles row
     readonly property PanelModel panel: root.row.panel
-    readonly property bool isExpanded: root.panel.openNote.cardId === root.row.cardId
+    // A row that has left the list and fades away has no place in it, and perhaps a successor.
+    readonly property bool isExpanded: root.row.index >= 0 && root.panel.openNote.cardId === root.row.cardId
     readonly property bool isSelected: root.panel.selection.cardId === root.row.cardId
     // How far the card is open, from 0 to 1.
     property real openness: root.isExpanded ? 1 : 0

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "paneltest.h"
 
+#include "editor/notetextview.h"
 #include "panel/tabstop.h"
 
 #include <QSignalSpy>
@@ -22,6 +23,8 @@ private Q_SLOTS:
     void fieldTakesTheKeyboardFromTheEditor();
     void closingEditorTakesNoKeyboard();
     void closingCardMayGoAtOnce();
+    void cardThatLeavesTheListOpensNoMore();
+    void cardOpensAgainWhileItCloses();
     void clickBesideTheCardsCloses();
     void openingMovesNothingElse();
     void tickingStaysOnTheClosedCard();
@@ -138,6 +141,42 @@ void PanelViewTest::closingCardMayGoAtOnce()
     QCOMPARE(store().notes().count(), 2);
     QTRY_COMPARE(shown("NoteCard").size(), 2);
     QTRY_VERIFY(!hasEditor());
+}
+
+void PanelViewTest::cardThatLeavesTheListOpensNoMore()
+{
+    m_fixture->appearance.setReduceMotion(false);
+    const QString id = store().notes().first()->id().toString(QUuid::WithoutBraces);
+    const QQuickItem *row = shown("NoteRow").at(1);
+    QTRY_COMPARE(row->opacity(), 1.0);
+    model().notes()->toggleSection(0);
+    QTRY_VERIFY(row->opacity() < 1);
+    model().notes()->toggleSection(0);
+    model().cards()->activate(id);
+    // What opens is the row that has come for it.
+    QTRY_VERIFY(model().editor()->textView());
+    model().cards()->edit(id, u"changed"_s);
+    QCOMPARE(model().editor()->textView()->text(), u"changed"_s);
+}
+
+void PanelViewTest::cardOpensAgainWhileItCloses()
+{
+    m_fixture->appearance.setReduceMotion(false);
+    Note &first = *store().notes().first();
+    const auto activate = [this](const Note &note) {
+        model().cards()->activate(note.id().toString(QUuid::WithoutBraces));
+    };
+    activate(first);
+    QTRY_VERIFY(model().keyboard()->isEditing());
+    activate(store().notes().at(1));
+    model().requestField(Field::Composer);
+    activate(first);
+    // The keys are its own again, and so are the commands.
+    const QString before = first.text();
+    type(u"x"_s);
+    QCOMPARE(first.text(), before + u'x');
+    model().editor()->toggleLinePrefix(u"# "_s);
+    QCOMPARE(first.text(), u"# "_s + before + u'x');
 }
 
 void PanelViewTest::clickBesideTheCardsCloses()
