@@ -10,15 +10,17 @@ Rectangle {
     required property Item target
     required property string text
     readonly property Item ground: root.target.Window.contentItem
+    // The target may leave the window sooner.
+    readonly property size room: root.ground ? Qt.size(root.ground.width, root.ground.height) : Qt.size(0, 0)
     readonly property point corner: root.target.mapToItem(root.ground, 0, 0)
     readonly property real below: root.corner.y + root.target.height + 6
 
     parent: root.ground
     z: 900
-    width: Math.min(label.implicitWidth + 16, root.ground.width - 16)
+    width: Math.min(label.implicitWidth + 16, root.room.width - 16)
     height: label.implicitHeight + 9
-    x: Math.max(8, Math.min(root.corner.x + (root.target.width - width) / 2, root.ground.width - width - 8))
-    y: root.below + height + 8 > root.ground.height ? root.corner.y - height - 6 : root.below
+    x: Math.max(8, Math.min(root.corner.x + (root.target.width - width) / 2, root.room.width - width - 8))
+    y: root.below + height + 8 > root.room.height ? root.corner.y - height - 6 : root.below
     radius: 6
     color: Theme.raised
     border.width: 1

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void closingEditorTakesNoKeyboard();
     void closingCardMayGoAtOnce();
     void cardThatLeavesTheListOpensNoMore();
+    void cardMayGoUnderItsHelp();
     void cardOpensAgainWhileItCloses();
     void clickBesideTheCardsCloses();
     void openingMovesNothingElse();
@@ -157,6 +158,18 @@ void PanelViewTest::cardThatLeavesTheListOpensNoMore()
     QTRY_VERIFY(model().editor()->textView());
     model().cards()->edit(id, u"changed"_s);
     QCOMPARE(model().editor()->textView()->text(), u"changed"_s);
+}
+
+void PanelViewTest::cardMayGoUnderItsHelp()
+{
+    QTest::failOnWarning(QRegularExpression(u"TypeError"_s));
+    QTest::mouseMove(&window(), middle(*shown("NoteCard").constFirst()));
+    QTRY_VERIFY(button(u"Pin"_s));
+    QTest::mouseMove(&window(), middle(*button(u"Pin"_s)));
+    QTRY_COMPARE(shown("HelpBubble").size(), 1);
+    store().remove(*store().notes().first());
+    QTRY_COMPARE(shown("NoteCard").size(), 2);
+    QTRY_VERIFY(shown("HelpBubble").isEmpty());
 }
 
 void PanelViewTest::cardOpensAgainWhileItCloses()
