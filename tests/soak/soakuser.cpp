@@ -190,9 +190,9 @@ void SoakUser::type()
                                     u"# h"_s,  u"**b**"_s, u"  "_s,      u"o"_s};
     const QString &word = oneOf(kWords);
     note(word);
-    // Where a button has the keyboard, a space presses it.
-    expectAnything();
     for (const QChar letter : word) {
+        // Where a button has the keyboard, a space presses it.
+        expectAnything();
         if (focusWindow())
             QTest::keyClick(focusWindow(), letter.toLatin1());
     }
