@@ -71,8 +71,10 @@ bool benchNotes(int notes, const QStringList &names, Table &table)
 {
     QString problem;
     const std::unique_ptr<VirtualDesktop> desktop = VirtualDesktop::start(problem);
-    // The first start makes the store.
-    if (!desktop || !desktop->prepareUser() || !desktop->startVesk()) {
+    // The first start makes the store, which is there when it ends.
+    const std::unique_ptr<ChildProcess> first =
+        desktop && desktop->prepareUser() ? desktop->startVesk() : nullptr;
+    if (!first || !first->quit()) {
         complain(problem.isEmpty() ? "Vesk did not start" : qPrintable(problem));
         return false;
     }

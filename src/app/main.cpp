@@ -59,10 +59,10 @@ void showFatal(vesk::Desktop &desktop, const vesk::MessageWindow::Content &conte
     QCoreApplication::exec();
 }
 
-int runUntilQuit(vesk::Desktop &desktop, vesk::NotesStore &store, vesk::ApplicationService &service,
-                 bool isInBackground)
+int runUntilQuit(vesk::Desktop &desktop, std::unique_ptr<vesk::GlobalKeys> keys, vesk::NotesStore &store,
+                 vesk::ApplicationService &service, bool isInBackground)
 {
-    vesk::VeskApp app(desktop, store, service);
+    vesk::VeskApp app(desktop, *keys, store, service);
     if (!isInBackground)
         app.showPanel();
     return QCoreApplication::exec();
@@ -103,15 +103,19 @@ int runVesk(bool isInBackground)
         return 1;
     }
     vesk::Desktop desktop(std::move(x11.connection), service);
+    // Before the notes are read: a key that is pressed meanwhile waits in the queue.
+    auto keys = std::make_unique<vesk::GlobalKeys>(desktop.hotKeys, vesk::KeysFile::standardPath());
+    keys->start();
     const QString path = vesk::NotesStore::standardPath();
     const vesk::NotesStore::OpenResult opened = vesk::NotesStore::open(path, desktop.clock);
     if (!opened.store) {
+        keys.reset();
         showFatal(desktop, vesk::describeStoreFailure(opened, vesk::StoreCopy(path)));
         return 1;
     }
     const vesk::DailyCopy dailyCopy(path, QCoreApplication::applicationFilePath(), desktop.clock);
     const vesk::SaveAtExit saveAtExit(*opened.store);
-    const int result = runUntilQuit(desktop, *opened.store, service, isInBackground);
+    const int result = runUntilQuit(desktop, std::move(keys), *opened.store, service, isInBackground);
     const bool isSaved = opened.store->save();
     // Any other result means that there is no display left to ask on.
     if (result == 0 && !isSaved)

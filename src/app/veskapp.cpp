@@ -29,8 +29,8 @@ QQmlEngine &lent(QQmlEngine &engine, Desktop &desktop, const GlobalKeys &keys)
 
 } // namespace
 
-VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &service)
-    : m_keys(desktop.hotKeys, KeysFile::standardPath())
+VeskApp::VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, ApplicationService &service)
+    : m_keys(keys)
     , m_watcher(desktop.pasteboard, desktop.clock)
     , m_reader({.accessibility = desktop.accessibility,
                 .workspace = desktop.workspace,
@@ -106,6 +106,7 @@ VeskApp::VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &servic
     followUpdater();
     m_watcher.start();
     connect(&m_keys, &GlobalKeys::problemsChanged, this, &VeskApp::tellOfKeys);
+    tellOfKeys();
     m_services.start();
     // Whoever looks up a key that did nothing may have freed it. The panel is shown first.
     connect(&m_panelWindow.window(), &QWindow::visibleChanged, this, [this](bool isVisible) {

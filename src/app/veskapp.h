@@ -35,8 +35,8 @@ class VeskApp final : public QObject
     Q_OBJECT
 
 public:
-    /// Arms the hot keys; the event loop does the rest. All have to outlive it.
-    VeskApp(Desktop &desktop, NotesStore &store, ApplicationService &service);
+    /// All have to outlive it.
+    VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, ApplicationService &service);
 
     void showPanel() { m_panelWindow.showPanel(); }
 
@@ -51,8 +51,7 @@ private:
     /// Reads the pasteboard for the panel's field.
     QCoro::Task<> pasteIntoField(Pasteboard &pasteboard);
 
-    // Shown by the views of the engine, so it ends after that one.
-    GlobalKeys m_keys;
+    GlobalKeys &m_keys;
     QQmlEngine m_engine;
     PasteboardWatcher m_watcher;
     SelectionReader m_reader;
