@@ -12,12 +12,15 @@ Rectangle {
     // Whether the Tab key goes through the buttons.
     required property bool canTabIn
     required property bool isPinned
+    property bool isMade: false
     readonly property bool isUp: root.isWanted || pin.activeFocus || copy.activeFocus || paste.activeFocus || trash.activeFocus
 
     signal pinToggled
     signal copied
     signal pasted
     signal removed
+    // A press came to where the buttons are, but not up.
+    signal missed
 
     implicitWidth: buttons.width + 4
     implicitHeight: buttons.height + 4
@@ -26,8 +29,10 @@ Rectangle {
     border.width: 1
     border.color: Theme.edge
     antialiasing: true
-    opacity: root.isUp ? 1 : 0
+    opacity: root.isMade && root.isUp ? 1 : 0
     enabled: root.isUp || root.canTabIn
+    // The first time too they fade in.
+    Component.onCompleted: root.isMade = true
 
     Behavior on opacity {
         NumberAnimation {
@@ -78,5 +83,12 @@ Rectangle {
             symbol: "trash"
             onClicked: root.removed()
         }
+    }
+
+    // A finger comes without a pointer before it; then what is not seen is not pressed.
+    MouseArea {
+        anchors.fill: parent
+        visible: !root.isUp
+        onClicked: root.missed()
     }
 }

@@ -18,6 +18,9 @@ Item {
     // How far the card is open, from 0 to 1.
     property real openness: root.isExpanded ? 1 : 0
     property Item form: null
+    readonly property bool wantsActions: hover.hovered || root.isSelected
+    property bool hasActions: false
+    property NoteActions actions: null
     readonly property real openHeight: root.form === null ? summary.height : root.form.height
 
     implicitHeight: Math.round(summary.height + (root.openHeight - summary.height) * root.openness) + 2 * 12
@@ -29,6 +32,8 @@ Item {
     Accessible.selectable: true
     Accessible.selected: root.isSelected
     Accessible.onPressAction: root.panel.cards.activate(root.row.cardId)
+
+    onWantsActionsChanged: root.hasActions = root.hasActions || root.wantsActions
 
     Behavior on openness {
         Spring {
@@ -108,31 +113,30 @@ Item {
         anchors.top: parent.top
         anchors.right: parent.right
         anchors.margins: Theme.margin
-        opacity: root.row.isPinned && !actions.isUp ? 1 - root.openness : 0
+        opacity: root.row.isPinned && !(root.actions?.isUp ?? false) ? 1 - root.openness : 0
         name: "pin.fill"
         size: Math.round(12 * Theme.fonts.scale)
         color: Theme.accent
     }
 
-    NoteActions {
-        id: actions
+    // Made when they are wanted for the first time, since most cards are never pointed at.
+    Repeater {
+        model: root.hasActions ? 1 : 0
+        onItemAdded: (index, item) => root.actions = item as NoteActions
 
-        anchors.top: parent.top
-        anchors.right: parent.right
-        anchors.margins: 7
-        isWanted: !root.isExpanded && hover.hovered
-        canTabIn: !root.isExpanded && root.isSelected
-        isPinned: root.row.isPinned
-        onPinToggled: root.panel.cards.togglePinned(root.row.cardId)
-        onCopied: root.panel.cards.copy(root.row.cardId)
-        onPasted: root.panel.cards.pasteBack(root.row.cardId)
-        onRemoved: root.panel.cards.remove(root.row.cardId)
-    }
-
-    // A finger comes without a pointer before it; then what is not seen is not pressed.
-    MouseArea {
-        anchors.fill: actions
-        visible: !actions.isUp
-        onClicked: root.panel.cards.activate(root.row.cardId)
+        NoteActions {
+            anchors.top: root.top
+            anchors.right: root.right
+            anchors.margins: 7
+            isWanted: !root.isExpanded && hover.hovered
+            canTabIn: !root.isExpanded && root.isSelected
+            // The row of a card that goes is gone before the buttons are.
+            isPinned: root.row?.isPinned ?? false
+            onPinToggled: root.panel.cards.togglePinned(root.row.cardId)
+            onCopied: root.panel.cards.copy(root.row.cardId)
+            onPasted: root.panel.cards.pasteBack(root.row.cardId)
+            onRemoved: root.panel.cards.remove(root.row.cardId)
+            onMissed: root.panel.cards.activate(root.row.cardId)
+        }
     }
 }

@@ -15,12 +15,13 @@ Item {
     required property string sourceBundle
     required property int done
     required property int total
+    property Item chip: null
 
     implicitHeight: Math.round(22 * Theme.fonts.scale)
 
     Row {
         anchors.left: parent.left
-        anchors.right: chip.visible ? chip.left : parent.right
+        anchors.right: root.chip?.left ?? parent.right
         anchors.verticalCenter: parent.verticalCenter
         anchors.verticalCenterOffset: 1
         spacing: Theme.space
@@ -44,14 +45,17 @@ Item {
         }
     }
 
-    ProgressChip {
-        id: chip
+    Repeater {
+        model: root.total > 0 ? 1 : 0
+        onItemAdded: (index, item) => root.chip = item
+        onItemRemoved: root.chip = null
 
-        anchors.right: parent.right
-        anchors.verticalCenter: parent.verticalCenter
-        anchors.verticalCenterOffset: 1
-        visible: root.total > 0
-        done: root.done
-        total: root.total
+        ProgressChip {
+            anchors.right: root.right
+            anchors.verticalCenter: root.verticalCenter
+            anchors.verticalCenterOffset: 1
+            done: root.done
+            total: root.total
+        }
     }
 }

@@ -88,7 +88,7 @@ void NoteListModel::setQuery(const QString &query)
     const bool narrows = query.contains(m_query);
     m_query = query;
     m_foldedQuery = searchtext::folded(query);
-    regroup(narrows ? narrowed() : grouped());
+    regroup(narrows ? narrowed() : grouped(), Regroup::AtOnce);
 }
 
 void NoteListModel::setShown(bool isShown)

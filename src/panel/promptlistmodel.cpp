@@ -81,7 +81,7 @@ void PromptListModel::setQuery(const QString &query)
         return;
     m_query = query;
     m_foldedQuery = searchtext::folded(query);
-    regroup(grouped());
+    regroup(grouped(), Regroup::AtOnce);
 }
 
 int PromptListModel::openCount() const

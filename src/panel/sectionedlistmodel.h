@@ -19,7 +19,7 @@ class SectionedListModel : public QAbstractListModel
     QML_UNCREATABLE("The panel's model has the lists.")
     /// No row at all: there are no records, or none matches.
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY isEmptyChanged)
-    /// The rows have just been exchanged in bulk; a view does not animate that.
+    /// The rows have just been exchanged in bulk, or by a search; a view does not animate that.
     Q_PROPERTY(bool isSweeping READ isSweeping NOTIFY isSweepingChanged)
 
 public:
@@ -64,6 +64,11 @@ protected:
     using CardPlace = ListSections::CardPlace;
     /// The entries of each section, in order.
     using Grouped = std::vector<ListSections::Entries>;
+    /// Whether a view may animate what goes and comes. What a search finds is to be there at once.
+    enum class Regroup {
+        InSight,
+        AtOnce
+    };
 
     SectionedListModel(std::vector<ListSections::Section> sections, Defaults &defaults, QObject *parent);
 
@@ -80,7 +85,7 @@ protected:
     /// Moves a card, or leaves it if it stands there already. `roles` are those that may have changed,
     /// all if there are none.
     void moveTo(const CardPlace &from, size_t section, Date date, const QList<int> &roles = {});
-    void regroup(const Grouped &wanted);
+    void regroup(const Grouped &wanted, Regroup how = Regroup::InSight);
     void rowsChanged(const QList<int> &roles);
     void setSweeping(bool isSweeping);
 

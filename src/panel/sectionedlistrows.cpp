@@ -106,7 +106,7 @@ void SectionedListModel::moveTo(const CardPlace &from, size_t section, Date date
     }
 }
 
-void SectionedListModel::regroup(const Grouped &wanted)
+void SectionedListModel::regroup(const Grouped &wanted, Regroup how)
 {
     std::vector<std::vector<Run>> steps;
     size_t count = 0;
@@ -115,7 +115,7 @@ void SectionedListModel::regroup(const Grouped &wanted)
         count += steps.back().size();
     }
     const bool isSweep = count > kMostRuns;
-    setSweeping(isSweep);
+    setSweeping(isSweep || how == Regroup::AtOnce);
 
     for (size_t i = 0; i < m_sections.count(); ++i) {
         if (steps.at(i).empty())
