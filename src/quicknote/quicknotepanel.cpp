@@ -168,9 +168,6 @@ bool QuickNotePanel::eventFilter(QObject *watched, QEvent *event)
         event->ignore();
         close();
         return true;
-    case QEvent::KeyPress:
-        // While it fades away, or is on its way to the other application, nothing is kept by it.
-        return !m_isShowing;
     case QEvent::MouseButtonPress:
         m_grip = static_cast<QMouseEvent *>(event)->globalPosition().toPoint() - m_view->position();
         break;
