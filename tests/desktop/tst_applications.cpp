@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/applicationtrial.h"
 #include "desktop/desktoptest.h"
+#include "reach/applicationtrial.h"
 
 using namespace Qt::StringLiterals;
 using namespace vesk;

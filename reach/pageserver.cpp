@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/pageserver.h"
+#include "reach/pageserver.h"
 
 #include <netinet/in.h>
 #include <poll.h>

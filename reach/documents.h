@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/applicationcase.h"
-#include "desktop/pageserver.h"
 #include "desktop/virtualdesktop.h"
+#include "reach/applicationcase.h"
+#include "reach/pageserver.h"
 
 namespace vesk {
 

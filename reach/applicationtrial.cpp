@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/applicationtrial.h"
+#include "reach/applicationtrial.h"
 
 #include "desktop/veskfacts.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/applicationcase.h"
+#include "reach/applicationcase.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/documents.h"
+#include "reach/documents.h"
 
 using namespace Qt::StringLiterals;
 

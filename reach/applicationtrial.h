@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/applicationcase.h"
 #include "desktop/clipboardholder.h"
-#include "desktop/documents.h"
 #include "desktop/virtualdesktop.h"
+#include "reach/applicationcase.h"
+#include "reach/documents.h"
 
 #include <QElapsedTimer>
 
