@@ -17,8 +17,6 @@ class MenuCommandsTest : public PanelTest
 
 private Q_SLOTS:
     void init();
-    void formatTheOpenNote_data();
-    void formatTheOpenNote();
     void formatWorksFromBesideTheText();
     void formatNeedsAnOpenNoteInSight();
     void newNoteIsTakenFromAnywhere();
@@ -38,27 +36,6 @@ void MenuCommandsTest::init()
     PanelTest::init();
     m_note = &addNote(u"milk"_s);
     show();
-}
-
-void MenuCommandsTest::formatTheOpenNote_data()
-{
-    QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("checklist") << Qt::Key_L << u"\u2610 milk"_s;
-    QTest::newRow("bullets") << Qt::Key_8 << u"\u2022 milk"_s;
-    QTest::newRow("heading") << Qt::Key_H << u"# milk"_s;
-}
-
-void MenuCommandsTest::formatTheOpenNote()
-{
-    QFETCH(Qt::Key, key);
-    QFETCH(QString, text);
-    const MenuCommands commands(window(), *model().editor());
-    openNote();
-    press(key, Qt::ControlModifier | Qt::ShiftModifier);
-    QTRY_COMPARE(m_note->text(), text);
-    press(key, Qt::ControlModifier | Qt::ShiftModifier);
-    QTRY_COMPARE(m_note->text(), u"milk"_s);
 }
 
 void MenuCommandsTest::formatWorksFromBesideTheText()

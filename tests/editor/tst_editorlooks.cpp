@@ -38,7 +38,6 @@ private Q_SLOTS:
     void placeholderLooksLikeTheTitle();
     void hostHearsTheHeight();
     void caretStaysInSight();
-    void takesTheKeyboardByItself();
     void selectedTextIsDragged();
     void wordsAndLinesAreClicked();
     void selectedTextIsPastedByTheMiddleButton();
@@ -239,17 +238,6 @@ void EditorLooksTest::caretStaysInSight()
     fixture.paint();
     QVERIFY(fixture.inWindow(QPointF()).y() > 0);
     QVERIFY(fixture.boxes().constFirst()->y() < 20);
-}
-
-void EditorLooksTest::takesTheKeyboardByItself()
-{
-    EditorFixture fixture;
-    fixture.load(u"text"_s);
-    fixture.edit->setFocus(false);
-    QVERIFY(!fixture.editor->property("hasFocus").toBool());
-    fixture.controller.textView()->focusWhenShown();
-    QTRY_VERIFY(fixture.editor->property("hasFocus").toBool());
-    QCOMPARE(fixture.caret(), 4);
 }
 
 void EditorLooksTest::selectedTextIsDragged()

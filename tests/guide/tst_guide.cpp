@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "../components/memorydesktop.h"
+#include "components/commandkeys.h"
 #include "guide/guide.h"
-#include "guide/guidetopics.h"
 #include "input/globalkeys.h"
-#include "input/keynames.h"
 #include "platform/memory/memorykeyboard.h"
 
-#include <QAbstractItemModelTester>
 #include <QAccessible>
 #include <QQuickItem>
 #include <QQuickView>
@@ -90,10 +88,7 @@ public:
     static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
 
 private Q_SLOTS:
-    static void showsTheKeysThatAreRegistered();
     static void showsTheUsersKeys();
-    static void showsNothingThatIsFalseHere();
-    static void comesByItselfUntilDismissed();
     static void isDismissed_data();
     static void isDismissed();
     static void keysScroll();
@@ -101,35 +96,6 @@ private Q_SLOTS:
     static void statusFollowsTheUser();
     static void isReadAloud();
 };
-
-void GuideTest::showsTheKeysThatAreRegistered()
-{
-    using namespace hotkeytable;
-    const QHash<QString, KeyCombination> registered{
-        {u"Open Vesk anywhere"_s, kOpen.combination},
-        {u"Write a new note"_s, kWrite.combination},
-        {u"Save selected text"_s, kQuickNote.combination},
-        {u"Add to your last note"_s, kAppend.combination},
-        {u"Make a checklist"_s, kChecklist.combination},
-        {u"Add to your checklist"_s, kAddToChecklist.combination},
-    };
-    CommandKeys keys(nullptr);
-    GuideTopics topics;
-    const QAbstractItemModelTester tester(&topics);
-    topics.setCommandKeys(&keys);
-    qsizetype checked = 0;
-    for (int row = 0; row < topics.rowCount(); ++row) {
-        const QModelIndex index = topics.index(row);
-        const QString title = index.data(GuideTopics::TitleRole).toString();
-        if (!registered.contains(title))
-            continue;
-        QCOMPARE(index.data(GuideTopics::KeysRole).toStringList(),
-                 keynames::glyphs(registered.value(title), nullptr));
-        QCOMPARE(index.data(GuideTopics::PlaceRole).toInt(), int(KeyLabels::Global));
-        ++checked;
-    }
-    QCOMPARE(checked, registered.size());
-}
 
 void GuideTest::showsTheUsersKeys()
 {
@@ -155,49 +121,6 @@ void GuideTest::showsTheUsersKeys()
     keys.retry();
     const QString free = heard(stage.view);
     QVERIFY2(free.contains(u"Add to your last note, Alt, Shift, Super, N | "_s), qPrintable(free));
-}
-
-void GuideTest::showsNothingThatIsFalseHere()
-{
-    CommandKeys keys(nullptr);
-    GuideTopics topics;
-    topics.setCommandKeys(&keys);
-    for (int row = 0; row < topics.rowCount(); ++row) {
-        const QString all = topics.index(row).data(GuideTopics::SpokenRole).toString() + u' '
-                            + topics.index(row).data(GuideTopics::TextRole).toString();
-        for (const QString &word : {u"iCloud"_s, u"Finder"_s, u"Mac"_s, u"Apple"_s, u"Pathname"_s})
-            QVERIFY2(!all.contains(word), qPrintable(all));
-        // What no keyboard of this desktop has on its keys.
-        QVERIFY2(!all.contains(QRegularExpression(u"[\u2318\u2325\u2303\u21E7\u21A9\u232B\u2423]"_s)),
-                 qPrintable(all));
-    }
-    const QModelIndex panel = topics.index(topics.rowCount() - 1);
-    QCOMPARE(panel.data(GuideTopics::TextRole).toString(),
-             u"Move between notes. Return opens one, Ctrl+Enter pastes it into the app you came from, "
-             "Ctrl+Backspace deletes it, Ctrl+F searches."_s);
-}
-
-void GuideTest::comesByItselfUntilDismissed()
-{
-    MemoryClock clock;
-    MemoryAccessibility accessibility(clock);
-    MemoryDefaults defaults;
-    {
-        Guide guide(accessibility, defaults);
-        guide.greet();
-        QVERIFY(guide.isShown());
-        guide.setAside();
-        QVERIFY(!guide.isShown());
-        guide.dismiss();
-        guide.greet();
-        QVERIFY2(guide.isShown(), "What was only set aside counts as seen.");
-        guide.dismiss();
-    }
-    Guide guide(accessibility, defaults);
-    guide.greet();
-    QVERIFY(!guide.isShown());
-    guide.show();
-    QVERIFY(guide.isShown());
 }
 
 void GuideTest::isDismissed_data()
@@ -296,8 +219,17 @@ void GuideTest::isReadAloud()
     for (const QString &part :
          {u"Welcome to Vesk"_s, u"A quiet notes pad that catches whatever you select."_s,
           u"Open Vesk anywhere, Alt, Super, T | Press it in any app"_s,
-          u"Checkboxes and lists, [, ], Space | Type [ ] and a space for a checkbox"_s, u"Got it"_s})
+          u"Write a new note, Ctrl, Alt, Super, N | "_s, u"Save selected text, Alt, Super, N | "_s,
+          u"Add to your last note, Alt, Shift, Super, N | "_s, u"Make a checklist, Alt, Super, C | "_s,
+          u"Add to your checklist, Alt, Shift, Super, C | "_s,
+          u"Checkboxes and lists, [, ], Space | Type [ ] and a space for a checkbox"_s,
+          u"Return opens one, Ctrl+Enter pastes it into the app you came from, Ctrl+Backspace deletes it, "
+          "Ctrl+F searches."_s,
+          u"Got it"_s})
         QVERIFY2(all.contains(part), qPrintable(all));
+    // What no keyboard of this desktop has on its keys.
+    static const QRegularExpression kGlyphs(u"[\u2318\u2325\u2303\u21E7\u21A9\u232B\u2423]"_s);
+    QVERIFY2(!all.contains(kGlyphs), qPrintable(all));
 }
 
 QTEST_MAIN(GuideTest)

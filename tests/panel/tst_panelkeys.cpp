@@ -20,7 +20,6 @@ private Q_SLOTS:
     void escapeGoesStepByStep();
     void deleteKeyBelongsToTheList_data();
     void deleteKeyBelongsToTheList();
-    void composerKeepsABlankDraft();
     void composerCommits();
     void shortcutsFromAnyField_data();
     void shortcutsFromAnyField();
@@ -133,15 +132,6 @@ void PanelKeysTest::deleteKeyBelongsToTheList()
     press(Qt::Key_Backspace, Qt::ControlModifier);
     QTEST(static_cast<int>(store().notes().count()), "count");
     QTEST(focusedText(), "focused");
-}
-
-void PanelKeysTest::composerKeepsABlankDraft()
-{
-    press(Qt::Key_N, Qt::ControlModifier);
-    type(u"  "_s);
-    press(Qt::Key_Return);
-    QCOMPARE(model().draft(), u"  "_s);
-    QCOMPARE(store().notes().count(), 3);
 }
 
 void PanelKeysTest::composerCommits()

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void menuClearsDonePrompts();
     void tabKeyGoesAround();
     void buttonIsPressedByReturn();
+    void bannerFollowsTrust();
 
 private:
     /// The one button with this name; null if it is not shown.
@@ -372,6 +373,16 @@ void PanelViewTest::buttonIsPressedByReturn()
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     QVERIFY(model().openNote()->id());
+}
+
+void PanelViewTest::bannerFollowsTrust()
+{
+    m_fixture->accessibility.setTrusted(false);
+    QTRY_VERIFY(button(u"Open Settings"_s));
+    click(*button(u"Open Settings"_s));
+    QCOMPARE(m_fixture->accessibility.askCount(), 1);
+    m_fixture->accessibility.setTrusted(true);
+    QTRY_VERIFY(!button(u"Open Settings"_s));
 }
 
 QTEST_MAIN(PanelViewTest)

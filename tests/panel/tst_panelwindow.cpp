@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "paneltest.h"
 
-#include <QAccessible>
-
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
@@ -15,31 +13,9 @@ private Q_SLOTS:
     void init() { m_fixture = std::make_unique<PanelFixture>(); }
     void comesUpOnTheScreenUnderThePointer();
     void toggles();
-    void closingOnlyHides();
-    void requestForAFieldBringsItUp();
     void fadesOnlyWhereThatIsWanted_data();
     void fadesOnlyWhereThatIsWanted();
-    void bannerFollowsTrust();
-
-private:
-    /// The item that a screen reader knows under this name; null if there is none on screen.
-    [[nodiscard]] QQuickItem *find(const QString &name) const;
 };
-
-QQuickItem *PanelWindowTest::find(const QString &name) const
-{
-    QList<QQuickItem *> items{window().contentItem()};
-    while (!items.isEmpty()) {
-        QQuickItem *item = items.takeLast();
-        if (!item->isVisible())
-            continue;
-        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(item);
-        if (accessible != nullptr && accessible->text(QAccessible::Name) == name)
-            return item;
-        items += item->childItems();
-    }
-    return nullptr;
-}
 
 void PanelWindowTest::comesUpOnTheScreenUnderThePointer()
 {
@@ -76,26 +52,11 @@ void PanelWindowTest::toggles()
     QVERIFY(panel().isShown());
     QVERIFY(QTest::qWaitForWindowActive(&window()));
     QCOMPARE(model().keyboard()->activeField(), Field::None);
-}
-
-void PanelWindowTest::closingOnlyHides()
-{
-    panel().showPanel();
+    // What its window manager closes is only hidden.
     window().close();
     QVERIFY(m_fixture->application.isHidden());
     panel().showPanel();
     QVERIFY(panel().isShown());
-}
-
-void PanelWindowTest::requestForAFieldBringsItUp()
-{
-    model().requestField(Field::None);
-    QVERIFY(!panel().isShown());
-    model().requestField(Field::Composer);
-    QVERIFY(panel().isShown());
-    QVERIFY(QTest::qWaitForWindowActive(&window()));
-    type(u"a"_s);
-    QCOMPARE(model().draft(), u"a"_s);
 }
 
 void PanelWindowTest::fadesOnlyWhereThatIsWanted_data()
@@ -118,20 +79,6 @@ void PanelWindowTest::fadesOnlyWhereThatIsWanted()
     QTEST(window().opacity() < 1, "fades");
     panel().showPanel();
     QTRY_COMPARE(window().opacity(), 1.0);
-}
-
-void PanelWindowTest::bannerFollowsTrust()
-{
-    m_fixture->appearance.setReduceMotion(true);
-    m_fixture->accessibility.setTrusted(false);
-    panel().showPanel();
-    QVERIFY(QTest::qWaitForWindowExposed(&window()));
-    QQuickItem *button = find(u"Open Settings"_s);
-    QVERIFY(button);
-    QTest::mouseClick(&window(), Qt::LeftButton, {}, button->mapToScene(QPointF(20, 12)).toPoint());
-    QCOMPARE(m_fixture->accessibility.askCount(), 1);
-    m_fixture->accessibility.setTrusted(true);
-    QVERIFY(!find(u"Open Settings"_s));
 }
 
 QTEST_MAIN(PanelWindowTest)
