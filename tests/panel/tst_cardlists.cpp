@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "notes/notesstore.h"
 #include "panel/notelistmodel.h"
+#include "panel/promptlistmodel.h"
 #include "platform/memory/memoryclock.h"
 #include "platform/memory/memorydefaults.h"
 
@@ -20,7 +21,8 @@ using namespace vesk;
 using Role = NoteListModel::Role;
 using Scope = NoteListModel::Scope;
 
-class NoteListModelTest : public QObject
+/// The rows of the notes and of the prompts, whatever happens to them.
+class CardListsTest : public QObject
 {
     Q_OBJECT
 
@@ -36,10 +38,14 @@ private Q_SLOTS:
     void dayEndsWhileShown();
     void timeZoneChangesWhileShown();
     void cardShowsThreeItems();
+    void promptsStandInTheirSections();
+    void keysBeginAfterACollapsedSection();
 
 private:
     Note &addNote(const QString &text);
+    Prompt &addPrompt(const QString &text, Prompt::Origin origin = Prompt::Origin::FollowUp);
     [[nodiscard]] QStringList shown() const;
+    [[nodiscard]] QString shownPrompts() const;
     [[nodiscard]] QStringList recomputed() const;
     [[nodiscard]] QVariant at(int row, int role) const { return m_list->data(m_list->index(row), role); }
     void changeAnything(QRandomGenerator &random);
@@ -49,13 +55,14 @@ private:
     std::unique_ptr<MemoryDefaults> m_defaults;
     std::unique_ptr<NotesStore> m_store;
     std::unique_ptr<NoteListModel> m_list;
+    std::unique_ptr<PromptListModel> m_prompts;
     QString m_query;
     Scope m_scope = Scope::AllNotes;
     /// The dates of all notes when one was opened.
     std::optional<QHash<QString, Date>> m_frozen;
 };
 
-void NoteListModelTest::init()
+void CardListsTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     m_clock = std::make_unique<MemoryClock>();
@@ -63,26 +70,35 @@ void NoteListModelTest::init()
     m_store = NotesStore::open(m_folder->filePath(u"Notes.store"_s), *m_clock).store;
     QVERIFY(m_store);
     m_list = std::make_unique<NoteListModel>(*m_store, *m_clock, *m_defaults);
+    m_prompts = std::make_unique<PromptListModel>(*m_store, *m_defaults);
     m_query.clear();
     m_scope = Scope::AllNotes;
     m_frozen.reset();
 }
 
-void NoteListModelTest::cleanup()
+void CardListsTest::cleanup()
 {
     m_list.reset();
+    m_prompts.reset();
     m_store.reset();
 }
 
-Note &NoteListModelTest::addNote(const QString &text)
+Note &CardListsTest::addNote(const QString &text)
 {
     Note &note = m_store->insert(std::make_unique<Note>(*m_clock, text));
     m_clock->advance(1s);
     return note;
 }
 
+Prompt &CardListsTest::addPrompt(const QString &text, Prompt::Origin origin)
+{
+    Prompt &prompt = m_store->insert(std::make_unique<Prompt>(*m_clock, text, origin));
+    m_clock->advance(1s);
+    return prompt;
+}
+
 /// The rows as a user reads them.
-QStringList NoteListModelTest::shown() const
+QStringList CardListsTest::shown() const
 {
     QStringList rows;
     for (int row = 0; row < m_list->rowCount(); ++row) {
@@ -94,8 +110,20 @@ QStringList NoteListModelTest::shown() const
     return rows;
 }
 
+QString CardListsTest::shownPrompts() const
+{
+    QStringList rows;
+    for (int row = 0; row < m_prompts->rowCount(); ++row) {
+        const auto at = [&](int role) { return m_prompts->data(m_prompts->index(row), role).toString(); };
+        rows.append(at(PromptListModel::TextRole).isEmpty()
+                        ? at(PromptListModel::SectionTitleRole) + u' ' + at(PromptListModel::SectionCountRole)
+                        : at(PromptListModel::TextRole));
+    }
+    return rows.join(u", "_s);
+}
+
 /// The same from nothing but the store.
-QStringList NoteListModelTest::recomputed() const
+QStringList CardListsTest::recomputed() const
 {
     const QDate today = QDateTime::fromMSecsSinceEpoch(m_clock->now().time_since_epoch() / 1ms).date();
     std::array<QList<std::pair<Date, RecordId>>, 3> sections;
@@ -129,7 +157,7 @@ QStringList NoteListModelTest::recomputed() const
     return rows;
 }
 
-void NoteListModelTest::changeAnything(QRandomGenerator &random)
+void CardListsTest::changeAnything(QRandomGenerator &random)
 {
     static const QStringList words{u"tea"_s, u"Tea time"_s, u"coffee"_s, u"\u2610 milk"_s, u"bread"_s};
     const auto word = [&random] { return words.at(random.bounded(static_cast<int>(words.size()))); };
@@ -198,7 +226,7 @@ void NoteListModelTest::changeAnything(QRandomGenerator &random)
     }
 }
 
-void NoteListModelTest::randomChangesEqualAPlainRecomputation()
+void CardListsTest::randomChangesEqualAPlainRecomputation()
 {
     const QAbstractItemModelTester tester(m_list.get(),
                                           QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -215,7 +243,7 @@ void NoteListModelTest::randomChangesEqualAPlainRecomputation()
     QCOMPARE(resets.size(), 0);
 }
 
-void NoteListModelTest::pinningMovesOneCard()
+void CardListsTest::pinningMovesOneCard()
 {
     addNote(u"first"_s);
     Note &second = addNote(u"second"_s);
@@ -230,7 +258,7 @@ void NoteListModelTest::pinningMovesOneCard()
     QCOMPARE(shown(), recomputed());
 }
 
-void NoteListModelTest::largeSearchIsNoReset()
+void CardListsTest::largeSearchIsNoReset()
 {
     for (int i = 0; i < 300; ++i)
         addNote(i % 2 == 0 ? u"tea"_s : u"coffee"_s);
@@ -248,7 +276,7 @@ void NoteListModelTest::largeSearchIsNoReset()
     QVERIFY(!m_list->isSweeping());
 }
 
-void NoteListModelTest::collapsedSectionIsRememberedAndLeavesTheKeys()
+void CardListsTest::collapsedSectionIsRememberedAndLeavesTheKeys()
 {
     Note &old = addNote(u"old"_s);
     m_clock->advance(48h);
@@ -264,7 +292,7 @@ void NoteListModelTest::collapsedSectionIsRememberedAndLeavesTheKeys()
     QCOMPARE(afterRestart.rowCount(), 3);
 }
 
-void NoteListModelTest::openNoteStaysInItsPlace()
+void CardListsTest::openNoteStaysInItsPlace()
 {
     Note &old = addNote(u"old"_s);
     m_clock->advance(48h);
@@ -289,7 +317,7 @@ void NoteListModelTest::openNoteStaysInItsPlace()
     QCOMPARE(removed.size(), 1); // The header of the section that it has left empty.
 }
 
-void NoteListModelTest::openNoteStaysWhateverIsWritten()
+void CardListsTest::openNoteStaysWhateverIsWritten()
 {
     Note &list = addNote(u"\u2610 milk"_s);
     m_list->setScope(Scope::Checklists);
@@ -301,7 +329,7 @@ void NoteListModelTest::openNoteStaysWhateverIsWritten()
     QCOMPARE(m_list->visibleCount(), 0);
 }
 
-void NoteListModelTest::dayEndsWhileShown()
+void CardListsTest::dayEndsWhileShown()
 {
     const QDate today = QDateTime::fromMSecsSinceEpoch(m_clock->now().time_since_epoch() / 1ms).date();
     const Date midnight{std::chrono::milliseconds{today.addDays(1).startOfDay().toMSecsSinceEpoch()}};
@@ -321,7 +349,7 @@ void NoteListModelTest::dayEndsWhileShown()
     QCOMPARE(m_clock->sleeperCount(), 0);
 }
 
-void NoteListModelTest::timeZoneChangesWhileShown()
+void CardListsTest::timeZoneChangesWhileShown()
 {
     const QByteArray zone = qgetenv("TZ");
     const auto restore = qScopeGuard([&zone] {
@@ -346,7 +374,7 @@ void NoteListModelTest::timeZoneChangesWhileShown()
     QCOMPARE(at(0, Role::SectionTitleRole).toString(), u"Earlier"_s);
 }
 
-void NoteListModelTest::cardShowsThreeItems()
+void CardListsTest::cardShowsThreeItems()
 {
     addNote(u"\u2611 a\n\u2610 b\ntext\n\u2610 c\n\u2610 d\n\u2610 e"_s);
     QCOMPARE(at(1, NoteListModel::ItemTextsRole).toStringList(), QStringList({u"a"_s, u"b"_s, u"c"_s}));
@@ -361,5 +389,50 @@ void NoteListModelTest::cardShowsThreeItems()
     QCOMPARE(at(1, NoteListModel::TitleRole).toString(), u"New Note"_s);
 }
 
-QTEST_GUILESS_MAIN(NoteListModelTest)
-#include "tst_notelistmodel.moc"
+void CardListsTest::promptsStandInTheirSections()
+{
+    const QAbstractItemModelTester tester(m_prompts.get(),
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
+    addPrompt(u"older"_s, Prompt::Origin::Captured);
+    Prompt &middle = addPrompt(u"middle"_s, Prompt::Origin::Captured);
+    addPrompt(u"Newer"_s, Prompt::Origin::Captured);
+    addPrompt(u"why"_s);
+    const QString before = u"Follow-up prompts 1, why, Saved from selection 3, Newer, middle, older"_s;
+    QCOMPARE(shownPrompts(), before);
+    QCOMPARE(m_prompts->openCount(), 4);
+    QVERIFY(!m_prompts->hasDone());
+
+    QSignalSpy moved(m_prompts.get(), &QAbstractItemModel::rowsMoved);
+    middle.toggleDone();
+    QCOMPARE(moved.size(), 1);
+    QCOMPARE(shownPrompts(),
+             u"Follow-up prompts 1, why, Saved from selection 2, Newer, older, Done 1, middle"_s);
+    QCOMPARE(m_prompts->openCount(), 3);
+    QVERIFY(m_prompts->hasDone());
+    m_prompts->setQuery(u"E"_s);
+    QCOMPARE(shownPrompts(), u"Saved from selection 2, Newer, older, Done 1, middle"_s);
+    m_prompts->setQuery({});
+    middle.toggleDone();
+    QCOMPARE(moved.size(), 2);
+    QCOMPARE(shownPrompts(), before);
+
+    m_prompts->setQuery(u"middle"_s);
+    addPrompt(u"not this one"_s);
+    addPrompt(u"in the middle"_s);
+    m_store->remove(middle);
+    QCOMPARE(shownPrompts(), u"Follow-up prompts 1, in the middle"_s);
+    QCOMPARE(m_prompts->openCount(), 5);
+}
+
+void CardListsTest::keysBeginAfterACollapsedSection()
+{
+    addPrompt(u"follow-up"_s);
+    const Prompt &saved = addPrompt(u"saved"_s, Prompt::Origin::Captured);
+    m_prompts->toggleSection(0);
+    QCOMPARE(m_prompts->visibleCount(), 1);
+    QCOMPARE(m_prompts->visibleAt(0), saved.id());
+    QCOMPARE(PromptListModel(*m_store, *m_defaults).visibleAt(0), saved.id());
+}
+
+QTEST_GUILESS_MAIN(CardListsTest)
+#include "tst_cardlists.moc"
