@@ -26,10 +26,8 @@ private Q_SLOTS:
     void cleanupTestCase();
     void takersAreTold_data();
     void takersAreTold();
-    void copyReachesAnEditor();
     void heldLetterIsWaitedFor();
     void letterThatStaysDownIsGivenUp();
-    void terminalGetsNoCopy();
     void hungApplicationIsNotAskedToCopyLater();
 
 private:
@@ -90,15 +88,6 @@ void TestEventPoster::takersAreTold()
     QCOMPARE(!keysFor(EventPoster::Command::Paste, taker).isEmpty(), getsPaste);
 }
 
-void TestEventPoster::copyReachesAnEditor()
-{
-    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
-    QVERIFY(QCoro::waitFor(m_poster->post(EventPoster::Command::Copy, [] { return true; })));
-    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [this] {
-        return m_desktop->display().readSelection("CLIPBOARD", 1s) == m_lines.at(0);
-    }));
-}
-
 void TestEventPoster::heldLetterIsWaitedFor()
 {
     VERIFY_ON(*m_desktop, m_editor->selectLine(1));
@@ -130,18 +119,6 @@ void TestEventPoster::letterThatStaysDownIsGivenUp()
     QVERIFY(!QCoro::waitFor(m_poster->post(EventPoster::Command::Copy, [] { return true; })));
     for (const xcb_keysym_t key : keys)
         m_desktop->keyboard().release(key);
-}
-
-void TestEventPoster::terminalGetsNoCopy()
-{
-    const std::unique_ptr<ChildProcess> terminal = m_desktop->run(u"xterm"_s, {u"-e"_s, u"sleep"_s, u"60"_s});
-    QVERIFY(terminal);
-    const std::optional<Window> window = m_desktop->windows().waitViewableOf(terminal->pid(), {}, kBound);
-    VERIFY_ON(*m_desktop, window);
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(*window, kBound));
-    QVERIFY(!QCoro::waitFor(m_poster->post(EventPoster::Command::Copy, [] { return true; })));
-    QTest::qWait(100);
-    QVERIFY(terminal->isRunning());
 }
 
 void TestEventPoster::hungApplicationIsNotAskedToCopyLater()
