@@ -16,7 +16,6 @@ private Q_SLOTS:
     void cleanup();
     void docksKeepTheirRoom_data();
     void docksKeepTheirRoom();
-    void comesUpOnTheMonitorOfThePointer();
     void standsInItsCornerAtEveryScale_data();
     void standsInItsCornerAtEveryScale();
     void unpluggedMonitorGivesThePanelBack();
@@ -128,33 +127,13 @@ void TestPanelPlace::docksKeepTheirRoom()
     QVERIFY2(waitInCorner(QPoint(1600, 1000)), qPrintable(where()));
 }
 
-void TestPanelPlace::comesUpOnTheMonitorOfThePointer()
-{
-    const QRect left(0, 0, 700, 900);
-    const QRect right(700, 100, 900, 700);
-    m_monitors->set({left, right});
-    // A dock at the lower edge of the right one only.
-    PlainWindow lower(m_desktop->display(), u"Lower"_s, QRect(700, 750, 900, 50));
-    lower.setStrut({0, 0, 0, 250, 0, 0, 0, 0, 0, 0, 700, 1599});
-    lower.show();
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(u"Lower"_s, kBound));
-
-    m_monitors->movePointer(QPoint(1000, 400));
-    toggle();
-    QVERIFY2(waitInCorner(QPoint(1600, 750)), qPrintable(where()));
-    toggle();
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
-    m_monitors->movePointer(QPoint(100, 400));
-    toggle();
-    QVERIFY2(waitInCorner(QPoint(700, 900)), qPrintable(where()));
-}
-
 void TestPanelPlace::standsInItsCornerAtEveryScale_data()
 {
     QTest::addColumn<QString>("factors");
     QTest::addColumn<qreal>("left");
     QTest::addColumn<qreal>("right");
 
+    QTest::newRow("1") << u"1;1"_s << 1.0 << 1.0;
     QTest::newRow("1.25") << u"1.25;1.25"_s << 1.25 << 1.25;
     QTest::newRow("1.5") << u"1.5;1.5"_s << 1.5 << 1.5;
     QTest::newRow("2") << u"2;2"_s << 2.0 << 2.0;

@@ -5,7 +5,8 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
-/// What counts as selected, in an application that tells both the X server and the accessibility bus.
+/// What counts as selected, in an application that tells both the X server and the accessibility bus, and
+/// the way of a text by the clipboard.
 class TestSelection : public EditorTest
 {
     Q_OBJECT
@@ -13,11 +14,17 @@ class TestSelection : public EditorTest
 private Q_SLOTS:
     void selectionOutlivesATurnToAnotherWindow();
     void withoutConsentNothingIsRead();
+    void noteIsPastedIntoTheEditor();
+    void terminalSurvivesAndTheRecentCopyIsKept();
 
 private:
     [[nodiscard]] bool setConsent(const QString &action)
     {
         return runToEnd(VirtualDesktop::veskProgram(), {u"access"_s, action});
+    }
+    [[nodiscard]] std::optional<QString> clipboard()
+    {
+        return m_desktop->display().readSelection("CLIPBOARD", 1s);
     }
 };
 
@@ -26,9 +33,10 @@ void TestSelection::selectionOutlivesATurnToAnotherWindow()
 {
     VERIFY_ON(*m_desktop, m_editor->selectLine(1));
     togglePanel();
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
-    togglePanel();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kPanel, kBound));
+    m_desktop->keyboard().tap({XK_Escape});
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+    QVERIFY(!m_desktop->windows().findViewable(kPanel));
     capture();
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
     QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(1)});
@@ -61,6 +69,75 @@ void TestSelection::withoutConsentNothingIsRead()
     capture();
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
     QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(0)});
+}
+
+void TestSelection::noteIsPastedIntoTheEditor()
+{
+    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
+    capture();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+    VERIFY_ON(*m_desktop, m_editor->deselect());
+
+    m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}, kFinger);
+    const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
+    VERIFY_ON(*m_desktop, panel);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
+    m_desktop->keyboard().tap({XK_Down}, kFinger);
+    m_desktop->keyboard().tap({XK_Control_L, XK_Return}, kFinger);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+
+    // The editor marks a document that has changed; until then it must not be disturbed by reading it.
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(u'*' + m_editor->window().title, kBound));
+    // At the start of the document, where the caret was, and once.
+    QCOMPARE(m_editor->text(), m_lines.at(1) + m_lines.join(u'\n') + u'\n');
+    QCOMPARE(clipboard(), m_lines.at(1));
+
+    // Vesk owns the clipboard now, and pastes it into its own field without waiting for itself.
+    m_desktop->keyboard().tap({XK_Control_L, XK_Super_L, XK_Alt_L, XK_n}, kFinger);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
+    m_desktop->keyboard().tap({XK_Control_L, XK_v}, kFinger);
+    QTest::qWait(100); // The text comes a moment after the key.
+    m_desktop->keyboard().type(u" tomorrow"_s);
+    m_desktop->keyboard().tap({XK_Return}, kFinger);
+    const QStringList expected{m_lines.at(1), m_lines.at(1) + u" tomorrow"_s};
+    constexpr std::chrono::seconds kAtOnce{2};
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(
+                              kAtOnce, [&] { return m_desktop->notes().texts() == expected; }));
+}
+
+/// Nothing is selected in the terminal, and it takes Copy for an interrupt.
+void TestSelection::terminalSurvivesAndTheRecentCopyIsKept()
+{
+    const std::unique_ptr<ChildProcess> terminal =
+        m_desktop->run(u"xterm"_s, {u"-e"_s, u"sleep"_s, u"100"_s});
+    QVERIFY(terminal);
+    const std::optional<Window> window = m_desktop->windows().waitViewableOf(terminal->pid(), {}, kBound);
+    VERIFY_ON(*m_desktop, window);
+    // A terminal that takes the keyboard later takes it from the box, which then goes.
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*window, kBound));
+    capture();
+    const std::optional<Window> box = m_desktop->windows().waitViewable(kQuickNote, kBound);
+    VERIFY_ON(*m_desktop, box);
+    // Only then does the editor, activated next, keep the keyboard.
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(*box, kBound));
+    QVERIFY(terminal->isRunning());
+    QVERIFY(m_desktop->notes().texts().isEmpty());
+
+    m_desktop->windows().activate(m_editor->window());
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
+    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    m_desktop->keyboard().tap({XK_Control_L, XK_c}, kFinger);
+    VERIFY_ON(*m_desktop,
+              m_desktop->display().waitUntil(kBound, [this] { return clipboard() == m_lines.at(0); }));
+    QTest::qWait(int(kCaptureGate.count()));
+    m_desktop->windows().activate(*window);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(*window, kBound));
+    capture();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
+    QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(0)});
+    QVERIFY(terminal->isRunning());
+    QCOMPARE(clipboard(), m_lines.at(0));
 }
 
 int main(int argc, char **argv)

@@ -20,30 +20,15 @@ QByteArray contentsOf(const QString &path)
 
 } // namespace
 
-/// How Vesk starts when it runs already or its store cannot be opened, and how it ends.
+/// How Vesk ends when its store cannot be opened.
 class TestStartAndStop : public VeskTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void secondStartShowsTheFirstOnesPanel();
     void unusableStoreIsSaidAndLeftAlone_data();
     void unusableStoreIsSaidAndLeftAlone();
 };
-
-void TestStartAndStop::secondStartShowsTheFirstOnesPanel()
-{
-    QVERIFY(startVesk());
-    VERIFY_ON(*m_desktop, !m_desktop->windows().findViewable(kPanel));
-
-    const std::unique_ptr<ChildProcess> second = m_desktop->run(VirtualDesktop::veskProgram());
-    QVERIFY(second && second->waitForExit(kBound));
-    QCOMPARE(second->exitCode(), 0);
-    const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
-    VERIFY_ON(*m_desktop, panel);
-    QCOMPARE(panel->pid, m_vesk->pid());
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
-}
 
 void TestStartAndStop::unusableStoreIsSaidAndLeftAlone_data()
 {
