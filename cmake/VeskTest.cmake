@@ -2,7 +2,8 @@
 
 # vesk_test(<name> SOURCES <file>... [USES <layer>...] [LIBRARIES <library>...])
 #
-# Makes the test tst_<name> of one folder of tests/ and registers it; it runs offscreen.
+# Makes the test tst_<name> of one folder of tests/ and registers it; it runs offscreen
+# and paints without a graphics card.
 function(vesk_test name)
     cmake_parse_arguments(arg "" "" "SOURCES;USES;LIBRARIES" ${ARGN})
     set(target tst_${name})
@@ -13,5 +14,5 @@ function(vesk_test name)
     vesk_compile_options(${target})
     add_test(NAME ${name} COMMAND ${target})
     set_tests_properties(${name} PROPERTIES LABELS unit TIMEOUT 120
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LANGUAGE=")
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software;LC_ALL=C.UTF-8;LANGUAGE=")
 endfunction()

@@ -17,9 +17,6 @@ class TestAppUpdater : public QObject
 {
     Q_OBJECT
 
-public:
-    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
-
 private Q_SLOTS:
     void tells_data();
     void tells();

@@ -47,6 +47,7 @@ void MenuCommandsTest::formatWorksFromBesideTheText()
     QVERIFY(model().editor()->textView() && !model().keyboard()->isEditing());
     press(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
     QTRY_COMPARE(m_note->text(), u"\u2610 milk"_s);
+    QVERIFY2(model().keyboard()->isEditing(), "The text has the keyboard.");
 }
 
 void MenuCommandsTest::formatNeedsAnOpenNoteInSight()

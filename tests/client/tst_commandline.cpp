@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "../files.h"
 #include "client/commandline.h"
 #include "client/keyslist.h"
 #include "client/noteslist.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -106,9 +106,7 @@ void TestCommandLine::isToldEverywhere_data()
 void TestCommandLine::isToldEverywhere()
 {
     QFETCH(QString, file);
-    QFile packaged(QStringLiteral(VESK_PACKAGING "/") + file);
-    QVERIFY(packaged.open(QIODevice::ReadOnly));
-    QString text = QString::fromUtf8(packaged.readAll());
+    QString text = QString::fromUtf8(contentsOf(QStringLiteral(VESK_PACKAGING "/") + file));
     // As they are written in a manual page, and for fish.
     text.replace(u"\\-"_s, u"-"_s).replace(u"-l "_s, u"--"_s);
 

@@ -17,7 +17,6 @@ class TestVeskServices : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void selectionGoesWhereTheKeySays_data();
     void selectionGoesWhereTheKeySays();
     void commandsKeepTheirDistance_data();

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "../files.h"
 #include "components/commandkeys.h"
 #include "input/globalkeys.h"
 #include "platform/memory/memorykeyboard.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -50,15 +50,13 @@ void TestCommandKeys::menuTellsWhatWorks()
     QFETCH(const QList<quint32>, taken);
     QFETCH(const QStringList, holders);
     const QTemporaryDir folder;
-    QFile written(folder.filePath(u"Keys.conf"_s));
-    QVERIFY(written.open(QIODevice::WriteOnly));
-    written.write(file.toUtf8());
-    written.close();
+    const QString written = folder.filePath(u"Keys.conf"_s);
+    QVERIFY(writeFile(written, file.toUtf8()));
     MemoryHotKeys keyboard;
     for (const quint32 id : taken)
         keyboard.setTaken(kAll.at(id - 1).combination);
     keyboard.setHolders(holders);
-    GlobalKeys keys(keyboard, written.fileName());
+    GlobalKeys keys(keyboard, written);
     const CommandKeys shown(&keys);
     keys.start();
     QTEST(shown.newNoteTitle(), "newNote");

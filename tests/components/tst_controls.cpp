@@ -15,9 +15,6 @@ class ControlsTest : public QObject
 {
     Q_OBJECT
 
-public:
-    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
-
 private Q_SLOTS:
     void menuIsChosenFromByKeys_data();
     void menuIsChosenFromByKeys();

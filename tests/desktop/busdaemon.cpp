@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/busdaemon.h"
 
-#include <QFile>
+#include "files.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -26,16 +26,15 @@ constexpr auto kConfiguration = R"(<busconfig>
 std::unique_ptr<BusDaemon> BusDaemon::start()
 {
     std::unique_ptr<BusDaemon> bus(new BusDaemon);
-    QFile file(bus->m_folder.filePath(u"bus.conf"_s));
-    if (!file.open(QIODevice::WriteOnly) || file.write(kConfiguration) < 0)
+    const QString file = bus->m_folder.filePath(u"bus.conf"_s);
+    if (!writeFile(file, kConfiguration))
         return nullptr;
-    file.close();
-    bus->m_process = ChildProcess::start(
-        {.program = u"dbus-daemon"_s,
-         .arguments = {u"--nofork"_s, u"--print-address=1"_s, u"--config-file="_s + file.fileName(),
-                       u"--address=unix:dir="_s + bus->m_folder.path()},
-         .environment = QProcessEnvironment::systemEnvironment(),
-         .errorFile = bus->m_folder.filePath(u"bus.log"_s)});
+    bus->m_process =
+        ChildProcess::start({.program = u"dbus-daemon"_s,
+                             .arguments = {u"--nofork"_s, u"--print-address=1"_s, u"--config-file="_s + file,
+                                           u"--address=unix:dir="_s + bus->m_folder.path()},
+                             .environment = QProcessEnvironment::systemEnvironment(),
+                             .errorFile = bus->m_folder.filePath(u"bus.log"_s)});
     bus->m_address = bus->m_process ? bus->m_process->readLine(10s) : QString();
     return bus->m_address.isEmpty() ? nullptr : std::move(bus);
 }

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/childprocess.h"
 
+#include "files.h"
+
 #include <QElapsedTimer>
-#include <QFile>
 
 #include <csignal>
 #include <sys/prctl.h>
@@ -102,8 +103,7 @@ int ChildProcess::exitCode() const
 
 QString ChildProcess::errorOutput() const
 {
-    QFile file(m_errorFile);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(contentsOf(m_errorFile));
 }
 
 } // namespace vesk

@@ -2,8 +2,7 @@
 #include "desktop/editortest.h"
 
 #include "desktop/plainwindow.h"
-
-#include <QFile>
+#include "files.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,13 +29,10 @@ bool EditorTest::isEditorUntouched()
 
 bool EditorTest::letFocusFollowThePointer()
 {
-    QFile usual(u"/etc/xdg/openbox/rc.xml"_s);
-    if (!usual.open(QIODevice::ReadOnly))
-        return false;
-    QString config = QString::fromUtf8(usual.readAll());
+    QString config = QString::fromUtf8(contentsOf(u"/etc/xdg/openbox/rc.xml"_s));
     config.replace(u"<followMouse>no"_s, u"<followMouse>yes"_s);
     config.replace(u"<focusDelay>200"_s, u"<focusDelay>0"_s);
-    if (m_desktop->writeFile(u"config/openbox/rc.xml"_s, config).isEmpty())
+    if (config.isEmpty() || m_desktop->writeFile(u"config/openbox/rc.xml"_s, config).isEmpty())
         return false;
     const std::unique_ptr<ChildProcess> teller = m_desktop->run(u"openbox"_s, {u"--reconfigure"_s});
     if (!teller || !teller->waitForExit(kBound))

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/guard.h"
 
-#include <QDir>
-#include <QFile>
+#include "files.h"
+
 #include <QHash>
 #include <QList>
 
@@ -27,11 +27,8 @@ QHash<pid_t, pid_t> processParents()
         const pid_t process = name.toInt(&isProcess);
         if (!isProcess)
             continue;
-        QFile file(u"/proc/%1/stat"_s.arg(name));
-        if (!file.open(QIODevice::ReadOnly))
-            continue;
         // The program's name stands in brackets and may itself hold anything; count from its end.
-        const QByteArray line = file.readAll();
+        const QByteArray line = contentsOf(u"/proc/%1/stat"_s.arg(name));
         const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
         if (fields.size() > 1)
             parents.insert(process, fields.at(1).toInt());

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/texteditor.h"
 #include "desktop/vesktest.h"
+#include "files.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QFile>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -250,9 +250,7 @@ void TestCommands::interfaceIsAsDescribed()
 {
     const std::unique_ptr<ChildProcess> running = m_desktop->startVesk();
     QVERIFY(running && isOnTheBus());
-    QFile description(QStringLiteral(VESK_INTERFACE));
-    QVERIFY(description.open(QIODevice::ReadOnly));
-    const QStringList described = methodsOf(QString::fromUtf8(description.readAll()));
+    const QStringList described = methodsOf(QString::fromUtf8(contentsOf(QStringLiteral(VESK_INTERFACE))));
 
     const QDBusConnection bus(u"vesk-test-commands"_s);
     const QDBusMessage question = QDBusMessage::createMethodCall(

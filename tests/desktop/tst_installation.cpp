@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/vesktest.h"
+#include "files.h"
 
-#include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QProcess>
 #include <QSettings>
@@ -78,11 +77,11 @@ void TestInstallation::menuShowsIt()
 
 void TestInstallation::busStartsIt()
 {
-    QFile service(placed(QStringLiteral(VESK_DATADIR "/dbus-1/services/org.vesk.Vesk.service")));
-    QVERIFY(service.open(QIODevice::ReadOnly));
+    QString text = QString::fromUtf8(
+        contentsOf(placed(QStringLiteral(VESK_DATADIR "/dbus-1/services/org.vesk.Vesk.service"))));
+    QVERIFY(!text.isEmpty());
     // Only the place is another one than that for which it was made.
-    const QString text =
-        QString::fromUtf8(service.readAll()).replace(u"Exec="_s, u"Exec="_s + m_folder.path());
+    text.replace(u"Exec="_s, u"Exec="_s + m_folder.path());
     QVERIFY(!m_desktop->writeFile(u"data/dbus-1/services/org.vesk.Vesk.service"_s, text).isEmpty());
     QVERIFY(runToEnd(u"dbus-send"_s, {u"--session"_s, u"--print-reply"_s, u"--dest=org.vesk.Vesk"_s,
                                       u"/org/vesk/Vesk"_s, u"org.vesk.Vesk.Write"_s}));

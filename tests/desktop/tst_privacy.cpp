@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/editortest.h"
+#include "files.h"
 
-#include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -13,12 +12,6 @@ using namespace Qt::StringLiterals;
 using namespace vesk;
 
 namespace {
-
-QString contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 /// The inodes that the process has sockets for.
 QSet<QString> socketsOf(qint64 process)
@@ -68,12 +61,12 @@ void TestPrivacy::noteStaysBetweenVeskAndItsUser()
     // Nothing goes over a network: every socket is one of this machine's own.
     const QSet<QString> sockets = socketsOf(m_vesk->pid());
     QVERIFY(!sockets.isEmpty());
-    const QString own = contentsOf(u"/proc/net/unix"_s);
+    const QString own = QString::fromUtf8(contentsOf(u"/proc/net/unix"_s));
     for (const QString &inode : sockets) {
         const QRegularExpression line(u" %1( |$)"_s.arg(inode), QRegularExpression::MultilineOption);
         QVERIFY2(own.contains(line), qPrintable(u"Socket %1 is of another kind."_s.arg(inode)));
     }
-    const QString limits = contentsOf(u"/proc/%1/limits"_s.arg(m_vesk->pid()));
+    const QString limits = QString::fromUtf8(contentsOf(u"/proc/%1/limits"_s.arg(m_vesk->pid())));
     QVERIFY2(limits.contains(QRegularExpression(u"Max core file size +0 "_s)), qPrintable(limits));
 
     const QString folder = QFileInfo(m_desktop->notes().path()).path();

@@ -37,7 +37,7 @@ private:
     /// Lets Vesk's files grow to this many bytes, and no longer, as a full disk does.
     [[nodiscard]] bool limitFiles(rlim_t bytes) const;
     /// Whether no program has the keyboard to itself.
-    [[nodiscard]] bool isKeyboardFree() const;
+    [[nodiscard]] bool isKeyboardFree();
 };
 
 std::optional<Window> TestQuickNoteBox::openBox()
@@ -53,15 +53,11 @@ bool TestQuickNoteBox::limitFiles(rlim_t bytes) const
     return prlimit(pid_t(m_vesk->pid()), RLIMIT_FSIZE, &limit, nullptr) == 0;
 }
 
-bool TestQuickNoteBox::isKeyboardFree() const
+bool TestQuickNoteBox::isKeyboardFree()
 {
-    xcb_connection_t *xcb = m_desktop->display().xcb();
-    const auto cookie = xcb_grab_keyboard(xcb, 0, m_desktop->display().root(), XCB_CURRENT_TIME,
-                                          XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-    const Reply<xcb_grab_keyboard_reply_t> reply{xcb_grab_keyboard_reply(xcb, cookie, nullptr)};
-    xcb_ungrab_keyboard(xcb, XCB_CURRENT_TIME);
-    xcb_flush(xcb);
-    return reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
+    const bool isFree = m_desktop->keyboard().grab();
+    m_desktop->keyboard().ungrab();
+    return isFree;
 }
 
 void TestQuickNoteBox::keyOpensItAndReturnKeepsTheNote_data()

@@ -73,11 +73,7 @@ void TestSelection::withoutConsentNothingIsRead()
 
 void TestSelection::noteIsPastedIntoTheEditor()
 {
-    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
-    capture();
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
-    VERIFY_ON(*m_desktop, m_editor->deselect());
-
+    QVERIFY(runToEnd(VirtualDesktop::veskProgram(), {u"add"_s, m_lines.at(1)}));
     m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}, kFinger);
     const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
     VERIFY_ON(*m_desktop, panel);

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/vesktest.h"
-
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+#include "files.h"
 
 using namespace Qt::StringLiterals;
 using namespace vesk;
@@ -11,12 +8,6 @@ using namespace vesk;
 namespace {
 
 constexpr auto kFatal = "Could not open the notes store: ";
-
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 } // namespace
 

@@ -2,14 +2,12 @@
 #include "desktop/virtualdesktop.h"
 
 #include "desktop/guard.h"
+#include "files.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
 #include <utility>
 
@@ -155,13 +153,7 @@ bool VirtualDesktop::startWindowManager()
 
 bool VirtualDesktop::waitForRootProperty(const char *name)
 {
-    return m_display->waitUntil(kStartBound, [&] {
-        const auto cookie = xcb_get_property(m_display->xcb(), 0, m_display->root(), m_display->atom(name),
-                                             XCB_ATOM_ANY, 0, 1);
-        const Reply<xcb_get_property_reply_t> reply{
-            xcb_get_property_reply(m_display->xcb(), cookie, nullptr)};
-        return reply && xcb_get_property_value_length(reply.get()) > 0;
-    });
+    return m_display->waitUntil(kStartBound, [&] { return m_windows->rootNumber(name) != 0; });
 }
 
 bool VirtualDesktop::enableAccessibility()
@@ -211,16 +203,13 @@ std::unique_ptr<ChildProcess> VirtualDesktop::startVesk()
 
 QString VirtualDesktop::writeFile(const QString &name, const QString &text)
 {
-    QFile file(m_home.filePath(name));
-    QDir().mkpath(QFileInfo(file).path());
-    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) >= 0 && file.flush();
-    return isWritten ? file.fileName() : QString();
+    const QString path = m_home.filePath(name);
+    return vesk::writeFile(path, text.toUtf8()) ? path : QString();
 }
 
 QString VirtualDesktop::readFile(const QString &name) const
 {
-    QFile file(m_home.filePath(name));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(contentsOf(m_home.filePath(name)));
 }
 
 } // namespace vesk

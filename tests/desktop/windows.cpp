@@ -247,10 +247,7 @@ bool Windows::isFocusInside(xcb_window_t window) const
 
 xcb_window_t Windows::activeWindow() const
 {
-    xcb_connection_t *xcb = m_display.xcb();
-    const auto cookie = xcb_get_property(xcb, 0, m_display.root(), m_activeAtom, XCB_ATOM_WINDOW, 0, 1);
-    const Reply<xcb_get_property_reply_t> reply{xcb_get_property_reply(xcb, cookie, nullptr)};
-    return numberOf(reply.get());
+    return rootNumber("_NET_ACTIVE_WINDOW");
 }
 
 } // namespace vesk

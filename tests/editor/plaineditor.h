@@ -63,14 +63,16 @@ struct PlainEditor
         insert({});
     }
 
-    void togglePrefix()
+    /// `wanted` is a marker with its space.
+    void togglePrefix(const QString &wanted)
     {
         const qsizetype from = std::min(anchor, caret);
         const qsizetype start = lineStart(from);
         QString marker = text.mid(start, std::min<qsizetype>(2, lineEnd(from) - start));
         if (marker != u"• " && marker != u"☐ " && marker != u"☑ " && marker != u"# ")
             marker.clear();
-        const QString made = marker == u"☐ " || marker == u"☑ " ? QString() : QStringLiteral("☐ ");
+        const bool isThere = marker == wanted || (marker == u"☑ " && wanted == u"☐ ");
+        const QString made = isThere ? QString() : wanted;
         text.replace(start, marker.size(), made);
         for (qsizetype *position : {&anchor, &caret})
             *position = start + made.size() + std::max<qsizetype>(0, *position - start - marker.size());

@@ -24,9 +24,6 @@ class EditorLooksTest : public QObject
 {
     Q_OBJECT
 
-public:
-    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
-
 private Q_SLOTS:
     void partsOfALine_data();
     void partsOfALine();

@@ -14,16 +14,11 @@ class NoteEditorTest : public QObject
 {
     Q_OBJECT
 
-public:
-    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
-
 private Q_SLOTS:
     void typedText_data();
     void typedText();
     void hostTakesKeys_data();
     void hostTakesKeys();
-    void prefixCommands_data();
-    void prefixCommands();
     void stepsToTakeBack_data();
     void stepsToTakeBack();
     void takingBackRestoresWhatWasSelected();
@@ -127,39 +122,6 @@ void NoteEditorTest::hostTakesKeys()
     for (qsizetype i = 0; i < names.size(); ++i)
         QCOMPARE(spies.at(static_cast<size_t>(i))->count(), names.at(i) == signal ? 1 : 0);
     QTEST(fixture.text(), "after");
-}
-
-void NoteEditorTest::prefixCommands_data()
-{
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("marker");
-    QTest::addColumn<QString>("after");
-
-    QTest::newRow("none") << u"Mi|lk"_s << u"☐ "_s << u"☐ Mi|lk"_s;
-    QTest::newRow("at the start") << u"a\n|b"_s << u"• "_s << u"a\n• |b"_s;
-    QTest::newRow("another") << u"• Mi|lk"_s << u"☐ "_s << u"☐ Mi|lk"_s;
-    QTest::newRow("the same") << u"# Plan|"_s << u"# "_s << u"Plan|"_s;
-    QTest::newRow("ticked, for a checklist") << u"☑ Mi|lk"_s << u"☐ "_s << u"Mi|lk"_s;
-    QTest::newRow("ticked, for a bullet") << u"☑| Milk"_s << u"• "_s << u"• |Milk"_s;
-    QTest::newRow("no marker without its space") << u"#a|"_s << u"# "_s << u"# #a|"_s;
-}
-
-void NoteEditorTest::prefixCommands()
-{
-    QFETCH(QString, before);
-    QFETCH(QString, marker);
-    EditorFixture fixture;
-    const qsizetype caret = before.indexOf(u'|');
-    fixture.load(before.remove(u'|'));
-    fixture.select(caret, caret);
-    fixture.edit->setFocus(false);
-    fixture.controller.toggleLinePrefix(marker);
-    QString after = fixture.text();
-    QTEST(after.insert(fixture.caret(), u'|'), "after");
-    QVERIFY(fixture.edit->hasActiveFocus());
-    fixture.press(Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(fixture.text(), before);
-    QCOMPARE(fixture.caret(), caret);
 }
 
 void NoteEditorTest::stepsToTakeBack_data()

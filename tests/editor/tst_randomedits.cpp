@@ -18,9 +18,6 @@ class RandomEditsTest : public QObject
 {
     Q_OBJECT
 
-public:
-    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
-
 private Q_SLOTS:
     void textAndLooksFollowTheRules_data();
     void textAndLooksFollowTheRules();
@@ -48,6 +45,7 @@ void RandomEditsTest::act(int kind)
     static const QStringList kPastes{u"- one\n[ ] two"_s, u"# head"_s, u"**bold** x"_s,
                                      u"☑ done\n"_s,       u"\n\n"_s,   u"•\u00a0x\u2028☐ y"_s,
                                      u"\ufffc\ufdd0"_s};
+    static const QStringList kMarkers{u"☐ "_s, u"• "_s, u"# "_s};
     switch (kind) {
     case 0: { // Moved or selected by the mouse or anything else.
         m_plain.caret = pick(static_cast<int>(m_plain.text.size()) + 1);
@@ -69,10 +67,16 @@ void RandomEditsTest::act(int kind)
         m_fixture->type(isBackwards ? u"\b"_s : u"\x7f"_s);
         break;
     }
-    case 4:
-        m_plain.togglePrefix();
-        m_fixture->press(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
+    case 4: {
+        const QString &marker = kMarkers.at(pick(static_cast<int>(kMarkers.size())));
+        m_plain.togglePrefix(marker);
+        // The one for checklists has a key in the editor itself.
+        if (marker == kMarkers.constFirst())
+            m_fixture->press(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
+        else
+            m_fixture->controller.toggleLinePrefix(marker);
         break;
+    }
     case 5: {
         const QString &pasted = kPastes.at(pick(static_cast<int>(kPastes.size())));
         m_plain.insert(pasted);

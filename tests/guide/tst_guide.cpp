@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "../components/memorydesktop.h"
+#include "../files.h"
 #include "components/commandkeys.h"
 #include "guide/guide.h"
 #include "input/globalkeys.h"
@@ -84,9 +85,6 @@ class GuideTest : public QObject
 {
     Q_OBJECT
 
-public:
-    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
-
 private Q_SLOTS:
     static void showsTheUsersKeys();
     static void isDismissed_data();
@@ -100,15 +98,13 @@ private Q_SLOTS:
 void GuideTest::showsTheUsersKeys()
 {
     using hotkeytable::kAppend;
-    QTemporaryDir folder;
-    QFile file(folder.filePath(u"Keys.conf"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("toggle=Super+Ctrl+Home\nwrite=none\nsave-prompt=Super+P\n");
-    file.close();
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"Keys.conf"_s);
+    QVERIFY(writeFile(file, "toggle=Super+Ctrl+Home\nwrite=none\nsave-prompt=Super+P\n"));
     MemoryHotKeys hotKeys;
     hotKeys.setTaken(kAppend.combination);
     hotKeys.setHolders({u"openbox"_s, u"other"_s});
-    GlobalKeys keys(hotKeys, file.fileName());
+    GlobalKeys keys(hotKeys, file);
     keys.start();
     Stage stage(true, 600, &keys);
     const QString all = heard(stage.view);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "../files.h"
 #include "input/globalkeys.h"
 #include "input/keynames.h"
 #include "input/keysettings.h"
@@ -57,21 +58,12 @@ struct World
         keys->start();
     }
 
-    void write(const QString &text) const
-    {
-        QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(text.toUtf8());
-    }
+    void write(const QString &text) const { QVERIFY(writeFile(path, text.toUtf8())); }
     /// As many editors save.
     void replace(const QString &text) const
     {
         const QString draft = path + u'~';
-        QFile file(draft);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(text.toUtf8());
-        file.close();
+        QVERIFY(writeFile(draft, text.toUtf8()));
         QVERIFY(std::rename(qPrintable(draft), qPrintable(path)) == 0);
     }
     [[nodiscard]] QString written(const HotKeyRow &row) const

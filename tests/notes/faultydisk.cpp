@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "faultydisk.h"
 
-#include <QDir>
-#include <QFile>
+#include "../files.h"
 
 #include <optional>
 #include <sys/stat.h>
@@ -15,12 +14,6 @@ std::optional<quint64> inodeOf(const char *name)
 {
     struct stat status = {};
     return ::stat(name, &status) == 0 ? std::optional<quint64>(status.st_ino) : std::nullopt;
-}
-
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace
@@ -68,8 +61,7 @@ void FaultyDisk::cutPower(const QString &folder, Loss loss, std::mt19937 &random
             if (luck != 0)
                 apply(contents, change);
         }
-        QFile file(entry.filePath());
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(contents) != contents.size())
+        if (!writeFile(entry.filePath(), contents))
             qFatal("A file could not be set back.");
     }
     m_media.clear();

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "../files.h"
 #include "notes/storecopy.h"
 #include "storefixture.h"
 
 #include <QDateTime>
-#include <QDir>
-#include <QFileInfo>
 #include <QProcess>
 #include <QScopeGuard>
 #include <QTest>
@@ -35,7 +34,6 @@ private Q_SLOTS:
 private:
     /// Gives the file this age, and returns whether it could.
     [[nodiscard]] static bool setAge(const QString &path, std::chrono::seconds age);
-    [[nodiscard]] QByteArray bytes(const QString &path) const;
 
     std::unique_ptr<StoreFixture> m_fixture;
     std::unique_ptr<StoreCopy> m_copy;
@@ -57,12 +55,6 @@ bool TestStoreCopy::setAge(const QString &path, std::chrono::seconds age)
     return file.open(QIODevice::ReadWrite)
            && file.setFileTime(QDateTime::currentDateTime().addSecs(-age.count()),
                                QFileDevice::FileModificationTime);
-}
-
-QByteArray TestStoreCopy::bytes(const QString &path) const
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 void TestStoreCopy::holdsWhatIsSavedWhileTheStoreIsOpen()
@@ -116,7 +108,7 @@ void TestStoreCopy::staysAsItIs()
 {
     QFETCH(const QString, kind);
     QVERIFY(m_copy->make());
-    const QByteArray good = bytes(m_copy->path());
+    const QByteArray good = contentsOf(m_copy->path());
     m_fixture->close();
     constexpr qint64 kPage = 4096;
     const auto overwrite = [this](qint64 page) {
@@ -148,7 +140,7 @@ void TestStoreCopy::staysAsItIs()
         QCOMPARE(::setrlimit(RLIMIT_FSIZE, &small), 0);
     }
     QVERIFY(!m_copy->make());
-    QVERIFY(bytes(m_copy->path()) == good);
+    QVERIFY(contentsOf(m_copy->path()) == good);
     QVERIFY(!QFile::exists(m_copy->path() + u".new"_s));
 }
 
@@ -192,9 +184,7 @@ void TestStoreCopy::comesIntoPlaceByItsCommand()
         QVERIFY(StoreCopy(path).make());
     }
     for (int round = 1; round <= 2; ++round) {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("damage") > 0);
-        file.close();
+        QVERIFY(writeFile(path, "damage"));
         const auto refused = NotesStore::open(path, m_fixture->clock);
         QVERIFY(!refused.store && refused.isDamaged);
         QCOMPARE(QProcess::execute(u"sh"_s, {u"-c"_s, StoreCopy(path).restoringCommand()}), 0);

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "../files.h"
 #include "storefixture.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QProcess>
 #include <QScopeGuard>
 #include <QTest>
@@ -45,13 +43,6 @@ std::optional<QByteArray> bytesOf(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
     return file.readAll();
-}
-
-void write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
 }
 
 mode_t modeOf(const QString &path)
@@ -170,8 +161,7 @@ void TestStoreFile::leavesAnExistingFolderAsItIs()
 
 void TestStoreFile::isMadeFromAnEmptyFile()
 {
-    QVERIFY(QDir().mkpath(QFileInfo(m_fixture->path()).path()));
-    write(m_fixture->path(), {});
+    QVERIFY(writeFile(m_fixture->path(), {}));
     makeStore();
     QVERIFY(m_fixture->open());
     QCOMPARE(m_fixture->store->notes().count(), 100);
@@ -179,9 +169,8 @@ void TestStoreFile::isMadeFromAnEmptyFile()
 
 void TestStoreFile::isMadeDespiteAHalfMadeOne()
 {
-    QVERIFY(QDir().mkpath(QFileInfo(m_fixture->path()).path()));
-    write(m_fixture->path() + u".new"_s, "half");
-    write(m_fixture->path() + u".new-journal"_s, "half");
+    QVERIFY(writeFile(m_fixture->path() + u".new"_s, "half"));
+    QVERIFY(writeFile(m_fixture->path() + u".new-journal"_s, "half"));
     makeStore();
     const QStringList files = QFileInfo(m_fixture->path()).dir().entryList(QDir::Files);
     QCOMPARE(files, QStringList{u"Notes.store"_s});
@@ -233,10 +222,11 @@ void TestStoreFile::refuses_data()
         QVERIFY(QFile::link(u"/nowhere/Notes.store"_s, fixture.path()));
     });
     row("text", u"is not a database"_s,
-        [](const StoreFixture &fixture) { write(fixture.path(), QByteArray(5000, 'x')); });
-    row("one byte", u"is damaged"_s, [](const StoreFixture &fixture) { write(fixture.path(), "S"); });
+        [](const StoreFixture &fixture) { QVERIFY(writeFile(fixture.path(), QByteArray(5000, 'x'))); });
+    row("one byte", u"is damaged"_s,
+        [](const StoreFixture &fixture) { QVERIFY(writeFile(fixture.path(), "S")); });
     row("zeros", u"is not a database"_s,
-        [](const StoreFixture &fixture) { write(fixture.path(), QByteArray(8192, '\0')); });
+        [](const StoreFixture &fixture) { QVERIFY(writeFile(fixture.path(), QByteArray(8192, '\0'))); });
     row("cut within the header", u"is damaged"_s,
         [=](const StoreFixture &fixture) { truncate(fixture, 50); });
     row("cut after the header", u"is damaged"_s,
@@ -414,7 +404,7 @@ void TestStoreFile::refusesAPathThatCannotBeMade()
 {
     MemoryClock clock;
     const QString file = m_fixture->folder.filePath(u"file"_s);
-    write(file, "x");
+    QVERIFY(writeFile(file, "x"));
     const NotesStore::OpenResult result = NotesStore::open(file + u"/Vesk/Notes.store"_s, clock);
     QVERIFY(!result.store);
     QVERIFY2(result.error.contains(u"cannot be created"_s), qPrintable(result.error));

@@ -15,9 +15,6 @@ class PanelTest : public QObject
 {
     Q_OBJECT
 
-public:
-    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
-
 protected:
     using Field = PanelModel::Field;
 

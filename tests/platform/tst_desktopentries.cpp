@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "../files.h"
 #include "platform/freedesktop/desktopentries.h"
 
-#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -138,11 +138,8 @@ void TestDesktopEntries::command()
 
 void TestDesktopEntries::write(const QString &folder, const QString &name, const QByteArray &keys)
 {
-    const QString path = folder + u'/' + name + u".desktop"_s;
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("# A comment first\n[Desktop Entry]\nType=Application\n" + keys);
+    QVERIFY(writeFile(folder + u'/' + name + u".desktop"_s,
+                      "# A comment first\n[Desktop Entry]\nType=Application\n" + keys));
 }
 
 QTEST_GUILESS_MAIN(TestDesktopEntries)

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "../files.h"
 #include "platform/freedesktop/consent.h"
 #include "platform/freedesktop/inidefaults.h"
 
-#include <QFile>
 #include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -36,9 +36,7 @@ void TestIniDefaults::choicesOutliveTheProgram()
         defaults.setBool(true, u"hasSeenGuide"_s);
         defaults.setBool(false, u"collapsed.today"_s);
     }
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray written = file.readAll();
+    const QByteArray written = contentsOf(path);
     QVERIFY(written.startsWith("[General]\n"));
     QVERIFY(written.contains("collapsed.today=false\n"));
     QVERIFY(IniDefaults(path).boolForKey(u"hasSeenGuide"_s));

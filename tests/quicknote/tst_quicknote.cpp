@@ -77,9 +77,6 @@ class QuickNoteTest : public QObject
 {
     Q_OBJECT
 
-public:
-    static void initMain() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
-
 private Q_SLOTS:
     void init() { m_world = std::make_unique<World>(); }
     void cleanup();
