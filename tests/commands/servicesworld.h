@@ -3,6 +3,7 @@
 
 #include "../capture/capturedesktop.h"
 #include "commands/veskservices.h"
+#include "components/surroundings.h"
 #include "input/globalkeys.h"
 #include "notes/notesstore.h"
 #include "panel/panelmodel.h"
@@ -15,9 +16,11 @@
 #include "platform/memory/memorywindows.h"
 #include "quicknote/toast.h"
 
+#include <QGuiApplication>
 #include <QQmlEngine>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QWindow>
 
 namespace vesk {
 
@@ -49,17 +52,62 @@ struct ServicesWorld : CaptureDesktop
     };
 
     /// `owners` have the checklist's combination for themselves.
-    explicit ServicesWorld(std::span<const QStringView> owners = {});
+    explicit ServicesWorld(std::span<const QStringView> owners = {})
+    {
+        lendToEngine(engine, appearance, workspace, windows);
+        panelWindow = std::make_unique<PanelWindow>(engine, panel, application, screens, windows);
+        toast = std::make_unique<Toast>(engine, screens, windows, clock);
+        services = std::make_unique<VeskServices>(VeskServices::Needs{.clock = clock,
+                                                                      .keys = keys,
+                                                                      .tap = tap,
+                                                                      .accessibility = accessibility,
+                                                                      .workspace = workspace,
+                                                                      .sounds = sounds,
+                                                                      .store = store,
+                                                                      .reader = reader,
+                                                                      .panel = panel,
+                                                                      .panelWindow = *panelWindow,
+                                                                      .quickNote = box,
+                                                                      .toast = *toast,
+                                                                      .checklistKeyOwners = owners});
+        services->start();
+    }
 
     void press(const HotKeyRow &row) { QVERIFY(hotKeys.press(row.combination)); }
-    void tapShiftTwice();
-    void command(Command command);
+    void tapShiftTwice()
+    {
+        for (const auto held : {Qt::ShiftModifier, Qt::NoModifier, Qt::ShiftModifier, Qt::NoModifier})
+            tap.setFlags({.held = held, .isCapsLocked = false, .time = {}});
+    }
+    void command(Command command)
+    {
+        if (command.key)
+            press(*command.key);
+        else
+            tapShiftTwice();
+    }
 
     /// The message on the screen; empty if there is none.
-    [[nodiscard]] static QString notice();
+    [[nodiscard]] static QString notice()
+    {
+        const QWindowList windows = QGuiApplication::topLevelWindows();
+        for (const QWindow *window : windows) {
+            if (window->isVisible() && (window->flags() & Qt::WindowDoesNotAcceptFocus))
+                return window->title();
+        }
+        return {};
+    }
     /// Newest first.
-    [[nodiscard]] QStringList texts() const;
-    [[nodiscard]] QStringList prompts() const;
+    [[nodiscard]] QStringList texts() const { return textsOf(store.notes()); }
+    [[nodiscard]] QStringList prompts() const { return textsOf(store.prompts()); }
+    template <typename Record>
+    [[nodiscard]] static QStringList textsOf(const LiveQuery<Record> &query)
+    {
+        QStringList texts;
+        for (qsizetype i = 0; i < query.count(); ++i)
+            texts.append(query.at(i).text());
+        return texts;
+    }
 
     QTemporaryDir folder;
     NotesStore::OpenResult opened = NotesStore::open(folder.filePath(QStringLiteral("Notes.store")), clock);

@@ -1,17 +1,22 @@
 // SPDX-License-Identifier: MIT
+#include "../files.h"
 #include "memorydesktop.h"
 
+#include "components/commandkeys.h"
 #include "components/keylabels.h"
 #include "components/palette.h"
 #include "components/symboltable.h"
 #include "components/theme.h"
+#include "input/globalkeys.h"
 #include "input/keynames.h"
+#include "platform/memory/memorykeyboard.h"
 
 #include <QGuiApplication>
 #include <QPainter>
 #include <QSignalSpy>
 #include <QStyleHints>
 #include <QSvgRenderer>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
 
@@ -47,6 +52,8 @@ private Q_SLOTS:
     void everySymbolHasAPicture();
     void themeFollowsTheDesktop();
     void iconIsLookedUpOnce();
+    void menuTellsWhichKeysWork_data();
+    void menuTellsWhichKeysWork();
 };
 
 void ComponentsTest::combinationsInTextsAreSpelt_data()
@@ -178,6 +185,49 @@ void ComponentsTest::iconIsLookedUpOnce()
     const qint64 first = surroundings.icon(u"org.example.Editor"_s).cacheKey();
     desktop.workspace.install(u"org.example.Editor"_s, QIcon(QPixmap(4, 4)));
     QCOMPARE(surroundings.icon(u"org.example.Editor"_s).cacheKey(), first);
+}
+
+void ComponentsTest::menuTellsWhichKeysWork_data()
+{
+    using namespace hotkeytable;
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QList<quint32>>("taken");
+    QTest::addColumn<QStringList>("holders");
+    QTest::addColumn<QString>("newNote");
+    QTest::addColumn<QString>("takenTitle");
+    using Ids = QList<quint32>;
+    const QString newNote = u"New Note (Ctrl+Alt+Super+N)"_s;
+    const QString taken = u"New Note (Ctrl+Alt+Super+N, taken)"_s;
+    QTest::newRow("all works") << QString() << Ids() << QStringList() << newNote << QString();
+    QTest::newRow("own") << u"write=Super+Left"_s << Ids() << QStringList() << u"New Note (Super+Left)"_s
+                         << QString();
+    QTest::newRow("off") << u"write=none"_s << Ids{kWrite.id} << QStringList() << u"New Note"_s << QString();
+    QTest::newRow("one, by one") << QString() << Ids{kWrite.id} << QStringList{u"Openbox"_s} << taken
+                                 << u"1 Key(s) Taken by Openbox…"_s;
+    QTest::newRow("two, by nobody knows whom")
+        << QString() << Ids{kWrite.id, kOpen.id} << QStringList() << taken << u"2 Key(s) Taken…"_s;
+    QTest::newRow("two, by one of two")
+        << QString() << Ids{kAppend.id, kOpen.id} << QStringList{u"Openbox"_s, u"other"_s} << newNote
+        << u"2 Key(s) Taken…"_s;
+}
+
+void ComponentsTest::menuTellsWhichKeysWork()
+{
+    QFETCH(const QString, file);
+    QFETCH(const QList<quint32>, taken);
+    QFETCH(const QStringList, holders);
+    const QTemporaryDir folder;
+    const QString written = folder.filePath(u"Keys.conf"_s);
+    QVERIFY(writeFile(written, file.toUtf8()));
+    MemoryHotKeys keyboard;
+    for (const quint32 id : taken)
+        keyboard.setTaken(hotkeytable::kAll.at(id - 1).combination);
+    keyboard.setHolders(holders);
+    GlobalKeys keys(keyboard, written);
+    const CommandKeys shown(&keys);
+    keys.start();
+    QTEST(shown.newNoteTitle(), "newNote");
+    QTEST(shown.takenTitle(), "takenTitle");
 }
 
 QTEST_MAIN(ComponentsTest)

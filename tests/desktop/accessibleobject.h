@@ -16,7 +16,6 @@ struct AccessibleObject
         Focusable = 11,
         Focused = 12,
         MultiLine = 17,
-        Selectable = 22,
         Selected = 23,
         Showing = 25,
     };

@@ -87,8 +87,6 @@ class GuideTest : public QObject
 
 private Q_SLOTS:
     static void showsTheUsersKeys();
-    static void isDismissed_data();
-    static void isDismissed();
     static void keysScroll();
     static void tabGoesAround();
     static void statusFollowsTheUser();
@@ -117,32 +115,6 @@ void GuideTest::showsTheUsersKeys()
     keys.retry();
     const QString free = heard(stage.view);
     QVERIFY2(free.contains(u"Add to your last note, Alt, Shift, Super, N | "_s), qPrintable(free));
-}
-
-void GuideTest::isDismissed_data()
-{
-    QTest::addColumn<Qt::Key>("tab");
-    QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<bool>("isDismissed");
-    QTest::newRow("Escape") << Qt::Key_unknown << Qt::Key_Escape << true;
-    QTest::newRow("Escape on the button") << Qt::Key_Tab << Qt::Key_Escape << true;
-    QTest::newRow("Return on the button") << Qt::Key_Tab << Qt::Key_Return << true;
-    // The user was typing when it came up.
-    QTest::newRow("Return") << Qt::Key_unknown << Qt::Key_Return << false;
-    QTest::newRow("Space") << Qt::Key_unknown << Qt::Key_Space << false;
-}
-
-void GuideTest::isDismissed()
-{
-    QFETCH(Qt::Key, tab);
-    QFETCH(Qt::Key, key);
-    QFETCH(bool, isDismissed);
-    Stage stage(true);
-    if (tab != Qt::Key_unknown)
-        stage.press(tab);
-    stage.press(key);
-    QCOMPARE(!stage.guide.isShown(), isDismissed);
-    QCOMPARE(stage.defaults.boolForKey(u"hasSeenGuide"_s), isDismissed);
 }
 
 void GuideTest::keysScroll()

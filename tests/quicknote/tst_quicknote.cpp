@@ -81,7 +81,6 @@ private Q_SLOTS:
     void init() { m_world = std::make_unique<World>(); }
     void cleanup();
     void returnKeepsANote();
-    void commandReturnKeepsAChecklist();
     void blankDraftIsNotKept_data();
     void blankDraftIsNotKept();
     void eachModeHasItsDraft();
@@ -127,14 +126,6 @@ void QuickNoteTest::returnKeepsANote()
     QCOMPARE(m_world->sounds.played().size(), 1);
 }
 
-void QuickNoteTest::commandReturnKeepsAChecklist()
-{
-    QVERIFY(m_world->show(Mode::Checklist));
-    m_world->type(u"Milk"_s);
-    m_world->press(Qt::Key_Return, Qt::ControlModifier);
-    QCOMPARE(m_world->texts(), QStringList{u"\u2610 Milk"_s});
-}
-
 void QuickNoteTest::blankDraftIsNotKept_data()
 {
     QTest::addColumn<Mode>("mode");
@@ -170,7 +161,8 @@ void QuickNoteTest::eachModeHasItsDraft()
     QVERIFY(m_world->show(Mode::Checklist));
     QCOMPARE(m_world->draft(), u"\u2610 Milk"_s);
     m_world->type(u"!"_s);
-    QCOMPARE(m_world->draft(), u"\u2610 Milk!"_s);
+    m_world->press(Qt::Key_Return, Qt::ControlModifier);
+    QVERIFY(m_world->texts().contains(u"\u2610 Milk!"_s));
 }
 
 void QuickNoteTest::reopenedBoxHasItsDraftWithTheCaretAtTheEnd()
