@@ -128,8 +128,9 @@ void SoakUser::expectDraft(bool isSure)
     PanelModel &panel = m_world->panel;
     QString text;
     if (!isInPanel()) {
-        text = m_world->box.isShowing() ? m_world->box.model().body() : QString();
-        isSure = isSure && !m_world->box.model().isChecklist();
+        // A key that was pressed before the box was closed may come while it fades away.
+        text = focusWindow() == m_world->box.window() ? m_world->box.model().body() : QString();
+        isSure = isSure && m_world->box.isShowing() && !m_world->box.model().isChecklist();
     } else if (panel.keyboard()->activeField() == Field::Composer) {
         m_effect.isPrompt = panel.tab() == PanelModel::Tab::Prompts;
         text = markup::trimmed(panel.draft());
@@ -156,7 +157,7 @@ void SoakUser::expectAnything()
                                          : *panel.notes();
     if (list.visibleCount() > 0 && panel.keyboard()->activeField() == Field::Search)
         m_effect.mayTouch.insert(list.visibleAt(0));
-    m_effect.mayClearDone = isMenuOpen();
+    m_effect.mayClearDone = m_effect.mayClearDone || isMenuOpen();
 }
 
 void SoakUser::press()
@@ -233,7 +234,7 @@ void SoakUser::click()
     for (const QQuickItem *item :
          shown(*window, [&](const QQuickItem &each) { return each.contains(each.mapFromScene(place)); }))
         m_effect.mayTouch.insert(cardOf(item));
-    m_effect.mayClearDone = isMenuOpen();
+    m_effect.mayClearDone = m_effect.mayClearDone || isMenuOpen();
     const Qt::MouseButton button = pick(8) == 0    ? Qt::RightButton
                                    : pick(12) == 0 ? Qt::MiddleButton
                                                    : Qt::LeftButton;
