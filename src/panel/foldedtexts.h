@@ -6,7 +6,9 @@
 #include <QByteArray>
 #include <QHash>
 
+#include <memory_resource>
 #include <optional>
+#include <string>
 
 namespace vesk {
 
@@ -27,13 +29,17 @@ public:
 
     void forget(const RecordId &id) { m_texts.remove(id); }
     /// Gives all memory back.
-    void forgetAll() { m_texts = {}; }
+    void forgetAll();
 
 private:
-    QByteArray &find(const Note &note);
+    using Text = std::pmr::string;
 
+    const Text &find(const Note &note);
+
+    /// The texts lie close to each other, so that what they took is whole pages again once they are gone.
+    std::pmr::unsynchronized_pool_resource m_pool;
     /// A search looks each note up, in no order that a cache knows: a table without nodes saves it a wait.
-    QHash<RecordId, QByteArray> m_texts;
+    QHash<RecordId, Text> m_texts;
 };
 
 } // namespace vesk
