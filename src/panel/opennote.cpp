@@ -62,12 +62,12 @@ void OpenNote::setId(const std::optional<RecordId> &id)
     if (m_id == id)
         return;
     m_id = id;
-    // A card closes before its row moves: a view that takes the editor down in the midst of a move falls.
     if (id)
         m_notes.setOpenNote(id);
     Q_EMIT changed();
-    if (m_id == id)
-        m_notes.setOpenNote(id);
+    // A card closes before its row moves: a view that takes the editor down in the midst of a move falls.
+    if (!m_id)
+        m_notes.setOpenNote(std::nullopt);
 }
 
 } // namespace vesk

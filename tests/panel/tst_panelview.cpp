@@ -28,6 +28,7 @@ private Q_SLOTS:
     void cardOpensAgainWhileItCloses();
     void clickBesideTheCardsCloses();
     void openingMovesNothingElse();
+    void cardClosesBeforeItsRowMoves();
     void tickingStaysOnTheClosedCard();
     void hoverButtons();
     void tabsChooseTheList();
@@ -202,6 +203,21 @@ void PanelViewTest::clickBesideTheCardsCloses()
     QVERIFY(model().openNote()->id());
     QTest::mouseClick(&window(), Qt::LeftButton, {}, QPoint(220, window().height() - 120));
     QVERIFY(!model().openNote()->id());
+}
+
+void PanelViewTest::cardClosesBeforeItsRowMoves()
+{
+    // A view that takes an editor down in the midst of a move may end the program.
+    model().openNote()->open(store().notes().at(store().notes().count() - 1));
+    QTRY_VERIFY(hasEditor());
+    press(Qt::Key_X);
+    const QSignalSpy moves(model().notes(), &QAbstractItemModel::rowsMoved);
+    bool isOpenInMove = false;
+    connect(model().notes(), &QAbstractItemModel::rowsAboutToBeMoved, this,
+            [&] { isOpenInMove = isOpenInMove || hasEditor(); });
+    press(Qt::Key_Escape);
+    QCOMPARE(moves.size(), 1);
+    QVERIFY(!isOpenInMove);
 }
 
 void PanelViewTest::openingMovesNothingElse()
