@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/keyboardhold.h"
 
+#include "platform/x11/keystates.h"
 #include "platform/x11/x11connection.h"
 
 namespace vesk {
@@ -60,10 +61,7 @@ void KeyboardHold::lookForRelease()
 {
     if (m_pressedKey == 0)
         return;
-    const auto cookie = xcb_query_keymap(m_connection.xcb());
-    const XReply<xcb_query_keymap_reply_t> reply(xcb_query_keymap_reply(m_connection.xcb(), cookie, nullptr));
-    const bool isDown = reply && ((reply->keys[m_pressedKey / 8] >> (m_pressedKey % 8)) & 1) != 0;
-    if (isDown) {
+    if (keysDown(m_connection).test(m_pressedKey)) {
         m_releaseWatch.start();
         return;
     }

@@ -2,6 +2,7 @@
 #include "platform/x11/x11eventposter.h"
 
 #include "platform/clock.h"
+#include "platform/x11/keystates.h"
 #include "platform/x11/keytaker.h"
 #include "platform/x11/rawinput.h"
 #include "platform/x11/windowping.h"
@@ -85,21 +86,9 @@ QCoro::Task<bool> X11EventPoster::waitForLetters()
     co_return false;
 }
 
-X11EventPoster::KeyStates X11EventPoster::keysDown() const
-{
-    KeyStates states;
-    const auto cookie = xcb_query_keymap(m_connection.xcb());
-    const XReply<xcb_query_keymap_reply_t> reply(xcb_query_keymap_reply(m_connection.xcb(), cookie, nullptr));
-    if (!reply)
-        return states;
-    for (size_t key = 0; key < states.size(); ++key)
-        states.set(key, (reply->keys[key / 8] & (1U << (key % 8))) != 0);
-    return states;
-}
-
 bool X11EventPoster::hasLetterDown() const
 {
-    const KeyStates states = keysDown();
+    const KeyStates states = keysDown(m_connection);
     for (size_t key = 0; key < states.size(); ++key) {
         if (states.test(key) && !m_input.isModifier(static_cast<xcb_keycode_t>(key)))
             return true;
@@ -125,7 +114,7 @@ bool X11EventPoster::postToActiveWindow(Command command)
         return false;
     // Any further modifier would make another command of it. That the user still holds them does no
     // harm: their own release finds them up already.
-    const KeyStates states = keysDown();
+    const KeyStates states = keysDown(m_connection);
     for (size_t key = 0; key < states.size(); ++key) {
         if (states.test(key) && m_input.isModifier(static_cast<xcb_keycode_t>(key)))
             sendKey(static_cast<xcb_keycode_t>(key), XCB_KEY_RELEASE);

@@ -8,8 +8,6 @@
 
 #include <xcb/xcb.h>
 
-#include <bitset>
-
 namespace vesk {
 
 class Clock;
@@ -28,11 +26,8 @@ public:
     QCoro::Task<bool> post(Command command, std::function<bool()> isWanted) override;
 
 private:
-    using KeyStates = std::bitset<256>;
-
     /// Waits until no key but modifiers has been down for a while; false if one stays down.
     QCoro::Task<bool> waitForLetters();
-    [[nodiscard]] KeyStates keysDown() const;
     [[nodiscard]] bool hasLetterDown() const;
     /// Posts the keys of a command for the window that is active now; false if it must not get them.
     [[nodiscard]] bool postToActiveWindow(Command command);

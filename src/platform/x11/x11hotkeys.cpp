@@ -2,6 +2,7 @@
 #include "platform/x11/x11hotkeys.h"
 
 #include "platform/x11/grabholders.h"
+#include "platform/x11/keystates.h"
 #include "platform/x11/rawinput.h"
 #include "platform/x11/x11connection.h"
 
@@ -155,10 +156,14 @@ void X11HotKeys::onEvent(const xcb_generic_event_t *event)
 {
     const auto type = event->response_type & 0x7f;
     const auto &key = *reinterpret_cast<const xcb_key_press_event_t *>(event);
-    if (type == XCB_KEY_PRESS)
+    if (type == XCB_KEY_PRESS) {
         onPress(key);
-    else if (type == XCB_KEY_RELEASE && key.detail == m_held.key)
+    } else if (type == XCB_KEY_RELEASE && key.detail == m_held.key) {
         m_releaseTime = key.time;
+        // A repeated key only seems to go up; this one may do so in earnest before the grab is given back.
+        if (!m_guards.isEmpty() && !keysDown(m_connection).test(m_held.key))
+            endGuard();
+    }
 }
 
 void X11HotKeys::onPress(const xcb_key_press_event_t &press)
@@ -174,8 +179,12 @@ void X11HotKeys::onPress(const xcb_key_press_event_t &press)
         press.detail == m_held.key
         && (!m_releaseTime || !isAtOrAfter(press.time, *m_releaseTime + kRepetitionMilliseconds));
     m_releaseTime.reset();
-    if (isRepetition)
+    if (isRepetition) {
+        // Held for that long, the key may well outlast its modifiers, and the next repetition may come
+        // before anybody hears that one of them went up.
+        guardHeldKey();
         return;
+    }
     // The upper half of the state tells of the mouse and of the layout in use.
     const Grab pressedGrab{.key = press.detail,
                            .modifiers = static_cast<uint8_t>(press.state & 0xffU & ~unsigned{m_lockBits})};
@@ -200,15 +209,18 @@ void X11HotKeys::onKeyReleased(xcb_keycode_t key, xcb_timestamp_t time)
     }
     const bool isDown = m_held.key != 0 && !m_releaseTime;
     const uint8_t bits = m_input.modifiers().bitsOf(m_input.modifiers().modifiersOf(key));
-    if (isDown && (bits & m_held.modifiers) != 0 && m_guards.isEmpty())
+    if (isDown && (bits & m_held.modifiers) != 0)
         guardHeldKey();
 }
 
 void X11HotKeys::guardHeldKey()
 {
+    // The grab that was not given back holds until the key is up.
+    if (!m_input.isListening() || !m_guards.isEmpty())
+        return;
     // Fingers leave the modifiers as often first as last, and the server repeats the letter meanwhile: it
-    // would be typed over the selection. Not before they do: the letter alone is the application's as soon
-    // as it is up. Combinations that others have are theirs.
+    // would be typed over the selection. Not from the press on: the letter alone is the application's as
+    // soon as it is up. Combinations that others have are theirs.
     for (const uint8_t modifiers : subsetsOf(m_held.modifiers)) {
         const Grab guard{.key = m_held.key, .modifiers = modifiers};
         const bool isOwn = std::ranges::any_of(

@@ -58,7 +58,7 @@ private:
     void onPress(const xcb_key_press_event_t &press);
     void onKeyReleased(xcb_keycode_t key, xcb_timestamp_t time);
 
-    /// Keeps the held key from the application after some of its modifiers were let go of.
+    /// Keeps the held key from the application, also once some of its modifiers are let go of.
     void guardHeldKey();
     void endGuard();
 
