@@ -9,6 +9,8 @@ Item {
 
     required property bool isDone
     property real size: 16
+    // Whether it changes without a motion.
+    property bool isStill: false
 
     implicitWidth: Math.round(root.size * Theme.fonts.scale)
     implicitHeight: root.implicitWidth
@@ -26,10 +28,14 @@ Item {
         opacity: root.isDone ? 1 : 0
 
         Behavior on scale {
+            enabled: !root.isStill
+
             Spring {
             }
         }
         Behavior on opacity {
+            enabled: !root.isStill
+
             Spring {
             }
         }

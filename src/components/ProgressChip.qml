@@ -9,6 +9,8 @@ Row {
 
     required property int done
     required property int total
+    // Whether the ring turns without a motion.
+    property bool isStill: false
 
     spacing: 5
     Accessible.role: Accessible.StaticText
@@ -32,6 +34,8 @@ Row {
             fraction: root.total > 0 ? root.done / root.total : 0
 
             Behavior on fraction {
+                enabled: !root.isStill
+
                 Spring {
                 }
             }

@@ -63,6 +63,19 @@ FocusScope {
         enabled: root.visible
     }
 
+    // What another search finds is looked at from its beginning on.
+    Connections {
+        function onSearched() {
+            scroll.stop();
+            if (!list.atYBeginning)
+                list.positionViewAtBeginning();
+            settling.restart();
+        }
+
+        target: root.rows
+        enabled: root.visible
+    }
+
     // Waits for the end of the change that the selection comes with, since the rows that go or come
     // count then.
     Timer {

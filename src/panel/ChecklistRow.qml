@@ -11,6 +11,7 @@ PressButton {
     required property string text
     required property bool isDone
     required property string query
+    required property bool isStill
 
     name: root.isDone ? qsTr("Mark “%1” as not done").arg(root.text) : qsTr("Mark “%1” as done").arg(root.text)
     pressedScale: 0.98
@@ -28,6 +29,7 @@ PressButton {
         anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         isDone: root.isDone
+        isStill: root.isStill
         size: 16
     }
 

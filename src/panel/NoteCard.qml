@@ -12,11 +12,15 @@ Item {
 
     required property NoteRoles row
     readonly property PanelModel panel: root.row.panel
+    readonly property string cardId: root.row.cardId
     // A row that has left the list and fades away has no place in it, and perhaps a successor.
-    readonly property bool isExpanded: root.row.index >= 0 && root.panel.openNote.cardId === root.row.cardId
-    readonly property bool isSelected: root.panel.selection.cardId === root.row.cardId
+    readonly property bool isExpanded: root.row.index >= 0 && root.panel.openNote.cardId === root.cardId
+    readonly property bool isSelected: root.panel.selection.cardId === root.cardId
+    // The note that was open here last; while it still fades, a search may bring another one to this row.
+    property string openedId: ""
+    property real progress: root.isExpanded ? 1 : 0
     // How far the card is open, from 0 to 1.
-    property real openness: root.isExpanded ? 1 : 0
+    readonly property real openness: root.isExpanded || root.openedId === root.cardId ? root.progress : 0
     property Item form: null
     readonly property bool wantsActions: hover.hovered || root.isSelected
     property bool hasActions: false
@@ -33,9 +37,13 @@ Item {
     Accessible.selected: root.isSelected
     Accessible.onPressAction: root.panel.cards.activate(root.row.cardId)
 
+    onIsExpandedChanged: {
+        if (root.isExpanded)
+            root.openedId = root.cardId;
+    }
     onWantsActionsChanged: root.hasActions = root.hasActions || root.wantsActions
 
-    Behavior on openness {
+    Behavior on progress {
         Spring {
         }
     }
@@ -83,6 +91,7 @@ Item {
             source: root.row.source
             sourceBundle: root.row.sourceBundle
             query: root.panel.query
+            isStill: root.panel.notes.isSweeping
             canTabIn: root.isSelected
             onItemToggled: line => root.panel.cards.toggleItem(root.row.cardId, line)
         }

@@ -15,6 +15,7 @@ Item {
     required property string sourceBundle
     required property int done
     required property int total
+    required property bool isStill
     property Item chip: null
 
     implicitHeight: Math.round(22 * Theme.fonts.scale)
@@ -56,6 +57,7 @@ Item {
             anchors.verticalCenterOffset: 1
             done: root.done
             total: root.total
+            isStill: root.isStill
         }
     }
 }

@@ -24,6 +24,8 @@ Column {
     required property string source
     required property string sourceBundle
     required property string query
+    // Whether what is ticked changes without a motion.
+    required property bool isStill
     // Whether the Tab key goes through the checkboxes.
     required property bool canTabIn
 
@@ -61,6 +63,7 @@ Column {
                 text: root.itemTexts[index] ?? ""
                 isDone: root.itemsDone[index] ?? false
                 query: root.query
+                isStill: root.isStill
                 onClicked: root.itemToggled(root.itemLines[index])
             }
         }
@@ -96,5 +99,6 @@ Column {
         sourceBundle: root.sourceBundle
         done: root.done
         total: root.total
+        isStill: root.isStill
     }
 }

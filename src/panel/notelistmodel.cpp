@@ -88,7 +88,12 @@ void NoteListModel::setQuery(const QString &query)
     const bool narrows = query.contains(m_query);
     m_query = query;
     m_foldedQuery = searchtext::folded(query);
-    regroup(narrows ? narrowed() : grouped(), Regroup::AtOnce);
+    const Grouped found = narrows ? narrowed() : grouped();
+    if (m_openNote)
+        regroup(found, Regroup::AtOnce);
+    else
+        exchange(found);
+    Q_EMIT searched();
 }
 
 void NoteListModel::setShown(bool isShown)

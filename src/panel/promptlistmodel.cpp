@@ -82,6 +82,7 @@ void PromptListModel::setQuery(const QString &query)
     m_query = query;
     m_foldedQuery = searchtext::folded(query);
     regroup(grouped(), Regroup::AtOnce);
+    Q_EMIT searched();
 }
 
 int PromptListModel::openCount() const

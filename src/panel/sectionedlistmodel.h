@@ -58,6 +58,8 @@ public:
 Q_SIGNALS:
     void isEmptyChanged();
     void isSweepingChanged();
+    /// The rows are those of another search.
+    void searched();
 
 protected:
     using Entry = ListSections::Entry;
@@ -86,6 +88,9 @@ protected:
     /// all if there are none.
     void moveTo(const CardPlace &from, size_t section, Date date, const QList<int> &roles = {});
     void regroup(const Grouped &wanted, Regroup how = Regroup::InSight);
+    /// Regroups at once by making rows those of other cards, which spares a view to make cards anew; not
+    /// for cards that have a state of their own in the view.
+    void exchange(const Grouped &wanted);
     void rowsChanged(const QList<int> &roles);
     void setSweeping(bool isSweeping);
 
@@ -94,6 +99,7 @@ protected:
 private:
     void insertCards(const CardPlace &at, const ListSections::Entries &entries);
     void removeCards(const CardPlace &at, size_t count);
+    void exchangeCards(size_t index, const ListSections::Entries &wanted);
     void showHeader(size_t index);
     void hideHeaderIfEmpty(size_t index);
     void headerChanged(size_t section);

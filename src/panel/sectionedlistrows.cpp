@@ -2,6 +2,7 @@
 // The part of a list model that changes rows and tells the views of it.
 #include "panel/sectionedlistmodel.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace vesk {
@@ -132,6 +133,39 @@ void SectionedListModel::regroup(const Grouped &wanted, Regroup how)
         hideHeaderIfEmpty(i);
         headerChanged(i);
     }
+}
+
+void SectionedListModel::exchange(const Grouped &wanted)
+{
+    setSweeping(true);
+    for (size_t i = 0; i < m_sections.count(); ++i) {
+        if (m_sections.section(i).entries == wanted.at(i))
+            continue;
+        if (!wanted.at(i).empty())
+            showHeader(i);
+        exchangeCards(i, wanted.at(i));
+        hideHeaderIfEmpty(i);
+        headerChanged(i);
+    }
+}
+
+void SectionedListModel::exchangeCards(size_t index, const Entries &wanted)
+{
+    ListSections::Section &section = m_sections.section(index);
+    Entries &entries = section.entries;
+    // First, since no card may be there twice.
+    if (entries.size() > wanted.size())
+        removeCards({.section = index, .card = wanted.size()}, entries.size() - wanted.size());
+    const size_t kept = entries.size();
+    const auto [old, other] = std::ranges::mismatch(entries, wanted);
+    const auto first = static_cast<size_t>(old - entries.begin());
+    std::copy_n(other, kept - first, old);
+    if (first < kept && !section.isCollapsed) {
+        const int row = m_sections.cardRow({.section = index, .card = first});
+        Q_EMIT dataChanged(this->index(row), this->index(row + static_cast<int>(kept - first) - 1));
+    }
+    insertCards({.section = index, .card = kept},
+                Entries(wanted.begin() + static_cast<std::ptrdiff_t>(kept), wanted.end()));
 }
 
 void SectionedListModel::rowsChanged(const QList<int> &roles)

@@ -272,6 +272,11 @@ void CardListsTest::largeSearchIsNoReset()
     QVERIFY(m_list->isSweeping());
     QCOMPARE(removed.size(), 1);
     QCOMPARE(resets.size(), 0);
+    m_query = u"coffee"_s;
+    m_list->setQuery(m_query);
+    QCOMPARE(shown(), recomputed());
+    // A view keeps its cards, which are those of other notes now.
+    QCOMPARE(removed.size(), 1);
     addNote(u"tea"_s);
     QVERIFY(!m_list->isSweeping());
 }

@@ -29,6 +29,8 @@ private Q_SLOTS:
     void clickBesideTheCardsCloses();
     void openingMovesNothingElse();
     void cardClosesBeforeItsRowMoves();
+    void searchGivesCardsOtherNotes();
+    void searchIsReadFromItsBeginning();
     void tickingStaysOnTheClosedCard();
     void hoverButtons();
     void tabsChooseTheList();
@@ -235,6 +237,36 @@ void PanelViewTest::openingMovesNothingElse()
     press(Qt::Key_Escape);
     QTRY_COMPARE(card(1)->height(), height);
     QCOMPARE(card(1)->mapToScene({}).y(), before);
+}
+
+/// The card that a search keeps still fades from its editor to its note.
+void PanelViewTest::searchGivesCardsOtherNotes()
+{
+    m_fixture->appearance.setReduceMotion(false);
+    const QList<QQuickItem *> cards = shown("NoteCard");
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QTRY_VERIFY(model().keyboard()->isEditing());
+    press(Qt::Key_Escape);
+    QVERIFY(hasEditor());
+    model().setSearch(u"two"_s);
+    QTRY_COMPARE(shown("NoteCard"), cards.first(1));
+    QCOMPARE(cards.constFirst()->property("cardId").toString(),
+             model().notes()->visibleAt(0).toString(QUuid::WithoutBraces));
+    QVERIFY(!hasEditor());
+    model().setSearch({});
+    QTRY_COMPARE(shown("NoteCard").size(), 3);
+}
+
+void PanelViewTest::searchIsReadFromItsBeginning()
+{
+    for (int i = 0; i < 30; ++i)
+        addNote(u"note %1"_s.arg(i));
+    const auto firstRow = [this] { return shown("NoteRow").constFirst()->property("index").toInt(); };
+    press(Qt::Key_Up);
+    QTRY_VERIFY(firstRow() > 0);
+    model().setSearch(u"o"_s);
+    QTRY_COMPARE(firstRow(), 0);
 }
 
 void PanelViewTest::tickingStaysOnTheClosedCard()
