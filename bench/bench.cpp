@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench.h"
 
-#include "desktop/veskfacts.h"
+#include "virtualdesktop/veskfacts.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 

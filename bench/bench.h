@@ -3,7 +3,7 @@
 
 #include "table.h"
 
-#include "desktop/virtualdesktop.h"
+#include "virtualdesktop/virtualdesktop.h"
 
 namespace SQLite {
 class Database;

@@ -5,8 +5,8 @@
 #include "bench.h"
 #include "stopwatch.h"
 
-#include "desktop/texteditor.h"
-#include "desktop/veskfacts.h"
+#include "virtualdesktop/texteditor.h"
+#include "virtualdesktop/veskfacts.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 

@@ -4,7 +4,7 @@
 // table and judges nothing. Machines are noisy: compare with the floors of the same run.
 #include "bench.h"
 
-#include "desktop/guard.h"
+#include "virtualdesktop/guard.h"
 
 #include <QCoreApplication>
 #include <QDate>

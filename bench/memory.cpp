@@ -3,7 +3,7 @@
 // What Vesk holds of the memory, and how often it wakes up, while it is hidden.
 #include "bench.h"
 
-#include "desktop/veskfacts.h"
+#include "virtualdesktop/veskfacts.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -4,7 +4,7 @@
 #include "bench.h"
 #include "stopwatch.h"
 
-#include "desktop/veskfacts.h"
+#include "virtualdesktop/veskfacts.h"
 
 #include <QThread>
 

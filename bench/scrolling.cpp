@@ -5,7 +5,7 @@
 #include "bench.h"
 #include "stopwatch.h"
 
-#include "desktop/veskfacts.h"
+#include "virtualdesktop/veskfacts.h"
 
 #include <QDateTime>
 #include <QThread>

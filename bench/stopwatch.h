@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/virtualdesktop.h"
+#include "virtualdesktop/virtualdesktop.h"
 
 #include <QElapsedTimer>
 

@@ -11,6 +11,8 @@ function(vesk_test name)
     set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     list(TRANSFORM arg_USES PREPEND vesk_ OUTPUT_VARIABLE uses)
     target_link_libraries(${target} PRIVATE Qt6::Test ${uses} ${arg_LIBRARIES})
+    # For virtualdesktop/files.h.
+    target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR})
     vesk_compile_options(${target})
     add_test(NAME ${name} COMMAND ${target})
     set_tests_properties(${name} PROPERTIES LABELS unit TIMEOUT 120

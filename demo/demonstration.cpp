@@ -2,9 +2,9 @@
 //
 // Shows Vesk at work where no desktop is: text selected in a real editor is captured by a real key press
 // and shown on the panel. Every step is checked; the first that does not happen ends the run.
-#include "desktop/accessibletree.h"
-#include "desktop/guard.h"
-#include "desktop/texteditor.h"
+#include "virtualdesktop/accessibletree.h"
+#include "virtualdesktop/guard.h"
+#include "virtualdesktop/texteditor.h"
 
 #include <QCoreApplication>
 #include <QDir>

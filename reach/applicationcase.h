@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/keyboard.h"
+#include "virtualdesktop/keyboard.h"
 
 #include <QList>
 #include <QMap>

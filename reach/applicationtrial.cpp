@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "reach/applicationtrial.h"
 
-#include "desktop/veskfacts.h"
+#include "virtualdesktop/veskfacts.h"
 
 #include <QDir>
 

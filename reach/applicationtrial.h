@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/clipboardholder.h"
-#include "desktop/virtualdesktop.h"
 #include "reach/applicationcase.h"
 #include "reach/documents.h"
+#include "virtualdesktop/clipboardholder.h"
+#include "virtualdesktop/virtualdesktop.h"
 
 #include <QElapsedTimer>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/virtualdesktop.h"
 #include "reach/applicationcase.h"
 #include "reach/pageserver.h"
+#include "virtualdesktop/virtualdesktop.h"
 
 namespace vesk {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Tries Vesk in front of many real applications and writes down what works in which of them.
-#include "desktop/guard.h"
 #include "reach/applicationtrial.h"
+#include "virtualdesktop/guard.h"
 
 #include <QCoreApplication>
 #include <QFile>

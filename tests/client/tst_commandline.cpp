@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "../files.h"
 #include "client/commandline.h"
 #include "client/keyslist.h"
 #include "client/noteslist.h"
+#include "virtualdesktop/files.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "../files.h"
 #include "memorydesktop.h"
+#include "virtualdesktop/files.h"
 
 #include "components/commandkeys.h"
 #include "components/keylabels.h"

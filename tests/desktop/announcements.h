@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/accessiblebus.h"
+#include "virtualdesktop/accessiblebus.h"
 
 #include <QDBusMessage>
 #include <QObject>

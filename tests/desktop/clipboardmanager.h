@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/clipboardholder.h"
+#include "virtualdesktop/clipboardholder.h"
 
 namespace vesk {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/guard.h"
-#include "desktop/veskfacts.h"
+#include "virtualdesktop/guard.h"
+#include "virtualdesktop/veskfacts.h"
 
 #include <QCoreApplication>
 #include <QTest>

@@ -2,7 +2,7 @@
 #include "desktop/editortest.h"
 
 #include "desktop/plainwindow.h"
-#include "files.h"
+#include "virtualdesktop/files.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/texteditor.h"
 #include "desktop/vesktest.h"
+#include "virtualdesktop/texteditor.h"
 
 namespace vesk {
 

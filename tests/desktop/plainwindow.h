@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/windows.h"
+#include "virtualdesktop/windows.h"
 
 namespace vesk {
 

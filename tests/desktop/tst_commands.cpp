@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/texteditor.h"
 #include "desktop/vesktest.h"
-#include "files.h"
+#include "virtualdesktop/files.h"
+#include "virtualdesktop/texteditor.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>

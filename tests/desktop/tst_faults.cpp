@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/clipboardholder.h"
 #include "desktop/clipboardmanager.h"
 #include "desktop/heartbeat.h"
-#include "desktop/texteditor.h"
 #include "desktop/vesktest.h"
+#include "virtualdesktop/clipboardholder.h"
+#include "virtualdesktop/texteditor.h"
 
 #include <QElapsedTimer>
 

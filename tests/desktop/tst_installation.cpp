@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/vesktest.h"
-#include "files.h"
+#include "virtualdesktop/files.h"
 
 #include <QImage>
 #include <QProcess>

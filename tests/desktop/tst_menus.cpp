@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/accessibletree.h"
-#include "desktop/texteditor.h"
 #include "desktop/vesktest.h"
 #include "platform/fakemenuregistrar.h"
 #include "platform/fakestatuswatcher.h"
+#include "virtualdesktop/accessibletree.h"
+#include "virtualdesktop/texteditor.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

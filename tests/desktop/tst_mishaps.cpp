@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/texteditor.h"
 #include "desktop/vesktest.h"
+#include "virtualdesktop/texteditor.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

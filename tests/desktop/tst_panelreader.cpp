@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/accessibletree.h"
 #include "desktop/vesktest.h"
+#include "virtualdesktop/accessibletree.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 

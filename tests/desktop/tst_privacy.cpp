@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/editortest.h"
-#include "files.h"
+#include "virtualdesktop/files.h"
 
 #include <QDirIterator>
 #include <QRegularExpression>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desktop/desktoptest.h"
-#include "desktop/virtualdesktop.h"
+#include "virtualdesktop/virtualdesktop.h"
 
 namespace vesk {
 

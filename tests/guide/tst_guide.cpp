@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "../components/memorydesktop.h"
-#include "../files.h"
 #include "components/commandkeys.h"
 #include "guide/guide.h"
 #include "input/globalkeys.h"
 #include "platform/memory/memorykeyboard.h"
+#include "virtualdesktop/files.h"
 
 #include <QAccessible>
 #include <QQuickItem>

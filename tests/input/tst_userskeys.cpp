@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "../files.h"
 #include "input/globalkeys.h"
 #include "input/keynames.h"
 #include "input/keysettings.h"
 #include "platform/memory/memorykeyboard.h"
+#include "virtualdesktop/files.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "faultydisk.h"
 
-#include "../files.h"
+#include "virtualdesktop/files.h"
 
 #include <optional>
 #include <sys/stat.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "../files.h"
 #include "notes/storecopy.h"
 #include "storefixture.h"
+#include "virtualdesktop/files.h"
 
 #include <QDateTime>
 #include <QProcess>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "../files.h"
 #include "storefixture.h"
+#include "virtualdesktop/files.h"
 
 #include <QCoreApplication>
 #include <QProcess>

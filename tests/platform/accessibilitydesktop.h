@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/busdaemon.h"
+#include "virtualdesktop/busdaemon.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

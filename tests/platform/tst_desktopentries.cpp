@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "../files.h"
 #include "platform/freedesktop/desktopentries.h"
+#include "virtualdesktop/files.h"
 
 #include <QTemporaryDir>
 #include <QTest>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "x11test.h"
 
-#include "desktop/texteditor.h"
 #include "platform/freedesktop/systemclock.h"
 #include "platform/x11/keytaker.h"
 #include "platform/x11/rawinput.h"
 #include "platform/x11/x11eventposter.h"
 #include "platform/x11/x11workspace.h"
+#include "virtualdesktop/texteditor.h"
 
 #include <QCoroTask>
 

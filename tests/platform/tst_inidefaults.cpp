@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "../files.h"
 #include "platform/freedesktop/consent.h"
 #include "platform/freedesktop/inidefaults.h"
+#include "virtualdesktop/files.h"
 
 #include <QScopeGuard>
 #include <QSignalSpy>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "fakepackagekit.h"
 
-#include "desktop/busdaemon.h"
 #include "platform/freedesktop/packagekitupdates.h"
+#include "virtualdesktop/busdaemon.h"
 
 #include <QDBusConnectionInterface>
 #include <QSignalSpy>

@@ -2,9 +2,9 @@
 #include "fakemenuregistrar.h"
 #include "fakestatuswatcher.h"
 
-#include "desktop/busdaemon.h"
 #include "platform/freedesktop/menubar.h"
 #include "platform/freedesktop/statusicon.h"
+#include "virtualdesktop/busdaemon.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCall>

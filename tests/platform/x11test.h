@@ -2,8 +2,8 @@
 #pragma once
 
 #include "desktop/desktoptest.h"
-#include "desktop/virtualdesktop.h"
 #include "platform/x11/x11connection.h"
+#include "virtualdesktop/virtualdesktop.h"
 
 namespace vesk {
 

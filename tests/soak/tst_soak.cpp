@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/notesfile.h"
 #include "editor/notetextview.h"
 #include "soak/soakuser.h"
 #include "soak/soakworld.h"
+#include "virtualdesktop/notesfile.h"
 
 #include <QDir>
 #include <QRegularExpression>

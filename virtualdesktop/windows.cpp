@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/windows.h"
+#include "virtualdesktop/windows.h"
 
 #include <QStringList>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/accessiblebus.h"
-#include "desktop/accessibleobject.h"
+#include "virtualdesktop/accessiblebus.h"
+#include "virtualdesktop/accessibleobject.h"
 
 #include <QList>
 #include <QString>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/accessibletree.h"
+#include "virtualdesktop/accessibletree.h"
 
 #include <QDBusArgument>
 #include <QDBusObjectPath>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/clipboardholder.h"
+#include "virtualdesktop/clipboardholder.h"
 
 namespace vesk {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/childprocess.h"
+#include "virtualdesktop/childprocess.h"
 
-#include "files.h"
+#include "virtualdesktop/files.h"
 
 #include <QElapsedTimer>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/keyboard.h"
+#include "virtualdesktop/keyboard.h"
 
 #include <ranges>
 #include <thread>

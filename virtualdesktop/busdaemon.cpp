@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/busdaemon.h"
+#include "virtualdesktop/busdaemon.h"
 
-#include "files.h"
+#include "virtualdesktop/files.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;

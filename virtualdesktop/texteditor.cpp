@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/texteditor.h"
+#include "virtualdesktop/texteditor.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;

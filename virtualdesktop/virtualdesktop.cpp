@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/virtualdesktop.h"
+#include "virtualdesktop/virtualdesktop.h"
 
-#include "desktop/guard.h"
-#include "files.h"
+#include "virtualdesktop/files.h"
+#include "virtualdesktop/guard.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/selectionthread.h"
+#include "virtualdesktop/selectionthread.h"
 
 #include <array>
 #include <cstring>

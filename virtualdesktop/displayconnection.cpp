@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/displayconnection.h"
+#include "virtualdesktop/displayconnection.h"
 
 #include <QElapsedTimer>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/childprocess.h"
+#include "virtualdesktop/childprocess.h"
 
 #include <QTemporaryDir>
 

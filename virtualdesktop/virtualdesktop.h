@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/busdaemon.h"
-#include "desktop/childprocess.h"
-#include "desktop/keyboard.h"
-#include "desktop/notesfile.h"
-#include "desktop/pointer.h"
-#include "desktop/windows.h"
+#include "virtualdesktop/busdaemon.h"
+#include "virtualdesktop/childprocess.h"
+#include "virtualdesktop/keyboard.h"
+#include "virtualdesktop/notesfile.h"
+#include "virtualdesktop/pointer.h"
+#include "virtualdesktop/windows.h"
 
 #include <QTemporaryDir>
 

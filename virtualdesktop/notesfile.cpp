@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/notesfile.h"
+#include "virtualdesktop/notesfile.h"
 
 #include <QStringList>
 

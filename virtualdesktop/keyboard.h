@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/displayconnection.h"
+#include "virtualdesktop/displayconnection.h"
 
 #include <QList>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/selectionthread.h"
+#include "virtualdesktop/selectionthread.h"
 
 #include <QByteArray>
 #include <QMap>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/guard.h"
+#include "virtualdesktop/guard.h"
 
-#include "files.h"
+#include "virtualdesktop/files.h"
 
 #include <QHash>
 #include <QList>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/pointer.h"
+#include "virtualdesktop/pointer.h"
 
 #include <thread>
 #include <xcb/xtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/accessiblebus.h"
+#include "virtualdesktop/accessiblebus.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
