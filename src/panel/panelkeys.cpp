@@ -34,7 +34,7 @@ bool PanelKeys::handle(const QKeyEvent &event)
     if (keyboard.isEditing() || keyboard.isComposing() || m_panel.guide()->isShown())
         return false;
     // Whoever opens a note and types on writes into it.
-    if (m_panel.editor()->focusIfAwaited())
+    if (m_panel.openNote()->id() && m_panel.editor()->focusIfAwaited())
         return false;
     if (keyboard.isInField() && event.matches(QKeySequence::Paste)) {
         Q_EMIT keyboard.fieldPasteRequested();

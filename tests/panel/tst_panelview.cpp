@@ -128,8 +128,11 @@ void PanelViewTest::closingEditorTakesNoKeyboard()
     press(Qt::Key_Return);
     QTRY_VERIFY(hasEditor());
     // Sooner than the editor has come to take the keyboard by itself.
+    model().setDraft(u"four"_s);
     model().requestField(Field::Composer);
     QVERIFY(!model().openNote()->id());
+    press(Qt::Key_Return);
+    QCOMPARE(store().notes().count(), 4);
     QTRY_VERIFY(!hasEditor());
     QCOMPARE(model().keyboard()->activeField(), Field::Composer);
 }
