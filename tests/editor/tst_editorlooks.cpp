@@ -39,7 +39,7 @@ private Q_SLOTS:
     void wordsAndLinesAreClicked();
     void selectedTextIsPastedByTheMiddleButton();
     void menuEdits();
-    void screenReaderFindsTextAndBoxes();
+    void screenReaderFindsBoxes();
 };
 
 void EditorLooksTest::partsOfALine_data()
@@ -326,21 +326,11 @@ void EditorLooksTest::menuEdits()
     QTRY_COMPARE(fixture.text(), u"one two"_s);
 }
 
-void EditorLooksTest::screenReaderFindsTextAndBoxes()
+void EditorLooksTest::screenReaderFindsBoxes()
 {
-    EditorFixture fixture(u"placeholder: \"Title\""_s);
+    EditorFixture fixture;
     fixture.load(u"☐ Buy milk\n☑ Call"_s);
     fixture.paint();
-    QAccessibleInterface *text = QAccessible::queryAccessibleInterface(fixture.edit);
-    QVERIFY(text && text->textInterface());
-    QCOMPARE(text->role(), QAccessible::EditableText);
-    QCOMPARE(text->text(QAccessible::Name), u"Title"_s);
-    fixture.select(2, 5);
-    int start = 0;
-    int end = 0;
-    text->textInterface()->selection(0, &start, &end);
-    QCOMPARE(text->textInterface()->text(start, end), u"Buy"_s);
-
     QAccessibleInterface *box = QAccessible::queryAccessibleInterface(fixture.boxes().constFirst());
     QVERIFY(box && box->actionInterface());
     QCOMPARE(box->role(), QAccessible::CheckBox);

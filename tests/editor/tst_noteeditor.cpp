@@ -17,6 +17,8 @@ class NoteEditorTest : public QObject
 private Q_SLOTS:
     void typedText_data();
     void typedText();
+    void listKeyTogglesTheLine_data();
+    void listKeyTogglesTheLine();
     void hostTakesKeys_data();
     void hostTakesKeys();
     void stepsToTakeBack_data();
@@ -70,6 +72,33 @@ void NoteEditorTest::typedText()
     fixture.type(keys);
     QString after = fixture.text();
     QTEST(after.insert(fixture.caret(), u'|'), "after");
+}
+
+void NoteEditorTest::listKeyTogglesTheLine_data()
+{
+    // "<" is where the selection begins, "|" is where the caret is.
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    QTest::newRow("text") << u"a\nmi<|lk"_s << u"a\n☐ mi<|lk"_s;
+    QTest::newRow("unticked item") << u"☐ <milk|"_s << u"<milk|"_s;
+    QTest::newRow("ticked item") << u"☑ milk<|"_s << u"milk<|"_s;
+    QTest::newRow("bullet") << u"• milk<|"_s << u"☐ milk<|"_s;
+    QTest::newRow("heading, caret in its marker") << u"#<| Plan"_s << u"☐ <|Plan"_s;
+    QTest::newRow("several lines: the first") << u"a\nm<i\nte|a"_s << u"a\n☐ m<i\nte|a"_s;
+    QTest::newRow("after a line break of another kind") << u"☐ a\u2028b<|"_s << u"☐ a\u2028☐ b<|"_s;
+}
+
+void NoteEditorTest::listKeyTogglesTheLine()
+{
+    QFETCH(QString, before);
+    EditorFixture fixture;
+    const qsizetype anchor = before.indexOf(u'<');
+    const qsizetype caret = before.indexOf(u'|') - 1;
+    fixture.load(before.remove(u'<').remove(u'|'));
+    fixture.select(anchor, caret);
+    fixture.press(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
+    QString after = fixture.text();
+    QTEST(after.insert(fixture.caret(), u'|').insert(fixture.anchor(), u'<'), "after");
 }
 
 void NoteEditorTest::hostTakesKeys_data()
