@@ -1,23 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "../capture/capturedesktop.h"
-#include "commands/veskservices.h"
-#include "components/surroundings.h"
-#include "input/globalkeys.h"
-#include "notes/notesstore.h"
-#include "panel/panelmodel.h"
-#include "panel/panelwindow.h"
-#include "platform/memory/memoryappearance.h"
-#include "platform/memory/memoryapplication.h"
-#include "platform/memory/memorydefaults.h"
-#include "platform/memory/memoryscreens.h"
-#include "platform/memory/memorysounds.h"
-#include "platform/memory/memorywindows.h"
-#include "quicknote/toast.h"
+#include "programworld.h"
 
 #include <QGuiApplication>
-#include <QQmlEngine>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QWindow>
@@ -35,8 +21,14 @@ constexpr Command kChecklist{&hotkeytable::kChecklist};
 constexpr Command kAdd{&hotkeytable::kAddToChecklist};
 constexpr Command kPrompt{};
 
-/// The whole program but for its platform.
-struct ServicesWorld : CaptureDesktop
+/// Where a test of the commands keeps its store; it outlives the program.
+struct StoreFolder
+{
+    QTemporaryDir folder;
+};
+
+/// The whole program but for its platform and the box.
+struct ServicesWorld : StoreFolder, ProgramWorld
 {
     /// The quick-note box, without a window.
     class MemoryBox final : public QuickNoteBox
@@ -53,32 +45,13 @@ struct ServicesWorld : CaptureDesktop
 
     /// `owners` have the checklist's combination for themselves.
     explicit ServicesWorld(std::span<const QStringView> owners = {})
+        : ProgramWorld(folder.filePath(QStringLiteral("Notes.store")), MemoryClock().now())
+        , services(servicesNeeds(box, owners))
     {
-        lendToEngine(engine, appearance, workspace, windows);
-        panelWindow = std::make_unique<PanelWindow>(engine, panel, application, screens, windows);
-        toast = std::make_unique<Toast>(engine, screens, windows, clock);
-        services = std::make_unique<VeskServices>(VeskServices::Needs{.clock = clock,
-                                                                      .keys = keys,
-                                                                      .tap = tap,
-                                                                      .accessibility = accessibility,
-                                                                      .workspace = workspace,
-                                                                      .sounds = sounds,
-                                                                      .store = store,
-                                                                      .reader = reader,
-                                                                      .panel = panel,
-                                                                      .panelWindow = *panelWindow,
-                                                                      .quickNote = box,
-                                                                      .toast = *toast,
-                                                                      .checklistKeyOwners = owners});
-        services->start();
+        services.start();
     }
 
     void press(const HotKeyRow &row) { QVERIFY(hotKeys.press(row.combination)); }
-    void tapShiftTwice()
-    {
-        for (const auto held : {Qt::ShiftModifier, Qt::NoModifier, Qt::ShiftModifier, Qt::NoModifier})
-            tap.setFlags({.held = held, .isCapsLocked = false, .time = {}});
-    }
     void command(Command command)
     {
         if (command.key)
@@ -109,24 +82,8 @@ struct ServicesWorld : CaptureDesktop
         return texts;
     }
 
-    QTemporaryDir folder;
-    NotesStore::OpenResult opened = NotesStore::open(folder.filePath(QStringLiteral("Notes.store")), clock);
-    NotesStore &store = *opened.store;
-    MemoryAppearance appearance;
-    MemoryApplication application;
-    MemoryDefaults defaults;
-    MemoryHotKeys hotKeys;
-    GlobalKeys keys{hotKeys, folder.filePath(QStringLiteral("Keys.conf"))};
-    MemoryScreens screens;
-    MemorySounds sounds;
-    MemoryWindows windows{screens};
-    QQmlEngine engine;
-    SelectionReader reader{readersNeeds()};
-    PanelModel panel{store, clock, defaults, application, accessibility};
-    std::unique_ptr<PanelWindow> panelWindow;
-    std::unique_ptr<Toast> toast;
     MemoryBox box;
-    std::unique_ptr<VeskServices> services;
+    VeskServices services;
 };
 
 } // namespace vesk

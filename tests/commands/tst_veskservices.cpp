@@ -32,7 +32,6 @@ private Q_SLOTS:
     void trustWithdrawnWhileReading();
     void doubleShiftIsHeardOnlyWithTrust();
     void checklistKeyIsLeftToItsOwner();
-    void openKeyTogglesThePanel();
 
 private:
     static void commands();
@@ -322,18 +321,6 @@ void TestVeskServices::checklistKeyIsLeftToItsOwner()
     world.bringForward(5, u"App"_s, u"org.example.Editor"_s);
     QVERIFY(world.hotKeys.press(key));
     QCOMPARE(world.hotKeys.registrationCount(), 6);
-}
-
-void TestVeskServices::openKeyTogglesThePanel()
-{
-    ServicesWorld world;
-    world.press(hotkeytable::kOpen);
-    QVERIFY(world.panelWindow->isShown());
-    world.press(hotkeytable::kOpen);
-    QVERIFY(!world.panelWindow->isShown());
-    world.press(hotkeytable::kWrite);
-    QVERIFY(world.panelWindow->isShown());
-    QCOMPARE(world.panel.keyboard()->requestedField(), PanelModel::Field::Composer);
 }
 
 QTEST_MAIN(TestVeskServices)

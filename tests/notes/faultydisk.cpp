@@ -72,47 +72,40 @@ sqlite3_file *FaultyDisk::real(sqlite3_file *file)
     return reinterpret_cast<sqlite3_file *>(reinterpret_cast<File *>(file) + 1);
 }
 
+template <auto kMethod>
+void FaultyDisk::forward(sqlite3_io_methods &methods)
+{
+    const auto bind =
+        []<typename Result, typename... Arguments>(Result (*&method)(sqlite3_file *, Arguments...)) {
+            method = [](sqlite3_file *file, Arguments... arguments) -> Result {
+                return (real(file)->pMethods->*kMethod)(real(file), arguments...);
+            };
+        };
+    bind(methods.*kMethod);
+}
+
 sqlite3_io_methods FaultyDisk::methods()
 {
+    using Methods = sqlite3_io_methods;
     // Version 2: with the shared memory of a journal, without mapping the file itself.
     sqlite3_io_methods methods = {};
     methods.iVersion = 2;
-    methods.xClose = [](sqlite3_file *file) { return real(file)->pMethods->xClose(real(file)); };
-    methods.xRead = [](sqlite3_file *file, void *bytes, int size, sqlite3_int64 offset) {
-        return real(file)->pMethods->xRead(real(file), bytes, size, offset);
-    };
+    forward<&Methods::xClose>(methods);
+    forward<&Methods::xRead>(methods);
+    forward<&Methods::xFileSize>(methods);
+    forward<&Methods::xLock>(methods);
+    forward<&Methods::xUnlock>(methods);
+    forward<&Methods::xCheckReservedLock>(methods);
+    forward<&Methods::xFileControl>(methods);
+    forward<&Methods::xSectorSize>(methods);
+    forward<&Methods::xDeviceCharacteristics>(methods);
+    forward<&Methods::xShmMap>(methods);
+    forward<&Methods::xShmLock>(methods);
+    forward<&Methods::xShmBarrier>(methods);
+    forward<&Methods::xShmUnmap>(methods);
     methods.xWrite = &FaultyDisk::write;
     methods.xTruncate = &FaultyDisk::truncate;
     methods.xSync = &FaultyDisk::sync;
-    methods.xFileSize = [](sqlite3_file *file, sqlite3_int64 *size) {
-        return real(file)->pMethods->xFileSize(real(file), size);
-    };
-    methods.xLock = [](sqlite3_file *file, int lock) {
-        return real(file)->pMethods->xLock(real(file), lock);
-    };
-    methods.xUnlock = [](sqlite3_file *file, int lock) {
-        return real(file)->pMethods->xUnlock(real(file), lock);
-    };
-    methods.xCheckReservedLock = [](sqlite3_file *file, int *result) {
-        return real(file)->pMethods->xCheckReservedLock(real(file), result);
-    };
-    methods.xFileControl = [](sqlite3_file *file, int operation, void *argument) {
-        return real(file)->pMethods->xFileControl(real(file), operation, argument);
-    };
-    methods.xSectorSize = [](sqlite3_file *file) { return real(file)->pMethods->xSectorSize(real(file)); };
-    methods.xDeviceCharacteristics = [](sqlite3_file *file) {
-        return real(file)->pMethods->xDeviceCharacteristics(real(file));
-    };
-    methods.xShmMap = [](sqlite3_file *file, int page, int size, int extends, void volatile **result) {
-        return real(file)->pMethods->xShmMap(real(file), page, size, extends, result);
-    };
-    methods.xShmLock = [](sqlite3_file *file, int offset, int count, int flags) {
-        return real(file)->pMethods->xShmLock(real(file), offset, count, flags);
-    };
-    methods.xShmBarrier = [](sqlite3_file *file) { real(file)->pMethods->xShmBarrier(real(file)); };
-    methods.xShmUnmap = [](sqlite3_file *file, int removes) {
-        return real(file)->pMethods->xShmUnmap(real(file), removes);
-    };
     return methods;
 }
 

@@ -77,6 +77,9 @@ private:
 
     [[nodiscard]] static sqlite3_file *real(sqlite3_file *file);
     [[nodiscard]] static sqlite3_io_methods methods();
+    /// Lets one of the methods be the real disk's.
+    template <auto kMethod>
+    static void forward(sqlite3_io_methods &methods);
     static void apply(QByteArray &contents, const Change &change);
 
     /// Counts one more step; whether it fails.

@@ -306,8 +306,7 @@ void SoakUser::savePrompt()
     m_effect.isPrompt = true;
     if (m_world->accessibility.isProcessTrusted() && !(last && m_entries->value(*last).text == kept))
         m_effect.added = kept;
-    for (const auto held : {Qt::ShiftModifier, Qt::NoModifier, Qt::ShiftModifier, Qt::NoModifier})
-        m_world->tap.setFlags({.held = held, .isCapsLocked = false, .time = {}});
+    m_world->tapShiftTwice();
 }
 
 void SoakUser::useHotKey()
