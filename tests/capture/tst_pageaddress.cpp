@@ -54,8 +54,6 @@ private Q_SLOTS:
     void scheme();
     void outermostPageCounts();
     void noPageAroundTheKeyboard();
-    void depth_data();
-    void depth();
     void slowAnswer_data();
     void slowAnswer();
 };
@@ -104,26 +102,6 @@ void TestPageAddress::noPageAroundTheKeyboard()
     QVERIFY(!QCoro::waitFor(readPageAddress(&world.accessibility, &world.clock, kPid + 1)));
     world.accessibility.setFocusedElement(std::nullopt);
     QVERIFY(!QCoro::waitFor(readPageAddress(&world.accessibility, &world.clock, kPid)));
-}
-
-void TestPageAddress::depth_data()
-{
-    QTest::addColumn<int>("place");
-    QTest::addColumn<bool>("isFound");
-    QTest::newRow("fortieth element") << 40 << true;
-    QTest::newRow("forty-first element") << 41 << false;
-}
-
-void TestPageAddress::depth()
-{
-    QFETCH(const int, place);
-    QFETCH(const bool, isFound);
-    World world;
-    QList<std::pair<QString, QString>> elements(place - 1, {u"section"_s, {}});
-    elements.append({Accessibility::kWebAreaRole, u"https://example.org/"_s});
-    world.layOut(elements);
-    const auto address = QCoro::waitFor(readPageAddress(&world.accessibility, &world.clock, kPid));
-    QCOMPARE(address.has_value(), isFound);
 }
 
 void TestPageAddress::slowAnswer_data()

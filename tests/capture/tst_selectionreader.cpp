@@ -42,7 +42,6 @@ private Q_SLOTS:
     void selectionThatComesLate();
     void readableSelectionLeavesThePasteboardAlone();
     void unreadableSelectionIsCopied();
-    void surelyNothingSelectedIsNotCopied();
     void recentCopyIsTheLastResort_data();
     void recentCopyIsTheLastResort();
     void withoutTrustNothingIsCopied();
@@ -108,18 +107,6 @@ void TestSelectionReader::unreadableSelectionIsCopied()
     world.clock.advance(1s);
     QCOMPARE(world.answer, u"selected"_s);
     QCOMPARE(QCoro::waitFor(world.pasteboard.string()), u"copied before"_s);
-}
-
-void TestSelectionReader::surelyNothingSelectedIsNotCopied()
-{
-    World world;
-    world.select(QString());
-    world.poster.setResponse(
-        [&world](EventPoster::Command) { world.pasteboard.setString(u"the line of the caret"_s); });
-    world.ask();
-    QVERIFY(world.isAnswered);
-    QVERIFY(!world.answer);
-    QVERIFY(world.poster.posted().isEmpty());
 }
 
 void TestSelectionReader::recentCopyIsTheLastResort_data()

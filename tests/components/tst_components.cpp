@@ -51,7 +51,6 @@ private Q_SLOTS:
     void everyAccentCanBeRead();
     void everySymbolHasAPicture();
     void themeFollowsTheDesktop();
-    void iconIsLookedUpOnce();
     void menuTellsWhichKeysWork_data();
     void menuTellsWhichKeysWork();
 };
@@ -171,20 +170,6 @@ void ComponentsTest::themeFollowsTheDesktop()
     QCOMPARE(theme->fonts()->title().pixelSize(), qRound(1.5 * usualSize));
     appearance.setCursorFlashTime(std::chrono::milliseconds(0));
     QCOMPARE(QGuiApplication::styleHints()->cursorFlashTime(), 0);
-}
-
-void ComponentsTest::iconIsLookedUpOnce()
-{
-    QPixmap pixmap(8, 8);
-    pixmap.fill(Qt::red);
-    MemoryDesktop desktop;
-    desktop.workspace.install(u"org.example.Editor"_s, QIcon(pixmap));
-    Surroundings &surroundings = Surroundings::of(desktop.engine);
-
-    QVERIFY(surroundings.icon(u"org.example.Gone"_s).isNull());
-    const qint64 first = surroundings.icon(u"org.example.Editor"_s).cacheKey();
-    desktop.workspace.install(u"org.example.Editor"_s, QIcon(QPixmap(4, 4)));
-    QCOMPARE(surroundings.icon(u"org.example.Editor"_s).cacheKey(), first);
 }
 
 void ComponentsTest::menuTellsWhichKeysWork_data()

@@ -5,7 +5,6 @@
 #include "platform/memory/memorykeyboard.h"
 #include "virtualdesktop/files.h"
 
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -92,7 +91,6 @@ private Q_SLOTS:
     static void fileIsRead();
     static void layoutDecides_data();
     static void layoutDecides();
-    static void takenKeyIsTakenBackWhenFree();
     static void fileIsFollowed();
     static void changedPlacesWork();
     static void doubleShiftCanBeAnything();
@@ -173,29 +171,6 @@ void TestUsersKeys::layoutDecides()
     QVERIFY(toggle.has_value());
     QTEST(toggle->key, "key");
     QTEST(keynames::nameOf(toggle->key, &keyboard), "shown");
-}
-
-void TestUsersKeys::takenKeyIsTakenBackWhenFree()
-{
-    World world;
-    QVERIFY(world.keys->holders().isEmpty());
-    world.keyboard.setTaken(kSuperAltQ);
-    world.keyboard.setHolders({u"Openbox"_s});
-    world.replace(u"toggle=Super+Alt+Q"_s);
-    QTRY_COMPARE(world.keys->key(kOpen).state, State::Taken);
-    QCOMPARE(world.keys->holders(), QStringList{u"Openbox"_s});
-    QVERIFY2(world.press(kOpen.combination).isEmpty(), "The default works beside the user's choice.");
-    QCOMPARE(world.press(kWrite.combination), QList{kWrite.id});
-
-    world.keyboard.setFree(kSuperAltQ);
-    QSignalSpy changed(world.keys.get(), &GlobalKeys::changed);
-    world.keys->retry();
-    QCOMPARE(world.keys->key(kOpen).state, State::Works);
-    QVERIFY(world.keys->holders().isEmpty());
-    QCOMPARE(changed.size(), 1);
-    QCOMPARE(world.press(kSuperAltQ), QList{kOpen.id});
-    world.keys->retry();
-    QCOMPARE(changed.size(), 1);
 }
 
 /// Written in place, replaced, removed, written again; nothing of it was there at the start.

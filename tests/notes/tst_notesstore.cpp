@@ -28,7 +28,6 @@ private Q_SLOTS:
     void orderFollowsWritingOnly();
     void tellsOfARemovalBeforeTheRecordIsGone();
     void failedSaveIsKeptAndRetried();
-    void failedSaveChangesNothingInTheFile();
     void retriesMoreAndMoreSeldom();
     void saveFromElsewhereEndsTheRetries();
     void mayDieWhileItWaitsForARetry();
@@ -284,22 +283,6 @@ void TestNotesStore::failedSaveIsKeptAndRetried()
     QVERIFY(!m_fixture->store->hasPendingChanges());
     // Nothing wakes the program up any more.
     QCOMPARE(m_fixture->clock.sleeperCount(), 0);
-}
-
-void TestNotesStore::failedSaveChangesNothingInTheFile()
-{
-    Note &changed = m_fixture->addNote(u"a"_s);
-    QVERIFY(m_fixture->store->save());
-    makeFail(u"c"_s);
-    changed.setText(u"A"_s);
-    m_fixture->addNote(u"b"_s);
-    m_fixture->addNote(u"c"_s);
-    QTest::ignoreMessage(QtWarningMsg, "The notes could not be saved: refused");
-    QVERIFY(!m_fixture->store->save());
-    QCOMPARE(m_fixture->rows(), QStringList{u"a"_s});
-    letSucceed();
-    QVERIFY(m_fixture->store->save());
-    QCOMPARE(m_fixture->rows(), (QStringList{u"A"_s, u"b"_s, u"c"_s}));
 }
 
 void TestNotesStore::retriesMoreAndMoreSeldom()

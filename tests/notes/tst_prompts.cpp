@@ -15,7 +15,6 @@ class TestPrompts : public QObject
 
 private Q_SLOTS:
     void init();
-    void onlyTheNewestPromptIsARepeat();
     void repeatIsExact_data();
     void repeatIsExact();
     void repeatOfALoneSurrogateIsFound();
@@ -50,18 +49,6 @@ QStringList TestPrompts::texts() const
     for (qsizetype i = 0; i < m_fixture->store->prompts().count(); ++i)
         result.append(m_fixture->store->prompts().at(i).text());
     return result;
-}
-
-void TestPrompts::onlyTheNewestPromptIsARepeat()
-{
-    QCOMPARE(save(u"A"_s), Outcome::Saved);
-    QCOMPARE(save(u"A"_s), Outcome::AlreadyThere);
-    QCOMPARE(save(u"B"_s), Outcome::Saved);
-    QCOMPARE(save(u"A"_s), Outcome::Saved);
-    QVERIFY(m_fixture->open());
-    QCOMPARE(texts(), (QStringList{u"A"_s, u"B"_s, u"A"_s}));
-    QCOMPARE(save(u"A"_s), Outcome::AlreadyThere);
-    QVERIFY(m_fixture->store->prompts().first()->isCaptured());
 }
 
 void TestPrompts::repeatIsExact_data()

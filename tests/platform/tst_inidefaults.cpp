@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/consent.h"
 #include "platform/freedesktop/inidefaults.h"
-#include "virtualdesktop/files.h"
 
 #include <QScopeGuard>
 #include <QSignalSpy>
@@ -19,28 +18,11 @@ class TestIniDefaults : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void choicesOutliveTheProgram();
     void choiceOfAnotherProcessArrives();
     void fileThatCannotBeWrittenIsSaid();
     void isForItsUserOnly_data();
     void isForItsUserOnly();
 };
-
-void TestIniDefaults::choicesOutliveTheProgram()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"Vesk/Vesk.conf"_s);
-    {
-        IniDefaults defaults(path);
-        QVERIFY(!defaults.boolForKey(u"hasSeenGuide"_s));
-        defaults.setBool(true, u"hasSeenGuide"_s);
-        defaults.setBool(false, u"collapsed.today"_s);
-    }
-    const QByteArray written = contentsOf(path);
-    QVERIFY(written.startsWith("[General]\n"));
-    QVERIFY(written.contains("collapsed.today=false\n"));
-    QVERIFY(IniDefaults(path).boolForKey(u"hasSeenGuide"_s));
-}
 
 void TestIniDefaults::choiceOfAnotherProcessArrives()
 {
