@@ -15,6 +15,7 @@ namespace vesk {
 
 /// How long the slowest of machines may take; nothing here measures speed.
 constexpr std::chrono::seconds kBound{10};
+
 /// Runs the test object's functions, each process of them below the guard.
 template <typename Test>
 int runDesktopTest(int argc, char **argv)
@@ -27,3 +28,10 @@ int runDesktopTest(int argc, char **argv)
 }
 
 } // namespace vesk
+
+/// The main function of the program that has this one test.
+#define DESKTOP_TEST_MAIN(Test)                                                                              \
+    int main(int argc, char **argv)                                                                          \
+    {                                                                                                        \
+        return vesk::runDesktopTest<Test>(argc, argv);                                                       \
+    }

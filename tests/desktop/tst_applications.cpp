@@ -41,9 +41,5 @@ void TestApplications::promisesHold()
     QVERIFY2(broken.isEmpty(), qPrintable(broken.join(u"; "_s)));
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestApplications>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestApplications)
 #include "tst_applications.moc"

@@ -260,9 +260,5 @@ void TestCommands::interfaceIsAsDescribed()
     QVERIFY(described.contains(u"AddNote s"_s));
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestCommands>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestCommands)
 #include "tst_commands.moc"

@@ -308,9 +308,5 @@ void TestFaults::textOutlivesVesk()
     QCOMPARE(clipboard(), hangs ? std::nullopt : std::optional(m_lines.at(0)));
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestFaults>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestFaults)
 #include "tst_faults.moc"

@@ -348,9 +348,5 @@ void TestGlobalKeys::whatIsTypedFromThePressOnReachesThePanel()
     QVERIFY(isEditorUntouched());
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestGlobalKeys>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestGlobalKeys)
 #include "tst_globalkeys.moc"

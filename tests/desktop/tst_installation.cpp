@@ -102,9 +102,5 @@ void TestInstallation::iconsAreThere()
     QVERIFY(QFile::exists(folder + u"symbolic/apps/org.vesk.Vesk-symbolic.svg"_s));
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestInstallation>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestInstallation)
 #include "tst_installation.moc"

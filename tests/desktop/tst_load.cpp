@@ -80,9 +80,5 @@ void TestLoad::scriptAddsWhileTheUserWrites()
     QDBusConnection::disconnectFromBus(u"load"_s);
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestLoad>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestLoad)
 #include "tst_load.moc"

@@ -169,9 +169,5 @@ void MenusTest::menuBarFormatsTheOpenNote()
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kQuickNote, kBound));
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<MenusTest>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(MenusTest)
 #include "tst_menus.moc"

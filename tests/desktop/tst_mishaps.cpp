@@ -194,9 +194,5 @@ void TestMishaps::keyUpBeforeItsPressIsHeardFiresAgain()
     }
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestMishaps>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestMishaps)
 #include "tst_mishaps.moc"

@@ -148,9 +148,5 @@ void TestNotices::openMenuStaysOpen()
     QVERIFY(isEditorUntouched());
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestNotices>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestNotices)
 #include "tst_notices.moc"

@@ -271,9 +271,5 @@ void TestPanelPlace::goesWhenAnotherApplicationIsUsed()
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestPanelPlace>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestPanelPlace)
 #include "tst_panelplace.moc"

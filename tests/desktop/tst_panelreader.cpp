@@ -273,9 +273,5 @@ void TestPanelReader::languageIsThatOfTheDesktop()
                 == u"1 von 2 erledigt, Vor 3 Std., aus Mousepad");
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestPanelReader>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestPanelReader)
 #include "tst_panelreader.moc"

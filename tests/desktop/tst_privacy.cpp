@@ -104,9 +104,5 @@ void TestPrivacy::otherUsersAreRefusedByTheBus()
     QVERIFY2(!other->errorOutput().contains(u"Permission denied"_s), qPrintable(other->errorOutput()));
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestPrivacy>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestPrivacy)
 #include "tst_privacy.moc"

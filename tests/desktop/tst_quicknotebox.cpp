@@ -243,9 +243,5 @@ void TestQuickNoteBox::unwrittenNoteIsOfferedAtTheEnd()
     QCOMPARE(m_desktop->notes().texts(), QStringList{note});
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestQuickNoteBox>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestQuickNoteBox)
 #include "tst_quicknotebox.moc"

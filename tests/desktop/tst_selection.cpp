@@ -136,9 +136,5 @@ void TestSelection::terminalSurvivesAndTheRecentCopyIsKept()
     QCOMPARE(clipboard(), m_lines.at(0));
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestSelection>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestSelection)
 #include "tst_selection.moc"

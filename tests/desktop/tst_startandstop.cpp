@@ -62,9 +62,5 @@ void TestStartAndStop::unusableStoreIsSaidAndLeftAlone()
     QCOMPARE(QFileInfo::exists(store + u"/kept"_s), kind == u"folder");
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestStartAndStop>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestStartAndStop)
 #include "tst_startandstop.moc"

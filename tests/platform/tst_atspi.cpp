@@ -368,9 +368,5 @@ void TestAtSpi::nothingIsReadOnceStopped()
     QCOMPARE(selectionOf(u"editor"_s), u"x"_s);
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestAtSpi>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestAtSpi)
 #include "tst_atspi.moc"

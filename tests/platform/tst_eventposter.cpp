@@ -135,9 +135,5 @@ void TestEventPoster::hungApplicationIsNotAskedToCopyLater()
     QCOMPARE(m_desktop->display().readSelection("CLIPBOARD", 1s), m_lines.at(1));
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestEventPoster>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestEventPoster)
 #include "tst_eventposter.moc"

@@ -104,9 +104,5 @@ void TestEventTap::keysBecomeTaps()
     QCOMPARE(doubleShift.count(), expected);
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestEventTap>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestEventTap)
 #include "tst_eventtap.moc"

@@ -109,7 +109,6 @@ private Q_SLOTS:
     void keysFollowTheModifiers();
     void lettersAreWhereTheLayoutHasThem_data();
     void lettersAreWhereTheLayoutHasThem();
-    void othersWithKeysAreNamed();
 
 private:
     static void benches();
@@ -321,17 +320,5 @@ void TestHotKeys::lettersAreWhereTheLayoutHasThem()
     QTEST(bench.hotKeys().characterOn(KeyPosition(16)), "onQ");
 }
 
-/// The test's own programs are left out; the window manager has keys of its own.
-void TestHotKeys::othersWithKeysAreNamed()
-{
-    X11Bench bench(m_desktop->keyboard(), false);
-    bench.take(kT);
-    QCOMPARE(bench.hotKeys().otherHolders(), QStringList{u"Openbox"_s});
-}
-
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestHotKeys>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestHotKeys)
 #include "tst_hotkeys.moc"

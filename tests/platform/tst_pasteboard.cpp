@@ -414,9 +414,5 @@ void TestPasteboard::formsOfText()
     QCOMPARE(data.bytes, bytes);
 }
 
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestPasteboard>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestPasteboard)
 #include "tst_pasteboard.moc"

@@ -22,7 +22,6 @@ private Q_SLOTS:
     void secretIsNotEvenRead();
     void lateAnswerIsNotTakenForTheNext();
     void readingGivenUpLetsTheOwnerFinish();
-    void ownerAndTimeAreKnown();
 };
 
 void TestPrimarySelection::text_data()
@@ -85,20 +84,5 @@ void TestPrimarySelection::readingGivenUpLetsTheOwnerFinish()
     QTRY_VERIFY(!owner.isSending());
 }
 
-void TestPrimarySelection::ownerAndTimeAreKnown()
-{
-    auto owner = std::make_unique<SelectionOwner>("x", SelectionOwner::Manner::Whole);
-    const PrimarySelection primary(*m_connection);
-    QCOMPARE(primary.ownerProcess(), std::optional<qint64>(QCoreApplication::applicationPid()));
-    owner = std::make_unique<SelectionOwner>("y", SelectionOwner::Manner::Whole);
-    QTRY_VERIFY(primary.timestamp() != 0);
-    owner.reset();
-    QTRY_VERIFY(!primary.ownerProcess());
-}
-
-int main(int argc, char **argv)
-{
-    return runDesktopTest<TestPrimarySelection>(argc, argv);
-}
-
+DESKTOP_TEST_MAIN(TestPrimarySelection)
 #include "tst_primaryselection.moc"
