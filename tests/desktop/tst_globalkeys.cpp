@@ -23,14 +23,12 @@ private Q_SLOTS:
     void eachKeyDoesItsOwn();
     void layouts_data();
     void layouts();
-    void layoutChangedWhileRunning();
     void takenCombinationIsNamedAndTakenBack();
     void usersOwnCombinationWorks();
     void letterHeldLongerThanItsModifiersTypesNothing();
     void twoAtOnce_data();
     void twoAtOnce();
     void cardThatIsEditedLosesNothing();
-    void withoutConsentShiftIsNotHeard();
     void whatIsTypedFromThePressOnReachesThePanel();
 
 private:
@@ -142,20 +140,6 @@ void TestGlobalKeys::layouts()
     press({XK_c});
     const QStringList expected{m_lines.at(1), u"☐ "_s + m_lines.at(1)};
     VERIFY_ON(*m_desktop, waitNotes(expected));
-}
-
-/// Super and Alt change places on the keyboard, and then back.
-void TestGlobalKeys::layoutChangedWhileRunning()
-{
-    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
-    QVERIFY(runToEnd(u"setxkbmap"_s, {u"-option"_s, u"altwin:swap_lalt_lwin"_s}));
-    capture();
-    VERIFY_ON(*m_desktop, waitNotice(kSaved));
-    QTest::qWait(int(kCaptureGate.count()));
-    QVERIFY(runToEnd(u"setxkbmap"_s, {u"-option"_s, QString()}));
-    capture();
-    VERIFY_ON(*m_desktop, waitNotice(kAlready));
-    QVERIFY(isEditorUntouched());
 }
 
 /// Another program comes first, and gives the combination up later.
@@ -291,23 +275,6 @@ void TestGlobalKeys::cardThatIsEditedLosesNothing()
     VERIFY_ON(*m_desktop, waitNotes({note, u"more"_s}));
     tap({XK_Control_L, XK_a});
     QCOMPARE(copied(), note);
-}
-
-void TestGlobalKeys::withoutConsentShiftIsNotHeard()
-{
-    VERIFY_ON(*m_desktop, m_editor->selectLine(0));
-    QVERIFY(runToEnd(VirtualDesktop::veskProgram(), {u"access"_s, u"deny"_s}));
-    tapShiftTwice();
-    press({XK_Shift_L, XK_c});
-    VERIFY_ON(*m_desktop, waitNotice(u"Vesk needs Accessibility access"_s));
-    QVERIFY(m_desktop->notes().promptTexts().isEmpty());
-    QVERIFY(runToEnd(VirtualDesktop::veskProgram(), {u"access"_s, u"allow"_s}));
-    m_desktop->windows().activate(m_editor->window());
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
-    VERIFY_ON(*m_desktop, m_editor->selectLine(1));
-    tapShiftTwice();
-    VERIFY_ON(*m_desktop, waitNotice(kSavedPrompt));
-    QCOMPARE(m_desktop->notes().promptTexts(), QStringList{m_lines.at(1)});
 }
 
 /// The first letters come before the panel is on the screen.

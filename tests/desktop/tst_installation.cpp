@@ -73,6 +73,7 @@ void TestInstallation::menuShowsIt()
     const std::optional<Window> panel = m_desktop->windows().waitViewable(kPanel, kBound);
     QVERIFY2(panel, qPrintable(vesk->errorOutput()));
     QCOMPARE(panel->pid, vesk->pid());
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
 }
 
 void TestInstallation::busStartsIt()

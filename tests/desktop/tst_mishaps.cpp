@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/vesktest.h"
+#include "virtualdesktop/files.h"
 #include "virtualdesktop/texteditor.h"
 
 #include <QDBusConnection>
@@ -12,7 +13,8 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// What Vesk keeps of its word when it is killed or cut off, and when a key is up sooner than it is heard.
+/// What Vesk keeps of its word when it is killed or cut off, when it cannot open its store, and when a key is
+/// up sooner than it is heard.
 class TestMishaps : public VeskTest
 {
     Q_OBJECT
@@ -25,6 +27,7 @@ private Q_SLOTS:
     void endedWhileTypingLosesNothing_data();
     void endedWhileTypingLosesNothing();
     void keyUpBeforeItsPressIsHeardFiresAgain();
+    void unusableStoreIsSaidAndLeftAlone();
 
 private:
     [[nodiscard]] static int rounds();
@@ -192,6 +195,25 @@ void TestMishaps::keyUpBeforeItsPressIsHeardFiresAgain()
         togglePanel();
         VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
     }
+}
+
+void TestMishaps::unusableStoreIsSaidAndLeftAlone()
+{
+    const QString store = m_desktop->notes().path();
+    const QString rubbish = u"No database, but dear to someone.\n"_s.repeated(99);
+    QVERIFY(!m_desktop->writeFile(u"data/Vesk/Notes.store"_s, rubbish).isEmpty());
+
+    m_vesk = m_desktop->run(VirtualDesktop::veskProgram());
+    QVERIFY(m_vesk);
+    const std::optional<Window> window = m_desktop->windows().waitViewableOf(m_vesk->pid(), {}, kBound);
+    QVERIFY2(window, qPrintable(m_vesk->errorOutput()));
+    QVERIFY2(m_vesk->errorOutput().contains(u"Could not open the notes store: "_s),
+             qPrintable(m_vesk->errorOutput()));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*window, kBound));
+    m_desktop->keyboard().tap({XK_Escape});
+    QVERIFY(m_vesk->waitForExit(kBound));
+    QCOMPARE(m_vesk->exitCode(), 1);
+    QCOMPARE(contentsOf(store), rubbish.toUtf8());
 }
 
 DESKTOP_TEST_MAIN(TestMishaps)

@@ -46,6 +46,7 @@ void TestSelection::withoutConsentNothingIsRead()
 {
     QVERIFY(setConsent(u"deny"_s));
     VERIFY_ON(*m_desktop, m_editor->selectLine(0));
+    tapShiftTwice();
     capture();
     const QString question = u"Vesk: Let Vesk read what you select?"_s;
     const auto window = m_desktop->windows().waitFocused(question, kBound);
@@ -69,6 +70,10 @@ void TestSelection::withoutConsentNothingIsRead()
     capture();
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
     QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(0)});
+    QVERIFY(m_desktop->notes().promptTexts().isEmpty());
+    tapShiftTwice();
+    VERIFY_ON(*m_desktop, waitNotice(u"Saved to Prompts"_s));
+    QCOMPARE(m_desktop->notes().promptTexts(), QStringList{m_lines.at(0)});
 }
 
 void TestSelection::noteIsPastedIntoTheEditor()

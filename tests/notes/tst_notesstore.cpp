@@ -3,8 +3,6 @@
 
 #include <QTest>
 
-#include <SQLiteCpp/Transaction.h>
-
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -27,7 +25,6 @@ private Q_SLOTS:
     void agreesWithTheFileAfterRandomChanges();
     void orderFollowsWritingOnly();
     void tellsOfARemovalBeforeTheRecordIsGone();
-    void failedSaveIsKeptAndRetried();
     void retriesMoreAndMoreSeldom();
     void saveFromElsewhereEndsTheRetries();
     void mayDieWhileItWaitsForARetry();
@@ -264,25 +261,6 @@ void TestNotesStore::tellsOfARemovalBeforeTheRecordIsGone()
     QVERIFY(wasHeard);
     QVERIFY(m_fixture->store->save());
     QVERIFY(m_fixture->rows().isEmpty());
-}
-
-void TestNotesStore::failedSaveIsKeptAndRetried()
-{
-    m_fixture->addNote(u"a"_s);
-    {
-        SQLite::Database locker = m_fixture->outsider(SQLite::OPEN_READWRITE);
-        const SQLite::Transaction lock(locker, SQLite::TransactionBehavior::IMMEDIATE);
-        QTest::ignoreMessage(QtWarningMsg, "The notes could not be saved: database is locked");
-        QVERIFY(!m_fixture->store->save());
-    }
-    QVERIFY(m_fixture->store->hasPendingChanges());
-    m_fixture->clock.advance(4999ms);
-    QVERIFY(m_fixture->rows().isEmpty());
-    m_fixture->clock.advance(1ms);
-    QCOMPARE(m_fixture->rows(), QStringList{u"a"_s});
-    QVERIFY(!m_fixture->store->hasPendingChanges());
-    // Nothing wakes the program up any more.
-    QCOMPARE(m_fixture->clock.sleeperCount(), 0);
 }
 
 void TestNotesStore::retriesMoreAndMoreSeldom()

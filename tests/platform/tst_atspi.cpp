@@ -55,7 +55,6 @@ private Q_SLOTS:
     void applicationIsWoken();
     void selectedText_data();
     void selectedText();
-    void eventLoopTurnsWhileAnApplicationIsSilent();
     void selectionWithAPartThatDoesNotAnswerIsNone();
     void busDiesAndReturns();
     void nothingIsReadOnceStopped();
@@ -300,20 +299,6 @@ void TestAtSpi::selectedText()
     QCOMPARE(selectionOf(u"editor"_s), expected);
     m_application->manner().hasLinks = true;
     QCOMPARE(selectionOf(u"editor"_s), expected);
-}
-
-void TestAtSpi::eventLoopTurnsWhileAnApplicationIsSilent()
-{
-    show(window({.isFocused = true, .isText = true}));
-    m_application->manner().isSilent = true;
-    QTimer ticker;
-    int ticks = 0;
-    connect(&ticker, &QTimer::timeout, this, [&ticks] { ++ticks; });
-    ticker.start(5);
-    QCOMPARE(focus({}), kNone);
-    QVERIFY(ticks > 5);
-    QVERIFY(m_application->calls() > 0);
-    QCOMPARE(selectionOf(u"editor"_s, {}), kNone);
 }
 
 void TestAtSpi::selectionWithAPartThatDoesNotAnswerIsNone()

@@ -4,10 +4,9 @@
 
 #include <QTest>
 
-using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// What docks leave of the screens of a desktop, and what other programs give for targets and for a text.
+/// What docks leave of the screens of a desktop, and what other programs give for targets.
 class X11RulesTest : public QObject
 {
     Q_OBJECT
@@ -16,8 +15,6 @@ private Q_SLOTS:
     void docksTakeTheirScreensOnly_data();
     void docksTakeTheirScreensOnly();
     void targetsThatAreCutAreLeftOut();
-    void everythingBecomesSomeText_data();
-    void everythingBecomesSomeText();
 };
 
 void X11RulesTest::docksTakeTheirScreensOnly_data()
@@ -59,28 +56,6 @@ void X11RulesTest::targetsThatAreCutAreLeftOut()
     for (const qsizetype size : {0, 1, 3, 4, 7})
         QCOMPARE(selectionbytes::atoms(QByteArray(size, '\1')),
                  QList<xcb_atom_t>(size / 4, xcb_atom_t{0x01010101}));
-}
-
-void X11RulesTest::everythingBecomesSomeText_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<selectionbytes::Encoding>("encoding");
-    QTest::addColumn<QString>("text");
-    using Encoding = selectionbytes::Encoding;
-    QTest::newRow("nothing") << QByteArray() << Encoding::Utf8 << QString();
-    QTest::newRow("Latin-1") << QByteArray("caf\xE9") << Encoding::Latin1 << u"caf\u00E9"_s;
-    QTest::newRow("Latin-1 that claims to be UTF-8")
-        << QByteArray("caf\xE9") << Encoding::Utf8 << u"caf\uFFFD"_s;
-    QTest::newRow("NUL") << QByteArray("a\0b", 3) << Encoding::Utf8 << QString(u"a\0b"_s);
-    QTest::newRow("UTF-16 that claims to be UTF-8")
-        << QByteArray("\xFE\xFF\0a", 4) << Encoding::Utf8 << QString(u"\uFFFD\uFFFD\0a"_s);
-}
-
-void X11RulesTest::everythingBecomesSomeText()
-{
-    QFETCH(const QByteArray, bytes);
-    QFETCH(const selectionbytes::Encoding, encoding);
-    QTEST(selectionbytes::text(bytes, encoding), "text");
 }
 
 QTEST_GUILESS_MAIN(X11RulesTest)
