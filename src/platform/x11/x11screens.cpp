@@ -32,7 +32,8 @@ QRectF fromPixels(const QRect &area, const QScreen &screen)
 QList<quint32> numbersOf(const QByteArray &bytes)
 {
     QList<quint32> numbers(bytes.size() / qsizetype{sizeof(quint32)});
-    std::memcpy(numbers.data(), bytes.constData(), static_cast<size_t>(numbers.size()) * sizeof(quint32));
+    if (!numbers.isEmpty())
+        std::memcpy(numbers.data(), bytes.constData(), static_cast<size_t>(numbers.size()) * sizeof(quint32));
     return numbers;
 }
 
