@@ -117,8 +117,8 @@ int main(int argc, char *argv[])
     const QCommandLineOption composited(u"composited"_s, u"Rely on a compositor that blends windows."_s);
     const QCommandLineOption still(u"still"_s, u"No animation."_s);
     const QCommandLineOption notes(u"notes"_s, u"How many notes."_s, u"N"_s, u"8"_s);
-    const QCommandLineOption texts(u"texts"_s, u"Which notes: everyday, right-to-left or long-words."_s,
-                                   u"KIND"_s);
+    const QCommandLineOption texts(
+        u"texts"_s, u"Which notes: everyday, right-to-left, long-words, long or scripts."_s, u"KIND"_s);
     const QCommandLineOption language(u"language"_s, u"The language of Vesk's texts, such as de."_s,
                                       u"CODE"_s, u"en"_s);
     const QCommandLineOption search(u"search"_s, u"What to search for."_s, u"TEXT"_s);

@@ -109,6 +109,28 @@ constexpr std::array kLongWords{
                    u"κοσσυφο"},
 };
 
+/// Letters that are not Latin, that are put together, or that are pictures.
+constexpr std::array kScripts{
+    Sample{.age = 1min,
+           .text = u"👩‍👩‍👧‍👦 家族会議 🎌 が金曜日にあります\n☑ "
+                   u"会議室を予約する\n☐ "
+                   u"資料を印刷する（二十部）\n☐ 🍵 お茶",
+           .app = u"文本编辑器",
+           .bundle = u"org.xfce.mousepad"},
+    Sample{
+        .age = 5min,
+        .text =
+            u"每天早晨六点钟起床，先读一个小时的书，然后沿着河边慢慢地走到办公室去，路上买两个包子和一杯豆浆"
+            u"\n这样的一天从来不会太糟糕。晚上回家以后再写几行日记，把想到的事情都记下来，第二天就不会忘记了"
+            u"。",
+        .app = u"Firefox",
+        .bundle = u"firefox-esr"},
+    Sample{.age = 40min,
+           .text =
+               u"Z̷a̷l̷g̷o̷ e̍̎̄̅̿̑ a̐̒͒ tiếng Việt có dấu: Nguyễn Thị Ngọc Ánh\nनमस्ते दुनिया, क्षत्रिय · สวัสดีชาวโลก · שָׁלוֹם · "
+               u"مرحبًا"},
+};
+
 struct SamplePrompt
 {
     std::chrono::minutes age;
@@ -136,6 +158,35 @@ constexpr std::array kPrompts{
     SamplePrompt{.age = 2min * 24 * 60, .text = u"Which of these names is taken?", .isDone = true},
 };
 
+/// What is long in other ways: a note of many lines, a checklist of many rows, the title of a page.
+std::span<const Sample> longOnes()
+{
+    static const QString kLines = [] {
+        QString lines = u"Minutes of the meeting"_s;
+        for (int i = 1; i <= 500; ++i)
+            lines += u"\nLine %1, which says what was said."_s.arg(i);
+        return lines;
+    }();
+    static const QString kRows = [] {
+        QString rows = u"Everything for the move"_s;
+        for (int i = 1; i <= 60; ++i)
+            rows += (i % 3 == 1 ? u"\n☑ Box number %1"_s : u"\n☐ Box number %1"_s).arg(i);
+        return rows;
+    }();
+    static const QString kTitle = u"A page whose title goes on and on "_s.repeated(9);
+    static const std::array kLong{
+        Sample{.age = 1min, .text = kLines},
+        Sample{.age = 5min, .text = kRows},
+        Sample{.age = 9min,
+               .text = u"From a page with a long title",
+               .app = u"Firefox",
+               .bundle = u"firefox-esr",
+               .title = kTitle,
+               .url = u"https://example.org/on-and-on"},
+    };
+    return kLong;
+}
+
 std::optional<QString> text(QStringView view)
 {
     return view.isEmpty() ? std::nullopt : std::optional(view.toString());
@@ -145,6 +196,8 @@ std::span<const Sample> samples(const QString &kind)
 {
     return kind == u"right-to-left" ? std::span<const Sample>(kRightToLeft)
            : kind == u"long-words"  ? std::span<const Sample>(kLongWords)
+           : kind == u"scripts"     ? std::span<const Sample>(kScripts)
+           : kind == u"long"        ? longOnes()
                                     : std::span<const Sample>(kEveryday);
 }
 
