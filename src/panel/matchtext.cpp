@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "panel/matchtext.h"
 
+#include "panel/cutoff.h"
 #include "panel/highlight.h"
 
-#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPainter>
 
@@ -46,10 +46,8 @@ void MatchText::layOut()
     m_layout.setFont(font);
     Lines lines = breakLines(m_text);
     if (lines.end < m_text.size()) {
-        const QString rest = m_text.sliced(lines.lastStart);
-        const QString shortened =
-            QFontMetricsF(font).elidedText(rest, Qt::ElideRight, std::max(1.0, width()));
-        lines = breakLines(m_text.left(lines.lastStart) + shortened);
+        const QStringView rest = QStringView(m_text).sliced(lines.lastStart);
+        lines = breakLines(m_text.left(lines.lastStart) + cutOff(rest, font, std::max(1.0, width())));
     }
     setImplicitHeight(std::ceil(lines.height));
     update();

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "panel/textmeasure.h"
 
-#include <QFontMetricsF>
+#include "panel/cutoff.h"
+
 #include <QTextLayout>
 
 namespace vesk {
@@ -61,12 +62,8 @@ void TextMeasure::measure()
     m_isLong = isLong;
     m_shortText = m_text;
     if (isLong) {
-        QString last = m_text.sliced(lastStart, lastEnd - lastStart);
-        while (!last.isEmpty() && last.back().isSpace())
-            last.chop(1);
-        const QFontMetricsF metrics(m_font);
-        last += QChar(0x2026);
-        m_shortText = m_text.left(lastStart) + metrics.elidedText(last, Qt::ElideRight, m_width);
+        const QStringView last = QStringView(m_text).sliced(lastStart, lastEnd - lastStart);
+        m_shortText = m_text.left(lastStart) + cutOff(last, m_font, m_width);
     }
     Q_EMIT measured();
 }

@@ -342,7 +342,7 @@ void PanelViewTest::longPromptIsCutOff_data()
     QTest::addColumn<bool>("isLong");
 
     QTest::newRow("five lines") << u"1\n2\n3\n4\n5"_s << false;
-    QTest::newRow("six lines") << u"1\n2\n3\n4\n5\n6"_s << true;
+    QTest::newRow("six lines") << u"1\n2\n3\n4\n5.\n6"_s << true;
     QTest::newRow("one long line") << u"word "_s.repeated(90) << true;
 }
 
@@ -358,6 +358,13 @@ void PanelViewTest::longPromptIsCutOff()
     QCOMPARE(button(u"Show more"_s) != nullptr, isLong);
     if (!isLong)
         return;
+    // An ellipsis runs into no full stop and no space.
+    const auto texts = body.children();
+    const auto edit =
+        std::ranges::find_if(texts, [](const QObject *each) { return each->inherits("QQuickTextEdit"); });
+    QVERIFY(edit != texts.end());
+    const QString cut = (*edit)->property("text").toString();
+    QVERIFY2(cut.endsWith(u'…') && cut.at(cut.size() - 2).isLetterOrNumber(), qPrintable(cut));
     click(*button(u"Show more"_s));
     QTRY_VERIFY(button(u"Show less"_s));
     QTRY_VERIFY(body.height() > height + 1);
