@@ -27,6 +27,9 @@ FocusScope {
     property bool takesCommandReturn: false
     property bool takesEmptyItemReturn: false
     property bool takesEscape: false
+    property bool takesTabbing: false
+    // What lies under the text.
+    property color ground: Theme.background
     readonly property bool hasFocus: edit.activeFocus || menu.isOpen
     readonly property real inset: 4
     readonly property real contentHeight: edit.implicitHeight + 2 * root.inset
@@ -36,6 +39,7 @@ FocusScope {
     signal commandReturned
     signal emptyItemReturned
     signal escaped
+    signal tabbed(bool isForwards)
     signal contentHeightReported(real height)
 
     function forceFocus() {
@@ -81,10 +85,12 @@ FocusScope {
         keys.takesCommandReturn: root.takesCommandReturn
         keys.takesEmptyItemReturn: root.takesEmptyItemReturn
         keys.takesEscape: root.takesEscape
+        keys.takesTabbing: root.takesTabbing
         keys.onReturned: root.returned()
         keys.onCommandReturned: root.commandReturned()
         keys.onEmptyItemReturned: root.emptyItemReturned()
         keys.onEscaped: root.escaped()
+        keys.onTabbed: isForwards => root.tabbed(isForwards)
         onLaidOut: root.followCaret()
         onContextMenuRequested: point => menu.show(point)
     }

@@ -150,6 +150,10 @@ bool NoteTextKeys::eraseLineBreak(const QKeyEvent &event)
 
 void NoteTextKeys::leaveText(bool isForwards)
 {
+    if (m_takesTabbing) {
+        Q_EMIT tabbed(isForwards);
+        return;
+    }
     if (QQuickItem *next = m_edit.item()->nextItemInFocusChain(isForwards))
         next->forceActiveFocus(isForwards ? Qt::TabFocusReason : Qt::BacktabFocusReason);
 }

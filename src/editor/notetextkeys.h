@@ -26,6 +26,8 @@ class NoteTextKeys final : public QObject
     Q_PROPERTY(bool takesCommandReturn MEMBER m_takesCommandReturn NOTIFY takesChanged)
     Q_PROPERTY(bool takesEmptyItemReturn MEMBER m_takesEmptyItemReturn NOTIFY takesChanged)
     Q_PROPERTY(bool takesEscape MEMBER m_takesEscape NOTIFY takesChanged)
+    /// Control-Tab, with or without Shift; else it goes to the next control.
+    Q_PROPERTY(bool takesTabbing MEMBER m_takesTabbing NOTIFY takesChanged)
 
 public:
     /// Both have to outlive this.
@@ -45,6 +47,7 @@ Q_SIGNALS:
     void commandReturned();
     void emptyItemReturned();
     void escaped();
+    void tabbed(bool isForwards);
 
 private:
     bool handleEditingKey(const QKeyEvent &event);
@@ -63,6 +66,7 @@ private:
     bool m_takesCommandReturn = false;
     bool m_takesEmptyItemReturn = false;
     bool m_takesEscape = false;
+    bool m_takesTabbing = false;
 };
 
 } // namespace vesk

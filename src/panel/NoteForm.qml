@@ -42,9 +42,11 @@ FocusScope {
         autofocus: true
         takesCommandReturn: true
         takesEscape: true
+        takesTabbing: true
         onEdited: text => root.panel.cards.edit(root.cardId, text)
         onCommandReturned: root.panel.openNote.close()
         onEscaped: root.panel.openNote.close()
+        onTabbed: isForwards => root.panel.changeTab(isForwards)
         onContentHeightReported: height => {
             reportedHeight = height;
             isSettled = true;

@@ -17,12 +17,14 @@ enum class Key {
     Delete,
     Escape,
     Return,
+    Tab,
 };
 
 enum class Held {
     Nothing,
     Command,
     Shift,
+    CommandShift,
     /// These or any others.
     Anything,
 };
@@ -65,6 +67,8 @@ constexpr std::array kRules{
     Rule{Key::Return, Held::Anything, When::InComposer, PanelAction::Pass},
     Rule{Key::Return, Held::Nothing, When::NoField, PanelAction::OpenSelected},
     Rule{Key::Return, Held::Command, When::NoField, PanelAction::PasteSelected},
+    Rule{Key::Tab, Held::Command, When::Always, PanelAction::NextTab},
+    Rule{Key::Tab, Held::CommandShift, When::Always, PanelAction::PreviousTab},
 };
 
 std::optional<Key> keyOf(int key)
@@ -84,6 +88,9 @@ std::optional<Key> keyOf(int key)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         return Key::Return;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return Key::Tab;
     default:
         return std::nullopt;
     }
@@ -102,6 +109,8 @@ bool isHeld(Held held, Qt::KeyboardModifiers modifiers)
         return (modifiers & kCounted) == Qt::ControlModifier;
     case Held::Shift:
         return (modifiers & kCounted) == Qt::ShiftModifier;
+    case Held::CommandShift:
+        return (modifiers & kCounted) == (Qt::ControlModifier | Qt::ShiftModifier);
     case Held::Anything:
         return true;
     }

@@ -22,6 +22,8 @@ enum class PanelAction {
     BreakLine,
     OpenSelected,
     PasteSelected,
+    NextTab,
+    PreviousTab,
 };
 
 /// What the meaning of a key depends on.

@@ -100,6 +100,10 @@ bool PanelKeys::perform(PanelAction action, int key)
         return selected && m_panel.cards()->activate(*selected);
     case PanelAction::PasteSelected:
         return selected && m_panel.cards()->pasteBack(*selected);
+    case PanelAction::NextTab:
+    case PanelAction::PreviousTab:
+        m_panel.changeTab(action == PanelAction::NextTab);
+        return true;
     }
     Q_UNREACHABLE();
 }

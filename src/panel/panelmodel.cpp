@@ -5,6 +5,8 @@
 #include "panel/searchtext.h"
 #include "platform/accessibility.h"
 
+#include <array>
+
 namespace vesk {
 
 PanelModel::PanelModel(NotesStore &store, Clock &clock, Defaults &defaults, Application &application,
@@ -76,6 +78,14 @@ void PanelModel::becomeHidden()
     m_openNote.close();
     m_selection.select(std::nullopt);
     m_keyboard.request(Field::None);
+}
+
+void PanelModel::changeTab(bool isForwards)
+{
+    constexpr std::array kOrder{Tab::Notes, Tab::Checklists, Tab::Prompts};
+    const size_t step = isForwards ? 1 : kOrder.size() - 1;
+    m_openNote.close();
+    setTab(kOrder.at((static_cast<size_t>(m_tab) + step) % kOrder.size()));
 }
 
 void PanelModel::setTab(Tab tab)

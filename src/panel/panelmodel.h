@@ -76,6 +76,8 @@ public:
     void commitDraft();
     /// Has the user asked whether Vesk may read other applications.
     Q_INVOKABLE void askForTrust();
+    /// Goes to the next tab, or to the one before, and round at the end; an open note is closed.
+    Q_INVOKABLE void changeTab(bool isForwards);
 
     /// To be called before each show: nothing is searched for, the day and times are of now, and a new
     /// user is shown the guide.

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void composerCommits();
     void shortcutsFromAnyField_data();
     void shortcutsFromAnyField();
+    void controlTabGoesRoundTheTabs();
     void pasteGoesIntoTheFieldThatHasTheKeyboard();
     void controlReturnPastesTheSelectedNote();
     void locksAndNumberPadDoNotCount();
@@ -178,6 +179,34 @@ void PanelKeysTest::shortcutsFromAnyField()
     QCOMPARE(model().keyboard()->activeField(), Field::Search);
 }
 
+void PanelKeysTest::controlTabGoesRoundTheTabs()
+{
+    using Tab = PanelModel::Tab;
+    addNote(u"☐ four"_s);
+    for (const Field from : {Field::None, Field::Search, Field::Composer}) {
+        model().requestField(from);
+        press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(model().tab(), Tab::Prompts);
+        press(Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(model().tab(), Tab::Notes);
+        QCOMPARE(model().keyboard()->activeField(), from);
+    }
+    model().requestField(Field::None);
+    for (const Tab next : {Tab::Checklists, Tab::Prompts}) {
+        press(Qt::Key_Down);
+        press(Qt::Key_Return);
+        QTRY_VERIFY(model().keyboard()->isEditing());
+        press(Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(model().tab(), next);
+        QVERIFY(!model().openNote()->id());
+        QTRY_VERIFY(!model().keyboard()->isEditing());
+    }
+    // The keys are those of the list that is shown, as they were.
+    press(Qt::Key_Tab, Qt::ControlModifier);
+    press(Qt::Key_Down);
+    QVERIFY(!focusedText().isEmpty());
+}
+
 void PanelKeysTest::pasteGoesIntoTheFieldThatHasTheKeyboard()
 {
     QSignalSpy pastes(model().keyboard(), &PanelKeyboard::fieldPasteRequested);
@@ -266,7 +295,7 @@ void PanelKeysTest::typingBeginsASearch()
     QCOMPARE(model().editor()->textView()->text().last(2), u"y!"_s);
 
     // A letter beside the text of an open note must not close it.
-    press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
     QVERIFY(!model().keyboard()->isEditing());
     type(u"x"_s);
     QVERIFY(model().openNote()->id());
