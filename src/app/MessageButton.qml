@@ -12,7 +12,7 @@ PressButton {
 
     name: root.text
     width: label.implicitWidth + 32
-    height: 30
+    height: Math.round(30 * Theme.fonts.scale)
     pressedScale: 0.97
     focusRadius: 10
 

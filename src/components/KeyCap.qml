@@ -12,9 +12,9 @@ Rectangle {
     // Pressing it does nothing now.
     property bool isIdle: false
 
-    implicitWidth: Math.max(implicitHeight, Math.ceil(label.implicitWidth) + 2 * (label.text.length > 1 ? 4 : 2))
+    implicitWidth: Math.max(implicitHeight, Math.ceil(label.implicitWidth) + 2 * Math.round((label.text.length > 1 ? 4 : 2) * Theme.fonts.scale))
     implicitHeight: Math.round(20 * Theme.fonts.scale)
-    radius: 5
+    radius: Math.round(5 * Theme.fonts.scale)
     color: Theme.capFill
     border.width: 1
     border.color: Theme.capEdge

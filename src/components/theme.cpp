@@ -78,11 +78,6 @@ QColor Theme::lineAt(float opacity) const
     return primaryAt(std::min(1.0F, opacity * m_palette.lineStrength));
 }
 
-QColor Theme::clearBackground() const
-{
-    return withOpacity(m_palette.background, 0);
-}
-
 QColor Theme::faintFill() const
 {
     return primaryAt(0.045F);

@@ -27,8 +27,6 @@ class Theme final : public QObject
     Q_PROPERTY(bool isMirrored READ isMirrored NOTIFY mirroredChanged)
 
     Q_PROPERTY(QColor background READ background NOTIFY changed)
-    /// The background, wholly transparent: the other end of a fade.
-    Q_PROPERTY(QColor clearBackground READ clearBackground NOTIFY changed)
     Q_PROPERTY(QColor primary READ primary NOTIFY changed)
     Q_PROPERTY(QColor secondary READ secondary NOTIFY changed)
     Q_PROPERTY(QColor tertiary READ tertiary NOTIFY changed)
@@ -75,7 +73,6 @@ public:
     [[nodiscard]] bool isComposited() const;
     [[nodiscard]] static bool isMirrored();
     [[nodiscard]] QColor background() const { return m_palette.background; }
-    [[nodiscard]] QColor clearBackground() const;
     [[nodiscard]] QColor primary() const { return m_palette.primary; }
     [[nodiscard]] QColor secondary() const { return m_palette.secondary; }
     [[nodiscard]] QColor tertiary() const { return m_palette.tertiary; }

@@ -24,6 +24,8 @@ Flow {
         Accessible.name: label.text
 
         Symbol {
+            id: sign
+
             anchors.verticalCenter: label.verticalCenter
             name: root.isTrusted ? "checkmark.circle.fill" : "hand.raised.fill"
             size: Math.round(13 * Theme.fonts.scale)
@@ -33,7 +35,7 @@ Flow {
         Text {
             id: label
 
-            width: Math.min(implicitWidth, root.width - 13 - Theme.smallSpace)
+            width: Math.min(implicitWidth, root.width - sign.width - parent.spacing)
             wrapMode: Text.Wrap
             textFormat: Text.PlainText
             text: root.isTrusted ? qsTr("Accessibility access allowed") : qsTr("Needs Accessibility access")
@@ -72,7 +74,7 @@ Flow {
         Rectangle {
             width: parent.width
             height: 1
-            y: linkLabel.baselineOffset + 2
+            y: Math.round(linkLabel.baselineOffset) + 2
             visible: link.hovered
             color: Theme.accent
         }

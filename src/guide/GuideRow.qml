@@ -35,16 +35,16 @@ Item {
         id: tile
 
         anchors.left: parent.left
-        width: 32
-        height: 32
-        radius: 8
+        width: Math.round(32 * Theme.fonts.scale)
+        height: width
+        radius: width / 4
         antialiasing: true
         color: Theme.accentTile
 
         Symbol {
             anchors.centerIn: parent
             name: root.symbol
-            size: 16
+            size: Math.round(16 * Theme.fonts.scale)
             color: Theme.accent
         }
     }
@@ -115,9 +115,9 @@ Item {
                 id: sign
 
                 visible: root.isTaken
-                y: 2
+                y: Math.round(2 * Theme.fonts.scale)
                 name: "exclamationmark.triangle.fill"
-                size: 12
+                size: Math.round(12 * Theme.fonts.scale)
                 color: Theme.attentionText
             }
 

@@ -139,6 +139,21 @@ FocusScope {
         }
     }
 
+    EdgeFade {
+        anchors.top: scroller.top
+        anchors.leftMargin: column.x
+        anchors.rightMargin: column.x
+        height: 12
+        visible: !scroller.atYBeginning
+    }
+
+    EdgeFade {
+        anchors.bottom: scroller.bottom
+        height: 16
+        rotation: 180
+        visible: !scroller.atYEnd
+    }
+
     Rectangle {
         readonly property real track: scroller.height - 2 * 12
 

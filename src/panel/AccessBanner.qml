@@ -10,6 +10,9 @@ Item {
     id: root
 
     required property bool isShown
+    // Whether the button stands below the message, which beside it would have room for a word or two.
+    readonly property bool isStacked: plate.width - dot.anchors.leftMargin - dot.width - button.width - 3 * Theme.wideSpace < 150 * Theme.fonts.scale
+    readonly property real contentHeight: root.isStacked ? message.height + Theme.smallSpace + button.height : Math.max(message.height, button.height)
 
     signal settingsRequested
 
@@ -32,7 +35,7 @@ Item {
 
         anchors.left: parent.left
         anchors.right: parent.right
-        implicitHeight: Math.max(message.implicitHeight, button.implicitHeight) + 2 * Theme.wideSpace
+        implicitHeight: root.contentHeight + 2 * Theme.wideSpace
         height: implicitHeight
         border.color: "transparent"
         Accessible.role: Accessible.Notification
@@ -43,9 +46,10 @@ Item {
 
             anchors.left: parent.left
             anchors.leftMargin: 12
-            anchors.verticalCenter: parent.verticalCenter
-            width: 8
-            height: 8
+            // Beside the first line, or in the middle of all.
+            y: message.y + Math.round((message.height / (root.isStacked ? message.lineCount : 1) - height) / 2)
+            width: Math.round(8 * Theme.fonts.scale)
+            height: width
             color: Theme.attention
         }
 
@@ -54,9 +58,9 @@ Item {
 
             anchors.left: dot.right
             anchors.leftMargin: Theme.wideSpace
-            anchors.right: button.left
+            anchors.right: root.isStacked ? parent.right : button.left
             anchors.rightMargin: Theme.wideSpace
-            anchors.verticalCenter: parent.verticalCenter
+            y: Theme.wideSpace + (root.isStacked ? 0 : Math.round((root.contentHeight - height) / 2))
             wrapMode: Text.Wrap
             textFormat: Text.PlainText
             text: qsTr("Vesk needs Accessibility access to read selected text")
@@ -69,11 +73,11 @@ Item {
 
             anchors.right: parent.right
             anchors.rightMargin: Theme.wideSpace
-            anchors.verticalCenter: parent.verticalCenter
+            y: Theme.wideSpace + (root.isStacked ? root.contentHeight - height : Math.round((root.contentHeight - height) / 2))
             implicitWidth: label.implicitWidth + 2 * Theme.wideSpace
-            implicitHeight: 26
+            implicitHeight: Math.round(26 * Theme.fonts.scale)
             pressedScale: 0.95
-            focusRadius: 16
+            focusRadius: height / 2 + 3
             name: label.text
             onClicked: root.settingsRequested()
 

@@ -23,7 +23,7 @@ Item {
         Symbol {
             anchors.horizontalCenter: parent.horizontalCenter
             name: root.symbol
-            size: 26
+            size: Math.round(26 * Theme.fonts.scale)
             color: Theme.quaternary
         }
 

@@ -12,13 +12,17 @@ Item {
 
     // As the longest combination of keys needs.
     property real keysWidth: 136
+    readonly property real fullWidth: root.width - 2 * Theme.margin
+    readonly property real hintWidth: root.width - root.keysWidth - 3 * Theme.margin
+    // Whether a hint stands below its keys, since words would be broken beside them.
+    readonly property bool isStacked: root.hintWidth < 110 * Theme.fonts.scale
 
     // Scrolls where large texts leave no room.
     Flickable {
         id: scroller
 
         anchors.fill: parent
-        contentHeight: column.height
+        contentHeight: column.height + 2 * Theme.space
         boundsBehavior: Flickable.StopAtBounds
         clip: true
 
@@ -26,7 +30,7 @@ Item {
             id: column
 
             anchors.horizontalCenter: parent.horizontalCenter
-            y: Math.max(0, (scroller.height - height) / 2)
+            y: Math.max(Theme.space, Math.round((scroller.height - height) / 2))
             spacing: Theme.smallSpace
 
             ProductMark {
@@ -51,7 +55,7 @@ Item {
 
             Text {
                 anchors.horizontalCenter: parent.horizontalCenter
-                width: Math.min(implicitWidth, root.width - 2 * Theme.margin)
+                width: Math.min(implicitWidth, root.fullWidth)
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
                 text: qsTr("Vesk catches whatever you select, from any app.")
@@ -70,7 +74,7 @@ Item {
                     commandKeys: CommandKeys
                 }
 
-                Row {
+                Grid {
                     id: command
 
                     required property list<string> keys
@@ -78,18 +82,23 @@ Item {
                     required property bool isTaken
 
                     anchors.left: parent.left
-                    spacing: Theme.margin
+                    columns: root.isStacked ? 1 : 2
+                    columnSpacing: Theme.margin
+                    rowSpacing: Theme.tightSpace
+                    bottomPadding: root.isStacked ? Theme.margin : 0
+                    verticalItemAlignment: Grid.AlignVCenter
                     Accessible.role: Accessible.StaticText
                     Accessible.name: hint
 
                     Item {
-                        width: root.keysWidth
+                        width: root.isStacked ? root.fullWidth : root.keysWidth
                         height: Math.max(24, keyRow.height)
 
                         Row {
                             id: keyRow
 
                             anchors.right: parent.right
+                            anchors.rightMargin: root.isStacked ? Math.round((parent.width - width) / 2) : 0
                             anchors.verticalCenter: parent.verticalCenter
                             spacing: Theme.tightSpace
                             onImplicitWidthChanged: root.keysWidth = Math.max(root.keysWidth, implicitWidth)
@@ -109,9 +118,17 @@ Item {
                         }
                     }
 
+                    // Not the text's own width, which is reckoned anew when it is wrapped.
+                    TextMetrics {
+                        id: measure
+
+                        font: Theme.fonts.hint
+                        text: command.hint
+                    }
+
                     Text {
-                        anchors.verticalCenter: parent.verticalCenter
-                        width: Math.min(implicitWidth, root.width - root.keysWidth - 3 * Theme.margin)
+                        width: root.isStacked ? root.fullWidth : Math.min(Math.ceil(measure.advanceWidth) + 2, root.hintWidth)
+                        horizontalAlignment: root.isStacked ? Text.AlignHCenter : Text.AlignLeft
                         wrapMode: Text.Wrap
                         text: command.hint
                         textFormat: Text.PlainText
@@ -122,5 +139,18 @@ Item {
                 }
             }
         }
+    }
+
+    EdgeFade {
+        anchors.top: parent.top
+        height: 8
+        visible: !scroller.atYBeginning
+    }
+
+    EdgeFade {
+        anchors.bottom: parent.bottom
+        height: 12
+        rotation: 180
+        visible: !scroller.atYEnd
     }
 }

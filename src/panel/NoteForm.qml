@@ -70,6 +70,8 @@ FocusScope {
         height: Math.round(24 * Theme.fonts.scale)
 
         SourceButton {
+            id: source
+
             anchors.left: parent.left
             anchors.leftMargin: -6
             anchors.verticalCenter: parent.verticalCenter
@@ -89,6 +91,8 @@ FocusScope {
             spacing: Theme.tightSpace
 
             Text {
+                // Among large texts the keys say it alone, so that the source can be read.
+                visible: !source.visible || footer.width > (130 + 105) * Theme.fonts.scale + Theme.margin
                 anchors.verticalCenter: parent.verticalCenter
                 rightPadding: Theme.isMirrored ? 0 : 2
                 leftPadding: Theme.isMirrored ? 2 : 0

@@ -14,7 +14,7 @@ PressButton {
     name: root.label
     pressedScale: 0.97
     focusRadius: height / 2 + 3
-    implicitWidth: Math.min(root.maximumWidth, Math.ceil(name.implicitWidth) + icon.width + 22 + arrow.width + 8)
+    implicitWidth: Math.min(root.maximumWidth, Math.ceil(name.implicitWidth) + icon.width + arrow.width + 25)
     implicitHeight: Math.round(24 * Theme.fonts.scale)
     Accessible.role: Accessible.Link
 
@@ -42,9 +42,8 @@ PressButton {
 
         anchors.left: icon.right
         anchors.leftMargin: 6
-        anchors.right: arrow.left
-        anchors.rightMargin: 5
         anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(Math.ceil(implicitWidth), root.width - icon.width - arrow.width - 25)
         elide: Text.ElideMiddle
         text: root.label
         textFormat: Text.PlainText
@@ -56,8 +55,9 @@ PressButton {
     Symbol {
         id: arrow
 
-        anchors.right: parent.right
-        anchors.rightMargin: 8
+        anchors.left: name.right
+        // Close to what is left of a long label.
+        anchors.leftMargin: 5 - Math.floor(Math.max(0, name.width - name.contentWidth))
         anchors.verticalCenter: parent.verticalCenter
         name: "arrow.up.right"
         size: Math.round(9 * Theme.fonts.scale)

@@ -3,8 +3,13 @@ import QtQuick
 
 import Vesk.Components
 
-// Cards pass under an edge of a list softly, not as if cut.
+// What scrolls passes under an edge softly, not as if cut.
 Rectangle {
+    id: root
+
+    // What it passes into.
+    property color ground: Theme.background
+
     anchors.left: parent?.left
     anchors.right: parent?.right
     anchors.leftMargin: 1
@@ -12,11 +17,11 @@ Rectangle {
     gradient: Gradient {
         GradientStop {
             position: 0
-            color: Theme.background
+            color: root.ground
         }
         GradientStop {
             position: 1
-            color: Theme.clearBackground
+            color: Qt.rgba(root.ground.r, root.ground.g, root.ground.b, 0)
         }
     }
 }
