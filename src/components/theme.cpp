@@ -129,6 +129,11 @@ QColor Theme::selectionFill() const
     return withOpacity(m_palette.accent, m_colors.isDark ? 0.18F : 0.10F);
 }
 
+QColor Theme::selectionGround() const
+{
+    return over(selectionFill(), m_palette.background);
+}
+
 QColor Theme::textSelection() const
 {
     return withOpacity(m_palette.accent, m_colors.isDark ? 0.45F : 0.28F);

@@ -50,6 +50,8 @@ class Theme final : public QObject
     /// The ground of a symbol in the accent colour.
     Q_PROPERTY(QColor accentTile READ accentTile NOTIFY changed)
     Q_PROPERTY(QColor selectionFill READ selectionFill NOTIFY changed)
+    /// How a selected card's fill looks on the background.
+    Q_PROPERTY(QColor selectionGround READ selectionGround NOTIFY changed)
     Q_PROPERTY(QColor textSelection READ textSelection NOTIFY changed)
     Q_PROPERTY(QColor matchFill READ matchFill NOTIFY changed)
     /// A window's edge where nothing shines through.
@@ -92,6 +94,7 @@ public:
     [[nodiscard]] QColor neutralTile() const;
     [[nodiscard]] QColor accentTile() const;
     [[nodiscard]] QColor selectionFill() const;
+    [[nodiscard]] QColor selectionGround() const;
     [[nodiscard]] QColor textSelection() const;
     [[nodiscard]] QColor matchFill() const;
     [[nodiscard]] QColor opaqueEdge() const;

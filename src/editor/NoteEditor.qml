@@ -191,6 +191,36 @@ FocusScope {
         }
     }
 
+    EdgeFade {
+        anchors.top: parent.top
+        height: 8
+        visible: !flickable.atYBeginning
+        ground: root.ground
+    }
+
+    EdgeFade {
+        anchors.bottom: parent.bottom
+        height: 8
+        rotation: 180
+        visible: !flickable.atYEnd
+        ground: root.ground
+    }
+
+    // Where in a long text the view is. Beside the text, in the host's margin.
+    Rectangle {
+        readonly property real way: parent.height - height
+
+        x: Theme.isMirrored ? -width - 4 : parent.width + 4
+        y: Math.round(way * flickable.contentY / Math.max(1, flickable.contentHeight - flickable.height))
+        width: 4
+        height: Math.round(Math.max(28, flickable.visibleArea.heightRatio * parent.height))
+        visible: flickable.contentHeight > flickable.height + 1
+        radius: 2
+        antialiasing: true
+        color: Theme.quaternary
+        Accessible.ignored: true
+    }
+
     AutoScroll {
         anchors.fill: parent
         flickable: flickable

@@ -38,6 +38,7 @@ FocusScope {
         firstLineIsTitle: true
         titleBoost: 3.5
         titleWeight: Font.DemiBold
+        ground: Theme.selectionGround
         controller: root.panel.editor
         autofocus: true
         takesCommandReturn: true
