@@ -105,6 +105,8 @@ FocusScope {
         id: flickable
 
         anchors.fill: parent
+        // Room for the caret before the first letter.
+        anchors.leftMargin: -edit.x
         contentWidth: width
         contentHeight: root.contentHeight
         boundsBehavior: Flickable.StopAtBounds
@@ -113,8 +115,9 @@ FocusScope {
         TextEdit {
             id: edit
 
+            x: 1
             y: root.inset
-            width: flickable.width
+            width: root.width
             height: Math.max(implicitHeight, flickable.height - 2 * root.inset)
             focus: true
             wrapMode: TextEdit.Wrap
@@ -130,7 +133,8 @@ FocusScope {
             selectByMouse: true
             persistentSelection: true
             cursorDelegate: Caret {
-                edit: edit
+                isWanted: edit.cursorVisible
+                place: edit.cursorRectangle
                 flashTime: view.caretFlashTime
                 leastHeight: hint.visible ? hint.height : 0
             }
@@ -143,7 +147,7 @@ FocusScope {
                 id: hint
 
                 visible: edit.length === 0 && edit.preeditText.length === 0
-                width: parent.width
+                width: parent.width - edit.rightPadding
                 elide: Text.ElideRight
                 textFormat: Text.PlainText
                 text: root.placeholder

@@ -89,7 +89,7 @@ Plate {
         id: flickable
 
         anchors.left: plus.right
-        anchors.leftMargin: Theme.space
+        anchors.leftMargin: Theme.space - edit.x
         anchors.right: parent.right
         anchors.rightMargin: Theme.margin
         y: 10
@@ -102,9 +102,10 @@ Plate {
         TextEdit {
             id: edit
 
-            width: flickable.width
+            // Room for the caret before the first letter, and of a line that begins at the right.
+            x: 1
+            width: flickable.width - x
             wrapMode: TextEdit.Wrap
-            // Room for the caret of a line that begins at the right.
             rightPadding: 1
             horizontalAlignment: placeholder.visible ? TextEdit.AlignLeft : undefined
             textFormat: TextEdit.PlainText
@@ -114,6 +115,10 @@ Plate {
             selectedTextColor: Theme.primary
             selectByMouse: true
             activeFocusOnTab: true
+            cursorDelegate: Caret {
+                isWanted: edit.cursorVisible
+                place: edit.cursorRectangle
+            }
             Keys.priority: Keys.BeforeItem
             Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
             Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
@@ -126,7 +131,7 @@ Plate {
             Text {
                 id: placeholder
 
-                width: parent.width
+                width: parent.width - edit.rightPadding
                 elide: Text.ElideRight
                 visible: edit.length === 0 && edit.preeditText.length === 0
                 textFormat: Text.PlainText

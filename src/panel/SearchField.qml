@@ -68,11 +68,14 @@ Plate {
         id: input
 
         anchors.left: glass.right
-        anchors.leftMargin: Theme.space
+        anchors.leftMargin: Theme.space - leftPadding
         anchors.right: clear.visible ? clear.left : parent.right
         anchors.rightMargin: clear.visible ? Theme.space : Theme.margin
         anchors.verticalCenter: parent.verticalCenter
         clip: true
+        // Room for the caret before the first letter, and of a text that begins at the right.
+        leftPadding: 1
+        rightPadding: 1
         horizontalAlignment: placeholder.visible ? TextInput.AlignLeft : undefined
         font: Theme.fonts.body
         color: Theme.primary
@@ -80,6 +83,10 @@ Plate {
         selectedTextColor: Theme.primary
         selectByMouse: true
         activeFocusOnTab: true
+        cursorDelegate: Caret {
+            isWanted: input.cursorVisible
+            place: input.cursorRectangle
+        }
         Accessible.role: Accessible.EditableText
         Accessible.searchEdit: true
         Accessible.name: qsTr("Search")
@@ -89,7 +96,8 @@ Plate {
             id: placeholder
 
             anchors.verticalCenter: parent.verticalCenter
-            width: parent.width
+            x: input.leftPadding
+            width: parent.width - input.leftPadding - input.rightPadding
             elide: Text.ElideRight
             visible: input.length === 0 && input.preeditText.length === 0
             textFormat: Text.PlainText
