@@ -20,7 +20,7 @@ PressButton {
         anchors.fill: parent
         radius: 8
         antialiasing: true
-        color: root.isMain ? Theme.accent : root.hovered ? Theme.neutralTile : Theme.fill
+        color: root.isMain ? Theme.accentFill : root.hovered ? Theme.neutralTile : Theme.fill
     }
 
     Text {

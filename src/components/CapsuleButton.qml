@@ -20,7 +20,7 @@ PressButton {
         anchors.fill: parent
         radius: height / 2
         antialiasing: true
-        color: root.isMain ? Theme.accent : root.hovered ? Theme.neutralTile : Theme.fill
+        color: root.isMain ? Theme.accentFill : root.hovered ? Theme.neutralTile : Theme.fill
         border.width: root.isMain ? 0 : 1
         border.color: Theme.edge
 

@@ -15,15 +15,16 @@ Item {
     implicitWidth: Math.round(root.size * Theme.fonts.scale)
     implicitHeight: root.implicitWidth
 
-    Disc {
+    BoxMark {
         anchors.fill: parent
-        borderColor: Theme.tertiary
-        borderWidth: 1.4
+        ringColor: Theme.tertiary
     }
 
-    Disc {
+    BoxMark {
         anchors.fill: parent
-        color: Theme.accent
+        isTicked: true
+        fillColor: Theme.accentFill
+        tickColor: Theme.onAccent
         scale: root.isDone ? 1 : 0.4
         opacity: root.isDone ? 1 : 0
 
@@ -38,13 +39,6 @@ Item {
 
             Spring {
             }
-        }
-
-        Symbol {
-            anchors.centerIn: parent
-            name: "checkmark"
-            size: Math.round(0.56 * root.width)
-            color: Theme.onAccent
         }
     }
 }

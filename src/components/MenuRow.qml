@@ -19,7 +19,7 @@ Rectangle {
     implicitWidth: root.entry.isDivider ? 0 : label.implicitWidth + 2 * 10
     implicitHeight: root.entry.isDivider ? 9 : Math.round(24 * Theme.fonts.scale)
     radius: 6
-    color: root.isCurrent ? Theme.accent : "transparent"
+    color: root.isCurrent ? Theme.accentFill : "transparent"
     antialiasing: true
     Accessible.role: root.entry.isDivider ? Accessible.Separator : Accessible.MenuItem
     Accessible.name: label.text

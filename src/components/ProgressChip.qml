@@ -12,7 +12,7 @@ Row {
     // Whether the ring turns without a motion.
     property bool isStill: false
 
-    spacing: 5
+    spacing: Math.round(5 * Theme.fonts.scale)
     Accessible.role: Accessible.StaticText
     Accessible.name: label.text
 
@@ -23,13 +23,13 @@ Row {
 
         Disc {
             anchors.fill: parent
-            borderWidth: 1.8
-            borderColor: Theme.strongEdge
+            borderWidth: 1.8 * Theme.fonts.scale
+            borderColor: Theme.track
         }
 
         Disc {
             anchors.fill: parent
-            borderWidth: 1.8
+            borderWidth: 1.8 * Theme.fonts.scale
             borderColor: Theme.accent
             fraction: root.total > 0 ? root.done / root.total : 0
 

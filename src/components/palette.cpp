@@ -11,6 +11,12 @@ namespace {
 constexpr qreal kReadableContrast = 3.5;
 /// The same for those who need more of it.
 constexpr qreal kHighContrast = 7;
+/// What makes white on a fill readable.
+constexpr qreal kContrastOnFill = 4;
+/// An accent colour with less of it than this has dark texts on it, however dark it could be made.
+constexpr qreal kContrastForWhite = 2.6;
+/// Lightness goes in steps of this.
+constexpr float kStep = 0.02F;
 
 QColor withOpacity(QColor color, float opacity)
 {
@@ -27,21 +33,34 @@ qreal luminance(const QColor &color)
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-QColor readable(QColor color, const QColor &background, const ColorChoice &choice)
+/// The same hue, lighter or darker until it stands out from another colour.
+QColor apartFrom(const QColor &other, QColor color, qreal wanted, float step)
 {
-    const qreal wanted = choice.hasHighContrast ? kHighContrast : kReadableContrast;
-    constexpr float kStep = 0.02F;
-    while (contrast(color, background) < wanted) {
+    while (contrast(color, other) < wanted) {
         float hue = 0;
         float saturation = 0;
         float lightness = 0;
         color.getHslF(&hue, &saturation, &lightness);
-        lightness += choice.isDark ? kStep : -kStep;
+        lightness += step;
         if (lightness <= 0 || lightness >= 1)
             break;
         color.setHslF(hue, saturation, lightness);
     }
-    return color;
+    return QColor(color.rgb());
+}
+
+void chooseFill(Palette &made, const ColorChoice &choice)
+{
+    made.accentFill = made.accent;
+    // The background's colour stands out from the accent as strongly as the accent from the background.
+    if (choice.hasHighContrast)
+        made.onAccent = made.background;
+    else if (contrast(made.accent, Qt::white) < kContrastForWhite)
+        made.onAccent = QColor(0x1a, 0x1a, 0x1e);
+    else
+        made.onAccent = Qt::white;
+    if (made.onAccent == QColor(Qt::white))
+        made.accentFill = apartFrom(Qt::white, made.accent, kContrastOnFill, -kStep);
 }
 
 } // namespace
@@ -79,8 +98,10 @@ Palette palette(const ColorChoice &choice)
         made.attentionText = isDark ? made.attention : QColor(0xb4, 0x58, 0x00);
         made.success = isDark ? QColor(0x3f, 0xd1, 0x6b) : QColor(0x17, 0x7d, 0x37);
     }
-    made.accent = readable(choice.accent.value_or(ownAccent), made.background, choice);
-    made.onAccent = contrast(made.accent, Qt::white) >= 2.6 ? QColor(Qt::white) : QColor(0x1a, 0x1a, 0x1e);
+    made.accent =
+        apartFrom(made.background, choice.accent.value_or(ownAccent),
+                  choice.hasHighContrast ? kHighContrast : kReadableContrast, isDark ? kStep : -kStep);
+    chooseFill(made, choice);
     return made;
 }
 

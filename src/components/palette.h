@@ -16,7 +16,10 @@ struct Palette
     QColor secondary;
     QColor tertiary;
     QColor quaternary;
+    /// Of symbols, lines and small fills.
     QColor accent;
+    /// Of what has a text or a symbol on it: as the accent colour, or darker.
+    QColor accentFill;
     /// Text and symbols on a fill of the accent colour.
     QColor onAccent;
     /// Something needs the user's attention.

@@ -114,6 +114,12 @@ QColor Theme::strongEdge() const
     return lineAt(0.12F);
 }
 
+QColor Theme::track() const
+{
+    // As strong as a line, it would not be told from the part that is filled.
+    return primaryAt(m_colors.hasHighContrast ? 0.22F : 0.12F);
+}
+
 QColor Theme::neutralTile() const
 {
     return primaryAt(0.15F);

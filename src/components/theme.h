@@ -32,6 +32,8 @@ class Theme final : public QObject
     Q_PROPERTY(QColor tertiary READ tertiary NOTIFY changed)
     Q_PROPERTY(QColor quaternary READ quaternary NOTIFY changed)
     Q_PROPERTY(QColor accent READ accent NOTIFY changed)
+    /// The accent colour under a text or a symbol, which is in the next one.
+    Q_PROPERTY(QColor accentFill READ accentFill NOTIFY changed)
     Q_PROPERTY(QColor onAccent READ onAccent NOTIFY changed)
     Q_PROPERTY(QColor attention READ attention NOTIFY changed)
     Q_PROPERTY(QColor attentionText READ attentionText NOTIFY changed)
@@ -46,6 +48,8 @@ class Theme final : public QObject
     Q_PROPERTY(QColor raised READ raised NOTIFY changed)
     Q_PROPERTY(QColor edge READ edge NOTIFY changed)
     Q_PROPERTY(QColor strongEdge READ strongEdge NOTIFY changed)
+    /// What a part of is filled in the accent colour.
+    Q_PROPERTY(QColor track READ track NOTIFY changed)
     Q_PROPERTY(QColor neutralTile READ neutralTile NOTIFY changed)
     /// The ground of a symbol in the accent colour.
     Q_PROPERTY(QColor accentTile READ accentTile NOTIFY changed)
@@ -80,6 +84,7 @@ public:
     [[nodiscard]] QColor tertiary() const { return m_palette.tertiary; }
     [[nodiscard]] QColor quaternary() const { return m_palette.quaternary; }
     [[nodiscard]] QColor accent() const { return m_palette.accent; }
+    [[nodiscard]] QColor accentFill() const { return m_palette.accentFill; }
     [[nodiscard]] QColor onAccent() const { return m_palette.onAccent; }
     [[nodiscard]] QColor attention() const { return m_palette.attention; }
     [[nodiscard]] QColor attentionText() const { return m_palette.attentionText; }
@@ -91,6 +96,7 @@ public:
     [[nodiscard]] QColor raised() const;
     [[nodiscard]] QColor edge() const;
     [[nodiscard]] QColor strongEdge() const;
+    [[nodiscard]] QColor track() const;
     [[nodiscard]] QColor neutralTile() const;
     [[nodiscard]] QColor accentTile() const;
     [[nodiscard]] QColor selectionFill() const;

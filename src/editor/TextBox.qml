@@ -2,7 +2,6 @@
 import QtQuick
 
 import Vesk.Components
-import Vesk.Editor
 
 // A checkbox of a text: its picture, and what a screen reader knows of it. Clicks are the text's.
 BoxMark {
@@ -21,7 +20,7 @@ BoxMark {
     width: root.square.width
     height: root.square.height
     ringColor: Theme.tertiary
-    fillColor: Theme.accent
+    fillColor: Theme.accentFill
     tickColor: Theme.onAccent
     Accessible.role: Accessible.CheckBox
     Accessible.name: root.label

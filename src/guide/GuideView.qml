@@ -186,7 +186,7 @@ FocusScope {
             anchors.fill: parent
             radius: 10
             antialiasing: true
-            color: Theme.accent
+            color: Theme.accentFill
         }
 
         Text {

@@ -45,7 +45,7 @@ Rectangle {
         height: Math.round(26 * Theme.fonts.scale)
         radius: height / 2
         antialiasing: true
-        color: Theme.accent
+        color: Theme.accentFill
 
         Behavior on x {
             Spring {

@@ -53,7 +53,7 @@ PressButton {
             count: root.count
             font: Theme.fonts.strongCaption
             color: root.isChosen ? Theme.onAccent : Theme.tertiary
-            opacity: root.isChosen ? 0.75 : 1
+            opacity: root.isChosen && !Theme.hasHighContrast ? 0.75 : 1
         }
     }
 }

@@ -117,7 +117,8 @@ void ComponentsTest::everyAccentCanBeRead()
                                           .hasHighContrast = isStrong,
                                           .accent = accent.isValid() ? std::optional(accent) : std::nullopt});
             QVERIFY(contrast(made.accent, made.background) >= (isStrong ? 7 : 3));
-            QVERIFY(contrast(made.onAccent, made.accent) >= 2.6);
+            QVERIFY(contrast(made.onAccent, made.accentFill) >= (isStrong ? 7 : 4));
+            QVERIFY(contrast(made.accentFill, made.background) >= 2.5);
             QVERIFY(contrast(made.attentionText, made.background) >= (isStrong ? 7 : 4.5));
             QVERIFY(contrast(made.success, made.background) >= (isStrong ? 7 : 4.5));
         }

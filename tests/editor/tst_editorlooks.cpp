@@ -109,7 +109,8 @@ void EditorLooksTest::boxIsACircleInItsLine()
         const QPoint middle = corner + QPoint(8, 8);
         QCOMPARE(box->size(), QSizeF(17, 17));
         // Above the tick, on the ring, and in the corner of its square.
-        QCOMPARE(picture.pixelColor(middle - QPoint(0, 5)), isTicked ? theme->accent() : theme->background());
+        QCOMPARE(picture.pixelColor(middle - QPoint(0, 5)),
+                 isTicked ? theme->accentFill() : theme->background());
         QVERIFY(picture.pixelColor(middle - QPoint(8, 0)) != theme->background());
         QCOMPARE(picture.pixelColor(corner), theme->background());
         // Where the two strokes of the tick meet.

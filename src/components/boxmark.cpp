@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "editor/boxmark.h"
+#include "components/boxmark.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -22,18 +22,19 @@ BoxMark::BoxMark(QQuickItem *parent)
 void BoxMark::paint(QPainter *painter)
 {
     const QRectF square(0, 0, kSide, kSide);
-    const QRectF circle = square.adjusted(0.75, 0.75, -0.75, -0.75);
+    constexpr qreal kLine = 1.4;
+    const QRectF circle = square.adjusted(kLine / 2, kLine / 2, -kLine / 2, -kLine / 2);
     painter->setRenderHint(QPainter::Antialiasing);
     painter->scale(width() / kSide, height() / kSide);
     if (!m_isTicked) {
-        painter->setPen(QPen(m_ringColor, 1.4));
+        painter->setPen(QPen(m_ringColor, kLine));
         painter->setBrush(Qt::NoBrush);
         painter->drawEllipse(circle);
         return;
     }
     painter->setPen(Qt::NoPen);
     painter->setBrush(m_fillColor);
-    painter->drawEllipse(circle);
+    painter->drawEllipse(square);
 
     const qreal middle = square.center().y();
     QPainterPath tick(QPointF(square.left() + 4.8, middle + 0.2));
