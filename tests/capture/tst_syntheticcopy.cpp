@@ -29,6 +29,8 @@ struct World : CaptureDesktop
         PasteboardItem{PasteboardData{.type = u"text/html"_s, .data = "<b>old</b>"},
                        PasteboardData{.type = MemoryPasteboard::kTextType, .data = "old"}},
         PasteboardItem{PasteboardData{.type = u"image/png"_s, .data = "png"}}};
+    /// What the user has to find on the pasteboard in the end.
+    QList<PasteboardItem> expected = users;
     bool isAnswered = false;
     std::optional<QString> answer;
 
@@ -47,6 +49,12 @@ struct World : CaptureDesktop
         });
     }
 
+    /// The application does as it is told.
+    void copyWhenTold()
+    {
+        poster.setResponse([this](Command) { pasteboard.setString(u"word"_s); });
+    }
+
     /// What the user has on the pasteboard then.
     QList<PasteboardItem> copy(const QString &text)
     {
@@ -60,7 +68,6 @@ Pasteboard::Origin by(qint64 process, std::optional<std::chrono::milliseconds> d
     return {.processIdentifier = process, .delay = delay};
 }
 
-/// Something that happens after the application has ignored the keys.
 using Event = std::function<void(World &)>;
 
 } // namespace
@@ -75,22 +82,13 @@ class TestSyntheticCopy : public QObject
 private Q_SLOTS:
     void copies_data();
     void copies();
-    void emptyPasteboardIsEmptyAgain();
-    void contentThatCannotBeSavedIsNotReplaced();
     void pastedTextStaysVesksOwn();
+    void leavesTheUsersContent_data();
+    void leavesTheUsersContent();
     void ignoredKeysLeaveThePasteboardAlone();
-    void refusedKeysAreNotWaitedFor();
-    void userCopiesBeforeTheRestore();
-    void copyAnnouncedTwiceIsRestored();
-    void copyDuringTheWaitForTheKeysIsTheUsers();
-    void copyFromElsewhereIsNotTheAnswer();
     void lateCopyBringsBackTheNewest();
-    void secondQuestionMeanwhileIsRefused();
     void lateCopy_data();
     void lateCopy();
-    void vesksOwnWritingIsNotUndone();
-    void deafPlatformUndoesNothing();
-    void lateCopyAnswersTheNextQuestion();
     void endOfTheProgramWhileWaiting();
 };
 
@@ -131,28 +129,100 @@ void TestSyntheticCopy::copies()
     QCOMPARE(world.poster.posted(), QList{Command::Copy});
 }
 
-void TestSyntheticCopy::contentThatCannotBeSavedIsNotReplaced()
+void TestSyntheticCopy::leavesTheUsersContent_data()
 {
-    World world;
-    world.pasteboard.setSecret(true);
-    world.poster.setResponse([&world](Command) { world.pasteboard.setString(u"word"_s); });
-    world.ask();
-    world.clock.advance(1s);
-    QVERIFY(world.isAnswered);
-    QVERIFY(!world.answer);
-    QVERIFY(world.poster.posted().isEmpty());
-    QCOMPARE(world.pasteboard.items(), world.users);
+    QTest::addColumn<int>("posted");
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<Event>("event");
+    const auto row = [](const char *name, int posted, const QString &answer, const Event &event) {
+        QTest::newRow(name) << posted << answer << event;
+    };
+    row("an empty pasteboard is empty again", 1, u"word"_s, [](World &world) {
+        world.pasteboard.clearContents();
+        world.expected.clear();
+        world.copyWhenTold();
+        world.ask();
+    });
+    row("what cannot be saved is not replaced", 0, u"-"_s, [](World &world) {
+        world.pasteboard.setSecret(true);
+        world.copyWhenTold();
+        world.ask();
+    });
+    row("keys that are refused are not waited for", 0, u"-"_s, [](World &world) {
+        world.poster.setAllowed(false);
+        world.ask();
+        QVERIFY(world.isAnswered);
+        // No copy was asked for, so this one is the user's.
+        world.expected = world.copy(u"the user's"_s);
+    });
+    row("user copies before the restore", 1, u"word"_s, [](World &world) {
+        world.copyWhenTold();
+        world.pasteboard.setDelay(world.clock, 40ms);
+        world.ask();
+        // The saving takes 40 ms, then the application copies; reading begins 25 ms later.
+        world.clock.advance(80ms);
+        world.expected = world.copy(u"the user's"_s);
+    });
+    row("copy that is announced twice", 1, u"word"_s, [](World &world) {
+        world.copyWhenTold();
+        world.ask();
+        world.clock.advance(10ms);
+        world.pasteboard.setString(u"word"_s);
+    });
+    row("copy during the wait for the keys is the user's", 0, u"-"_s, [](World &world) {
+        world.poster.setDelay(world.clock, 600ms);
+        world.ask();
+        world.clock.advance(300ms);
+        world.expected = world.copy(u"the user's"_s);
+    });
+    row("copy from elsewhere is not the answer", 1, u"word"_s, [](World &world) {
+        world.ask();
+        world.pasteboard.setOrigin(by(1));
+        world.expected = world.copy(u"the user's"_s);
+        world.clock.advance(100ms);
+        QVERIFY(!world.isAnswered);
+        world.pasteboard.setOrigin(by(4711));
+        world.pasteboard.setString(u"word"_s);
+    });
+    row("second question meanwhile is refused", 1, u"word"_s, [](World &world) {
+        world.ask();
+        world.clock.advance(100ms);
+        world.ask();
+        QVERIFY(world.isAnswered && !world.answer);
+        world.pasteboard.setString(u"word"_s);
+    });
+    row("late copy answers the next question", 2, u"word"_s, [](World &world) {
+        world.ask();
+        world.clock.advance(3s);
+        world.ask();
+        world.pasteboard.setString(u"word"_s);
+    });
+    row("what Vesk writes is not undone", 1, u"-"_s, [](World &world) {
+        world.ask();
+        world.clock.advance(1s);
+        world.expected = world.copy(u"to be pasted"_s);
+        world.watcher.markOwn();
+    });
+    row("nothing is undone where no keys are heard", 1, u"-"_s, [](World &world) {
+        world.tap.setAllowed(false);
+        world.ask();
+        world.clock.advance(1s);
+        world.expected = world.copy(u"perhaps the user's"_s);
+    });
 }
 
-void TestSyntheticCopy::emptyPasteboardIsEmptyAgain()
+void TestSyntheticCopy::leavesTheUsersContent()
 {
+    QFETCH(const int, posted);
+    QFETCH(const QString, answer);
+    QFETCH(const Event, event);
     World world;
-    world.pasteboard.clearContents();
-    world.poster.setResponse([&world](Command) { world.pasteboard.setString(u"word"_s); });
-    world.ask();
-    world.clock.advance(50ms);
-    QCOMPARE(world.answer, u"word"_s);
-    QVERIFY(world.pasteboard.items().isEmpty());
+    event(world);
+    world.clock.advance(5s);
+    QVERIFY(world.isAnswered);
+    QCOMPARE(world.answer.value_or(u"-"_s), answer);
+    QCOMPARE(world.pasteboard.items(), world.expected);
+    QCOMPARE(world.poster.posted().size(), posted);
 }
 
 void TestSyntheticCopy::pastedTextStaysVesksOwn()
@@ -181,74 +251,6 @@ void TestSyntheticCopy::ignoredKeysLeaveThePasteboardAlone()
     QCOMPARE(world.pasteboard.changeCount(), before);
 }
 
-void TestSyntheticCopy::refusedKeysAreNotWaitedFor()
-{
-    World world;
-    world.poster.setAllowed(false);
-    world.ask();
-    QVERIFY(world.isAnswered);
-    QVERIFY(!world.answer);
-    // No copy was asked for, so this one is the user's.
-    world.pasteboard.setString(u"the user's"_s);
-    world.clock.advance(1s);
-    QCOMPARE(world.pasteboard.items().size(), 1);
-}
-
-void TestSyntheticCopy::userCopiesBeforeTheRestore()
-{
-    World world;
-    world.poster.setResponse([&world](Command) { world.pasteboard.setString(u"word"_s); });
-    world.pasteboard.setDelay(world.clock, 40ms);
-    world.ask();
-    // The saving takes 40 ms, then the application copies; reading begins 25 ms later.
-    world.clock.advance(80ms);
-    const QList<PasteboardItem> copied = world.copy(u"the user's"_s);
-    world.clock.advance(1s);
-    QCOMPARE(world.answer, u"word"_s);
-    QCOMPARE(world.pasteboard.items(), copied);
-}
-
-void TestSyntheticCopy::copyAnnouncedTwiceIsRestored()
-{
-    World world;
-    world.poster.setResponse([&world](Command) { world.pasteboard.setString(u"word"_s); });
-    world.ask();
-    world.clock.advance(10ms);
-    world.pasteboard.setString(u"word"_s);
-    world.clock.advance(1s);
-    QCOMPARE(world.answer, u"word"_s);
-    QCOMPARE(world.pasteboard.items(), world.users);
-}
-
-void TestSyntheticCopy::copyDuringTheWaitForTheKeysIsTheUsers()
-{
-    World world;
-    world.poster.setDelay(world.clock, 600ms);
-    world.ask();
-    world.clock.advance(300ms);
-    const QList<PasteboardItem> copied = world.copy(u"the user's"_s);
-    world.clock.advance(5s);
-    QVERIFY(world.isAnswered);
-    QVERIFY(!world.answer);
-    QVERIFY(world.poster.posted().isEmpty());
-    QCOMPARE(world.pasteboard.items(), copied);
-}
-
-void TestSyntheticCopy::copyFromElsewhereIsNotTheAnswer()
-{
-    World world;
-    world.ask();
-    world.pasteboard.setOrigin(by(1));
-    const QList<PasteboardItem> copied = world.copy(u"the user's"_s);
-    world.clock.advance(100ms);
-    QVERIFY(!world.isAnswered);
-    world.pasteboard.setOrigin(by(4711));
-    world.pasteboard.setString(u"word"_s);
-    world.clock.advance(1s);
-    QCOMPARE(world.answer, u"word"_s);
-    QCOMPARE(world.pasteboard.items(), copied);
-}
-
 /// The application hung for long, and the user has gone on in others.
 void TestSyntheticCopy::lateCopyBringsBackTheNewest()
 {
@@ -268,21 +270,6 @@ void TestSyntheticCopy::lateCopyBringsBackTheNewest()
     world.pasteboard.setString(u"once more"_s);
     world.clock.advance(1s);
     QVERIFY(world.pasteboard.items() != copied);
-}
-
-void TestSyntheticCopy::secondQuestionMeanwhileIsRefused()
-{
-    World world;
-    world.ask();
-    world.clock.advance(100ms);
-    world.ask();
-    QVERIFY(world.isAnswered);
-    QVERIFY(!world.answer);
-    world.pasteboard.setString(u"word"_s);
-    world.clock.advance(50ms);
-    QCOMPARE(world.answer, u"word"_s);
-    QCOMPARE(world.pasteboard.items(), world.users);
-    QCOMPARE(world.poster.posted().size(), 1);
 }
 
 void TestSyntheticCopy::lateCopy_data()
@@ -320,41 +307,6 @@ void TestSyntheticCopy::lateCopy()
     const QList<PasteboardItem> copied = world.copy(u"word"_s);
     world.clock.advance(1s);
     QCOMPARE(world.pasteboard.items(), isUndone ? world.users : copied);
-}
-
-void TestSyntheticCopy::vesksOwnWritingIsNotUndone()
-{
-    World world;
-    world.ask();
-    world.clock.advance(1s);
-    world.pasteboard.setString(u"to be pasted"_s);
-    world.watcher.markOwn();
-    const QList<PasteboardItem> written = world.pasteboard.items();
-    world.clock.advance(1s);
-    QCOMPARE(world.pasteboard.items(), written);
-}
-
-void TestSyntheticCopy::deafPlatformUndoesNothing()
-{
-    World world;
-    world.tap.setAllowed(false);
-    world.ask();
-    world.clock.advance(1s);
-    world.pasteboard.setString(u"perhaps the user's"_s);
-    world.clock.advance(1s);
-    QVERIFY(world.pasteboard.items() != world.users);
-}
-
-void TestSyntheticCopy::lateCopyAnswersTheNextQuestion()
-{
-    World world;
-    world.ask();
-    world.clock.advance(3s);
-    world.ask();
-    world.pasteboard.setString(u"word"_s);
-    world.clock.advance(1s);
-    QCOMPARE(world.answer, u"word"_s);
-    QCOMPARE(world.pasteboard.items(), world.users);
 }
 
 void TestSyntheticCopy::endOfTheProgramWhileWaiting()

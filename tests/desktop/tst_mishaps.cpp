@@ -5,7 +5,9 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusPendingCall>
 
+#include <algorithm>
 #include <csignal>
 #include <random>
 #include <thread>
@@ -13,8 +15,22 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// What Vesk keeps of its word when it is killed or cut off, when it cannot open its store, and when a key is
-/// up sooner than it is heard.
+namespace {
+
+/// The call that adds a note.
+QDBusMessage addition(const QString &text)
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(u"org.vesk.Vesk"_s, u"/org/vesk/Vesk"_s,
+                                                       u"org.vesk.Vesk"_s, u"AddNote"_s);
+    call.setAutoStartService(false);
+    call.setArguments({text});
+    return call;
+}
+
+} // namespace
+
+/// What Vesk keeps of its word when it is killed or cut off, cannot open its store or has much to do, and
+/// when a key is up sooner than it is heard.
 class TestMishaps : public VeskTest
 {
     Q_OBJECT
@@ -28,6 +44,7 @@ private Q_SLOTS:
     void endedWhileTypingLosesNothing();
     void keyUpBeforeItsPressIsHeardFiresAgain();
     void unusableStoreIsSaidAndLeftAlone();
+    void scriptAddsWhileTheUserWrites();
 
 private:
     [[nodiscard]] static int rounds();
@@ -90,11 +107,7 @@ QStringList TestMishaps::addUntilKilled(std::chrono::microseconds life, int &num
         });
         while (true) {
             last = u"Note %1"_s.arg(++number);
-            QDBusMessage call = QDBusMessage::createMethodCall(u"org.vesk.Vesk"_s, u"/org/vesk/Vesk"_s,
-                                                               u"org.vesk.Vesk"_s, u"AddNote"_s);
-            call.setAutoStartService(false);
-            call.setArguments({last});
-            if (bus.call(call).type() != QDBusMessage::ReplyMessage)
+            if (bus.call(addition(last)).type() != QDBusMessage::ReplyMessage)
                 break;
             confirmed.append(last);
         }
@@ -214,6 +227,54 @@ void TestMishaps::unusableStoreIsSaidAndLeftAlone()
     QVERIFY(m_vesk->waitForExit(kBound));
     QCOMPARE(m_vesk->exitCode(), 1);
     QCOMPARE(contentsOf(store), rubbish.toUtf8());
+}
+
+/// Fifty notes a second by command, while the panel is open and in use. VESK_LOAD_SECONDS asks for more.
+void TestMishaps::scriptAddsWhileTheUserWrites()
+{
+    constexpr int kUsualSeconds = 5;
+    constexpr int kPerSecond = 50;
+    const int asked = qEnvironmentVariableIntValue("VESK_LOAD_SECONDS");
+    const int seconds = asked > 0 ? asked : kUsualSeconds;
+    QVERIFY(startVesk());
+    QVERIFY(runToEnd(VirtualDesktop::veskProgram(), {u"write"_s}));
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kPanel, kBound));
+
+    const QDBusConnection bus = QDBusConnection::connectToBus(m_desktop->busAddress(), u"load"_s);
+    QStringList added;
+    QStringList written;
+    QList<QDBusPendingCall> answers;
+    auto next = std::chrono::steady_clock::now();
+    for (int second = 0; second < seconds; ++second) {
+        for (int i = 0; i < kPerSecond; ++i) {
+            added.append(u"Note %1"_s.arg(added.size()));
+            answers.append(bus.asyncCall(addition(added.constLast())));
+            // The script does not wait for whom it loads.
+            std::this_thread::sleep_until(next += std::chrono::milliseconds(1000 / kPerSecond));
+        }
+        written.append(u"written %1"_s.arg(second));
+        m_desktop->keyboard().type(written.constLast());
+        m_desktop->keyboard().tap({XK_Return}, kFinger);
+        // The panel answers, whatever else it is told.
+        VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
+            return m_desktop->notes().texts().contains(written.constLast());
+        }));
+    }
+    for (QDBusPendingCall &each : answers) {
+        each.waitForFinished();
+        QVERIFY2(!each.isError(), qPrintable(each.error().message()));
+    }
+    // All there, and once, those of the script in its order.
+    QStringList found = m_desktop->notes().texts();
+    QStringList foundWritten;
+    std::ranges::copy_if(found, std::back_inserter(foundWritten),
+                         [](const QString &each) { return each.startsWith(u"written"_s); });
+    found.removeIf([](const QString &each) { return each.startsWith(u"written"_s); });
+    QCOMPARE(found, added);
+    QCOMPARE(foundWritten, written);
+    QCOMPARE(m_desktop->notes().integrity(), u"ok"_s);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kPanel, kBound));
+    QDBusConnection::disconnectFromBus(u"load"_s);
 }
 
 DESKTOP_TEST_MAIN(TestMishaps)

@@ -39,7 +39,6 @@ private Q_SLOTS:
     void timeZoneChangesWhileShown();
     void cardShowsThreeItems();
     void promptsStandInTheirSections();
-    void keysBeginAfterACollapsedSection();
 
 private:
     Note &addNote(const QString &text);
@@ -427,16 +426,6 @@ void CardListsTest::promptsStandInTheirSections()
     m_store->remove(middle);
     QCOMPARE(shownPrompts(), u"Follow-up prompts 1, in the middle"_s);
     QCOMPARE(m_prompts->openCount(), 5);
-}
-
-void CardListsTest::keysBeginAfterACollapsedSection()
-{
-    addPrompt(u"follow-up"_s);
-    const Prompt &saved = addPrompt(u"saved"_s, Prompt::Origin::Captured);
-    m_prompts->toggleSection(0);
-    QCOMPARE(m_prompts->visibleCount(), 1);
-    QCOMPARE(m_prompts->visibleAt(0), saved.id());
-    QCOMPARE(PromptListModel(*m_store, *m_defaults).visibleAt(0), saved.id());
 }
 
 QTEST_GUILESS_MAIN(CardListsTest)

@@ -21,7 +21,6 @@ private Q_SLOTS:
     void deleteKeyBelongsToTheList_data();
     void deleteKeyBelongsToTheList();
     void composerCommits();
-    void shortcutsFromAnyField_data();
     void shortcutsFromAnyField();
     void controlTabGoesRoundTheTabs();
     void pasteGoesIntoTheFieldThatHasTheKeyboard();
@@ -158,25 +157,18 @@ void PanelKeysTest::composerCommits()
     QCOMPARE(model().draft(), u"next"_s);
 }
 
-void PanelKeysTest::shortcutsFromAnyField_data()
-{
-    QTest::addColumn<Field>("from");
-    QTest::newRow("list") << Field::None;
-    QTest::newRow("search") << Field::Search;
-    QTest::newRow("composer") << Field::Composer;
-}
-
 void PanelKeysTest::shortcutsFromAnyField()
 {
-    QFETCH(Field, from);
-    model().requestField(from);
-    press(Qt::Key_N, Qt::ControlModifier);
-    QCOMPARE(model().keyboard()->activeField(), Field::Composer);
-    model().requestField(from);
-    press(Qt::Key_F, Qt::ControlModifier);
-    QCOMPARE(model().keyboard()->activeField(), Field::Search);
-    press(Qt::Key_N, Qt::ControlModifier | Qt::AltModifier);
-    QCOMPARE(model().keyboard()->activeField(), Field::Search);
+    for (const Field from : {Field::None, Field::Search, Field::Composer}) {
+        model().requestField(from);
+        press(Qt::Key_N, Qt::ControlModifier);
+        QCOMPARE(model().keyboard()->activeField(), Field::Composer);
+        model().requestField(from);
+        press(Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(model().keyboard()->activeField(), Field::Search);
+        press(Qt::Key_N, Qt::ControlModifier | Qt::AltModifier);
+        QCOMPARE(model().keyboard()->activeField(), Field::Search);
+    }
 }
 
 void PanelKeysTest::controlTabGoesRoundTheTabs()
