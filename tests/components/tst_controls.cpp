@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "memorydesktop.h"
+#include "shownitems.h"
 
 #include "components/menucontrol.h"
 #include "components/theme.h"
@@ -7,7 +8,6 @@
 
 #include <QAccessible>
 #include <QQmlComponent>
-#include <QQuickItem>
 #include <QQuickView>
 #include <QTest>
 
@@ -114,15 +114,11 @@ void ControlsTest::openMenu(qreal x, qreal y)
 
 QQuickItem *ControlsTest::row(const QString &text) const
 {
-    QList<QQuickItem *> items{m_stage->view.contentItem()};
-    while (!items.isEmpty()) {
-        QQuickItem *item = items.takeLast();
-        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(item);
-        if (item->isVisible() && accessible && accessible->text(QAccessible::Name) == text)
-            return item;
-        items += item->childItems();
-    }
-    return nullptr;
+    const auto isIt = [&text](QQuickItem &item) {
+        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(&item);
+        return accessible && accessible->text(QAccessible::Name) == text;
+    };
+    return shownItems(m_stage->view, isIt).value(0);
 }
 
 void ControlsTest::menuIsChosenFromByKeys_data()

@@ -77,13 +77,6 @@ void Monitors::set(const QList<QRect> &monitors)
     xcb_flush(xcb);
 }
 
-void Monitors::movePointer(QPoint position)
-{
-    xcb_warp_pointer(m_display.xcb(), XCB_NONE, m_display.root(), 0, 0, 0, 0, qint16(position.x()),
-                     qint16(position.y()));
-    xcb_flush(m_display.xcb());
-}
-
 xcb_atom_t Monitors::nameOf(qsizetype index) const
 {
     return m_display.atom(("VESK-" + QByteArray::number(index)).constData());

@@ -16,9 +16,6 @@ public:
     /// Makes these the monitors; the first is the primary one.
     void set(const QList<QRect> &monitors);
 
-    /// Moves the pointer there.
-    void movePointer(QPoint position);
-
 private:
     [[nodiscard]] xcb_atom_t nameOf(qsizetype index) const;
 

@@ -42,7 +42,6 @@ private Q_SLOTS:
     void nothingIsInFront();
     void accessibilityBusIsMissing();
     void screenIsLocked();
-    void extensionOfTheServerIsMissing_data();
     void extensionOfTheServerIsMissing();
     void textOutlivesVesk_data();
     void textOutlivesVesk();
@@ -262,22 +261,14 @@ void TestFaults::screenIsLocked()
     QCOMPARE(m_desktop->notes().texts(), m_lines);
 }
 
-void TestFaults::extensionOfTheServerIsMissing_data()
-{
-    QTest::addColumn<QString>("extension");
-    for (const char *extension : {"XTEST", "RANDR"})
-        QTest::newRow(extension) << QString::fromLatin1(extension);
-}
-
 void TestFaults::extensionOfTheServerIsMissing()
 {
-    QFETCH(const QString, extension);
-    startDesktop({.accessibilityBus = true, .extension = extension});
+    startDesktop({.accessibilityBus = true, .extension = u"XTEST"_s});
     QVERIFY(m_desktop && m_desktop->prepareUser());
     m_vesk = m_desktop->run(VirtualDesktop::veskProgram());
     QVERIFY(m_vesk && m_vesk->waitForExit(kBound));
     QCOMPARE(m_vesk->exitCode(), 1);
-    const QString expected = u"The X server lacks the extension %1, which Vesk needs."_s.arg(extension);
+    const QString expected = u"The X server lacks the extension XTEST, which Vesk needs."_s;
     QVERIFY2(m_vesk->errorOutput().contains(expected), qPrintable(m_vesk->errorOutput()));
 }
 

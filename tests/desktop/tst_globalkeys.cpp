@@ -93,13 +93,6 @@ void TestGlobalKeys::eachKeyDoesItsOwn()
     VERIFY_ON(*m_desktop, windows.waitGone(kPanel, kBound));
     VERIFY_ON(*m_desktop, windows.waitActive(m_editor->window(), kBound));
     QVERIFY(isEditorUntouched());
-
-    press({XK_Control_L, XK_n});
-    VERIFY_ON(*m_desktop, windows.waitFocused(kPanel, kBound));
-    m_desktop->keyboard().type(u"written"_s);
-    m_desktop->keyboard().tap({XK_Return});
-    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(
-                              kBound, [this] { return m_desktop->notes().texts().contains(u"written"_s); }));
 }
 
 void TestGlobalKeys::layouts_data()

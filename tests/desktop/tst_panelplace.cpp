@@ -113,9 +113,7 @@ void TestPanelPlace::standsInItsCornerAtEveryScale_data()
     QTest::addColumn<qreal>("right");
 
     QTest::newRow("1") << u"1;1"_s << 1.0 << 1.0;
-    QTest::newRow("1.25") << u"1.25;1.25"_s << 1.25 << 1.25;
     QTest::newRow("1.5") << u"1.5;1.5"_s << 1.5 << 1.5;
-    QTest::newRow("2") << u"2;2"_s << 2.0 << 2.0;
     QTest::newRow("1 and 2") << u"1;2"_s << 1.0 << 2.0;
     QTest::newRow("2 and 1") << u"2;1"_s << 2.0 << 1.0;
 }
@@ -132,7 +130,7 @@ void TestPanelPlace::standsInItsCornerAtEveryScale()
     // To the right, to the left, and to the right again: another scale each time.
     for (int turn = 0; turn < 3; ++turn) {
         const bool isRight = turn % 2 == 0;
-        m_monitors->movePointer(isRight ? QPoint(1000, 400) : QPoint(100, 400));
+        m_desktop->pointer().moveTo(isRight ? QPoint(1000, 400) : QPoint(100, 400));
         toggle();
         QVERIFY2(waitInCorner(isRight ? QPoint(1600, 800) : QPoint(700, 900), isRight ? right : left),
                  qPrintable(where()));
@@ -146,14 +144,14 @@ void TestPanelPlace::unpluggedMonitorGivesThePanelBack()
     const QRect left(0, 0, 800, 1000);
     const QRect right(800, 0, 800, 700);
     m_monitors->set({left, right});
-    m_monitors->movePointer(QPoint(1000, 400));
+    m_desktop->pointer().moveTo(QPoint(1000, 400));
     toggle();
     QVERIFY2(waitInCorner(QPoint(1600, 700)), qPrintable(where()));
     m_monitors->set({left});
     QVERIFY2(waitInCorner(QPoint(800, 1000)), qPrintable(where()));
     // Plugged in again while the panel is hidden. Nothing tells when Vesk has heard of it, so it is asked
     // for again.
-    m_monitors->movePointer(QPoint(1000, 400));
+    m_desktop->pointer().moveTo(QPoint(1000, 400));
     toggle();
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
     m_monitors->set({left, right});

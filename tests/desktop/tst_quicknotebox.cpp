@@ -179,7 +179,7 @@ void TestQuickNoteBox::unpluggedScreenGivesItBack()
     const QRect left(0, 0, 800, 1000);
     Monitors monitors(m_desktop->display());
     monitors.set({left, QRect(800, 0, 800, 700)});
-    monitors.movePointer(QPoint(1200, 400));
+    m_desktop->pointer().moveTo(QPoint(1200, 400));
     const std::optional<Window> box = openBox();
     VERIFY_ON(*m_desktop, box);
     QVERIFY(!left.intersects(box->geometry));

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "../components/shownitems.h"
 #include "panelfixture.h"
 
-#include <QQuickItem>
 #include <QTest>
 
 #include <algorithm>
@@ -46,16 +46,8 @@ protected:
     /// All items of a QML type that are shown, in order of their place.
     [[nodiscard]] QList<QQuickItem *> shown(const QByteArray &type) const
     {
-        QList<QQuickItem *> found;
-        QList<QQuickItem *> left{window().contentItem()};
-        while (!left.isEmpty()) {
-            QQuickItem *item = left.takeFirst();
-            if (!item->isVisible() || item->opacity() == 0)
-                continue;
-            if (QByteArray(item->metaObject()->className()).startsWith(type + "_QMLTYPE"))
-                found.append(item);
-            left += item->childItems();
-        }
+        QList<QQuickItem *> found =
+            shownItems(window(), [&type](const QQuickItem &item) { return isOfType(item, type); });
         std::ranges::sort(found, {}, [](QQuickItem *item) { return item->mapToScene({}).y(); });
         return found;
     }

@@ -86,13 +86,8 @@ void PanelLanguagesTest::cleanup()
 QByteArray PanelLanguagesTest::cutOff() const
 {
     QByteArray texts;
-    for (QList<QQuickItem *> left{window().contentItem()}; !left.isEmpty();) {
-        const QQuickItem *item = left.takeFirst();
-        if (!item->isVisible())
-            continue;
-        left += item->childItems();
-        if (!item->inherits("QQuickText"))
-            continue;
+    for (const QQuickItem *item :
+         shownItems(window(), [](const QQuickItem &each) { return each.inherits("QQuickText"); })) {
         const QRectF place = item->mapRectToScene(item->boundingRect());
         if (place.left() < 0 || place.right() > window().width() || item->property("truncated").toBool())
             texts += item->property("text").toString().toUtf8() + '\n';

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "bustest.h"
 #include "fakepackagekit.h"
 
 #include "platform/freedesktop/packagekitupdates.h"
-#include "virtualdesktop/busdaemon.h"
 
-#include <QDBusConnectionInterface>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -15,39 +13,28 @@ using Outcome = Updates::Outcome;
 using Failure = FakePackageKit::Script::Failure;
 
 /// Updates by a PackageKit on a bus of the test's own.
-class TestPackageKitUpdates : public QObject
+class TestPackageKitUpdates : public BusTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
     void cleanup();
-    void cleanupTestCase();
     void finds_data();
     void finds();
     void canCheckFollowsTheService();
     void mayDieWhileChecking();
 
 private:
-    std::unique_ptr<BusDaemon> m_bus;
     std::unique_ptr<FakePackageKit> m_service;
     std::unique_ptr<PackageKitUpdates> m_updates;
 };
 
-void TestPackageKitUpdates::initTestCase()
-{
-    m_bus = BusDaemon::start();
-    QVERIFY(m_bus);
-    for (const QString &name : {u"service"_s, u"client"_s})
-        QVERIFY(QDBusConnection::connectToBus(m_bus->address(), name).isConnected());
-}
-
 void TestPackageKitUpdates::init()
 {
     const PackageKitUpdates::Limits limits{.call = 5s, .question = 5s, .refresh = 5s};
-    m_service = std::make_unique<FakePackageKit>(QDBusConnection(u"service"_s));
-    m_updates = std::make_unique<PackageKitUpdates>(QDBusConnection(u"client"_s), limits);
+    m_service = std::make_unique<FakePackageKit>(other());
+    m_updates = std::make_unique<PackageKitUpdates>(vesk(), limits);
 }
 
 void TestPackageKitUpdates::cleanup()
@@ -55,12 +42,6 @@ void TestPackageKitUpdates::cleanup()
     m_updates.reset();
     m_service->vanish();
     m_service.reset();
-}
-
-void TestPackageKitUpdates::cleanupTestCase()
-{
-    QDBusConnection::disconnectFromBus(u"client"_s);
-    QDBusConnection::disconnectFromBus(u"service"_s);
 }
 
 void TestPackageKitUpdates::finds_data()
@@ -95,7 +76,7 @@ void TestPackageKitUpdates::finds()
     QFETCH(QString, version);
     if (script.failure == Failure::Hangs) {
         const PackageKitUpdates::Limits limits{.call = 5s, .question = 50ms, .refresh = 50ms};
-        m_updates = std::make_unique<PackageKitUpdates>(QDBusConnection(u"client"_s), limits);
+        m_updates = std::make_unique<PackageKitUpdates>(vesk(), limits);
     }
     QSignalSpy finished(m_updates.get(), &Updates::checkFinished);
     m_service->setScript(script);
@@ -134,8 +115,7 @@ void TestPackageKitUpdates::canCheckFollowsTheService()
     // Busy already when it is met.
     m_service->setOthersAreBusy(true);
     m_service->appear();
-    m_updates =
-        std::make_unique<PackageKitUpdates>(QDBusConnection(u"client"_s), PackageKitUpdates::Limits());
+    m_updates = std::make_unique<PackageKitUpdates>(vesk(), PackageKitUpdates::Limits());
     QTest::qWait(200);
     QVERIFY(!m_updates->canCheckForUpdates());
 }

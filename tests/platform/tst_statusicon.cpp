@@ -1,28 +1,25 @@
 // SPDX-License-Identifier: MIT
+#include "bustest.h"
 #include "fakemenuregistrar.h"
 #include "fakestatuswatcher.h"
 
 #include "platform/freedesktop/menubar.h"
 #include "platform/freedesktop/statusicon.h"
-#include "virtualdesktop/busdaemon.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCall>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
 /// The icon and the menu bar on a bus of their own, as a desktop's panels meet them.
-class StatusIconTest : public QObject
+class StatusIconTest : public BusTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void cleanup();
-    void cleanupTestCase();
     void followsThePlaceForIcons();
     void isFoundAndActivated();
     void menuIsDrawnByTheDesktop();
@@ -33,12 +30,11 @@ private:
     void makeIcon()
     {
         m_icon = std::make_unique<StatusIcon>(
-            QDBusConnection(u"vesk"_s),
-            StatusIcon::Content{
-                .activated = [this] { m_done.append(u"activate"_s); },
-                .menu = {{.label = u"New_Note"_s, .action = [this] { m_done.append(u"new"_s); }},
-                         {},
-                         {.label = u"Quit"_s, .action = [this] { m_done.append(u"quit"_s); }}}});
+            vesk(), StatusIcon::Content{
+                        .activated = [this] { m_done.append(u"activate"_s); },
+                        .menu = {{.label = u"New_Note"_s, .action = [this] { m_done.append(u"new"_s); }},
+                                 {},
+                                 {.label = u"Quit"_s, .action = [this] { m_done.append(u"quit"_s); }}}});
     }
     /// The answer to a call of the desktop's; the event loop turns, since both ends live here.
     [[nodiscard]] static QDBusMessage ask(const QString &path, const QString &interface,
@@ -52,18 +48,9 @@ private:
         return askMenu(u"Event"_s, {id, u"clicked"_s, QVariant::fromValue(QDBusVariant(0)), 0U});
     }
 
-    std::unique_ptr<BusDaemon> m_bus;
     std::unique_ptr<StatusIcon> m_icon;
     QStringList m_done;
 };
-
-void StatusIconTest::initTestCase()
-{
-    m_bus = BusDaemon::start();
-    QVERIFY(m_bus);
-    for (const QString &name : {u"desktop"_s, u"vesk"_s})
-        QVERIFY(QDBusConnection::connectToBus(m_bus->address(), name).isConnected());
-}
 
 void StatusIconTest::cleanup()
 {
@@ -71,19 +58,12 @@ void StatusIconTest::cleanup()
     m_done.clear();
 }
 
-void StatusIconTest::cleanupTestCase()
-{
-    QDBusConnection::disconnectFromBus(u"vesk"_s);
-    QDBusConnection::disconnectFromBus(u"desktop"_s);
-}
-
 QDBusMessage StatusIconTest::ask(const QString &path, const QString &interface, const QString &method,
                                  const QVariantList &arguments)
 {
-    QDBusMessage call =
-        QDBusMessage::createMethodCall(QDBusConnection(u"vesk"_s).baseService(), path, interface, method);
+    QDBusMessage call = QDBusMessage::createMethodCall(vesk().baseService(), path, interface, method);
     call.setArguments(arguments);
-    const QDBusPendingCall pending = QDBusConnection(u"desktop"_s).asyncCall(call);
+    const QDBusPendingCall pending = other().asyncCall(call);
     (void)QTest::qWaitFor([&pending] { return pending.isFinished(); }, 10000);
     return pending.reply();
 }
@@ -91,14 +71,14 @@ QDBusMessage StatusIconTest::ask(const QString &path, const QString &interface, 
 void StatusIconTest::followsThePlaceForIcons()
 {
     makeIcon();
-    const QStringList expected{QDBusConnection(u"vesk"_s).baseService()};
+    const QStringList expected{vesk().baseService()};
     for (int round = 0; round < 2; ++round) {
-        const FakeStatusWatcher place(QDBusConnection(u"desktop"_s));
+        const FakeStatusWatcher place(other());
         QTRY_COMPARE(place.items(), expected);
     }
     // There before the icon.
     m_icon.reset();
-    const FakeStatusWatcher place(QDBusConnection(u"desktop"_s));
+    const FakeStatusWatcher place(other());
     makeIcon();
     QTRY_COMPARE(place.items(), expected);
 }
@@ -158,7 +138,7 @@ void StatusIconTest::menuIsChosenFrom()
 
 void StatusIconTest::windowsMenusHaveMenus()
 {
-    const MenuBar bar(QDBusConnection(u"vesk"_s), 77,
+    const MenuBar bar(vesk(), 77,
                       {{.label = u"File"_s,
                         .action = {},
                         .children = {{.label = u"New"_s,
@@ -166,7 +146,7 @@ void StatusIconTest::windowsMenusHaveMenus()
                                       .keys = QKeySequence(u"Ctrl+Shift+N"_s)}}},
                        {.label = u"Format"_s, .action = {}}});
     for (int round = 0; round < 2; ++round) {
-        const FakeMenuRegistrar place(QDBusConnection(u"desktop"_s));
+        const FakeMenuRegistrar place(other());
         QTRY_COMPARE(place.windows().value(77).second, u"/MenuBar"_s);
     }
     const auto children = [](const QVariant &line) { return qdbus_cast<DBusMenuLayout>(line).children; };

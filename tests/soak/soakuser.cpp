@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "soak/soakuser.h"
 
+#include "../components/shownitems.h"
 #include "notes/markup.h"
 #include "soak/soakworld.h"
 
-#include <QQuickItem>
 #include <QTest>
 
 #include <algorithm>
@@ -32,27 +32,6 @@ const QStringList kSelections{u"A line"_s,
                               u"word "_s.repeated(40) + u"end"_s,
                               QString(u'\xd800') + u"lone"_s};
 
-/// All items of the window that are shown and for which `isWanted` is true.
-QList<QQuickItem *> shown(const QQuickWindow &window, auto isWanted)
-{
-    QList<QQuickItem *> found;
-    QList<QQuickItem *> left{window.contentItem()};
-    while (!left.isEmpty()) {
-        QQuickItem *item = left.takeLast();
-        if (!item->isVisible())
-            continue;
-        if (isWanted(*item))
-            found.append(item);
-        left += item->childItems();
-    }
-    return found;
-}
-
-bool isOfType(const QQuickItem &item, const char *type)
-{
-    return QByteArray(item.metaObject()->className()).startsWith(QByteArray(type) + "_QMLTYPE");
-}
-
 /// The card that an item belongs to; null if none.
 RecordId cardOf(const QQuickItem *item)
 {
@@ -70,7 +49,7 @@ QQuickWindow *focusWindow()
 
 bool isMenuOpen()
 {
-    return focusWindow() && !shown(*focusWindow(), [](const QQuickItem &item) {
+    return focusWindow() && !shownItems(*focusWindow(), [](const QQuickItem &item) {
                                  return isOfType(item, "MenuRow");
                              }).isEmpty();
 }
@@ -217,7 +196,7 @@ void SoakUser::click()
     QQuickWindow *window = focusWindow();
     if (!window)
         return;
-    const QList<QQuickItem *> targets = shown(*window, [](const QQuickItem &item) {
+    const QList<QQuickItem *> targets = shownItems(*window, [](const QQuickItem &item) {
         return item.metaObject()->indexOfSignal("clicked()") >= 0 || isOfType(item, "NoteCard")
                || isOfType(item, "NoteEditor") || isOfType(item, "Composer") || isOfType(item, "SearchField");
     });
@@ -232,7 +211,7 @@ void SoakUser::click()
     QTest::mouseMove(window, place);
     QCoreApplication::processEvents();
     for (const QQuickItem *item :
-         shown(*window, [&](const QQuickItem &each) { return each.contains(each.mapFromScene(place)); }))
+         shownItems(*window, [&](const QQuickItem &each) { return each.contains(each.mapFromScene(place)); }))
         m_effect.mayTouch.insert(cardOf(item));
     m_effect.mayClearDone = m_effect.mayClearDone || isMenuOpen();
     const Qt::MouseButton button = pick(8) == 0    ? Qt::RightButton
