@@ -43,6 +43,8 @@ FocusScope {
         autofocus: true
         takesCommandReturn: true
         takesEscape: true
+        // Tab is the text's, so that the way to the source is back.
+        KeyNavigation.backtab: source.visible ? source : null
         takesTabbing: true
         onEdited: text => root.panel.cards.edit(root.cardId, text)
         onCommandReturned: root.panel.openNote.close()
@@ -81,6 +83,7 @@ FocusScope {
             label: root.sourceLabel
             help: root.sourceTip
             bundleId: root.sourceBundle
+            KeyNavigation.tab: editor
             onClicked: root.panel.cards.openSource(root.cardId)
         }
 

@@ -15,9 +15,9 @@ namespace vesk {
 struct PanelFixture : MemoryDesktop
 {
     /// A note of the present moment; the clock then goes on by a second, so that the next is newer.
-    Note &addNote(const QString &text)
+    Note &addNote(const QString &text, const std::optional<CaptureSource> &source = std::nullopt)
     {
-        Note &note = store->insert(std::make_unique<Note>(clock, text));
+        Note &note = store->insert(std::make_unique<Note>(clock, text, source));
         clock.advance(std::chrono::seconds(1));
         return note;
     }

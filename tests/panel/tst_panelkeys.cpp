@@ -29,6 +29,7 @@ private Q_SLOTS:
     void sameFieldCanBeAskedForTwice();
     void composingKeepsItsKeys();
     void typingBeginsASearch();
+    void sourceIsBehindTheText();
 
 private:
     [[nodiscard]] QString focusedText() const
@@ -292,6 +293,19 @@ void PanelKeysTest::typingBeginsASearch()
     type(u"x"_s);
     QVERIFY(model().openNote()->id());
     QCOMPARE(model().search(), QString());
+}
+
+void PanelKeysTest::sourceIsBehindTheText()
+{
+    const CaptureSource source{.app = u"Browser"_s, .bundleID = {}, .title = u"Page"_s, .url = {}};
+    m_fixture->addNote(u"four"_s, source);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QTRY_VERIFY(model().keyboard()->isEditing());
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(window().activeFocusItem(), shown("SourceButton").value(0));
+    press(Qt::Key_Tab);
+    QVERIFY(model().keyboard()->isEditing());
 }
 
 QTEST_MAIN(PanelKeysTest)
