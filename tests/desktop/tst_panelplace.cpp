@@ -243,9 +243,12 @@ void TestPanelPlace::goesWhenAnotherApplicationIsUsed()
     toggle();
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel(), kBound));
-    m_desktop->windows().activate(other.window());
+    // The window manager may do what the panel has asked of it after this, and make it active once more.
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
+        m_desktop->windows().activate(other.window());
+        return !panel();
+    }));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(other.window(), kBound));
-    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
 }
 
 DESKTOP_TEST_MAIN(TestPanelPlace)
