@@ -29,11 +29,14 @@ std::unique_ptr<BusDaemon> BusDaemon::start()
     const QString file = bus->m_folder.filePath(u"bus.conf"_s);
     if (!writeFile(file, kConfiguration))
         return nullptr;
+    // The home of whoever runs this need not be there.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"HOME"_s, bus->m_folder.path());
     bus->m_process =
         ChildProcess::start({.program = u"dbus-daemon"_s,
                              .arguments = {u"--nofork"_s, u"--print-address=1"_s, u"--config-file="_s + file,
                                            u"--address=unix:dir="_s + bus->m_folder.path()},
-                             .environment = QProcessEnvironment::systemEnvironment(),
+                             .environment = environment,
                              .errorFile = bus->m_folder.filePath(u"bus.log"_s)});
     bus->m_address = bus->m_process ? bus->m_process->readLine(10s) : QString();
     return bus->m_address.isEmpty() ? nullptr : std::move(bus);
