@@ -31,6 +31,7 @@ private Q_SLOTS:
     void cardClosesBeforeItsRowMoves();
     void searchGivesCardsOtherNotes();
     void searchIsReadFromItsBeginning();
+    void foundBoxesAreTickedAtOnce();
     void tickingStaysOnTheClosedCard();
     void hoverButtons();
     void tabsChooseTheList();
@@ -270,6 +271,24 @@ void PanelViewTest::searchIsReadFromItsBeginning()
     QTRY_VERIFY(firstRow() > 0);
     model().setSearch(u"o"_s);
     QTRY_COMPARE(firstRow(), 0);
+}
+
+void PanelViewTest::foundBoxesAreTickedAtOnce()
+{
+    m_fixture->appearance.setReduceMotion(false);
+    addNote(u"tea\n☑ bought"_s);
+    addNote(u"milk\n☐ wanted"_s);
+    const auto tickOf = [](const QQuickItem *circle) { return circle->childItems().constLast()->opacity(); };
+    QTRY_COMPARE(shown("CheckCircle").size(), 2);
+    const QQuickItem *first = shown("CheckCircle").constFirst();
+    QCOMPARE(tickOf(first), 0.0);
+    model().setSearch(u"tea"_s);
+    QCOMPARE(shown("CheckCircle").constFirst(), first);
+    QCOMPARE(tickOf(first), 1.0);
+    // By a click it grows.
+    click(*shown("ChecklistRow").constFirst());
+    QVERIFY(tickOf(first) > 0);
+    QTRY_COMPARE(tickOf(first), 0.0);
 }
 
 void PanelViewTest::tickingStaysOnTheClosedCard()
