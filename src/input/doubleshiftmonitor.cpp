@@ -23,10 +23,8 @@ void DoubleShiftMonitor::start()
     if (m_isListening || !m_tap.start())
         return;
     m_isListening = true;
-    // A key typed while Shift is held leaves the tap itself standing: only what came before counts
-    // no more.
-    connect(&m_tap, &EventTap::keyDown, this, [this] { m_lastTap.reset(); });
-    connect(&m_tap, &EventTap::wheelTurned, this, [this] { m_lastTap.reset(); });
+    connect(&m_tap, &EventTap::keyDown, this, &DoubleShiftMonitor::onOtherInput);
+    connect(&m_tap, &EventTap::wheelTurned, this, &DoubleShiftMonitor::onOtherInput);
     connect(&m_tap, &EventTap::flagsChanged, this, &DoubleShiftMonitor::setFlags);
     connect(&m_tap, &EventTap::interrupted, this, &DoubleShiftMonitor::forget);
 }
@@ -43,16 +41,25 @@ void DoubleShiftMonitor::setFlags(const ModifierChange &change)
     // With Caps Lock on, Shift writes small letters: it is not the Shift that is tapped.
     const bool isShift = change.held == Qt::ShiftModifier && !change.isCapsLocked;
     const bool isNothing = change.held == Qt::NoModifier && !change.isCapsLocked;
+    const bool isTap = isNothing && m_shiftIsDown && !m_isUsed;
+    m_isAnyHeld = change.held != Qt::NoModifier;
+    m_isUsed = m_isUsed && m_isAnyHeld;
     if (isShift) {
         m_shiftIsDown = true;
         return;
     }
-    const bool hasEnded = isNothing && m_shiftIsDown;
     m_shiftIsDown = false;
-    if (hasEnded)
+    if (isTap)
         endTap(change.time);
     else if (!isNothing)
         m_lastTap.reset();
+}
+
+void DoubleShiftMonitor::onOtherInput()
+{
+    m_lastTap.reset();
+    // A Shift that something was typed or clicked with is no tap, even if it goes up alone.
+    m_isUsed = m_isAnyHeld;
 }
 
 void DoubleShiftMonitor::endTap(std::chrono::milliseconds now)
@@ -69,6 +76,8 @@ void DoubleShiftMonitor::forget()
 {
     m_lastTap.reset();
     m_shiftIsDown = false;
+    m_isAnyHeld = false;
+    m_isUsed = false;
 }
 
 } // namespace vesk

@@ -34,6 +34,7 @@ Q_SIGNALS:
 
 private:
     void setFlags(const ModifierChange &change);
+    void onOtherInput();
     void endTap(std::chrono::milliseconds now);
     void forget();
 
@@ -43,6 +44,9 @@ private:
     std::optional<std::chrono::milliseconds> m_lastTap;
     /// Whether Shift, and no other modifier, is held.
     bool m_shiftIsDown = false;
+    bool m_isAnyHeld = false;
+    /// Whether a key, a mouse button or the wheel was used with the modifiers that are held.
+    bool m_isUsed = false;
 };
 
 } // namespace vesk

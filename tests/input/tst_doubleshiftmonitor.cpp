@@ -40,7 +40,12 @@ void TestDoubleShiftMonitor::taps_data()
     QTest::newRow("four quick taps") << u"sS.sS.sS.sS"_s << 2;
     QTest::newRow("a letter between") << u"sS.x.sS"_s << 0;
     QTest::newRow("a capital after a tap") << u"sS.sxS"_s << 0;
-    QTest::newRow("a capital, then a tap") << u"sxS.sS"_s << 1;
+    QTest::newRow("a capital, then a tap") << u"sxS.sS"_s << 0;
+    QTest::newRow("a capital, then two taps") << u"sxS.sS.sS"_s << 1;
+    QTest::newRow("a letter, then two taps") << u"x.sS.sS"_s << 1;
+    QTest::newRow("a capital with both Shifts, then a tap") << u"sxsS.sS"_s << 0;
+    QTest::newRow("a letter with Control and Shift, then a tap") << u"cxs.S.sS"_s << 0;
+    QTest::newRow("scrolling with Shift, then a tap") << u"swS.sS"_s << 0;
     QTest::newRow("Shift with Control after a tap") << u"sS.scC.sS"_s << 0;
     QTest::newRow("a tap, then Shift left over from a combination") << u"sS.cs.S"_s << 0;
     QTest::newRow("Shift left over from a combination, then a tap") << u"cs.S.sS"_s << 1;
