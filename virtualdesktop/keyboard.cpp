@@ -3,6 +3,7 @@
 
 #include <ranges>
 #include <thread>
+#include <xcb/xinput.h>
 #include <xcb/xtest.h>
 
 namespace vesk {
@@ -13,8 +14,9 @@ constexpr quint16 kSuperAlt = XCB_MOD_MASK_4 | XCB_MOD_MASK_1;
 
 } // namespace
 
-Keyboard::Keyboard(DisplayConnection &display)
+Keyboard::Keyboard(DisplayConnection &display, Device device)
     : m_display(display)
+    , m_hardware(device == Device::Hardware ? findHardware() : quint8{0})
 {
     const xcb_setup_t *setup = xcb_get_setup(display.xcb());
     const auto cookie = xcb_get_keyboard_mapping(display.xcb(), setup->min_keycode,
@@ -37,12 +39,34 @@ Keyboard::Place Keyboard::find(xcb_keysym_t key) const
     return {};
 }
 
+quint8 Keyboard::findHardware() const
+{
+    xcb_connection_t *xcb = m_display.xcb();
+    const Reply<xcb_input_xi_query_version_reply_t> version{
+        xcb_input_xi_query_version_reply(xcb, xcb_input_xi_query_version(xcb, 2, 2), nullptr)};
+    const Reply<xcb_input_xi_query_device_reply_t> devices{
+        xcb_input_xi_query_device_reply(xcb, xcb_input_xi_query_device(xcb, XCB_INPUT_DEVICE_ALL), nullptr)};
+    if (!devices)
+        return 0;
+    auto each = xcb_input_xi_query_device_infos_iterator(devices.get());
+    for (; each.rem > 0; xcb_input_xi_device_info_next(&each)) {
+        const QByteArray name(xcb_input_xi_device_info_name(each.data), each.data->name_len);
+        if (each.data->type == XCB_INPUT_DEVICE_TYPE_SLAVE_KEYBOARD && !name.contains("XTEST"))
+            return quint8(each.data->deviceid);
+    }
+    return 0;
+}
+
 void Keyboard::send(xcb_keysym_t key, quint8 type)
 {
     const Place place = find(key);
     if (place.code == 0)
         return;
-    xcb_test_fake_input(m_display.xcb(), type, place.code, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+    if (m_hardware != 0) {
+        const quint8 first = xcb_get_extension_data(m_display.xcb(), &xcb_input_id)->first_event;
+        type = first + (type == XCB_KEY_PRESS ? XCB_INPUT_DEVICE_KEY_PRESS : XCB_INPUT_DEVICE_KEY_RELEASE);
+    }
+    xcb_test_fake_input(m_display.xcb(), type, place.code, XCB_CURRENT_TIME, XCB_NONE, 0, 0, m_hardware);
     xcb_flush(m_display.xcb());
 }
 

@@ -13,7 +13,14 @@ namespace vesk {
 class Keyboard final
 {
 public:
-    explicit Keyboard(DisplayConnection &display);
+    enum class Device {
+        /// The one of the XTEST extension, which all programs that send keys share.
+        Programs,
+        /// The X server's own keyboard.
+        Hardware,
+    };
+
+    explicit Keyboard(DisplayConnection &display, Device device = Device::Programs);
 
     /// Keys are named by their keysym; one that is not on the keyboard is not pressed.
     void press(xcb_keysym_t key);
@@ -44,9 +51,12 @@ private:
     };
 
     [[nodiscard]] Place find(xcb_keysym_t key) const;
+    [[nodiscard]] quint8 findHardware() const;
     void send(xcb_keysym_t key, quint8 type);
 
     DisplayConnection &m_display;
+    /// 0 for the device of the programs.
+    quint8 m_hardware = 0;
     Reply<xcb_get_keyboard_mapping_reply_t> m_mapping;
 };
 
