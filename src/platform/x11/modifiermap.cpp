@@ -15,6 +15,8 @@ constexpr xcb_keysym_t kModeSwitch = 0xff7e;
 constexpr xcb_keysym_t kNumLock = 0xff7f;
 constexpr xcb_keysym_t kScrollLock = 0xff14;
 constexpr xcb_keysym_t kLevel3Shift = 0xfe03;
+constexpr xcb_keysym_t kFirstGroupSwitch = 0xfe06; // ISO_Group_Latch
+constexpr xcb_keysym_t kLastGroupSwitch = 0xfe0f;  // ISO_Last_Group_Lock
 constexpr xcb_keysym_t kMetaLeft = 0xffe7;
 constexpr xcb_keysym_t kMetaRight = 0xffe8;
 constexpr xcb_keysym_t kAltLeft = 0xffe9;
@@ -114,6 +116,18 @@ void ModifierMap::read()
             m_masks[keys[i]] |= static_cast<uint8_t>(1U << (i / perModifier));
     }
     m_bits = findBits(m_masks, mapping.get());
+    m_layoutSwitches.clear();
+    const auto perKey = static_cast<size_t>(mapping->keysyms_per_keycode);
+    const std::span all(xcb_get_keyboard_mapping_keysyms(mapping.get()),
+                        static_cast<size_t>(xcb_get_keyboard_mapping_keysyms_length(mapping.get())));
+    for (auto each = m_masks.keyBegin(); each != m_masks.keyEnd(); ++each) {
+        const auto onKey = all.subspan((*each - setup->min_keycode) * perKey, perKey);
+        const auto isSwitch = [](xcb_keysym_t keysym) {
+            return keysym >= kFirstGroupSwitch && keysym <= kLastGroupSwitch;
+        };
+        if (std::ranges::any_of(onKey, isSwitch))
+            m_layoutSwitches.insert(*each);
+    }
 }
 
 ModifierMap::Bits ModifierMap::findBits(const Masks &masks,

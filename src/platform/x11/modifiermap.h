@@ -3,6 +3,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QSet>
 
 #include <xcb/xcb.h>
 
@@ -24,6 +25,10 @@ public:
     /// What a key adds to a combination; none for locks and for keys that are no modifiers.
     [[nodiscard]] Qt::KeyboardModifiers modifiersOf(xcb_keycode_t key) const;
     [[nodiscard]] bool isCapsLock(xcb_keycode_t key) const;
+    /// Whether a key is Caps Lock, Num Lock or Scroll Lock.
+    [[nodiscard]] bool isLock(xcb_keycode_t key) const { return (m_masks.value(key, 0) & m_bits.locks) != 0; }
+    /// Whether a modifier, alone or together with another, switches to another of the keyboard's layouts.
+    [[nodiscard]] bool isLayoutSwitch(xcb_keycode_t key) const { return m_layoutSwitches.contains(key); }
 
     /// The bits of these modifiers.
     [[nodiscard]] uint8_t bitsOf(Qt::KeyboardModifiers modifiers) const;
@@ -56,6 +61,7 @@ private:
     X11Connection &m_connection;
     Masks m_masks;
     Bits m_bits;
+    QSet<xcb_keycode_t> m_layoutSwitches;
     bool m_isStale = false;
 };
 

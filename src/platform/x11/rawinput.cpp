@@ -3,7 +3,7 @@
 
 #include "platform/x11/x11connection.h"
 
-#include <xcb/xinput.h>
+#include <algorithm>
 
 namespace vesk {
 
@@ -27,10 +27,10 @@ void RawInput::setListening(bool isListening)
     };
     if (isListening) {
         selection.mask = XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE
-                         | XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS;
+                         | XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS | XCB_INPUT_XI_EVENT_MASK_FOCUS_IN
+                         | XCB_INPUT_XI_EVENT_MASK_FOCUS_OUT;
     } else {
-        m_last = {};
-        m_previous = {};
+        forget();
     }
     xcb_input_xi_select_events(m_connection.xcb(), m_connection.root(), 1, &selection.header);
     m_connection.flush();
@@ -52,18 +52,14 @@ bool RawInput::isKeyboardTaken() const
                                           XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
     const XReply<xcb_grab_keyboard_reply_t> reply(
         xcb_grab_keyboard_reply(m_connection.xcb(), cookie, nullptr));
-    return reply && reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
+    return reply
+           && (reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED || reply->status == XCB_GRAB_STATUS_FROZEN);
 }
 
-xcb_timestamp_t RawInput::lastPress() const
+void RawInput::ignoreRequests(xcb_input_device_id_t device, uint32_t first, uint32_t last)
 {
-    const bool isHotKey = m_last.key == m_hotKey.key && m_last.time == m_hotKey.time;
-    return isHotKey ? m_previous.time : m_last.time;
-}
-
-void RawInput::setHotKeyPress(xcb_keycode_t key, xcb_timestamp_t time)
-{
-    m_hotKey = {.key = key, .time = time};
+    if (m_isListening)
+        m_ownRequests.append({.device = device, .first = first, .last = last});
 }
 
 void RawInput::onEvent(const xcb_generic_event_t *event)
@@ -72,36 +68,100 @@ void RawInput::onEvent(const xcb_generic_event_t *event)
     const auto *generic = reinterpret_cast<const xcb_ge_generic_event_t *>(event);
     if (type != XCB_GE_GENERIC || generic->extension != m_connection.inputOpcode())
         return;
-    if (generic->event_type == XCB_INPUT_RAW_BUTTON_PRESS) {
-        const auto *button = reinterpret_cast<const xcb_input_raw_button_press_event_t *>(event);
-        // Buttons above the third are the wheel and the like, which select nothing.
-        constexpr uint32_t kLastSelecting = 3;
-        if (button->detail <= kLastSelecting) {
-            onPress({.key = 0, .time = button->time});
-            Q_EMIT buttonPressed();
-        } else {
-            Q_EMIT wheelTurned();
-        }
-        return;
-    }
-    const auto *raw = reinterpret_cast<const xcb_input_raw_key_press_event_t *>(event);
-    const auto key = static_cast<xcb_keycode_t>(raw->detail);
-    if (generic->event_type == XCB_INPUT_RAW_KEY_PRESS) {
-        if (!isModifier(key))
-            onPress({.key = key, .time = raw->time});
-        Q_EMIT keyPressed(key, raw->time);
-    } else if (generic->event_type == XCB_INPUT_RAW_KEY_RELEASE) {
-        Q_EMIT keyReleased(key, raw->time);
+    const auto &raw = *reinterpret_cast<const xcb_input_raw_key_press_event_t *>(event);
+    const auto &focus = *reinterpret_cast<const xcb_input_focus_in_event_t *>(event);
+    switch (generic->event_type) {
+    case XCB_INPUT_RAW_BUTTON_PRESS:
+        onButton(raw.detail, raw.time);
+        break;
+    case XCB_INPUT_RAW_KEY_PRESS:
+    case XCB_INPUT_RAW_KEY_RELEASE:
+        if (!isOwn(raw))
+            onKey(generic->event_type == XCB_INPUT_RAW_KEY_PRESS, static_cast<xcb_keycode_t>(raw.detail),
+                  raw.time);
+        break;
+    case XCB_INPUT_FOCUS_IN:
+    case XCB_INPUT_FOCUS_OUT:
+        onRootFocus(generic->event_type == XCB_INPUT_FOCUS_IN, focus.mode);
+        break;
+    default:
+        break;
     }
 }
 
-void RawInput::onPress(Press press)
+void RawInput::onButton(uint32_t button, xcb_timestamp_t time)
 {
-    // A hot key that follows a hot key must not bring the first one back as the last press.
-    const bool wasHotKey = m_last.key == m_hotKey.key && m_last.time == m_hotKey.time;
-    if (!wasHotKey)
-        m_previous = m_last;
-    m_last = press;
+    // Buttons above the third are the wheel and the like, which select nothing.
+    constexpr uint32_t kLastSelecting = 3;
+    if (button > kLastSelecting) {
+        Q_EMIT wheelTurned();
+        return;
+    }
+    m_lastPress = time;
+    m_beforeKey.reset();
+    Q_EMIT buttonPressed();
+}
+
+void RawInput::onKey(bool isPress, xcb_keycode_t key, xcb_timestamp_t time)
+{
+    m_down.set(key, isPress);
+    m_beforeKey.reset();
+    // A grab that ends while the root window itself has the focus is not reported.
+    m_isRootGrabbed = m_isRootGrabbed && isKeyboardTaken();
+    if (!isPress) {
+        Q_EMIT keyReleased(key, time);
+        return;
+    }
+    if (canChangeSelection(key)) {
+        m_beforeKey = m_lastPress;
+        m_lastPress = time;
+    }
+    Q_EMIT keyPressed(key, time);
+}
+
+void RawInput::onRootFocus(bool isIn, uint8_t mode)
+{
+    const bool isGrab = mode == XCB_INPUT_NOTIFY_MODE_GRAB || mode == XCB_INPUT_NOTIFY_MODE_PASSIVE_GRAB;
+    const bool isUngrab =
+        mode == XCB_INPUT_NOTIFY_MODE_UNGRAB || mode == XCB_INPUT_NOTIFY_MODE_PASSIVE_UNGRAB;
+    if (!isGrab && !isUngrab)
+        return;
+    m_isRootGrabbed = isGrab && isIn;
+    // The server reports the press first, and then the grab that the press has set off.
+    if (m_isRootGrabbed && m_beforeKey)
+        m_lastPress = *m_beforeKey;
+    m_beforeKey.reset();
+}
+
+bool RawInput::isOwn(const xcb_input_raw_key_press_event_t &event)
+{
+    // An event carries the number of the request of ours that the server served last. They wrap.
+    m_ownRequests.removeIf(
+        [&event](const Requests &each) { return !isAtOrAfter(each.last, event.full_sequence); });
+    return std::ranges::any_of(m_ownRequests, [&event](const Requests &each) {
+        return each.device == event.sourceid && isAtOrAfter(event.full_sequence, each.first);
+    });
+}
+
+bool RawInput::canChangeSelection(xcb_keycode_t key) const
+{
+    if (isModifier(key) || m_isRootGrabbed)
+        return false;
+    Qt::KeyboardModifiers held;
+    for (size_t each = 0; each < m_down.size(); ++each) {
+        if (m_down.test(each))
+            held |= m_modifiers.modifiersOf(static_cast<xcb_keycode_t>(each));
+    }
+    return !held.testFlag(Qt::MetaModifier) && !held.testFlags(Qt::ControlModifier | Qt::AltModifier);
+}
+
+void RawInput::forget()
+{
+    m_ownRequests.clear();
+    m_down.reset();
+    m_lastPress = 0;
+    m_beforeKey.reset();
+    m_isRootGrabbed = false;
 }
 
 } // namespace vesk

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/x11/keystates.h"
 #include "platform/x11/modifiermap.h"
 
+#include <QList>
 #include <QObject>
 
-#include <xcb/xcb.h>
+#include <xcb/xinput.h>
+
+#include <optional>
 
 namespace vesk {
 
@@ -24,13 +28,20 @@ public:
     void setListening(bool isListening);
     [[nodiscard]] bool isListening() const { return m_isListening; }
 
-    /// Server time of the last press that may have changed a selection: a mouse button or a key that
-    /// is no modifier, hot keys left out. 0 before the first.
-    [[nodiscard]] xcb_timestamp_t lastPress() const;
+    /// Server time of the last press that may have changed a selection; 0 before the first. Mouse buttons up
+    /// to the third may, and so may any key that reaches an application, whatever it does there: a letter
+    /// replaces what is selected, Control-L selects something else. These cannot:
+    /// - modifiers;
+    /// - keys that a grab on the root window took, which are Vesk's own hot keys and those of the desktop,
+    ///   also one that runs a command of Vesk's;
+    /// - keys pressed while Super, or Control and Alt together, are held: where nobody has them as hot keys,
+    ///   applications do nothing with them that concerns a selection;
+    /// - keys that Vesk itself has sent.
+    [[nodiscard]] xcb_timestamp_t lastPress() const { return m_lastPress; }
 
-    /// Declares that the press of this key at this time was a hot key of ours, and no input of the
-    /// application's. May come before the press itself is heard.
-    void setHotKeyPress(xcb_keycode_t key, xcb_timestamp_t time);
+    /// Ignores the keys that came from a device as a consequence of these requests to the server, from the
+    /// first to the last. Must be called before the events are read.
+    void ignoreRequests(xcb_input_device_id_t device, uint32_t first, uint32_t last);
 
     [[nodiscard]] const ModifierMap &modifiers() const { return m_modifiers; }
     [[nodiscard]] bool isModifier(xcb_keycode_t key) const { return m_modifiers.isModifier(key); }
@@ -50,22 +61,33 @@ Q_SIGNALS:
     void listeningChanged();
 
 private:
-    struct Press
+    struct Requests
     {
-        /// 0 for a mouse button.
-        xcb_keycode_t key = 0;
-        xcb_timestamp_t time = 0;
+        xcb_input_device_id_t device = 0;
+        uint32_t first = 0;
+        uint32_t last = 0;
     };
 
     void onEvent(const xcb_generic_event_t *event);
-    void onPress(Press press);
+    void onButton(uint32_t button, xcb_timestamp_t time);
+    void onKey(bool isPress, xcb_keycode_t key, xcb_timestamp_t time);
+    void onRootFocus(bool isIn, uint8_t mode);
+    [[nodiscard]] bool isOwn(const xcb_input_raw_key_press_event_t &event);
+    [[nodiscard]] bool canChangeSelection(xcb_keycode_t key) const;
+    void forget();
 
     X11Connection &m_connection;
     ModifierMap m_modifiers;
     bool m_isListening = false;
-    Press m_last;
-    Press m_previous;
-    Press m_hotKey;
+    /// The requests of ours whose keys are not all heard yet.
+    QList<Requests> m_ownRequests;
+    /// The keys that are down, as far as they were heard.
+    KeyStates m_down;
+    xcb_timestamp_t m_lastPress = 0;
+    /// What `m_lastPress` was before the key that was heard last; nullopt if that was no press of a key.
+    std::optional<xcb_timestamp_t> m_beforeKey;
+    /// Whether a grab on the root window takes the keys.
+    bool m_isRootGrabbed = false;
 };
 
 } // namespace vesk

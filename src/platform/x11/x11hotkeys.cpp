@@ -173,7 +173,6 @@ void X11HotKeys::onPress(const xcb_key_press_event_t &press)
         // from the accessibility bus.
         xcb_ungrab_keyboard(m_connection.xcb(), press.time);
         m_connection.flush();
-        m_input.setHotKeyPress(press.detail, press.time);
     }
     const bool isRepetition =
         press.detail == m_held.key
