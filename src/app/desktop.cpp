@@ -19,7 +19,11 @@ Desktop::Desktop(std::unique_ptr<X11Connection> connection, ApplicationService &
     , accessibility(*x11, input, workspace, consent)
     , pasteboard(*x11)
     , primary(*x11, X11Pasteboard::Kind::Primary)
-    , poster(*x11, input, workspace, clock)
+    , poster({.connection = *x11,
+              .input = input,
+              .workspace = workspace,
+              .accessibility = accessibility,
+              .clock = clock})
     , tap(input)
 {
 }

@@ -83,6 +83,10 @@ VeskApp::VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, Applicat
     });
     connect(desktop.x11.get(), &X11Connection::lost, this, [] { QCoreApplication::exit(1); });
     connect(m_panel.cards(), &CardActions::pasteRequested, &m_pasteBack, &PasteBack::pasteIntoPreviousApp);
+    connect(&m_pasteBack, &PasteBack::refused, this, [this](PasteBack::Refusal refusal) {
+        const bool isClosed = refusal == PasteBack::Refusal::WindowClosed;
+        m_toast.show(isClosed ? notices::kCopiedWindowClosed : notices::kCopiedOnly);
+    });
     connect(m_panel.keyboard(), &PanelKeyboard::fieldPasteRequested, this,
             [this, &desktop] { pasteIntoField(desktop.pasteboard); });
     connect(m_panel.cards(), &CardActions::copyRequested, this, [this, &desktop](const QString &text) {

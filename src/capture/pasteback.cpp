@@ -45,7 +45,8 @@ QCoro::Task<> PasteBack::pasteWhenAway()
     const Needs needs = m_needs;
     const int paste = ++m_paste;
     bool isBack = isAway();
-    for (int waits = 0; waits < kAwayWaits && !isBack; ++waits) {
+    for (int waits = 0; waits < kAwayWaits && !isBack && !needs.application.isPreviousWindowClosed();
+         ++waits) {
         co_await needs.clock.sleep(kAwayPeriod);
         if (self.isNull() || m_paste != paste)
             co_return;
@@ -54,13 +55,25 @@ QCoro::Task<> PasteBack::pasteWhenAway()
     co_await needs.clock.sleep(kSettling);
     if (self.isNull() || m_paste != paste)
         co_return;
-    // The user may come to Vesk again, or go elsewhere from where the text was to go. It is on the
-    // pasteboard; pasted into Vesk itself it would change a note.
-    const std::function<bool()> isWanted = [self, paste, isBack] {
-        return !self.isNull() && self->m_paste == paste && (isBack ? self->isAway() : !self->isFrontmost());
+    const EventPoster::Target target = needs.poster.target();
+    using Command = EventPoster::Command;
+    const Command command = isBack ? Command::Paste : Command::PasteUnlessTerminal;
+    const std::function<bool()> isStillWanted = [self, paste, isBack] {
+        return !self.isNull() && self->isWanted(paste, isBack);
     };
-    // Where the keys are refused the text is still on the pasteboard, for the user to paste.
-    co_await needs.poster.post(EventPoster::Command::Paste, isWanted);
+    const bool isPosted = co_await needs.poster.post(command, target, isStillWanted);
+    if (self.isNull() || isPosted || m_paste != paste)
+        co_return;
+    const bool isClosed = needs.application.isPreviousWindowClosed();
+    Q_EMIT refused(isClosed ? Refusal::WindowClosed : Refusal::NotTaken);
+}
+
+bool PasteBack::isWanted(int paste, bool isBack) const
+{
+    // The user may come to Vesk again, or go elsewhere from where the text was to go. Pasted into Vesk itself
+    // it would change a note.
+    return m_paste == paste && !m_needs.application.isPreviousWindowClosed()
+           && (isBack ? isAway() : !isFrontmost());
 }
 
 bool PasteBack::isFrontmost() const

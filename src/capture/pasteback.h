@@ -32,16 +32,30 @@ public:
         EventPoster &poster;
     };
 
+    /// Why a text was only copied.
+    enum class Refusal {
+        /// The window that the user came from is closed.
+        WindowClosed,
+        /// The window has lost the keyboard or does not take the keys.
+        NotTaken,
+    };
+
     explicit PasteBack(const Needs &needs);
 
     /// Puts `text` on the pasteboard, where it stays, hides this program and returns; pastes as soon
     /// as the window that the user came from has the keyboard again. If it does not get it within 1
-    /// second, pastes into whatever application is frontmost then; never into this program, and not
-    /// where the text would be taken for a password. A second call replaces one that still waits.
+    /// second, pastes into whatever application is frontmost then, unless that is or may be a terminal.
+    /// Never pastes into this program, into another window when the one that the user came from is closed,
+    /// or where the text would be taken for a password. A second call replaces one that still waits.
     void pasteIntoPreviousApp(const QString &text);
+
+Q_SIGNALS:
+    /// The text was not pasted. It is on the pasteboard.
+    void refused(vesk::PasteBack::Refusal refusal);
 
 private:
     QCoro::Task<> pasteWhenAway();
+    [[nodiscard]] bool isWanted(int paste, bool isBack) const;
     [[nodiscard]] bool isFrontmost() const;
     [[nodiscard]] bool isAway() const;
 

@@ -67,6 +67,7 @@ QCoro::Task<std::optional<QString>> SelectionReader::readPageAddress(qint64 proc
 QCoro::Task<std::optional<QString>> SelectionReader::readSelection()
 {
     const QPointer<SelectionReader> self(this);
+    const EventPoster::Target target = m_needs.poster.target();
     const std::optional<QString> selected = co_await selectedTextViaAccessibility();
     // The user may have withdrawn the trust meanwhile.
     if (self.isNull() || !m_needs.accessibility.isProcessTrusted())
@@ -78,7 +79,7 @@ QCoro::Task<std::optional<QString>> SelectionReader::readSelection()
     // that the caret is in.
     const bool isKnown = selected && selected->isEmpty();
     if (!isKnown) {
-        text = co_await m_copy.copySelection();
+        text = co_await m_copy.copySelection(target);
         if (text || self.isNull())
             co_return text;
     }

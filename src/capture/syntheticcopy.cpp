@@ -3,7 +3,6 @@
 
 #include "notes/markup.h"
 #include "platform/clock.h"
-#include "platform/eventposter.h"
 #include "platform/eventtap.h"
 #include "platform/workspace.h"
 
@@ -44,7 +43,7 @@ SyntheticCopy::SyntheticCopy(const Needs &needs)
             });
 }
 
-QCoro::Task<std::optional<QString>> SyntheticCopy::copySelection()
+QCoro::Task<std::optional<QString>> SyntheticCopy::copySelection(EventPoster::Target target)
 {
     // Two at once would take each other's copies for the user's.
     if (m_isCopying)
@@ -52,7 +51,7 @@ QCoro::Task<std::optional<QString>> SyntheticCopy::copySelection()
     m_isCopying = true;
     m_late.reset();
     const QPointer<SyntheticCopy> self(this);
-    const std::optional<QString> copied = co_await copyAndRestore();
+    const std::optional<QString> copied = co_await copyAndRestore(target);
     if (!self.isNull())
         m_isCopying = false;
     const QString text = markup::trimmed(copied.value_or(QString()));
@@ -61,11 +60,11 @@ QCoro::Task<std::optional<QString>> SyntheticCopy::copySelection()
     co_return text;
 }
 
-QCoro::Task<std::optional<QString>> SyntheticCopy::copyAndRestore()
+QCoro::Task<std::optional<QString>> SyntheticCopy::copyAndRestore(EventPoster::Target target)
 {
     const QPointer<SyntheticCopy> self(this);
     Pasteboard &pasteboard = m_needs.pasteboard;
-    const std::optional<RunningApplication> target = m_needs.workspace.frontmostApplication();
+    const std::optional<RunningApplication> application = m_needs.workspace.frontmostApplication();
     const qint64 before = pasteboard.changeCount();
     const std::optional<Saved> saved = co_await save();
     if (self.isNull() || !saved)
@@ -75,12 +74,12 @@ QCoro::Task<std::optional<QString>> SyntheticCopy::copyAndRestore()
     const std::function<bool()> isWanted = [self, before] {
         return !self.isNull() && self->m_needs.pasteboard.changeCount() == before;
     };
-    const bool isPosted = co_await m_needs.poster.post(EventPoster::Command::Copy, isWanted);
+    const bool isPosted = co_await m_needs.poster.post(EventPoster::Command::Copy, target, isWanted);
     if (self.isNull() || !isPosted)
         co_return std::nullopt;
     Request request{.processIdentifier = std::nullopt, .at = m_needs.clock.monotonic()};
-    if (target)
-        request.processIdentifier = target->processIdentifier;
+    if (application)
+        request.processIdentifier = application->processIdentifier;
     co_return co_await takeAnswer(request, *saved);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "capture/pasteboardwatcher.h"
+#include "platform/eventposter.h"
 #include "platform/pasteboard.h"
 
 #include <QCoroTask>
@@ -14,7 +15,6 @@
 namespace vesk {
 
 class Clock;
-class EventPoster;
 class EventTap;
 class Workspace;
 
@@ -38,11 +38,11 @@ public:
 
     explicit SyntheticCopy(const Needs &needs);
 
-    /// The text that the application copies, without white space at its ends. None if it copies
-    /// nothing within 0.5 seconds, no text or only white space, if the keys cannot be posted, if the
-    /// user copies something before they are, or if an earlier question is not answered yet. The
-    /// pasteboard then has what it had before, or what the user has copied meanwhile.
-    QCoro::Task<std::optional<QString>> copySelection();
+    /// The text that the application copies in the window that the user pressed a key in, without white space
+    /// at its ends. None if it copies nothing within 0.5 seconds, no text or only white space, if the keys
+    /// cannot be posted, if the user copies something before they are, or if an earlier question is not
+    /// answered yet. The pasteboard then has what it had before, or what the user has copied meanwhile.
+    QCoro::Task<std::optional<QString>> copySelection(EventPoster::Target target);
 
 private:
     /// What the user has on the pasteboard.
@@ -77,7 +77,7 @@ private:
         bool isUserBusy = false;
     };
 
-    QCoro::Task<std::optional<QString>> copyAndRestore();
+    QCoro::Task<std::optional<QString>> copyAndRestore(EventPoster::Target target);
     QCoro::Task<std::optional<QString>> takeAnswer(Request request, Saved saved);
     QCoro::Task<std::optional<QString>> takeCopy(Saved saved);
     /// What is on the pasteboard; none if it changes meanwhile or could not be put back.

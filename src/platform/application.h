@@ -27,6 +27,10 @@ public:
     /// again or, where there is no such window any more, another application has it.
     [[nodiscard]] virtual bool isAway() const = 0;
 
+    /// Whether the window that `hide` was to give the keyboard back to is closed, before or since. False
+    /// where there was no such window.
+    [[nodiscard]] virtual bool isPreviousWindowClosed() const = 0;
+
     /// Ends the hidden state, without showing any window by itself.
     virtual void unhide() = 0;
 

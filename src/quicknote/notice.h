@@ -25,6 +25,13 @@ inline constexpr Notice kSaved{.message = QT_TRANSLATE_NOOP("vesk::Notice", "Sav
 inline constexpr Notice kNotSaved{.message =
                                       QT_TRANSLATE_NOOP("vesk::Notice", "Not saved yet, Vesk keeps trying"),
                                   .symbol = u"exclamationmark.triangle.fill"};
+/// A text that was to be pasted is on the clipboard only.
+inline constexpr Notice kCopiedWindowClosed{
+    .message = QT_TRANSLATE_NOOP("vesk::Notice", "Copied. The window you came from has closed"),
+    .symbol = u"doc.on.doc"};
+inline constexpr Notice kCopiedOnly{
+    .message = QT_TRANSLATE_NOOP("vesk::Notice", "Copied. Paste it where you need it"),
+    .symbol = u"doc.on.doc"};
 
 } // namespace notices
 } // namespace vesk

@@ -43,7 +43,7 @@ struct World : CaptureDesktop
     void ask()
     {
         isAnswered = false;
-        synthetic->copySelection().then([this](std::optional<QString> text) {
+        synthetic->copySelection(poster.target()).then([this](std::optional<QString> text) {
             isAnswered = true;
             answer = text;
         });

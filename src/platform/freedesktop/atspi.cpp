@@ -2,6 +2,7 @@
 #include "platform/freedesktop/atspi.h"
 
 #include "platform/freedesktop/atspiselection.h"
+#include "platform/freedesktop/atspiterminal.h"
 
 #include <QCoroTimer>
 
@@ -118,7 +119,14 @@ QCoro::Task<std::optional<AccessibleElement>> AtSpi::parent(AtSpiQuestion questi
 
 QCoro::Task<std::optional<QString>> AtSpi::role(AtSpiQuestion question, AccessibleElement element)
 {
-    return question.roleName(referenceOf(element));
+    const AtSpiReference reference = referenceOf(element);
+    const std::optional<QString> role = co_await question.roleName(reference);
+    if (role == "entry"_L1) {
+        const bool isTerminal = co_await isWebTerminal(question, reference);
+        if (isTerminal)
+            co_return u"terminal"_s;
+    }
+    co_return role;
 }
 
 QCoro::Task<std::optional<QString>> AtSpi::selectedText(AtSpiQuestion question, AccessibleElement element)

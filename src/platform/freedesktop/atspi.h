@@ -41,6 +41,7 @@ public:
                                                                  qint64 processIdentifier);
     static QCoro::Task<std::optional<AccessibleElement>> parent(AtSpiQuestion question,
                                                                 AccessibleElement element);
+    /// The role's name. A field by which a terminal in a web page takes its keys is a "terminal".
     static QCoro::Task<std::optional<QString>> role(AtSpiQuestion question, AccessibleElement element);
     /// Empty if nothing is selected in the element or, where it is a part of a text, in the rest of
     /// that; none if it is no text, does not answer, or not all of the selection could be read.

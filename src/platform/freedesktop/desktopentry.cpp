@@ -70,7 +70,7 @@ std::optional<DesktopEntry> DesktopEntry::read(QIODevice &file, const QString &i
         .exec = keys.value(u"Exec"_s),
         .startupWMClass = keys.value(u"StartupWMClass"_s),
         .isHidden = isTrue(keys, u"NoDisplay"_s),
-        .isTerminal = keys.value(u"Categories"_s).split(u';').contains("TerminalEmulator"_L1),
+        .categories = keys.value(u"Categories"_s).split(u';', Qt::SkipEmptyParts),
     };
 }
 

@@ -25,8 +25,8 @@ struct DesktopEntry
     QString startupWMClass;
     /// Whether menus leave it out.
     bool isHidden = false;
-    /// Whether it is a terminal, in which Control-C interrupts.
-    bool isTerminal = false;
+    /// What kinds of application it belongs to, by the names of the desktop menu specification.
+    QStringList categories;
 
     /// Reads a desktop-entry file. None if it cannot be read, is no application, or is deleted by the
     /// user (`Hidden`).

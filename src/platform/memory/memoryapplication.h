@@ -19,6 +19,7 @@ public:
     [[nodiscard]] bool isHidden() const override { return m_isHidden; }
     void hide() override;
     [[nodiscard]] bool isAway() const override { return m_isAway; }
+    [[nodiscard]] bool isPreviousWindowClosed() const override { return m_isPreviousWindowClosed; }
     void unhide() override { m_isHidden = false; }
     bool holdKeys() override { return false; }
     void activate(QWindow &window) override;
@@ -28,6 +29,8 @@ public:
     void resignActive();
     /// Plays a window manager that has, or has not, given the keyboard to the window that had it.
     void setAway(bool isAway) { m_isAway = isAway; }
+    /// Plays that the window that had the keyboard closes.
+    void closePreviousWindow() { m_isPreviousWindowClosed = true; }
     /// Plays a second start of the program.
     void reopen() { Q_EMIT reopened(); }
     /// The window that was activated last.
@@ -37,6 +40,7 @@ private:
     bool m_isActive = false;
     bool m_isHidden = false;
     bool m_isAway = true;
+    bool m_isPreviousWindowClosed = false;
     QPointer<QWindow> m_activatedWindow;
 };
 

@@ -62,11 +62,11 @@ void MemoryEventTap::setFlags(ModifierChange change)
         Q_EMIT flagsChanged(change);
 }
 
-QCoro::Task<bool> MemoryEventPoster::post(Command command, std::function<bool()> isWanted)
+QCoro::Task<bool> MemoryEventPoster::post(Command command, Target target, std::function<bool()> isWanted)
 {
     if (m_clock)
         co_await m_clock->sleep(m_delay);
-    if (!m_isAllowed || !isWanted())
+    if (!m_isAllowed || target != m_target || !isWanted())
         co_return false;
     m_posted.append(command);
     if (m_response)

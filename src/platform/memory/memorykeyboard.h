@@ -67,7 +67,8 @@ private:
 class MemoryEventPoster final : public EventPoster
 {
 public:
-    QCoro::Task<bool> post(Command command, std::function<bool()> isWanted) override;
+    [[nodiscard]] Target target() const override { return m_target; }
+    QCoro::Task<bool> post(Command command, Target target, std::function<bool()> isWanted) override;
 
     [[nodiscard]] const QList<Command> &posted() const { return m_posted; }
     /// What the frontmost application does with a command that it gets.
@@ -78,11 +79,14 @@ public:
         m_clock = &clock;
         m_delay = delay;
     }
+    /// Gives the keyboard to another window.
+    void setTarget(Target target) { m_target = target; }
     /// Whether commands are posted at all; if not, `post` gives false.
     void setAllowed(bool isAllowed) { m_isAllowed = isAllowed; }
 
 private:
     bool m_isAllowed = true;
+    Target m_target{1};
     Clock *m_clock = nullptr;
     std::chrono::milliseconds m_delay{0};
     QList<Command> m_posted;

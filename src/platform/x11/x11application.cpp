@@ -67,23 +67,25 @@ void X11Application::hide()
         if (!(window->flags() & Qt::WindowDoesNotAcceptFocus))
             window->hide();
     }
-    // Window managers differ in whom they give the keyboard to when a window goes, so it is said. A
-    // number may have been given to a new window since, which is no harm: it is looked up as it is now.
-    m_returnedTo.reset();
-    if (hadKeyboard && m_previousWindow && m_workspace.processOf(*m_previousWindow)) {
-        ownwindows::requestActivation(*m_previousWindow, m_connection.userTime());
-        m_returnedTo = m_previousWindow;
-    }
+    // Window managers differ in whom they give the keyboard to when a window goes, so it is said.
+    m_returnedTo = hadKeyboard ? m_previousWindow : std::nullopt;
+    if (m_returnedTo && isOpen(*m_returnedTo))
+        ownwindows::requestActivation(m_returnedTo->id, m_connection.userTime());
     m_previousWindow.reset();
     Q_EMIT didHide();
 }
 
 bool X11Application::isAway() const
 {
-    const std::optional<xcb_window_t> window = foreignActiveWindow();
-    if (m_returnedTo && m_workspace.processOf(*m_returnedTo))
-        return window == m_returnedTo;
+    const std::optional<ForeignWindow> window = foreignActiveWindow();
+    if (m_returnedTo && isOpen(*m_returnedTo))
+        return window && window->id == m_returnedTo->id;
     return window.has_value();
+}
+
+bool X11Application::isPreviousWindowClosed() const
+{
+    return m_returnedTo && !isOpen(*m_returnedTo);
 }
 
 bool X11Application::holdKeys()
@@ -95,7 +97,7 @@ bool X11Application::holdKeys()
 
 void X11Application::activate(QWindow &window)
 {
-    if (const std::optional<xcb_window_t> other = foreignActiveWindow()) {
+    if (const std::optional<ForeignWindow> other = foreignActiveWindow()) {
         m_previousWindow = other;
         m_previousOwnWindow = nullptr;
     } else if (QWindow *own = QGuiApplication::focusWindow(); own != &window) {
@@ -118,8 +120,8 @@ void X11Application::giveKeyboardBack(QWindow &window)
     if (m_previousOwnWindow && m_previousOwnWindow->isVisible()) {
         m_previousOwnWindow->requestActivate();
         ownwindows::requestActivation(ownwindows::idOf(*m_previousOwnWindow), m_connection.userTime());
-    } else if (m_previousWindow && m_workspace.processOf(*m_previousWindow)) {
-        ownwindows::requestActivation(*m_previousWindow, m_connection.userTime());
+    } else if (m_previousWindow && isOpen(*m_previousWindow)) {
+        ownwindows::requestActivation(m_previousWindow->id, m_connection.userTime());
     }
 }
 
@@ -155,16 +157,27 @@ bool X11Application::isOwnWindowActive() const
 
 bool X11Application::hasUserTurnedElsewhere() const
 {
-    const std::optional<xcb_window_t> window = foreignActiveWindow();
-    return window && window != m_previousWindow;
+    const std::optional<ForeignWindow> window = foreignActiveWindow();
+    return window && !(m_previousWindow && window->id == m_previousWindow->id);
 }
 
-std::optional<xcb_window_t> X11Application::foreignActiveWindow() const
+std::optional<X11Application::ForeignWindow> X11Application::foreignActiveWindow() const
 {
     const std::optional<xcb_window_t> window = m_workspace.activeWindow();
-    if (!window || m_workspace.processOf(*window) == QCoreApplication::applicationPid())
+    const std::optional<qint64> process = window ? m_workspace.processOf(*window) : std::nullopt;
+    if (!process || *process == QCoreApplication::applicationPid())
         return std::nullopt;
-    return window;
+    return ForeignWindow{.id = *window, .process = *process};
+}
+
+bool X11Application::isOpen(const ForeignWindow &window) const
+{
+    // Programs may keep a window that they have closed; the window manager says then that it is withdrawn,
+    // or nothing any more.
+    constexpr quint32 kWithdrawn = 0;
+    const quint32 state =
+        m_connection.property32(window.id, m_connection.atom("WM_STATE")).value_or(kWithdrawn);
+    return state != kWithdrawn && m_workspace.processOf(window.id) == window.process;
 }
 
 } // namespace vesk

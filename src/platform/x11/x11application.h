@@ -31,19 +31,30 @@ public:
     [[nodiscard]] bool isHidden() const override { return m_isHidden; }
     void hide() override;
     [[nodiscard]] bool isAway() const override;
+    [[nodiscard]] bool isPreviousWindowClosed() const override;
     void unhide() override { m_isHidden = false; }
     bool holdKeys() override;
     void activate(QWindow &window) override;
     void giveKeyboardBack(QWindow &window) override;
 
 private:
+    /// Another application's window.
+    struct ForeignWindow
+    {
+        xcb_window_t id = XCB_WINDOW_NONE;
+        /// The server gives the numbers of closed windows to new ones of other programs.
+        qint64 process = 0;
+    };
+
     void onActiveWindowChanged();
     void setActive(bool isActive);
     [[nodiscard]] bool isOwnWindowActive() const;
     /// Whether a window is active that is neither ours nor the one that had the keyboard before.
     [[nodiscard]] bool hasUserTurnedElsewhere() const;
     /// The active window, if it is another application's.
-    [[nodiscard]] std::optional<xcb_window_t> foreignActiveWindow() const;
+    [[nodiscard]] std::optional<ForeignWindow> foreignActiveWindow() const;
+    /// Whether a window is still there for the user: shown, minimised or on another desktop.
+    [[nodiscard]] bool isOpen(const ForeignWindow &window) const;
 
     X11Connection &m_connection;
     X11Workspace &m_workspace;
@@ -53,11 +64,11 @@ private:
     /// Runs from `activate` until the window manager has followed, or will not.
     QTimer m_activation;
     /// Another application's window that had the keyboard before, and ours that took it after, if any.
-    std::optional<xcb_window_t> m_previousWindow;
+    std::optional<ForeignWindow> m_previousWindow;
     QPointer<QWindow> m_previousOwnWindow;
     QPointer<QWindow> m_activatedWindow;
-    /// The window that was given the keyboard back last.
-    std::optional<xcb_window_t> m_returnedTo;
+    /// The window that was to be given the keyboard back last, even if it was closed by then.
+    std::optional<ForeignWindow> m_returnedTo;
     bool m_isActive = false;
     bool m_isHidden = false;
 };

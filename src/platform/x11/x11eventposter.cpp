@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/x11eventposter.h"
 
+#include "platform/accessibility.h"
 #include "platform/clock.h"
 #include "platform/x11/keystates.h"
 #include "platform/x11/keytaker.h"
 #include "platform/x11/rawinput.h"
+#include "platform/x11/servergrab.h"
 #include "platform/x11/windowping.h"
 #include "platform/x11/x11connection.h"
 #include "platform/x11/x11workspace.h"
@@ -12,145 +14,160 @@
 #include <QCoreApplication>
 #include <QPointer>
 
-#include <xcb/xtest.h>
-
-#include <ranges>
-
 namespace vesk {
 
 namespace {
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 constexpr auto kLook = 10ms;
 /// Nested and remote servers send a held key's repetitions as releases and presses, so a key counts as
 /// up only after it was up for so long.
 constexpr auto kUpFor = 50ms;
-constexpr auto kPatience = 700ms;
+constexpr auto kCopyPatience = 700ms;
+/// Nothing but the user waits for pasting.
+constexpr auto kPastePatience = 2s;
 /// An application that takes longer to say that it is there hangs.
 constexpr auto kAnswer = 200ms;
 
 } // namespace
 
-X11EventPoster::X11EventPoster(X11Connection &connection, RawInput &input, X11Workspace &workspace,
-                               Clock &clock)
-    : m_connection(connection)
-    , m_input(input)
-    , m_workspace(workspace)
-    , m_clock(clock)
+X11EventPoster::X11EventPoster(const Needs &needs)
+    : m_needs(needs)
+    , m_keys(needs.connection, needs.input)
 {
 }
 
-QCoro::Task<bool> X11EventPoster::post(Command command, std::function<bool()> isWanted)
+EventPoster::Target X11EventPoster::target() const
+{
+    return static_cast<Target>(m_needs.workspace.reportedWindow().value_or(XCB_WINDOW_NONE));
+}
+
+QCoro::Task<bool> X11EventPoster::post(Command command, Target target, std::function<bool()> isWanted)
 {
     const QPointer<X11EventPoster> self(this);
-    const std::optional<xcb_window_t> window = m_workspace.activeWindow();
-    if (!window)
+    const Needs needs = m_needs;
+    const auto window = static_cast<xcb_window_t>(target);
+    const std::optional<qint64> process = needs.workspace.processOf(window);
+    if (!process || *process == QCoreApplication::applicationPid())
+        co_return false;
+    const WindowIdentity identity = needs.workspace.identityOf(window, *process);
+    const auto keysyms = [&](const std::optional<QString> &role) {
+        const DesktopEntry *entry = needs.workspace.entries().match(identity);
+        return keysFor(command, keyTakerOf(identity, entry, role));
+    };
+    // Programs that no answer could make ordinary need not be asked.
+    if (keysyms(u"text"_s).isEmpty() && keysyms(u"terminal"_s).isEmpty())
         co_return false;
     std::optional<WindowPing> ping;
     // An application that hangs would copy at any later time, over what the user has copied by then. To
     // paste late is what the user wants.
     if (command == Command::Copy)
-        ping.emplace(m_connection, *window);
-    const bool areUp = co_await waitForLetters();
-    if (self.isNull() || !areUp)
-        co_return false;
-    const auto up = m_clock.monotonic();
-    while (!self.isNull() && ping && !ping->isAnswered() && m_clock.monotonic() - up < kAnswer) {
-        ping->ask();
-        co_await m_clock.sleep(kLook);
+        ping.emplace(needs.connection, window);
+    const Instant end =
+        needs.clock.monotonic() + (command == Command::Copy ? Instant(kCopyPatience) : kPastePatience);
+    while (co_await waitForLetters(end)) {
+        if (ping) {
+            const bool isAnswered = co_await waitForAnswer(*ping);
+            if (!isAnswered)
+                co_return false;
+        }
+        if (self.isNull())
+            co_return false;
+        // Asked last: the user may go from one part of the window to another at any time, but not without
+        // a key or a button.
+        const xcb_timestamp_t lastPress = needs.input.lastPress();
+        const std::optional<QString> role = co_await focusedRole(*process);
+        if (self.isNull() || !isWanted())
+            co_return false;
+        const Attempt attempt = tryToPost(keysyms(role), window, lastPress);
+        if (attempt != Attempt::Early)
+            co_return attempt == Attempt::Posted;
     }
-    const bool hangs = ping && !ping->isAnswered();
-    // Keys that were meant for one window must not reach another.
-    if (self.isNull() || hangs || m_workspace.activeWindow() != window || !isWanted())
-        co_return false;
-    co_return postToActiveWindow(command);
+    co_return false;
 }
 
-QCoro::Task<bool> X11EventPoster::waitForLetters()
+QCoro::Task<bool> X11EventPoster::waitForLetters(Instant end)
 {
     const QPointer<X11EventPoster> self(this);
+    Clock &clock = m_needs.clock;
     // Modifiers that are let go of while a letter is still down would leave the letter alone, to be
     // typed over the selection.
-    const auto start = m_clock.monotonic();
-    auto upSince = start;
-    while (m_clock.monotonic() - start < kPatience) {
+    auto upSince = clock.monotonic();
+    while (clock.monotonic() < end) {
         if (hasLetterDown())
-            upSince = m_clock.monotonic();
-        else if (m_clock.monotonic() - upSince >= kUpFor)
+            upSince = clock.monotonic();
+        else if (clock.monotonic() - upSince >= kUpFor)
             co_return true;
-        co_await m_clock.sleep(kLook);
+        co_await clock.sleep(kLook);
         if (self.isNull())
             co_return false;
     }
     co_return false;
 }
 
+QCoro::Task<bool> X11EventPoster::waitForAnswer(WindowPing &ping)
+{
+    const QPointer<X11EventPoster> self(this);
+    Clock &clock = m_needs.clock;
+    const Instant start = clock.monotonic();
+    while (!ping.isAnswered() && clock.monotonic() - start < kAnswer) {
+        ping.ask();
+        co_await clock.sleep(kLook);
+        if (self.isNull())
+            co_return false;
+    }
+    co_return ping.isAnswered();
+}
+
+QCoro::Task<std::optional<QString>> X11EventPoster::focusedRole(qint64 processIdentifier)
+{
+    Accessibility &accessibility = m_needs.accessibility;
+    const std::optional<AccessibleElement> focused =
+        co_await accessibility.copyElement(Accessibility::applicationElement(processIdentifier),
+                                           Accessibility::ElementAttribute::FocusedElement);
+    if (!focused || focused->address.isEmpty())
+        co_return std::nullopt;
+    co_return co_await accessibility.copyString(*focused, Accessibility::StringAttribute::Role);
+}
+
 bool X11EventPoster::hasLetterDown() const
 {
-    const KeyStates states = keysDown(m_connection);
+    const KeyStates states = keysDown(m_needs.connection);
     for (size_t key = 0; key < states.size(); ++key) {
-        if (states.test(key) && !m_input.isModifier(static_cast<xcb_keycode_t>(key)))
+        if (states.test(key) && !m_needs.input.isModifier(static_cast<xcb_keycode_t>(key)))
             return true;
     }
     return false;
 }
 
-bool X11EventPoster::postToActiveWindow(Command command)
+bool X11EventPoster::hasInputFocus(xcb_window_t window) const
 {
-    const std::optional<xcb_window_t> window = m_workspace.activeWindow();
-    if (!window)
-        return false;
-    const std::optional<qint64> process = m_workspace.processOf(*window);
-    if (!process || *process == QCoreApplication::applicationPid())
-        return false;
-    const WindowIdentity identity = m_workspace.identityOf(*window, *process);
-    QList<xcb_keycode_t> keys;
-    const QList<uint32_t> keysyms =
-        keysFor(command, keyTakerOf(identity, m_workspace.entries().match(identity)));
-    for (const uint32_t keysym : keysyms)
-        keys.append(keyCodeOf(keysym));
-    if (keys.isEmpty() || keys.contains(xcb_keycode_t{0}))
-        return false;
-    // Any further modifier would make another command of it. That the user still holds them does no
-    // harm: their own release finds them up already.
-    const KeyStates states = keysDown(m_connection);
-    for (size_t key = 0; key < states.size(); ++key) {
-        if (states.test(key) && m_input.isModifier(static_cast<xcb_keycode_t>(key)))
-            sendKey(static_cast<xcb_keycode_t>(key), XCB_KEY_RELEASE);
+    xcb_connection_t *xcb = m_needs.connection.xcb();
+    const XReply<xcb_get_input_focus_reply_t> focus(
+        xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr));
+    xcb_window_t each = focus ? focus->focus : xcb_window_t{XCB_WINDOW_NONE};
+    while (each != window && each > XCB_INPUT_FOCUS_POINTER_ROOT) {
+        const XReply<xcb_query_tree_reply_t> tree(
+            xcb_query_tree_reply(xcb, xcb_query_tree(xcb, each), nullptr));
+        each = tree ? tree->parent : xcb_window_t{XCB_WINDOW_NONE};
     }
-    for (const xcb_keycode_t key : std::as_const(keys))
-        sendKey(key, XCB_KEY_PRESS);
-    for (const xcb_keycode_t key : keys | std::views::reverse)
-        sendKey(key, XCB_KEY_RELEASE);
-    m_connection.flush();
-    return true;
+    return each == window;
 }
 
-void X11EventPoster::sendKey(xcb_keycode_t key, uint8_t type)
+X11EventPoster::Attempt X11EventPoster::tryToPost(const QList<uint32_t> &keysyms, xcb_window_t window,
+                                                  xcb_timestamp_t lastPress)
 {
-    xcb_test_fake_input(m_connection.xcb(), type, key, XCB_CURRENT_TIME, XCB_WINDOW_NONE, 0, 0, 0);
-}
-
-xcb_keycode_t X11EventPoster::keyCodeOf(uint32_t keysym) const
-{
-    const xcb_setup_t *setup = xcb_get_setup(m_connection.xcb());
-    const auto count = static_cast<uint8_t>(setup->max_keycode - setup->min_keycode + 1);
-    const auto cookie = xcb_get_keyboard_mapping(m_connection.xcb(), setup->min_keycode, count);
-    const XReply<xcb_get_keyboard_mapping_reply_t> reply(
-        xcb_get_keyboard_mapping_reply(m_connection.xcb(), cookie, nullptr));
-    if (!reply)
-        return 0;
-    const int perKey = reply->keysyms_per_keycode;
-    const xcb_keysym_t *keysyms = xcb_get_keyboard_mapping_keysyms(reply.get());
-    // The first column first: a layout may have the letter a second time behind a level.
-    for (int column = 0; column < perKey; ++column) {
-        for (int key = 0; key < count; ++key) {
-            if (keysyms[key * perKey + column] == keysym)
-                return static_cast<xcb_keycode_t>(setup->min_keycode + key);
-        }
-    }
-    return 0;
+    // Keys that were meant for one window must not reach another, so nobody may change anything between
+    // the look and the keys.
+    const ServerGrab grab(m_needs.connection);
+    if (keysyms.isEmpty() || m_needs.workspace.activeWindow() != window || !hasInputFocus(window))
+        return Attempt::Refused;
+    if (hasLetterDown() || m_needs.input.lastPress() != lastPress || m_needs.input.isKeyboardTaken()
+        || !m_keys.canPlay())
+        return Attempt::Early;
+    return m_keys.play(keysyms) ? Attempt::Posted : Attempt::Refused;
 }
 
 } // namespace vesk

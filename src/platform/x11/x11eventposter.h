@@ -2,16 +2,23 @@
 #pragma once
 
 #include "platform/eventposter.h"
+#include "platform/x11/synthetickeys.h"
 
 #include <QList>
 #include <QObject>
+#include <QString>
 
 #include <xcb/xcb.h>
 
+#include <chrono>
+#include <optional>
+
 namespace vesk {
 
+class Accessibility;
 class Clock;
 class RawInput;
+class WindowPing;
 class X11Connection;
 class X11Workspace;
 
@@ -21,24 +28,45 @@ class X11EventPoster final : public QObject, public EventPoster
     Q_OBJECT
 
 public:
-    X11EventPoster(X11Connection &connection, RawInput &input, X11Workspace &workspace, Clock &clock);
+    /// All must outlive it.
+    struct Needs
+    {
+        X11Connection &connection;
+        RawInput &input;
+        X11Workspace &workspace;
+        Accessibility &accessibility;
+        Clock &clock;
+    };
 
-    QCoro::Task<bool> post(Command command, std::function<bool()> isWanted) override;
+    explicit X11EventPoster(const Needs &needs);
+
+    [[nodiscard]] Target target() const override;
+    QCoro::Task<bool> post(Command command, Target target, std::function<bool()> isWanted) override;
 
 private:
-    /// Waits until no key but modifiers has been down for a while; false if one stays down.
-    QCoro::Task<bool> waitForLetters();
-    [[nodiscard]] bool hasLetterDown() const;
-    /// Posts the keys of a command for the window that is active now; false if it must not get them.
-    [[nodiscard]] bool postToActiveWindow(Command command);
-    void sendKey(xcb_keycode_t key, uint8_t type);
-    /// 0 if the keyboard has no such key.
-    [[nodiscard]] xcb_keycode_t keyCodeOf(uint32_t keysym) const;
+    /// By the monotonic clock.
+    using Instant = std::chrono::microseconds;
+    enum class Attempt {
+        Posted,
+        /// Something that passes is in the way.
+        Early,
+        Refused,
+    };
 
-    X11Connection &m_connection;
-    RawInput &m_input;
-    X11Workspace &m_workspace;
-    Clock &m_clock;
+    /// Waits until no key but modifiers has been down for a while; false if one stays down.
+    QCoro::Task<bool> waitForLetters(Instant end);
+    /// Whether the window's application takes events.
+    QCoro::Task<bool> waitForAnswer(WindowPing &ping);
+    /// Role of what has the keyboard in an application; nullopt if that could not be asked.
+    QCoro::Task<std::optional<QString>> focusedRole(qint64 processIdentifier);
+    [[nodiscard]] bool hasLetterDown() const;
+    /// Whether the server gives the keys to the window or to one inside it.
+    [[nodiscard]] bool hasInputFocus(xcb_window_t window) const;
+    [[nodiscard]] Attempt tryToPost(const QList<uint32_t> &keysyms, xcb_window_t window,
+                                    xcb_timestamp_t lastPress);
+
+    Needs m_needs;
+    SyntheticKeys m_keys;
 };
 
 } // namespace vesk

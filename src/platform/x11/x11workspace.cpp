@@ -10,7 +10,8 @@ namespace vesk {
 
 X11Workspace::X11Workspace(X11Connection &connection)
     : m_connection(connection)
-    , m_lastWindow(activeWindow())
+    , m_reportedWindow(activeWindow())
+    , m_lastWindow(m_reportedWindow)
 {
     if (m_lastWindow)
         m_lastProcess = processOf(*m_lastWindow).value_or(0);
@@ -84,6 +85,7 @@ void X11Workspace::onEvent(const xcb_generic_event_t *event)
         return;
     // A switch passes through "no window" for about a millisecond; that is no activation.
     const std::optional<xcb_window_t> window = activeWindow();
+    m_reportedWindow = window;
     if (window && window != m_lastWindow) {
         m_lastWindow = window;
         m_activationTime = notify->time;

@@ -27,6 +27,9 @@ public:
     /// The window that has the keyboard; none for the desktop itself, or if the window has gone (window
     /// managers may leave its number behind).
     [[nodiscard]] std::optional<xcb_window_t> activeWindow() const;
+    /// The same as of the events that were handled so far. While a key press is handled, that is the window
+    /// of the press, even if another window has become active since.
+    [[nodiscard]] std::optional<xcb_window_t> reportedWindow() const { return m_reportedWindow; }
     [[nodiscard]] std::optional<qint64> processOf(xcb_window_t window) const;
     /// What the window tells of its application.
     [[nodiscard]] WindowIdentity identityOf(xcb_window_t window, qint64 processIdentifier) const;
@@ -48,6 +51,7 @@ private:
 
     X11Connection &m_connection;
     DesktopEntries m_entries;
+    std::optional<xcb_window_t> m_reportedWindow;
     std::optional<xcb_window_t> m_lastWindow;
     qint64 m_lastProcess = 0;
     xcb_timestamp_t m_activationTime = 0;
