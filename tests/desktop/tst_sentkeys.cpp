@@ -40,6 +40,7 @@ private Q_SLOTS:
     void programsThatMayHaveATerminalGetNoCopy();
     void nothingIsPastedWhenTheWindowHasClosed();
     void textThatATerminalCannotTakeIsCopied();
+    void heldReturnReachesNoOtherWindow();
     void desktopsOwnKeyLeavesTheSelectionFresh();
     void heldKeyLeavesTheSelectionFresh();
 
@@ -268,6 +269,29 @@ void TestSentKeys::textThatATerminalCannotTakeIsCopied()
     VERIFY_ON(*m_desktop, waitNotice(kOnlyCopied));
     QCOMPARE(clipboard(), text);
     QCOMPARE(program->keys(), QStringList());
+}
+
+/// The server repeats it for the window that has the keyboard then.
+void TestSentKeys::heldReturnReachesNoOtherWindow()
+{
+    Keyboard &keyboard = m_desktop->keyboard();
+    capture();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kQuickNote, kBound));
+    QTest::qWait(int(kFinger.count()));
+    m_recorder->forget();
+    keyboard.type(u"lemon"_s);
+    keyboard.press(XK_Return);
+    VERIFY_ON(*m_desktop, waitNotes({u"lemon"_s}));
+    QTest::qWait(1500); // The server begins to repeat 660 ms after the press.
+    keyboard.release(XK_Return);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(m_recorder->window(), kBound));
+    QTest::qWait(100);
+    keyboard.tap({XK_y}, kFinger);
+    QVERIFY(m_recorder->waitFor(u"y"_s));
+    keyboard.tap({XK_Return}, kFinger);
+    QVERIFY(m_recorder->waitFor(u"0xff0d"_s));
+    QCOMPARE(m_recorder->keys().join(u' '), u"y 0xff0d"_s);
+    QCOMPARE(m_desktop->notes().texts(), QStringList{u"lemon"_s});
 }
 
 /// The letter of a key that the desktop binds to `vesk capture` is not typed anywhere.

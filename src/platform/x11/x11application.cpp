@@ -17,6 +17,7 @@ X11Application::X11Application(X11Connection &connection, X11Workspace &workspac
     : m_connection(connection)
     , m_workspace(workspace)
     , m_hold(connection)
+    , m_heldKeys(connection)
 {
     // Long enough for the window manager to do all that it was asked to, too short to be seen when the
     // user turns elsewhere.
@@ -60,6 +61,7 @@ void X11Application::hide()
     m_isHidden = true;
     const bool hadKeyboard = isActive() && !hasUserTurnedElsewhere();
     m_isActive = false;
+    m_heldKeys.begin();
     m_hold.end();
     m_activation.stop();
     const QWindowList windows = QGuiApplication::topLevelWindows();
@@ -115,6 +117,7 @@ void X11Application::giveKeyboardBack(QWindow &window)
         m_activation.isActive() && m_activatedWindow == &window && !hasUserTurnedElsewhere();
     if (!isToHaveIt && m_workspace.activeWindow() != ownwindows::idOf(window))
         return;
+    m_heldKeys.begin();
     m_hold.end();
     m_activation.stop();
     if (m_previousOwnWindow && m_previousOwnWindow->isVisible()) {

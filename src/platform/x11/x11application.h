@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/application.h"
+#include "platform/x11/heldkeyguard.h"
 #include "platform/x11/keyboardhold.h"
 
 #include <QPointer>
@@ -59,6 +60,7 @@ private:
     X11Connection &m_connection;
     X11Workspace &m_workspace;
     KeyboardHold m_hold;
+    HeldKeyGuard m_heldKeys;
     /// Runs while another window, or none, is active; only once that lasts has the user turned elsewhere.
     QTimer m_elsewhere;
     /// Runs from `activate` until the window manager has followed, or will not.

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/x11/keystates.h"
+
+#include <QObject>
+#include <QTimer>
+
+namespace vesk {
+
+class X11Connection;
+
+/// Keeps a key that was pressed in one of Vesk's windows from the window that gets the keyboard next: while
+/// it is held, the server repeats it for whoever has the keyboard. Its grabs belong to a connection of their
+/// own and end with it, whatever hot keys Vesk has on the same keys.
+class HeldKeyGuard final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit HeldKeyGuard(const X11Connection &connection);
+    ~HeldKeyGuard() override;
+
+    /// Guards the keys that are down now and would be repeated, each until it is up. Must be called before
+    /// the keyboard goes to another window.
+    void begin();
+
+private:
+    void grab(xcb_keycode_t key, unsigned modifiers);
+    void lookForReleases();
+    void end();
+
+    const X11Connection &m_connection;
+    /// Null while no key is guarded.
+    xcb_connection_t *m_grabs = nullptr;
+    KeyStates m_guarded;
+    QTimer m_watch;
+};
+
+} // namespace vesk
