@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace vesk {
 
 /// The user's remembered choices.
@@ -16,6 +18,12 @@ public:
 
     /// Remembered across restarts; a choice that cannot be written holds until the program ends.
     virtual void setBool(bool value, const QString &key) = 0;
+
+    /// Nothing if the key was never set, or to something that is not a whole number.
+    [[nodiscard]] virtual std::optional<int> intForKey(const QString &key) const = 0;
+
+    /// Remembered like a `setBool`.
+    virtual void setInt(int value, const QString &key) = 0;
 };
 
 } // namespace vesk

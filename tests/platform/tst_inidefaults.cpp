@@ -20,6 +20,7 @@ class TestIniDefaults : public QObject
 private Q_SLOTS:
     void choiceOfAnotherProcessArrives();
     void fileThatCannotBeWrittenIsSaid();
+    void numbersAreKept();
     void isForItsUserOnly_data();
     void isForItsUserOnly();
 };
@@ -49,6 +50,28 @@ void TestIniDefaults::fileThatCannotBeWrittenIsSaid()
     defaults.setBool(true, u"hasSeenGuide"_s);
     QVERIFY(defaults.boolForKey(u"hasSeenGuide"_s));
     QVERIFY(!defaults.isWritable());
+}
+
+void TestIniDefaults::numbersAreKept()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"Vesk.conf"_s);
+    const auto number = u"panelHeight"_s;
+    const auto choice = u"hasSeenGuide"_s;
+    IniDefaults here(path);
+    QVERIFY(!here.intForKey(number));
+    here.setInt(731, number);
+    here.setBool(true, choice);
+    IniDefaults there(path);
+    QCOMPARE(there.intForKey(number), 731);
+    QVERIFY(there.boolForKey(choice));
+    // What is no number is none, and a number of another process arrives; one's own is no news.
+    QVERIFY(!there.intForKey(choice));
+    QSignalSpy changes(&here, &IniDefaults::changedOutside);
+    there.setInt(502, number);
+    QVERIFY(changes.wait());
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(here.intForKey(number), 502);
 }
 
 void TestIniDefaults::isForItsUserOnly_data()

@@ -33,10 +33,27 @@ IniDefaults::IniDefaults(QString path)
 
 bool IniDefaults::boolForKey(const QString &key) const
 {
-    return m_values.value(key, false);
+    return QVariant(m_values.value(key)).toBool();
 }
 
 void IniDefaults::setBool(bool value, const QString &key)
+{
+    set(QVariant(value).toString(), key);
+}
+
+std::optional<int> IniDefaults::intForKey(const QString &key) const
+{
+    bool isNumber = false;
+    const int value = m_values.value(key).toInt(&isNumber);
+    return isNumber ? std::optional(value) : std::nullopt;
+}
+
+void IniDefaults::setInt(int value, const QString &key)
+{
+    set(QString::number(value), key);
+}
+
+void IniDefaults::set(const QString &value, const QString &key)
 {
     // A key that was never set is written even if it is false: that the user has decided is a fact.
     if (m_values.contains(key) && m_values.value(key) == value)
@@ -53,15 +70,15 @@ void IniDefaults::setBool(bool value, const QString &key)
     watch();
 }
 
-QHash<QString, bool> IniDefaults::readFile() const
+IniDefaults::Values IniDefaults::readFile() const
 {
-    QHash<QString, bool> values;
+    Values values;
     if (!QFileInfo::exists(m_path))
         return values;
     const QSettings settings(m_path, QSettings::IniFormat);
     const QStringList keys = settings.allKeys();
     for (const QString &key : keys)
-        values.insert(key, settings.value(key).toBool());
+        values.insert(key, settings.value(key).toString());
     return values;
 }
 
@@ -87,7 +104,7 @@ void IniDefaults::reload()
     // A file that has just gone is about to be replaced; what it said holds until then.
     if (!QFile::exists(m_path))
         return;
-    QHash<QString, bool> values = readFile();
+    Values values = readFile();
     if (values == m_values)
         return;
     m_values = std::move(values);

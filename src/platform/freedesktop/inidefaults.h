@@ -22,6 +22,8 @@ public:
 
     [[nodiscard]] bool boolForKey(const QString &key) const override;
     void setBool(bool value, const QString &key) override;
+    [[nodiscard]] std::optional<int> intForKey(const QString &key) const override;
+    void setInt(int value, const QString &key) override;
     /// Whether the last choice that was set has reached the file.
     [[nodiscard]] bool isWritable() const { return m_isWritable; }
 
@@ -30,12 +32,16 @@ Q_SIGNALS:
     void changedOutside();
 
 private:
-    [[nodiscard]] QHash<QString, bool> readFile() const;
+    /// What the keys stand for, as the file has it.
+    using Values = QHash<QString, QString>;
+
+    void set(const QString &value, const QString &key);
+    [[nodiscard]] Values readFile() const;
     void watch();
     void reload();
 
     QString m_path;
-    QHash<QString, bool> m_values;
+    Values m_values;
     bool m_isWritable = true;
     QFileSystemWatcher m_watcher;
 };
