@@ -84,10 +84,12 @@ void NoteListModel::setQuery(const QString &query)
 {
     if (m_query == query)
         return;
-    // What does not contain a text does not contain a longer one either.
-    const bool narrows = query.contains(m_query);
+    // What does not contain a text does not contain a longer one either. As they are compared: an accent
+    // that is typed after its letter makes another letter of it.
+    QByteArray folded = searchtext::folded(query);
+    const bool narrows = folded.contains(m_foldedQuery);
     m_query = query;
-    m_foldedQuery = searchtext::folded(query);
+    m_foldedQuery = std::move(folded);
     const Grouped found = narrows ? narrowed() : grouped();
     if (m_openNote)
         regroup(found, Regroup::AtOnce);

@@ -32,6 +32,8 @@ private Q_SLOTS:
     void randomChangesEqualAPlainRecomputation();
     void pinningMovesOneCard();
     void largeSearchIsNoReset();
+    void typingOnFindsWhatAFreshSearchFinds_data();
+    void typingOnFindsWhatAFreshSearchFinds();
     void collapsedSectionIsRememberedAndLeavesTheKeys();
     void openNoteStaysInItsPlace();
     void openNoteStaysWhateverIsWritten();
@@ -278,6 +280,33 @@ void CardListsTest::largeSearchIsNoReset()
     QCOMPARE(removed.size(), 1);
     addNote(u"tea"_s);
     QVERIFY(!m_list->isSweeping());
+}
+
+void CardListsTest::typingOnFindsWhatAFreshSearchFinds_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("typed");
+
+    QTest::newRow("accent after its letter")
+        << u"Caf\u00e9"_s << QStringList{u"caf"_s, u"cafe"_s, u"cafe\u0301"_s};
+    QTest::newRow("accented letter taken apart") << u"cafe\u0301"_s << QStringList{u"e"_s, u"e\u0301"_s};
+    QTest::newRow("two marks") << u"\u1ec7"_s << QStringList{u"e"_s, u"e\u0323"_s, u"e\u0323\u0302"_s};
+    QTest::newRow("syllable of two letters") << u"\uac00"_s << QStringList{u"\u1100"_s, u"\u1100\u1161"_s};
+}
+
+void CardListsTest::typingOnFindsWhatAFreshSearchFinds()
+{
+    QFETCH(QString, text);
+    QFETCH(QStringList, typed);
+    addNote(text);
+    addNote(u"other"_s);
+    for (const QString &query : typed)
+        m_list->setQuery(query);
+    const QStringList found = shown();
+    m_list->setQuery({});
+    m_list->setQuery(typed.constLast());
+    QCOMPARE(found, shown());
+    QCOMPARE(m_list->visibleCount(), 1);
 }
 
 void CardListsTest::collapsedSectionIsRememberedAndLeavesTheKeys()
