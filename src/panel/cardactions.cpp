@@ -5,6 +5,9 @@
 #include "panel/cardselection.h"
 #include "panel/opennote.h"
 
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace vesk {
@@ -19,12 +22,15 @@ RecordId idOf(const QString &text)
     return RecordId::fromString(text);
 }
 
-/// An address that can be handed to a browser; none if the text is no whole address.
+/// An address that can be handed to a browser; nothing if the text is not a whole address. Browsers keep
+/// some signs of an address as they are that belong there only encoded, such as `|` and spaces.
 std::optional<QUrl> findAddress(const std::optional<QString> &text)
 {
     if (!text)
         return std::nullopt;
-    const QUrl url(*text, QUrl::StrictMode);
+    // On its own a percent sign would make Qt encode every other one as well, once more.
+    static const QRegularExpression kLonePercent(u"%(?![0-9A-Fa-f]{2})"_s);
+    const QUrl url(text->trimmed().replace(kLonePercent, u"%25"_s), QUrl::TolerantMode);
     return url.isValid() && !url.scheme().isEmpty() ? std::optional(url) : std::nullopt;
 }
 

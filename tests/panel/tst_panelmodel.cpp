@@ -193,6 +193,11 @@ void PanelModelTest::sourceLeadsBack_data()
     QTest::newRow("page") << u"https://example.org/a?b#c"_s << u"firefox"_s << u"https://example.org/a?b#c"_s;
     QTest::newRow("no page") << QString() << u"mousepad"_s << u"mousepad"_s;
     QTest::newRow("no address") << u"not an address"_s << u"mousepad"_s << u"mousepad"_s;
+    QTest::newRow("signs that browsers keep")
+        << u" https://example.org/a|b c?d={e}&f=50%&g=%20%zz&h=^[1]#i`j "_s << u"firefox"_s
+        << u"https://example.org/a%7Cb%20c?d=%7Be%7D&f=50%25&g=%20%25zz&h=%5E[1]#i%60j"_s;
+    QTest::newRow("letters of other languages") << u"https://example.org/caf\u00e9?q=\u05e9"_s << QString()
+                                                << u"https://example.org/caf%C3%A9?q=%D7%A9"_s;
     QTest::newRow("nothing") << QString() << QString() << QString();
 }
 
@@ -209,7 +214,8 @@ void PanelModelTest::sourceLeadsBack()
     const Note &note = m_world->store->insert(std::make_unique<Note>(m_world->clock, u"x"_s, source));
     CardActions &cards = *m_world->model.cards();
     QString opened;
-    connect(&cards, &CardActions::urlRequested, this, [&](const QUrl &page) { opened += page.toString(); });
+    connect(&cards, &CardActions::urlRequested, this,
+            [&](const QUrl &page) { opened += QString::fromLatin1(page.toEncoded()); });
     connect(&cards, &CardActions::applicationRequested, this, [&](const QString &name) { opened += name; });
     cards.openSource(note.id().toString(QUuid::WithoutBraces));
     QTEST(opened, "opened");
