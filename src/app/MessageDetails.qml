@@ -42,4 +42,8 @@ Rectangle {
             Accessible.name: root.text
         }
     }
+
+    StillUnderMouse {
+        flickable: flickable
+    }
 }

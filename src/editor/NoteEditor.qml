@@ -195,6 +195,10 @@ FocusScope {
         }
     }
 
+    StillUnderMouse {
+        flickable: flickable
+    }
+
     EdgeFade {
         anchors.top: parent.top
         height: 8

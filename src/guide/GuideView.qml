@@ -29,6 +29,10 @@ FocusScope {
         border.color: Theme.strongEdge
     }
 
+    StillUnderMouse {
+        flickable: scroller
+    }
+
     Flickable {
         id: scroller
 

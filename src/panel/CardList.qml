@@ -164,6 +164,10 @@ FocusScope {
         displaced: shift
     }
 
+    StillUnderMouse {
+        flickable: list
+    }
+
     TapHandler {
         parent: list
         onTapped: root.panel.openNote.close()

@@ -142,4 +142,8 @@ Plate {
             }
         }
     }
+
+    StillUnderMouse {
+        flickable: flickable
+    }
 }

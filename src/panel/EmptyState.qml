@@ -141,6 +141,10 @@ Item {
         }
     }
 
+    StillUnderMouse {
+        flickable: scroller
+    }
+
     EdgeFade {
         anchors.top: parent.top
         height: 8

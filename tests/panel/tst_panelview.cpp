@@ -35,6 +35,7 @@ private Q_SLOTS:
     void tickingStaysOnTheClosedCard();
     void hoverButtons();
     void tabsChooseTheList();
+    void mouseDoesNotDragTheList();
     void promptIsTickedAndDeleted();
     void longPromptIsCutOff_data();
     void longPromptIsCutOff();
@@ -340,6 +341,39 @@ void PanelViewTest::tabsChooseTheList()
     QVERIFY(store().prompts().first()->isDone());
     click(*button(u"Notes"_s));
     QTRY_COMPARE(shown("NoteCard").size(), 4);
+}
+
+void PanelViewTest::mouseDoesNotDragTheList()
+{
+    for (int i = 0; i < 40; ++i)
+        addNote(u"note %1"_s.arg(i));
+    QTRY_VERIFY(shown("NoteCard").size() > 4);
+    const auto top = [this] { return shown("NoteRow").constFirst()->mapToScene({}).y(); };
+    const qreal before = top();
+    // From a card, and from the gap between two.
+    for (const qreal y : {0.5, -0.05}) {
+        const QQuickItem &card = *shown("NoteCard").at(3);
+        const QPoint from = card.mapToScene(QPointF(card.width() / 2, card.height() * y)).toPoint();
+        QTest::mousePress(&window(), Qt::LeftButton, {}, from);
+        for (int moved = 10; moved <= 200; moved += 10)
+            QTest::mouseMove(&window(), from - QPoint(0, moved));
+        QTest::mouseRelease(&window(), Qt::LeftButton, {}, from - QPoint(0, 200));
+        QCOMPARE(top(), before);
+    }
+    // A finger and the wheel still move it.
+    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+    const QPoint from = middle(*shown("NoteCard").at(3));
+    QTest::touchEvent(&window(), screen.get()).press(0, from, &window());
+    for (int moved = 10; moved <= 200; moved += 10)
+        QTest::touchEvent(&window(), screen.get()).move(0, from - QPoint(0, moved), &window());
+    QTest::touchEvent(&window(), screen.get()).release(0, from - QPoint(0, 200), &window());
+    QTRY_VERIFY(top() < before - 50);
+    const qreal moved = top();
+    QTRY_COMPARE(shown("NoteRow").constFirst()->mapToScene({}).y(), top());
+    QWheelEvent wheel(from, window().mapToGlobal(from), {}, QPoint(0, -240), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&window(), &wheel);
+    QTRY_VERIFY(top() != moved);
 }
 
 void PanelViewTest::promptIsTickedAndDeleted()
