@@ -17,6 +17,12 @@ Item {
 
     signal clicked
 
+    // Once a press: a key that is held must not press again and again, perhaps something else by then.
+    function pressByKey(event: KeyEvent) {
+        if (!event.isAutoRepeat)
+            root.clicked();
+    }
+
     activeFocusOnTab: true
     opacity: root.enabled ? 1 : 0.4
     scale: root.pressed ? root.pressedScale : 1
@@ -25,9 +31,9 @@ Item {
     Accessible.description: root.help === root.name ? "" : root.help
     Accessible.focusable: true
     Accessible.onPressAction: root.clicked()
-    Keys.onSpacePressed: root.clicked()
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
+    Keys.onSpacePressed: event => root.pressByKey(event)
+    Keys.onReturnPressed: event => root.pressByKey(event)
+    Keys.onEnterPressed: event => root.pressByKey(event)
 
     Behavior on scale {
         Spring {

@@ -74,6 +74,9 @@ bool MenuControl::eventFilter(QObject *watched, QEvent *event)
 
 void MenuControl::handleKey(const QKeyEvent &event)
 {
+    // Only the arrows go on while they are held: the key that opened the menu must not choose, too.
+    if (event.isAutoRepeat() && event.key() != Qt::Key_Down && event.key() != Qt::Key_Up)
+        return;
     const int last = static_cast<int>(m_entries.size()) - 1;
     switch (event.key()) {
     case Qt::Key_Down:

@@ -33,20 +33,59 @@ FocusScope {
         scroll.stop();
         if (list.height <= 0)
             return;
-        if (item === null) {
+        if (item === null)
             list.positionViewAtIndex(row, ListView.Contain);
-            return;
-        }
-        const top = item.y - (row === 1 ? list.itemAtIndex(0)?.height ?? 0 : 0);
-        const bottom = item.y + item.height + list.bottomMargin - list.height;
-        scroll.to = Math.min(top, Math.max(bottom, list.contentY));
+        else
+            scrollTo(item.y - (row === 1 ? list.itemAtIndex(0)?.height ?? 0 : 0), item.y + item.height);
+    }
+
+    // Scrolls the shortest way to where all between these two heights of the content is in sight.
+    function scrollTo(top: real, bottom: real) {
+        scroll.stop();
+        scroll.to = Math.min(top, Math.max(bottom + list.bottomMargin - list.height, list.contentY));
         if (scroll.to !== list.contentY)
             scroll.start();
+    }
+
+    // Whether the user sees enough of a row, or of something in it, to know what a key will do.
+    function isInSight(item: Item): bool {
+        const top = item.mapToItem(list, 0, 0).y;
+        const seen = Math.min(top + item.height, list.height) - Math.max(top, 0);
+        return seen >= Math.min(item.height, list.height) / 2;
+    }
+
+    // Whether the selected card is in sight, as far as the user is concerned: what the keys have just
+    // brought the selection to is on its way. If not, scrolls back to it.
+    function bringCardIntoSight(): bool {
+        const row = root.rows.rowOf(root.panel.selection.cardId);
+        if (row < 0 || settling.running || scroll.running)
+            return true;
+        list.forceLayout();
+        const item = list.itemAtIndex(row);
+        if (item !== null && isInSight(item))
+            return true;
+        reveal(row);
+        return false;
+    }
+
+    function bringControlIntoSight(): bool {
+        const item = root.Window.activeFocusItem;
+        if (!list.activeFocus || item === null || isInSight(item))
+            return true;
+        const top = item.mapToItem(list.contentItem, 0, 0).y;
+        scrollTo(top, top + item.height);
+        return false;
     }
 
     Connections {
         function onChanged() {
             settling.restart();
+        }
+
+        function onSightAsked(target: int) {
+            const isSeen = target === CardSelection.Control ? root.bringControlIntoSight() : root.bringCardIntoSight();
+            if (!isSeen)
+                root.panel.selection.reportOutOfSight();
         }
 
         target: root.panel.selection

@@ -12,6 +12,11 @@ CardSelection::CardSelection(const SectionedListModel &list)
 {
 }
 
+std::optional<RecordId> CardSelection::selected() const
+{
+    return index() ? m_selected : std::nullopt;
+}
+
 QString CardSelection::cardId() const
 {
     return m_selected ? m_selected->toString(QUuid::WithoutBraces) : QString();
@@ -50,6 +55,13 @@ void CardSelection::leave(const RecordId &id)
         select(std::nullopt);
     else
         select(m_list->visibleAt(*current < last ? *current + 1 : last - 1));
+}
+
+bool CardSelection::isInSight(Target target)
+{
+    m_isInSight = true;
+    Q_EMIT sightAsked(target);
+    return m_isInSight;
 }
 
 bool CardSelection::selectSomething()

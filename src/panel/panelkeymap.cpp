@@ -140,6 +140,26 @@ bool holds(When when, const PanelKeyState &state)
 
 } // namespace
 
+bool repeats(PanelAction action)
+{
+    switch (action) {
+    case PanelAction::Pass:
+    case PanelAction::MoveSelection:
+    case PanelAction::BreakLine:
+    case PanelAction::NextTab:
+    case PanelAction::PreviousTab:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool actsOnSelection(PanelAction action)
+{
+    return action == PanelAction::DeleteSelected || action == PanelAction::OpenSelected
+           || action == PanelAction::PasteSelected || action == PanelAction::OpenFound;
+}
+
 PanelAction panelAction(int key, Qt::KeyboardModifiers modifiers, const PanelKeyState &state)
 {
     const std::optional<Key> known = keyOf(key);

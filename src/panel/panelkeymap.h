@@ -34,6 +34,12 @@ struct PanelKeyState
     bool isSearching = false;
 };
 
+/// Whether an action is done again and again while its key is held. The others are done once a press:
+/// a key that is held a moment too long must not delete one note after another.
+[[nodiscard]] bool repeats(PanelAction action);
+/// Whether an action is done to the selected card.
+[[nodiscard]] bool actsOnSelection(PanelAction action);
+
 /// The key map of the panel: what a key does there. `key` is a `Qt::Key`.
 [[nodiscard]] PanelAction panelAction(int key, Qt::KeyboardModifiers modifiers, const PanelKeyState &state);
 

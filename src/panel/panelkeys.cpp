@@ -30,11 +30,21 @@ PanelKeys::PanelKeys(PanelModel &panel, Application &application)
 
 bool PanelKeys::handle(const QKeyEvent &event)
 {
+    if (event.isAutoRepeat() && event.key() == m_spentKey)
+        return true;
+    m_spentKey = 0;
+    return handlePress(event);
+}
+
+bool PanelKeys::handlePress(const QKeyEvent &event)
+{
     PanelKeyboard &keyboard = *m_panel.keyboard();
-    if (keyboard.isEditing() || keyboard.isComposing() || m_panel.guide()->isShown())
+    if (m_panel.guide()->isShown())
         return false;
-    // Whoever opens a note and types on writes into it.
+    // Whoever opens a note and types on writes into it, at its end.
     if (m_panel.openNote()->id() && m_panel.editor()->focusIfAwaited())
+        return false;
+    if (keyboard.isEditing() || keyboard.isComposing())
         return false;
     if (keyboard.isInField() && event.matches(QKeySequence::Paste)) {
         Q_EMIT keyboard.fieldPasteRequested();
@@ -44,22 +54,32 @@ bool PanelKeys::handle(const QKeyEvent &event)
                                            {.field = keyboard.activeField(),
                                             .isNoteOpen = m_panel.openNote()->id().has_value(),
                                             .isSearching = !m_panel.search().isEmpty()});
-    if (action == PanelAction::OpenSelected && keyboard.isOnControl())
-        return false;
+    if (event.isAutoRepeat() && !repeats(action))
+        return true;
+    const bool isForControl =
+        keyboard.isOnControl() && (action == PanelAction::OpenSelected || event.key() == Qt::Key_Space);
+    if (isForControl)
+        return !m_panel.selection()->isInSight(CardSelection::Target::Control);
+    if (actsOnSelection(action) && m_panel.selection()->selected()
+        && !m_panel.selection()->isInSight(CardSelection::Target::Card))
+        return true;
     if (action == PanelAction::Pass && typesText(event) && !keyboard.isInField()
         && !m_panel.openNote()->id()) {
         // Whoever opens the panel and types is looking for something. The field, which has the keyboard
         // now, is given the key that began it.
         keyboard.request(PanelKeyboard::Field::Search);
     }
-    return perform(action, event.key());
+    const bool isDone = perform(action, event.key());
+    if (isDone && !repeats(action))
+        m_spentKey = event.key();
+    return isDone;
 }
 
 bool PanelKeys::perform(PanelAction action, int key)
 {
     using Field = PanelKeyboard::Field;
     PanelKeyboard &keyboard = *m_panel.keyboard();
-    const std::optional<RecordId> &selected = m_panel.selection()->selected();
+    const std::optional<RecordId> selected = m_panel.selection()->selected();
     switch (action) {
     case PanelAction::Pass:
         return false;

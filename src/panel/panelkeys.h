@@ -21,11 +21,15 @@ public:
     bool handle(const QKeyEvent &event);
 
 private:
+    bool handlePress(const QKeyEvent &event);
     bool perform(PanelAction action, int key);
     bool openFound();
 
     PanelModel &m_panel;
     Application &m_application;
+    /// The key whose press the panel has acted on, while it is held; 0 for none. What has the keyboard
+    /// by now, such as the note that was opened, must not get its repeats.
+    int m_spentKey = 0;
 };
 
 } // namespace vesk
