@@ -84,7 +84,6 @@ void PanelModel::changeTab(bool isForwards)
 {
     constexpr std::array kOrder{Tab::Notes, Tab::Checklists, Tab::Prompts};
     const size_t step = isForwards ? 1 : kOrder.size() - 1;
-    m_openNote.close();
     setTab(kOrder.at((static_cast<size_t>(m_tab) + step) % kOrder.size()));
 }
 
@@ -92,6 +91,7 @@ void PanelModel::setTab(Tab tab)
 {
     if (m_tab == tab)
         return;
+    m_openNote.close();
     m_tab = tab;
     if (tab == Tab::Prompts) {
         m_selection.setList(m_prompts);

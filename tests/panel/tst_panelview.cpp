@@ -35,6 +35,7 @@ private Q_SLOTS:
     void tickingStaysOnTheClosedCard();
     void hoverButtons();
     void tabsChooseTheList();
+    void clickOnAnotherTabClosesTheNote();
     void mouseDoesNotDragTheList();
     void promptIsTickedAndDeleted();
     void longPromptIsCutOff_data();
@@ -341,6 +342,20 @@ void PanelViewTest::tabsChooseTheList()
     QVERIFY(store().prompts().first()->isDone());
     click(*button(u"Notes"_s));
     QTRY_COMPARE(shown("NoteCard").size(), 4);
+}
+
+void PanelViewTest::clickOnAnotherTabClosesTheNote()
+{
+    Note &note = store().notes().at(0);
+    click(*shown("NoteCard").constFirst());
+    QTRY_VERIFY(model().keyboard()->isEditing());
+    click(*button(u"Notes"_s));
+    QCOMPARE(model().openNote()->id(), note.id());
+    click(*button(u"Prompts"_s));
+    QVERIFY(!model().openNote()->id());
+    click(*button(u"Notes"_s));
+    QTRY_COMPARE(shown("NoteCard").size(), 3);
+    QTRY_VERIFY(!hasEditor());
 }
 
 void PanelViewTest::mouseDoesNotDragTheList()
