@@ -52,6 +52,13 @@ void OpenNote::close()
         m_keyboard.request(PanelKeyboard::Field::None);
 }
 
+void OpenNote::closeIfBlank()
+{
+    const Note *note = m_id ? m_store.findNote(*m_id) : nullptr;
+    if (note && note->isBlank())
+        close();
+}
+
 QString OpenNote::cardId() const
 {
     return m_id ? m_id->toString(QUuid::WithoutBraces) : QString();

@@ -33,6 +33,8 @@ public:
     void open(const Note &note);
     /// Closes the open note and saves; a note that was left blank is removed.
     Q_INVOKABLE void close();
+    /// Closes the open note, and so removes it, if nothing is in it.
+    void closeIfBlank();
 
     [[nodiscard]] const std::optional<RecordId> &id() const { return m_id; }
     [[nodiscard]] QString cardId() const;

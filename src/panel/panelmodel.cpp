@@ -80,6 +80,14 @@ void PanelModel::becomeHidden()
     m_keyboard.request(Field::None);
 }
 
+void PanelModel::becomeInactive()
+{
+    m_notes.setShown(false);
+    m_openNote.closeIfBlank();
+    // Saved again with the next change if it fails.
+    m_store.save();
+}
+
 void PanelModel::changeTab(bool isForwards)
 {
     constexpr std::array kOrder{Tab::Notes, Tab::Checklists, Tab::Prompts};

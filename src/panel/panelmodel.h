@@ -76,15 +76,18 @@ public:
     void commitDraft();
     /// Has the user asked whether Vesk may read other applications.
     Q_INVOKABLE void askForTrust();
-    /// Goes to the next tab, or to the one before, and round at the end; an open note is closed.
+    /// Goes to the next tab, or to the one before, and round at the end.
     Q_INVOKABLE void changeTab(bool isForwards);
 
     /// To be called before each show: nothing is searched for, the day and times are of now, and a new
     /// user is shown the guide.
     void prepareToShow();
-    /// To be called when the panel has gone: no note is open, nothing is selected and no field has the
-    /// keyboard.
+    /// To be called when the user has hidden the panel: no note is open, nothing is selected and no field
+    /// has the keyboard.
     void becomeHidden();
+    /// To be called when the panel has gone because the user turned to another application. What was open
+    /// or selected, and the field that was written in, are found again; what was typed is saved.
+    void becomeInactive();
 
     [[nodiscard]] NoteListModel *notes() { return &m_notes; }
     [[nodiscard]] PromptListModel *prompts() { return &m_prompts; }
@@ -96,6 +99,7 @@ public:
     [[nodiscard]] Guide *guide() { return &m_guide; }
     [[nodiscard]] NoteEditorController *editor() { return &m_editor; }
     [[nodiscard]] Tab tab() const { return m_tab; }
+    /// Closes the open note if the tab is another one.
     void setTab(Tab tab);
     [[nodiscard]] const QString &search() const { return m_search; }
     void setSearch(const QString &search);

@@ -58,8 +58,14 @@ PanelWindow::PanelWindow(QQmlEngine &engine, PanelModel &model, Application &app
         if (!m_view.isActive())
             showPanel();
     });
-    connect(&application, &Application::didHide, this, &PanelWindow::hideWindow);
-    connect(&application, &Application::didResignActive, this, &PanelWindow::hideWindow);
+    connect(&application, &Application::didHide, this, [this] {
+        hideWindow();
+        m_model.becomeHidden();
+    });
+    connect(&application, &Application::didResignActive, this, [this] {
+        hideWindow();
+        m_model.becomeInactive();
+    });
     m_settling.setSingleShot(true);
     m_settling.setInterval(kSettled);
     connect(&m_settling, &QTimer::timeout, this, &PanelWindow::settle);
@@ -157,7 +163,6 @@ void PanelWindow::hideWindow()
     m_fadeIn.stop();
     m_view.hide();
     m_view.setOpacity(1);
-    m_model.becomeHidden();
 }
 
 bool PanelWindow::eventFilter(QObject *watched, QEvent *event)

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void isInNoTaskBar();
     void isCutOnlyWithoutACompositor();
     void goesWhenAnotherApplicationIsUsed();
+    void fieldKeepsTheKeyboard_data();
+    void fieldKeepsTheKeyboard();
 
 private:
     /// Presses the key as a finger does: not again at the very moment at which it is up. Without the right
@@ -249,6 +251,59 @@ void TestPanelPlace::goesWhenAnotherApplicationIsUsed()
         return !panel();
     }));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(other.window(), kBound));
+}
+
+void TestPanelPlace::fieldKeepsTheKeyboard_data()
+{
+    QTest::addColumn<QString>("taker");
+    for (const char *taker : {"a popup", "the quick-note box", "another application"})
+        QTest::newRow(taker) << QString::fromLatin1(taker);
+}
+
+void TestPanelPlace::fieldKeepsTheKeyboard()
+{
+    QFETCH(QString, taker);
+    DisplayConnection &display = m_desktop->display();
+    toggle();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kPanel, kBound));
+    m_desktop->keyboard().tap({XK_Control_L, XK_n}, kFinger);
+    m_desktop->keyboard().type(u"half a th"_s);
+    if (taker == u"a popup") {
+        // As the switcher of a window manager.
+        const xcb_window_t popup = xcb_generate_id(display.xcb());
+        const uint32_t unmanaged = 1;
+        xcb_create_window(display.xcb(), XCB_COPY_FROM_PARENT, popup, display.root(), 10, 10, 100, 100, 0,
+                          XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT,
+                          &unmanaged);
+        xcb_map_window(display.xcb(), popup);
+        xcb_set_input_focus(display.xcb(), XCB_INPUT_FOCUS_PARENT, popup, XCB_CURRENT_TIME);
+        xcb_flush(display.xcb());
+        QTest::qWait(20);
+        xcb_set_input_focus(display.xcb(), XCB_INPUT_FOCUS_PARENT, panel()->id, XCB_CURRENT_TIME);
+        xcb_destroy_window(display.xcb(), popup);
+        xcb_flush(display.xcb());
+        // If it took its time, the panel has gone meanwhile, and comes back as it was.
+        QTest::qWait(300);
+        if (!panel())
+            toggle();
+    } else if (taker == u"the quick-note box") {
+        QVERIFY(runToEnd(VirtualDesktop::veskProgram(), {u"quick-note"_s}));
+        VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kQuickNote, kBound));
+        m_desktop->keyboard().tap({XK_Escape}, kFinger);
+    } else {
+        PlainWindow other(display, u"Other"_s, QRect(10, 10, 300, 200));
+        other.show();
+        VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(u"Other"_s, kBound));
+        VERIFY_ON(*m_desktop, display.waitUntil(kBound, [&] {
+            m_desktop->windows().activate(other.window());
+            return !panel();
+        }));
+        toggle();
+    }
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kPanel, kBound));
+    m_desktop->keyboard().type(u"ought"_s);
+    m_desktop->keyboard().tap({XK_Return}, kFinger);
+    VERIFY_ON(*m_desktop, waitNotes({u"half a thought"_s}));
 }
 
 DESKTOP_TEST_MAIN(TestPanelPlace)

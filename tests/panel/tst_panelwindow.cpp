@@ -15,6 +15,7 @@ private Q_SLOTS:
     void toggles();
     void fadesOnlyWhereThatIsWanted_data();
     void fadesOnlyWhereThatIsWanted();
+    void anotherApplicationTakesNothingAway();
 };
 
 void PanelWindowTest::comesUpOnTheScreenUnderThePointer()
@@ -79,6 +80,39 @@ void PanelWindowTest::fadesOnlyWhereThatIsWanted()
     QTEST(window().opacity() < 1, "fades");
     panel().showPanel();
     QTRY_COMPARE(window().opacity(), 1.0);
+}
+
+void PanelWindowTest::anotherApplicationTakesNothingAway()
+{
+    Note &note = addNote(u"tea"_s);
+    // The field that was written in has the keyboard when the panel comes back.
+    show();
+    model().requestField(Field::Composer);
+    type(u"half a th"_s);
+    m_fixture->application.resignActive();
+    QVERIFY(!panel().isShown());
+    show();
+    QCOMPARE(model().keyboard()->activeField(), Field::Composer);
+    type(u"ought"_s);
+    QCOMPARE(model().draft(), u"half a thought"_s);
+
+    // And so has the text of the open note.
+    model().requestField(Field::None);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    type(u"!"_s);
+    m_fixture->application.resignActive();
+    QVERIFY(!store().hasPendingChanges());
+    show();
+    QCOMPARE(model().openNote()->id(), note.id());
+    QTRY_VERIFY(model().keyboard()->isEditing());
+    type(u"?"_s);
+    QCOMPARE(note.text(), u"tea!?"_s);
+    // Nothing is kept of a note that is left empty.
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_Backspace);
+    m_fixture->application.resignActive();
+    QVERIFY(store().notes().isEmpty());
 }
 
 QTEST_MAIN(PanelWindowTest)
