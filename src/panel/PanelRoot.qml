@@ -33,6 +33,37 @@ FocusScope {
         cornerRadius: root.cornerRadius
     }
 
+    // The upper edge, by which the mouse makes the panel higher or lower.
+    MouseArea {
+        id: edge
+
+        width: parent.width
+        height: 12
+        z: 1
+        hoverEnabled: true
+        preventStealing: true
+        cursorShape: Qt.SizeVerCursor
+        onPressed: root.model.height.edgePressed()
+
+        Rectangle {
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: 5
+            width: 44
+            height: 4
+            radius: 2
+            antialiasing: true
+            color: Theme.tertiary
+            opacity: edge.containsMouse || edge.pressed ? 1 : 0
+
+            Behavior on opacity {
+                NumberAnimation {
+                    duration: Theme.motion.ease
+                    easing.type: Easing.OutQuad
+                }
+            }
+        }
+    }
+
     // By a repeater, since the loader of Qt 6.4 takes no bound component.
     Repeater {
         model: root.hasGuide ? 1 : 0

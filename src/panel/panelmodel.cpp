@@ -22,6 +22,7 @@ PanelModel::PanelModel(NotesStore &store, Clock &clock, Defaults &defaults, Appl
     , m_keys(*this, application)
     , m_menu(this)
     , m_guide(accessibility, defaults)
+    , m_height(defaults)
 {
     connect(&m_menu, &PanelMenu::guideRequested, &m_guide, &Guide::show);
     connect(&accessibility, &Accessibility::trustChanged, this, &PanelModel::isTrustedChanged);

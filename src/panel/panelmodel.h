@@ -7,6 +7,7 @@
 #include "panel/cardselection.h"
 #include "panel/notelistmodel.h"
 #include "panel/opennote.h"
+#include "panel/panelheight.h"
 #include "panel/panelkeyboard.h"
 #include "panel/panelkeys.h"
 #include "panel/panelmenu.h"
@@ -40,6 +41,7 @@ class PanelModel final : public QObject
     Q_PROPERTY(vesk::PanelKeyboard *keyboard READ keyboard CONSTANT)
     Q_PROPERTY(vesk::PanelMenu *menu READ menu CONSTANT)
     Q_PROPERTY(vesk::Guide *guide READ guide CONSTANT)
+    Q_PROPERTY(vesk::PanelHeight *height READ height CONSTANT)
     /// A handle on the text of the open note.
     Q_PROPERTY(vesk::NoteEditorController *editor READ editor CONSTANT)
     Q_PROPERTY(vesk::PanelModel::Tab tab READ tab WRITE setTab NOTIFY tabChanged)
@@ -97,6 +99,7 @@ public:
     [[nodiscard]] PanelKeyboard *keyboard() { return &m_keyboard; }
     [[nodiscard]] PanelMenu *menu() { return &m_menu; }
     [[nodiscard]] Guide *guide() { return &m_guide; }
+    [[nodiscard]] PanelHeight *height() { return &m_height; }
     [[nodiscard]] NoteEditorController *editor() { return &m_editor; }
     [[nodiscard]] Tab tab() const { return m_tab; }
     /// Closes the open note if the tab is another one.
@@ -132,6 +135,7 @@ private:
     PanelKeys m_keys;
     PanelMenu m_menu;
     Guide m_guide;
+    PanelHeight m_height;
     NoteEditorController m_editor;
     Tab m_tab = Tab::Notes;
     QString m_search;

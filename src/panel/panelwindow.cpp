@@ -10,6 +10,10 @@
 #include "platform/windows.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
+
+#include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +27,7 @@ namespace {
 constexpr qreal kCornerRadius = 34;
 constexpr int kFadeInMilliseconds = 200;
 constexpr std::chrono::milliseconds kSettled{250};
+constexpr std::chrono::milliseconds kScreensSettled{1000};
 
 } // namespace
 
@@ -44,7 +49,8 @@ PanelWindow::PanelWindow(QQmlEngine &engine, PanelModel &model, Application &app
     m_view.setMinimumWidth(qRound(kPanelWidth));
     m_view.setMaximumWidth(qRound(kPanelWidth));
     m_view.setResizeMode(QQuickView::SizeRootObjectToView);
-    m_view.resize(qRound(kPanelWidth), qRound(kDefaultPanelHeight));
+    m_view.resize(qRound(kPanelWidth), qRound(model.height()->wanted()));
+    m_askedHeight = m_view.height();
     m_view.setInitialProperties(
         {{u"model"_s, QVariant::fromValue(&model)}, {u"cornerRadius"_s, kCornerRadius}});
     m_view.setSource(QUrl(u"qrc:/qt/qml/Vesk/Panel/PanelRoot.qml"_s));
@@ -66,10 +72,14 @@ PanelWindow::PanelWindow(QQmlEngine &engine, PanelModel &model, Application &app
         hideWindow();
         m_model.becomeInactive();
     });
+    connect(model.height(), &PanelHeight::edgePressed, this, [this] { m_isEdgeHeld = true; });
     m_settling.setSingleShot(true);
     m_settling.setInterval(kSettled);
     connect(&m_settling, &QTimer::timeout, this, &PanelWindow::settle);
+    m_screensSettling.setSingleShot(true);
+    m_screensSettling.setInterval(kScreensSettled);
     connect(&screens, &Screens::changed, this, [this] {
+        m_screensSettling.start();
         settle();
         m_settling.start();
     });
@@ -133,12 +143,41 @@ void PanelWindow::position(const std::optional<Screen> &screen)
 {
     if (!screen)
         return;
-    const QRectF frame = panelFrame(screen->visibleFrame, m_view.height());
+    adoptHeight();
+    const QRectF frame = panelFrame(screen->visibleFrame, m_model.height()->wanted());
+    m_askedHeight = frame.height();
     if (frame == m_screens.flipped(m_view.geometry()))
         return;
     // Where the desktop places windows by itself, the size at least is the panel's own.
     if (!m_windows.setFrame(m_view, frame))
         m_view.resize(frame.size().toSize());
+}
+
+void PanelWindow::adoptHeight()
+{
+    // Scaled screens round.
+    constexpr qreal kTolerance = 1;
+    if (!m_isEdgeHeld && !m_screensSettling.isActive()
+        && std::abs(m_view.height() - m_askedHeight) > kTolerance)
+        m_model.height()->setWanted(m_view.height());
+}
+
+void PanelWindow::dragEdge(qreal mouseY)
+{
+    const std::optional<Screen> screen = ownScreen();
+    if (!screen)
+        return;
+    const qreal height = m_view.geometry().bottom() + 1 - (mouseY - m_grip);
+    m_model.height()->setWanted(panelFrame(screen->visibleFrame, height).height());
+    position(screen);
+}
+
+void PanelWindow::dropEdge()
+{
+    if (!std::exchange(m_isEdgeHeld, false))
+        return;
+    m_model.height()->remember();
+    m_settling.start();
 }
 
 void PanelWindow::settle()
@@ -161,8 +200,20 @@ std::optional<Screen> PanelWindow::ownScreen() const
 void PanelWindow::hideWindow()
 {
     m_fadeIn.stop();
+    dropEdge();
     m_view.hide();
     m_view.setOpacity(1);
+}
+
+void PanelWindow::handleMouse(const QMouseEvent &event)
+{
+    const qreal mouseY = event.globalPosition().y();
+    if (event.type() == QEvent::MouseButtonPress)
+        m_grip = mouseY - m_view.y();
+    else if (m_isEdgeHeld && event.buttons().testFlag(Qt::LeftButton))
+        dragEdge(mouseY);
+    else
+        dropEdge();
 }
 
 bool PanelWindow::eventFilter(QObject *watched, QEvent *event)
@@ -170,6 +221,12 @@ bool PanelWindow::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::KeyPress:
         return m_model.handleKey(*static_cast<QKeyEvent *>(event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+        // By the place on the screen, since the window moves under the mouse.
+        handleMouse(*static_cast<QMouseEvent *>(event));
+        return false;
     case QEvent::Close:
         // The panel only ever hides, also when the desktop asks its window to close.
         event->ignore();

@@ -8,6 +8,7 @@
 
 #include <optional>
 
+class QMouseEvent;
 class QQmlEngine;
 
 namespace vesk {
@@ -48,8 +49,15 @@ private:
     void position(const std::optional<Screen> &screen);
     /// Puts the window back where it belongs on its own screen, in its shape.
     void settle();
+    /// Takes a height that the window manager has given the window, as it does when the user resizes it
+    /// by the manager's own means, for what is wanted from now on.
+    void adoptHeight();
+    /// Follows the mouse, which holds the upper edge.
+    void dragEdge(qreal mouseY);
+    void dropEdge();
     /// The screen that the window's middle is on; else the main screen; none if there is no screen.
     [[nodiscard]] std::optional<Screen> ownScreen() const;
+    void handleMouse(const QMouseEvent &event);
     void hideWindow();
 
     PanelModel &m_model;
@@ -61,6 +69,13 @@ private:
     QPropertyAnimation m_fadeIn;
     /// Waits for the window manager's own answer to a change of screens, or for the end of a resize.
     QTimer m_settling;
+    /// Runs while window managers may still resize the window because the screens have changed.
+    QTimer m_screensSettling;
+    /// The height that was asked for last.
+    qreal m_askedHeight = 0;
+    /// Where the mouse was pressed, down from the window's upper edge.
+    qreal m_grip = 0;
+    bool m_isEdgeHeld = false;
 };
 
 } // namespace vesk

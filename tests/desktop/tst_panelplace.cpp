@@ -23,6 +23,7 @@ private Q_SLOTS:
     void isInNoTaskBar();
     void isCutOnlyWithoutACompositor();
     void goesWhenAnotherApplicationIsUsed();
+    void heightIsDraggedAndRemembered();
     void fieldKeepsTheKeyboard_data();
     void fieldKeepsTheKeyboard();
 
@@ -251,6 +252,29 @@ void TestPanelPlace::goesWhenAnotherApplicationIsUsed()
         return !panel();
     }));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(other.window(), kBound));
+}
+
+void TestPanelPlace::heightIsDraggedAndRemembered()
+{
+    toggle();
+    QVERIFY2(waitInCorner(QPoint(1600, 1000)), qPrintable(where()));
+    const auto waitHeight = [this](int height) {
+        return m_desktop->display().waitUntil(
+            kBound, [&] { return panel() && panel()->geometry.height() == height; });
+    };
+    QVERIFY2(waitHeight(620), qPrintable(where()));
+    const QPoint edge = panel()->geometry.topLeft() + QPoint(220, 4);
+    m_desktop->pointer().drag(edge, edge - QPoint(0, 130));
+    QVERIFY2(waitHeight(750) && waitInCorner(QPoint(1600, 1000)), qPrintable(where()));
+    // Hidden and shown, and in the next run.
+    toggle();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
+    toggle();
+    QVERIFY2(waitHeight(750) && waitInCorner(QPoint(1600, 1000)), qPrintable(where()));
+    QVERIFY(m_vesk->quit());
+    QVERIFY(startVesk());
+    toggle();
+    QVERIFY2(waitHeight(750) && waitInCorner(QPoint(1600, 1000)), qPrintable(where()));
 }
 
 void TestPanelPlace::fieldKeepsTheKeyboard_data()

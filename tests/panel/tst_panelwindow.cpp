@@ -16,6 +16,13 @@ private Q_SLOTS:
     void fadesOnlyWhereThatIsWanted_data();
     void fadesOnlyWhereThatIsWanted();
     void anotherApplicationTakesNothingAway();
+    void upperEdgeIsDragged_data();
+    void upperEdgeIsDragged();
+    void heightIsRemembered();
+
+private:
+    /// Presses the upper edge, moves the mouse up by this much, and releases it.
+    void dragEdge(int up);
 };
 
 void PanelWindowTest::comesUpOnTheScreenUnderThePointer()
@@ -113,6 +120,67 @@ void PanelWindowTest::anotherApplicationTakesNothingAway()
     press(Qt::Key_Backspace);
     m_fixture->application.resignActive();
     QVERIFY(store().notes().isEmpty());
+}
+
+void PanelWindowTest::dragEdge(int up)
+{
+    const QPoint start = window().mapToGlobal(QPoint(220, 4));
+    const auto send = [&](QEvent::Type type, int moved, Qt::MouseButton button, Qt::MouseButtons held) {
+        const QPoint at = start - QPoint(0, moved);
+        QMouseEvent event(type, window().mapFromGlobal(at), at, button, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(&window(), &event);
+    };
+    send(QEvent::MouseButtonPress, 0, Qt::LeftButton, Qt::LeftButton);
+    send(QEvent::MouseMove, up / 2, Qt::NoButton, Qt::LeftButton);
+    send(QEvent::MouseMove, up, Qt::NoButton, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, up, Qt::LeftButton, Qt::NoButton);
+    // What comes after is no drag.
+    send(QEvent::MouseMove, up + 50, Qt::NoButton, Qt::NoButton);
+}
+
+void PanelWindowTest::upperEdgeIsDragged_data()
+{
+    QTest::addColumn<int>("up");
+    QTest::addColumn<qreal>("height");
+    QTest::newRow("higher") << 100 << 720.0;
+    QTest::newRow("lower") << -150 << 470.0;
+    QTest::newRow("not below the minimum") << -500 << 420.0;
+    QTest::newRow("not above the screen") << 900 << 980.0;
+}
+
+void PanelWindowTest::upperEdgeIsDragged()
+{
+    QFETCH(int, up);
+    const QRectF screen(0, 0, 1600, 1000);
+    m_fixture->screens.setScreens({{.frame = screen, .visibleFrame = screen}});
+    show();
+    QCOMPARE(m_fixture->windows.frame().height(), 620.0);
+    dragEdge(up);
+    QTEST(m_fixture->windows.frame().height(), "height");
+    // Only the upper edge has moved.
+    QCOMPARE(m_fixture->windows.frame().topLeft(), QPointF(1150, 10));
+    QCOMPARE(m_fixture->windows.frame().width(), 440.0);
+}
+
+void PanelWindowTest::heightIsRemembered()
+{
+    const QRectF large(0, 0, 1600, 1000);
+    const QRectF small(0, 0, 1024, 600);
+    m_fixture->screens.setScreens({{.frame = large, .visibleFrame = large}});
+    show();
+    dragEdge(200);
+    QCOMPARE(m_fixture->windows.frame().height(), 820.0);
+    // A smaller screen gives it less, and the larger one gives it back.
+    m_fixture->screens.setScreens({{.frame = small, .visibleFrame = small}});
+    QCOMPARE(m_fixture->windows.frame(), QRectF(574, 10, 440, 580));
+    m_fixture->screens.setScreens({{.frame = large, .visibleFrame = large}});
+    QCOMPARE(m_fixture->windows.frame().height(), 820.0);
+    // The next run finds it again.
+    PanelModel next(store(), m_fixture->clock, m_fixture->defaults, m_fixture->application,
+                    m_fixture->accessibility);
+    const PanelWindow again(m_fixture->engine, next, m_fixture->application, m_fixture->screens,
+                            m_fixture->windows);
+    QCOMPARE(next.height()->wanted(), 820.0);
 }
 
 QTEST_MAIN(PanelWindowTest)
