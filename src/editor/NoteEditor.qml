@@ -14,6 +14,9 @@ FocusScope {
     // Set by the host to load a text; read back it is the text as edited.
     property alias text: view.text
     property string placeholder: qsTr("Start typing…")
+    // What a screen reader calls the text, and says about its keys.
+    property string name: root.placeholder
+    property string help: ""
     property real fontSize: 14
     property bool firstLineIsTitle: false
     // In points, on top of the font's size.
@@ -140,7 +143,8 @@ FocusScope {
             }
             Accessible.role: Accessible.EditableText
             Accessible.multiLine: true
-            Accessible.name: root.placeholder
+            Accessible.name: root.name
+            Accessible.description: root.help
             onCursorRectangleChanged: root.followCaret()
 
             Text {

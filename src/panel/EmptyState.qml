@@ -80,6 +80,7 @@ Item {
                     required property list<string> keys
                     required property string hint
                     required property bool isTaken
+                    required property string spoken
 
                     anchors.left: parent.left
                     columns: root.isStacked ? 1 : 2
@@ -88,7 +89,7 @@ Item {
                     bottomPadding: root.isStacked ? Theme.margin : 0
                     verticalItemAlignment: Grid.AlignVCenter
                     Accessible.role: Accessible.StaticText
-                    Accessible.name: hint
+                    Accessible.name: spoken
 
                     Item {
                         width: root.isStacked ? root.fullWidth : root.keysWidth

@@ -109,6 +109,7 @@ Item {
                 opacity: root.openness
                 focus: true
                 cardId: root.row?.cardId ?? ""
+                title: root.row?.title ?? ""
                 text: root.row?.text ?? ""
                 sourceBundle: root.row?.sourceBundle ?? ""
                 sourceLabel: root.row?.sourceLabel ?? ""

@@ -10,6 +10,7 @@ FocusScope {
     id: root
 
     required property string cardId
+    required property string title
     required property string text
     required property string sourceBundle
     required property string sourceLabel
@@ -34,6 +35,8 @@ FocusScope {
         focus: true
         text: root.text
         placeholder: qsTr("Title")
+        name: root.title
+        help: done.Accessible.name
         fontSize: 13.5
         firstLineIsTitle: true
         titleBoost: 3.5
@@ -93,6 +96,8 @@ FocusScope {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             spacing: Theme.tightSpace
+            Accessible.role: Accessible.StaticText
+            Accessible.name: KeyLabels.spelt(qsTr("Done (⌘↩)"), KeyLabels.Window)
 
             Text {
                 // Among large texts the keys say it alone, so that the source can be read.
@@ -104,6 +109,7 @@ FocusScope {
                 textFormat: Text.PlainText
                 font: Theme.fonts.caption
                 color: Theme.secondary
+                Accessible.ignored: true
             }
 
             Row {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panel/commandhints.h"
 
+#include "components/keylabels.h"
 #include "input/hotkeytable.h"
 
 #include <array>
@@ -76,23 +77,41 @@ QVariant CommandHints::data(const QModelIndex &index, int role) const
 {
     if (!m_keys || !checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const Entry &entry = kEntries.at(m_shown.at(index.row()));
-    const bool isTaken = entry.row && m_keys->isTaken(*entry.row);
+    const size_t entry = m_shown.at(index.row());
     switch (role) {
     case KeysRole:
-        return entry.row ? m_keys->glyphs(*entry.row) : entry.keys.toString().split(u' ');
+        return keysOf(entry);
     case HintRole:
-        return isTaken ? tr("%1 (keys taken by %2)").arg(tr(entry.hint), m_keys->holders()) : tr(entry.hint);
+        return hintOf(entry);
     case IsTakenRole:
-        return isTaken;
+        return kEntries.at(entry).row && m_keys->isTaken(*kEntries.at(entry).row);
+    case SpokenRole: {
+        QStringList keys = keysOf(entry);
+        for (QString &key : keys)
+            key = KeyLabels::label(key, KeyLabels::Global);
+        return tr("%1: %2", "keys: what they do").arg(keys.join(u' '), hintOf(entry));
+    }
     default:
         return {};
     }
 }
 
+QStringList CommandHints::keysOf(size_t entry) const
+{
+    const Entry &shown = kEntries.at(entry);
+    return shown.row ? m_keys->glyphs(*shown.row) : shown.keys.toString().split(u' ');
+}
+
+QString CommandHints::hintOf(size_t entry) const
+{
+    const Entry &shown = kEntries.at(entry);
+    const bool isTaken = shown.row && m_keys->isTaken(*shown.row);
+    return isTaken ? tr("%1 (keys taken by %2)").arg(tr(shown.hint), m_keys->holders()) : tr(shown.hint);
+}
+
 QHash<int, QByteArray> CommandHints::roleNames() const
 {
-    return {{KeysRole, "keys"}, {HintRole, "hint"}, {IsTakenRole, "isTaken"}};
+    return {{KeysRole, "keys"}, {HintRole, "hint"}, {IsTakenRole, "isTaken"}, {SpokenRole, "spoken"}};
 }
 
 } // namespace vesk

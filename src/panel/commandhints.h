@@ -22,6 +22,7 @@ public:
         KeysRole = Qt::UserRole + 1, ///< QStringList, in the notation of Vesk's texts
         HintRole,                    ///< QString
         IsTakenRole,                 ///< bool, whether another program has the keys
+        SpokenRole,                  ///< QString, the keys and the hint, for those who do not see them
     };
 
     [[nodiscard]] CommandKeys *commandKeys() const { return m_keys; }
@@ -36,6 +37,8 @@ Q_SIGNALS:
 
 private:
     void reload();
+    [[nodiscard]] QStringList keysOf(size_t entry) const;
+    [[nodiscard]] QString hintOf(size_t entry) const;
 
     QPointer<CommandKeys> m_keys;
     /// Numbers of the entries whose keys are not switched off.

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void controlsSayWhatTheyAre();
     void cardsSayWhatTheyHold();
     void openNoteIsAnEditableText();
+    void hintsSayTheirKeys();
     void nothingThatTakesTheKeyboardIsUnnamed();
     void languageIsThatOfTheDesktop();
 
@@ -224,21 +225,33 @@ void TestPanelReader::cardsSayWhatTheyHold()
 void TestPanelReader::openNoteIsAnEditableText()
 {
     const auto reads = [this](const QString &text, int caret) {
-        const std::optional<AccessibleObject> note = find(u"text"_s, u"Title"_s);
+        const std::optional<AccessibleObject> note = find(u"text"_s, u"Of the train"_s);
         // The toolkit has its own sign for the end of a paragraph.
         return note && QString(note->text).replace(QChar::ParagraphSeparator, u'\n') == text
                && note->caret == caret;
     };
     press({XK_Down});
     press({XK_Return});
-    VERIFY_TOLD(waitFor(u"text"_s, u"Title"_s, State::Focused));
-    const std::optional<AccessibleObject> note = find(u"text"_s, u"Title"_s);
+    VERIFY_TOLD(waitFor(u"text"_s, u"Of the train"_s, State::Focused));
+    const std::optional<AccessibleObject> note = find(u"text"_s, u"Of the train"_s);
     VERIFY_TOLD(note->is(State::Editable) && note->is(State::MultiLine));
+    VERIFY_TOLD(note->description == u"Done (Ctrl+Enter)" && find(u"label"_s, u"Done (Ctrl+Enter)"_s));
     VERIFY_TOLD(waitUntil([&] { return reads(u"Of the train\nIt leaves at nine."_s, 31); }));
     VERIFY_TOLD(find(u"link"_s, u"from Mousepad"_s));
     press({XK_Control_L, XK_Home});
     m_desktop->keyboard().type(u"So "_s);
     VERIFY_TOLD(waitUntil([&] { return reads(u"So Of the train\nIt leaves at nine."_s, 3); }));
+}
+
+void TestPanelReader::hintsSayTheirKeys()
+{
+    press({XK_Down});
+    press({XK_Control_L, XK_BackSpace});
+    press({XK_Control_L, XK_BackSpace});
+    for (const QString &hint :
+         {u"Alt Super N: Save selected text, or write a quick note"_s,
+          u"Shift Shift: Save selected text as a prompt"_s, u"[ ] Space: Start a checklist while typing"_s})
+        VERIFY_TOLD(waitFor(u"label"_s, hint));
 }
 
 void TestPanelReader::nothingThatTakesTheKeyboardIsUnnamed()
@@ -251,7 +264,7 @@ void TestPanelReader::nothingThatTakesTheKeyboardIsUnnamed()
     VERIFY_TOLD(waitUntil([this] { return !find(u"menu item"_s, u"Quit Vesk"_s); }));
     press({XK_Down});
     press({XK_Return});
-    VERIFY_TOLD(waitFor(u"text"_s, u"Title"_s, State::Focused));
+    VERIFY_TOLD(waitFor(u"text"_s, u"Of the train"_s, State::Focused));
     QCOMPARE(unnamed(), QByteArray());
     for (const QString &tab : {u"Checklists"_s, u"Prompts"_s}) {
         click(u"page tab"_s, tab);
