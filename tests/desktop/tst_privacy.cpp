@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QSet>
 
+#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -37,9 +38,20 @@ class TestPrivacy : public EditorTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void noteStaysBetweenVeskAndItsUser();
+    void crashLeavesNoMemoryBehindHoweverVeskWasStarted();
     void otherUsersAreRefusedByTheBus();
 };
+
+/// As on systems that write dumps, for everything that the test starts.
+void TestPrivacy::initTestCase()
+{
+    rlimit limit{};
+    QCOMPARE(::getrlimit(RLIMIT_CORE, &limit), 0);
+    limit.rlim_cur = limit.rlim_max;
+    QCOMPARE(::setrlimit(RLIMIT_CORE, &limit), 0);
+}
 
 void TestPrivacy::noteStaysBetweenVeskAndItsUser()
 {
@@ -66,9 +78,6 @@ void TestPrivacy::noteStaysBetweenVeskAndItsUser()
         const QRegularExpression line(u" %1( |$)"_s.arg(inode), QRegularExpression::MultilineOption);
         QVERIFY2(own.contains(line), qPrintable(u"Socket %1 is of another kind."_s.arg(inode)));
     }
-    const QString limits = QString::fromUtf8(contentsOf(u"/proc/%1/limits"_s.arg(m_vesk->pid())));
-    QVERIFY2(limits.contains(QRegularExpression(u"Max core file size +0 "_s)), qPrintable(limits));
-
     const QString folder = QFileInfo(m_desktop->notes().path()).path();
     for (const QString &name : QDir(folder).entryList(QDir::Files | QDir::Hidden)) {
         constexpr auto kOthers = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
@@ -81,6 +90,40 @@ void TestPrivacy::noteStaysBetweenVeskAndItsUser()
         QVERIFY2(!m_vesk->errorOutput().contains(word), qPrintable(m_vesk->errorOutput()));
         QVERIFY(!m_vesk->output().contains(word));
     }
+}
+
+void TestPrivacy::crashLeavesNoMemoryBehindHoweverVeskWasStarted()
+{
+    const auto isForbidden = [](qint64 process) {
+        const QString folder = u"/proc/%1/"_s.arg(process);
+        static const QRegularExpression limit(u"Max core file size +1 "_s);
+        return QString::fromUtf8(contentsOf(folder + u"limits"_s)).contains(limit)
+               && contentsOf(folder + u"coredump_filter"_s).trimmed().toULong(nullptr, 16) == 0;
+    };
+    // By the command.
+    QVERIFY(isForbidden(m_vesk->pid()));
+
+    // By the session bus, which starts the program behind the command.
+    const QString program = QFile::symLinkTarget(u"/proc/%1/exe"_s.arg(m_vesk->pid()));
+    QVERIFY(m_vesk->quit());
+    QVERIFY(!m_desktop
+                 ->writeFile(u"data/dbus-1/services/org.vesk.Vesk.service"_s,
+                             u"[D-BUS Service]\nName=org.vesk.Vesk\nExec=%1 --background\n"_s.arg(program))
+                 .isEmpty());
+    const auto askBus = [this](const QStringList &call) {
+        const std::unique_ptr<ChildProcess> teller = m_desktop->run(
+            u"dbus-send"_s, QStringList{u"--bus="_s + m_desktop->busAddress(), u"--print-reply=literal"_s,
+                                        u"--dest=org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s}
+                                + call);
+        return teller && teller->waitForExit(kBound) ? teller->output() : QString();
+    };
+    askBus({u"org.freedesktop.DBus.ReloadConfig"_s});
+    askBus({u"org.freedesktop.DBus.StartServiceByName"_s, u"string:org.vesk.Vesk"_s, u"uint32:0"_s});
+    const QString process =
+        askBus({u"org.freedesktop.DBus.GetConnectionUnixProcessID"_s, u"string:org.vesk.Vesk"_s});
+    const qint64 started = process.simplified().section(u' ', -1).toLongLong();
+    QVERIFY2(started > 0, qPrintable(process));
+    QVERIFY(isForbidden(started));
 }
 
 void TestPrivacy::otherUsersAreRefusedByTheBus()
