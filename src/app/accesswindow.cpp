@@ -13,8 +13,10 @@ MessageWindow::Content question()
             .message = AccessWindow::tr(
                 "When you press one of Vesk’s keys, Vesk reads the text that is selected, or was copied a "
                 "moment before, and where it is: the application, its window’s title and, in a browser, the "
-                "page’s address. At other times it only notices when a key or button was pressed, not which "
-                "one, to tell what is selected now from what was. It sends nothing anywhere.\n\n"
+                "page’s address. At other times it only notices when a key or button is pressed (not which "
+                "one), when something is selected, and whether a password field has the keyboard, to tell "
+                "what is selected now from what was and to leave passwords alone. It sends nothing "
+                "anywhere.\n\n"
                 "Applications that are open already may have to be started again before Vesk can read them."),
             .acceptLabel = AccessWindow::tr("Allow"),
             .rejectLabel = AccessWindow::tr("Not Now")};
@@ -30,7 +32,10 @@ AccessWindow::AccessWindow(QQmlEngine &engine, Consent &consent)
         Q_EMIT answered();
         m_window.hide();
     });
-    connect(&m_window, &MessageWindow::rejected, this, [this] {
+    connect(&m_window, &MessageWindow::rejected, this, [this, &consent](MessageWindow::Rejection how) {
+        // Whoever only closes the window has not changed their mind.
+        if (how == MessageWindow::Rejection::ByButton)
+            consent.setGiven(false);
         Q_EMIT answered();
         m_window.hide();
     });

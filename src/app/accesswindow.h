@@ -11,19 +11,20 @@ namespace vesk {
 
 class Consent;
 
-/// Asks the user whether Vesk may read what is selected in other applications.
+/// Asks the user whether Vesk may read what is selected in other applications. Each button is the answer from
+/// then on, also where the other one was given before. Closing the window leaves things as they are.
 class AccessWindow final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Hidden at first. Both have to outlive the window.
+    /// Hidden at first. Both must outlive the window.
     AccessWindow(QQmlEngine &engine, Consent &consent);
 
     void show() { m_window.show(); }
 
 Q_SIGNALS:
-    /// The user has answered, either way; the window is about to go.
+    /// The user has answered or closed the window, which is about to go.
     void answered();
 
 private:

@@ -23,7 +23,7 @@ MessageWindow::MessageWindow(QQmlEngine &engine, const Content &content)
                                  {u"isRejectCostly"_s, content.isRejectCostly}});
     m_view.setSource(QUrl(u"qrc:/qt/qml/Vesk/App/MessageView.qml"_s));
     connect(m_view.rootObject(), SIGNAL(accepted()), this, SIGNAL(accepted()));
-    connect(m_view.rootObject(), SIGNAL(rejected()), this, SIGNAL(rejected()));
+    connect(m_view.rootObject(), SIGNAL(rejected()), this, SLOT(onRejected()));
     const QSize size = m_view.rootObject()->size().toSize();
     m_view.setMinimumSize(size);
     m_view.setMaximumSize(size);
@@ -59,7 +59,7 @@ bool MessageWindow::eventFilter(QObject *watched, QEvent *event)
     if (isEscape && m_isRejectCostly)
         return true;
     if (isEscape || event->type() == QEvent::Close) {
-        Q_EMIT rejected();
+        Q_EMIT rejected(Rejection::ByClosing);
         return isEscape;
     }
     return QObject::eventFilter(watched, event);

@@ -30,7 +30,13 @@ public:
         bool isRejectCostly = false;
     };
 
-    /// Hidden at first. The engine has to be lent its surroundings before, and to outlive the window.
+    enum class Rejection {
+        ByButton,
+        /// By Escape, or by the window manager.
+        ByClosing,
+    };
+
+    /// Hidden at first. The engine must be lent its surroundings before, and must outlive the window.
     MessageWindow(QQmlEngine &engine, const Content &content);
     ~MessageWindow() override;
 
@@ -41,10 +47,13 @@ public:
 
 Q_SIGNALS:
     void accepted();
-    void rejected();
+    void rejected(vesk::MessageWindow::Rejection how);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+
+private Q_SLOTS:
+    void onRejected() { Q_EMIT rejected(Rejection::ByButton); }
 
 private:
     QQuickView m_view;
