@@ -13,6 +13,7 @@ namespace vesk {
 /// An application that is running, as the user knows it.
 struct RunningApplication
 {
+    /// 0 if it does not run on this machine, or its process cannot be told.
     qint64 processIdentifier = 0;
     /// Name in the user's language; empty if the application has none.
     QString localizedName;

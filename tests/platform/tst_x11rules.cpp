@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "platform/x11/clientmachine.h"
 #include "platform/x11/screenspace.h"
 #include "platform/x11/selectionbytes.h"
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace vesk;
 
 /// What docks leave of the screens of a desktop, and what other programs give for targets.
@@ -15,6 +17,8 @@ private Q_SLOTS:
     void docksTakeTheirScreensOnly_data();
     void docksTakeTheirScreensOnly();
     void targetsThatAreCutAreLeftOut();
+    void processOfAWindow_data();
+    void processOfAWindow();
 };
 
 void X11RulesTest::docksTakeTheirScreensOnly_data()
@@ -56,6 +60,36 @@ void X11RulesTest::targetsThatAreCutAreLeftOut()
     for (const qsizetype size : {0, 1, 3, 4, 7})
         QCOMPARE(selectionbytes::atoms(QByteArray(size, '\1')),
                  QList<xcb_atom_t>(size / 4, xcb_atom_t{0x01010101}));
+}
+
+void X11RulesTest::processOfAWindow_data()
+{
+    using Process = std::optional<qint64>;
+    QTest::addColumn<QString>("machine");
+    QTest::addColumn<Process>("connected");
+    QTest::addColumn<Process>("stated");
+    QTest::addColumn<bool>("isOwn");
+    QTest::addColumn<Process>("expected");
+    const Process none;
+    QTest::newRow("local") << u"desk"_s << Process(12) << Process(12) << true << Process(12);
+    QTest::newRow("does not say where") << QString() << none << Process(12) << true << Process(12);
+    QTest::newRow("with its domain") << u"DESK.example.org"_s << none << Process(12) << true << Process(12);
+    QTest::newRow("localhost") << u"localhost"_s << none << Process(12) << true << Process(12);
+    QTest::newRow("says nonsense") << u"desk"_s << none << Process(0) << true << none;
+    QTest::newRow("by ssh") << u"server"_s << Process(7) << Process(12) << false << Process(7);
+    QTest::newRow("by the network") << u"server"_s << none << Process(12) << false << none;
+    QTest::newRow("begins alike") << u"desktop"_s << none << Process(12) << false << none;
+}
+
+void X11RulesTest::processOfAWindow()
+{
+    using Process = std::optional<qint64>;
+    QFETCH(const QString, machine);
+    QFETCH(const Process, connected);
+    QFETCH(const Process, stated);
+    const bool isOwn = isOwnMachine(machine, u"desk"_s);
+    QTEST(isOwn, "isOwn");
+    QTEST(processOfClient(connected, stated, isOwn), "expected");
 }
 
 QTEST_GUILESS_MAIN(X11RulesTest)

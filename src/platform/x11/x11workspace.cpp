@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/x11workspace.h"
 
+#include "platform/x11/clientmachine.h"
 #include "platform/x11/x11connection.h"
 
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QSysInfo>
 
 namespace vesk {
 
@@ -23,10 +25,10 @@ std::optional<RunningApplication> X11Workspace::frontmostApplication() const
     const std::optional<xcb_window_t> window = activeWindow();
     if (!window)
         return std::nullopt;
-    const std::optional<qint64> process = processOf(*window);
-    if (!process)
+    RunningApplication application = applicationOf(*window, processOf(*window).value_or(0));
+    if (application.processIdentifier == 0 && application.localizedName.isEmpty())
         return std::nullopt;
-    return applicationOf(*window, *process);
+    return application;
 }
 
 bool X11Workspace::hasApplication(const QString &bundleIdentifier) const
@@ -60,7 +62,16 @@ std::optional<xcb_window_t> X11Workspace::activeWindow() const
 
 std::optional<qint64> X11Workspace::processOf(xcb_window_t window) const
 {
-    return m_connection.clientProcess(window);
+    const std::optional<quint32> stated = m_connection.property32(window, m_connection.atom("_NET_WM_PID"));
+    return processOfClient(m_connection.clientProcess(window),
+                           stated ? std::optional(qint64{*stated}) : std::nullopt,
+                           !isOfAnotherMachine(window));
+}
+
+bool X11Workspace::isOfAnotherMachine(xcb_window_t window) const
+{
+    const QByteArray machine = m_connection.property(window, XCB_ATOM_WM_CLIENT_MACHINE);
+    return !isOwnMachine(QString::fromLocal8Bit(machine.split('\0').first()), QSysInfo::machineHostName());
 }
 
 QString X11Workspace::titleOf(xcb_window_t window) const
@@ -69,6 +80,12 @@ QString X11Workspace::titleOf(xcb_window_t window) const
     if (!title.isEmpty())
         return QString::fromUtf8(title);
     return QString::fromLocal8Bit(m_connection.property(window, XCB_ATOM_WM_NAME));
+}
+
+KeyTaker X11Workspace::keyTakerOf(xcb_window_t window) const
+{
+    const WindowIdentity identity = identityOf(window, processOf(window).value_or(0));
+    return vesk::keyTakerOf(identity, m_entries.match(identity));
 }
 
 void X11Workspace::warmUp() const
@@ -90,9 +107,12 @@ void X11Workspace::onEvent(const xcb_generic_event_t *event)
         m_lastWindow = window;
         m_activationTime = notify->time;
         const qint64 process = processOf(*window).value_or(0);
-        if (process != 0 && process != m_lastProcess) {
+        const RunningApplication application = applicationOf(*window, process);
+        // Programs without a process here cannot be told from each other.
+        const bool isOther = process == 0 ? !application.localizedName.isEmpty() : process != m_lastProcess;
+        if (isOther) {
             m_lastProcess = process;
-            Q_EMIT didActivateApplication(applicationOf(*window, process));
+            Q_EMIT didActivateApplication(application);
         }
     }
     Q_EMIT activeWindowChanged();
@@ -117,11 +137,13 @@ WindowIdentity X11Workspace::identityOf(xcb_window_t window, qint64 processIdent
 {
     const QByteArray gtkId = m_connection.property(window, m_connection.atom("_GTK_APPLICATION_ID"));
     const QList<QByteArray> classes = m_connection.property(window, XCB_ATOM_WM_CLASS).split('\0');
-    const QFileInfo executable(QStringLiteral("/proc/%1/exe").arg(processIdentifier));
+    QString executable;
+    if (processIdentifier != 0 && !isOfAnotherMachine(window))
+        executable = QFileInfo(QStringLiteral("/proc/%1/exe").arg(processIdentifier)).symLinkTarget();
     return {.gtkApplicationId = QString::fromUtf8(gtkId),
             .instanceName = QString::fromLocal8Bit(classes.value(0)),
             .className = QString::fromLocal8Bit(classes.value(1)),
-            .executableName = QFileInfo(executable.symLinkTarget()).fileName()};
+            .executableName = QFileInfo(executable).fileName()};
 }
 
 } // namespace vesk

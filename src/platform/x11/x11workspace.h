@@ -3,6 +3,7 @@
 
 #include "platform/freedesktop/desktopentries.h"
 #include "platform/workspace.h"
+#include "platform/x11/keytaker.h"
 
 #include <xcb/xcb.h>
 
@@ -24,15 +25,24 @@ public:
     bool openUrl(const QUrl &url) override;
     bool openApplication(const QString &bundleIdentifier) override;
 
-    /// The window that has the keyboard; none for the desktop itself, or if the window has gone (window
+    /// The window that has the keyboard; nullopt for the desktop itself, or if the window has gone (window
     /// managers may leave its number behind).
     [[nodiscard]] std::optional<xcb_window_t> activeWindow() const;
     /// The same as of the events that were handled so far. While a key press is handled, that is the window
     /// of the press, even if another window has become active since.
     [[nodiscard]] std::optional<xcb_window_t> reportedWindow() const { return m_reportedWindow; }
+    /// The window that was active last; the same while there is none.
+    [[nodiscard]] std::optional<xcb_window_t> lastActiveWindow() const { return m_lastWindow; }
+    /// The process that shows a window on this machine: for a program of another machine the one that
+    /// brings its windows here, such as ssh. Nullopt if it is gone or cannot be told.
     [[nodiscard]] std::optional<qint64> processOf(xcb_window_t window) const;
-    /// What the window tells of its application.
+    /// Whether the window says that its program runs on another machine. Its process identifier then means
+    /// nothing here.
+    [[nodiscard]] bool isOfAnotherMachine(xcb_window_t window) const;
+    /// What the window says about its application.
     [[nodiscard]] WindowIdentity identityOf(xcb_window_t window, qint64 processIdentifier) const;
+    /// What the application of a window does with the keys of a copy.
+    [[nodiscard]] KeyTaker keyTakerOf(xcb_window_t window) const;
     [[nodiscard]] const DesktopEntries &entries() const { return m_entries; }
     /// Title of a window; empty if it has none.
     [[nodiscard]] QString titleOf(xcb_window_t window) const;
