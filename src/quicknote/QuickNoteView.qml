@@ -76,8 +76,26 @@ FocusScope {
         }
     }
 
-    NoteEditor {
+    Text {
+        id: remark
+
         anchors.top: header.bottom
+        anchors.topMargin: visible ? Theme.space : 0
+        x: root.sideMargin
+        width: root.width - 2 * root.sideMargin
+        height: visible ? implicitHeight : 0
+        visible: text.length > 0
+        text: root.model.remark
+        textFormat: Text.PlainText
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
+        elide: Text.ElideRight
+        font: Theme.fonts.caption
+        color: Theme.secondary
+    }
+
+    NoteEditor {
+        anchors.top: remark.bottom
         anchors.bottom: divider.top
         anchors.topMargin: Theme.wideSpace
         anchors.bottomMargin: Theme.wideSpace

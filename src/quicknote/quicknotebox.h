@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 namespace vesk {
 
 /// The place where the user writes a note at once, without going through the panel.
@@ -14,8 +16,10 @@ public:
 
     virtual ~QuickNoteBox() = default;
 
-    /// Brings the box up with the keyboard.
-    virtual void show(Mode mode) = 0;
+    /// Brings the box up with the keyboard. `remark` is a line for the user beside the note, such as why it
+    /// has no text; empty for none.
+    virtual void show(Mode mode, const QString &remark) = 0;
+    void show(Mode mode) { show(mode, QString()); }
     /// Takes the box away and keeps what was written in it; does nothing if it is not there.
     virtual void close() = 0;
     [[nodiscard]] virtual bool isShowing() const = 0;

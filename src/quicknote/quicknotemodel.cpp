@@ -33,6 +33,14 @@ void QuickNoteModel::setText(const QString &text)
     Q_EMIT textChanged();
 }
 
+void QuickNoteModel::setRemark(const QString &remark)
+{
+    if (m_remark == remark)
+        return;
+    m_remark = remark;
+    Q_EMIT remarkChanged();
+}
+
 QString QuickNoteModel::title() const
 {
     return isChecklist() ? tr("Quick Checklist") : tr("Quick Note");

@@ -21,6 +21,8 @@ class QuickNoteModel : public QObject
     Q_PROPERTY(bool isChecklist READ isChecklist NOTIFY modeChanged)
     Q_PROPERTY(QString title READ title NOTIFY modeChanged)
     Q_PROPERTY(QString symbol READ symbol NOTIFY modeChanged)
+    /// A line beside the draft, such as why it has no text; empty for none.
+    Q_PROPERTY(QString remark READ remark NOTIFY remarkChanged)
 
 public:
     /// Takes the mode's own draft up; a checklist begins with a box.
@@ -36,10 +38,13 @@ public:
     [[nodiscard]] bool isChecklist() const { return m_mode == QuickNoteBox::Mode::Checklist; }
     [[nodiscard]] QString title() const;
     [[nodiscard]] QString symbol() const;
+    [[nodiscard]] const QString &remark() const { return m_remark; }
+    void setRemark(const QString &remark);
 
 Q_SIGNALS:
     void textChanged();
     void modeChanged();
+    void remarkChanged();
 
     // What the view asks of the box.
     void saveRequested();
@@ -51,6 +56,7 @@ private:
     QuickNoteBox::Mode m_mode = QuickNoteBox::Mode::Note;
     QString m_text;
     QString m_otherDraft;
+    QString m_remark;
 };
 
 } // namespace vesk

@@ -71,11 +71,12 @@ void QuickNotePanel::makeWindow()
     connect(m_fade.get(), &WindowFade::gone, m_view.get(), &QWindow::hide);
 }
 
-void QuickNotePanel::show(Mode mode)
+void QuickNotePanel::show(Mode mode, const QString &remark)
 {
     // First of all: what the user types from here on is meant for the box.
     m_needs.application.holdKeys();
     m_model.begin(mode);
+    m_model.setRemark(remark);
     if (!m_view)
         makeWindow();
     m_view->setTitle(m_model.title());

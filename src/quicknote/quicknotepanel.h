@@ -47,7 +47,8 @@ public:
     explicit QuickNotePanel(const Needs &needs);
     ~QuickNotePanel() override;
 
-    void show(Mode mode) override;
+    using QuickNoteBox::show;
+    void show(Mode mode, const QString &remark) override;
     void close() override;
     [[nodiscard]] bool isShowing() const override { return m_isShowing; }
     /// Keeps the draft as a new note, closes the box and says so. Does nothing while there is nothing

@@ -34,13 +34,20 @@ struct ServicesWorld : StoreFolder, ProgramWorld
     class MemoryBox final : public QuickNoteBox
     {
     public:
-        void show(Mode mode) override { m_mode = mode; }
+        using QuickNoteBox::show;
+        void show(Mode mode, const QString &remark) override
+        {
+            m_mode = mode;
+            m_remark = remark;
+        }
         void close() override { m_mode.reset(); }
         [[nodiscard]] bool isShowing() const override { return m_mode.has_value(); }
         [[nodiscard]] std::optional<Mode> mode() const { return m_mode; }
+        [[nodiscard]] const QString &remark() const { return m_remark; }
 
     private:
         std::optional<Mode> m_mode;
+        QString m_remark;
     };
 
     /// `owners` have the checklist's combination for themselves.
