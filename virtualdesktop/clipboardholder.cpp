@@ -3,7 +3,8 @@
 
 namespace vesk {
 
-std::unique_ptr<ClipboardHolder> ClipboardHolder::hold(const QString &displayName, const Forms &forms)
+std::unique_ptr<ClipboardHolder> ClipboardHolder::hold(const QString &displayName, const Forms &forms,
+                                                       const char *selection)
 {
     std::unique_ptr<ClipboardHolder> holder(new ClipboardHolder(forms));
     const auto handle = [holder = holder.get()](DisplayConnection &display,
@@ -12,7 +13,7 @@ std::unique_ptr<ClipboardHolder> ClipboardHolder::hold(const QString &displayNam
         if (request && !holder->m_isHanging)
             holder->answer(display, *request);
     };
-    holder->m_thread = SelectionThread::own(displayName, "CLIPBOARD", handle);
+    holder->m_thread = SelectionThread::own(displayName, selection, handle);
     return holder->m_thread ? std::move(holder) : nullptr;
 }
 

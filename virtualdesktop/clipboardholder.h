@@ -8,15 +8,15 @@
 
 namespace vesk {
 
-/// What a user has copied in some other program, which owns CLIPBOARD and serves it.
+/// What a user has copied or selected in some other program, which owns the selection and serves it.
 class ClipboardHolder final
 {
 public:
     using Forms = QMap<QByteArray, QByteArray>;
 
-    /// Owns the clipboard when this returns. Null if the server did not answer.
-    [[nodiscard]] static std::unique_ptr<ClipboardHolder> hold(const QString &displayName,
-                                                               const Forms &forms);
+    /// Owns the selection when this returns. Null if the server did not answer.
+    [[nodiscard]] static std::unique_ptr<ClipboardHolder> hold(const QString &displayName, const Forms &forms,
+                                                               const char *selection = "CLIPBOARD");
 
     /// A program that hangs goes on owning the clipboard and answers nobody.
     void setHanging(bool isHanging) { m_isHanging = isHanging; }

@@ -13,14 +13,18 @@ std::unique_ptr<SelectionThread> SelectionThread::own(const QString &displayName
     std::unique_ptr<DisplayConnection> display = DisplayConnection::open(displayName);
     if (!display)
         return nullptr;
-    xcb_set_selection_owner(display->xcb(), display->window(), display->atom(selection), XCB_CURRENT_TIME);
+    const xcb_atom_t atom = display->atom(selection);
+    xcb_set_selection_owner(display->xcb(), display->window(), atom, XCB_CURRENT_TIME);
     // The answer to any question says that the server has done what came before it.
     static_cast<void>(display->atom("TARGETS"));
-    return std::unique_ptr<SelectionThread>(new SelectionThread(std::move(display), std::move(handler)));
+    return std::unique_ptr<SelectionThread>(
+        new SelectionThread(std::move(display), atom, std::move(handler)));
 }
 
-SelectionThread::SelectionThread(std::unique_ptr<DisplayConnection> display, Handler handler)
+SelectionThread::SelectionThread(std::unique_ptr<DisplayConnection> display, xcb_atom_t selection,
+                                 Handler handler)
     : m_display(std::move(display))
+    , m_selection(selection)
     , m_handler(std::move(handler))
     , m_thread([this] { serve(); })
 {
@@ -30,6 +34,12 @@ SelectionThread::~SelectionThread()
 {
     m_isEnding = true;
     m_thread.join();
+}
+
+void SelectionThread::claimAgain()
+{
+    xcb_set_selection_owner(m_display->xcb(), window(), m_selection, XCB_CURRENT_TIME);
+    xcb_flush(m_display->xcb());
 }
 
 void SelectionThread::serve()

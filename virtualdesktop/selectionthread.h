@@ -24,6 +24,11 @@ public:
     ~SelectionThread();
     Q_DISABLE_COPY_MOVE(SelectionThread)
 
+    /// Owns it once more, with a new time.
+    void claimAgain();
+    /// The window by which it is owned.
+    [[nodiscard]] xcb_window_t window() const { return m_display->window(); }
+
     /// The request in an event; none if it is something else.
     [[nodiscard]] static std::optional<xcb_selection_request_event_t>
     requestIn(const xcb_generic_event_t &event);
@@ -37,11 +42,12 @@ public:
                        bool isGiven);
 
 private:
-    SelectionThread(std::unique_ptr<DisplayConnection> display, Handler handler);
+    SelectionThread(std::unique_ptr<DisplayConnection> display, xcb_atom_t selection, Handler handler);
 
     void serve();
 
     const std::unique_ptr<DisplayConnection> m_display;
+    const xcb_atom_t m_selection;
     const Handler m_handler;
     std::atomic_bool m_isEnding = false;
     std::thread m_thread;

@@ -5,6 +5,8 @@
 #include "platform/accessibility.h"
 #include "platform/clock.h"
 
+#include <QUrl>
+
 #include <algorithm>
 #include <coroutine>
 #include <memory>
@@ -62,6 +64,17 @@ QCoro::Task<> settleAtDeadline(Clock *clock, std::shared_ptr<Answer> answer)
     answer->settle(std::nullopt);
 }
 
+QCoro::Task<> searchShown(Accessibility *accessibility, qint64 processIdentifier,
+                          std::shared_ptr<Answer> answer)
+{
+    const std::optional<AccessibleElement> page = co_await accessibility->copyElement(
+        Accessibility::applicationElement(processIdentifier), Accessibility::ElementAttribute::ShownPage);
+    std::optional<QString> url;
+    if (page && !answer->isSettled)
+        url = co_await accessibility->copyString(*page, Accessibility::StringAttribute::Url);
+    answer->settle(webAddress(url));
+}
+
 QCoro::Task<> search(Accessibility *accessibility, qint64 processIdentifier, std::shared_ptr<Answer> answer)
 {
     // The outermost web area is the page; one inside it is a frame, whose address nobody knows.
@@ -84,6 +97,24 @@ QCoro::Task<> search(Accessibility *accessibility, qint64 processIdentifier, std
     answer->settle(webAddress(url));
 }
 
+QCoro::Task<std::optional<QString>> settled(Clock *clock, std::shared_ptr<Answer> answer)
+{
+    if (!answer->isSettled)
+        settleAtDeadline(clock, answer);
+    const Settling settling{answer};
+    co_await settling;
+    co_return std::as_const(answer->address);
+}
+
+/// Whether a text can be an address without its scheme. Most texts are not, and cost no search.
+bool isPerhapsAddress(const QString &text)
+{
+    const bool isWord = std::ranges::none_of(text, [](QChar unit) { return unit.isSpace(); });
+    return isWord && !text.contains("://"_L1)
+           && (text.contains(u'.') || text.contains(u':') || text.contains(u'/')
+               || text.startsWith("localhost"_L1));
+}
+
 } // namespace
 
 QCoro::Task<std::optional<QString>> readPageAddress(Accessibility *accessibility, Clock *clock,
@@ -91,11 +122,39 @@ QCoro::Task<std::optional<QString>> readPageAddress(Accessibility *accessibility
 {
     const auto answer = std::make_shared<Answer>();
     search(accessibility, processIdentifier, answer);
-    if (!answer->isSettled)
-        settleAtDeadline(clock, answer);
-    const Settling settling{answer};
-    co_await settling;
-    co_return std::as_const(answer->address);
+    return settled(clock, answer);
+}
+
+QCoro::Task<std::optional<QString>> wholeAddress(Accessibility *accessibility, Clock *clock,
+                                                 qint64 processIdentifier, QString text)
+{
+    if (!isPerhapsAddress(text))
+        co_return std::nullopt;
+    // Within a page, such a text is a text like any other.
+    if (co_await readPageAddress(accessibility, clock, processIdentifier))
+        co_return std::nullopt;
+    const auto answer = std::make_shared<Answer>();
+    searchShown(accessibility, processIdentifier, answer);
+    const std::optional<QString> address = co_await settled(clock, answer);
+    if (!address || !isShownForm(text, *address))
+        co_return std::nullopt;
+    co_return address;
+}
+
+bool isShownForm(const QString &text, const QString &address)
+{
+    const QUrl url(address);
+    const QString decoded = url.toString(QUrl::RemoveScheme).sliced(2);
+    for (QString shown :
+         {address.section("://"_L1, 1), decoded, url.toDisplayString().section("://"_L1, 1)}) {
+        if (url.path().size() <= 1 && !url.hasQuery() && !url.hasFragment() && shown.endsWith(u'/'))
+            shown.chop(1);
+        const QString given = text.endsWith(u'/') && !shown.contains(u'/') ? text.chopped(1) : text;
+        const bool isShort = shown.startsWith("www."_L1) && given == shown.sliced(4);
+        if (given == shown || isShort)
+            return true;
+    }
+    return false;
 }
 
 } // namespace vesk

@@ -9,7 +9,11 @@
 #include <QCoreApplication>
 #include <QPointer>
 
+#include <algorithm>
+
 namespace vesk {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -21,6 +25,17 @@ std::optional<QString> nonBlank(const std::optional<QString> &text)
 {
     const QString trimmed = text ? markup::trimmed(*text) : QString();
     return trimmed.isEmpty() ? std::nullopt : std::optional(trimmed);
+}
+
+/// Whether a text is one line with its line break.
+bool isWholeLine(const QString &text)
+{
+    const qsizetype end = text.endsWith("\r\n"_L1) ? text.size() - 2 : text.size() - 1;
+    const auto isBreak = [](QChar unit) {
+        return unit == u'\n' || unit == u'\r' || unit == QChar::ParagraphSeparator
+               || unit == QChar::LineSeparator;
+    };
+    return end >= 0 && isBreak(text.back()) && std::none_of(text.cbegin(), text.cbegin() + end, isBreak);
 }
 
 } // namespace
@@ -64,36 +79,45 @@ QCoro::Task<std::optional<QString>> SelectionReader::readPageAddress(qint64 proc
     return vesk::readPageAddress(&m_needs.accessibility, &m_needs.clock, processIdentifier);
 }
 
-QCoro::Task<std::optional<QString>> SelectionReader::readSelection()
+QCoro::Task<SelectionReader::Reading> SelectionReader::readSelection()
 {
     const QPointer<SelectionReader> self(this);
     const EventPoster::Target target = m_needs.poster.target();
-    const std::optional<QString> selected = co_await selectedTextViaAccessibility();
+    const SelectedText selected = co_await m_needs.accessibility.selectedText();
     // The user may have withdrawn the trust meanwhile.
     if (self.isNull() || !m_needs.accessibility.isProcessTrusted())
-        co_return std::nullopt;
-    std::optional<QString> text = nonBlank(selected);
+        co_return Reading();
+    std::optional<QString> text = co_await readSelected(target, selected);
+    if (!text && !self.isNull())
+        text = co_await m_needs.watcher.recentCopy(kRecentCopyAge);
     if (text)
-        co_return text;
-    // An application that says that nothing is selected is not made to copy: it might copy the line
-    // that the caret is in.
-    const bool isKnown = selected && selected->isEmpty();
-    if (!isKnown) {
-        text = co_await m_copy.copySelection(target);
-        if (text || self.isNull())
-            co_return text;
-    }
-    co_return co_await m_needs.watcher.recentCopy(kRecentCopyAge);
+        co_return Reading{.text = text};
+    if (selected.isSilent)
+        co_return Reading{.lack = Reading::Lack::NoAnswer};
+    co_return Reading{.lack = selected.isClaimed ? Reading::Lack::NotGiven : Reading::Lack::None};
 }
 
-QCoro::Task<std::optional<QString>> SelectionReader::selectedTextViaAccessibility()
+QCoro::Task<std::optional<QString>> SelectionReader::readSelected(EventPoster::Target target,
+                                                                  SelectedText selected)
 {
-    Accessibility &accessibility = m_needs.accessibility;
-    const std::optional<AccessibleElement> focused = co_await accessibility.copyElement(
-        Accessibility::systemWideElement(), Accessibility::ElementAttribute::FocusedElement);
-    if (!focused)
+    const QPointer<SelectionReader> self(this);
+    const std::optional<RunningApplication> frontmost = m_needs.workspace.frontmostApplication();
+    const std::optional<QString> text = nonBlank(selected.text);
+    if (text) {
+        const qint64 process = frontmost ? frontmost->processIdentifier : 0;
+        const std::optional<QString> address =
+            co_await wholeAddress(&m_needs.accessibility, &m_needs.clock, process, *text);
+        co_return address ? address : text;
+    }
+    // An application that says that nothing is selected is not made to copy: it might copy the line
+    // that the caret is in.
+    if (selected.finding == SelectedText::Finding::Nothing)
         co_return std::nullopt;
-    co_return co_await accessibility.copyString(*focused, Accessibility::StringAttribute::SelectedText);
+    const std::optional<QString> copied = co_await m_copy.copySelection(target);
+    // Some editors copy the caret's line where nothing is selected.
+    if (!copied || (isWholeLine(*copied) && !selected.isClaimed))
+        co_return std::nullopt;
+    co_return nonBlank(copied);
 }
 
 } // namespace vesk

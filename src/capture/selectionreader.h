@@ -14,6 +14,7 @@
 namespace vesk {
 
 class Accessibility;
+struct SelectedText;
 
 /// Reads what is selected in the frontmost application, and where. Owned by the application, one for
 /// the program.
@@ -42,6 +43,24 @@ public:
         qint64 processIdentifier = 0;
     };
 
+    /// What came of reading a selection.
+    struct Reading
+    {
+        enum class Lack {
+            /// Nothing was missing, or nothing was selected.
+            None,
+            /// The application left a question without an answer.
+            NoAnswer,
+            /// The application says that something is selected, and did not hand it over.
+            NotGiven,
+        };
+
+        /// Without white space at its ends; nullopt if that leaves nothing.
+        std::optional<QString> text = {};
+        /// Why there is no text although something may be selected.
+        Lack lack = Lack::None;
+    };
+
     explicit SelectionReader(const Needs &needs);
 
     /// The frontmost application and its window, as they are at the call. None if nothing is
@@ -54,15 +73,16 @@ public:
     /// is being read.
     QCoro::Task<std::optional<QString>> readPageAddress(qint64 processIdentifier);
 
-    /// The selected text without white space at its ends, or else what the user has copied within the
-    /// last 8 seconds; none if that is nothing but white space, or the user's trust is missing. Where
-    /// the selection cannot be read, the application is made to copy it; the pasteboard then has what
-    /// it had before. Texts beyond `kMaximumTextBytes` may be cut beyond that size.
-    QCoro::Task<std::optional<QString>> readSelection();
+    /// The selected text, or else what the user has copied within the last 8 seconds. There is none
+    /// without the user's trust. Where the selection cannot be read, the application is made to copy it;
+    /// the pasteboard then has what it had before. In a browser's address bar, the text is the whole address
+    /// even where the browser shows only a part. Texts beyond `kMaximumTextBytes` may be cut beyond that
+    /// size.
+    QCoro::Task<Reading> readSelection();
 
 private:
-    /// As the platform gives it: empty if surely nothing is selected, none if it cannot tell.
-    QCoro::Task<std::optional<QString>> selectedTextViaAccessibility();
+    /// The selected text, by the way that fits; nullopt if there is none.
+    QCoro::Task<std::optional<QString>> readSelected(EventPoster::Target target, SelectedText selected);
 
     Needs m_needs;
     SyntheticCopy m_copy;

@@ -54,10 +54,9 @@ QCoro::Task<std::optional<QString>> SyntheticCopy::copySelection(EventPoster::Ta
     const std::optional<QString> copied = co_await copyAndRestore(target);
     if (!self.isNull())
         m_isCopying = false;
-    const QString text = markup::trimmed(copied.value_or(QString()));
-    if (text.isEmpty())
+    if (markup::trimmed(copied.value_or(QString())).isEmpty())
         co_return std::nullopt;
-    co_return text;
+    co_return copied;
 }
 
 QCoro::Task<std::optional<QString>> SyntheticCopy::copyAndRestore(EventPoster::Target target)

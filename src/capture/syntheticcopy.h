@@ -38,10 +38,10 @@ public:
 
     explicit SyntheticCopy(const Needs &needs);
 
-    /// The text that the application copies in the window that the user pressed a key in, without white space
-    /// at its ends. None if it copies nothing within 0.5 seconds, no text or only white space, if the keys
-    /// cannot be posted, if the user copies something before they are, or if an earlier question is not
-    /// answered yet. The pasteboard then has what it had before, or what the user has copied meanwhile.
+    /// The text that the application copies in the window that the user pressed a key in, with any white
+    /// space at its ends. Nullopt if it copies nothing within 0.5 seconds, no text or only white space, if
+    /// the keys cannot be posted, if the user copies something before they are, or if an earlier question is
+    /// not answered yet. The pasteboard then has what it had before, or what the user has copied meanwhile.
     QCoro::Task<std::optional<QString>> copySelection(EventPoster::Target target);
 
 private:

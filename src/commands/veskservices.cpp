@@ -39,6 +39,23 @@ QString addedTo(const QString &title, const QString &untitled)
     return VeskServices::tr("Added to “%1”").arg(title.isEmpty() ? untitled : title);
 }
 
+/// Why there is no text although something may be selected in this application; empty if nothing is to be
+/// said.
+QString remarkOn(SelectionReader::Reading::Lack lack, const QString &application)
+{
+    using Lack = SelectionReader::Reading::Lack;
+    switch (lack) {
+    case Lack::NoAnswer:
+        return VeskServices::tr("%1 did not answer, so Vesk could not read what is selected there.")
+            .arg(application);
+    case Lack::NotGiven:
+        return VeskServices::tr("%1 did not hand over the selected text.").arg(application);
+    case Lack::None:
+        break;
+    }
+    return {};
+}
+
 /// The note changed last among those that have checkboxes; null if none has.
 Note *findLastChecklist(NotesStore &store)
 {
@@ -167,17 +184,17 @@ QCoro::Task<> VeskServices::captureSelection(Target target, Source press)
 {
     const QPointer<VeskServices> self(this);
     const auto reading = beginReading();
-    std::optional<Selection> selection;
+    Reading read;
     if (m_needs.accessibility.isProcessTrusted()) {
-        selection = co_await readSelection(press);
+        read = co_await readSelection(press);
         if (self.isNull())
             co_return;
     }
-    if (selection) {
-        keep(*selection, target);
+    if (read.selection) {
+        keep(*read.selection, target);
         co_return;
     }
-    openQuickNote(target);
+    openQuickNote(target, read.remark);
     // The question comes up over the box. The trust may have been withdrawn while the text was read.
     if (!m_needs.accessibility.isProcessTrusted())
         askForAccessOnce();
@@ -199,13 +216,15 @@ QCoro::Task<> VeskServices::addToChecklist(Source press)
 {
     const QPointer<VeskServices> self(this);
     const auto reading = beginReading();
-    const std::optional<Selection> selection = co_await readSelection(press);
+    const Reading read = co_await readSelection(press);
     if (self.isNull())
         co_return;
-    if (selection)
-        keepInChecklist(*selection);
-    else
+    if (read.selection)
+        keepInChecklist(*read.selection);
+    else if (read.remark.isEmpty())
         m_needs.toast.show(tr("Select text to add to your checklist"), u"text.cursor"_s);
+    else
+        m_needs.toast.show(read.remark, kTrouble);
 }
 
 void VeskServices::savePrompt()
@@ -218,26 +237,28 @@ QCoro::Task<> VeskServices::savePromptSelection()
 {
     const QPointer<VeskServices> self(this);
     const auto reading = beginReading();
-    const std::optional<QString> text = co_await m_needs.reader.readSelection();
+    const SelectionReader::Reading read = co_await m_needs.reader.readSelection();
     // Two taps of Shift mean nothing else where nothing is selected, so nothing is said.
-    if (!self.isNull() && text)
-        keepPrompt(*text);
+    if (!self.isNull() && read.text)
+        keepPrompt(*read.text);
 }
 
-QCoro::Task<std::optional<VeskServices::Selection>> VeskServices::readSelection(Source press)
+QCoro::Task<VeskServices::Reading> VeskServices::readSelection(Source press)
 {
     const QPointer<VeskServices> self(this);
     // Asked for first and waited for last, so that the two answers come side by side.
     const auto address = m_needs.reader.readPageAddress(press ? press->processIdentifier : 0);
-    const std::optional<QString> text = co_await m_needs.reader.readSelection();
-    if (self.isNull() || !text)
-        co_return std::nullopt;
-    Selection selection{.text = *text, .source = std::nullopt};
+    const SelectionReader::Reading read = co_await m_needs.reader.readSelection();
+    if (self.isNull())
+        co_return Reading();
+    if (!read.text)
+        co_return Reading{.remark = press ? remarkOn(read.lack, press->source.app) : QString()};
+    Selection selection{.text = *read.text, .source = std::nullopt};
     if (press) {
         selection.source = press->source;
         selection.source->url = co_await address;
     }
-    co_return selection;
+    co_return Reading{.selection = selection};
 }
 
 void VeskServices::keep(const Selection &selection, Target target)
@@ -326,10 +347,10 @@ void VeskServices::tellNotSaved()
     m_needs.toast.show(notices::kNotSaved);
 }
 
-void VeskServices::openQuickNote(Target target)
+void VeskServices::openQuickNote(Target target, const QString &remark)
 {
     const bool isChecklist = target == Target::NewChecklist;
-    m_needs.quickNote.show(isChecklist ? QuickNoteBox::Mode::Checklist : QuickNoteBox::Mode::Note);
+    m_needs.quickNote.show(isChecklist ? QuickNoteBox::Mode::Checklist : QuickNoteBox::Mode::Note, remark);
 }
 
 void VeskServices::openComposer()

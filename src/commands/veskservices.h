@@ -97,6 +97,14 @@ private:
         QString text;
         std::optional<CaptureSource> source;
     };
+    /// What came of asking for the selection.
+    struct Reading
+    {
+        /// Nullopt if there is none.
+        std::optional<Selection> selection = {};
+        /// For the user: why there is none although something may be selected. Empty for no such reason.
+        QString remark = {};
+    };
 
     void perform(quint32 id);
     /// Marks a reading as under way for as long as what is returned lives.
@@ -117,8 +125,8 @@ private:
     QCoro::Task<> captureSelection(Target target, Source press);
     QCoro::Task<> addToChecklist(Source press);
     QCoro::Task<> savePromptSelection();
-    /// What is selected, with the page's address in its source. None if nothing is.
-    QCoro::Task<std::optional<Selection>> readSelection(Source press);
+    /// What is selected, with the page's address in its source.
+    QCoro::Task<Reading> readSelection(Source press);
 
     void keep(const Selection &selection, Target target);
     void keepInChecklist(const Selection &selection);
@@ -130,7 +138,7 @@ private:
     void saveAndConfirm(const QString &message, const QString &symbol);
     void confirm(const QString &message, const QString &symbol);
     void tellNotSaved();
-    void openQuickNote(Target target);
+    void openQuickNote(Target target, const QString &remark);
     void openComposer();
 
     Needs m_needs;

@@ -14,7 +14,7 @@ namespace vesk {
 inline constexpr qsizetype kMaximumTextBytes = qsizetype{16} * 1024 * 1024;
 
 /// Names one element of another application's user interface. A value that may outlive the element;
-/// then it names nothing and every question about it gives none.
+/// then it names nothing and every question about it gives nullopt.
 struct AccessibleElement
 {
     /// Process that shows the element; 0 for the system-wide element.
@@ -25,6 +25,30 @@ struct AccessibleElement
     friend bool operator==(const AccessibleElement &, const AccessibleElement &) = default;
 };
 
+/// What can be told about the text that is selected where the user works.
+struct SelectedText
+{
+    enum class Finding {
+        /// `text` is selected.
+        Selected,
+        /// Nothing is selected that may be read. No other way of asking should call this in doubt. A
+        /// password field counts as nothing selected.
+        Nothing,
+        /// It cannot be told. The application may be asked to copy: a password field copies nothing.
+        Unknown,
+    };
+
+    Finding finding = Finding::Unknown;
+    /// Not trimmed. A text of more than `kMaximumTextBytes` may come cut anywhere beyond that size; the
+    /// caller refuses it. Empty unless the finding is `Selected`.
+    QString text = {};
+    /// Whether the application has said, since the user last pressed a key or a button, that something is
+    /// selected in it. What it offers with that may be a password, so it is not `text`.
+    bool isClaimed = false;
+    /// Whether the application left a question without an answer.
+    bool isSilent = false;
+};
+
 /// What the user lets Vesk read of other applications, and the reading itself.
 class Accessibility : public QObject
 {
@@ -32,15 +56,14 @@ class Accessibility : public QObject
 
 public:
     enum class ElementAttribute {
-        /// Of the system-wide element or an application: what has the keyboard.
+        /// Of the system-wide element or an application: what has the keyboard. The application's own
+        /// element if the application offers no elements at all; nullopt if it could not be found out.
         FocusedElement,
         Parent,
+        /// Of an application: the web page that its active window shows, whatever has the keyboard.
+        ShownPage,
     };
     enum class StringAttribute {
-        /// Empty if surely nothing is selected, which no other way of asking should then call in
-        /// doubt; none if it cannot be told. Never the content of a password field, which counts as
-        /// nothing selected, nor content that its owner declares secret.
-        SelectedText,
         /// The platform's role name in lower case; a web page is `kWebAreaRole`.
         Role,
         /// Of a web area: its page's address.
@@ -51,7 +74,7 @@ public:
     static const QString kWebAreaRole;
 
     /// Whether the user has agreed that Vesk reads other applications. While false, nothing of
-    /// another application is read: every question below gives none.
+    /// another application is read: every question below gives nullopt, or `Unknown`.
     [[nodiscard]] virtual bool isProcessTrusted() const = 0;
 
     /// Asks the user for that agreement, in a window of the platform's, and returns at once. The
@@ -63,17 +86,20 @@ public:
     /// it has no title.
     [[nodiscard]] virtual std::optional<QString> focusedWindowTitle(qint64 processIdentifier) const = 0;
 
-    /// Another element that `element` refers to, within 300 ms. None if it has none, does not answer,
-    /// or is gone.
+    /// Another element that `element` refers to, within 300 ms. Nullopt if it has none, does not answer, or
+    /// is gone.
     virtual QCoro::Task<std::optional<AccessibleElement>> copyElement(AccessibleElement element,
                                                                       ElementAttribute attribute) = 0;
 
-    /// A string of the element, not trimmed. A question takes 300 ms at most, but for the transfer
-    /// of a long text, which goes on while it makes progress. None if the element has no such
-    /// string, does not answer, or is gone. A text of more than `kMaximumTextBytes` may come cut
-    /// anywhere beyond that size; the caller refuses it.
+    /// A string of the element, not trimmed, within 300 ms. Nullopt if the element has no such string,
+    /// does not answer, or is gone.
     virtual QCoro::Task<std::optional<QString>> copyString(AccessibleElement element,
                                                            StringAttribute attribute) = 0;
+
+    /// What is selected in the window that has the keyboard when this is called. Never the content of a
+    /// password field, nor content that its owner declares secret. Takes 600 ms at most, except for the
+    /// transfer of a long text, which goes on while it makes progress.
+    virtual QCoro::Task<SelectedText> selectedText() = 0;
 
     /// The element that stands for the whole desktop.
     [[nodiscard]] static AccessibleElement systemWideElement();

@@ -17,13 +17,14 @@ struct CaptureDesktop
 
     CaptureDesktop() { bringForward(kPid, QStringLiteral("Editor"), QStringLiteral("org.example.Editor")); }
 
-    /// Selects a text in the editor: an empty one is surely none, and no value is one that cannot be read.
+    /// Selects a text in the editor. For an empty one nothing is surely selected, and for nullopt it cannot
+    /// be told.
     void select(const std::optional<QString> &text)
     {
-        const AccessibleElement field{.processIdentifier = kPid, .address = QStringLiteral("field")};
-        accessibility.setElement(
-            field, {.role = QStringLiteral("text"), .selectedText = text, .url = {}, .parent = {}});
-        accessibility.setFocusedElement(field);
+        using Finding = SelectedText::Finding;
+        const Finding known = text == QString() ? Finding::Nothing : Finding::Selected;
+        accessibility.setSelectedText(
+            {.finding = text ? known : Finding::Unknown, .text = text.value_or(QString())});
     }
 
     [[nodiscard]] SelectionReader::Needs readersNeeds()

@@ -28,10 +28,9 @@ struct World
             std::optional<AccessibleElement> parent;
             if (i + 1 < rolesAndUrls.size())
                 parent = element(i + 1);
-            accessibility.setElement(element(i), {.role = role,
-                                                  .selectedText = {},
-                                                  .url = url.isNull() ? std::nullopt : std::optional(url),
-                                                  .parent = parent});
+            accessibility.setElement(
+                element(i),
+                {.role = role, .url = url.isNull() ? std::nullopt : std::optional(url), .parent = parent});
         }
         accessibility.setFocusedElement(element(0));
     }
@@ -54,6 +53,8 @@ private Q_SLOTS:
     void scheme();
     void outermostPageCounts();
     void noPageAroundTheKeyboard();
+    void shownForm_data();
+    void shownForm();
     void slowAnswer_data();
     void slowAnswer();
 };
@@ -102,6 +103,32 @@ void TestPageAddress::noPageAroundTheKeyboard()
     QVERIFY(!QCoro::waitFor(readPageAddress(&world.accessibility, &world.clock, kPid + 1)));
     world.accessibility.setFocusedElement(std::nullopt);
     QVERIFY(!QCoro::waitFor(readPageAddress(&world.accessibility, &world.clock, kPid)));
+}
+
+void TestPageAddress::shownForm_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<bool>("isShown");
+    const QString plain = u"https://example.org/a?b#c"_s;
+    QTest::newRow("without the scheme") << u"example.org/a?b#c"_s << plain << true;
+    QTest::newRow("a part of it") << u"example.org/a"_s << plain << false;
+    QTest::newRow("another address") << u"example.com/a?b#c"_s << plain << false;
+    QTest::newRow("empty path") << u"localhost:8080"_s << u"http://localhost:8080/"_s << true;
+    QTest::newRow("slash of an empty path") << u"example.org/"_s << u"https://example.org/"_s << true;
+    QTest::newRow("without www.") << u"example.org/a/"_s << u"https://www.example.org/a/"_s << true;
+    QTest::newRow("with www.") << u"www.example.org/a/"_s << u"https://www.example.org/a/"_s << true;
+    QTest::newRow("www. that is not there") << u"www.example.org"_s << u"https://example.org/"_s << false;
+    QTest::newRow("decoded") << u"example.org/café"_s << u"https://example.org/caf%C3%A9"_s << true;
+    QTest::newRow("encoded") << u"example.org/caf%C3%A9"_s << u"https://example.org/caf%C3%A9"_s << true;
+    QTest::newRow("letters of the host") << u"bücher.de"_s << u"https://xn--bcher-kva.de/"_s << true;
+}
+
+void TestPageAddress::shownForm()
+{
+    QFETCH(const QString, text);
+    QFETCH(const QString, address);
+    QTEST(isShownForm(text, address), "isShown");
 }
 
 void TestPageAddress::slowAnswer_data()

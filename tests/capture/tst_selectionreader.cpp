@@ -18,18 +18,23 @@ struct World : CaptureDesktop
 
     void ask()
     {
-        reader.readSelection().then([this](std::optional<QString> text) {
+        reader.readSelection().then([this](const SelectionReader::Reading &reading) {
             isAnswered = true;
-            answer = text;
+            answer = reading.text;
+            lack = reading.lack;
         });
     }
 
     SelectionReader reader{readersNeeds()};
     bool isAnswered = false;
     std::optional<QString> answer;
+    SelectionReader::Reading::Lack lack{};
 };
 
 } // namespace
+
+Q_DECLARE_METATYPE(SelectedText)
+Q_DECLARE_METATYPE(SelectionReader::Reading::Lack)
 
 /// What counts as selected, and what is said of where it was.
 class TestSelectionReader : public QObject
@@ -44,6 +49,11 @@ private Q_SLOTS:
     void unreadableSelectionIsCopied();
     void recentCopyIsTheLastResort_data();
     void recentCopyIsTheLastResort();
+    void caretsLineIsNotASelection_data();
+    void caretsLineIsNotASelection();
+    void missingTextHasAReason_data();
+    void missingTextHasAReason();
+    void addressBarGivesTheWholeAddress();
     void withoutTrustNothingIsCopied();
     void source_data();
     void source();
@@ -79,9 +89,9 @@ void TestSelectionReader::selectionThatComesLate()
     world.select(u"late"_s);
     world.accessibility.setDelay(80ms);
     world.ask();
-    world.clock.advance(100ms);
+    world.clock.advance(70ms);
     QVERIFY(!world.answer);
-    world.clock.advance(60ms);
+    world.clock.advance(10ms);
     QCOMPARE(world.answer, u"late"_s);
 }
 
@@ -136,6 +146,82 @@ void TestSelectionReader::recentCopyIsTheLastResort()
     world.clock.advance(500ms);
     QVERIFY(world.isAnswered);
     QCOMPARE(world.answer, expected);
+}
+
+void TestSelectionReader::caretsLineIsNotASelection_data()
+{
+    QTest::addColumn<QString>("copied");
+    QTest::addColumn<bool>("isClaimed");
+    QTest::addColumn<std::optional<QString>>("expected");
+    const auto kept = [](const QString &text) { return std::optional(text); };
+    const std::optional<QString> none;
+    QTest::newRow("line with its break") << u"one two\n"_s << false << none;
+    QTest::newRow("line with its break, of Windows") << u"one two\r\n"_s << false << none;
+    QTest::newRow("line that is said to be selected") << u"one two\n"_s << true << kept(u"one two"_s);
+    QTest::newRow("part of a line") << u"one two"_s << false << kept(u"one two"_s);
+    QTest::newRow("two lines") << u"one\ntwo\n"_s << false << kept(u"one\ntwo"_s);
+}
+
+void TestSelectionReader::caretsLineIsNotASelection()
+{
+    QFETCH(const QString, copied);
+    QFETCH(const bool, isClaimed);
+    World world;
+    world.accessibility.setSelectedText({.isClaimed = isClaimed});
+    world.poster.setResponse([&](EventPoster::Command) { world.pasteboard.setString(copied); });
+    world.ask();
+    world.clock.advance(1s);
+    QTEST(world.answer, "expected");
+}
+
+void TestSelectionReader::missingTextHasAReason_data()
+{
+    using Lack = SelectionReader::Reading::Lack;
+    QTest::addColumn<SelectedText>("selected");
+    QTest::addColumn<Lack>("lack");
+    QTest::newRow("nothing selected")
+        << SelectedText{.finding = SelectedText::Finding::Nothing} << Lack::None;
+    QTest::newRow("cannot be told") << SelectedText() << Lack::None;
+    QTest::newRow("claimed") << SelectedText{.isClaimed = true} << Lack::NotGiven;
+    QTest::newRow("busy") << SelectedText{.isClaimed = true, .isSilent = true} << Lack::NoAnswer;
+}
+
+void TestSelectionReader::missingTextHasAReason()
+{
+    QFETCH(const SelectedText, selected);
+    World world;
+    world.accessibility.setSelectedText(selected);
+    world.ask();
+    world.clock.advance(1s);
+    QVERIFY(world.isAnswered);
+    QVERIFY(!world.answer);
+    QTEST(world.lack, "lack");
+    // With a text there is nothing to excuse.
+    world.poster.setResponse([&world](EventPoster::Command) { world.pasteboard.setString(u"text"_s); });
+    world.ask();
+    world.clock.advance(1s);
+    QCOMPARE(world.lack, SelectionReader::Reading::Lack::None);
+}
+
+void TestSelectionReader::addressBarGivesTheWholeAddress()
+{
+    World world;
+    const AccessibleElement page{.processIdentifier = World::kPid, .address = u"page"_s};
+    world.accessibility.setElement(
+        page,
+        {.role = Accessibility::kWebAreaRole, .url = u"https://www.example.org/a"_s, .parent = std::nullopt});
+    world.accessibility.setShownPage(page);
+    world.select(u"example.org/a"_s);
+    world.ask();
+    QCOMPARE(world.answer, u"https://www.example.org/a"_s);
+    world.select(u"example.org"_s);
+    world.ask();
+    QCOMPARE(world.answer, u"example.org"_s);
+    // On the page itself, the words of the page count.
+    world.accessibility.setFocusedElement(page);
+    world.select(u"example.org/a"_s);
+    world.ask();
+    QCOMPARE(world.answer, u"example.org/a"_s);
 }
 
 void TestSelectionReader::withoutTrustNothingIsCopied()

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void failedSaveIsNotConfirmed();
     void nothingSelected_data();
     void nothingSelected();
+    void missingTextIsExplained();
     void sameKeyClosesTheBox();
     void trustWithdrawnWhileReading();
     void doubleShiftIsHeardOnlyWithTrust();
@@ -237,6 +238,28 @@ void TestVeskServices::nothingSelected()
     QVERIFY(world.texts().isEmpty() && world.prompts().isEmpty());
     QVERIFY(world.sounds.played().isEmpty());
     QVERIFY(world.poster.posted().isEmpty());
+}
+
+/// An application that is busy gives no text although something is highlighted in it.
+void TestVeskServices::missingTextIsExplained()
+{
+    const QString reason = u"Editor did not answer, so Vesk could not read what is selected there."_s;
+    ServicesWorld world;
+    world.accessibility.setSelectedText({.isClaimed = true, .isSilent = true});
+    world.command(kNote);
+    world.clock.advance(1s);
+    QCOMPARE(world.box.mode(), QuickNoteBox::Mode::Note);
+    QCOMPARE(world.box.remark(), reason);
+    world.box.close();
+    world.clock.advance(3s);
+    world.command(kAdd);
+    world.clock.advance(1s);
+    QCOMPARE(ServicesWorld::notice(), reason);
+    // The next time, nothing is selected.
+    world.clock.advance(9s);
+    world.select(QString());
+    world.command(kNote);
+    QCOMPARE(world.box.remark(), QString());
 }
 
 void TestVeskServices::sameKeyClosesTheBox()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/editortest.h"
+#include "desktop/foreignwindow.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -12,6 +13,8 @@ class TestSelection : public EditorTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void primaryOfAForeignApplicationIsConfirmedByACopy_data();
+    void primaryOfAForeignApplicationIsConfirmedByACopy();
     void selectionOutlivesATurnToAnotherWindow();
     void withoutConsentNothingIsRead();
     void noteIsPastedIntoTheEditor();
@@ -27,6 +30,38 @@ private:
         return m_desktop->display().readSelection("CLIPBOARD", 1s);
     }
 };
+
+void TestSelection::primaryOfAForeignApplicationIsConfirmedByACopy_data()
+{
+    using Text = std::optional<QByteArray>;
+    const Text none;
+    QTest::addColumn<Text>("offered");
+    QTest::addColumn<Text>("copied");
+    QTest::addColumn<QStringList>("notes");
+    QTest::newRow("password field") << Text("open sesame") << none << QStringList();
+    QTest::newRow("text") << Text("words") << Text("words") << QStringList(u"words"_s);
+    QTest::newRow("whole line") << Text("line\n") << Text("line\n") << QStringList(u"line"_s);
+    QTest::newRow("caret's line") << none << Text("line\n") << QStringList();
+}
+
+/// It is not on the accessibility bus, as Chromium is that was started before Vesk.
+void TestSelection::primaryOfAForeignApplicationIsConfirmedByACopy()
+{
+    QFETCH(const std::optional<QByteArray>, offered);
+    QFETCH(const std::optional<QByteArray>, copied);
+    QFETCH(const QStringList, notes);
+    const ForeignWindow foreign(m_desktop->displayName(), copied);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(foreign.window(), kBound));
+    m_desktop->keyboard().tap({XK_x}, kFinger);
+    QTest::qWait(100); // What is claimed at the very moment of the key counts as selected by it.
+    std::unique_ptr<ClipboardHolder> primary;
+    if (offered)
+        primary = ClipboardHolder::hold(m_desktop->displayName(), {{"UTF8_STRING", *offered}}, "PRIMARY");
+    capture();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(notes.isEmpty() ? kQuickNote : kSaved, kBound));
+    QCOMPARE(foreign.copyCount(), 1);
+    QCOMPARE(m_desktop->notes().texts(), notes);
+}
 
 /// The X server's selection is older than the turn to the window, so only the bus can vouch for it.
 void TestSelection::selectionOutlivesATurnToAnotherWindow()

@@ -62,6 +62,10 @@ QString AccessibilityDesktop::listener() const
 bool AccessibilityDesktop::handleMessage(const QDBusMessage &message, const QDBusConnection &connection)
 {
     QVariantList arguments;
+    if (m_isSilent && message.member() == "GetChildren"_L1) {
+        message.setDelayedReply(true);
+        return true;
+    }
     if (message.member() == "GetAddress"_L1)
         arguments.append(busAddress());
     if (message.member() == "RegisterEvent"_L1)

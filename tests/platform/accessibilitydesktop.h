@@ -30,6 +30,8 @@ public:
 
     /// Puts applications below the registry.
     void setApplications(const QStringList &services) { m_applications = services; }
+    /// Whether the registry leaves all questions without an answer.
+    void setSilent(bool isSilent) { m_isSilent = isSilent; }
     /// Connection that has asked for events last and is still there; empty if there is none.
     [[nodiscard]] QString listener() const;
 
@@ -41,6 +43,7 @@ private:
     std::unique_ptr<BusDaemon> m_bus;
     QStringList m_applications;
     QString m_listener;
+    bool m_isSilent = false;
 };
 
 } // namespace vesk

@@ -17,19 +17,26 @@ constexpr QChar kEmbedded = QChar::ObjectReplacementCharacter;
 
 using StringMap = QMap<QString, QString>;
 
-/// Whether a search asks for objects of certain interfaces.
-bool isTextWanted(const QDBusArgument &rule)
+/// What a search asks for.
+struct Wanted
+{
+    bool isPage = false;
+    bool isText = false;
+};
+
+Wanted wantedBy(const QDBusArgument &rule)
 {
     QList<int> numbers;
+    QList<int> roles;
     StringMap attributes;
     QStringList interfaces;
     int how = 0;
     rule.beginStructure();
-    rule >> numbers >> how >> attributes >> how >> numbers >> how >> interfaces;
+    rule >> numbers >> how >> attributes >> how >> roles >> how >> interfaces;
     bool isReversed = false;
     rule >> isReversed;
     rule.endStructure();
-    return interfaces.contains("Text"_L1);
+    return {.isPage = !roles.isEmpty(), .isText = interfaces.contains("Text"_L1)};
 }
 
 } // namespace
@@ -104,8 +111,10 @@ QVariantList AccessibleApplication::answer(const QDBusMessage &message)
     }
     if (member == "Get"_L1 && asked.value(1).toString() == "Parent"_L1)
         return {QVariant::fromValue(QDBusVariant(reference(parentOf(name))))};
-    if (member == "GetMatches"_L1 && m_manner.hasCollection)
-        return {references(focusedBelow(name, isTextWanted(asked.value(0).value<QDBusArgument>())))};
+    if (member == "GetMatches"_L1 && m_manner.hasCollection) {
+        const Wanted wanted = wantedBy(asked.value(0).value<QDBusArgument>());
+        return {references(wanted.isPage ? pagesBelow(name) : focusedBelow(name, wanted.isText))};
+    }
     if (member == "GetObject"_L1)
         return {reference(name)};
     if (!object.isText)
@@ -113,7 +122,7 @@ QVariantList AccessibleApplication::answer(const QDBusMessage &message)
     if (member == "Get"_L1 && asked.value(1).toString() == "CharacterCount"_L1)
         return {QVariant::fromValue(QDBusVariant(static_cast<int>(object.text.toUcs4().size())))};
     if (member == "GetNSelections"_L1)
-        return {static_cast<int>(object.selections.size())};
+        return {object.hasUnknownSelection ? -1 : static_cast<int>(object.selections.size())};
     if (member == "GetSelection"_L1) {
         const auto [start, end] = object.selections.value(asked.value(0).toInt());
         return {start, end};
@@ -167,6 +176,18 @@ QStringList AccessibleApplication::focusedBelow(const QString &name, bool isText
         if (object.isFocused && (object.isText || !isTextWanted))
             found.append(child);
         found += focusedBelow(child, isTextWanted);
+    }
+    return found;
+}
+
+QStringList AccessibleApplication::pagesBelow(const QString &name) const
+{
+    QStringList found;
+    for (const QString &child : m_objects.value(name).children) {
+        const Object object = m_objects.value(child);
+        if (object.role == "document web"_L1 && object.isVisible)
+            found.append(child);
+        found += pagesBelow(child);
     }
     return found;
 }

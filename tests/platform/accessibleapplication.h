@@ -29,6 +29,8 @@ public:
         bool isText = false;
         QString text = {};
         QList<std::pair<int, int>> selections = {};
+        /// Says -1 when it is asked how many selections it has.
+        bool hasUnknownSelection = false;
         QStringList children = {};
     };
 
@@ -67,6 +69,8 @@ private:
     [[nodiscard]] QVariant references(const QStringList &names) const;
     [[nodiscard]] QString parentOf(const QString &name) const;
     [[nodiscard]] QStringList focusedBelow(const QString &name, bool isTextWanted) const;
+    /// The web pages that are shown below an object.
+    [[nodiscard]] QStringList pagesBelow(const QString &name) const;
     [[nodiscard]] QString embeddedAt(const Object &object, int place) const;
 
     QString m_name;

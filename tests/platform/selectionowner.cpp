@@ -32,8 +32,12 @@ void SelectionOwner::handle(Display &display, const xcb_generic_event_t &event)
 void SelectionOwner::answer(Display &display, const Request &request)
 {
     if (request.target == display.atom("TARGETS")) {
+        if (m_manner == Manner::Replaced && !m_successor)
+            m_successor = std::make_unique<SelectionOwner>("password", Manner::Whole);
         sendTargets(display, request);
     } else if (request.target == display.atom("x-kde-passwordManagerHint")) {
+        if (m_manner == Manner::SilentSecret)
+            return;
         SelectionThread::write(display, request, XCB_ATOM_STRING, 8, "secret");
         SelectionThread::notify(display, request, true);
     } else if (request.target == display.atom("UTF8_STRING")) {
@@ -53,7 +57,7 @@ void SelectionOwner::sendTargets(Display &display, const Request &request) const
         targets.append(display.atom("UTF8_STRING"));
     if (m_manner == Manner::Silent)
         targets.append({display.atom("text/html"), display.atom("image/png")});
-    if (m_manner == Manner::Secret)
+    if (m_manner == Manner::Secret || m_manner == Manner::SilentSecret)
         targets.append(display.atom("x-kde-passwordManagerHint"));
     SelectionThread::writeAtoms(display, request, targets);
     SelectionThread::notify(display, request, true);

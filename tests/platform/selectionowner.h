@@ -21,6 +21,10 @@ public:
         NoText,
         /// Says that its text is a password.
         Secret,
+        /// Lists what says whether its text is a password, and then does not answer that.
+        SilentSecret,
+        /// Gives PRIMARY up to another owner, whose text is a password, once it has listed its targets.
+        Replaced,
     };
 
     SelectionOwner(QByteArray text, Manner manner, const char *selection = "PRIMARY");
@@ -47,6 +51,7 @@ private:
     xcb_window_t m_requestor = XCB_WINDOW_NONE;
     std::atomic<xcb_atom_t> m_property = XCB_ATOM_NONE;
     qsizetype m_sent = 0;
+    std::unique_ptr<SelectionOwner> m_successor;
     // Ends before what it uses.
     std::unique_ptr<vesk::SelectionThread> m_thread;
 };

@@ -56,6 +56,8 @@ private Q_SLOTS:
     void selectedText_data();
     void selectedText();
     void selectionWithAPartThatDoesNotAnswerIsNone();
+    void applicationOffTheBusStandsForItself();
+    void shownPageIsFoundFromTheAddressBar();
     void busDiesAndReturns();
     void nothingIsReadOnceStopped();
 
@@ -111,8 +113,8 @@ AccessibleElement TestAtSpi::element(const QString &name) const
 
 QString TestAtSpi::selectionOf(const QString &name, const AtSpiQuestion::Deadlines &deadlines)
 {
-    return QCoro::waitFor(AtSpi::selectedText(m_atSpi->ask(deadlines), element(name)))
-        .value_or(kNone.toString());
+    const auto selection = QCoro::waitFor(AtSpi::selectedText(m_atSpi->ask(deadlines), element(name)));
+    return selection ? selection->text : kNone.toString();
 }
 
 void TestAtSpi::focusIsFoundBySearch_data()
@@ -145,12 +147,12 @@ void TestAtSpi::focusIsFoundBySearch_data()
     inactive[u"frame"_s].isActive = false;
     QTest::newRow("no window is active") << inactive << u"editor"_s;
     QTest::newRow("no text") << window({.role = u"push button"_s, .isFocused = true}) << u"editor"_s;
-    QTest::newRow("nothing") << window({.isText = true}) << QString();
+    QTest::newRow("nothing claims it") << window({.isText = true}) << kNone.toString();
     Objects menu = window({.isVisible = false, .children = {u"item"_s}});
     menu[u"item"_s] = {.isFocused = true, .isText = true};
-    QTest::newRow("closed menu") << menu << QString();
+    QTest::newRow("closed menu") << menu << kNone.toString();
     Objects circle = window({.children = {u"frame"_s, u"editor"_s}});
-    QTest::newRow("closes on itself") << circle << QString();
+    QTest::newRow("closes on itself") << circle << kNone.toString();
 }
 
 void TestAtSpi::focusIsFoundBySearch()
@@ -220,6 +222,11 @@ void TestAtSpi::selectedText_data()
         << window(plain(u"\U0001f600 two"_s, {{3, 0}})) << u"\U0001f600 t"_s;
     QTest::newRow("nothing selected is sure") << window(plain(u"one"_s, {})) << QString();
     QTest::newRow("empty selection") << window(plain(u"one"_s, {{1, 1}})) << QString();
+    QTest::newRow("several ranges") << window(plain(u"one two three"_s, {{0, 3}, {8, 13}}))
+                                    << u"one\nthree"_s;
+    Object list = plain(u"one"_s, {});
+    list.hasUnknownSelection = true;
+    QTest::newRow("list that cannot tell") << window(list) << kNone.toString();
     QTest::newRow("no text at all") << window({.isEditable = true}) << kNone.toString();
     QTest::newRow("page that selects nothing is in doubt")
         << window({.role = web, .isText = true, .text = u"x"_s}) << kNone.toString();
@@ -320,6 +327,32 @@ void TestAtSpi::selectionWithAPartThatDoesNotAnswerIsNone()
     QCOMPARE(selectionOf(u"editor"_s, {}), kNone);
 }
 
+void TestAtSpi::applicationOffTheBusStandsForItself()
+{
+    m_desktop->setApplications({u":1.9999"_s});
+    QCOMPARE(focus(), QString());
+    m_desktop->setSilent(true);
+    QCOMPARE(focus({}), kNone);
+    m_desktop->setSilent(false);
+}
+
+void TestAtSpi::shownPageIsFoundFromTheAddressBar()
+{
+    Objects browser = window({.role = u"entry"_s, .isFocused = true, .isText = true});
+    browser[u"frame"_s].children = {u"editor"_s, u"hidden"_s, u"page"_s};
+    browser[u"hidden"_s] = {.role = u"document web"_s, .isVisible = false};
+    browser[u"page"_s] = {.role = u"document web"_s, .children = {u"inner"_s}};
+    browser[u"inner"_s] = {.role = u"document web"_s};
+    show(browser);
+    const auto shown = [this] {
+        const qint64 process = QCoreApplication::applicationPid();
+        return nameOf(QCoro::waitFor(AtSpi::shownPage(m_atSpi->ask(kPatient), process)));
+    };
+    QCOMPARE(shown(), kNone);
+    m_application->manner().hasCollection = true;
+    QCOMPARE(shown(), u"page"_s);
+}
+
 void TestAtSpi::busDiesAndReturns()
 {
     show(window({.isFocused = true, .isText = true}));
@@ -328,8 +361,8 @@ void TestAtSpi::busDiesAndReturns()
     // A question is under way when the bus dies.
     QTimer::singleShot(0, this, [this] { m_desktop->killBus(); });
     QCOMPARE(selectionOf(u"editor"_s), kNone);
-    // Without a bus the application stands for what is in it.
-    QTRY_COMPARE(focus(), QString());
+    // Without a bus nobody knows whether the application is on it.
+    QTRY_COMPARE(focus(), kNone);
     QVERIFY(m_desktop->startBus());
     QTRY_VERIFY(!m_desktop->listener().isEmpty());
     show(window({.isFocused = true, .isText = true}));
@@ -345,7 +378,7 @@ void TestAtSpi::nothingIsReadOnceStopped()
     QCOMPARE(selectionOf(u"editor"_s), kNone);
     QTRY_VERIFY(m_desktop->listener().isEmpty());
     const int calls = m_application->calls();
-    QCOMPARE(focus(), QString());
+    QCOMPARE(focus(), kNone);
     QCOMPARE(selectionOf(u"editor"_s), kNone);
     QCOMPARE(m_application->calls(), calls);
     m_atSpi->start();

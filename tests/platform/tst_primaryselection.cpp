@@ -19,7 +19,9 @@ class TestPrimarySelection : public X11Test
 private Q_SLOTS:
     void text_data();
     void text();
+    void secretIsNotEvenRead_data();
     void secretIsNotEvenRead();
+    void ownerThatChangesWhileItIsReadGivesNothing();
     void lateAnswerIsNotTakenForTheNext();
     void readingGivenUpLetsTheOwnerFinish();
 };
@@ -46,16 +48,36 @@ void TestPrimarySelection::text()
     QFETCH(const bool, isGiven);
     const SelectionOwner owner(text, manner);
     PrimarySelection primary(*m_connection);
+    settle();
     const std::optional<QString> expected = isGiven ? std::optional(QString::fromUtf8(text)) : std::nullopt;
     QVERIFY(QCoro::waitFor(primary.text()) == expected);
 }
 
+void TestPrimarySelection::secretIsNotEvenRead_data()
+{
+    QTest::addColumn<SelectionOwner::Manner>("manner");
+    QTest::newRow("says so") << SelectionOwner::Manner::Secret;
+    QTest::newRow("does not say") << SelectionOwner::Manner::SilentSecret;
+}
+
 void TestPrimarySelection::secretIsNotEvenRead()
 {
-    const SelectionOwner owner("password", SelectionOwner::Manner::Secret);
+    QFETCH(const SelectionOwner::Manner, manner);
+    const SelectionOwner owner("password", manner);
     PrimarySelection primary(*m_connection);
+    settle();
     QVERIFY(!QCoro::waitFor(primary.text()));
     QCOMPARE(owner.readings(), 0);
+}
+
+/// The first owner says that its text is no secret, and the text is the next one's.
+void TestPrimarySelection::ownerThatChangesWhileItIsReadGivesNothing()
+{
+    const SelectionOwner owner("harmless", SelectionOwner::Manner::Replaced);
+    PrimarySelection primary(*m_connection);
+    settle();
+    QVERIFY(!QCoro::waitFor(primary.text()));
+    QCOMPARE(QCoro::waitFor(primary.text()), u"password"_s);
 }
 
 void TestPrimarySelection::lateAnswerIsNotTakenForTheNext()

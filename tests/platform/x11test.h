@@ -5,6 +5,9 @@
 #include "platform/x11/x11connection.h"
 #include "virtualdesktop/virtualdesktop.h"
 
+#include <QCoroTask>
+#include <QCoroTimer>
+
 namespace vesk {
 
 /// A test of the platform itself on a desktop of its own, the same one for all functions.
@@ -13,6 +16,15 @@ class X11Test : public QObject
     Q_OBJECT
 
 protected:
+    /// Returns once Vesk has heard everything that the server has said.
+    void settle()
+    {
+        static_cast<void>(m_desktop->display().atom("VESK_TEST"));
+        // An answer comes after the events before it; they are read when the loop is about to wait.
+        static_cast<void>(m_connection->property(m_connection->root(), XCB_ATOM_WM_NAME));
+        QCoro::waitFor(QCoro::sleepFor(std::chrono::milliseconds{20}));
+    }
+
     std::unique_ptr<VirtualDesktop> m_desktop;
     /// Vesk's connection, where one does.
     std::unique_ptr<X11Connection> m_connection;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/atspi.h"
 
-#include "platform/freedesktop/atspiselection.h"
 #include "platform/freedesktop/atspiterminal.h"
 
 #include <QCoroTimer>
@@ -34,20 +33,24 @@ AccessibleElement elementOf(qint64 processIdentifier, const AtSpiReference &refe
 }
 
 /// The roots of the applications on the bus that this process has; toolkits of one process may each
-/// have their own.
-QCoro::Task<QList<AtSpiReference>> applicationsOf(AtSpiQuestion question, qint64 processIdentifier)
+/// have their own. Nullopt if not everybody answered: the one that was asked for may be among the rest.
+QCoro::Task<std::optional<QList<AtSpiReference>>> applicationsOf(AtSpiQuestion question,
+                                                                 qint64 processIdentifier)
 {
-    const std::optional<QList<AtSpiReference>> all = co_await question.children(AtSpiBus::registry());
-    const QList<AtSpiReference> roots = all.value_or(QList<AtSpiReference>());
+    const std::optional<QList<AtSpiReference>> roots = co_await question.children(AtSpiBus::registry());
+    if (!roots)
+        co_return std::nullopt;
     std::vector<QCoro::Task<std::optional<qint64>>> owners;
-    for (const AtSpiReference &root : roots)
+    for (const AtSpiReference &root : *roots)
         owners.push_back(question.processIdentifier(root.service));
     QList<AtSpiReference> own;
     for (size_t index = 0; index < owners.size(); ++index) {
         const std::optional<qint64> owner = co_await owners[index];
         if (owner == processIdentifier)
-            own.append(roots.at(static_cast<qsizetype>(index)));
+            own.append(roots->at(static_cast<qsizetype>(index)));
     }
+    if (own.isEmpty() && question.isSilent())
+        co_return std::nullopt;
     co_return own;
 }
 
@@ -89,24 +92,25 @@ QCoro::Task<std::optional<AccessibleElement>> AtSpi::focusedElement(AtSpiQuestio
 {
     const QPointer<AtSpi> self(this);
     const AccessibleElement applicationItself = Accessibility::applicationElement(processIdentifier);
-    const QList<AtSpiReference> applications = co_await applicationsOf(question, processIdentifier);
-    bool isComplete = true;
+    const std::optional<QList<AtSpiReference>> applications =
+        co_await applicationsOf(question, processIdentifier);
+    if (!applications)
+        co_return std::nullopt;
+    if (applications->isEmpty())
+        co_return applicationItself;
     std::optional<AtSpiReference> best;
-    for (const AtSpiReference &application : applications) {
+    for (const AtSpiReference &application : *applications) {
         if (self.isNull())
             co_return std::nullopt;
         const AtSpiFocus focus = co_await focusOf(question, application);
-        isComplete = isComplete && focus.isComplete;
         if (focus.object && focus.isText)
             co_return elementOf(processIdentifier, *focus.object);
         if (!best)
             best = focus.object;
     }
-    if (best)
-        co_return elementOf(processIdentifier, *best);
-    if (isComplete)
-        co_return applicationItself;
-    co_return std::nullopt;
+    if (!best)
+        co_return std::nullopt;
+    co_return elementOf(processIdentifier, *best);
 }
 
 QCoro::Task<std::optional<AccessibleElement>> AtSpi::parent(AtSpiQuestion question, AccessibleElement element)
@@ -129,9 +133,38 @@ QCoro::Task<std::optional<QString>> AtSpi::role(AtSpiQuestion question, Accessib
     co_return role;
 }
 
-QCoro::Task<std::optional<QString>> AtSpi::selectedText(AtSpiQuestion question, AccessibleElement element)
+QCoro::Task<std::optional<AtSpiSelection>> AtSpi::selectedText(AtSpiQuestion question,
+                                                               AccessibleElement element)
 {
     return readAtSpiSelection(question, referenceOf(element));
+}
+
+QCoro::Task<std::optional<AccessibleElement>> AtSpi::shownPage(AtSpiQuestion question,
+                                                               qint64 processIdentifier)
+{
+    const std::optional<QList<AtSpiReference>> applications =
+        co_await applicationsOf(question, processIdentifier);
+    const QList<AtSpiReference> roots = applications.value_or(QList<AtSpiReference>());
+    for (const AtSpiReference &application : roots) {
+        const std::optional<AtSpiReference> page = co_await searchShownPage(question, application);
+        if (page)
+            co_return elementOf(processIdentifier, *page);
+    }
+    co_return std::nullopt;
+}
+
+QCoro::Task<bool> AtSpi::isInPasswordField(AtSpiQuestion question, qint64 processIdentifier)
+{
+    const QHash<QString, AtSpiReference> focused = m_focused;
+    for (const AtSpiReference &object : focused) {
+        const std::optional<qint64> process = co_await question.processIdentifier(object.service);
+        if (process != processIdentifier)
+            continue;
+        const std::optional<QString> role = co_await question.roleName(object);
+        if (role == kPasswordRole)
+            co_return true;
+    }
+    co_return false;
 }
 
 QCoro::Task<std::optional<QString>> AtSpi::documentUrl(AtSpiQuestion question, AccessibleElement element)

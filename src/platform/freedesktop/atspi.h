@@ -5,6 +5,7 @@
 #include "platform/freedesktop/atspibus.h"
 #include "platform/freedesktop/atspifocussearch.h"
 #include "platform/freedesktop/atspiquestion.h"
+#include "platform/freedesktop/atspiselection.h"
 
 #include <QCoroTask>
 
@@ -16,8 +17,11 @@
 
 namespace vesk {
 
+/// The role of a field whose content is not shown.
+inline const QString kPasswordRole = QStringLiteral("password text");
+
 /// Other applications' user interfaces, read over the accessibility bus. Elements are named by
-/// service and path. While stopped, no element is found and every answer is none.
+/// service and path. While stopped, no element is found and every answer is nullopt.
 class AtSpi final : public QObject
 {
     Q_OBJECT
@@ -35,18 +39,24 @@ public:
     }
 
     /// What has the keyboard in an application: what it last said itself, else what a search finds.
-    /// The application's own element, which has no address, if it is not on the bus or nothing in it
-    /// claims the keyboard; none if that could not be told in time.
+    /// The application's own element, which has no address, if the application is not on the bus. Nullopt
+    /// if it is and nothing in it claims the keyboard, or if any of this could not be told in time.
     QCoro::Task<std::optional<AccessibleElement>> focusedElement(AtSpiQuestion question,
                                                                  qint64 processIdentifier);
     static QCoro::Task<std::optional<AccessibleElement>> parent(AtSpiQuestion question,
                                                                 AccessibleElement element);
     /// The role's name. A field by which a terminal in a web page takes its keys is a "terminal".
     static QCoro::Task<std::optional<QString>> role(AtSpiQuestion question, AccessibleElement element);
-    /// Empty if nothing is selected in the element or, where it is a part of a text, in the rest of
-    /// that; none if it is no text, does not answer, or not all of the selection could be read.
-    static QCoro::Task<std::optional<QString>> selectedText(AtSpiQuestion question,
-                                                            AccessibleElement element);
+    /// What is selected where the element is; see `readAtSpiSelection`.
+    static QCoro::Task<std::optional<AtSpiSelection>> selectedText(AtSpiQuestion question,
+                                                                   AccessibleElement element);
+    /// The web page that the active window of an application shows; nullopt if there is none, or the
+    /// application has no search of its own.
+    static QCoro::Task<std::optional<AccessibleElement>> shownPage(AtSpiQuestion question,
+                                                                   qint64 processIdentifier);
+    /// Whether what last announced to have the keyboard in an application, by the time of the call, is a
+    /// password field. False if that could not be told in time.
+    QCoro::Task<bool> isInPasswordField(AtSpiQuestion question, qint64 processIdentifier);
     /// Address of the page that a document shows.
     static QCoro::Task<std::optional<QString>> documentUrl(AtSpiQuestion question, AccessibleElement element);
 

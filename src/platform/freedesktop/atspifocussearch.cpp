@@ -6,6 +6,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <limits>
 #include <vector>
 
 namespace vesk {
@@ -14,11 +15,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What Collection.GetMatches looks for: what has the keyboard, of these interfaces.
+/// What Collection.GetMatches looks for: objects in all of these states, of all of these interfaces, and of
+/// one of these roles. An empty list stands for any.
 struct MatchRule
 {
     QList<int> states;
     QStringList interfaces;
+    QList<int> roles = {};
 };
 
 QDBusArgument &operator<<(QDBusArgument &argument, const MatchRule &rule)
@@ -26,9 +29,8 @@ QDBusArgument &operator<<(QDBusArgument &argument, const MatchRule &rule)
     constexpr int kMatchAll = 1;
     constexpr int kMatchAny = 2;
     const QMap<QString, QString> noAttributes;
-    const QList<int> noRoles;
     argument.beginStructure();
-    argument << rule.states << kMatchAll << noAttributes << kMatchAny << noRoles << kMatchAny
+    argument << rule.states << kMatchAll << noAttributes << kMatchAny << rule.roles << kMatchAny
              << rule.interfaces << kMatchAll << false;
     argument.endStructure();
     return argument;
@@ -59,16 +61,21 @@ constexpr qsizetype kPipelined = 32;
 constexpr qsizetype kMaximumObjects = 3000;
 
 AtSpiQuestion::Reply findMatches(const AtSpiQuestion &question, const AtSpiReference &frame,
-                                 const QStringList &interfaces)
+                                 const MatchRule &rule)
 {
     qDBusRegisterMetaType<QList<int>>();
     qDBusRegisterMetaType<StringMap>();
     qDBusRegisterMetaType<MatchRule>();
-    const MatchRule rule{.states = {1 << atspistate::kFocused, 0}, .interfaces = interfaces};
     constexpr uint kCanonicalOrder = 1;
     constexpr int kNoLimit = 0;
     return question.call(frame, u"org.a11y.atspi.Collection"_s, u"GetMatches"_s,
                          {QVariant::fromValue(rule), kCanonicalOrder, kNoLimit, true});
+}
+
+AtSpiQuestion::Reply findFocused(const AtSpiQuestion &question, const AtSpiReference &frame,
+                                 const QStringList &interfaces)
+{
+    return findMatches(question, frame, {.states = {1 << atspistate::kFocused, 0}, .interfaces = interfaces});
 }
 
 struct Frames
@@ -102,7 +109,7 @@ QCoro::Task<std::optional<AtSpiFocus>> askCollection(AtSpiQuestion question, QLi
     bool isKnown = false;
     std::vector<AtSpiQuestion::Reply> texts;
     for (const AtSpiReference &frame : frames)
-        texts.push_back(findMatches(question, frame, {u"Text"_s}));
+        texts.push_back(findFocused(question, frame, {u"Text"_s}));
     for (AtSpiQuestion::Reply &pending : texts) {
         const std::optional<QVariantList> reply = co_await pending;
         const QList<AtSpiReference> matches = AtSpiReference::readList(reply ? reply->value(0) : QVariant());
@@ -118,7 +125,7 @@ QCoro::Task<std::optional<AtSpiFocus>> askCollection(AtSpiQuestion question, QLi
     focus.isText = false;
     const QStringList anyInterface;
     for (const AtSpiReference &frame : frames) {
-        const std::optional<QVariantList> reply = co_await findMatches(question, frame, anyInterface);
+        const std::optional<QVariantList> reply = co_await findFocused(question, frame, anyInterface);
         const QList<AtSpiReference> matches = AtSpiReference::readList(reply ? reply->value(0) : QVariant());
         // The innermost of those that contain each other comes last.
         if (!matches.isEmpty()) {
@@ -220,6 +227,22 @@ QCoro::Task<AtSpiFocus> search(AtSpiQuestion question, QList<AtSpiReference> fra
 }
 
 } // namespace
+
+QCoro::Task<std::optional<AtSpiReference>> searchShownPage(AtSpiQuestion question, AtSpiReference application)
+{
+    // Roles, too, are bits by their numbers: this is "document web", the 95th.
+    const QList<int> pageRole{0, 0, std::numeric_limits<int>::min()};
+    const MatchRule rule{.states = {1 << atspistate::kShowing, 0}, .interfaces = {}, .roles = pageRole};
+    const std::optional<Frames> frames = co_await findFrames(question, application);
+    const QList<AtSpiReference> active = frames ? frames->active : QList<AtSpiReference>();
+    for (const AtSpiReference &frame : active) {
+        const std::optional<QVariantList> reply = co_await findMatches(question, frame, rule);
+        const QList<AtSpiReference> pages = AtSpiReference::readList(reply ? reply->value(0) : QVariant());
+        if (!pages.isEmpty())
+            co_return pages.first();
+    }
+    co_return std::nullopt;
+}
 
 QCoro::Task<AtSpiFocus> searchFocus(AtSpiQuestion question, AtSpiReference application)
 {

@@ -2,6 +2,7 @@
 #include "platform/freedesktop/atspiquestion.h"
 
 #include <QDBusArgument>
+#include <QDBusError>
 #include <QDBusPendingCallWatcher>
 
 #include <algorithm>
@@ -51,6 +52,13 @@ private:
     AtSpiBus *m_bus;
     std::shared_ptr<QDBusPendingCallWatcher> m_watcher;
 };
+
+/// Whether this error was not sent by anybody, but stands for an answer that did not come.
+bool isTimeout(const QDBusMessage &reply)
+{
+    const QDBusError::ErrorType error = QDBusError(reply).type();
+    return error == QDBusError::NoReply || error == QDBusError::Timeout || error == QDBusError::TimedOut;
+}
 
 // The arguments of an answer, each by its own coroutine, so that the call itself is under way.
 
@@ -171,8 +179,10 @@ QCoro::Task<std::optional<qint64>> AtSpiQuestion::processIdentifier(const QStrin
 
 AtSpiQuestion::Reply AtSpiQuestion::send(AtSpiQuestion question, QDBusMessage message)
 {
-    if (question.isOver())
+    if (question.isOver()) {
+        *question.m_isSilent = true;
         co_return std::nullopt;
+    }
     const auto remaining =
         std::chrono::milliseconds(std::max(question.m_deadline.remainingTime(), qint64{1}));
     const std::optional<QDBusPendingCall> pending =
@@ -181,6 +191,8 @@ AtSpiQuestion::Reply AtSpiQuestion::send(AtSpiQuestion question, QDBusMessage me
         co_return std::nullopt;
     const Answer answer(*question.m_bus, *pending);
     const QDBusMessage reply = co_await answer;
+    if (reply.type() == QDBusMessage::InvalidMessage || isTimeout(reply))
+        *question.m_isSilent = true;
     // An answer that comes after the user has withdrawn the consent is not looked at.
     if (question.m_bus.isNull() || question.m_bus->generation() != question.m_generation
         || reply.type() != QDBusMessage::ReplyMessage)

@@ -115,9 +115,17 @@ QCoro::Task<std::optional<QString>> readParagraphsAround(AtSpiQuestion question,
     co_return co_await readParagraphs(question, *paragraphs);
 }
 
+QCoro::Task<std::optional<AtSpiSelection>> assembled(QCoro::Task<std::optional<QString>> reading)
+{
+    const std::optional<QString> text = co_await reading;
+    if (!text)
+        co_return std::nullopt;
+    co_return AtSpiSelection{.text = *text, .isAssembled = true};
+}
+
 } // namespace
 
-QCoro::Task<std::optional<QString>> readAtSpiSelection(AtSpiQuestion question, AtSpiReference object)
+QCoro::Task<std::optional<AtSpiSelection>> readAtSpiSelection(AtSpiQuestion question, AtSpiReference object)
 {
     const QCoro::Task<std::optional<AtSpiStates>> askStates = question.states(object);
     const QCoro::Task<std::optional<QString>> askRole = question.roleName(object);
@@ -131,14 +139,17 @@ QCoro::Task<std::optional<QString>> readAtSpiSelection(AtSpiQuestion question, A
     if (!states->test(atspistate::kEditable) && role != "terminal"_L1) {
         const AtSpiReference page = co_await pageAround(question, object);
         if (!page.isNull())
-            co_return co_await readPage(question, page);
+            co_return co_await assembled(readPage(question, page));
     }
     if (!ranges || question.isOver())
         co_return std::nullopt;
     // Writer has its paragraphs side by side, and only one of them has the keyboard.
     if (isParagraph(*role))
-        co_return co_await readParagraphsAround(question, object);
-    co_return co_await readAtSpiText(question, object, *ranges);
+        co_return co_await assembled(readParagraphsAround(question, object));
+    const std::optional<QString> text = co_await readAtSpiText(question, object, *ranges);
+    if (!text)
+        co_return std::nullopt;
+    co_return AtSpiSelection{.text = *text, .isAssembled = false};
 }
 
 } // namespace vesk

@@ -11,9 +11,18 @@
 
 namespace vesk {
 
+struct AtSpiSelection
+{
+    /// Empty if nothing is selected.
+    QString text;
+    /// Whether the text was put together from a page or from several paragraphs: it may differ from what
+    /// the application itself would copy.
+    bool isAssembled = false;
+};
+
 /// The text that is selected where this object is: in the object itself, or in the page or the row of
-/// paragraphs that it is a part of. Empty if nothing is; none if the object is no text or the
-/// selection could not be read whole.
-QCoro::Task<std::optional<QString>> readAtSpiSelection(AtSpiQuestion question, AtSpiReference object);
+/// paragraphs that it is a part of. Nullopt if the object is not a text, cannot tell, or the selection could
+/// not be read whole.
+QCoro::Task<std::optional<AtSpiSelection>> readAtSpiSelection(AtSpiQuestion question, AtSpiReference object);
 
 } // namespace vesk

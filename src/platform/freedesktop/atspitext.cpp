@@ -189,14 +189,14 @@ QCoro::Task<std::optional<QString>> readRange(Shared reading, AtSpiReference obj
 QCoro::Task<std::optional<QString>> readRanges(Shared reading, AtSpiReference object,
                                                QList<AtSpiRange> ranges, Coverage coverage, int depth)
 {
-    QString text;
+    QStringList parts;
     for (const AtSpiRange &range : ranges) {
         const std::optional<QString> part = co_await readRange(reading, object, range, coverage, depth);
         if (!part)
             co_return std::nullopt;
-        text += *part;
+        parts.append(*part);
     }
-    co_return text;
+    co_return parts.join(u'\n');
 }
 
 /// An object without a text of its own, such as a table, is its children.
@@ -258,7 +258,8 @@ QCoro::Task<std::optional<QList<AtSpiRange>>> readAtSpiRanges(AtSpiQuestion ques
         co_return std::nullopt;
     constexpr int kMaximumRanges = 100;
     const int selections = count->first().toInt();
-    if (selections > kMaximumRanges)
+    // GTK 3 says -1 of its lists: they have a text, but no way of telling what is selected in it.
+    if (selections < 0 || selections > kMaximumRanges)
         co_return std::nullopt;
     QList<AtSpiRange> ranges;
     for (int index = 0; index < selections; ++index) {

@@ -25,6 +25,8 @@ QCoro::Task<std::optional<AccessibleElement>> MemoryAccessibility::copyElement(A
         co_return std::nullopt;
     if (attribute == ElementAttribute::Parent)
         co_return m_elements.value(element.address).parent;
+    if (attribute == ElementAttribute::ShownPage)
+        co_return std::as_const(m_shownPage);
     const bool isAsked =
         m_focused
         && (element == systemWideElement() || element.processIdentifier == m_focused->processIdentifier);
@@ -43,14 +45,21 @@ QCoro::Task<std::optional<QString>> MemoryAccessibility::copyString(AccessibleEl
     if (!m_isTrusted || found == m_elements.cend())
         co_return std::nullopt;
     switch (attribute) {
-    case StringAttribute::SelectedText:
-        co_return found->selectedText;
     case StringAttribute::Url:
         co_return found->url;
     case StringAttribute::Role:
         break;
     }
     co_return found->role;
+}
+
+QCoro::Task<SelectedText> MemoryAccessibility::selectedText()
+{
+    if (m_delay.count() > 0)
+        co_await m_clock.sleep(m_delay);
+    if (!m_isTrusted)
+        co_return SelectedText();
+    co_return std::as_const(m_selected);
 }
 
 void MemoryAccessibility::setTrusted(bool isTrusted)

@@ -20,7 +20,6 @@ public:
     struct Element
     {
         QString role;
-        std::optional<QString> selectedText;
         std::optional<QString> url;
         std::optional<AccessibleElement> parent;
     };
@@ -34,6 +33,7 @@ public:
                                                               ElementAttribute attribute) override;
     QCoro::Task<std::optional<QString>> copyString(AccessibleElement element,
                                                    StringAttribute attribute) override;
+    QCoro::Task<SelectedText> selectedText() override;
 
     void setTrusted(bool isTrusted);
     [[nodiscard]] int askCount() const { return m_askCount; }
@@ -43,6 +43,10 @@ public:
     /// What has the keyboard, for the system-wide element and for the element's application; none
     /// for nothing.
     void setFocusedElement(const std::optional<AccessibleElement> &name) { m_focused = name; }
+    /// What is selected where the keyboard is.
+    void setSelectedText(const SelectedText &selected) { m_selected = selected; }
+    /// The page that every application shows; nullopt for none.
+    void setShownPage(const std::optional<AccessibleElement> &name) { m_shownPage = name; }
     /// Lets every answer take this long; zero answers at once, without suspending.
     void setDelay(std::chrono::milliseconds delay) { m_delay = delay; }
 
@@ -54,6 +58,8 @@ private:
     QHash<qint64, QString> m_titles;
     QHash<QString, Element> m_elements;
     std::optional<AccessibleElement> m_focused;
+    std::optional<AccessibleElement> m_shownPage;
+    SelectedText m_selected;
 };
 
 } // namespace vesk

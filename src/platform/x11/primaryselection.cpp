@@ -5,6 +5,7 @@
 #include "platform/x11/selectiontransfer.h"
 #include "platform/x11/x11connection.h"
 
+#include <QHash>
 #include <QPointer>
 
 #include <xcb/xfixes.h>
@@ -16,6 +17,8 @@ namespace vesk {
 namespace {
 
 constexpr qsizetype kSmall = 1 << 16; // bytes
+/// For what nobody waits for.
+constexpr std::chrono::seconds kPatience{1};
 
 } // namespace
 
@@ -29,20 +32,36 @@ PrimarySelection::PrimarySelection(X11Connection &connection)
     const auto cookie = xcb_get_selection_owner(connection.xcb(), XCB_ATOM_PRIMARY);
     const XReply<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(connection.xcb(), cookie, nullptr));
-    m_owner = reply ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
+    m_claim.owner = reply ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
     connect(&connection, &X11Connection::eventReceived, this, &PrimarySelection::onEvent);
-    if (m_owner != XCB_WINDOW_NONE)
-        askTimestamp();
-}
-
-std::optional<qint64> PrimarySelection::ownerProcess() const
-{
-    return m_owner == XCB_WINDOW_NONE ? std::nullopt : m_connection.clientProcess(m_owner);
+    if (m_claim.owner != XCB_WINDOW_NONE)
+        askTime();
 }
 
 QCoro::Task<std::optional<QString>> PrimarySelection::text()
 {
-    return selectioncontent::text(m_connection, XCB_ATOM_PRIMARY);
+    const QPointer<PrimarySelection> self(this);
+    const Claim asked = m_claim;
+    const std::optional<QString> text = co_await selectioncontent::text(m_connection, XCB_ATOM_PRIMARY);
+    // What was read may be the next owner's, and what was asked about it, such as whether it is secret, the
+    // first one's.
+    if (self.isNull() || m_claim.number != asked.number)
+        co_return std::nullopt;
+    co_return text;
+}
+
+QCoro::Task<std::optional<size_t>> PrimarySelection::fingerprint()
+{
+    const QPointer<PrimarySelection> self(this);
+    const Claim asked = m_claim;
+    const xcb_atom_t target = m_connection.atom("UTF8_STRING");
+    const SelectionTransfer::Data data =
+        co_await SelectionTransfer::read(m_connection, XCB_ATOM_PRIMARY, target, kSmall, kPatience);
+    const bool isRead = data.outcome != SelectionTransfer::Outcome::Refused
+                        && data.outcome != SelectionTransfer::Outcome::Stalled;
+    if (self.isNull() || m_claim.number != asked.number || !isRead)
+        co_return std::nullopt;
+    co_return qHash(data.bytes.left(kSmall), static_cast<size_t>(QHashSeed::globalSeed()));
 }
 
 void PrimarySelection::onEvent(const xcb_generic_event_t *event)
@@ -52,23 +71,23 @@ void PrimarySelection::onEvent(const xcb_generic_event_t *event)
     const auto *notify = reinterpret_cast<const xcb_xfixes_selection_notify_event_t *>(event);
     if (notify->selection != XCB_ATOM_PRIMARY)
         return;
-    m_owner = notify->owner;
-    m_timestamp = notify->selection_timestamp;
+    m_claim = {.owner = notify->owner, .time = notify->selection_timestamp, .number = m_claim.number + 1};
+    Q_EMIT claimed();
 }
 
-QCoro::Task<> PrimarySelection::askTimestamp()
+QCoro::Task<> PrimarySelection::askTime()
 {
     const QPointer<PrimarySelection> self(this);
-    const xcb_window_t owner = m_owner;
+    const Claim asked = m_claim;
     const xcb_atom_t target = m_connection.atom("TIMESTAMP");
     const SelectionTransfer::Data data =
         co_await SelectionTransfer::read(m_connection, XCB_ATOM_PRIMARY, target, kSmall);
-    // The owner may have changed meanwhile, and then the new one's time is known already.
-    if (self.isNull() || owner != m_owner || m_timestamp != 0
+    // If the owner has changed meanwhile, the new one's time is known already.
+    if (self.isNull() || m_claim.number != asked.number
         || data.outcome != SelectionTransfer::Outcome::Complete
-        || data.bytes.size() < qsizetype{sizeof m_timestamp})
+        || data.bytes.size() < qsizetype{sizeof m_claim.time})
         co_return;
-    std::memcpy(&m_timestamp, data.bytes.constData(), sizeof m_timestamp);
+    std::memcpy(&m_claim.time, data.bytes.constData(), sizeof m_claim.time);
 }
 
 } // namespace vesk

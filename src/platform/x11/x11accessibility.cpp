@@ -2,6 +2,7 @@
 #include "platform/x11/x11accessibility.h"
 
 #include "platform/freedesktop/consent.h"
+#include "platform/x11/keytaker.h"
 #include "platform/x11/rawinput.h"
 #include "platform/x11/x11connection.h"
 #include "platform/x11/x11workspace.h"
@@ -9,9 +10,48 @@
 
 #include <QPointer>
 
+#include <algorithm>
+
 namespace vesk {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kTerminalRole = u"terminal"_s;
+
+/// Whether a copy is never asked of such an application, so that PRIMARY is all there is.
+bool hasOnlyPrimary(KeyTaker taker)
+{
+    return taker == KeyTaker::Terminal || taker == KeyTaker::OwnKeys || taker == KeyTaker::Emacs;
+}
+
+/// The text without white space and without what stands for embedded objects.
+QString inkOf(const QString &text)
+{
+    QString ink;
+    ink.reserve(text.size());
+    for (const QChar unit : text) {
+        if (!unit.isSpace() && unit != QChar::ObjectReplacementCharacter)
+            ink.append(unit);
+    }
+    return ink;
+}
+
+bool isSameText(const QString &text, const QString &other)
+{
+    return text == other || inkOf(text) == inkOf(other);
+}
+
+/// Whether a text is what toolkits show in place of a password's letters.
+bool isMask(const QString &text)
+{
+    static const QString masks = u"\u2022\u25cf\u26ab\u2217*"_s;
+    return !text.isEmpty() && masks.contains(text.front())
+           && std::ranges::all_of(text, [&text](QChar unit) { return unit == text.front(); });
+}
+
+} // namespace
 
 X11Accessibility::X11Accessibility(X11Connection &connection, RawInput &input, X11Workspace &workspace,
                                    Consent &consent)
@@ -19,7 +59,9 @@ X11Accessibility::X11Accessibility(X11Connection &connection, RawInput &input, X
     , m_workspace(workspace)
     , m_consent(consent)
     , m_primary(connection)
+    , m_standing({.connection = connection, .input = input, .workspace = workspace, .primary = m_primary})
 {
+    connect(&m_primary, &PrimarySelection::claimed, this, &X11Accessibility::noteSecret);
     connect(&consent, &Consent::changed, this, [this] {
         followConsent();
         Q_EMIT trustChanged();
@@ -58,8 +100,8 @@ QCoro::Task<std::optional<AccessibleElement>> X11Accessibility::copyElement(Acce
             co_return std::nullopt;
         process = frontmost->processIdentifier;
     }
-    // An application that is not on the bus still has its X11 selection: the application itself then
-    // stands for what has the keyboard in it.
+    if (attribute == ElementAttribute::ShownPage)
+        co_return co_await AtSpi::shownPage(m_atSpi.ask(), process);
     co_return co_await m_atSpi.focusedElement(m_atSpi.ask(), process);
 }
 
@@ -68,8 +110,6 @@ QCoro::Task<std::optional<QString>> X11Accessibility::copyString(AccessibleEleme
 {
     if (!isProcessTrusted())
         co_return std::nullopt;
-    if (attribute == StringAttribute::SelectedText)
-        co_return co_await selectedText(element);
     if (element.address.isEmpty())
         co_return std::nullopt;
     if (attribute == StringAttribute::Url)
@@ -86,38 +126,105 @@ void X11Accessibility::followConsent()
         m_atSpi.stop();
 }
 
-QCoro::Task<std::optional<QString>> X11Accessibility::selectedText(AccessibleElement element)
+QCoro::Task<SelectedText> X11Accessibility::selectedText()
 {
+    using Finding = SelectedText::Finding;
     const QPointer<X11Accessibility> self(this);
+    const std::optional<xcb_window_t> window = m_workspace.activeWindow();
+    if (!isProcessTrusted() || !window)
+        co_return SelectedText();
+    const std::optional<qint64> process = m_workspace.processOf(*window);
+    const KeyTaker taker = m_workspace.keyTakerOf(*window);
+    if (taker == KeyTaker::PasswordPrompt)
+        co_return SelectedText{.finding = Finding::Nothing};
+    // Before any wait, in which the user may press something.
+    const bool isClaimed = m_standing.isFresh(*window);
+    SelectedText unknown{.isClaimed = isClaimed && !isPrimarySecret()};
+    const AtSpiQuestion search = m_atSpi.ask();
+    std::optional<AccessibleElement> focused;
+    if (process)
+        focused = co_await m_atSpi.focusedElement(search, *process);
     const AtSpiQuestion question = m_atSpi.ask();
-    const bool isOnBus = !element.address.isEmpty();
-    if (isOnBus) {
-        // Asked before anything is read: toolkits put a password field's clear text into PRIMARY. What
-        // does not say what it is could be one.
-        const std::optional<QString> role = co_await AtSpi::role(question, element);
-        if (self.isNull() || !role)
-            co_return std::nullopt;
-        if (role == "password text"_L1)
-            co_return QString();
-    }
-    if (isPrimaryFresh(element.processIdentifier)) {
-        const std::optional<QString> text = co_await m_primary.text();
-        if (self.isNull() || !isProcessTrusted())
-            co_return std::nullopt;
-        if (text)
-            co_return text;
-    }
-    if (!isOnBus)
-        co_return std::nullopt;
-    co_return co_await AtSpi::selectedText(question, element);
+    const bool isOnBus = focused && !focused->address.isEmpty();
+    std::optional<QString> role;
+    std::optional<AtSpiSelection> own;
+    if (isOnBus && !self.isNull())
+        role = co_await AtSpi::role(question, *focused);
+    if (self.isNull() || !isProcessTrusted())
+        co_return SelectedText();
+    if (role == kPasswordRole)
+        co_return SelectedText{.finding = Finding::Nothing};
+    if (role)
+        own = co_await AtSpi::selectedText(question, *focused);
+    if (self.isNull() || !isProcessTrusted())
+        co_return SelectedText();
+    SelectedText found;
+    if (hasOnlyPrimary(taker) || role == kTerminalRole)
+        found = co_await terminalText(*window, own);
+    else if (own)
+        found = co_await confirmedText(*own, isClaimed);
+    else
+        found = unknown;
+    if (self.isNull() || !isProcessTrusted())
+        co_return SelectedText();
+    found.isSilent = found.isSilent || search.isSilent() || question.isSilent();
+    co_return found;
 }
 
-bool X11Accessibility::isPrimaryFresh(qint64 processIdentifier) const
+QCoro::Task<SelectedText> X11Accessibility::terminalText(xcb_window_t window,
+                                                         std::optional<AtSpiSelection> own)
 {
-    if (m_primary.timestamp() == 0 || m_primary.ownerProcess() != processIdentifier)
-        return false;
-    return isAtOrAfter(m_primary.timestamp(), m_input.lastPress())
-           && isAtOrAfter(m_primary.timestamp(), m_workspace.activationTime());
+    using Finding = SelectedText::Finding;
+    const QPointer<X11Accessibility> self(this);
+    // Of a long selection the bus knows only what is in sight.
+    const bool isSelected = own && !own->text.isEmpty() && m_standing.isOfApplication(window);
+    const bool isHighlighted = isSelected || co_await m_standing.stands(window);
+    if (self.isNull())
+        co_return SelectedText();
+    const bool stands = isHighlighted && !isPrimarySecret();
+    if (stands) {
+        const std::optional<QString> text = co_await m_primary.text();
+        if (text)
+            co_return SelectedText{.finding = Finding::Selected, .text = *text};
+    }
+    if (own && !own->text.isEmpty())
+        co_return SelectedText{.finding = Finding::Selected, .text = own->text};
+    // What stands is highlighted, and its owner did not give it.
+    co_return SelectedText{.finding = own && !stands ? Finding::Nothing : Finding::Unknown,
+                           .isClaimed = stands};
+}
+
+QCoro::Task<SelectedText> X11Accessibility::confirmedText(AtSpiSelection own, bool isClaimed)
+{
+    using Finding = SelectedText::Finding;
+    const bool isUsable = isClaimed && !isPrimarySecret();
+    const SelectedText unknown{.isClaimed = isUsable};
+    const SelectedText itself{.finding = Finding::Selected, .text = own.text, .isClaimed = isUsable};
+    if (own.text.isEmpty())
+        co_return isUsable ? unknown : SelectedText{.finding = Finding::Nothing};
+    std::optional<QString> primary;
+    if (isUsable)
+        primary = co_await m_primary.text();
+    // The application's own text is the better one: the bus leaves out or adds white space.
+    if (primary && isSameText(*primary, own.text))
+        co_return SelectedText{.finding = Finding::Selected, .text = *primary, .isClaimed = true};
+    // A field that shows bullets may be a password field that does not say so.
+    const bool isDoubtful = isMask(own.text) || (own.isAssembled && primary);
+    co_return isDoubtful ? unknown : itself;
+}
+
+QCoro::Task<> X11Accessibility::noteSecret()
+{
+    const PrimarySelection::Claim claim = m_primary.claim();
+    if (!isProcessTrusted() || claim.owner == XCB_WINDOW_NONE)
+        co_return;
+    const std::optional<qint64> process = m_workspace.processOf(claim.owner);
+    if (!process)
+        co_return;
+    const QPointer<X11Accessibility> self(this);
+    const bool isSecret = co_await m_atSpi.isInPasswordField(m_atSpi.ask(), *process);
+    if (!self.isNull() && isSecret)
+        m_secret = claim.number;
 }
 
 } // namespace vesk

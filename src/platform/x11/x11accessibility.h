@@ -4,6 +4,7 @@
 #include "platform/accessibility.h"
 #include "platform/freedesktop/atspi.h"
 #include "platform/x11/primaryselection.h"
+#include "platform/x11/primarystanding.h"
 
 namespace vesk {
 
@@ -12,8 +13,10 @@ class RawInput;
 class X11Connection;
 class X11Workspace;
 
-/// Other applications' texts: their X11 selection where it can be trusted, the accessibility bus
-/// otherwise, and neither without the user's consent.
+/// Other applications' texts, by the accessibility bus and the X11 selection, and neither without the user's
+/// consent. Toolkits put even a password's clear text into the X11 selection, and leave it there. So that
+/// counts by itself only where nothing else can be asked, in terminals and Emacs; elsewhere the bus must
+/// name the same text.
 class X11Accessibility final : public Accessibility
 {
     Q_OBJECT
@@ -28,6 +31,7 @@ public:
                                                               ElementAttribute attribute) override;
     QCoro::Task<std::optional<QString>> copyString(AccessibleElement element,
                                                    StringAttribute attribute) override;
+    QCoro::Task<SelectedText> selectedText() override;
 
 Q_SIGNALS:
     /// The user should be shown the question for consent.
@@ -36,15 +40,22 @@ Q_SIGNALS:
 private:
     /// Listens to other applications and the keyboard exactly while the user agrees.
     void followConsent();
-    QCoro::Task<std::optional<QString>> selectedText(AccessibleElement element);
-    /// Whether the X11 selection is what the user sees selected in this process.
-    [[nodiscard]] bool isPrimaryFresh(qint64 processIdentifier) const;
+    /// What is selected in a terminal or the like; `own` is what the bus says about that.
+    QCoro::Task<SelectedText> terminalText(xcb_window_t window, std::optional<AtSpiSelection> own);
+    /// `own` is what the bus says is selected; `isClaimed` as in `SelectedText`.
+    QCoro::Task<SelectedText> confirmedText(AtSpiSelection own, bool isClaimed);
+    /// Remembers PRIMARY for secret if it was claimed out of a password field.
+    QCoro::Task<> noteSecret();
+    [[nodiscard]] bool isPrimarySecret() const { return m_secret == m_primary.claim().number; }
 
     RawInput &m_input;
     X11Workspace &m_workspace;
     Consent &m_consent;
     PrimarySelection m_primary;
+    PrimaryStanding m_standing;
     AtSpi m_atSpi;
+    /// Number of the last claim that was made while a password field had the keyboard.
+    std::optional<quint64> m_secret;
 };
 
 } // namespace vesk
