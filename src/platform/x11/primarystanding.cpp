@@ -71,7 +71,7 @@ void PrimaryStanding::onButton()
 
 void PrimaryStanding::onKey(xcb_keycode_t /*key*/, xcb_timestamp_t time)
 {
-    const std::optional<xcb_window_t> active = m_needs.workspace.lastActiveWindow();
+    const std::optional<xcb_window_t> active = m_needs.workspace.reportedWindow();
     const bool isForEmacs = active && m_emacsWindows.contains(*active);
     // Modifiers and the keys of the desktop are no presses that count.
     if (isForEmacs && m_needs.input.lastPress() == time)

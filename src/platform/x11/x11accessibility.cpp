@@ -77,7 +77,7 @@ bool X11Accessibility::isProcessTrusted() const
 std::optional<QString> X11Accessibility::focusedWindowTitle(qint64 processIdentifier) const
 {
     const std::optional<xcb_window_t> window = m_workspace.activeWindow();
-    if (!isProcessTrusted() || !window || m_workspace.processOf(*window) != processIdentifier)
+    if (!isProcessTrusted() || !window || m_workspace.processOf(*window).value_or(0) != processIdentifier)
         return std::nullopt;
     const QString title = m_workspace.titleOf(*window);
     return title.isEmpty() ? std::nullopt : std::optional(title);
@@ -130,7 +130,7 @@ QCoro::Task<SelectedText> X11Accessibility::selectedText()
 {
     using Finding = SelectedText::Finding;
     const QPointer<X11Accessibility> self(this);
-    const std::optional<xcb_window_t> window = m_workspace.activeWindow();
+    const std::optional<xcb_window_t> window = m_workspace.reportedWindow();
     if (!isProcessTrusted() || !window)
         co_return SelectedText();
     const std::optional<qint64> process = m_workspace.processOf(*window);

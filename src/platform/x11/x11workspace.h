@@ -31,8 +31,6 @@ public:
     /// The same as of the events that were handled so far. While a key press is handled, that is the window
     /// of the press, even if another window has become active since.
     [[nodiscard]] std::optional<xcb_window_t> reportedWindow() const { return m_reportedWindow; }
-    /// The window that was active last; the same while there is none.
-    [[nodiscard]] std::optional<xcb_window_t> lastActiveWindow() const { return m_lastWindow; }
     /// The process that shows a window on this machine: for a program of another machine the one that
     /// brings its windows here, such as ssh. Nullopt if it is gone or cannot be told.
     [[nodiscard]] std::optional<qint64> processOf(xcb_window_t window) const;
