@@ -188,7 +188,7 @@ void TestEventPoster::terminalInsideAWindowGetsNoCopy()
     const AccessibleElement focused{.processIdentifier = m_editor->process().pid(), .address = u"element"_s};
     m_accessibility.setFocusedElement(focused);
     for (const QString &role : {u"terminal"_s, u"text"_s}) {
-        m_accessibility.setElement(focused, {.role = role, .selectedText = {}, .url = {}, .parent = {}});
+        m_accessibility.setElement(focused, {.role = role, .url = {}, .parent = {}});
         postCopy();
         QTRY_VERIFY(m_isPosted);
         QCOMPARE(*m_isPosted, role == u"text"_s);
