@@ -3,6 +3,8 @@
 
 #include "platform/clock.h"
 
+#include <QTextStream>
+
 #include <csignal>
 #include <sys/prctl.h>
 #include <sys/resource.h>
@@ -24,7 +26,13 @@ constexpr auto kPause = 10min;
 DailyCopy::DailyCopy(const QString &store, QString program, Clock &clock)
     : m_copy(store)
     , m_program(std::move(program))
+    , m_clock(clock)
 {
+    connect(&m_process, &QProcess::finished, this, &DailyCopy::onFinished);
+    connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            onFinished(static_cast<int>(StoreCopy::Outcome::Failed), QProcess::NormalExit);
+    });
     m_process.setStandardInputFile(QProcess::nullDevice());
     m_process.setStandardOutputFile(QProcess::nullDevice());
     m_process.setStandardErrorFile(QProcess::nullDevice());
@@ -37,13 +45,55 @@ DailyCopy::DailyCopy(const QString &store, QString program, Clock &clock)
     keep(this, &clock);
 }
 
+DailyCopy::~DailyCopy()
+{
+    // One that is being made ends with this object, and is not a failure.
+    m_process.disconnect(this);
+}
+
 void DailyCopy::makeIfDue(Date now)
 {
     if (m_process.state() != QProcess::NotRunning)
         m_process.kill();
     else if (m_copy.isDue(now))
-        // Nobody is told of a failure: the earlier copy is still there, and the next look tries again.
         m_process.start(m_program, {QString::fromLatin1(kWord)});
+}
+
+void DailyCopy::onFinished(int exitCode, QProcess::ExitStatus status)
+{
+    using Outcome = StoreCopy::Outcome;
+    const auto outcome = status == QProcess::NormalExit ? static_cast<Outcome>(exitCode) : Outcome::Failed;
+    const bool isWell = outcome == Outcome::Made || outcome == Outcome::NothingToCopy;
+    // The next look tries again, so that a failure counts only once it has lasted. Damage does at once.
+    const bool isTold = outcome == Outcome::StoreDamaged || m_copy.isOverdue(m_clock.now());
+    if (isWell)
+        setProblem({});
+    else if (isTold)
+        setProblem(describe(outcome));
+}
+
+void DailyCopy::setProblem(const QString &problem)
+{
+    if (m_problem == problem)
+        return;
+    m_problem = problem;
+    if (!problem.isEmpty())
+        QTextStream(stderr) << "vesk: " << problem << '\n';
+    Q_EMIT problemChanged();
+}
+
+QString DailyCopy::describe(StoreCopy::Outcome outcome)
+{
+    switch (outcome) {
+    case StoreCopy::Outcome::StoreDamaged:
+        return tr("The notes file is damaged, so no copy of it was made. Quit and start Vesk for advice.");
+    case StoreCopy::Outcome::DiskTooFull:
+        return tr("Vesk cannot keep a copy of your notes: the disk is too full.");
+    case StoreCopy::Outcome::NotAllowed:
+        return tr("Vesk cannot keep a copy of your notes: it may not write into their folder.");
+    default:
+        return tr("Vesk cannot keep a copy of your notes: making it failed.");
+    }
 }
 
 QCoro::Task<> DailyCopy::keep(QPointer<DailyCopy> self, Clock *clock)

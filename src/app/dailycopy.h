@@ -25,13 +25,26 @@ public:
 
     /// `program` makes the copy; usually the one that runs. Looks for the first time after some minutes.
     DailyCopy(const QString &store, QString program, Clock &clock);
+    ~DailyCopy() override;
+
+    /// Why no copy has been made for days, or that the store turned out to be damaged, in one sentence for
+    /// the user; empty if all is well.
+    [[nodiscard]] const QString &problem() const { return m_problem; }
+
+Q_SIGNALS:
+    void problemChanged();
 
 private:
+    void onFinished(int exitCode, QProcess::ExitStatus status);
+    void setProblem(const QString &problem);
+    [[nodiscard]] static QString describe(StoreCopy::Outcome outcome);
     void makeIfDue(Date now);
     static QCoro::Task<> keep(QPointer<DailyCopy> self, Clock *clock);
 
     StoreCopy m_copy;
     QString m_program;
+    Clock &m_clock;
+    QString m_problem;
     // Ends with this object.
     QProcess m_process;
 };

@@ -5,6 +5,7 @@
 #include "app/messagewindow.h"
 #include "app/notification.h"
 #include "app/quitsignals.h"
+#include "app/remotecontrol.h"
 #include "app/saveatexit.h"
 #include "app/storefailure.h"
 #include "app/unwrittenwindow.h"
@@ -25,12 +26,17 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <span>
 
 namespace {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+/// How long a command that is writing a note, or a Vesk that is just ending, is waited for.
+constexpr std::chrono::milliseconds kLockPatience = 5s;
 
 /// The texts of this file are few, and of no class.
 struct Texts
@@ -43,13 +49,22 @@ void say(const QString &message)
     QTextStream(stderr) << message << '\n';
 }
 
-/// Tells the user, on standard error and in a window, why Vesk does not start; returns when the user
-/// has closed it.
-void showFatal(vesk::Desktop &desktop, const vesk::MessageWindow::Content &content)
+void say(const vesk::MessageWindow::Content &content)
 {
     say(content.message);
     if (!content.details.isEmpty())
         say(content.details);
+}
+
+/// Tells the user, on standard error and in a window, why Vesk does not start; returns when the user
+/// has closed it.
+void showFatal(vesk::Desktop &desktop, vesk::ApplicationService &service,
+               const vesk::MessageWindow::Content &content)
+{
+    say(content);
+    // Whoever calls meanwhile gets an answer.
+    vesk::RemoteControl remoteControl(service, {.quit = [] { QCoreApplication::exit(0); }});
+    remoteControl.refuseCommands(Texts::tr("Vesk could not open the notes store and is about to end."));
     QQmlEngine engine;
     vesk::lendToEngine(engine, desktop.appearance, desktop.workspace, desktop.windows);
     vesk::MessageWindow window(engine, content);
@@ -60,16 +75,19 @@ void showFatal(vesk::Desktop &desktop, const vesk::MessageWindow::Content &conte
 }
 
 int runUntilQuit(vesk::Desktop &desktop, std::unique_ptr<vesk::GlobalKeys> keys, vesk::NotesStore &store,
-                 vesk::ApplicationService &service, bool isInBackground)
+                 vesk::ApplicationService &service, const vesk::DailyCopy &dailyCopy, bool isInBackground)
 {
     vesk::VeskApp app(desktop, *keys, store, service);
+    QObject::connect(&dailyCopy, &vesk::DailyCopy::problemChanged, &app,
+                     [&app, &dailyCopy] { app.setCopyProblem(dailyCopy.problem()); });
     if (!isInBackground)
         app.showPanel();
     return QCoreApplication::exec();
 }
 
-/// Offers the texts that could not be written; returns when the user is done with them.
-void showUnwritten(vesk::Desktop &desktop, const vesk::NotesStore &store)
+/// Offers the texts that could not be written; returns when the user is done with them, or they are
+/// written after all.
+void showUnwritten(vesk::Desktop &desktop, vesk::ApplicationService &service, const vesk::NotesStore &store)
 {
     if (store.unwrittenTexts().isEmpty())
         return;
@@ -77,6 +95,8 @@ void showUnwritten(vesk::Desktop &desktop, const vesk::NotesStore &store)
     vesk::lendToEngine(engine, desktop.appearance, desktop.workspace, desktop.windows);
     vesk::UnwrittenWindow window(engine, store, desktop.pasteboard);
     QObject::connect(&window, &vesk::UnwrittenWindow::quitRequested, qApp, [] { QCoreApplication::exit(0); });
+    // Whoever starts Vesk again sees why it has not ended.
+    QObject::connect(&service, &vesk::ApplicationService::activated, &window, &vesk::UnwrittenWindow::show);
     window.show();
     QCoreApplication::exec();
 }
@@ -107,19 +127,29 @@ int runVesk(bool isInBackground)
     auto keys = std::make_unique<vesk::GlobalKeys>(desktop.hotKeys, vesk::KeysFile::standardPath());
     keys->start();
     const QString path = vesk::NotesStore::standardPath();
-    const vesk::NotesStore::OpenResult opened = vesk::NotesStore::open(path, desktop.clock);
+    const vesk::NotesStore::OpenResult opened =
+        vesk::NotesStore::open(path, desktop.clock, vesk::NotesStore::Use::Session, kLockPatience);
     if (!opened.store) {
         keys.reset();
-        showFatal(desktop, vesk::describeStoreFailure(opened, vesk::StoreCopy(path)));
+        const auto content = vesk::describeStoreFailure(opened, path, desktop.clock.now());
+        // At the start of a session nobody has asked for Vesk, and there is nothing to decide.
+        if (opened.fault == vesk::StoreFault::HeldElsewhere && isInBackground) {
+            say(content);
+            vesk::notifyUser(content.heading, content.message);
+        } else {
+            showFatal(desktop, service, content);
+        }
         return 1;
     }
     const vesk::DailyCopy dailyCopy(path, QCoreApplication::applicationFilePath(), desktop.clock);
     const vesk::SaveAtExit saveAtExit(*opened.store);
-    const int result = runUntilQuit(desktop, std::move(keys), *opened.store, service, isInBackground);
-    const bool isSaved = opened.store->save();
+    const int result =
+        runUntilQuit(desktop, std::move(keys), *opened.store, service, dailyCopy, isInBackground);
+    // What this does not write is offered to the user.
+    static_cast<void>(opened.store->save());
     // Any other result means that there is no display left to ask on.
-    if (result == 0 && !isSaved)
-        showUnwritten(desktop, *opened.store);
+    if (result == 0)
+        showUnwritten(desktop, service, *opened.store);
     // A text that was just pasted, or that is the user's own, is not to go with Vesk.
     QCoro::waitFor(desktop.pasteboard.handOver());
     return result;
@@ -165,7 +195,7 @@ int main(int argc, char *argv[])
     if (words.size() > 1 && QByteArrayView(words[1]) == QByteArrayView("access"))
         return runAccess(argc, argv);
     if (words.size() > 1 && QByteArrayView(words[1]) == QByteArrayView(vesk::DailyCopy::kWord))
-        return vesk::StoreCopy(vesk::NotesStore::standardPath()).make() ? 0 : 1;
+        return static_cast<int>(vesk::StoreCopy(vesk::NotesStore::standardPath()).make());
 
     // The windows are X11's, also where a Wayland compositor offers both.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))

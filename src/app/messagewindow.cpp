@@ -24,9 +24,7 @@ MessageWindow::MessageWindow(QQmlEngine &engine, const Content &content)
     m_view.setSource(QUrl(u"qrc:/qt/qml/Vesk/App/MessageView.qml"_s));
     connect(m_view.rootObject(), SIGNAL(accepted()), this, SIGNAL(accepted()));
     connect(m_view.rootObject(), SIGNAL(rejected()), this, SLOT(onRejected()));
-    const QSize size = m_view.rootObject()->size().toSize();
-    m_view.setMinimumSize(size);
-    m_view.setMaximumSize(size);
+    fit();
     m_view.installEventFilter(this);
 }
 
@@ -50,6 +48,19 @@ void MessageWindow::hide()
 void MessageWindow::setAcceptLabel(const QString &label)
 {
     m_view.rootObject()->setProperty("acceptLabel", label);
+}
+
+void MessageWindow::setDetails(const QString &details)
+{
+    m_view.rootObject()->setProperty("details", details);
+    fit();
+}
+
+void MessageWindow::fit()
+{
+    const QSize size = m_view.rootObject()->size().toSize();
+    m_view.setMinimumSize(size);
+    m_view.setMaximumSize(size);
 }
 
 bool MessageWindow::eventFilter(QObject *watched, QEvent *event)

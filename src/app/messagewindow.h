@@ -44,6 +44,7 @@ public:
     void show();
     void hide();
     void setAcceptLabel(const QString &label);
+    void setDetails(const QString &details);
 
 Q_SIGNALS:
     void accepted();
@@ -56,6 +57,9 @@ private Q_SLOTS:
     void onRejected() { Q_EMIT rejected(Rejection::ByButton); }
 
 private:
+    /// Gives the window the size of what it shows, and no other.
+    void fit();
+
     QQuickView m_view;
     bool m_isRejectCostly;
 };

@@ -31,16 +31,23 @@ RemoteControl::RemoteControl(ApplicationService &service, Commands commands)
 void RemoteControl::AddNote(const QString &text, const QDBusMessage &message) const
 {
     const QString trimmed = text.trimmed();
-    if (trimmed.isEmpty())
+    if (trimmed.isEmpty()) {
         refuse(message, QDBusError::InvalidArgs, tr("There is no text to add."));
-    else if (trimmed.toUtf8().size() > kMaximumTextBytes)
+        return;
+    }
+    if (trimmed.toUtf8().size() > kMaximumTextBytes) {
         refuse(message, QDBusError::LimitsExceeded, tr("The text is too long for a note."));
-    else if (!m_commands.addNote(trimmed))
-        // The store holds on to it and writes it when the disk lets it.
-        refuse(
-            message, QDBusError::Failed,
-            tr("The note is not saved yet: the disk takes nothing. Vesk keeps it and goes on trying; do not "
-               "add it again."));
+        return;
+    }
+    if (!m_commands.addNote) {
+        refuse(message, QDBusError::Failed, m_refusal);
+        return;
+    }
+    const QString problem = m_commands.addNote(trimmed);
+    // The store holds on to it and writes it when the disk lets it.
+    if (!problem.isEmpty())
+        refuse(message, QDBusError::Failed,
+               tr("The note is not on the disk yet; do not add it again. %1").arg(problem));
 }
 
 QList<QVariantMap> RemoteControl::Keys(QStringList &problems) const
@@ -50,8 +57,13 @@ QList<QVariantMap> RemoteControl::Keys(QStringList &problems) const
     return report.toMaps();
 }
 
-void RemoteControl::carryOut(const std::function<void()> &command, const QDBusMessage &message)
+void RemoteControl::carryOut(const std::function<void()> &command, const QDBusMessage &message,
+                             const QString &refusal)
 {
+    if (!refusal.isEmpty()) {
+        refuse(message, QDBusError::Failed, refusal);
+        return;
+    }
     if (!command) {
         refuse(message, QDBusError::NotSupported, tr("This Vesk cannot do that."));
         return;

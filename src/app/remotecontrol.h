@@ -26,28 +26,31 @@ public:
     /// What the methods of the same names do. One that is empty answers that it is not supported.
     struct Commands
     {
-        std::function<void()> toggle;
-        std::function<void()> write;
-        std::function<void()> quit;
-        std::function<void()> capture;
-        std::function<void()> captureToLastNote;
-        std::function<void()> captureChecklist;
-        std::function<void()> addToChecklist;
-        std::function<void()> savePrompt;
-        std::function<void()> quickNote;
-        std::function<void()> quickChecklist;
-        /// Keeps the text as a new note; returns whether it is on the disk.
-        std::function<bool(const QString &)> addNote;
-        std::function<KeysReport()> keys;
+        std::function<void()> toggle = {};
+        std::function<void()> write = {};
+        std::function<void()> quit = {};
+        std::function<void()> capture = {};
+        std::function<void()> captureToLastNote = {};
+        std::function<void()> captureChecklist = {};
+        std::function<void()> addToChecklist = {};
+        std::function<void()> savePrompt = {};
+        std::function<void()> quickNote = {};
+        std::function<void()> quickChecklist = {};
+        /// Keeps the text as a new note; returns why it is not on the disk yet, or nothing if it is.
+        std::function<QString(const QString &)> addNote = {};
+        std::function<KeysReport()> keys = {};
     };
 
     /// Owned by the service, under whose name and path it is called.
     RemoteControl(ApplicationService &service, Commands commands);
 
+    /// From now on answers every command with `reason`, except Quit, and AddNote while there is a store.
+    void refuseCommands(const QString &reason) { m_refusal = reason; }
+
 public Q_SLOTS:
     void Toggle(const QDBusMessage &message) const { carryOut(m_commands.toggle, message); }
     void Write(const QDBusMessage &message) const { carryOut(m_commands.write, message); }
-    void Quit(const QDBusMessage &message) const { carryOut(m_commands.quit, message); }
+    void Quit(const QDBusMessage &message) const { carryOut(m_commands.quit, message, {}); }
     void Capture(const QDBusMessage &message) const { carryOut(m_commands.capture, message); }
     void CaptureToLastNote(const QDBusMessage &message) const
     {
@@ -67,9 +70,15 @@ public Q_SLOTS:
 
 private:
     /// Answers the caller first: what a command does may take its time.
-    static void carryOut(const std::function<void()> &command, const QDBusMessage &message);
+    static void carryOut(const std::function<void()> &command, const QDBusMessage &message,
+                         const QString &refusal);
+    void carryOut(const std::function<void()> &command, const QDBusMessage &message) const
+    {
+        carryOut(command, message, m_refusal);
+    }
 
     Commands m_commands;
+    QString m_refusal;
 };
 
 } // namespace vesk

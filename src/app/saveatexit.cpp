@@ -13,9 +13,9 @@ NotesStore *g_store = nullptr;
 
 void saveNow()
 {
-    // Nobody is left to be told of a failure; it has been logged.
+    // Nobody is left to be told of a failure, which is on standard error.
     if (g_store)
-        g_store->save();
+        static_cast<void>(g_store->save());
 }
 
 } // namespace
@@ -23,7 +23,7 @@ void saveNow()
 SaveAtExit::SaveAtExit(NotesStore &store)
 {
     g_store = &store;
-    // Without it, what was typed in the last two seconds can be lost, as with the power.
+    // Without it, what was typed in the last half second would be lost, as in a power cut.
     static_cast<void>(std::atexit(saveNow));
 }
 

@@ -6,11 +6,9 @@
 
 namespace vesk {
 
-class StoreCopy;
-
-/// What is said of a store that cannot be opened; if it is damaged and there is a copy of it, also how to
-/// go on with that.
+/// What is said of the store at `path` that could not be opened; if only a copy of it helps, also how to go
+/// on with that.
 [[nodiscard]] MessageWindow::Content describeStoreFailure(const NotesStore::OpenResult &opened,
-                                                          const StoreCopy &copy);
+                                                          const QString &path, Date now);
 
 } // namespace vesk

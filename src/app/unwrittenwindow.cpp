@@ -26,18 +26,31 @@ MessageWindow::Content contentFor(const QString &texts)
 } // namespace
 
 UnwrittenWindow::UnwrittenWindow(QQmlEngine &engine, const NotesStore &store, Pasteboard &pasteboard)
-    : UnwrittenWindow(engine, store.unwrittenTexts().join(u"\n\n"_s), pasteboard)
+    : m_store(store)
+    , m_window(engine, contentFor(texts()))
 {
-}
-
-UnwrittenWindow::UnwrittenWindow(QQmlEngine &engine, const QString &texts, Pasteboard &pasteboard)
-    : m_window(engine, contentFor(texts))
-{
-    connect(&m_window, &MessageWindow::accepted, this, [this, texts, &pasteboard] {
-        pasteboard.setString(texts);
+    connect(&m_window, &MessageWindow::accepted, this, [this, &pasteboard] {
+        pasteboard.setString(texts());
         m_window.setAcceptLabel(tr("Copied"));
     });
     connect(&m_window, &MessageWindow::rejected, this, &UnwrittenWindow::quitRequested);
+    connect(&store, &NotesStore::saveTried, this, &UnwrittenWindow::update);
+}
+
+QString UnwrittenWindow::texts() const
+{
+    return m_store.unwrittenTexts().join(u"\n\n"_s);
+}
+
+void UnwrittenWindow::update()
+{
+    if (texts().isEmpty()) {
+        Q_EMIT quitRequested();
+        return;
+    }
+    m_window.setDetails(texts());
+    // What has been copied may not be all any more.
+    m_window.setAcceptLabel(tr("Copy"));
 }
 
 } // namespace vesk

@@ -124,6 +124,12 @@ VeskApp::VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, Applicat
     });
 }
 
+VeskApp::~VeskApp()
+{
+    if (m_remoteControl)
+        m_remoteControl->refuseCommands(tr("Vesk is ending."));
+}
+
 void VeskApp::offerCommands(Desktop &desktop, NotesStore &store, ApplicationService &service)
 {
     using Target = VeskServices::Target;
@@ -137,7 +143,7 @@ void VeskApp::offerCommands(Desktop &desktop, NotesStore &store, ApplicationServ
         };
     };
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the service owns it.
-    new RemoteControl(
+    m_remoteControl = new RemoteControl(
         service,
         {
             .toggle = command([](VeskApp &app) { app.m_panelWindow.togglePanel(); }),
@@ -154,7 +160,7 @@ void VeskApp::offerCommands(Desktop &desktop, NotesStore &store, ApplicationServ
             .addNote =
                 [&clock = desktop.clock, &store](const QString &text) {
                     store.insert(std::make_unique<Note>(clock, text));
-                    return store.save();
+                    return store.save() ? QString() : store.problem();
                 },
             .keys =
                 [self] {

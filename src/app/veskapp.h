@@ -19,6 +19,7 @@
 #include <QCoroTask>
 
 #include <QObject>
+#include <QPointer>
 #include <QQmlEngine>
 
 #include <memory>
@@ -27,6 +28,7 @@ namespace vesk {
 
 class ApplicationService;
 class Pasteboard;
+class RemoteControl;
 struct Desktop;
 
 /// The running program: the one instance of everything that the layers share.
@@ -37,8 +39,11 @@ class VeskApp final : public QObject
 public:
     /// All have to outlive it.
     VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, ApplicationService &service);
+    ~VeskApp() override;
 
     void showPanel() { m_panelWindow.showPanel(); }
+    /// Shows in the panel that the daily copy could not be made; an empty text takes that away.
+    void setCopyProblem(const QString &problem) { m_panel.setCopyProblem(problem); }
 
 private:
     /// Lets other processes give the commands that the keys give.
@@ -66,6 +71,8 @@ private:
     MenuCommands m_commands;
     MemoryTrim m_memoryTrim;
     std::unique_ptr<DesktopMenus> m_desktopMenus;
+    /// The service's, which answers other programs until it ends, after this object.
+    QPointer<RemoteControl> m_remoteControl;
 };
 
 } // namespace vesk

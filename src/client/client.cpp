@@ -6,20 +6,24 @@
 #include "input/keysfile.h"
 #include "notes/notesreader.h"
 #include "notes/notesstore.h"
+#include "notes/storeadvice.h"
 #include "platform/accessibility.h"
 #include "platform/freedesktop/systemclock.h"
 
 #include <QCoreApplication>
 #include <QDBusArgument>
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QStringDecoder>
 #include <QTextStream>
 
 #include <cerrno>
+#include <chrono>
 
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace vesk {
 
@@ -27,6 +31,8 @@ namespace {
 
 constexpr int kDone = 0;
 constexpr int kFailed = 1;
+/// How long other commands that add a note, one after another, are waited for.
+constexpr std::chrono::milliseconds kTurnDeadline = 30s;
 
 QString noBus()
 {
@@ -56,11 +62,22 @@ int print(const QByteArray &text)
     return isWritten ? kDone : kFailed;
 }
 
+/// Says why the store cannot be used, and how to go on with a copy where only that helps.
+void sayStoreError(const QString &error, StoreFault fault)
+{
+    sayError(error);
+    const StoreAdvice advice = StoreAdvice::on(NotesStore::standardPath(), fault, SystemClock().now());
+    for (const QString &each : {advice.message, advice.command}) {
+        if (!each.isEmpty())
+            QTextStream(stderr) << each << '\n';
+    }
+}
+
 int list(bool isJson)
 {
     const NotesReading reading = readNotes(NotesStore::standardPath());
     if (!reading.error.isEmpty()) {
-        sayError(reading.error);
+        sayStoreError(reading.error.text, reading.error.fault);
         return kFailed;
     }
     return print(isJson ? notesAsJson(reading.notes) : notesAsLines(reading.notes));
@@ -194,24 +211,32 @@ int Client::add(const QString &text)
         sayError(noBus());
         return kFailed;
     }
-    // A running Vesk has all notes in memory, so it alone may write. The name is the lock: who has it is
-    // the one writer.
-    if (m_remote.takeName())
-        return addToStore(trimmed);
-    return outcome(m_remote.call(u"AddNote"_s, {trimmed}));
+    // A running Vesk has all notes in memory, so it alone may write. Who has the name is the one writer of
+    // this session.
+    for (const QDeadlineTimer deadline(kTurnDeadline); !deadline.hasExpired(); Remote::pause()) {
+        if (m_remote.takeName())
+            return addToStore(trimmed);
+        if (m_remote.owner() == Remote::Owner::Vesk)
+            return outcome(m_remote.call(u"AddNote"_s, {trimmed}));
+    }
+    sayError(tr("The note was not kept: other commands are writing to the notes all the time."));
+    return kFailed;
 }
 
 int Client::addToStore(const QString &text)
 {
     SystemClock clock;
-    const NotesStore::OpenResult opened = NotesStore::open(NotesStore::standardPath(), clock);
+    const QString path = NotesStore::standardPath();
+    const NotesStore::OpenResult opened =
+        NotesStore::open(path, clock, NotesStore::Use::Command, kTurnDeadline);
     if (!opened.store) {
-        sayError(tr("Could not open the notes store: %1").arg(opened.error));
+        sayStoreError(tr("Could not open the notes store: %1").arg(opened.error), opened.fault);
         return kFailed;
     }
     opened.store->insert(std::make_unique<Note>(clock, text));
     if (!opened.store->save()) {
-        sayError(tr("The note could not be written to %1.").arg(NotesStore::standardPath()));
+        sayError(tr("The note could not be written to %1.").arg(path));
+        sayError(opened.store->problem());
         return kFailed;
     }
     return kDone;

@@ -28,12 +28,6 @@ const QString kApplicationInterface = u"org.freedesktop.Application"_s;
 constexpr std::chrono::milliseconds kCallDeadline = 10s;
 constexpr std::chrono::milliseconds kStartDeadline = 15s;
 
-void wait()
-{
-    constexpr useconds_t kMoment = 10'000;
-    ::usleep(kMoment);
-}
-
 Remote::Answer done()
 {
     return {.isDone = true, .error = {}};
@@ -70,21 +64,36 @@ bool Remote::hasBus() const
     return m_bus.isConnected();
 }
 
-bool Remote::isRunning() const
+Remote::Owner Remote::owner() const
 {
+    if (!hasBus())
+        return Owner::Nobody;
     QDBusMessage question =
         QDBusMessage::createMethodCall(kService, kPath, kApplicationInterface, u"Activate"_s);
     question << QVariantMap{{ApplicationService::kInBackground, true}};
     question.setAutoStartService(false);
-    for (QDeadlineTimer deadline(kCallDeadline); hasBus() && !deadline.hasExpired();) {
-        const QDBusMessage reply = m_bus.call(question, QDBus::Block, int(kCallDeadline.count()));
-        if (reply.errorName() == "org.freedesktop.DBus.Error.NameHasNoOwner"_L1)
-            return false;
-        const QDBusError::ErrorType error = QDBusError(reply).type();
-        // Another process like this one has the name for a moment, to add a note.
-        if (error != QDBusError::UnknownObject && error != QDBusError::Disconnected)
-            return true;
-        wait();
+    const QDeadlineTimer deadline(kCallDeadline);
+    const QDBusMessage reply = m_bus.call(question, QDBus::Block, int(kCallDeadline.count()));
+    if (reply.errorName() == "org.freedesktop.DBus.Error.NameHasNoOwner"_L1)
+        return Owner::Nobody;
+    switch (QDBusError(reply).type()) {
+    case QDBusError::UnknownObject:
+    case QDBusError::Disconnected:
+        return Owner::Command;
+    case QDBusError::NoReply:
+        // Before its time is up, this says that the owner has left the bus: a command that has ended.
+        return deadline.hasExpired() ? Owner::Vesk : Owner::Command;
+    default:
+        return Owner::Vesk;
+    }
+}
+
+bool Remote::isRunning() const
+{
+    for (const QDeadlineTimer deadline(kCallDeadline); !deadline.hasExpired(); pause()) {
+        const Owner found = owner();
+        if (found != Owner::Command)
+            return found == Owner::Vesk;
     }
     return false;
 }
@@ -117,15 +126,22 @@ Remote::Answer Remote::start(const QString &program)
     if (!process.startDetached(&pid))
         return failed(tr("%1 could not be started.").arg(program));
     for (QDeadlineTimer deadline(kStartDeadline); !deadline.hasExpired();) {
-        if (m_bus.interface()->isServiceRegistered(kService))
+        // It has the name before it has opened the notes, and only answers after that.
+        if (m_bus.interface()->isServiceRegistered(kService) && owner() == Owner::Vesk)
             return done();
         if (hasEnded(pid)) {
             const QString reason = contentsOf(words.fileName());
             return failed(reason.isEmpty() ? tr("Vesk ended as soon as it was started.") : reason);
         }
-        wait();
+        pause();
     }
     return failed(tr("Vesk was started, and does not answer yet."));
+}
+
+void Remote::pause()
+{
+    constexpr useconds_t kMoment = 10'000;
+    ::usleep(kMoment);
 }
 
 bool Remote::takeName()
@@ -135,7 +151,7 @@ bool Remote::takeName()
 
 Remote::Answer Remote::waitForEnd()
 {
-    for (QDeadlineTimer deadline(kCallDeadline); !deadline.hasExpired(); wait()) {
+    for (QDeadlineTimer deadline(kCallDeadline); !deadline.hasExpired(); pause()) {
         if (!m_bus.interface()->isServiceRegistered(kService))
             return done();
     }

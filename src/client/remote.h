@@ -28,8 +28,19 @@ public:
 
     Remote();
 
+    /// Who has Vesk's name on the bus.
+    enum class Owner {
+        Nobody,
+        /// A Vesk that stays, whether or not it answers.
+        Vesk,
+        /// A command that is adding a note at this moment.
+        Command,
+    };
+
     /// Without the session's bus nothing else here works.
     [[nodiscard]] bool hasBus() const;
+    [[nodiscard]] Owner owner() const;
+    /// Waits for a command that has the name.
     [[nodiscard]] bool isRunning() const;
 
     /// Has the running Vesk come forward.
@@ -37,8 +48,8 @@ public:
     /// Calls a method of org.vesk.Vesk. Waits up to 10 s, for a Vesk that has only just started.
     [[nodiscard]] Answer call(const QString &method, const QVariantList &arguments = {});
 
-    /// Starts `program` in the background, detached from the terminal, and waits until it has the name
-    /// on the bus, up to 15 s. Fails if it ends before.
+    /// Starts `program` in the background, detached from the terminal, and waits until it answers on the
+    /// bus, up to 15 s. Fails if it ends before.
     [[nodiscard]] Answer start(const QString &program);
 
     /// Takes Vesk's name for the rest of this process, so that none starts meanwhile; false if one runs.
@@ -46,6 +57,9 @@ public:
 
     /// Waits until the Vesk that was told to quit is gone, up to 10 s.
     [[nodiscard]] Answer waitForEnd();
+
+    /// Waits a moment before something is asked again.
+    static void pause();
 
 private:
     [[nodiscard]] Answer send(const QString &interface, const QString &method, const QVariantList &arguments);

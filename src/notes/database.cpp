@@ -2,6 +2,7 @@
 #include "notes/database.h"
 
 #include "notes/schema.h"
+#include "notes/storefolder.h"
 
 #include <QDebug>
 #include <QSet>
@@ -11,6 +12,8 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace vesk {
 
@@ -35,42 +38,85 @@ constexpr int kBusyTimeoutMilliseconds = 250;
 
 } // namespace
 
-Database::OpenResult Database::open(const QString &path)
+Database::OpenResult Database::open(const QString &path, StoreLock::Use use,
+                                    std::chrono::milliseconds patience)
 {
+    using Journal = storejournal::Kind;
     OpenResult result;
     const StoreFile file(path);
     file.makeFolder();
     result.error = file.obstacle();
     if (!result.error.isEmpty())
         return result;
-    try {
-        result.error = file.isEmpty() ? file.create() : file.contentsObstacle();
-        if (!result.error.isEmpty())
-            return result;
-        std::unique_ptr<Database> database(new Database(file));
-        result.error = database->load(file, result);
-        if (result.error.isEmpty())
-            result.database = std::move(database);
-    } catch (const SQLite::Exception &error) {
-        result.error = file.describe(error.getErrorCode(), error.what());
+    StoreLock::Result locked = StoreLock::acquire(file.path(), use, patience);
+    if (!locked.lock) {
+        result.error = locked.error;
+        return result;
     }
+    try {
+        // Only now: another process may have made the file while the lock was waited for.
+        result.error = file.isEmpty() ? file.create() : file.contentsObstacle();
+    } catch (const SQLite::Exception &error) {
+        result.error = file.describe(StoreTrouble::of(error.getExtendedErrorCode(),
+                                                      QString::fromUtf8(error.what()), 0, file.folder()));
+    }
+    if (!result.error.isEmpty())
+        return result;
+    const Journal journal =
+        storefolder::isOnNetwork(file.folder()) ? Journal::Rollback : Journal::WriteAheadLog;
+    StoreTrouble trouble;
+    result.database = tryOpening(file, locked.lock, journal, result, trouble);
+    // The file system may not offer shared memory, which has no error of its own.
+    if (!result.database && locked.lock && journal == Journal::WriteAheadLog
+        && trouble.kind == StoreTrouble::Kind::Other)
+        result.database = tryOpening(file, locked.lock, Journal::Rollback, result, trouble);
     return result;
 }
 
-Database::Database(const StoreFile &file)
-    : m_connection(file.nativePath(), SQLite::OPEN_READWRITE, kBusyTimeoutMilliseconds)
+std::unique_ptr<Database> Database::tryOpening(const StoreFile &file, std::unique_ptr<StoreLock> &lock,
+                                               storejournal::Kind journal, OpenResult &result,
+                                               StoreTrouble &trouble)
+{
+    std::unique_ptr<Database> database;
+    result.error = {};
+    result.notes.clear();
+    result.prompts.clear();
+    try {
+        database.reset(new Database(file, journal));
+        result.error = database->load(file, journal, result);
+        // The reason is not one of SQLite's, which another journal could change.
+        trouble.kind = StoreTrouble::Kind::Damaged;
+    } catch (const SQLite::Exception &error) {
+        trouble = database ? database->troubleOf(error)
+                           : StoreTrouble::of(error.getExtendedErrorCode(), QString::fromUtf8(error.what()),
+                                              0, file.folder());
+        result.error = file.describe(trouble);
+    }
+    if (!result.error.isEmpty())
+        return nullptr;
+    database->m_lock = std::move(lock);
+    return database;
+}
+
+Database::Database(const StoreFile &file, storejournal::Kind journal)
+    : m_folder(file.folder())
+    , m_connection(file.nativePath(), SQLite::OPEN_READWRITE, kBusyTimeoutMilliseconds)
 {
     // Until the file is accepted. Without a journal there is nothing to move, and closing tidies up
     // the empty companions that opening has made.
     setCheckpointOnClose(!file.hasJournal());
+    storejournal::prepare(m_connection, journal);
+    // What is deleted is overwritten, however the library was built.
+    m_connection.exec("PRAGMA secure_delete = ON");
 }
 
-StoreError Database::load(const StoreFile &file, OpenResult &result)
+StoreError Database::load(const StoreFile &file, storejournal::Kind journal, OpenResult &result)
 {
     const bool hadJournal = file.hasJournal();
     // SQLite falls back to reading alone without a word.
     if (sqlite3_db_readonly(m_connection.getHandle(), "main") != 0)
-        return file.describe(SQLITE_READONLY, "");
+        return file.describe(StoreTrouble::of(
+            SQLITE_READONLY, QString::fromUtf8(sqlite3_errstr(SQLITE_READONLY)), 0, m_folder));
     {
         SQLite::Transaction transaction(m_connection, SQLite::TransactionBehavior::IMMEDIATE);
         // Looked at again, with the journal now.
@@ -81,8 +127,9 @@ StoreError Database::load(const StoreFile &file, OpenResult &result)
             return file.damaged();
         // Damage that reading meets by itself is found below; this finds it in the indexes, too, where
         // it would make later saves fail, or write a note a second time.
-        if (m_connection.execAndGet("PRAGMA integrity_check(1)").getString() != "ok")
-            return file.damaged();
+        const std::string report = m_connection.execAndGet("PRAGMA integrity_check(1)").getString();
+        if (report != "ok")
+            return file.describe(StoreTrouble::ofCheck(QString::fromStdString(report), m_folder));
         schema::migrate(m_connection);
         m_notes = std::make_unique<NoteTable>(m_connection);
         m_prompts = std::make_unique<PromptTable>(m_connection);
@@ -92,8 +139,7 @@ StoreError Database::load(const StoreFile &file, OpenResult &result)
             return file.damaged();
         transaction.commit();
     }
-    m_connection.exec("PRAGMA journal_mode = WAL");
-    m_connection.exec("PRAGMA synchronous = FULL");
+    storejournal::settle(m_connection, journal);
     // What a crash has left may be there for reading and yet not on the disk: after a sync that failed,
     // Linux takes the pages for clean, and no later sync of the journal writes them. So they are written
     // once more, into the file, before anything is added to them. A failure leaves all as it was.
@@ -107,24 +153,77 @@ StoreError Database::load(const StoreFile &file, OpenResult &result)
     return {};
 }
 
-bool Database::write(const std::vector<Change> &changes)
+Database::Written Database::write(const std::vector<Change> &changes)
 {
+    Written written;
+    if (hasMoved()) {
+        // What SQLite writes now would be in no file that is found again.
+        written.trouble = {.kind = StoreTrouble::Kind::Moved, .detail = u"the file was moved"_s};
+    } else {
+        written = writeInOneTransaction(changes, false);
+        if (!written.isCommitted && written.trouble->kind == StoreTrouble::Kind::RecordRefused)
+            written = writeInOneTransaction(changes, true);
+        m_hasFailed = !written.isCommitted;
+    }
+    if (written.trouble)
+        qWarning() << "The notes could not be saved:" << qPrintable(written.trouble->detail);
+    return written;
+}
+
+Database::Written Database::writeInOneTransaction(const std::vector<Change> &changes, bool isApart)
+{
+    Written written;
     try {
         SQLite::Transaction transaction(m_connection, SQLite::TransactionBehavior::IMMEDIATE);
-        for (const Change &change : changes)
-            std::visit([this](const auto &one) { make(one); }, change);
+        makeAll(changes, isApart, written);
         // A transaction that changes nothing would leave the failed one in the journal, from where a
         // crash brings it back.
         if (m_hasFailed)
             schema::touch(m_connection);
         transaction.commit();
-        m_hasFailed = false;
-        return true;
+        written.isCommitted = true;
     } catch (const SQLite::Exception &error) {
-        m_hasFailed = true;
-        qWarning() << "The notes could not be saved:" << error.what();
-        return false;
+        written = {.trouble = troubleOf(error)};
     }
+    return written;
+}
+
+void Database::makeAll(const std::vector<Change> &changes, bool isApart, Written &written)
+{
+    for (size_t place = 0; place < changes.size(); ++place) {
+        const auto makeOne = [&] { std::visit([this](const auto &one) { make(one); }, changes[place]); };
+        if (!isApart) {
+            makeOne();
+            continue;
+        }
+        m_connection.exec("SAVEPOINT record");
+        try {
+            makeOne();
+        } catch (const SQLite::Exception &error) {
+            const StoreTrouble trouble = troubleOf(error);
+            // Whatever else failed concerns all of them, and SQLite may have ended the transaction.
+            if (trouble.kind != StoreTrouble::Kind::RecordRefused)
+                throw;
+            written.trouble = trouble;
+            written.refused.push_back(place);
+            m_connection.exec("ROLLBACK TO record");
+        }
+        m_connection.exec("RELEASE record");
+    }
+}
+
+StoreTrouble Database::troubleOf(const SQLite::Exception &error)
+{
+    return StoreTrouble::of(error.getExtendedErrorCode(), QString::fromUtf8(error.what()),
+                            sqlite3_system_errno(m_connection.getHandle()), m_folder);
+}
+
+bool Database::hasMoved()
+{
+    int hasMoved = 0;
+    const int result =
+        sqlite3_file_control(m_connection.getHandle(), "main", SQLITE_FCNTL_HAS_MOVED, &hasMoved);
+    return result == SQLITE_OK && hasMoved != 0;
 }
 
 void Database::make(const Removal &removal)

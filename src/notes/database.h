@@ -5,10 +5,14 @@
 #include "notes/pendingchanges.h"
 #include "notes/prompttable.h"
 #include "notes/storefile.h"
+#include "notes/storejournal.h"
+#include "notes/storelock.h"
 
 #include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Exception.h>
 
 #include <memory>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -36,25 +40,53 @@ public:
     /// A record to be written as it is now, or one to be removed.
     using Change = std::variant<const Note *, const Prompt *, Removal>;
 
-    /// See `NotesStore::open`.
-    [[nodiscard]] static OpenResult open(const QString &path);
+    /// What became of changes.
+    struct Written
+    {
+        /// False if none of them is in the file.
+        bool isCommitted = false;
+        /// The places in the list of those that alone could not be made.
+        std::vector<size_t> refused = {};
+        /// What went wrong, if anything did.
+        std::optional<StoreTrouble> trouble = {};
+    };
 
-    /// Makes all changes, in their order, in one transaction; returns once they are on the disk.
-    /// False, with the file as it was, if one of them fails.
-    [[nodiscard]] bool write(const std::vector<Change> &changes);
+    /// See `NotesStore::open`.
+    [[nodiscard]] static OpenResult open(const QString &path, StoreLock::Use use,
+                                         std::chrono::milliseconds patience);
+
+    /// Makes all changes, in their order, in one transaction; returns once they are on the disk. A record
+    /// that cannot be written does not keep the others from it. If the whole fails, the file is as it was.
+    [[nodiscard]] Written write(const std::vector<Change> &changes);
 
 private:
-    explicit Database(const StoreFile &file);
+    Database(const StoreFile &file, storejournal::Kind journal);
 
+    /// Reads everything with one kind of journal, and takes `lock` over. Null if that fails, with why in
+    /// `result`, and in `trouble` where SQLite said so.
+    [[nodiscard]] static std::unique_ptr<Database> tryOpening(const StoreFile &file,
+                                                              std::unique_ptr<StoreLock> &lock,
+                                                              storejournal::Kind journal, OpenResult &result,
+                                                              StoreTrouble &trouble);
     /// Whether closing may move the journal into the file.
     void setCheckpointOnClose(bool isAllowed);
     /// Reads everything, having made sure that the file can be written. Returns why the file is
     /// refused, or nothing.
-    [[nodiscard]] StoreError load(const StoreFile &file, OpenResult &result);
+    [[nodiscard]] StoreError load(const StoreFile &file, storejournal::Kind journal, OpenResult &result);
+    /// Makes the changes in the open transaction. With `isApart` each in a savepoint of its own, which
+    /// leaves out those that are refused; otherwise the first of these throws.
+    void makeAll(const std::vector<Change> &changes, bool isApart, Written &written);
     void make(const Note *note) { m_notes->write(*note); }
     void make(const Prompt *prompt) { m_prompts->write(*prompt); }
     void make(const Removal &removal);
+    [[nodiscard]] Written writeInOneTransaction(const std::vector<Change> &changes, bool isApart);
+    [[nodiscard]] StoreTrouble troubleOf(const SQLite::Exception &error);
+    /// Whether the file at this path is no longer the one that is open.
+    [[nodiscard]] bool hasMoved();
 
+    const QString m_folder;
+    // Given up after the file is closed.
+    std::unique_ptr<StoreLock> m_lock;
     SQLite::Database m_connection;
     // Prepared once the tables are known to be there.
     std::unique_ptr<NoteTable> m_notes;

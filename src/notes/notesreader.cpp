@@ -5,8 +5,6 @@
 #include "notes/schema.h"
 #include "notes/storefile.h"
 
-#include <QFileInfo>
-
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
 #include <SQLiteCpp/Transaction.h>
@@ -23,13 +21,11 @@ constexpr int kBusyTimeoutMilliseconds = 1000;
 
 NotesReading readNotes(const QString &path)
 {
-    NotesReading reading;
-    if (!QFileInfo::exists(path))
-        return reading;
     const StoreFile file(path);
-    reading.error = file.obstacle().text;
-    if (reading.error.isEmpty())
-        reading.error = file.contentsObstacle().text;
+    NotesReading reading{.error = file.obstacle()};
+    if (!reading.error.isEmpty() || file.isEmpty())
+        return reading;
+    reading.error = file.contentsObstacle();
     if (!reading.error.isEmpty())
         return reading;
     try {
@@ -41,11 +37,12 @@ NotesReading readNotes(const QString &path)
         const SQLite::Transaction snapshot(connection, SQLite::TransactionBehavior::DEFERRED);
         const int version = schema::version(connection);
         if (version > schema::kVersion)
-            reading.error = file.newerVersion(version).text;
+            reading.error = file.newerVersion(version);
         else
             reading.notes = NoteTable(connection).load();
     } catch (const SQLite::Exception &error) {
-        reading.error = file.describe(error.getErrorCode(), error.what()).text;
+        reading.error = file.describe(StoreTrouble::of(error.getExtendedErrorCode(),
+                                                       QString::fromUtf8(error.what()), 0, file.folder()));
     }
     return reading;
 }

@@ -2,6 +2,7 @@
 #include "notes/notesstore.h"
 
 #include "notes/database.h"
+#include "notes/saveproblem.h"
 
 #include <QStandardPaths>
 
@@ -26,11 +27,13 @@ QString NotesStore::standardPath()
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Vesk/Notes.store"_s;
 }
 
-NotesStore::OpenResult NotesStore::open(const QString &path, Clock &clock)
+NotesStore::OpenResult NotesStore::open(const QString &path, Clock &clock, Use use,
+                                        std::chrono::milliseconds patience)
 {
-    Database::OpenResult opened = Database::open(path);
+    const auto lockUse = use == Use::Session ? StoreLock::Use::Session : StoreLock::Use::Command;
+    Database::OpenResult opened = Database::open(path, lockUse, patience);
     if (!opened.database)
-        return {.store = nullptr, .error = opened.error.text, .isDamaged = opened.error.isDamage};
+        return {.store = nullptr, .error = opened.error.text, .fault = opened.error.fault};
     std::unique_ptr<NotesStore> store(new NotesStore(std::move(opened.database), clock));
     store->load(std::move(opened.notes), std::move(opened.prompts));
     return {.store = std::move(store)};
@@ -134,12 +137,16 @@ void NotesStore::promptChanged(Prompt &prompt)
 
 bool NotesStore::save()
 {
-    if (!hasPendingChanges() || write()) {
+    const bool isSaved = !hasPendingChanges() || write();
+    if (hasPendingChanges()) {
+        startRetrying();
+    } else {
         m_isRetrying = false;
-        return true;
+        // What could not be written may have been removed instead.
+        setProblem({});
     }
-    startRetrying();
-    return false;
+    Q_EMIT saveTried();
+    return isSaved;
 }
 
 bool NotesStore::hasPendingChanges() const
@@ -162,7 +169,9 @@ QStringList NotesStore::unwrittenTexts() const
 bool NotesStore::write()
 {
     std::vector<Database::Change> changes;
+    std::vector<quint64> numbers;
     for (const auto &[number, change] : m_pending.changes()) {
+        numbers.push_back(number);
         if (const Note *note = findNote(change.id))
             changes.emplace_back(note);
         else if (const Prompt *prompt = findPrompt(change.id))
@@ -170,12 +179,28 @@ bool NotesStore::write()
         else
             changes.emplace_back(Database::Removal{.kind = change.kind, .id = change.id});
     }
-    const bool isWritten = m_database->write(changes);
-    if (isWritten)
-        m_pending.clear();
-    else
+    const Database::Written written = m_database->write(changes);
+    bool isWritten = false;
+    if (written.isCommitted) {
+        QSet<quint64> refused;
+        for (const size_t place : written.refused)
+            refused.insert(numbers.at(place));
+        isWritten = m_pending.settle(refused);
+    } else {
         m_pending.setMaybeStored();
+    }
+    setProblem(written.trouble
+                   ? describeSaveProblem(*written.trouble, static_cast<qsizetype>(written.refused.size()))
+                   : QString());
     return isWritten;
+}
+
+void NotesStore::setProblem(const QString &problem)
+{
+    if (m_problem == problem)
+        return;
+    m_problem = problem;
+    Q_EMIT problemChanged();
 }
 
 void NotesStore::startRetrying()
@@ -195,7 +220,9 @@ QCoro::Task<> NotesStore::retry(QPointer<NotesStore> store, Clock *clock, quint6
         // A save from elsewhere that has succeeded ends the round; a failure after it began another.
         if (!store || !store->m_isRetrying || store->m_retryRound != round)
             co_return;
-        if (store->save())
+        // What this achieves shows in what is pending.
+        static_cast<void>(store->save());
+        if (!store || !store->hasPendingChanges())
             co_return;
         delay = std::min(2 * delay, kLongestRetryDelay);
     }

@@ -6,6 +6,7 @@
 #include "notes/pendingchanges.h"
 #include "notes/prompt.h"
 #include "notes/record.h"
+#include "notes/storeerror.h"
 #include "platform/clock.h"
 
 #include <QObject>
@@ -13,6 +14,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -33,8 +35,15 @@ public:
     {
         std::unique_ptr<NotesStore> store;
         QString error = {};
-        /// Whether what is in the file is beyond reach, so that only a copy of it helps.
-        bool isDamaged = false;
+        StoreFault fault = StoreFault::None;
+    };
+
+    /// For how long a store is opened.
+    enum class Use {
+        /// Until the user quits.
+        Session,
+        /// For one command.
+        Command,
     };
 
     /// Where a user's store is: `Vesk/Notes.store` in the user's data folder.
@@ -42,8 +51,11 @@ public:
 
     /// Opens the store's file, or makes it and its folder if it is missing, readable by its user
     /// only. A file that cannot be used (not a store, damaged, of a newer version, not writable,
-    /// locked) is left as it was. `clock` has to outlive the store.
-    [[nodiscard]] static OpenResult open(const QString &path, Clock &clock);
+    /// locked) is left as it was, and one that is missing or empty although there are copies of it is not
+    /// made anew. While the store is open no other process can open it; one that has it open at the moment
+    /// is waited for up to `patience`. `clock` must outlive the store.
+    [[nodiscard]] static OpenResult open(const QString &path, Clock &clock, Use use = Use::Session,
+                                         std::chrono::milliseconds patience = {});
     /// Tries once more to write what is pending.
     ~NotesStore() override;
 
@@ -54,12 +66,15 @@ public:
     void remove(Note &note);
     void remove(Prompt &prompt);
 
-    /// Writes everything pending in one transaction; returns once it is on the disk. False if that
-    /// failed: nothing is lost, it stays pending in its order, and the store tries again by itself.
-    bool save();
+    /// Writes everything pending, and returns once it is on the disk. False if a change since the last
+    /// save is not: nothing is lost, it stays pending in its order, `problem` says why, and the store tries
+    /// again by itself. A record that cannot be written does not keep the others from it.
+    [[nodiscard]] bool save();
     [[nodiscard]] bool hasPendingChanges() const;
     /// The texts that the file has not got as they are now, in the order in which they changed first.
     [[nodiscard]] QStringList unwrittenTexts() const;
+    /// Why something is not written, in one sentence for the user; empty if the last attempt succeeded.
+    [[nodiscard]] const QString &problem() const { return m_problem; }
 
     /// Null if there is no record of that kind with this identity.
     [[nodiscard]] Note *findNote(const RecordId &id) const;
@@ -72,6 +87,11 @@ public:
 
     /// Prompts that are done, in no order.
     [[nodiscard]] QList<Prompt *> donePrompts() const;
+
+Q_SIGNALS:
+    void problemChanged();
+    /// An attempt to save has ended, by whomever it was made and however it went.
+    void saveTried();
 
 private:
     /// A record with the date under which the live query has it.
@@ -97,7 +117,9 @@ private:
     template <typename Record>
     [[nodiscard]] Held<Record> take(Shelf<Record> &shelf, Record &record);
 
+    /// Tries once; see `save`.
     [[nodiscard]] bool write();
+    void setProblem(const QString &problem);
     /// Begins to try again by itself, unless it already does.
     void startRetrying();
     /// Tries until nothing is pending or `round` is no longer the current one. The store may die
@@ -111,6 +133,7 @@ private:
     LiveQuery<Note> m_notes{&Note::updatedAt};
     LiveQuery<Prompt> m_prompts{&Prompt::createdAt};
     PendingChanges m_pending;
+    QString m_problem;
     bool m_isRetrying = false;
     quint64 m_retryRound = 0;
 };

@@ -20,16 +20,30 @@ void PendingChanges::setMaybeStored()
         change.isStored = true;
 }
 
-void PendingChanges::clear()
+bool PendingChanges::settle(const QSet<quint64> &refused)
 {
-    m_changes.clear();
-    m_numbers.clear();
+    bool areOld = true;
+    for (auto it = m_changes.begin(); it != m_changes.end();) {
+        auto &[number, change] = *it;
+        if (refused.contains(number)) {
+            areOld = areOld && change.isRefused;
+            change.isRefused = true;
+            ++it;
+        } else {
+            m_numbers.remove(change.id);
+            it = m_changes.erase(it);
+        }
+    }
+    return areOld;
 }
 
 void PendingChanges::add(const Change &change)
 {
-    if (m_numbers.contains(change.id))
+    const auto number = m_numbers.constFind(change.id);
+    if (number != m_numbers.cend()) {
+        m_changes.at(*number).isRefused = false;
         return;
+    }
     m_numbers.insert(change.id, m_nextNumber);
     m_changes.emplace(m_nextNumber, change);
     ++m_nextNumber;

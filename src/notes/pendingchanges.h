@@ -4,6 +4,7 @@
 #include "notes/record.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <map>
 
@@ -25,6 +26,8 @@ public:
         RecordId id;
         /// Whether the file has this record, or may have it.
         bool isStored;
+        /// Whether this change, as it is, could not be written while others could.
+        bool isRefused = false;
     };
 
     void addInserted(RecordKind kind, const RecordId &id)
@@ -37,14 +40,16 @@ public:
     /// To be called when a save has failed: a crash may yet bring to light what it wrote, so that from
     /// now on a removal has to be written as well.
     void setMaybeStored();
-    void clear();
+    /// To be called when the changes are in the file, but for those with the numbers in `refused`. Returns
+    /// whether all of these had been refused before, and not changed since.
+    [[nodiscard]] bool settle(const QSet<quint64> &refused);
 
     [[nodiscard]] bool isEmpty() const { return m_changes.empty(); }
     /// By a number that grows; the numbers have gaps.
     [[nodiscard]] const std::map<quint64, Change> &changes() const { return m_changes; }
 
 private:
-    /// Does nothing if the record has changed before: its place and what the file has stay.
+    /// If the record has changed before, its place stays, and what the file has.
     void add(const Change &change);
 
     std::map<quint64, Change> m_changes;

@@ -38,7 +38,7 @@ void clearDone(NotesStore &store)
     for (Prompt *prompt : store.donePrompts())
         store.remove(*prompt);
     // What is not deleted in the file yet is deleted by a later save.
-    store.save();
+    static_cast<void>(store.save());
 }
 
 } // namespace vesk::promptrules

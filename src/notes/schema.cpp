@@ -59,6 +59,12 @@ void migrate(SQLite::Database &connection)
     connection.exec("PRAGMA user_version = " + std::to_string(kVersion));
 }
 
+int64_t countRecords(SQLite::Database &connection)
+{
+    return connection.execAndGet("SELECT (SELECT COUNT(*) FROM Note) + (SELECT COUNT(*) FROM Prompt)")
+        .getInt64();
+}
+
 void touch(SQLite::Database &connection)
 {
     connection.exec("PRAGMA user_version = " + std::to_string(kVersion));

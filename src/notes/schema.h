@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
+
 namespace SQLite {
 class Database;
 }
@@ -21,6 +23,9 @@ inline constexpr int kVersion = 1;
 
 /// Brings a file of an older version to `kVersion`, step by step. Has to be called in a transaction.
 void migrate(SQLite::Database &connection);
+
+/// How many notes and prompts there are.
+[[nodiscard]] int64_t countRecords(SQLite::Database &connection);
 
 /// Has the transaction write a page, and changes nothing.
 void touch(SQLite::Database &connection);

@@ -3,12 +3,14 @@
 
 #include "notes/schema.h"
 #include "notes/storefile.h"
+#include "notes/storefolder.h"
+#include "notes/storegenerations.h"
+#include "notes/storetrouble.h"
 
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QScopeGuard>
-#include <QStorageInfo>
 
 #include <SQLiteCpp/Backup.h>
 #include <SQLiteCpp/Database.h>
@@ -17,7 +19,8 @@
 #include <sqlite3.h>
 
 #include <algorithm>
-#include <cstdio>
+#include <cerrno>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -29,6 +32,8 @@ namespace {
 constexpr auto kInterval = 24h;
 /// How long nobody has to have written anything.
 constexpr auto kQuiet = 10min;
+/// After so long without a copy the user has to know.
+constexpr auto kOverdue = 72h;
 constexpr int kBusyTimeoutMilliseconds = 1000;
 /// The last space on a disk belongs to the notes.
 constexpr qint64 kSpaceLeft = qint64{64} << 20;
@@ -40,24 +45,42 @@ constexpr qint64 kSpaceLeft = qint64{64} << 20;
                          : kDistantPast;
 }
 
-[[nodiscard]] QString quoted(QString path)
+StoreCopy::Outcome outcomeOf(const StoreTrouble &trouble)
 {
-    return u'\'' + path.replace(u'\'', u"'\\''"_s) + u'\'';
+    using Kind = StoreTrouble::Kind;
+    switch (trouble.kind) {
+    case Kind::Damaged:
+    case Kind::NotADatabase:
+        return StoreCopy::Outcome::StoreDamaged;
+    case Kind::DiskFull:
+    case Kind::QuotaUsedUp:
+        return StoreCopy::Outcome::DiskTooFull;
+    case Kind::ReadOnly:
+    case Kind::NotAllowed:
+        return StoreCopy::Outcome::NotAllowed;
+    default:
+        return StoreCopy::Outcome::Failed;
+    }
 }
 
 } // namespace
 
 StoreCopy::StoreCopy(const QString &store)
-    : m_store(StoreFile(store).path())
+    : StoreCopy(store, storefolder::freeBytes)
 {
-    const QFileInfo file(m_store);
-    m_path = file.path() + u'/' + file.completeBaseName() + u".copy"_s;
+}
+
+StoreCopy::StoreCopy(const QString &store, FreeSpace freeSpace)
+    : m_store(StoreFile(store).path())
+    , m_path(StoreGenerations(m_store).newest())
+    , m_freeSpace(std::move(freeSpace))
+{
 }
 
 std::optional<Date> StoreCopy::madeAt() const
 {
-    const Date date = changedAt(m_path);
-    return date == kDistantPast ? std::nullopt : std::optional(date);
+    const QList<QString> found = StoreGenerations(m_store).found();
+    return found.isEmpty() ? std::nullopt : std::optional(changedAt(found.first()));
 }
 
 bool StoreCopy::isDue(Date now) const
@@ -69,29 +92,43 @@ bool StoreCopy::isDue(Date now) const
     return isQuiet && (!made || *made > now || (now - *made >= kInterval && written > *made));
 }
 
-bool StoreCopy::make() const
+bool StoreCopy::isOverdue(Date now) const
+{
+    const std::optional<Date> made = madeAt();
+    return !made || now - *made >= kOverdue;
+}
+
+StoreCopy::Outcome StoreCopy::make() const
 {
     const QFileInfo file(m_store);
+    if (file.size() == 0)
+        return Outcome::NothingToCopy;
     const qint64 size = file.size() + QFileInfo(StoreFile::journalOf(m_store)).size();
-    if (file.size() == 0 || QStorageInfo(file.path()).bytesAvailable() < size + kSpaceLeft)
-        return false;
+    const std::optional<qint64> space = m_freeSpace(file.path());
+    if (space && *space < size + kSpaceLeft)
+        return Outcome::DiskTooFull;
     const QString unfinished = m_path + u".new"_s;
     StoreFile::removeWithCompanions(unfinished);
     const auto cleanUp = qScopeGuard([&unfinished] { StoreFile::removeWithCompanions(unfinished); });
+    qint64 records = 0;
     try {
-        if (!StoreFile::makePrivate(unfinished) || !copyTo(unfinished) || !StoreFile::sync(unfinished))
-            return false;
-    } catch (const SQLite::Exception &) {
-        return false;
+        if (!StoreFile::makePrivate(unfinished))
+            return outcomeOf(StoreTrouble::of(SQLITE_CANTOPEN, {}, errno, file.path()));
+        const Outcome outcome = copyTo(unfinished, records);
+        if (outcome != Outcome::Made)
+            return outcome;
+    } catch (const SQLite::Exception &error) {
+        return outcomeOf(
+            StoreTrouble::of(error.getExtendedErrorCode(), QString::fromUtf8(error.what()), 0, file.path()));
     }
-    if (std::rename(QFile::encodeName(unfinished).constData(), QFile::encodeName(m_path).constData()) != 0)
-        return false;
+    if (!StoreFile::sync(unfinished) || !StoreGenerations(m_store).add(unfinished, records))
+        return outcomeOf(StoreTrouble::of(SQLITE_IOERR, {}, errno, file.path()));
     // Not every file system can; then the earlier copy may come back with the power.
-    static_cast<void>(StoreFile::sync(QFileInfo(m_path).path()));
-    return true;
+    static_cast<void>(StoreFile::sync(file.path()));
+    return Outcome::Made;
 }
 
-bool StoreCopy::copyTo(const QString &unfinished) const
+StoreCopy::Outcome StoreCopy::copyTo(const QString &unfinished, qint64 &records) const
 {
     SQLite::Database source(StoreFile(m_store).nativePath(), SQLite::OPEN_READWRITE,
                             kBusyTimeoutMilliseconds);
@@ -104,23 +141,19 @@ bool StoreCopy::copyTo(const QString &unfinished) const
         const SQLite::Transaction snapshot(source, SQLite::TransactionBehavior::DEFERRED);
         if (schema::applicationId(source) != schema::kApplicationId
             || schema::version(source) != schema::kVersion)
-            return false;
+            return Outcome::Failed;
         SQLite::Backup backup(copy, source);
-        if (backup.executeStep() != SQLITE_DONE)
-            return false;
+        const int step = backup.executeStep();
+        if (step != SQLITE_DONE)
+            return outcomeOf(StoreTrouble::of(step, {}, 0, QFileInfo(m_store).path()));
     }
     // One file, that can be moved alone.
     copy.exec("PRAGMA journal_mode = DELETE");
-    const int records =
-        copy.execAndGet("SELECT (SELECT COUNT(*) FROM Note) + (SELECT COUNT(*) FROM Prompt)").getInt();
-    return records > 0 && copy.execAndGet("PRAGMA integrity_check(1)").getString() == "ok";
-}
-
-QString StoreCopy::restoringCommand() const
-{
-    const QFileInfo file(m_store);
-    return u"cd %1 && mkdir -p damaged && mv --backup=numbered %2* damaged && cp %3 %2"_s.arg(
-        quoted(file.path()), quoted(file.fileName()), quoted(QFileInfo(m_path).fileName()));
+    const std::string report = copy.execAndGet("PRAGMA integrity_check(1)").getString();
+    if (report != "ok")
+        return outcomeOf(StoreTrouble::ofCheck(QString::fromStdString(report), QFileInfo(m_store).path()));
+    records = schema::countRecords(copy);
+    return records > 0 ? Outcome::Made : Outcome::NothingToCopy;
 }
 
 } // namespace vesk

@@ -2,6 +2,7 @@
 #include "notes/storefile.h"
 
 #include "notes/schema.h"
+#include "notes/storegenerations.h"
 
 #include <QDir>
 #include <QFile>
@@ -45,11 +46,10 @@ StoreFile::StoreFile(const QString &path)
 
 void StoreFile::makeFolder() const
 {
-    const QString folder = QFileInfo(m_path).absolutePath();
-    if (QFileInfo::exists(folder))
+    if (QFileInfo::exists(folder()))
         return;
-    QDir().mkpath(QFileInfo(folder).absolutePath());
-    const QByteArray name = QFile::encodeName(folder);
+    QDir().mkpath(QFileInfo(folder()).absolutePath());
+    const QByteArray name = QFile::encodeName(folder());
     if (::mkdir(name.constData(), S_IRWXU) == 0)
         ::chmod(name.constData(), S_IRWXU);
 }
@@ -59,10 +59,20 @@ QString StoreFile::journalOf(const QString &path)
     return path + u"-wal"_s;
 }
 
+QString StoreFile::rollbackJournalOf(const QString &path)
+{
+    return path + u"-journal"_s;
+}
+
+QString StoreFile::folder() const
+{
+    return QFileInfo(m_path).absolutePath();
+}
+
 void StoreFile::removeWithCompanions(const QString &path)
 {
     QFile::remove(path);
-    QFile::remove(path + u"-journal"_s);
+    QFile::remove(rollbackJournalOf(path));
     QFile::remove(journalOf(path));
     QFile::remove(sharedMemoryOf(path));
 }
@@ -93,22 +103,35 @@ StoreError StoreFile::obstacle() const
 {
     const QFileInfo file(m_path);
     if (file.isSymLink())
-        return error(tr("is a link to a file that does not exist"));
+        return {.text = tr("The file “%1” is a link to a file that does not exist.").arg(m_path)};
     if (file.exists()) {
         if (file.isDir())
-            return error(tr("is a folder"));
+            return {.text = tr("The file “%1” is a folder.").arg(m_path)};
         if (!file.isFile())
-            return error(tr("is not an ordinary file"));
-        // Asked with the effective user, as the opening will be; tells of file systems that are
-        // mounted read-only as well.
+            return {.text = tr("The file “%1” is not an ordinary file.").arg(m_path)};
+        // Asked with the effective user, as SQLite will open it. File systems that are mounted read-only
+        // answer here as well.
         if (::faccessat(AT_FDCWD, nativePath().c_str(), R_OK, AT_EACCESS) != 0)
-            return error(tr("cannot be read (%1)").arg(qt_error_string(errno)));
+            return {.text = tr("The file “%1” cannot be read (%2).").arg(m_path, qt_error_string(errno))};
         if (::faccessat(AT_FDCWD, nativePath().c_str(), W_OK, AT_EACCESS) != 0)
-            return error(tr("cannot be written (%1)").arg(qt_error_string(errno)));
+            return {.text = tr("The file “%1” cannot be written (%2).").arg(m_path, qt_error_string(errno))};
     }
+    if (!isEmpty())
+        return {};
     // SQLite would throw the journal away, and with it the last thing that is left of the notes.
-    if (isEmpty() && hasJournal())
-        return error(tr("is missing or empty, but its journal “%1” is not").arg(journalOf(m_path)), true);
+    for (const QString &journal : {journalOf(m_path), rollbackJournalOf(m_path)}) {
+        if (QFileInfo(journal).size() > 0)
+            return {.text = tr("The file “%1” is missing or empty, but its journal “%2” is not.")
+                                .arg(m_path, journal),
+                    .fault = StoreFault::Missing};
+    }
+    // It was there once. Beginning anew would look as if all notes had been deleted, and the next copy
+    // would be one of the new file.
+    if (!StoreGenerations(m_path).found().isEmpty())
+        return {.text = file.exists()
+                            ? tr("The file “%1” is empty, but there is a copy of it from before.").arg(m_path)
+                            : tr("The file “%1” is missing, but there is a copy of it.").arg(m_path),
+                .fault = StoreFault::Missing};
     return {};
 }
 
@@ -122,13 +145,14 @@ StoreError StoreFile::contentsObstacle() const
         if (QFileInfo(m_path).size() < kSmallestPage)
             return damaged();
         if (schema::applicationId(connection) != schema::kApplicationId)
-            return error(tr("is a database of another program"));
+            return {.text = tr("The file “%1” is a database of another program.").arg(m_path)};
         if (version > schema::kVersion)
             return newerVersion(version);
     } catch (const SQLite::Exception &exception) {
-        // With a journal the main file alone may be half written; both together are read later.
-        if (!hasJournal())
-            return describe(exception.getErrorCode(), exception.what());
+        // The main file alone may be half written; SQLite reads it with its journal later.
+        if (!isUnsettled())
+            return describe(StoreTrouble::of(exception.getExtendedErrorCode(),
+                                             QString::fromUtf8(exception.what()), 0, folder()));
     }
     return {};
 }
@@ -143,6 +167,11 @@ bool StoreFile::hasJournal() const
     return QFileInfo(journalOf(m_path)).size() > 0;
 }
 
+bool StoreFile::isUnsettled() const
+{
+    return hasJournal() || QFileInfo(rollbackJournalOf(m_path)).size() > 0;
+}
+
 StoreError StoreFile::create() const
 {
     const QString unfinished = m_path + u".new"_s;
@@ -151,24 +180,23 @@ StoreError StoreFile::create() const
 
     const QByteArray name = QFile::encodeName(unfinished);
     if (!makePrivate(unfinished))
-        return error(tr("cannot be created (%1)").arg(qt_error_string(errno)));
+        return {.text = tr("The file “%1” cannot be created (%2).").arg(m_path, qt_error_string(errno))};
     {
         SQLite::Database connection(name.constData(), SQLite::OPEN_READWRITE);
         SQLite::Transaction transaction(connection);
         schema::migrate(connection);
         transaction.commit();
-        connection.exec("PRAGMA journal_mode = WAL");
     }
     if (::rename(name.constData(), nativePath().c_str()) != 0)
-        return error(tr("cannot be created (%1)").arg(qt_error_string(errno)));
+        return {.text = tr("The file “%1” cannot be created (%2).").arg(m_path, qt_error_string(errno))};
     // The entry of a renamed file is to survive a power failure too. Not every file system can.
-    static_cast<void>(sync(QFileInfo(m_path).absolutePath()));
+    static_cast<void>(sync(folder()));
     return {};
 }
 
 void StoreFile::restrictAccess() const
 {
-    for (const QString &file : {m_path, journalOf(m_path), sharedMemoryOf(m_path)})
+    for (const QString &file : {m_path, journalOf(m_path), sharedMemoryOf(m_path), rollbackJournalOf(m_path)})
         ::chmod(QFile::encodeName(file).constData(), S_IRUSR | S_IWUSR);
 }
 
@@ -177,40 +205,43 @@ std::string StoreFile::nativePath() const
     return QFile::encodeName(m_path).toStdString();
 }
 
-StoreError StoreFile::describe(int sqliteCode, const char *message) const
+StoreError StoreFile::describe(const StoreTrouble &trouble) const
 {
-    switch (sqliteCode & 0xFF) {
-    case SQLITE_NOTADB:
-        return error(tr("is not a database"), true);
-    case SQLITE_CORRUPT:
-    case SQLITE_ERROR: // a table or column is missing
+    using Kind = StoreTrouble::Kind;
+    switch (trouble.kind) {
+    case Kind::Damaged:
         return damaged();
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        return error(tr("is in use by another program"));
-    case SQLITE_READONLY:
-        return error(tr("cannot be written"));
-    default:
-        return error(tr("cannot be opened (%1)").arg(QString::fromUtf8(message)),
-                     (sqliteCode & 0xFF) == SQLITE_IOERR);
+    case Kind::NotADatabase:
+        return {.text = tr("The file “%1” is not a database.").arg(m_path), .fault = StoreFault::Damaged};
+    case Kind::InUse:
+        return {.text = tr("The file “%1” is in use by another program.").arg(m_path)};
+    case Kind::DiskFull:
+        return {.text = tr("The file “%1” cannot be opened: the disk is full.").arg(m_path)};
+    case Kind::QuotaUsedUp:
+        return {.text = tr("The file “%1” cannot be opened: your disk quota is used up.").arg(m_path)};
+    case Kind::ReadOnly:
+    case Kind::NotAllowed:
+        return {.text = tr("The file “%1” cannot be written (%2).").arg(m_path, trouble.detail)};
+    case Kind::Moved:
+    case Kind::RecordRefused:
+    case Kind::Other:
+        break;
     }
+    return {.text = tr("The file “%1” cannot be opened (%2).").arg(m_path, trouble.detail)};
 }
 
 StoreError StoreFile::damaged() const
 {
-    return error(tr("is damaged"), true);
+    return {.text = tr("The file “%1” is damaged.").arg(m_path), .fault = StoreFault::Damaged};
 }
 
 StoreError StoreFile::newerVersion(int version) const
 {
-    return error(tr("was written by a newer Vesk (version %1 of the store; this one knows version %2)")
-                     .arg(version)
-                     .arg(schema::kVersion));
-}
-
-StoreError StoreFile::error(const QString &predicate, bool isDamage) const
-{
-    return {.text = tr("The file “%1” %2.").arg(m_path, predicate), .isDamage = isDamage};
+    return {.text = tr("The file “%1” was written by a newer Vesk (version %2 of the store; this one knows "
+                       "version %3).")
+                        .arg(m_path)
+                        .arg(version)
+                        .arg(schema::kVersion)};
 }
 
 } // namespace vesk

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "notes/storeerror.h"
+#include "notes/storetrouble.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -20,8 +21,10 @@ class StoreFile final
 public:
     explicit StoreFile(const QString &path);
 
-    /// The name of the journal that SQLite keeps beside a database.
+    /// The name of the write-ahead log that SQLite keeps beside a database.
     [[nodiscard]] static QString journalOf(const QString &path);
+    /// The name of the journal that it keeps there instead where it does without the log.
+    [[nodiscard]] static QString rollbackJournalOf(const QString &path);
     static void removeWithCompanions(const QString &path);
     /// Makes an empty file for its user only; false, with `errno` set, if it is there or cannot be made.
     [[nodiscard]] static bool makePrivate(const QString &path);
@@ -40,7 +43,7 @@ public:
 
     /// Whether there is nothing in it yet. A crash at the first start may leave an empty file.
     [[nodiscard]] bool isEmpty() const;
-    /// Whether there are changes that SQLite has not yet moved from the journal into the file.
+    /// Whether there are changes that SQLite has not yet moved from the write-ahead log into the file.
     [[nodiscard]] bool hasJournal() const;
 
     /// Makes an empty store. It comes into its place complete or not at all.
@@ -49,15 +52,17 @@ public:
     void restrictAccess() const;
 
     [[nodiscard]] const QString &path() const { return m_path; }
+    [[nodiscard]] QString folder() const;
     /// For SQLite.
     [[nodiscard]] std::string nativePath() const;
-    /// One sentence for the failure that SQLite told of by this result code.
-    [[nodiscard]] StoreError describe(int sqliteCode, const char *message) const;
+    /// One sentence for what kept the file from being opened.
+    [[nodiscard]] StoreError describe(const StoreTrouble &trouble) const;
     [[nodiscard]] StoreError damaged() const;
     [[nodiscard]] StoreError newerVersion(int version) const;
 
 private:
-    [[nodiscard]] StoreError error(const QString &predicate, bool isDamage = false) const;
+    /// Whether a change may be half done, to be completed or undone when SQLite opens the file.
+    [[nodiscard]] bool isUnsettled() const;
 
     /// Absolute, with links followed if the file is there.
     QString m_path;

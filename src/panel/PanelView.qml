@@ -98,10 +98,21 @@ FocusScope {
         anchors.topMargin: Theme.space
         anchors.left: parent.left
         anchors.right: parent.right
-        anchors.bottom: banner.top
+        anchors.bottom: problemBanner.top
         anchors.bottomMargin: Theme.smallSpace
         focus: true
         model: root.model
+    }
+
+    ProblemBanner {
+        id: problemBanner
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.leftMargin: Theme.margin
+        anchors.rightMargin: Theme.margin
+        anchors.bottom: banner.top
+        problem: root.model.problem
     }
 
     AccessBanner {

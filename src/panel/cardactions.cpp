@@ -14,8 +14,8 @@ namespace vesk {
 
 namespace {
 
-/// So much of what is typed into a note can be lost with the power.
-constexpr auto kSavesWithin = 2s;
+/// How much of what is typed into a note a power cut can take.
+constexpr auto kSavesWithin = 500ms;
 
 RecordId idOf(const QString &text)
 {
@@ -61,8 +61,13 @@ QCoro::Task<> CardActions::saveSoon(QPointer<CardActions> self, Clock *clock)
     if (!self)
         co_return;
     self->m_savesSoon = false;
-    // A save that fails is made up for by the store; here and below, what was done is in the list.
-    self->m_store.save();
+    self->save();
+}
+
+void CardActions::save()
+{
+    // What could not be written stays in the store, which tries again and has the panel say so.
+    static_cast<void>(m_store.save());
 }
 
 void CardActions::togglePinned(const QString &id)
@@ -71,7 +76,7 @@ void CardActions::togglePinned(const QString &id)
     if (!note)
         return;
     note->setPinned(!note->isPinned());
-    m_store.save();
+    save();
 }
 
 void CardActions::toggleItem(const QString &id, int line)
@@ -80,7 +85,7 @@ void CardActions::toggleItem(const QString &id, int line)
     if (!note)
         return;
     note->toggleItem(line);
-    m_store.save();
+    save();
 }
 
 void CardActions::openSource(const QString &id)
@@ -99,7 +104,7 @@ void CardActions::clearDonePrompts()
     const QList<Prompt *> done = m_store.donePrompts();
     for (Prompt *prompt : done)
         m_store.remove(*prompt);
-    m_store.save();
+    save();
 }
 
 void CardActions::activate(const QString &id)
@@ -115,7 +120,7 @@ bool CardActions::activate(const RecordId &id)
         m_openNote.open(*note);
     } else if (prompt) {
         prompt->toggleDone();
-        m_store.save();
+        save();
     }
     return note || prompt;
 }
@@ -136,7 +141,7 @@ bool CardActions::remove(const RecordId &id)
         m_store.remove(*note);
     else
         m_store.remove(*prompt);
-    m_store.save();
+    save();
     return true;
 }
 

@@ -63,6 +63,7 @@ Q_SIGNALS:
     void applicationRequested(const QString &bundleIdentifier);
 
 private:
+    void save();
     static QCoro::Task<> saveSoon(QPointer<CardActions> self, Clock *clock);
 
     NotesStore &m_store;

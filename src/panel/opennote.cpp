@@ -46,8 +46,8 @@ void OpenNote::close()
         m_store.remove(*note);
         m_selection.select(std::nullopt);
     }
-    // A save that fails is made up for by the store.
-    m_store.save();
+    // What could not be written stays in the store, which tries again and has the panel say so.
+    static_cast<void>(m_store.save());
     if (m_keyboard.isEditing() && !m_keyboard.isInField())
         m_keyboard.request(PanelKeyboard::Field::None);
 }

@@ -26,6 +26,7 @@ PanelModel::PanelModel(NotesStore &store, Clock &clock, Defaults &defaults, Appl
 {
     connect(&m_menu, &PanelMenu::guideRequested, &m_guide, &Guide::show);
     connect(&accessibility, &Accessibility::trustChanged, this, &PanelModel::isTrustedChanged);
+    connect(&store, &NotesStore::problemChanged, this, &PanelModel::problemChanged);
 }
 
 void PanelModel::commitDraft()
@@ -42,7 +43,8 @@ void PanelModel::commitDraft()
         if (m_tab == Tab::Checklists && !note.progress())
             setTab(Tab::Notes);
     }
-    m_store.save();
+    // What could not be written stays in the store, which tries again and has the panel say so.
+    static_cast<void>(m_store.save());
     setDraft({});
 }
 
@@ -64,6 +66,19 @@ void PanelModel::askForTrust()
 bool PanelModel::isTrusted() const
 {
     return m_accessibility.isProcessTrusted();
+}
+
+QString PanelModel::problem() const
+{
+    return m_store.problem().isEmpty() ? m_copyProblem : m_store.problem();
+}
+
+void PanelModel::setCopyProblem(const QString &problem)
+{
+    if (m_copyProblem == problem)
+        return;
+    m_copyProblem = problem;
+    Q_EMIT problemChanged();
 }
 
 void PanelModel::prepareToShow()

@@ -51,6 +51,8 @@ class PanelModel final : public QObject
     Q_PROPERTY(QString draft READ draft WRITE setDraft NOTIFY draftChanged)
     /// Whether Vesk may read the text selected in other applications.
     Q_PROPERTY(bool isTrusted READ isTrusted NOTIFY isTrustedChanged)
+    /// Why something is not saved, or not copied, in one sentence; empty if all is.
+    Q_PROPERTY(QString problem READ problem NOTIFY problemChanged)
 
 public:
     enum class Tab {
@@ -110,12 +112,16 @@ public:
     [[nodiscard]] const QString &draft() const { return m_draft; }
     void setDraft(const QString &draft);
     [[nodiscard]] bool isTrusted() const;
+    [[nodiscard]] QString problem() const;
+    /// Why there is no recent copy of the store; empty if there is one. A save that fails comes first.
+    void setCopyProblem(const QString &problem);
 
 Q_SIGNALS:
     void tabChanged();
     void searchChanged();
     void draftChanged();
     void isTrustedChanged();
+    void problemChanged();
     /// A field was asked for, so the panel has to be up and have the keyboard. The receiver shows it
     /// before it returns.
     void showRequested();
@@ -140,6 +146,7 @@ private:
     Tab m_tab = Tab::Notes;
     QString m_search;
     QString m_draft;
+    QString m_copyProblem;
 };
 
 } // namespace vesk

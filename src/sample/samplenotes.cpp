@@ -221,7 +221,8 @@ void fill(NotesStore &store, MemoryClock &clock, int count, const QString &kind)
                                                                 .sourceTitle = text(sample.title),
                                                                 .sourceURL = text(sample.url)}));
     }
-    store.save();
+    // The file of the samples is thrown away.
+    static_cast<void>(store.save());
 }
 
 void fillPrompts(NotesStore &store, const MemoryClock &clock)
@@ -233,7 +234,8 @@ void fillPrompts(NotesStore &store, const MemoryClock &clock)
                                                              .createdAt = clock.now() - sample.age,
                                                              .isCaptured = sample.isCaptured}));
     }
-    store.save();
+    // The file of the samples is thrown away.
+    static_cast<void>(store.save());
 }
 
 } // namespace vesk::samplenotes

@@ -3,6 +3,7 @@
 #include "app/storefailure.h"
 #include "platform/memory/memoryclock.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -18,6 +19,7 @@ class TestDailyCopy : public QObject
 
 private Q_SLOTS:
     void leadsBackToTheNotes();
+    void saysWhenNoCopyCanBeMade();
 };
 
 void TestDailyCopy::leadsBackToTheNotes()
@@ -49,7 +51,7 @@ void TestDailyCopy::leadsBackToTheNotes()
     file.close();
     opened = NotesStore::open(path, clock);
     QVERIFY(!opened.store);
-    const MessageWindow::Content content = describeStoreFailure(opened, copy);
+    const MessageWindow::Content content = describeStoreFailure(opened, path, clock.now());
     QVERIFY2(content.message.contains(copy.path()), qPrintable(content.message));
     QCOMPARE(QProcess::execute(u"sh"_s, {u"-c"_s, content.details}), 0);
     opened = NotesStore::open(path, clock);
@@ -57,8 +59,32 @@ void TestDailyCopy::leadsBackToTheNotes()
     QCOMPARE(opened.store->notes().first()->text(), u"Water the lemon tree"_s);
 
     // A store that is only in the way of something else is not to be given up for the copy.
-    const NotesStore::OpenResult locked{.store = nullptr, .error = u"It is in use."_s};
-    QVERIFY(describeStoreFailure(locked, copy).details.isEmpty());
+    const NotesStore::OpenResult locked{
+        .store = nullptr, .error = u"It is in use."_s, .fault = StoreFault::Other};
+    QVERIFY(describeStoreFailure(locked, path, clock.now()).details.isEmpty());
+}
+
+void TestDailyCopy::saysWhenNoCopyCanBeMade()
+{
+    const QTemporaryDir home;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
+    const QString path = home.filePath(u"Vesk/Notes.store"_s);
+    MemoryClock clock(std::chrono::floor<std::chrono::microseconds>(std::chrono::system_clock::now()));
+    auto opened = NotesStore::open(path, clock);
+    QVERIFY2(opened.store, qPrintable(opened.error));
+    opened.store->insert(std::make_unique<Note>(clock, u"Water the lemon tree"_s));
+    QVERIFY(opened.store->save());
+    // Where the copy is to be made there is something else.
+    const QString obstacle = StoreCopy(path).path() + u".new"_s;
+    QVERIFY(QDir().mkpath(obstacle + u"/full"_s));
+
+    const DailyCopy dailyCopy(path, QStringLiteral(VESK_APP), clock);
+    clock.advance(21min);
+    QTRY_VERIFY_WITH_TIMEOUT(!dailyCopy.problem().isEmpty(), 30'000);
+    QVERIFY(QDir(obstacle).removeRecursively());
+    clock.advance(10min);
+    QTRY_VERIFY_WITH_TIMEOUT(dailyCopy.problem().isEmpty(), 30'000);
+    QVERIFY(StoreCopy(path).madeAt());
 }
 
 QTEST_GUILESS_MAIN(TestDailyCopy)

@@ -22,6 +22,7 @@ NotesStore *StoreFixture::open()
     close();
     NotesStore::OpenResult result = NotesStore::open(path(), clock);
     error = result.error;
+    fault = result.fault;
     store = std::move(result.store);
     return store.get();
 }

@@ -33,6 +33,7 @@ public:
     MemoryClock clock;
     std::unique_ptr<NotesStore> store;
     QString error;
+    StoreFault fault = StoreFault::None;
 };
 
 } // namespace vesk

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void keepsEveryText_data();
     void keepsEveryText();
     void keepsEveryField();
+    void keepsEveryFieldOfAChange();
     void writesWhatIsPendingAndNothingElse();
     void writesInTheOrderOfTheFirstChanges();
     void writesARecordThatCameBack();
@@ -29,6 +30,8 @@ private Q_SLOTS:
     void saveFromElsewhereEndsTheRetries();
     void mayDieWhileItWaitsForARetry();
     void triesOnceMoreAtTheEnd();
+    void oneRecordThatIsRefusedHoldsBackNoOther();
+    void saysThatItsFileIsGone();
 
 private:
     /// Makes every insertion of a note with this text fail, for a reason that lies in the file.
@@ -132,6 +135,37 @@ void TestNotesStore::keepsEveryField()
     // An empty title is not an absent one.
     QVERIFY(second->sourceTitle() == QString() && !second->sourceBundleID());
     QVERIFY(second->sourceApp() == u"Firefox"_s && second->sourceURL() == u"about:blank"_s);
+}
+
+/// A row that is there already is written by another statement than a new one.
+void TestNotesStore::keepsEveryFieldOfAChange()
+{
+    Note &note = m_fixture->addNote(u"☐ a"_s);
+    Prompt &prompt = m_fixture->store->insert(
+        std::make_unique<Prompt>(m_fixture->clock, u"p"_s, Prompt::Origin::Captured));
+    const RecordId id = note.id();
+    const RecordId promptId = prompt.id();
+    QVERIFY(m_fixture->store->save());
+    const auto reopened = [&]() -> const Note & {
+        m_fixture->open();
+        return *m_fixture->store->findNote(id);
+    };
+    note.setPinned(true);
+    prompt.toggleDone();
+    QVERIFY(m_fixture->store->save());
+    QVERIFY(reopened().isPinned());
+    QVERIFY(m_fixture->store->findPrompt(promptId)->isDone());
+    m_fixture->store->findNote(id)->toggleItem(0);
+    m_fixture->store->findPrompt(promptId)->toggleDone();
+    QVERIFY(m_fixture->store->save());
+    QCOMPARE(reopened().text(), u"☑ a"_s);
+    QVERIFY(!m_fixture->store->findPrompt(promptId)->isDone());
+    m_fixture->store->findNote(id)->setPinned(false);
+    m_fixture->clock.advance(1s);
+    m_fixture->store->findNote(id)->append(u"b"_s);
+    const Date date = m_fixture->store->findNote(id)->updatedAt();
+    QVERIFY(m_fixture->store->save());
+    QVERIFY(!reopened().isPinned() && reopened().updatedAt() == date && reopened().createdAt() != date);
 }
 
 void TestNotesStore::writesWhatIsPendingAndNothingElse()
@@ -288,6 +322,7 @@ void TestNotesStore::saveFromElsewhereEndsTheRetries()
     QVERIFY(!m_fixture->store->save());
     m_fixture->clock.advance(5s);
     // A second failure while one retry waits does not start another.
+    note.setText(u"a"_s);
     QVERIFY(!m_fixture->store->save());
     QCOMPARE(m_fixture->clock.sleeperCount(), 1);
     note.setText(u"b"_s);
@@ -321,6 +356,51 @@ void TestNotesStore::triesOnceMoreAtTheEnd()
     m_fixture->addNote(u"never saved"_s);
     m_fixture->close();
     QCOMPARE(m_fixture->rows(), QStringList{u"never saved"_s});
+}
+
+void TestNotesStore::oneRecordThatIsRefusedHoldsBackNoOther()
+{
+    NotesStore &store = *m_fixture->store;
+    makeFail(u"refused"_s);
+    for (int attempt = 0; attempt < 4; ++attempt)
+        QTest::ignoreMessage(QtWarningMsg, "The notes could not be saved: refused");
+    m_fixture->addNote(u"a"_s);
+    const Note &refused = m_fixture->addNote(u"refused"_s);
+    m_fixture->addNote(u"b"_s);
+    QVERIFY(!store.save());
+    QCOMPARE(m_fixture->rows(), (QStringList{u"a"_s, u"b"_s}));
+    QCOMPARE(store.unwrittenTexts(), QStringList{u"refused"_s});
+    QVERIFY2(store.problem().contains(u"(refused)"_s), qPrintable(store.problem()));
+    // What comes after it is saved, and is said to be.
+    m_fixture->addNote(u"c"_s);
+    QVERIFY(store.save());
+    QCOMPARE(m_fixture->rows(), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+    QVERIFY(store.hasPendingChanges() && !store.problem().isEmpty());
+    // It is tried again by itself, and the same text entered again is told again.
+    m_fixture->clock.advance(5s);
+    store.findNote(refused.id())->setText(u"refused"_s);
+    QVERIFY(!store.save());
+    letSucceed();
+    m_fixture->clock.advance(10s);
+    QVERIFY(!store.hasPendingChanges() && store.problem().isEmpty());
+    QCOMPARE(m_fixture->rows(), (QStringList{u"a"_s, u"b"_s, u"c"_s, u"refused"_s}));
+}
+
+void TestNotesStore::saysThatItsFileIsGone()
+{
+    m_fixture->addNote(u"a"_s);
+    QVERIFY(m_fixture->store->save());
+    const QString aside = m_fixture->path() + u".aside"_s;
+    QVERIFY(QFile::rename(m_fixture->path(), aside));
+    QTest::ignoreMessage(QtWarningMsg, "The notes could not be saved: the file was moved");
+    m_fixture->addNote(u"b"_s);
+    QVERIFY(!m_fixture->store->save());
+    QVERIFY2(m_fixture->store->problem().contains(u"moved"_s), qPrintable(m_fixture->store->problem()));
+    QCOMPARE(m_fixture->store->unwrittenTexts(), QStringList{u"b"_s});
+    // Once it is back, all is well.
+    QVERIFY(QFile::rename(aside, m_fixture->path()));
+    QVERIFY(m_fixture->store->save());
+    QCOMPARE(m_fixture->rows(), (QStringList{u"a"_s, u"b"_s}));
 }
 
 QTEST_GUILESS_MAIN(TestNotesStore)

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "notes/notesreader.h"
+#include "notes/storeadvice.h"
 #include "storefixture.h"
 #include "virtualdesktop/files.h"
 
@@ -91,6 +93,8 @@ private Q_SLOTS:
     void isReadWithTheJournalOfACrash();
     void refuses_data();
     void refuses();
+    void isNotBegunAnewBesideACopy_data();
+    void isNotBegunAnewBesideACopy();
     void refusesWhatItMayNotWrite();
     void refusesALockedFile_data();
     void refusesALockedFile();
@@ -173,7 +177,7 @@ void TestStoreFile::isMadeDespiteAHalfMadeOne()
     QVERIFY(writeFile(m_fixture->path() + u".new-journal"_s, "half"));
     makeStore();
     const QStringList files = QFileInfo(m_fixture->path()).dir().entryList(QDir::Files);
-    QCOMPARE(files, QStringList{u"Notes.store"_s});
+    QCOMPARE(files, (QStringList{u"Notes.lock"_s, u"Notes.store"_s}));
 }
 
 void TestStoreFile::isReadWithTheJournalOfACrash()
@@ -194,6 +198,7 @@ void TestStoreFile::refuses_data()
     QTest::addColumn<Preparation>("prepare");
     QTest::addColumn<QString>("reason");
 
+    // Only damage is answered with advice to give the file up.
     const auto row = [](const char *name, const QString &reason, Preparation prepare) {
         QTest::newRow(name) << prepare << reason;
     };
@@ -308,10 +313,56 @@ void TestStoreFile::refuses()
     QVERIFY(!m_fixture->open());
     QVERIFY2(m_fixture->error.contains(reason), qPrintable(m_fixture->error));
     QVERIFY(m_fixture->error.contains(m_fixture->path()) && m_fixture->error.endsWith(u'.'));
+    const bool isDamage = reason.contains(u"damaged"_s) || reason == u"is not a database"_s;
+    const bool isLoss = reason.contains(u"missing"_s);
+    QCOMPARE(m_fixture->fault, isDamage ? StoreFault::Damaged
+                               : isLoss ? StoreFault::Missing
+                                        : StoreFault::Other);
 
     QCOMPARE(modeOf(m_fixture->path()), mode);
     QVERIFY((isFile ? bytesOf(m_fixture->path()) : std::nullopt) == file);
     QVERIFY(bytesOf(m_fixture->journalPath()) == journal);
+}
+
+void TestStoreFile::isNotBegunAnewBesideACopy_data()
+{
+    QTest::addColumn<bool>("isEmpty");
+    QTest::addColumn<QString>("copy");
+    QTest::newRow("missing") << false << u"Notes.copy"_s;
+    QTest::newRow("empty") << true << u"Notes.copy"_s;
+    QTest::newRow("missing, and only an older copy is left") << false << u"Notes.copy.2"_s;
+    QTest::newRow("empty, and only an older copy is left") << true << u"Notes.copy.12"_s;
+}
+
+void TestStoreFile::isNotBegunAnewBesideACopy()
+{
+    QFETCH(bool, isEmpty);
+    QFETCH(QString, copy);
+    makeStore();
+    const QString copyPath = QFileInfo(m_fixture->path()).dir().filePath(copy);
+    QVERIFY(QFile::rename(m_fixture->path(), copyPath));
+    if (isEmpty)
+        QVERIFY(writeFile(m_fixture->path(), {}));
+    const std::optional<QByteArray> bytes = bytesOf(copyPath);
+
+    QVERIFY(!m_fixture->open());
+    QCOMPARE(m_fixture->fault, StoreFault::Missing);
+    QCOMPARE(readNotes(m_fixture->path()).error.fault, StoreFault::Missing);
+    QCOMPARE(bytesOf(m_fixture->path()), isEmpty ? std::optional(QByteArray()) : std::nullopt);
+    QVERIFY(bytesOf(copyPath) == bytes);
+    const StoreAdvice advice = StoreAdvice::on(m_fixture->path(), m_fixture->fault, Date{});
+    QVERIFY2(advice.message.contains(copyPath), qPrintable(advice.message));
+    QCOMPARE(QProcess::execute(u"sh"_s, {u"-c"_s, advice.command}), 0);
+    QVERIFY2(m_fixture->open(), qPrintable(m_fixture->error));
+    QCOMPARE(m_fixture->store->notes().count(), 100);
+    m_fixture->close();
+
+    // To begin anew on purpose, the copies are moved away. What only looks like one is not a copy.
+    QVERIFY(QFile::remove(m_fixture->path()));
+    QVERIFY(QFile::rename(copyPath, copyPath + u".old"_s));
+    QVERIFY(writeFile(copyPath, {}));
+    QVERIFY2(m_fixture->open(), qPrintable(m_fixture->error));
+    QVERIFY(m_fixture->store->notes().isEmpty());
 }
 
 void TestStoreFile::refusesWhatItMayNotWrite()
@@ -323,7 +374,8 @@ void TestStoreFile::refusesWhatItMayNotWrite()
     const bool isRoot = ::geteuid() == 0;
     if (isRoot) {
         const QString folder = QFileInfo(m_fixture->path()).path();
-        for (const QString &path : {m_fixture->folder.path(), folder, m_fixture->path()})
+        const QString lock = folder + u"/Notes.lock"_s;
+        for (const QString &path : {m_fixture->folder.path(), folder, m_fixture->path(), lock})
             QCOMPARE(::chown(QFile::encodeName(path).constData(), kNobody, kNobody), 0);
         if (::seteuid(kNobody) != 0)
             QSKIP("Cannot become a user without rights.");
@@ -348,7 +400,9 @@ void TestStoreFile::refusesWhatItMayNotWrite()
     const QByteArray folder = QFile::encodeName(QFileInfo(m_fixture->path()).path());
     QCOMPARE(::chmod(folder.constData(), 0500), 0);
     QVERIFY(!m_fixture->open());
-    QVERIFY(!m_fixture->error.isEmpty());
+    QVERIFY2(m_fixture->error.contains(u"cannot be written (Permission denied)"_s),
+             qPrintable(m_fixture->error));
+    QCOMPARE(m_fixture->fault, StoreFault::Other);
     QCOMPARE(::chmod(folder.constData(), 0700), 0);
     QVERIFY(bytesOf(m_fixture->path()) == file);
     QVERIFY2(m_fixture->open(), qPrintable(m_fixture->error));
@@ -376,6 +430,7 @@ void TestStoreFile::refusesALockedFile()
 
     QVERIFY(!m_fixture->open());
     QVERIFY2(m_fixture->error.contains(u"is in use by another program"_s), qPrintable(m_fixture->error));
+    QCOMPARE(m_fixture->fault, StoreFault::Other);
     QVERIFY(bytesOf(m_fixture->path()) == file);
     QVERIFY(bytesOf(m_fixture->journalPath()) == journal);
 

@@ -7,6 +7,7 @@
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using namespace vesk;
 
 using Tab = PanelModel::Tab;
@@ -44,6 +45,7 @@ private Q_SLOTS:
     void tabKeyGoesAround();
     void buttonIsPressedByReturn();
     void bannerFollowsTrust();
+    void unsavedChangesAreSaidUntilTheyAreSaved();
 
 private:
     /// The one button with this name; null if it is not shown.
@@ -509,6 +511,31 @@ void PanelViewTest::bannerFollowsTrust()
     QCOMPARE(m_fixture->accessibility.askCount(), 1);
     m_fixture->accessibility.setTrusted(true);
     QTRY_VERIFY(!button(u"Open Settings"_s));
+}
+
+void PanelViewTest::unsavedChangesAreSaidUntilTheyAreSaved()
+{
+    QVERIFY(store().save());
+    const auto banner = [this] {
+        const QList<QQuickItem *> found = shown("ProblemBanner");
+        return found.isEmpty() ? QString() : found.first()->property("problem").toString();
+    };
+    QCOMPARE(banner(), QString());
+    // Said in an open note as well. The file is out of the way when it is to be written.
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QTRY_VERIFY(hasEditor());
+    const QString path = m_fixture->folder.filePath(u"Notes.store"_s);
+    QVERIFY(QFile::rename(path, path + u".aside"_s));
+    QTest::ignoreMessage(QtWarningMsg, "The notes could not be saved: the file was moved");
+    type(u"more"_s);
+    m_fixture->clock.advance(500ms);
+    QTRY_VERIFY2(banner().startsWith(u"Not saved: "_s), qPrintable(banner()));
+    QVERIFY(hasEditor());
+    QVERIFY(QFile::rename(path + u".aside"_s, path));
+    m_fixture->clock.advance(5s);
+    QTRY_COMPARE(banner(), QString());
+    QVERIFY(!store().hasPendingChanges());
 }
 
 QTEST_MAIN(PanelViewTest)

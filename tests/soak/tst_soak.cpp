@@ -104,7 +104,7 @@ void SoakTest::clearAll()
         m_world->store.remove(*each);
     while (Prompt *each = m_world->store.prompts().first())
         m_world->store.remove(*each);
-    m_world->store.save();
+    QVERIFY(m_world->store.save());
     m_ledger = Ledger();
 }
 

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "notes/saveproblem.h"
+
+#include "notes/storetrouble.h"
+
+#include <QCoreApplication>
+
+namespace vesk {
+
+namespace {
+
+struct SaveProblem
+{
+    Q_DECLARE_TR_FUNCTIONS(vesk::SaveProblem)
+};
+
+} // namespace
+
+QString describeSaveProblem(const StoreTrouble &trouble, qsizetype refused)
+{
+    using Kind = StoreTrouble::Kind;
+    switch (trouble.kind) {
+    case Kind::DiskFull:
+        return SaveProblem::tr("Not saved: the disk is full. Vesk keeps trying.");
+    case Kind::QuotaUsedUp:
+        return SaveProblem::tr("Not saved: your disk quota is used up. Vesk keeps trying.");
+    case Kind::ReadOnly:
+        return SaveProblem::tr("Not saved: the notes file is read-only. Vesk keeps trying.");
+    case Kind::NotAllowed:
+        return SaveProblem::tr("Not saved: Vesk may not write the notes file. Vesk keeps trying.");
+    case Kind::InUse:
+        return SaveProblem::tr("Not saved: another program is using the notes file. Vesk keeps trying.");
+    case Kind::Moved:
+        return SaveProblem::tr("Not saved: the notes file was moved or replaced while Vesk was running.");
+    case Kind::Damaged:
+    case Kind::NotADatabase:
+        return SaveProblem::tr("Not saved: the notes file is damaged. Copy your latest notes elsewhere.");
+    case Kind::RecordRefused:
+        return SaveProblem::tr("%Ln notes or prompts cannot be saved (%1). All others are.", nullptr,
+                               static_cast<int>(refused))
+            .arg(trouble.detail);
+    case Kind::Other:
+        break;
+    }
+    return SaveProblem::tr("Not saved: the notes file cannot be written (%1). Vesk keeps trying.")
+        .arg(trouble.detail);
+}
+
+} // namespace vesk

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "notes/storeerror.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+#include <chrono>
+#include <memory>
+#include <optional>
+
+namespace vesk {
+
+/// Who may write the store: a lock on the file `Notes.lock` beside it, held as long as this object lives.
+/// A process that dies gives it up, and a lock on a network file system binds other machines too. The
+/// file stays; it says who had the lock last.
+class StoreLock final
+{
+    Q_DECLARE_TR_FUNCTIONS(vesk::StoreLock)
+
+public:
+    enum class Use {
+        /// Held until the user quits.
+        Session,
+        /// Held for the moment in which a command adds something.
+        Command,
+    };
+    struct Result
+    {
+        std::unique_ptr<StoreLock> lock;
+        /// Why there is no lock.
+        StoreError error = {};
+    };
+
+    /// Waits up to `patience` for another process to give the lock up; for one that holds it for a session
+    /// no longer than it may take to end.
+    [[nodiscard]] static Result acquire(const QString &store, Use use, std::chrono::milliseconds patience);
+    ~StoreLock();
+    Q_DISABLE_COPY_MOVE(StoreLock)
+
+private:
+    struct Holder
+    {
+        qint64 process;
+        QString host;
+        Use use;
+    };
+
+    explicit StoreLock(int descriptor)
+        : m_descriptor(descriptor)
+    {
+    }
+
+    [[nodiscard]] static QString pathFor(const QString &store);
+    /// Makes the file if it is missing; -1, with `errno` set, if that fails.
+    [[nodiscard]] static int openFile(const QString &path);
+    /// True, or false with `errno` set.
+    [[nodiscard]] static bool tryLocking(int descriptor);
+    [[nodiscard]] static std::optional<Holder> readHolder(int descriptor);
+    [[nodiscard]] static StoreError describe(const QString &path, const std::optional<Holder> &holder);
+    void writeHolder(Use use) const;
+
+    int m_descriptor;
+};
+
+} // namespace vesk
