@@ -91,7 +91,6 @@ sqlite3_io_methods FaultyDisk::methods()
     sqlite3_io_methods methods = {};
     methods.iVersion = 2;
     forward<&Methods::xClose>(methods);
-    forward<&Methods::xRead>(methods);
     forward<&Methods::xFileSize>(methods);
     forward<&Methods::xLock>(methods);
     forward<&Methods::xUnlock>(methods);
@@ -103,6 +102,7 @@ sqlite3_io_methods FaultyDisk::methods()
     forward<&Methods::xShmLock>(methods);
     forward<&Methods::xShmBarrier>(methods);
     forward<&Methods::xShmUnmap>(methods);
+    methods.xRead = &FaultyDisk::read;
     methods.xWrite = &FaultyDisk::write;
     methods.xTruncate = &FaultyDisk::truncate;
     methods.xSync = &FaultyDisk::sync;
@@ -149,6 +149,14 @@ int FaultyDisk::open(sqlite3_filename name, sqlite3_file *file, int flags, int *
 int FaultyDisk::remove(const char *name, int syncsFolder)
 {
     return isNextFailing() ? SQLITE_IOERR_DELETE : m_real->xDelete(m_real, name, syncsFolder);
+}
+
+int FaultyDisk::read(sqlite3_file *file, void *bytes, int size, sqlite3_int64 offset)
+{
+    FaultyDisk &disk = *reinterpret_cast<const File *>(file)->disk;
+    if (disk.m_plan.readsToo && disk.isNextFailing())
+        return SQLITE_IOERR_READ;
+    return real(file)->pMethods->xRead(real(file), bytes, size, offset);
 }
 
 int FaultyDisk::write(sqlite3_file *file, const void *bytes, int size, sqlite3_int64 offset)

@@ -29,6 +29,8 @@ public:
         int code = SQLITE_IOERR_WRITE;
         /// Whether a write that fails has written its first half.
         bool tears = false;
+        /// Whether a reading of the file is a step, too.
+        bool readsToo = false;
     };
 
     /// What a crash leaves of the writes since the last sync.
@@ -86,6 +88,7 @@ private:
     [[nodiscard]] bool isNextFailing();
     [[nodiscard]] int open(sqlite3_filename name, sqlite3_file *file, int flags, int *outFlags);
     [[nodiscard]] int remove(const char *name, int syncsFolder);
+    [[nodiscard]] static int read(sqlite3_file *file, void *bytes, int size, sqlite3_int64 offset);
     [[nodiscard]] static int write(sqlite3_file *file, const void *bytes, int size, sqlite3_int64 offset);
     [[nodiscard]] static int truncate(sqlite3_file *file, sqlite3_int64 size);
     [[nodiscard]] static int sync(sqlite3_file *file, int flags);
