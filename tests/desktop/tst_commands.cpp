@@ -46,7 +46,11 @@ private Q_SLOTS:
     void cleanup();
     void addsAndListsWithoutARunningVesk();
     void addsThroughTheRunningVesk();
+    void addsTwoAtOnceWithoutARunningVesk();
     void refusesWhatIsNoText();
+    void refusesTooLongATextOverTheBus();
+    void aLostStoreIsNotBegunAnew();
+    void anotherSessionHasTheNotes();
     void startsInTheBackgroundAndInFront();
     void commandsStartVeskAndEndIt();
     void entryActionsDoWhatTheySay();
@@ -119,6 +123,79 @@ void TestCommands::addsThroughTheRunningVesk()
     QCOMPARE(vesk(u"list"_s).output.count(u'\n'), 5);
     QVERIFY(running->quit());
     QCOMPARE(m_desktop->notes().texts().size(), 5);
+}
+
+void TestCommands::addsTwoAtOnceWithoutARunningVesk()
+{
+    constexpr int kRounds = 5;
+    const Outcome outcome =
+        shell(u"for i in $(seq %1); do \"$VESK\" add \"a $i\" & first=$!; "
+              "\"$VESK\" add \"b $i\" || exit 1; wait $first || exit 1; done"_s.arg(kRounds));
+    QVERIFY2(outcome.code == 0 && told(outcome).isEmpty(), qPrintable(told(outcome)));
+    QCOMPARE(m_desktop->notes().texts().size(), 2 * kRounds);
+}
+
+/// The command line has a limit of its own, before the bus.
+void TestCommands::refusesTooLongATextOverTheBus()
+{
+    const std::unique_ptr<ChildProcess> running = m_desktop->startVesk();
+    QVERIFY(running && isOnTheBus());
+    const auto add = [](qsizetype bytes) {
+        QDBusMessage call = QDBusMessage::createMethodCall(kName, u"/org/vesk/Vesk"_s, kName, u"AddNote"_s);
+        // Two bytes each in UTF-8.
+        call << QString(bytes / 2, u'ä');
+        return QDBusConnection(u"vesk-test-commands"_s).call(call);
+    };
+    constexpr qsizetype kLimit = qsizetype{16} << 20;
+    QCOMPARE(QDBusError(add(kLimit + 2)).type(), QDBusError::LimitsExceeded);
+    QVERIFY(m_desktop->notes().texts().isEmpty());
+    QCOMPARE(add(kLimit).type(), QDBusMessage::ReplyMessage);
+    QCOMPARE(m_desktop->notes().texts().size(), 1);
+}
+
+void TestCommands::aLostStoreIsNotBegunAnew()
+{
+    QCOMPARE(vesk(u"add kept"_s).code, 0);
+    const QString store = m_desktop->notes().path();
+    const QString copy = QFileInfo(store).path() + u"/Notes.copy"_s;
+    QVERIFY(QFile::rename(store, copy));
+    Outcome outcome;
+    for (const QString &line : {u"list"_s, u"add more"_s}) {
+        outcome = vesk(line);
+        QVERIFY2(outcome.code == 1 && outcome.errors.contains(copy), qPrintable(told(outcome)));
+    }
+    QVERIFY(!QFile::exists(store));
+    // What is printed last can be run as it is.
+    const QStringList lines = outcome.errors.trimmed().split(u'\n');
+    outcome = shell(lines.constLast());
+    QVERIFY2(outcome.code == 0 && told(outcome).isEmpty(), qPrintable(told(outcome)));
+    QCOMPARE(vesk(u"add more"_s).code, 0);
+    QCOMPARE(m_desktop->notes().texts(), (QStringList{u"kept"_s, u"more"_s}));
+}
+
+void TestCommands::anotherSessionHasTheNotes()
+{
+    const std::unique_ptr<ChildProcess> running = m_desktop->startVesk();
+    QVERIFY(running);
+    QCOMPARE(vesk(u"add here"_s).code, 0);
+    const std::unique_ptr<BusDaemon> bus = BusDaemon::start();
+    QVERIFY(bus);
+    const QString there = u"export DBUS_SESSION_BUS_ADDRESS='%1'; \"$VESK\" "_s.arg(bus->address());
+    const QString holder = u"process %1 on %2"_s.arg(running->pid()).arg(QSysInfo::machineHostName());
+    const QByteArray before = contentsOf(m_desktop->notes().path());
+    for (const QString &line : {u"add there"_s, u"--background"_s, u"toggle"_s}) {
+        const Outcome outcome = shell(there + line);
+        QVERIFY2(outcome.code == 1 && outcome.errors.contains(holder)
+                     && outcome.errors.contains(u"another session"_s),
+                 qPrintable(line + u": "_s + told(outcome)));
+    }
+    QCOMPARE(contentsOf(m_desktop->notes().path()), before);
+    const Outcome list = shell(there + u"list"_s);
+    QVERIFY2(list.code == 0 && list.output.endsWith(u"\there\n"), qPrintable(told(list)));
+    QCOMPARE(vesk(u"add 'here again'"_s).code, 0);
+    QVERIFY(running->quit());
+    QCOMPARE(shell(there + u"add there"_s).code, 0);
+    QCOMPARE(m_desktop->notes().texts(), (QStringList{u"here"_s, u"here again"_s, u"there"_s}));
 }
 
 void TestCommands::refusesWhatIsNoText()

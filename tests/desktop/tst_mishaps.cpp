@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <csignal>
 #include <random>
+#include <sys/resource.h>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -45,6 +46,7 @@ private Q_SLOTS:
     void keyUpBeforeItsPressIsHeardFiresAgain();
     void unusableStoreIsSaidAndLeftAlone();
     void scriptAddsWhileTheUserWrites();
+    void fullDiskIsSaidAndNothingIsLost();
 
 private:
     [[nodiscard]] static int rounds();
@@ -275,6 +277,46 @@ void TestMishaps::scriptAddsWhileTheUserWrites()
     QCOMPARE(m_desktop->notes().integrity(), u"ok"_s);
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kPanel, kBound));
     QDBusConnection::disconnectFromBus(u"load"_s);
+}
+
+/// A file that may not grow answers as a full disk does.
+void TestMishaps::fullDiskIsSaidAndNothingIsLost()
+{
+    QVERIFY(startVesk());
+    const QString program = VirtualDesktop::veskProgram();
+    QVERIFY(runToEnd(program, {u"add"_s, u"before"_s}));
+    rlimit usual = {};
+    const auto process = pid_t(m_vesk->pid());
+    QCOMPARE(::prlimit(process, RLIMIT_FSIZE, nullptr, &usual), 0);
+    const rlimit none{.rlim_cur = 0, .rlim_max = usual.rlim_max};
+    QCOMPARE(::prlimit(process, RLIMIT_FSIZE, &none, nullptr), 0);
+    QVERIFY(!runToEnd(program, {u"add"_s, u"while it is full"_s}));
+
+    // What is pending when Vesk is to end is offered in a window. What arrives then is in its list.
+    m_vesk->signal(SIGTERM);
+    const auto isTitled = [](const Window &window) { return window.title.contains(u"not saved"_s); };
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
+        return m_desktop->windows().findViewableIf(isTitled).has_value();
+    }));
+    QVERIFY(!runToEnd(program, {u"add"_s, u"while it ends"_s}));
+    QVERIFY(!runToEnd(program, {u"toggle"_s}));
+    VERIFY_ON(*m_desktop, !m_desktop->windows().findViewable(kPanel));
+    // Copy has the keyboard.
+    const auto window = m_desktop->windows().findViewableIf(isTitled);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*window, kBound));
+    m_desktop->keyboard().tap({XK_space}, kFinger);
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
+        return m_desktop->display().readSelection("CLIPBOARD", kFinger)
+               == u"while it is full\n\nwhile it ends"_s;
+    }));
+
+    // Once there is room, the next attempt writes all of it, and Vesk ends.
+    QCOMPARE(::prlimit(process, RLIMIT_FSIZE, &usual, nullptr), 0);
+    QVERIFY(runToEnd(program, {u"add"_s, u"last"_s}));
+    QVERIFY(m_vesk->waitForExit(kBound));
+    QCOMPARE(m_vesk->exitCode(), 0);
+    QCOMPARE(m_desktop->notes().texts(),
+             (QStringList{u"before"_s, u"while it is full"_s, u"while it ends"_s, u"last"_s}));
 }
 
 DESKTOP_TEST_MAIN(TestMishaps)
