@@ -97,6 +97,8 @@ void showUnwritten(vesk::Desktop &desktop, vesk::ApplicationService &service, co
     QObject::connect(&window, &vesk::UnwrittenWindow::quitRequested, qApp, [] { QCoreApplication::exit(0); });
     // Whoever starts Vesk again sees why it has not ended.
     QObject::connect(&service, &vesk::ApplicationService::activated, &window, &vesk::UnwrittenWindow::show);
+    QObject::connect(&service, &vesk::ApplicationService::actionActivated, &window,
+                     &vesk::UnwrittenWindow::show);
     window.show();
     QCoreApplication::exec();
 }

@@ -84,7 +84,10 @@ bool StoreLock::tryLocking(int descriptor)
     whole.l_type = F_WRLCK;
     whole.l_whence = SEEK_SET;
     // A lock of the open file, not of the process: closing another descriptor of it does not end it.
-    return ::fcntl(descriptor, F_OFD_SETLK, &whole) == 0;
+    if (::fcntl(descriptor, F_OFD_SETLK, &whole) == 0)
+        return true;
+    // Some kernels that stand in for Linux only know locks of a process.
+    return errno == EINVAL && ::fcntl(descriptor, F_SETLK, &whole) == 0;
 }
 
 std::optional<StoreLock::Holder> StoreLock::readHolder(int descriptor)

@@ -100,8 +100,8 @@ void PanelModel::becomeInactive()
 {
     m_notes.setShown(false);
     m_openNote.closeIfBlank();
-    // Saved again with the next change if it fails.
-    m_store.save();
+    // What could not be written stays in the store, which tries again and has the panel say so.
+    static_cast<void>(m_store.save());
 }
 
 void PanelModel::changeTab(bool isForwards)
