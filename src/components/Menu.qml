@@ -27,6 +27,11 @@ Item {
         control.open(item);
     }
 
+    // For a menu that a key has opened.
+    function selectFirst() {
+        control.selectFirst();
+    }
+
     function close() {
         control.close();
     }
@@ -101,7 +106,8 @@ Item {
 
                     entry: modelData
                     place: root.place
-                    width: Math.max(implicitWidth, rows.implicitWidth)
+                    // Among large texts a long entry is cut off.
+                    width: Math.min(Math.max(implicitWidth, rows.implicitWidth), root.width - 2 * 8 - 10)
                     isCurrent: control.current === index
                     onPointedAt: control.current = index
                     onPointedAway: control.current = -1

@@ -37,6 +37,8 @@ Rectangle {
         anchors.left: parent.left
         anchors.leftMargin: 10
         anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, root.width - 2 * 10)
+        elide: Text.ElideRight
         text: KeyLabels.spelt(root.entry.text, root.place)
         textFormat: Text.PlainText
         font: Theme.fonts.body

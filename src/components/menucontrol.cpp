@@ -41,6 +41,12 @@ void MenuControl::choose(int index)
         Q_EMIT entry->triggered();
 }
 
+void MenuControl::selectFirst()
+{
+    if (isOpen())
+        setCurrent(findChoosable(0, 1));
+}
+
 void MenuControl::setCurrent(int index)
 {
     const MenuEntry *entry = m_entries.value(index);

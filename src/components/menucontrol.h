@@ -31,6 +31,9 @@ public:
     /// Closes, gives the keyboard back and then triggers the entry. Nothing if it cannot be chosen.
     Q_INVOKABLE void choose(int index);
 
+    /// Makes the first entry that can be chosen the current one, as for a menu that a key has opened.
+    Q_INVOKABLE void selectFirst();
+
     [[nodiscard]] QQmlListProperty<MenuEntry> entries() { return {this, &m_entries}; }
     [[nodiscard]] int current() const { return m_current; }
     /// An entry that cannot be chosen does not become the current one; none does then.

@@ -45,6 +45,12 @@ bool isChecklist(const QKeyEvent &event)
     return event.key() == Qt::Key_L && modifiersOf(event) == (kCommand | Qt::ShiftModifier);
 }
 
+bool isMenuKey(const QKeyEvent &event)
+{
+    return (event.key() == Qt::Key_Menu && modifiersOf(event) == Qt::NoModifier)
+           || (event.key() == Qt::Key_F10 && modifiersOf(event) == Qt::ShiftModifier);
+}
+
 /// A tab belongs to the text.
 bool isTabbingAway(const QKeyEvent &event)
 {
@@ -126,6 +132,8 @@ bool NoteTextKeys::handleEditingKey(const QKeyEvent &event)
         m_view.toggleLinePrefix(QStringLiteral(u"\u2610 "));
     else if (event.key() == Qt::Key_Escape && modifiersOf(event) == Qt::NoModifier && m_takesEscape)
         Q_EMIT escaped();
+    else if (isMenuKey(event))
+        Q_EMIT m_view.contextMenuRequested(m_edit.rectangleOf(m_edit.selection().caret).bottomLeft());
     else if (isTabbingAway(event))
         leaveText(!event.modifiers().testFlag(Qt::ShiftModifier));
     else if (event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete)

@@ -28,6 +28,11 @@ FocusScope {
             (list.currentItem as CardRow)?.shown?.forceActiveFocus();
     }
 
+    // Shows the menu of the selected card, if there is one.
+    function showMenu() {
+        (list.currentItem as CardRow)?.menuRequested();
+    }
+
     function reveal(row: int) {
         const item = list.itemAtIndex(row);
         scroll.stop();

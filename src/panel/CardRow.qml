@@ -5,5 +5,8 @@ import QtQuick
 FocusScope {
     property Item shown: null
 
+    // The card shall show its menu.
+    signal menuRequested
+
     implicitHeight: shown ? shown.y + shown.height : 0
 }

@@ -55,12 +55,38 @@ Item {
     CardPlate {
         anchors.fill: parent
         isSelected: root.isSelected
-        isHovered: hover.hovered
+        isHovered: hover.hovered || menu.isOpen
     }
 
     MouseArea {
         anchors.fill: parent
-        onClicked: root.panel.cards.activate(root.row.cardId)
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        onPressed: mouse => {
+            if (mouse.button === Qt.RightButton)
+                menu.show(mouse.x, mouse.y, false);
+        }
+        onClicked: mouse => {
+            if (mouse.button === Qt.LeftButton)
+                root.panel.cards.activate(root.row.cardId);
+        }
+    }
+
+    CardMenuHost {
+        id: menu
+
+        card: root
+        panel: root.panel
+        cardId: root.cardId
+        isPinned: root.row?.isPinned ?? false
+        isExpanded: root.isExpanded
+    }
+
+    Connections {
+        function onMenuRequested() {
+            menu.showByKey();
+        }
+
+        target: root.row
     }
 
     Item {

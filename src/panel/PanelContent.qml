@@ -24,6 +24,13 @@ FocusScope {
             notes.forceActiveFocus();
     }
 
+    function showMenu() {
+        if (root.isOnPrompts)
+            (root.prompts as PromptList)?.showMenu();
+        else
+            notes.showMenu();
+    }
+
     // The list that goes would take the keyboard along.
     onIsOnPromptsChanged: {
         if (isOnPrompts)

@@ -51,6 +51,10 @@ FocusScope {
             root.giveKeyboard(root.model.keyboard.requestedField);
         }
 
+        function onMenuRequested() {
+            content.showMenu();
+        }
+
         target: root.model.keyboard
     }
 

@@ -16,6 +16,10 @@ Item {
     required property PanelModel panel
     readonly property bool isSelected: root.panel.selection.cardId === root.cardId
 
+    function showMenu() {
+        menu.showByKey();
+    }
+
     implicitHeight: body.y + body.height + 3 + actions.height + 6
     activeFocusOnTab: root.isSelected || activeFocus
     Accessible.role: Accessible.ListItem
@@ -32,7 +36,23 @@ Item {
     CardPlate {
         anchors.fill: parent
         isSelected: root.isSelected
-        isHovered: hover.hovered
+        isHovered: hover.hovered || menu.isOpen
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.RightButton
+        onPressed: mouse => menu.show(mouse.x, mouse.y, false)
+    }
+
+    CardMenuHost {
+        id: menu
+
+        card: root
+        panel: root.panel
+        cardId: root.cardId
+        isPrompt: true
+        isDone: root.isDone
     }
 
     PressButton {

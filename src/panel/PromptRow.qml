@@ -40,6 +40,8 @@ CardRow {
         onItemAdded: (index, item) => root.shown = item
 
         PromptCard {
+            id: card
+
             y: Theme.space
             width: root.width
             focus: true
@@ -47,6 +49,14 @@ CardRow {
             text: root.text
             isDone: root.isDone
             panel: root.panel
+
+            Connections {
+                function onMenuRequested() {
+                    card.showMenu();
+                }
+
+                target: root
+            }
         }
     }
 }

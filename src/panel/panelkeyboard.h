@@ -61,6 +61,8 @@ Q_SIGNALS:
     void fieldPasteRequested();
     /// The field that has the keyboard shall put this in place of its selection.
     void insertRequested(const QString &text);
+    /// The field that has the keyboard shall show its menu, or if neither has it the selected card.
+    void menuRequested();
     /// The composer shall break the line where its caret is.
     void lineBreakRequested();
 

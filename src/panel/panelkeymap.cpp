@@ -18,6 +18,8 @@ enum class Key {
     Escape,
     Return,
     Tab,
+    Menu,
+    F10,
 };
 
 enum class Held {
@@ -69,6 +71,8 @@ constexpr std::array kRules{
     Rule{Key::Return, Held::Command, When::NoField, PanelAction::PasteSelected},
     Rule{Key::Tab, Held::Command, When::Always, PanelAction::NextTab},
     Rule{Key::Tab, Held::CommandShift, When::Always, PanelAction::PreviousTab},
+    Rule{Key::Menu, Held::Nothing, When::Always, PanelAction::ShowMenu},
+    Rule{Key::F10, Held::Shift, When::Always, PanelAction::ShowMenu},
 };
 
 std::optional<Key> keyOf(int key)
@@ -91,6 +95,10 @@ std::optional<Key> keyOf(int key)
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
         return Key::Tab;
+    case Qt::Key_Menu:
+        return Key::Menu;
+    case Qt::Key_F10:
+        return Key::F10;
     default:
         return std::nullopt;
     }

@@ -24,6 +24,8 @@ enum class PanelAction {
     PasteSelected,
     NextTab,
     PreviousTab,
+    /// The menu of the field that has the keyboard, or else of the selected card.
+    ShowMenu,
 };
 
 /// What the meaning of a key depends on.

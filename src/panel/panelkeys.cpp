@@ -124,6 +124,12 @@ bool PanelKeys::perform(PanelAction action, int key)
     case PanelAction::PreviousTab:
         m_panel.changeTab(action == PanelAction::NextTab);
         return true;
+    case PanelAction::ShowMenu:
+        if (!keyboard.isInField() && !selected)
+            return false;
+        if (keyboard.isInField() || m_panel.selection()->isInSight(CardSelection::Target::Card))
+            Q_EMIT keyboard.menuRequested();
+        return true;
     }
     Q_UNREACHABLE();
 }

@@ -213,6 +213,11 @@ void TestPanelReader::cardsSayWhatTheyHold()
     VERIFY_TOLD(waitFor(u"list item"_s, u"Of the train"_s, State::Focused));
     VERIFY_TOLD(find(u"list item"_s, u"Of the train"_s)->is(State::Selected));
     VERIFY_TOLD(!find(u"list item"_s, u"Errands"_s)->is(State::Selected));
+    press({XK_Shift_L, XK_F10});
+    VERIFY_TOLD(waitFor(u"menu item"_s, u"Open"_s, State::Focused));
+    VERIFY_TOLD(find(u"popup menu"_s, u"Note"_s) && find(u"menu item"_s, u"Unpin"_s));
+    press({XK_Escape});
+    VERIFY_TOLD(waitFor(u"list item"_s, u"Of the train"_s, State::Focused));
 
     click(u"page tab"_s, u"Prompts"_s);
     VERIFY_TOLD(waitFor(u"list item"_s, u"Say more"_s));

@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: MIT
+#include "components/menuentry.h"
+#include "editor/notetextview.h"
+#include "paneltest.h"
+
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+using namespace vesk;
+
+/// The menus that a right click opens, and the keys that stand for one.
+class PanelMenusTest : public PanelTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cardHasAMenu_data();
+    void cardHasAMenu();
+    void promptHasAMenu();
+    void keysOpenTheMenuOfTheSelectedCard_data();
+    void keysOpenTheMenuOfTheSelectedCard();
+    void openNoteHasItsMenus();
+
+private:
+    void rightClick(const QQuickItem &item)
+    {
+        QTest::mouseClick(&window(), Qt::RightButton, {}, middle(item));
+    }
+    /// What the open menu offers; what cannot be chosen in brackets.
+    [[nodiscard]] QStringList offered() const;
+    /// Clicks on the line of the open menu that begins so.
+    void choose(const QString &text);
+};
+
+void PanelMenusTest::init()
+{
+    PanelTest::init();
+    for (const QString &text : {u"one"_s, u"two"_s, u"three"_s})
+        addNote(text);
+    show();
+    QTRY_COMPARE(shown("NoteCard").size(), 3);
+}
+
+QStringList PanelMenusTest::offered() const
+{
+    QStringList lines;
+    for (const QQuickItem *row : shown("MenuRow")) {
+        const auto *entry = row->property("entry").value<MenuEntry *>();
+        if (!entry->isDivider())
+            lines.append(entry->isEnabled() ? entry->text() : u'[' + entry->text() + u']');
+    }
+    return lines;
+}
+
+void PanelMenusTest::choose(const QString &text)
+{
+    for (const QQuickItem *row : shown("MenuRow")) {
+        if (row->property("entry").value<MenuEntry *>()->text().startsWith(text))
+            return click(*row);
+    }
+    QFAIL(qPrintable(u"No such line: "_s + text));
+}
+
+void PanelMenusTest::cardHasAMenu_data()
+{
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QString>("done");
+
+    QTest::newRow("open") << u"Open"_s << u"opened three"_s;
+    QTest::newRow("pin") << u"Pin"_s << u"pinned three"_s;
+    QTest::newRow("copy") << u"Copy"_s << u"copied three"_s;
+    QTest::newRow("paste") << u"Paste"_s << u"pasted three"_s;
+    QTest::newRow("delete") << u"Delete"_s << u"deleted three"_s;
+}
+
+void PanelMenusTest::cardHasAMenu()
+{
+    QFETCH(QString, entry);
+    QString done;
+    connect(model().cards(), &CardActions::copyRequested, this,
+            [&](const QString &text) { done += u"copied "_s + text; });
+    connect(model().cards(), &CardActions::pasteRequested, this,
+            [&](const QString &text) { done += u"pasted "_s + text; });
+    // The click alone does nothing to the card, nor does the one beside the menu that closes it.
+    rightClick(*shown("NoteCard").constFirst());
+    QCOMPARE(offered(), QStringList({u"Open"_s, u"Pin"_s, u"Copy"_s,
+                                     u"Paste into the App You Came From (⌘↩)"_s, u"Delete (⌘⌫)"_s}));
+    QTest::mouseClick(&window(), Qt::LeftButton, {}, QPoint(20, window().height() - 100));
+    QVERIFY(offered().isEmpty());
+    QVERIFY(!model().openNote()->id());
+    rightClick(*shown("NoteCard").constFirst());
+    choose(entry);
+    QVERIFY(offered().isEmpty());
+    if (model().openNote()->id())
+        done += u"opened "_s + store().findNote(*model().openNote()->id())->text();
+    for (qsizetype i = 0; i < store().notes().count(); ++i) {
+        if (store().notes().at(i).isPinned())
+            done += u"pinned "_s + store().notes().at(i).text();
+    }
+    if (store().notes().count() == 2 && store().notes().first()->text() == u"two")
+        done += u"deleted three"_s;
+    QTEST(done, "done");
+}
+
+void PanelMenusTest::promptHasAMenu()
+{
+    Prompt &prompt = m_fixture->addPrompt(u"why?"_s);
+    model().setTab(PanelModel::Tab::Prompts);
+    QTRY_COMPARE(shown("PromptCard").size(), 1);
+    // Also on its text, which the mouse can select.
+    rightClick(*shown("ExpandableText").constFirst());
+    QCOMPARE(offered().value(0), u"Mark as Done"_s);
+    QCOMPARE(offered().size(), 4);
+    choose(u"Mark"_s);
+    QVERIFY(prompt.isDone());
+    QTRY_COMPARE(shown("PromptCard").size(), 1);
+    rightClick(*shown("PromptCard").constFirst());
+    QCOMPARE(offered().value(0), u"Mark as Not Done"_s);
+    choose(u"Delete"_s);
+    QVERIFY(store().prompts().isEmpty());
+}
+
+void PanelMenusTest::keysOpenTheMenuOfTheSelectedCard_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::newRow("menu key") << Qt::Key_Menu << Qt::KeyboardModifiers(Qt::NoModifier);
+    QTest::newRow("shift and F10") << Qt::Key_F10 << Qt::KeyboardModifiers(Qt::ShiftModifier);
+}
+
+void PanelMenusTest::keysOpenTheMenuOfTheSelectedCard()
+{
+    QFETCH(Qt::Key, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    press(key, modifiers);
+    QVERIFY(offered().isEmpty());
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    QTRY_VERIFY(shown("NoteCard").at(1)->hasActiveFocus());
+    // Escape closes the menu alone, and the keys are the card's again.
+    press(key, modifiers);
+    QCOMPARE(offered().value(0), u"Open"_s);
+    press(Qt::Key_Escape);
+    QVERIFY(offered().isEmpty() && panel().isShown());
+    QVERIFY(shown("NoteCard").at(1)->hasActiveFocus());
+    // The first line is chosen already.
+    press(key, modifiers);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QVERIFY(store().notes().at(1).isPinned());
+    // On their tab, the selected prompt.
+    const Prompt &prompt = m_fixture->addPrompt(u"why?"_s);
+    model().setTab(PanelModel::Tab::Prompts);
+    QTRY_COMPARE(shown("PromptCard").size(), 1);
+    press(Qt::Key_Down);
+    QTRY_VERIFY(shown("PromptCard").constFirst()->hasActiveFocus());
+    press(key, modifiers);
+    press(Qt::Key_Return);
+    QVERIFY(prompt.isDone());
+}
+
+void PanelMenusTest::openNoteHasItsMenus()
+{
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QTRY_VERIFY(model().keyboard()->isEditing());
+    press(Qt::Key_F10, Qt::ShiftModifier);
+    QVERIFY(offered().contains(u"Select All"_s));
+    press(Qt::Key_Escape);
+    QTRY_VERIFY(model().keyboard()->isEditing());
+    QVERIFY(model().openNote()->id());
+    // Beside the text it is the card's, which has nothing to open.
+    const QQuickItem &card = *shown("NoteCard").constFirst();
+    const QPoint below = card.mapToScene(QPointF(card.width() / 2, card.height() - 4)).toPoint();
+    QTest::mouseClick(&window(), Qt::RightButton, {}, below);
+    QCOMPARE(offered().value(0), u"Pin"_s);
+    choose(u"Pin"_s);
+    QVERIFY(store().notes().first()->isPinned());
+    QVERIFY(model().openNote()->id());
+}
+
+QTEST_MAIN(PanelMenusTest)
+#include "tst_panelmenus.moc"
