@@ -7,6 +7,8 @@
 
 #include <QKeyEvent>
 
+#include <tuple>
+
 namespace vesk {
 
 namespace {
@@ -44,7 +46,13 @@ bool PanelKeys::handlePress(const QKeyEvent &event)
     // Whoever opens a note and types on writes into it, at its end.
     if (m_panel.openNote()->id() && m_panel.editor()->focusIfAwaited())
         return false;
-    if (keyboard.isEditing() || keyboard.isComposing())
+    if (keyboard.isEditing()) {
+        // Its text gets the key, but where the user sees what becomes of it.
+        if (m_panel.selection()->selected() == m_panel.openNote()->id())
+            std::ignore = m_panel.selection()->isInSight(CardSelection::Target::Card);
+        return false;
+    }
+    if (keyboard.isComposing())
         return false;
     if (keyboard.isInField() && event.matches(QKeySequence::Paste)) {
         Q_EMIT keyboard.fieldPasteRequested();

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void sourceIsBehindTheText();
     void keysLeaveUnseenCardsAlone_data();
     void keysLeaveUnseenCardsAlone();
+    void typingBringsTheOpenNoteBack();
     void buttonOutOfSightIsNotPressed_data();
     void buttonOutOfSightIsNotPressed();
     void heldKeysActOnce_data();
@@ -401,6 +402,22 @@ void PanelKeysTest::keysLeaveUnseenCardsAlone()
         press(key, modifiers);
         QVERIFY(state() != before || !pastes.isEmpty());
     }
+}
+
+void PanelKeysTest::typingBringsTheOpenNoteBack()
+{
+    for (int i = 0; i < 40; ++i)
+        addNote(u"note %1"_s.arg(i));
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QTRY_VERIFY(model().keyboard()->isEditing());
+    // The list comes to rest when the card is fully open.
+    QTest::qWait(500);
+    scrollToEnd();
+    QTRY_VERIFY(topRow() > 20);
+    type(u"!"_s);
+    QTRY_VERIFY(topRow() < 2);
+    QVERIFY(store().notes().first()->text().contains(u'!'));
 }
 
 void PanelKeysTest::buttonOutOfSightIsNotPressed_data()
