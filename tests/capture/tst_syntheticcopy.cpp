@@ -97,7 +97,7 @@ void TestSyntheticCopy::copies_data()
     QTest::addColumn<int>("after");
     QTest::addColumn<QString>("copied");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("at once") << 0 << u" word\n"_s << u"word"_s;
+    QTest::newRow("at once, untrimmed") << 0 << u" word\n"_s << u" word\n"_s;
     QTest::newRow("at the last look") << 490 << u"word"_s << u"word"_s;
     QTest::newRow("only white space") << 10 << u" \n\u00a0"_s << u"-"_s;
     QTest::newRow("a picture") << 10 << QString() << u"-"_s;
