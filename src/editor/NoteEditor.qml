@@ -126,7 +126,6 @@ FocusScope {
             wrapMode: TextEdit.Wrap
             // Room for the caret of a line that begins at the right.
             rightPadding: 2
-            horizontalAlignment: hint.visible ? TextEdit.AlignLeft : undefined
             textFormat: TextEdit.PlainText
             font.family: Theme.fonts.field.family
             font.pixelSize: Math.round(root.fontSize * Theme.fonts.scale)
@@ -154,6 +153,9 @@ FocusScope {
                 width: parent.width - edit.rightPadding
                 elide: Text.ElideRight
                 textFormat: Text.PlainText
+                // Where the caret of an empty text is.
+                horizontalAlignment: Theme.isMirrored ? Text.AlignRight : Text.AlignLeft
+                LayoutMirroring.enabled: false
                 text: root.placeholder
                 font.family: edit.font.family
                 font.pixelSize: Math.round((root.fontSize + (root.firstLineIsTitle ? root.titleBoost : 0)) * Theme.fonts.scale)

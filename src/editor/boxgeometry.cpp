@@ -8,6 +8,9 @@
 #include <QTextBlock>
 #include <QTextDocument>
 
+#include <algorithm>
+#include <cmath>
+
 namespace vesk::boxgeometry {
 
 namespace {
@@ -37,12 +40,19 @@ bool hasBox(const NoteText &text, const QTextBlock &block)
     return block.isValid() && block.layout()->lineCount() > 0 && editrules::startsWithBox(text.line(block));
 }
 
+bool isRightToLeft(const QTextBlock &block)
+{
+    return block.blockFormat().layoutDirection() == Qt::RightToLeft;
+}
+
 QRectF glyphRectangle(const QTextBlock &block)
 {
     const QTextLine line = block.layout()->lineAt(0);
     const QPointF origin = block.layout()->position();
-    const qreal left = line.cursorToX(0);
-    return {origin.x() + left, origin.y() + line.y(), line.cursorToX(1) - left,
+    // The glyph's first edge is its right one where the paragraph is read from right to left.
+    const qreal first = line.cursorToX(0);
+    const qreal second = line.cursorToX(0, QTextLine::Trailing);
+    return {origin.x() + std::min(first, second), origin.y() + line.y(), std::abs(second - first),
             line.ascent() + line.descent()};
 }
 
@@ -50,8 +60,10 @@ Box box(const NoteText &text, const QTextBlock &block, qreal size)
 {
     const QRectF glyph = glyphRectangle(block);
     const QStringView line = text.line(block);
+    // Near the paragraph's edge; what remains of the glyph's width keeps the text away.
+    const qreal left = isRightToLeft(block) ? glyph.right() - 1 - size : glyph.x() + 1;
     return {.position = block.position(),
-            .square = QRectF(glyph.x() + 1, glyph.y() + (glyph.height() - size) / 2, size, size),
+            .square = QRectF(left, glyph.y() + (glyph.height() - size) / 2, size, size),
             .isTicked = line.front() == markup::kTicked.front(),
             .label = line.sliced(1).trimmed().toString()};
 }

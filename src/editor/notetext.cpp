@@ -7,6 +7,7 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <utility>
@@ -63,6 +64,15 @@ NoteText::NoteText(QTextDocument &document, QTextBlockFormat paragraph, QObject 
 QStringView NoteText::line(const QTextBlock &block) const
 {
     return QStringView(m_text).mid(block.position(), block.length() - 1);
+}
+
+QString NoteText::composedLine(const QTextBlock &block) const
+{
+    QString composed = line(block).toString();
+    const QTextLayout &layout = *block.layout();
+    if (!layout.preeditAreaText().isEmpty())
+        composed.insert(layout.preeditAreaPosition(), layout.preeditAreaText());
+    return composed;
 }
 
 void NoteText::load(const QString &text)

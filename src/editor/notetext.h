@@ -28,6 +28,8 @@ public:
     [[nodiscard]] QTextDocument &document() const { return m_document; }
     /// The line that a paragraph of the document shows, without its line break.
     [[nodiscard]] QStringView line(const QTextBlock &block) const;
+    /// The same line with the text that is being composed in it, as the user sees it.
+    [[nodiscard]] QString composedLine(const QTextBlock &block) const;
 
     /// Puts another text in place of all there is. No change of the text is reported.
     void load(const QString &text);

@@ -3,6 +3,8 @@
 
 #include "editor/notetext.h"
 
+#include <QTextDocument>
+
 namespace vesk {
 
 void NoteTextLook::start(const NoteText &text, Theme &theme)
@@ -12,8 +14,14 @@ void NoteTextLook::start(const NoteText &text, Theme &theme)
     connect(this, &NoteTextLook::changed, this, &NoteTextLook::apply);
     connect(&theme, &Theme::changed, this, &NoteTextLook::apply);
     apply();
-    connect(&text, &NoteText::touched, this,
-            [this](int position, int length) { m_styler->restyle(position, length); });
+    m_directions = std::make_unique<ParagraphDirections>(text);
+    m_directions->touch(0, static_cast<int>(text.text().size()));
+    m_directions->apply();
+    connect(&text, &NoteText::touched, this, [this](int position, int length) {
+        m_styler->restyle(position, length);
+        m_directions->touch(position, length);
+    });
+    connect(&text.document(), &QTextDocument::contentsChanged, this, [this] { m_directions->apply(); });
 }
 
 void NoteTextLook::apply()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "components/theme.h"
+#include "editor/paragraphdirections.h"
 #include "editor/styler.h"
 
 #include <QFont>
@@ -42,6 +43,7 @@ private:
     void apply();
 
     std::unique_ptr<Styler> m_styler;
+    std::unique_ptr<ParagraphDirections> m_directions;
     QPointer<Theme> m_theme;
     qreal m_fontSize = 14;
     bool m_firstLineIsTitle = false;

@@ -49,7 +49,8 @@ void NoteTextView::componentComplete()
     // but long texts that are set at once.
     target->setFlag(QQuickItem::ItemObservesViewport);
     QTextDocument *document = m_edit.document();
-    m_text = std::make_unique<NoteText>(*document, TextFormats::paragraph(), nullptr);
+    m_text = std::make_unique<NoteText>(*document, TextFormats::paragraph(QGuiApplication::layoutDirection()),
+                                        nullptr);
     m_look.start(*m_text, *engine->singletonInstance<Theme *>(qmlTypeId("Vesk.Components", 1, 0, "Theme")));
     m_steps = std::make_unique<EditSteps>(m_edit, *m_text);
     m_keys.start(*m_text, *m_steps);

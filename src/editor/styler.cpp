@@ -34,13 +34,6 @@ private:
     std::weak_ptr<QTextBlock> m_title;
 };
 
-/// The line as it is seen, with what is being composed in it.
-QString composed(QStringView line, const QTextLayout &layout)
-{
-    QString made = line.toString();
-    return made.insert(layout.preeditAreaPosition(), layout.preeditAreaText());
-}
-
 bool isComposing(const QTextLayout &layout)
 {
     return !layout.preeditAreaText().isEmpty();
@@ -85,12 +78,11 @@ void Styler::restyle(int position, int length)
 QList<QTextLayout::FormatRange> Styler::wanted(const QTextBlock &block) const
 {
     const QTextLayout &layout = *block.layout();
-    const QStringView line = m_text.line(block);
     const bool isTitle = block == *m_title;
     if (!isComposing(layout))
-        return m_formats.ranges(line, isTitle);
+        return m_formats.ranges(m_text.line(block), isTitle);
 
-    QList<QTextLayout::FormatRange> ranges = m_formats.ranges(composed(line, layout), isTitle);
+    QList<QTextLayout::FormatRange> ranges = m_formats.ranges(m_text.composedLine(block), isTitle);
     for (const QTextLayout::FormatRange &range : layout.formats()) {
         if (!TextFormats::isOurs(range.format))
             ranges.append(range);

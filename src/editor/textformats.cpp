@@ -102,11 +102,15 @@ bool TextFormats::isOurs(const QTextCharFormat &format)
     return format.hasProperty(kOurs);
 }
 
-QTextBlockFormat TextFormats::paragraph()
+QTextBlockFormat TextFormats::paragraph(Qt::LayoutDirection direction)
 {
     QTextBlockFormat made;
     made.setLineHeight(3, QTextBlockFormat::LineDistanceHeight);
     made.setBottomMargin(5);
+    // The side at which a paragraph's direction begins, whatever the text item takes for the direction of
+    // its whole text.
+    made.setAlignment(Qt::AlignLeft);
+    made.setLayoutDirection(direction);
     return made;
 }
 

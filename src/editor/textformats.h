@@ -42,7 +42,7 @@ public:
 
     [[nodiscard]] static bool isOurs(const QTextCharFormat &format);
     /// Lines within a paragraph are 3 pixels apart, and paragraphs 5 more.
-    [[nodiscard]] static QTextBlockFormat paragraph();
+    [[nodiscard]] static QTextBlockFormat paragraph(Qt::LayoutDirection direction);
 
 private:
     std::array<QTextCharFormat, kTextStyles> m_formats;

@@ -4,6 +4,7 @@
 #include "components/theme.h"
 #include "editor/notetextview.h"
 #include "editor/textformats.h"
+#include "notes/linedirection.h"
 
 #include <QRandomGenerator>
 #include <QRegularExpression>
@@ -53,10 +54,10 @@ State RandomEditsTest::state() const
 
 void RandomEditsTest::act(int kind)
 {
-    static const QString kLetters = u"aab-*[x]#*é"_s;
-    static const QStringList kPastes{u"- one\n[ ] two"_s, u"# head"_s, u"**bold** x"_s,
-                                     u"☑ done\n"_s,       u"\n\n"_s,   u"•\u00a0x\u2028☐ y"_s,
-                                     u"\ufffc\ufdd0"_s};
+    static const QString kLetters = u"aab-*[x]#*é1בש"_s;
+    static const QStringList kPastes{u"- one\n[ ] two"_s, u"# head"_s,  u"**bold** x"_s,
+                                     u"☑ done\n"_s,       u"\n\n"_s,    u"•\u00a0x\u2028☐ y"_s,
+                                     u"\ufffc\ufdd0"_s,   u"☐ חלב\n"_s, u"مرحبا a\n12"_s};
     static const QStringList kKeys{u"\n"_s, u" "_s, u"\b"_s, u"\x7f"_s};
     const QString text = m_fixture->text();
     switch (kind) {
@@ -106,14 +107,16 @@ int RandomEditsTest::findWrongLooks() const
     static const QRegularExpression kBreak(u"[\n\u2028\u2029]|$"_s);
     const QString text = m_fixture->text();
     bool isTitleTaken = false;
+    Qt::LayoutDirection direction = Qt::LeftToRight;
     qsizetype start = 0;
     for (QTextBlock block = m_fixture->document().begin(); block.isValid(); block = block.next()) {
         const qsizetype end = text.indexOf(kBreak, start);
         const QStringView line = QStringView(text).mid(start, end - start);
         const bool isTitle = !isTitleTaken && !line.trimmed().isEmpty();
         isTitleTaken = isTitleTaken || isTitle;
+        direction = lineDirection(line).value_or(direction);
         if (block.position() != start || block.layout()->formats() != formats.ranges(line, isTitle)
-            || block.blockFormat() != TextFormats::paragraph())
+            || block.blockFormat() != TextFormats::paragraph(direction))
             return block.blockNumber();
         start = end + 1;
     }

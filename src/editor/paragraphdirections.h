@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+
+#include <optional>
+#include <utility>
+
+class QTextBlock;
+
+namespace vesk {
+
+class NoteText;
+
+/// Gives each paragraph of a document the direction of its line. By itself the toolkit's text item would
+/// give all of them the direction of the first.
+class ParagraphDirections final
+{
+public:
+    /// The text must outlive this.
+    explicit ParagraphDirections(const NoteText &text);
+
+    /// Records that a part of the document has changed. May be called within the change.
+    void touch(int position, int length);
+    /// Sets the directions of the paragraphs touched since the last call, and of those that follow them.
+    /// Must not be called before the layout has followed the change.
+    void apply();
+
+private:
+    const NoteText &m_text;
+    /// Start and end of what was touched.
+    std::optional<std::pair<int, int>> m_touched;
+};
+
+} // namespace vesk
