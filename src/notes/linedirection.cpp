@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "notes/linedirection.h"
 
+#include "notes/textlines.h"
+
 #include <algorithm>
 
 namespace vesk {
@@ -48,6 +50,16 @@ std::optional<Qt::LayoutDirection> lineDirection(QStringView line)
         }
     }
     return std::nullopt;
+}
+
+std::optional<Qt::LayoutDirection> lineDirection(QStringView text, qsizetype line)
+{
+    std::optional<Qt::LayoutDirection> direction;
+    for (RawLines lines(text); lines.next() && lines.number() <= line;) {
+        if (const std::optional<Qt::LayoutDirection> own = lineDirection(lines.raw()))
+            direction = own;
+    }
+    return direction;
 }
 
 } // namespace vesk

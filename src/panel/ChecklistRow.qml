@@ -10,13 +10,14 @@ PressButton {
 
     required property string text
     required property bool isDone
+    required property bool isRightToLeft
     required property string query
     required property bool isStill
 
     name: root.isDone ? qsTr("Mark “%1” as not done").arg(root.text) : qsTr("Mark “%1” as done").arg(root.text)
     pressedScale: 0.98
     // The box stands where its line begins, as in the editor.
-    LayoutMirroring.enabled: label.isRightToLeft
+    LayoutMirroring.enabled: root.isRightToLeft
     LayoutMirroring.childrenInherit: true
     implicitHeight: Math.max(Math.round(22 * Theme.fonts.scale), label.implicitHeight + 4)
     Accessible.role: Accessible.CheckBox
@@ -41,6 +42,7 @@ PressButton {
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         text: root.text
+        fallbackIsRightToLeft: root.isRightToLeft
         query: root.query
         font: Theme.fonts.body
         color: root.isDone ? Theme.secondary : Theme.primary

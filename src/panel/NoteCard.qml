@@ -109,6 +109,7 @@ Item {
             preview: root.row.preview
             itemTexts: root.row.itemTexts
             itemsDone: root.row.itemsDone
+            itemsRightToLeft: root.row.itemsRightToLeft
             itemLines: root.row.itemLines
             furtherItems: root.row.furtherItems
             done: root.row.done

@@ -17,6 +17,7 @@ CardRow {
     required property string spoken
     required property list<string> itemTexts
     required property list<bool> itemsDone
+    required property list<bool> itemsRightToLeft
     required property list<int> itemLines
     required property int furtherItems
     required property int done

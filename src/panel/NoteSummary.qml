@@ -16,6 +16,7 @@ Column {
     required property string preview
     required property list<string> itemTexts
     required property list<bool> itemsDone
+    required property list<bool> itemsRightToLeft
     required property list<int> itemLines
     required property int furtherItems
     required property int done
@@ -62,6 +63,7 @@ Column {
                 activeFocusOnTab: root.canTabIn || activeFocus
                 text: root.itemTexts[index] ?? ""
                 isDone: root.itemsDone[index] ?? false
+                isRightToLeft: root.itemsRightToLeft[index] ?? false
                 query: root.query
                 isStill: root.isStill
                 onClicked: root.itemToggled(root.itemLines[index])

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "panel/carddata.h"
 
+#include "notes/linedirection.h"
 #include "notes/note.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 
 namespace vesk::carddata {
 
@@ -45,6 +46,16 @@ QList<bool> itemsDone(const Note &note)
     for (const ChecklistItem &item : shownItems(note))
         done.append(item.isDone);
     return done;
+}
+
+QList<bool> itemsRightToLeft(const Note &note)
+{
+    const QString text = note.text();
+    QList<bool> directions;
+    for (const ChecklistItem &item : shownItems(note))
+        directions.append(lineDirection(text, item.line).value_or(QGuiApplication::layoutDirection())
+                          == Qt::RightToLeft);
+    return directions;
 }
 
 QList<int> itemLines(const Note &note)

@@ -19,6 +19,8 @@ inline constexpr qsizetype kMaximumItems = 3;
 [[nodiscard]] QString preview(const Note &note);
 [[nodiscard]] QStringList itemTexts(const Note &note);
 [[nodiscard]] QList<bool> itemsDone(const Note &note);
+/// Whether each item is read from right to left, as the note's editor shows it.
+[[nodiscard]] QList<bool> itemsRightToLeft(const Note &note);
 /// The line numbers of the items that are shown.
 [[nodiscard]] QList<int> itemLines(const Note &note);
 /// How many checkboxes are not shown.

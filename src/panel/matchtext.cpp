@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "panel/matchtext.h"
 
+#include "notes/linedirection.h"
 #include "panel/cutoff.h"
 #include "panel/highlight.h"
 
-#include <QGuiApplication>
 #include <QPainter>
 
 #include <algorithm>
@@ -20,8 +20,8 @@ MatchText::MatchText(QQuickItem *parent)
 
 bool MatchText::isRightToLeft() const
 {
-    const bool hasLetters = std::ranges::any_of(m_text, [](QChar each) { return each.isLetter(); });
-    return hasLetters ? m_text.isRightToLeft() : QGuiApplication::isRightToLeft();
+    const std::optional<Qt::LayoutDirection> own = lineDirection(m_text);
+    return own ? *own == Qt::RightToLeft : m_fallbackIsRightToLeft;
 }
 
 void MatchText::componentComplete()

@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QGuiApplication>
 #include <QQuickPaintedItem>
 #include <QTextLayout>
 
@@ -23,14 +24,12 @@ class MatchText : public QQuickPaintedItem
     /// In points, between two lines.
     Q_PROPERTY(qreal lineSpacing MEMBER m_lineSpacing NOTIFY changed)
     Q_PROPERTY(bool strikeOut MEMBER m_strikeOut NOTIFY changed)
-    /// Whether the text is read from right to left, and so begins at the right. One without letters
-    /// begins where those of the program do.
-    Q_PROPERTY(bool isRightToLeft READ isRightToLeft NOTIFY changed)
+    /// Whether a text in which no character has a direction is read from right to left; by default as the
+    /// interface.
+    Q_PROPERTY(bool fallbackIsRightToLeft MEMBER m_fallbackIsRightToLeft NOTIFY changed)
 
 public:
     explicit MatchText(QQuickItem *parent = nullptr);
-
-    [[nodiscard]] bool isRightToLeft() const;
 
     void paint(QPainter *painter) override;
 
@@ -42,6 +41,7 @@ protected:
     void componentComplete() override;
 
 private:
+    [[nodiscard]] bool isRightToLeft() const;
     void layOut();
     /// Breaks `m_layout` into lines; gives where the last line that is shown starts, and whether
     /// there would be more.
@@ -61,6 +61,7 @@ private:
     int m_maximumLineCount = 1;
     qreal m_lineSpacing = 0;
     bool m_strikeOut = false;
+    bool m_fallbackIsRightToLeft = QGuiApplication::isRightToLeft();
     QTextLayout m_layout;
 };
 

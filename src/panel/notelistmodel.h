@@ -47,6 +47,7 @@ public:
         SpokenRole,               ///< QString, what a screen reader says besides the title
         ItemTextsRole,            ///< QStringList, the checkboxes that are shown
         ItemsDoneRole,            ///< QList<bool>, for each of them
+        ItemsRightToLeftRole,     ///< QList<bool>, for each of them
         ItemLinesRole,            ///< QList<int>, for each of them
         FurtherItemsRole,         ///< int, the checkboxes that are not shown
         DoneRole,                 ///< int, of all checkboxes

@@ -15,6 +15,7 @@ QHash<int, QByteArray> NoteListModel::roleNames() const
                   {SpokenRole, "spoken"},
                   {ItemTextsRole, "itemTexts"},
                   {ItemsDoneRole, "itemsDone"},
+                  {ItemsRightToLeftRole, "itemsRightToLeft"},
                   {ItemLinesRole, "itemLines"},
                   {FurtherItemsRole, "furtherItems"},
                   {DoneRole, "done"},
@@ -45,6 +46,8 @@ QVariant NoteListModel::cardData(const RecordId *id, int role) const
         return note ? carddata::itemTexts(*note) : QStringList();
     case ItemsDoneRole:
         return QVariant::fromValue(note ? carddata::itemsDone(*note) : QList<bool>());
+    case ItemsRightToLeftRole:
+        return QVariant::fromValue(note ? carddata::itemsRightToLeft(*note) : QList<bool>());
     case ItemLinesRole:
         return QVariant::fromValue(note ? carddata::itemLines(*note) : QList<int>());
     case FurtherItemsRole:

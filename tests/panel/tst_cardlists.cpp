@@ -418,6 +418,11 @@ void CardListsTest::cardShowsThreeItems()
     QCOMPARE(at(1, NoteListModel::DoneRole).toInt(), 1);
     QCOMPARE(at(1, NoteListModel::TotalRole).toInt(), 5);
 
+    // The side at which each item begins in the editor, whatever stands between them.
+    addNote(u"\u2610 1\nשלום\n\u2610 2\nabc\n\u2610 \u2067ש\u2069 3"_s);
+    QCOMPARE(at(1, NoteListModel::ItemsRightToLeftRole).value<QList<bool>>(),
+             QList<bool>({false, true, false}));
+
     addNote(QString());
     QCOMPARE(at(1, NoteListModel::TitleRole).toString(), u"New Note"_s);
 }
