@@ -5,6 +5,7 @@
 #include "quicknote/quicknotepanel.h"
 #include "quicknote/toast.h"
 
+#include <QKeyEvent>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -43,6 +44,15 @@ struct World : MemoryDesktop
     {
         QTest::keyClick(box->window(), key, modifiers);
     }
+    /// What comes while the key is held.
+    void hold(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        for (const QEvent::Type type :
+             {QEvent::KeyRelease, QEvent::KeyPress, QEvent::KeyRelease, QEvent::KeyPress}) {
+            QKeyEvent event(type, key, modifiers, u"\r"_s, true);
+            QCoreApplication::sendEvent(box->window(), &event);
+        }
+    }
     void type(const QString &text) const
     {
         for (const QChar letter : text)
@@ -79,6 +89,8 @@ private Q_SLOTS:
     void init() { m_world = std::make_unique<World>(); }
     void cleanup();
     void returnKeepsANote();
+    void heldReturnKeepsOneNote();
+    void heldReturnDoesNotKeepAChecklist();
     void blankDraftIsNotKept_data();
     void blankDraftIsNotKept();
     void eachModeHasItsDraft();
@@ -121,6 +133,49 @@ void QuickNoteTest::returnKeepsANote()
     QCOMPARE(m_world->draft(), QString());
     QCOMPARE(m_world->notice(), u"Saved to Vesk"_s);
     QCOMPARE(m_world->sounds.played().size(), 1);
+}
+
+void QuickNoteTest::heldReturnKeepsOneNote()
+{
+    QVERIFY(m_world->show(Mode::Note));
+    m_world->type(u"tea"_s);
+    QTest::keyPress(m_world->box->window(), Qt::Key_Return);
+    m_world->hold(Qt::Key_Return);
+    QCOMPARE(m_world->texts(), QStringList{u"tea"_s});
+    // It is held until another draft is there.
+    QVERIFY(m_world->show(Mode::Note));
+    m_world->type(u"milk"_s);
+    m_world->hold(Qt::Key_Return);
+    QCOMPARE(m_world->texts(), QStringList{u"tea"_s});
+    QCOMPARE(m_world->draft(), u"milk"_s);
+    QVERIFY(m_world->box->isShowing());
+    // Line breaks repeat, and letting go of Shift does not save them.
+    QTest::keyPress(m_world->box->window(), Qt::Key_Return, Qt::ShiftModifier);
+    m_world->hold(Qt::Key_Return, Qt::ShiftModifier);
+    m_world->hold(Qt::Key_Return);
+    QCOMPARE(m_world->draft(), u"milk\n\n\n"_s);
+    QVERIFY(m_world->box->isShowing());
+}
+
+void QuickNoteTest::heldReturnDoesNotKeepAChecklist()
+{
+    QVERIFY(m_world->show(Mode::Checklist));
+    m_world->type(u"milk"_s);
+    QTest::keyPress(m_world->box->window(), Qt::Key_Return);
+    m_world->hold(Qt::Key_Return);
+    QCOMPARE(m_world->draft(), u"\u2610 milk\n\u2610 "_s);
+    QVERIFY(m_world->box->isShowing());
+    QVERIFY(m_world->texts().isEmpty());
+    m_world->press(Qt::Key_Return);
+    QCOMPARE(m_world->texts(), QStringList{u"\u2610 milk"_s});
+    // A save by Control-Return goes on with nothing, also when Control is let go.
+    QVERIFY(m_world->show(Mode::Checklist));
+    m_world->type(u"tea"_s);
+    QTest::keyPress(m_world->box->window(), Qt::Key_Return, Qt::ControlModifier);
+    m_world->hold(Qt::Key_Return, Qt::ControlModifier);
+    m_world->hold(Qt::Key_Return);
+    QCOMPARE(m_world->store->notes().count(), 2);
+    QVERIFY(m_world->draft().isEmpty());
 }
 
 void QuickNoteTest::blankDraftIsNotKept_data()
