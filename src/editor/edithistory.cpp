@@ -15,50 +15,92 @@ bool startsWord(const QString &before, const QString &typed)
     return before.back().isSpace() && !typed.front().isSpace();
 }
 
+qsizetype endOf(const Splice &change)
+{
+    return change.position + change.inserted.size();
+}
+
+bool isInsertedAfter(const Splice &change, const Splice &last)
+{
+    return change.removed.isEmpty() && !last.inserted.isEmpty() && change.position == endOf(last);
+}
+
+/// Some programs send the halves of a surrogate pair one by one.
+bool completesCharacter(const Splice &change, const Splice &last)
+{
+    return isInsertedAfter(change, last) && last.inserted.back().isHighSurrogate()
+           && change.inserted.front().isLowSurrogate();
+}
+
+bool isRemovedBeside(const Splice &change, const Splice &last)
+{
+    const bool isBackwards = change.position + change.removed.size() == last.position;
+    return change.inserted.isEmpty() && last.inserted.isEmpty()
+           && (isBackwards || change.position == last.position);
+}
+
+/// Whether a text takes the place of what was selected when its composition began, and maybe, as a marker
+/// does, of what stood before that.
+bool replacesRemoved(const Splice &change, const Splice &last)
+{
+    return last.inserted.isEmpty() && change.position + change.removed.size() == last.position;
+}
+
 } // namespace
 
 void EditHistory::record(const Step &step, Kind kind, quint64 time)
 {
     m_steps.resize(m_done);
-    if (kind == Kind::Single || !join(step, time)) {
+    if (continuesLast(step, kind, time))
+        join(step);
+    else
         m_steps.append(step);
-        m_done = m_steps.size();
-    }
-    m_isOpen = kind == Kind::Typing;
+    const Splice &last = m_steps.constLast().change;
+    m_open.reset();
+    if (last.removed == last.inserted)
+        m_steps.removeLast(); // What was selected was written again.
+    else if (kind == Kind::Typing || (kind == Kind::Composing && last.inserted.isEmpty()))
+        m_open = kind;
+    m_done = m_steps.size();
     m_time = time;
 }
 
-bool EditHistory::join(const Step &step, quint64 time)
+bool EditHistory::continuesLast(const Step &step, Kind kind, quint64 time) const
 {
-    if (!m_isOpen || m_steps.isEmpty() || time > m_time + kPause || m_steps.constLast().after != step.before)
+    if (m_steps.isEmpty())
         return false;
-    Step &last = m_steps.last();
     const Splice &change = step.change;
-    if (change.removed.isEmpty() && !last.change.inserted.isEmpty()) {
-        if (change.position != last.change.position + last.change.inserted.size()
-            || startsWord(last.change.inserted, change.inserted))
-            return false;
-        last.change.inserted += change.inserted;
-    } else if (change.inserted.isEmpty() && last.change.inserted.isEmpty()) {
-        const bool isBackwards = change.position + change.removed.size() == last.change.position;
-        if (!isBackwards && change.position != last.change.position)
-            return false;
-        if (isBackwards) {
-            last.change.removed.prepend(change.removed);
-            last.change.position = change.position;
-        } else {
-            last.change.removed += change.removed;
-        }
-    } else {
+    const Splice &last = m_steps.constLast().change;
+    if (completesCharacter(change, last))
+        return true;
+    if (!m_open || m_steps.constLast().after != step.before)
         return false;
+    if (m_open == Kind::Composing)
+        return replacesRemoved(change, last);
+    return kind == Kind::Typing && time <= m_time + kPause
+           && (isRemovedBeside(change, last)
+               || (isInsertedAfter(change, last) && !startsWord(last.inserted, change.inserted)));
+}
+
+void EditHistory::join(const Step &step)
+{
+    const Splice &change = step.change;
+    Splice &last = m_steps.last().change;
+    if (change.removed.isEmpty()) {
+        last.inserted += change.inserted;
+    } else if (change.position < last.position) {
+        last.removed.prepend(change.removed);
+        last.inserted = change.inserted;
+        last.position = change.position;
+    } else {
+        last.removed += change.removed;
     }
-    last.after = step.after;
-    return true;
+    m_steps.last().after = step.after;
 }
 
 std::optional<EditHistory::Step> EditHistory::undo()
 {
-    m_isOpen = false;
+    m_open.reset();
     if (!canUndo())
         return std::nullopt;
     --m_done;
@@ -67,7 +109,7 @@ std::optional<EditHistory::Step> EditHistory::undo()
 
 std::optional<EditHistory::Step> EditHistory::redo()
 {
-    m_isOpen = false;
+    m_open.reset();
     if (!canRedo())
         return std::nullopt;
     ++m_done;
@@ -78,7 +120,7 @@ void EditHistory::clear()
 {
     m_steps.clear();
     m_done = 0;
-    m_isOpen = false;
+    m_open.reset();
 }
 
 } // namespace vesk

@@ -41,6 +41,12 @@ bool isLineBreak(QChar character)
     }
 }
 
+bool isInsidePair(QStringView text, qsizetype position)
+{
+    return position > 0 && position < text.size() && text.at(position - 1).isHighSurrogate()
+           && text.at(position).isLowSurrogate();
+}
+
 std::optional<MarkerChange> typedSpace(QStringView before)
 {
     for (const markup::TypedForm &form : markup::kTypedForms) {

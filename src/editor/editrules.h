@@ -11,6 +11,9 @@ namespace vesk::editrules {
 /// its line, as in the rest of the markup.
 [[nodiscard]] bool isLineBreak(QChar character);
 
+/// Whether a position is between the two halves of a surrogate pair.
+[[nodiscard]] bool isInsidePair(QStringView text, qsizetype position);
+
 /// Makes of the first `length` characters of a line the `marker`, which is empty to remove them.
 struct MarkerChange
 {

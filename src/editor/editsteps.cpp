@@ -8,6 +8,23 @@
 
 namespace vesk {
 
+namespace {
+
+/// The same change as one that ends at the caret, where the text allows it. An "a" that an input method
+/// commits before another one is reported as if it had come after that.
+Splice endingAt(qsizetype caret, const Splice &change, const QString &text)
+{
+    const qsizetype length = change.inserted.size();
+    const qsizetype start = caret - length;
+    const qsizetype passed = change.position - start;
+    if (!change.removed.isEmpty() || start < 0 || passed <= 0
+        || QStringView(text).mid(start, passed) != QStringView(text).mid(caret, passed))
+        return change;
+    return {.position = start, .removed = {}, .inserted = text.mid(start, length)};
+}
+
+} // namespace
+
 EditSteps::EditSteps(const EditItem &edit, NoteText &text)
     : m_edit(edit)
     , m_text(text)
@@ -20,6 +37,14 @@ void EditSteps::edit(qsizetype position, qsizetype length, const QString &text, 
     m_after = after;
     m_kind = EditHistory::Kind::Single;
     m_text.replace(position, length, text);
+}
+
+void EditSteps::erase(qsizetype position, qsizetype length)
+{
+    m_before = m_edit.selection();
+    m_after = Selection::at(position);
+    m_kind = EditHistory::Kind::Typing;
+    m_text.replace(position, length, {});
 }
 
 void EditSteps::replaceSelection(const QString &text)
@@ -55,15 +80,17 @@ void EditSteps::replay(const Splice &change, const Selection &after)
     m_text.replace(change.position, change.removed.size(), change.inserted);
 }
 
-void EditSteps::beforeEvent()
-{
-    m_before = m_edit.selection();
-}
-
 void EditSteps::beforeKey(quint64 time)
 {
-    beforeEvent();
+    m_before = m_edit.selection();
+    m_kind = EditHistory::Kind::Typing;
     m_time = time;
+}
+
+void EditSteps::beforeInputMethod()
+{
+    m_before = m_edit.selection();
+    m_kind = EditHistory::Kind::Composing;
 }
 
 void EditSteps::record(const Splice &change)
@@ -72,7 +99,9 @@ void EditSteps::record(const Splice &change)
     if (m_after)
         m_edit.select(after);
     if (!m_isReplaying)
-        m_history.record({.change = change, .before = m_before, .after = after}, m_kind, m_time);
+        m_history.record(
+            {.change = endingAt(after.caret, change, m_text.text()), .before = m_before, .after = after},
+            m_kind, m_time);
     m_before = after;
     m_after.reset();
     m_kind = EditHistory::Kind::Typing;

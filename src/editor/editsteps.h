@@ -20,6 +20,8 @@ public:
 
     /// Changes the text as one step to take back.
     void edit(qsizetype position, qsizetype length, const QString &text, const Selection &after);
+    /// Removes a text as typing does: what is erased key by key is one step.
+    void erase(qsizetype position, qsizetype length);
     /// Puts a text in place of the selection; an empty one changes nothing.
     void replaceSelection(const QString &text);
     // Neither does anything while an input method is composing.
@@ -28,10 +30,10 @@ public:
     [[nodiscard]] bool canUndo() const { return m_history.canUndo(); }
     [[nodiscard]] bool canRedo() const { return m_history.canRedo(); }
 
-    /// To be called before the item sees what may change the text.
-    void beforeEvent();
-    /// The same for a key, with its time in milliseconds.
+    // To be called before the item sees what may change the text: a key, with its time in milliseconds, or
+    // the event of an input method.
     void beforeKey(quint64 time);
+    void beforeInputMethod();
     /// To be called after each change, whoever made it.
     void record(const Splice &change);
     /// The next change begins a step, whatever it is.

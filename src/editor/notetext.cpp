@@ -124,9 +124,14 @@ void NoteText::follow(qsizetype position, qsizetype removed, qsizetype added)
     qsizetype head = 0;
     while (head < shorter && before.at(head) == after.at(head))
         ++head;
+    // Two emoji often begin with the same half of a surrogate pair, or end in the same one.
+    if (editrules::isInsidePair(before, head))
+        --head;
     qsizetype tail = 0;
     while (tail < shorter - head && before.at(removed - 1 - tail) == after.at(added - 1 - tail))
         ++tail;
+    if (editrules::isInsidePair(before, removed - tail))
+        --tail;
     if (head + tail == removed && removed == added)
         return;
     position += head;

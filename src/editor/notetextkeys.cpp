@@ -2,17 +2,14 @@
 #include "editor/notetextkeys.h"
 
 #include "editor/edititem.h"
-#include "editor/editrules.h"
 #include "editor/editsteps.h"
+#include "editor/eraserules.h"
 #include "editor/notetext.h"
 #include "editor/notetextview.h"
 
 #include <QGuiApplication>
 #include <QInputMethod>
-#include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QTextBlock>
-#include <QTextDocument>
 
 namespace vesk {
 
@@ -58,11 +55,21 @@ bool isTabbingAway(const QKeyEvent &event)
            && event.modifiers().testFlag(Qt::ControlModifier);
 }
 
+/// Whether the key writes a character. Joiners and marks of direction are not printed, but are typed.
+bool isCharacter(const QKeyEvent &event)
+{
+    const QList<uint> text = event.text().toUcs4();
+    if (text.isEmpty() || (event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier)))
+        return false;
+    const QChar::Category category = QChar::category(text.constFirst());
+    return QChar::isPrint(text.constFirst()) || category == QChar::Other_Format
+           || category == QChar::Other_PrivateUse;
+}
+
 bool isTyping(const QKeyEvent &event)
 {
-    return (!event.text().isEmpty() && event.text().front().isPrint()
-            && !(event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier)))
-           || event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete || event.key() == Qt::Key_Tab;
+    return isCharacter(event) || event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete
+           || event.key() == Qt::Key_Tab;
 }
 
 bool isModifier(const QKeyEvent &event)
@@ -82,6 +89,7 @@ void NoteTextKeys::start(const NoteText &text, EditSteps &steps)
 {
     m_text = &text;
     m_steps = &steps;
+    m_markup.emplace(m_edit, text, steps);
 }
 
 bool NoteTextKeys::handleShortcut(QKeyEvent &event) const
@@ -100,11 +108,13 @@ bool NoteTextKeys::handleKey(QKeyEvent &event)
     if (m_edit.isComposing()) {
         // The input method lets through what it has no use for. A letter follows what was composed so
         // far; any other key would tear it apart.
-        if (!isTyping(event) || event.text().isEmpty() || !event.text().front().isPrint()) {
+        if (!isCharacter(event)) {
             event.accept();
             return true;
         }
         QGuiApplication::inputMethod()->commit();
+        m_view.finishComposing();
+        m_steps->beforeKey(event.timestamp());
         return false;
     }
     if (!isTyping(event) && !isModifier(event))
@@ -118,6 +128,10 @@ bool NoteTextKeys::handleKey(QKeyEvent &event)
 
 bool NoteTextKeys::handleEditingKey(const QKeyEvent &event)
 {
+    const bool isEscape =
+        event.key() == Qt::Key_Escape && modifiersOf(event) == Qt::NoModifier && m_takesEscape;
+    if (event.isAutoRepeat() && (isEscape || isChecklist(event)))
+        return true;
     if (event.matches(QKeySequence::Undo))
         m_view.undo();
     else if (isRedo(event))
@@ -130,29 +144,33 @@ bool NoteTextKeys::handleEditingKey(const QKeyEvent &event)
         m_view.paste();
     else if (isChecklist(event))
         m_view.toggleLinePrefix(QStringLiteral(u"\u2610 "));
-    else if (event.key() == Qt::Key_Escape && modifiersOf(event) == Qt::NoModifier && m_takesEscape)
+    else if (isEscape)
         Q_EMIT escaped();
     else if (isMenuKey(event))
         Q_EMIT m_view.contextMenuRequested(m_edit.rectangleOf(m_edit.selection().caret).bottomLeft());
     else if (isTabbingAway(event))
         leaveText(!event.modifiers().testFlag(Qt::ShiftModifier));
     else if (event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete)
-        return eraseLineBreak(event);
-    else if (event.key() == Qt::Key_Space && !(modifiersOf(event) & ~Qt::ShiftModifier))
+        return erase(event);
+    else if (event.text() == u" " && !(modifiersOf(event) & ~Qt::ShiftModifier))
         return typeSpace();
     else
         return false;
     return true;
 }
 
-bool NoteTextKeys::eraseLineBreak(const QKeyEvent &event)
+bool NoteTextKeys::erase(const QKeyEvent &event)
 {
+    const bool isBackwards = event.key() == Qt::Key_Backspace;
+    const Qt::KeyboardModifiers ignored = isBackwards ? Qt::ShiftModifier : Qt::NoModifier;
     const Selection selection = m_edit.selection();
-    const qsizetype start = selection.caret - (event.key() == Qt::Key_Backspace ? 2 : 0);
-    if (modifiersOf(event) != Qt::NoModifier || !selection.isEmpty() || start < 0
-        || QStringView(m_text->text()).mid(start, 2) != u"\r\n")
+    if ((modifiersOf(event) & ~ignored) || !selection.isEmpty())
         return false;
-    m_steps->edit(start, 2, {}, Selection::at(start));
+    const qsizetype caret = selection.caret;
+    const qsizetype start = isBackwards ? eraserules::backspaceStart(m_text->text(), caret) : caret;
+    const qsizetype end = isBackwards ? caret : eraserules::deleteEnd(m_text->text(), caret);
+    if (start < end)
+        m_steps->erase(start, end - start);
     return true;
 }
 
@@ -171,13 +189,23 @@ bool NoteTextKeys::handleReturn(const QKeyEvent &event)
     if (!isReturn(event))
         return false;
     const Qt::KeyboardModifiers modifiers = modifiersOf(event);
-    if (modifiers == kCommand && m_takesCommandReturn) {
-        Q_EMIT commandReturned();
+    const bool isForHost = modifiers == kCommand && m_takesCommandReturn;
+    if ((modifiers & ~Qt::ShiftModifier) && !isForHost)
+        return false;
+    const bool isPlainForHost = m_takesReturn && modifiers == Qt::NoModifier;
+    const bool isItemForHost = m_takesEmptyItemReturn && m_markup->isInEmptyItem();
+    const bool isTyped = !isForHost && !isPlainForHost && !isItemForHost;
+    if (event.isAutoRepeat()) {
+        // A repeat goes on with line breaks. It never begins anything, also when a modifier is released, or
+        // when the key was pressed for another window.
+        if (isTyped && m_repeatsLineBreak)
+            typeLineBreak();
         return true;
     }
-    if (modifiers & ~Qt::ShiftModifier)
-        return false;
-    if (m_takesReturn && modifiers == Qt::NoModifier)
+    m_repeatsLineBreak = isTyped;
+    if (isForHost)
+        Q_EMIT commandReturned();
+    else if (isPlainForHost)
         Q_EMIT returned();
     else
         typeLineBreak();
@@ -198,57 +226,13 @@ bool NoteTextKeys::handlePage(const QKeyEvent &event)
     return true;
 }
 
-bool NoteTextKeys::handleInputMethod(const QInputMethodEvent &event)
-{
-    const QString &commit = event.commitString();
-    const bool isRuled = commit == u" " || commit == u"\n";
-    if (!isRuled || event.replacementLength() != 0 || !m_edit.selection().isEmpty())
-        return false;
-    // What was being composed goes first, and is replaced by nothing.
-    QInputMethodEvent rest(event.preeditString(), event.attributes());
-    m_edit.item()->removeEventFilter(&m_view);
-    QCoreApplication::sendEvent(m_edit.item(), &rest);
-    m_edit.item()->installEventFilter(&m_view);
-    if (commit == u"\n")
-        typeLineBreak();
-    else if (!typeSpace())
-        m_steps->edit(m_edit.selection().caret, 0, commit, Selection::at(m_edit.selection().caret + 1));
-    return true;
-}
-
-bool NoteTextKeys::typeSpace()
-{
-    const Selection selection = m_edit.selection();
-    if (!selection.isEmpty())
-        return false;
-    const QTextBlock block = m_text->document().findBlock(static_cast<int>(selection.caret));
-    const QStringView before = m_text->line(block).first(selection.caret - block.position());
-    const std::optional<editrules::MarkerChange> change = editrules::typedSpace(before);
-    if (!change)
-        return false;
-    m_steps->edit(block.position(), change->length, change->marker.toString(),
-                  Selection::at(block.position() + change->marker.size()));
-    return true;
-}
-
 void NoteTextKeys::typeLineBreak()
 {
-    using Kind = editrules::LineBreak::Kind;
-    const Selection selection = m_edit.selection();
-    editrules::LineBreak lineBreak;
-    const QTextBlock block = m_text->document().findBlock(static_cast<int>(selection.caret));
-    if (selection.isEmpty())
-        lineBreak = editrules::typedLineBreak(m_text->line(block));
-    if (lineBreak.kind == Kind::EmptyItem) {
-        if (m_takesEmptyItemReturn)
-            Q_EMIT emptyItemReturned();
-        else
-            m_steps->edit(block.position(), lineBreak.marker.size(), {}, Selection::at(block.position()));
+    if (m_takesEmptyItemReturn && m_markup->isInEmptyItem()) {
+        Q_EMIT emptyItemReturned();
         return;
     }
-    const QString typed = u'\n' + lineBreak.marker.toString();
-    m_steps->edit(selection.start(), selection.length(), typed,
-                  Selection::at(selection.start() + typed.size()));
+    m_markup->typeLineBreak();
 }
 
 } // namespace vesk

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/typedmarkup.h"
+
 #include <QObject>
 #include <QQmlEngine>
 
-class QInputMethodEvent;
+#include <optional>
+
 class QKeyEvent;
 
 namespace vesk {
@@ -14,8 +17,8 @@ class EditSteps;
 class NoteText;
 class NoteTextView;
 
-/// The key map of a note's editor: what keys do there, and what an input method writes. Owned by the
-/// editor's view.
+/// The key map of a note's editor: what keys do there. Keys that mean something to the host act once, however
+/// long they are held. Owned by the editor's view.
 class NoteTextKeys final : public QObject
 {
     Q_OBJECT
@@ -39,7 +42,14 @@ public:
     // True if the event was for the rules, not for the item.
     bool handleShortcut(QKeyEvent &event) const;
     bool handleKey(QKeyEvent &event);
-    bool handleInputMethod(const QInputMethodEvent &event);
+    /// The text gets the keyboard. A Return that is still held from before does nothing in it.
+    void enter() { m_repeatsLineBreak = false; }
+
+    /// A line break as the Return key types it; in an empty item it may be for the host.
+    void typeLineBreak();
+    /// Turns what stands before the caret into a marker. Returns false, and changes nothing, where a space is
+    /// just a space.
+    bool typeSpace() { return m_markup->typeSpace(); }
 
 Q_SIGNALS:
     void takesChanged();
@@ -53,20 +63,21 @@ private:
     bool handleEditingKey(const QKeyEvent &event);
     bool handleReturn(const QKeyEvent &event);
     bool handlePage(const QKeyEvent &event);
-    bool eraseLineBreak(const QKeyEvent &event);
+    bool erase(const QKeyEvent &event);
     void leaveText(bool isForwards);
-    bool typeSpace();
-    void typeLineBreak();
 
     NoteTextView &m_view;
     const EditItem &m_edit;
     const NoteText *m_text = nullptr;
     EditSteps *m_steps = nullptr;
+    std::optional<TypedMarkup> m_markup;
     bool m_takesReturn = false;
     bool m_takesCommandReturn = false;
     bool m_takesEmptyItemReturn = false;
     bool m_takesEscape = false;
     bool m_takesTabbing = false;
+    /// Whether the Return key that is held has typed a line break, which its repeats do too.
+    bool m_repeatsLineBreak = false;
 };
 
 } // namespace vesk

@@ -4,6 +4,7 @@
 #include "editor/editrules.h"
 #include "editor/lentpasteboards.h"
 #include "editor/notetext.h"
+#include "editor/textcomposition.h"
 #include "editor/textmouse.h"
 #include "editor/texttransfer.h"
 
@@ -56,6 +57,7 @@ void NoteTextView::componentComplete()
     m_keys.start(*m_text, *m_steps);
     m_transfer = std::make_unique<TextTransfer>(*m_steps, m_edit, *m_text, LentPasteboards::findFor(*engine));
     m_mouse = std::make_unique<TextMouse>(*this, m_edit, *m_text, *m_transfer);
+    m_composition = std::make_unique<TextComposition>(*this, m_edit, *m_text, *m_steps, m_keys);
     connect(m_text.get(), &NoteText::changed, this, &NoteTextView::onChanged);
     connect(document, &QTextDocument::contentsChanged, this, &NoteTextView::polish);
     connect(document->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
@@ -69,9 +71,14 @@ void NoteTextView::componentComplete()
 
 void NoteTextView::itemChange(ItemChange change, const ItemChangeData &data)
 {
-    // Opened again before it was gone; another may have had the commands meanwhile.
-    if (change == ItemEnabledHasChanged && data.boolValue && m_controller)
-        m_controller->setTextView(this);
+    if (change == ItemEnabledHasChanged) {
+        // Opened again before it was gone; another may have had the commands meanwhile.
+        if (data.boolValue && m_controller)
+            m_controller->setTextView(this);
+        // The host closes the editor. It has lost the keyboard, so the input method was asked to commit.
+        if (!data.boolValue)
+            finishComposing();
+    }
     QQuickItem::itemChange(change, data);
 }
 
@@ -225,6 +232,12 @@ void NoteTextView::forceFocus()
     m_edit.item()->forceActiveFocus();
 }
 
+void NoteTextView::finishComposing()
+{
+    if (m_composition)
+        m_composition->finish();
+}
+
 void NoteTextView::focusWhenShown()
 {
     m_focusTask.start();
@@ -248,8 +261,10 @@ bool NoteTextView::eventFilter(QObject *watched, QEvent *event)
         return m_keys.handleKey(key);
     }
     case QEvent::InputMethod:
-        m_steps->beforeEvent();
-        return m_keys.handleInputMethod(static_cast<const QInputMethodEvent &>(*event));
+        return m_composition->handle(static_cast<const QInputMethodEvent &>(*event));
+    case QEvent::FocusIn:
+        m_keys.enter();
+        return false;
     case QEvent::KeyRelease:
         publishSelection();
         return false;

@@ -17,6 +17,7 @@
 namespace vesk {
 
 class NoteText;
+class TextComposition;
 class TextMouse;
 class TextTransfer;
 
@@ -59,6 +60,8 @@ public:
     Q_INVOKABLE void toggleBox(int position);
     void moveCaretToEnd();
     Q_INVOKABLE void forceFocus();
+    /// Writes what is being composed, where the input method has not committed it when it was asked to.
+    void finishComposing();
     /// Gives the text the keyboard as soon as its window can have it, or after half a second.
     Q_INVOKABLE void focusWhenShown();
     /// Gives it the keyboard now if it waits for it; whether it did.
@@ -115,6 +118,7 @@ private:
     std::unique_ptr<EditSteps> m_steps;
     std::unique_ptr<TextTransfer> m_transfer;
     std::unique_ptr<TextMouse> m_mouse;
+    std::unique_ptr<TextComposition> m_composition;
     NoteTextKeys m_keys{*this, m_edit};
     NoteTextLook m_look;
     VisibleBoxes m_boxes;

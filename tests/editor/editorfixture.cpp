@@ -14,9 +14,9 @@ namespace vesk {
 
 namespace {
 
-Qt::Key keyOf(QChar character)
+Qt::Key keyOf(char32_t character)
 {
-    switch (character.unicode()) {
+    switch (character) {
     case u'\n':
         return Qt::Key_Return;
     case u'\b':
@@ -26,7 +26,7 @@ Qt::Key keyOf(QChar character)
     case u'\x7f':
         return Qt::Key_Delete;
     default:
-        return static_cast<Qt::Key>(character.toUpper().unicode());
+        return static_cast<Qt::Key>(QChar::toUpper(character));
     }
 }
 
@@ -76,20 +76,37 @@ QString EditorFixture::text() const
 
 void EditorFixture::press(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString &text)
 {
-    for (const QEvent::Type type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent event(type, key, modifiers, text);
-        event.setTimestamp(time);
-        QCoreApplication::sendEvent(type == QEvent::ShortcutOverride ? static_cast<QObject *>(edit) : &window,
-                                    &event);
+    for (const QEvent::Type type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease})
+        send(type, key, modifiers, text, false);
+}
+
+void EditorFixture::hold(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString &text)
+{
+    for (int i = 0; i < 3; ++i) {
+        for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::ShortcutOverride, QEvent::KeyPress})
+            send(type, key, modifiers, text, true);
     }
+}
+
+void EditorFixture::send(QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers, const QString &text,
+                         bool isRepeated)
+{
+    QKeyEvent event(type, key, modifiers, text, isRepeated);
+    event.setTimestamp(time);
+    QCoreApplication::sendEvent(type == QEvent::ShortcutOverride ? static_cast<QObject *>(edit) : &window,
+                                &event);
 }
 
 void EditorFixture::type(const QString &keys, Qt::KeyboardModifiers modifiers)
 {
-    for (const QChar character : keys) {
+    const QList<uint> characters = keys.toUcs4();
+    for (const char32_t character : characters) {
         const Qt::Key key = keyOf(character);
-        const bool isText = key == character.toUpper().unicode();
-        press(key, modifiers, isText ? QString(character) : key == Qt::Key_Return ? u"\r"_s : QString());
+        const bool isText = static_cast<char32_t>(key) == QChar::toUpper(character);
+        press(key, modifiers,
+              isText                  ? QString::fromUcs4(&character, 1)
+              : key == Qt::Key_Return ? u"\r"_s
+                                      : QString());
         time += 100;
     }
 }
@@ -107,6 +124,13 @@ void EditorFixture::commit(const QString &text) const
 {
     QInputMethodEvent event;
     event.setCommitString(text);
+    QCoreApplication::sendEvent(edit, &event);
+}
+
+void EditorFixture::replace(int start, int length, const QString &text) const
+{
+    QInputMethodEvent event;
+    event.setCommitString(text, start, length);
     QCoreApplication::sendEvent(edit, &event);
 }
 

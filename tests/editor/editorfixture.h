@@ -26,9 +26,13 @@ public:
     /// Types key by key: \n is Return, \b Backspace, \x1b Escape, and \x7f Delete.
     void type(const QString &keys, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString &text = {});
+    /// What comes while a key is held, three times.
+    void hold(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString &text = {});
     /// What an input method does: shows what is being composed, then writes a text.
     void compose(const QString &preedit) const;
     void commit(const QString &text) const;
+    /// Writes a text in place of another one, whose start is counted from the caret.
+    void replace(int start, int length, const QString &text) const;
 
     [[nodiscard]] int caret() const;
     [[nodiscard]] int anchor() const;
@@ -51,6 +55,9 @@ public:
     quint64 time = 1000;
 
 private:
+    void send(QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers, const QString &text,
+              bool isRepeated);
+
     std::unique_ptr<QQuickItem> m_root;
 };
 

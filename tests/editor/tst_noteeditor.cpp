@@ -21,13 +21,15 @@ private Q_SLOTS:
     void listKeyTogglesTheLine();
     void hostTakesKeys_data();
     void hostTakesKeys();
+    void heldKeyActsOnce_data();
+    void heldKeyActsOnce();
+    void heldReturnRepeatsLineBreaks();
     void stepsToTakeBack_data();
     void stepsToTakeBack();
     void takingBackRestoresWhatWasSelected();
+    void erasingIsTakenBackExactly_data();
+    void erasingIsTakenBackExactly();
     void anotherTextOfTheHostIsNoStep();
-    void inputMethodOwnsTheKeysWhileComposing();
-    void committedTextObeysTheRules_data();
-    void committedTextObeysTheRules();
     void noCharacterChangesByBeingShown();
     void lineWithAPictureCharacterIsPainted();
     void foreignLineBreakIsOneCharacter();
@@ -153,6 +155,77 @@ void NoteEditorTest::hostTakesKeys()
     QTEST(fixture.text(), "after");
 }
 
+void NoteEditorTest::heldKeyActsOnce_data()
+{
+    QTest::addColumn<QString>("property");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<int>("laterModifiers");
+    QTest::addColumn<QByteArray>("signal");
+    QTest::addColumn<QString>("after");
+
+    const int shift = Qt::ShiftModifier;
+    const int control = Qt::ControlModifier;
+    const int ret = Qt::Key_Return;
+    QTest::newRow("Return that saves")
+        << u"takesReturn"_s << u"a"_s << ret << 0 << 0 << "returned()"_qba << u"a"_s;
+    QTest::newRow("Control-Return") << u"takesCommandReturn"_s << u"a"_s << ret << control << control
+                                    << "commandReturned()"_qba << u"a"_s;
+    QTest::newRow("Control-Return, Control released")
+        << u"takesCommandReturn"_s << u"a"_s << ret << control << 0 << "commandReturned()"_qba << u"a"_s;
+    QTest::newRow("Escape") << u"takesEscape"_s << u"a"_s << int{Qt::Key_Escape} << 0 << 0 << "escaped()"_qba
+                            << u"a"_s;
+    QTest::newRow("empty item") << u"takesEmptyItemReturn"_s << u"☐ "_s << ret << 0 << 0
+                                << "emptyItemReturned()"_qba << u"☐ "_s;
+    QTest::newRow("item that the first line break empties")
+        << u"takesEmptyItemReturn"_s << u"☐ a"_s << ret << 0 << 0 << QByteArray() << u"☐ a\n☐ "_s;
+    QTest::newRow("Shift-Return, Shift released")
+        << u"takesReturn"_s << u"a"_s << ret << shift << 0 << QByteArray() << u"a\n"_s;
+    QTest::newRow("checklist") << u"takesEscape"_s << u"a"_s << int{Qt::Key_L} << (control | shift)
+                               << (control | shift) << QByteArray() << u"☐ a"_s;
+}
+
+void NoteEditorTest::heldKeyActsOnce()
+{
+    QFETCH(QString, property);
+    QFETCH(QString, before);
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(int, laterModifiers);
+    QFETCH(QByteArray, signal);
+    EditorFixture fixture(property + u": true"_s);
+    fixture.load(before);
+    fixture.controller.moveCaretToEnd();
+    const QByteArray spied = signal.isEmpty() ? "returned()"_qba : signal;
+    QSignalSpy spy(fixture.editor, ('2' + spied).constData());
+    QSignalSpy emptyItems(fixture.editor, SIGNAL(emptyItemReturned()));
+    const QString text = key == Qt::Key_Return ? u"\r"_s : QString();
+    fixture.press(static_cast<Qt::Key>(key), Qt::KeyboardModifiers(modifiers), text);
+    fixture.hold(static_cast<Qt::Key>(key), Qt::KeyboardModifiers(laterModifiers), text);
+    QCOMPARE(spy.count(), signal.isEmpty() ? 0 : 1);
+    QCOMPARE(emptyItems.count(), signal == "emptyItemReturned()"_qba ? 1 : 0);
+    QTEST(fixture.text(), "after");
+}
+
+void NoteEditorTest::heldReturnRepeatsLineBreaks()
+{
+    EditorFixture fixture(u"takesReturn: true"_s);
+    fixture.load(u"• a"_s);
+    fixture.controller.moveCaretToEnd();
+    // Held since before the text had the keyboard.
+    fixture.hold(Qt::Key_Return, Qt::ShiftModifier, u"\r"_s);
+    QCOMPARE(fixture.text(), u"• a"_s);
+    fixture.press(Qt::Key_Return, Qt::ShiftModifier, u"\r"_s);
+    fixture.hold(Qt::Key_Return, Qt::ShiftModifier, u"\r"_s);
+    // The second one ends the list.
+    QCOMPARE(fixture.text(), u"• a\n\n\n"_s);
+    fixture.edit->setFocus(false);
+    fixture.edit->forceActiveFocus();
+    fixture.hold(Qt::Key_Return, Qt::ShiftModifier, u"\r"_s);
+    QCOMPARE(fixture.text(), u"• a\n\n\n"_s);
+}
+
 void NoteEditorTest::stepsToTakeBack_data()
 {
     QTest::addColumn<QStringList>("keys");
@@ -162,6 +235,10 @@ void NoteEditorTest::stepsToTakeBack_data()
     QTest::newRow("words") << QStringList{u"one two"_s} << QStringList{u"one "_s, QString()};
     QTest::newRow("pause") << QStringList{u"on"_s, u"e"_s} << QStringList{u"on"_s, QString()};
     QTest::newRow("erased at once") << QStringList{u"abc\b\b"_s} << QStringList{u"abc"_s, QString()};
+    QTest::newRow("emoji in a word") << QStringList{u"a😀b c"_s} << QStringList{u"a😀b "_s, QString()};
+    QTest::newRow("joiner in a word") << QStringList{u"می\u200cخ"_s} << QStringList{QString()};
+    QTest::newRow("emoji erased one by one") << QStringList{u"😀👍🏽"_s, u"\b"_s, u"\b"_s}
+                                             << QStringList{u"😀"_s, u"😀👍🏽"_s, QString()};
     QTest::newRow("trigger") << QStringList{u"[ ] a"_s} << QStringList{u"☐ "_s, u"[ ]"_s, u"[ "_s, QString()};
     QTest::newRow("next item") << QStringList{u"- a\nb"_s}
                                << QStringList{u"• a\n• "_s, u"• a"_s, u"• "_s, u"-"_s, QString()};
@@ -206,6 +283,41 @@ void NoteEditorTest::takingBackRestoresWhatWasSelected()
     QCOMPARE(fixture.caret(), 6);
 }
 
+void NoteEditorTest::erasingIsTakenBackExactly_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("after");
+    QTest::newRow("Backspace: emoji") << u"☐ 👨‍👩‍👧|x"_s << u"\b"_s << u"☐ |x"_s;
+    QTest::newRow("Backspace: accent") << u"e\u0301|x"_s << u"\b"_s << u"e|x"_s;
+    QTest::newRow("Backspace: foreign line break") << u"a\r\n|b"_s << u"\b"_s << u"a|b"_s;
+    QTest::newRow("Delete: emoji") << u"☐ |👨‍👩‍👧x"_s << u"\x7f"_s << u"☐ |x"_s;
+    QTest::newRow("Delete: accent") << u"|e\u0301x"_s << u"\x7f"_s << u"|x"_s;
+    QTest::newRow("Delete: line break before a line read from right to left")
+        << u"ab|\n☐ חלב"_s << u"\x7f"_s << u"ab|☐ חלב"_s;
+}
+
+void NoteEditorTest::erasingIsTakenBackExactly()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, key);
+    EditorFixture fixture;
+    const qsizetype caret = before.indexOf(u'|');
+    const QString text = before.remove(u'|');
+    fixture.load(text);
+    fixture.select(caret, caret);
+    fixture.type(key);
+    QString after = fixture.text();
+    QTEST(after.insert(fixture.caret(), u'|'), "after");
+    fixture.press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(fixture.text(), text);
+    QCOMPARE(fixture.caret(), caret);
+    QCOMPARE(fixture.anchor(), caret);
+    fixture.press(Qt::Key_Y, Qt::ControlModifier);
+    after = fixture.text();
+    QTEST(after.insert(fixture.caret(), u'|'), "after");
+}
+
 void NoteEditorTest::anotherTextOfTheHostIsNoStep()
 {
     EditorFixture fixture;
@@ -220,65 +332,6 @@ void NoteEditorTest::anotherTextOfTheHostIsNoStep()
     fixture.press(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(fixture.text(), u"x"_s);
     QCOMPARE(edits.count(), 3);
-}
-
-void NoteEditorTest::inputMethodOwnsTheKeysWhileComposing()
-{
-    EditorFixture fixture(u"takesReturn: true; takesEscape: true"_s);
-    QSignalSpy returns(fixture.editor, SIGNAL(returned()));
-    QSignalSpy escapes(fixture.editor, SIGNAL(escaped()));
-    fixture.load(u"# Plan\n• a"_s);
-    fixture.select(6, 6);
-    fixture.type(u"s"_s);
-    fixture.compose(u"ni"_s);
-    const QImage composing = fixture.picture();
-    fixture.press(Qt::Key_Return, {}, u"\r"_s);
-    fixture.press(Qt::Key_Escape);
-    fixture.press(Qt::Key_Left);
-    fixture.press(Qt::Key_Z, Qt::ControlModifier);
-    fixture.press(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
-    QCOMPARE(fixture.text(), u"# Plans\n• a"_s);
-    QCOMPARE(fixture.edit->property("preeditText"), u"ni"_s);
-    QCOMPARE(returns.count() + escapes.count(), 0);
-
-    // What is composed is as large as the heading that it is in, so little changes as it is written.
-    const qreal composed = fixture.rectangleOf(0).height();
-    fixture.commit(u"你"_s);
-    QCOMPARE(fixture.text(), u"# Plans你\n• a"_s);
-    QVERIFY(composing != fixture.picture());
-    fixture.press(Qt::Key_Backspace);
-    QCOMPARE(fixture.rectangleOf(0).height(), composed);
-    fixture.press(Qt::Key_Return, {}, u"\r"_s);
-    QCOMPARE(returns.count(), 1);
-}
-
-void NoteEditorTest::committedTextObeysTheRules_data()
-{
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("commit");
-    QTest::addColumn<QString>("after");
-
-    QTest::newRow("space") << u"[ ]"_s << u" "_s << u"☐ "_s;
-    QTest::newRow("just a space") << u"a"_s << u" "_s << u"a "_s;
-    QTest::newRow("line break") << u"☑ a"_s << u"\n"_s << u"☑ a\n☐ "_s;
-    QTest::newRow("several characters") << QString() << u"- "_s << u"- "_s;
-    QTest::newRow("the same as beside it") << u"aa"_s << u"a"_s << u"aaa"_s;
-}
-
-void NoteEditorTest::committedTextObeysTheRules()
-{
-    QFETCH(QString, before);
-    QFETCH(QString, commit);
-    EditorFixture fixture;
-    fixture.load(before);
-    fixture.controller.moveCaretToEnd();
-    fixture.compose(u"x"_s);
-    fixture.commit(commit);
-    QTEST(fixture.text(), "after");
-    QCOMPARE(fixture.caret(), fixture.text().size());
-    QCOMPARE(fixture.edit->property("preeditText").toString(), QString());
-    fixture.press(Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(fixture.text(), before);
 }
 
 void NoteEditorTest::noCharacterChangesByBeingShown()

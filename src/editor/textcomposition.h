@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class QInputMethodEvent;
+
+namespace vesk {
+
+class EditItem;
+class EditSteps;
+class NoteText;
+class NoteTextKeys;
+class NoteTextView;
+
+/// What an input method writes into an editor. Owned by the editor's view, whose event filter shows it every
+/// event before the text item sees it.
+class TextComposition final
+{
+public:
+    /// All of them must outlive this.
+    TextComposition(NoteTextView &view, const EditItem &edit, const NoteText &text, EditSteps &steps,
+                    NoteTextKeys &keys);
+
+    /// True if the event was dealt with here, false if it is for the item.
+    bool handle(const QInputMethodEvent &event);
+    /// Writes what is being composed, as if the input method had committed it.
+    void finish();
+
+private:
+    bool commitTyped(const QInputMethodEvent &event);
+    bool replaceWholeCharacters(const QInputMethodEvent &event);
+    void deliver(QInputMethodEvent &event);
+
+    NoteTextView &m_view;
+    const EditItem &m_edit;
+    const NoteText &m_text;
+    EditSteps &m_steps;
+    NoteTextKeys &m_keys;
+};
+
+} // namespace vesk
