@@ -17,7 +17,7 @@ namespace {
 constexpr auto kComparison = 500ms;
 constexpr auto kLook = 10ms;
 /// By then Emacs has claimed PRIMARY if a press leaves it a region; in milliseconds of the server.
-constexpr unsigned int kClaimed = 250;
+constexpr unsigned int kClaimed = 150;
 
 } // namespace
 
@@ -30,6 +30,10 @@ void EmacsSelection::addPress(xcb_timestamp_t time)
 {
     m_pressBefore = m_press;
     m_press = {.time = time};
+    if (m_pressBefore.claims == 0 && m_pressBefore.unclaimedSince != 0)
+        m_press.unclaimedSince = m_pressBefore.unclaimedSince;
+    else if (m_pressBefore.claims == 0)
+        m_press.unclaimedSince = m_pressBefore.time;
 }
 
 void EmacsSelection::removePress()
@@ -77,9 +81,11 @@ QCoro::Task<bool> EmacsSelection::hasRegion()
         if (self.isNull())
             co_return false;
     }
+    if (m_compared != number || m_primary.claim().number != number)
+        co_return false;
     // Some commands, like Control-G, end the region without a claim.
-    co_return m_compared == number &&m_primary.claim().number == number &&m_hasRegion
-        && (m_press.time == 0 || isAtOrAfter(m_primary.claim().time, m_press.time));
+    const bool isLatest = m_press.time == 0 || isAtOrAfter(m_primary.claim().time, m_press.time);
+    co_return isLatest &&m_hasRegion;
 }
 
 bool EmacsSelection::isFromDeselecting() const
@@ -88,8 +94,8 @@ bool EmacsSelection::isFromDeselecting() const
     // and a command that left no region before made none.
     if (m_press.claims > 1)
         return false;
-    const bool wasGone = m_pressBefore.claims == 0 && m_pressBefore.time != 0
-                         && isAtOrAfter(m_press.time, m_pressBefore.time + kClaimed);
+    const bool wasGone =
+        m_press.unclaimedSince != 0 && isAtOrAfter(m_press.time, m_press.unclaimedSince + kClaimed);
     return !wasGone;
 }
 

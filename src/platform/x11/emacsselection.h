@@ -41,6 +41,8 @@ private:
         xcb_timestamp_t time = 0;
         /// How many claims came after it and before the next one.
         int claims = 0;
+        /// Time of the first of the presses right before it that no claim came after; 0 if there is none.
+        xcb_timestamp_t unclaimedSince = 0;
     };
 
     [[nodiscard]] bool isFromDeselecting() const;

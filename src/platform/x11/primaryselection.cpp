@@ -69,7 +69,8 @@ void PrimarySelection::onEvent(const xcb_generic_event_t *event)
     if ((event->response_type & 0x7f) != m_connection.xfixesEvent() + XCB_XFIXES_SELECTION_NOTIFY)
         return;
     const auto *notify = reinterpret_cast<const xcb_xfixes_selection_notify_event_t *>(event);
-    if (notify->selection != XCB_ATOM_PRIMARY)
+    // The pasteboard of this selection has each claim reported to a window of its own as well.
+    if (notify->selection != XCB_ATOM_PRIMARY || notify->window != m_connection.window())
         return;
     m_claim = {.owner = notify->owner, .time = notify->selection_timestamp, .number = m_claim.number + 1};
     Q_EMIT claimed();

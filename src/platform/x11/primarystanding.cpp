@@ -39,10 +39,15 @@ bool PrimaryStanding::isFresh(xcb_window_t window) const
     return isAtOrAfter(claim.time, lastPress) && (activation == 0 || isAtOrAfter(claim.time, activation));
 }
 
+bool PrimaryStanding::isInside(xcb_window_t window) const
+{
+    return windowsAround(m_needs.primary.claim().owner).contains(window);
+}
+
 QCoro::Task<bool> PrimaryStanding::stands(xcb_window_t window)
 {
     const PrimarySelection::Claim claim = m_needs.primary.claim();
-    if (claim.number <= m_unheard || !windowsAround(claim.owner).contains(window))
+    if (claim.number <= m_unheard || !isInside(window))
         co_return isFresh(window);
     if (m_emacsWindows.isEmpty())
         co_return m_clicked != claim.number;

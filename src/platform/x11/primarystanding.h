@@ -37,6 +37,9 @@ public:
     /// Whether the application of this window owns PRIMARY, with whichever of its windows.
     [[nodiscard]] bool isOfApplication(xcb_window_t window) const;
 
+    /// Whether PRIMARY is owned by a part of this window.
+    [[nodiscard]] bool isInside(xcb_window_t window) const;
+
     /// Whether the application of this window has claimed PRIMARY since the user last pressed a key or a
     /// button, and since the window has the keyboard. False if any of these times is not known.
     [[nodiscard]] bool isFresh(xcb_window_t window) const;

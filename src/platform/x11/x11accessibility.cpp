@@ -54,12 +54,13 @@ bool isMask(const QString &text)
 } // namespace
 
 X11Accessibility::X11Accessibility(X11Connection &connection, RawInput &input, X11Workspace &workspace,
-                                   Consent &consent)
+                                   Consent &consent, const AtSpiQuestion::Deadlines &deadlines)
     : m_input(input)
     , m_workspace(workspace)
     , m_consent(consent)
     , m_primary(connection)
     , m_standing({.connection = connection, .input = input, .workspace = workspace, .primary = m_primary})
+    , m_deadlines(deadlines)
 {
     connect(&m_primary, &PrimarySelection::claimed, this, &X11Accessibility::noteSecret);
     connect(&consent, &Consent::changed, this, [this] {
@@ -140,15 +141,17 @@ QCoro::Task<SelectedText> X11Accessibility::selectedText()
     // Before any wait, in which the user may press something.
     const bool isClaimed = m_standing.isFresh(*window);
     SelectedText unknown{.isClaimed = isClaimed && !isPrimarySecret()};
-    const AtSpiQuestion search = m_atSpi.ask();
+    const AtSpiQuestion search = m_atSpi.ask(m_deadlines);
     std::optional<AccessibleElement> focused;
     if (process)
         focused = co_await m_atSpi.focusedElement(search, *process);
-    const AtSpiQuestion question = m_atSpi.ask();
+    if (self.isNull())
+        co_return SelectedText();
+    const AtSpiQuestion question = m_atSpi.ask(m_deadlines);
     const bool isOnBus = focused && !focused->address.isEmpty();
     std::optional<QString> role;
     std::optional<AtSpiSelection> own;
-    if (isOnBus && !self.isNull())
+    if (isOnBus)
         role = co_await AtSpi::role(question, *focused);
     if (self.isNull() || !isProcessTrusted())
         co_return SelectedText();
@@ -158,27 +161,31 @@ QCoro::Task<SelectedText> X11Accessibility::selectedText()
         own = co_await AtSpi::selectedText(question, *focused);
     if (self.isNull() || !isProcessTrusted())
         co_return SelectedText();
+    const bool isSilent = search.isSilent() || question.isSilent();
     SelectedText found;
     if (hasOnlyPrimary(taker) || role == kTerminalRole)
-        found = co_await terminalText(*window, own);
+        found = co_await terminalText(*window, own, isSilent);
     else if (own)
         found = co_await confirmedText(*own, isClaimed);
     else
         found = unknown;
     if (self.isNull() || !isProcessTrusted())
         co_return SelectedText();
-    found.isSilent = found.isSilent || search.isSilent() || question.isSilent();
+    found.isSilent = isSilent;
     co_return found;
 }
 
 QCoro::Task<SelectedText> X11Accessibility::terminalText(xcb_window_t window,
-                                                         std::optional<AtSpiSelection> own)
+                                                         std::optional<AtSpiSelection> own, bool isSilent)
 {
     using Finding = SelectedText::Finding;
     const QPointer<X11Accessibility> self(this);
     // Of a long selection the bus knows only what is in sight.
     const bool isSelected = own && !own->text.isEmpty() && m_standing.isOfApplication(window);
-    const bool isHighlighted = isSelected || co_await m_standing.stands(window);
+    // What did not say what has the keyboard may have a password field, but not where it draws its text.
+    bool isHighlighted = isSelected;
+    if (!isHighlighted && (!isSilent || m_standing.isInside(window)))
+        isHighlighted = co_await m_standing.stands(window);
     if (self.isNull())
         co_return SelectedText();
     const bool stands = isHighlighted && !isPrimarySecret();

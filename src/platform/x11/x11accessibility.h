@@ -22,7 +22,10 @@ class X11Accessibility final : public Accessibility
     Q_OBJECT
 
 public:
-    X11Accessibility(X11Connection &connection, RawInput &input, X11Workspace &workspace, Consent &consent);
+    /// All of it must outlive this object. `deadlines` are those of each of the two questions by which a
+    /// selected text is read.
+    X11Accessibility(X11Connection &connection, RawInput &input, X11Workspace &workspace, Consent &consent,
+                     const AtSpiQuestion::Deadlines &deadlines = {});
 
     [[nodiscard]] bool isProcessTrusted() const override;
     void askForTrust() override { Q_EMIT trustAsked(); }
@@ -40,8 +43,10 @@ Q_SIGNALS:
 private:
     /// Listens to other applications and the keyboard exactly while the user agrees.
     void followConsent();
-    /// What is selected in a terminal or the like; `own` is what the bus says about that.
-    QCoro::Task<SelectedText> terminalText(xcb_window_t window, std::optional<AtSpiSelection> own);
+    /// What is selected in a terminal or the like; `own` is what the bus says about that, and `isSilent`
+    /// whether a question was left without an answer.
+    QCoro::Task<SelectedText> terminalText(xcb_window_t window, std::optional<AtSpiSelection> own,
+                                           bool isSilent);
     /// `own` is what the bus says is selected; `isClaimed` as in `SelectedText`.
     QCoro::Task<SelectedText> confirmedText(AtSpiSelection own, bool isClaimed);
     /// Remembers PRIMARY for secret if it was claimed out of a password field.
@@ -54,6 +59,7 @@ private:
     PrimarySelection m_primary;
     PrimaryStanding m_standing;
     AtSpi m_atSpi;
+    const AtSpiQuestion::Deadlines m_deadlines;
     /// Number of the last claim that was made while a password field had the keyboard.
     std::optional<quint64> m_secret;
 };
