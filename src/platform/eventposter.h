@@ -27,7 +27,7 @@ public:
 
     /// The window that has the keyboard now; while a hot key is handled, the one that had it at the press.
     /// `None` on an empty desktop.
-    [[nodiscard]] virtual Target target() const = 0;
+    [[nodiscard]] virtual Target target() = 0;
 
     /// Posts the key combination of `command` to `target`. Waits until the key that started Vesk's own
     /// command is up: 700 ms for a copy, 2 s for pasting. Modifiers that the user holds then are out of the

@@ -19,6 +19,8 @@ std::unique_ptr<KeyRecorder> KeyRecorder::open(VirtualDesktop &desktop, const QS
     const std::optional<Window> window = desktop.windows().waitViewable(title, kBound);
     if (!window)
         return nullptr;
+    if (windowClass.isEmpty())
+        return recorder;
     desktop.windows().activate(*window);
     const bool isReady =
         desktop.windows().waitActive(*window, kBound) && desktop.windows().waitFocused(*window, kBound);
@@ -36,10 +38,10 @@ void KeyRecorder::create(const QString &title, const QByteArray &windowClass)
 {
     xcb_connection_t *xcb = m_display->xcb();
     m_window = {xcb_generate_id(xcb), title, 0, {}, false};
-    const quint32 values[] = {0xffffff, XCB_EVENT_MASK_KEY_PRESS};
+    const quint32 values[] = {0xffffff, windowClass.isEmpty(), XCB_EVENT_MASK_KEY_PRESS};
     xcb_create_window(xcb, XCB_COPY_FROM_PARENT, m_window.id, m_display->root(), 60, 60, 300, 200, 0,
                       XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
-                      XCB_CW_BACK_PIXEL | XCB_CW_EVENT_MASK, values);
+                      XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
     const auto setText = [&](xcb_atom_t property, xcb_atom_t type, const QByteArray &text) {
         xcb_change_property(xcb, XCB_PROP_MODE_REPLACE, m_window.id, property, type, 8, quint32(text.size()),
                             text.constData());
@@ -63,6 +65,20 @@ QStringList KeyRecorder::keys()
             record(reinterpret_cast<const xcb_key_press_event_t &>(*event));
     }
     return m_keys;
+}
+
+bool KeyRecorder::grabKeyboard()
+{
+    const auto cookie = xcb_grab_keyboard(m_display->xcb(), 0, m_window.id, XCB_CURRENT_TIME,
+                                          XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    const Reply<xcb_grab_keyboard_reply_t> reply{xcb_grab_keyboard_reply(m_display->xcb(), cookie, nullptr)};
+    return reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
+}
+
+void KeyRecorder::ungrabKeyboard()
+{
+    xcb_ungrab_keyboard(m_display->xcb(), XCB_CURRENT_TIME);
+    static_cast<void>(m_display->atom("VESK_TEST"));
 }
 
 bool KeyRecorder::waitFor(const QString &key)

@@ -13,7 +13,8 @@ class KeyRecorder final
 {
 public:
     /// Null if the window did not come up and take the keyboard. `windowClass` is what the window says of its
-    /// program.
+    /// program. An empty class makes a window that the window manager leaves alone, and that does not take
+    /// the keyboard by itself.
     [[nodiscard]] static std::unique_ptr<KeyRecorder> open(VirtualDesktop &desktop, const QString &title,
                                                            const QByteArray &windowClass = "Recorder");
     ~KeyRecorder();
@@ -27,6 +28,9 @@ public:
         static_cast<void>(keys());
         m_keys.clear();
     }
+    /// Takes all keys for this window, as a menu does. False if another program has them.
+    [[nodiscard]] bool grabKeyboard();
+    void ungrabKeyboard();
     /// Waits until a key is the last that reached the window.
     [[nodiscard]] bool waitFor(const QString &key);
 

@@ -187,7 +187,7 @@ void TestSentKeys::heldControlIsBackAfterPasting()
 void TestSentKeys::keysGoToTheWindowOfThePressOnly_data()
 {
     QTest::addColumn<QString>("change");
-    for (const char *change : {"another window", "focus alone", "keyboard grabbed"})
+    for (const char *change : {"another window", "another window at once", "focus alone", "keyboard grabbed"})
         QTest::newRow(change) << QString::fromLatin1(change);
 }
 
@@ -195,7 +195,9 @@ void TestSentKeys::keysGoToTheWindowOfThePressOnly_data()
 void TestSentKeys::keysGoToTheWindowOfThePressOnly()
 {
     QFETCH(const QString, change);
-    const std::unique_ptr<KeyRecorder> other = KeyRecorder::open(*m_desktop, u"Other"_s);
+    const bool isWindow = change.startsWith("another window"_L1);
+    const std::unique_ptr<KeyRecorder> other =
+        KeyRecorder::open(*m_desktop, u"Other"_s, isWindow ? "Other" : "");
     VERIFY_ON(*m_desktop, other);
     m_desktop->windows().activate(m_recorder->window());
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_recorder->window(), kBound));
@@ -205,24 +207,24 @@ void TestSentKeys::keysGoToTheWindowOfThePressOnly()
     for (const xcb_keysym_t key : keys)
         keyboard.press(key);
     // Vesk has heard of the key once it gives the keyboard back.
-    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(500ms, [&] { return keyboard.grab(); }));
-    if (change != "keyboard grabbed"_L1)
-        keyboard.ungrab();
-    if (change == "another window"_L1) {
+    if (!change.endsWith("at once"_L1)) {
+        VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(500ms, [&] { return other->grabKeyboard(); }));
+        if (change != "keyboard grabbed"_L1)
+            other->ungrabKeyboard();
+    }
+    if (isWindow)
         m_desktop->windows().activate(other->window());
-        VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(other->window(), kBound));
-    } else if (change == "focus alone"_L1) {
-        // As launchers do that the window manager does not know of.
+    else if (change == "focus alone"_L1)
         xcb_set_input_focus(m_desktop->display().xcb(), XCB_INPUT_FOCUS_PARENT, other->window().id,
                             XCB_CURRENT_TIME);
+    if (change != "keyboard grabbed"_L1)
         VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(other->window(), kBound));
-    }
     for (const xcb_keysym_t key : keys | std::views::reverse)
         keyboard.release(key);
     QTest::qWait(1000); // Longer than Vesk waits for the key to be up.
-    keyboard.ungrab();
-    QCOMPARE(m_recorder->keys().join(u' '), QString());
-    QCOMPARE(other->keys().join(u' '), QString());
+    // The other window may have had the held key itself.
+    QVERIFY2(!m_recorder->keys().contains(kCopy), qPrintable(m_recorder->keys().join(u' ')));
+    QVERIFY2(!other->keys().contains(kCopy), qPrintable(other->keys().join(u' ')));
 }
 
 void TestSentKeys::programsThatMayHaveATerminalGetNoCopy_data()

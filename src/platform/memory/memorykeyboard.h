@@ -67,7 +67,7 @@ private:
 class MemoryEventPoster final : public EventPoster
 {
 public:
-    [[nodiscard]] Target target() const override { return m_target; }
+    [[nodiscard]] Target target() override { return m_target; }
     QCoro::Task<bool> post(Command command, Target target, std::function<bool()> isWanted) override;
 
     [[nodiscard]] const QList<Command> &posted() const { return m_posted; }

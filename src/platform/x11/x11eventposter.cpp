@@ -39,9 +39,9 @@ X11EventPoster::X11EventPoster(const Needs &needs)
 {
 }
 
-EventPoster::Target X11EventPoster::target() const
+EventPoster::Target X11EventPoster::target()
 {
-    return static_cast<Target>(m_needs.workspace.reportedWindow().value_or(XCB_WINDOW_NONE));
+    return static_cast<Target>(m_needs.workspace.windowOfEvent().value_or(XCB_WINDOW_NONE));
 }
 
 QCoro::Task<bool> X11EventPoster::post(Command command, Target target, std::function<bool()> isWanted)
@@ -162,7 +162,8 @@ X11EventPoster::Attempt X11EventPoster::tryToPost(const QList<uint32_t> &keysyms
     // Keys that were meant for one window must not reach another, so nobody may change anything between
     // the look and the keys.
     const ServerGrab grab(m_needs.connection);
-    if (keysyms.isEmpty() || m_needs.workspace.activeWindow() != window || !hasInputFocus(window))
+    if (keysyms.isEmpty() || m_needs.workspace.isOvertaken(window)
+        || m_needs.workspace.activeWindow() != window || !hasInputFocus(window))
         return Attempt::Refused;
     if (hasLetterDown() || m_needs.input.lastPress() != lastPress || m_needs.input.isKeyboardTaken()
         || !m_keys.canPlay())

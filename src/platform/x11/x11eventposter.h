@@ -40,7 +40,7 @@ public:
 
     explicit X11EventPoster(const Needs &needs);
 
-    [[nodiscard]] Target target() const override;
+    [[nodiscard]] Target target() override;
     QCoro::Task<bool> post(Command command, Target target, std::function<bool()> isWanted) override;
 
 private:

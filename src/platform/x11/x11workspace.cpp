@@ -60,6 +60,20 @@ std::optional<xcb_window_t> X11Workspace::activeWindow() const
     return window;
 }
 
+std::optional<xcb_window_t> X11Workspace::windowOfEvent()
+{
+    // A report says only that the active window has changed, not which it was: on a busy machine it may have
+    // changed once more. What comes before the answer to a request carries the request's number at most.
+    const auto cookie = xcb_get_input_focus(m_connection.xcb());
+    const XReply<xcb_get_input_focus_reply_t> answer(
+        xcb_get_input_focus_reply(m_connection.xcb(), cookie, nullptr));
+    m_askedAt = cookie.sequence;
+    m_askedWindow = m_reportedWindow;
+    if (m_overtakenWindow == m_askedWindow)
+        m_overtakenWindow = XCB_WINDOW_NONE;
+    return m_askedWindow;
+}
+
 std::optional<qint64> X11Workspace::processOf(xcb_window_t window) const
 {
     const std::optional<quint32> stated = m_connection.property32(window, m_connection.atom("_NET_WM_PID"));
@@ -103,6 +117,9 @@ void X11Workspace::onEvent(const xcb_generic_event_t *event)
     // A switch passes through "no window" for about a millisecond; that is no activation.
     const std::optional<xcb_window_t> window = activeWindow();
     m_reportedWindow = window;
+    if (m_askedWindow && isAtOrAfter(m_askedAt, event->full_sequence))
+        m_overtakenWindow = *m_askedWindow;
+    m_askedWindow.reset();
     if (window && window != m_lastWindow) {
         m_lastWindow = window;
         m_activationTime = notify->time;

@@ -31,6 +31,12 @@ public:
     /// The same as of the events that were handled so far. While a key press is handled, that is the window
     /// of the press, even if another window has become active since.
     [[nodiscard]] std::optional<xcb_window_t> reportedWindow() const { return m_reportedWindow; }
+    /// Gives `reportedWindow`, and notes for `isOvertaken` up to where events were handled.
+    [[nodiscard]] std::optional<xcb_window_t> windowOfEvent();
+    /// Whether the active window had changed between the event for which `windowOfEvent` gave this window and
+    /// its handling; the report may then have been out of date. Known once the events of that time are
+    /// handled.
+    [[nodiscard]] bool isOvertaken(xcb_window_t window) const { return window == m_overtakenWindow; }
     /// The process that shows a window on this machine: for a program of another machine the one that
     /// brings its windows here, such as ssh. Nullopt if it is gone or cannot be told.
     [[nodiscard]] std::optional<qint64> processOf(xcb_window_t window) const;
@@ -59,7 +65,12 @@ private:
 
     X11Connection &m_connection;
     DesktopEntries m_entries;
+    /// The active window when its change was last reported.
     std::optional<xcb_window_t> m_reportedWindow;
+    /// The window that was given out last, and the request after which it was.
+    std::optional<xcb_window_t> m_askedWindow;
+    uint32_t m_askedAt = 0;
+    xcb_window_t m_overtakenWindow = XCB_WINDOW_NONE;
     std::optional<xcb_window_t> m_lastWindow;
     qint64 m_lastProcess = 0;
     xcb_timestamp_t m_activationTime = 0;
