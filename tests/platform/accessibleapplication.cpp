@@ -95,7 +95,7 @@ QVariantList AccessibleApplication::answer(const QDBusMessage &message)
     const Object &object = m_objects[name];
     if (member == "GetAttributes"_L1) {
         m_manner.isAsleep = false;
-        return {QVariant::fromValue(StringMap())};
+        return {QVariant::fromValue(StringMap(object.attributes))};
     }
     if (member == "GetChildren"_L1)
         return {references(m_manner.isAsleep ? QStringList() : object.children)};

@@ -6,6 +6,7 @@
 #include <QDBusVirtualObject>
 #include <QHash>
 #include <QList>
+#include <QMap>
 #include <QStringList>
 
 #include <utility>
@@ -32,6 +33,7 @@ public:
         /// Says -1 when it is asked how many selections it has.
         bool hasUnknownSelection = false;
         QStringList children = {};
+        QMap<QString, QString> attributes = {};
     };
 
     /// How it behaves as a whole.

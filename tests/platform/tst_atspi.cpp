@@ -56,6 +56,8 @@ private Q_SLOTS:
     void selectedText_data();
     void selectedText();
     void selectionWithAPartThatDoesNotAnswerIsNone();
+    void terminalInAPageIsATerminal_data();
+    void terminalInAPageIsATerminal();
     void applicationOffTheBusStandsForItself();
     void shownPageIsFoundFromTheAddressBar();
     void busDiesAndReturns();
@@ -325,6 +327,29 @@ void TestAtSpi::selectionWithAPartThatDoesNotAnswerIsNone()
     QVERIFY(selectionOf(u"editor"_s, {}) != kNone);
     m_application->manner().silentObject = u"p7"_s;
     QCOMPARE(selectionOf(u"editor"_s, {}), kNone);
+}
+
+void TestAtSpi::terminalInAPageIsATerminal_data()
+{
+    QTest::addColumn<QString>("attribute");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("role");
+    QTest::newRow("xterm.js") << u"class"_s << u"xterm-helper-textarea"_s << u"terminal"_s;
+    QTest::newRow("hterm") << u"tag"_s << u"x-screen"_s << u"terminal"_s;
+    QTest::newRow("search field") << u"class"_s << u"search"_s << u"entry"_s;
+    QTest::newRow("no attributes") << QString() << QString() << u"entry"_s;
+}
+
+void TestAtSpi::terminalInAPageIsATerminal()
+{
+    QFETCH(const QString, attribute);
+    QFETCH(const QString, value);
+    Object field{.role = u"entry"_s, .isFocused = true, .isText = true};
+    if (!attribute.isEmpty())
+        field.attributes.insert(attribute, value);
+    show(window(field));
+    const auto role = QCoro::waitFor(AtSpi::role(m_atSpi->ask(kPatient), element(u"editor"_s)));
+    QTEST(role.value_or(kNone.toString()), "role");
 }
 
 void TestAtSpi::applicationOffTheBusStandsForItself()

@@ -56,6 +56,7 @@ void HeldKeyGuard::begin()
             grab(static_cast<xcb_keycode_t>(key), modifiers);
     }
     m_guarded |= held;
+    m_looksWithout = 0;
     m_watch.start();
     // The server has them before anything else is asked of it by another connection.
     const XReply<xcb_get_input_focus_reply_t> answer(
@@ -79,8 +80,11 @@ void HeldKeyGuard::lookForReleases()
     // The repetitions, and the errors for what others have.
     while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_grabs)}) {
     }
-    m_guarded &= keysDown(m_connection);
-    if (m_guarded.none())
+    // Nested and remote servers send the repetitions of a held key as releases and presses.
+    constexpr int kUpFor = 3;
+    const bool isAnyDown = (m_guarded & keysDown(m_connection)).any();
+    m_looksWithout = isAnyDown ? 0 : m_looksWithout + 1;
+    if (m_looksWithout >= kUpFor)
         end();
 }
 

@@ -21,8 +21,8 @@ public:
     explicit HeldKeyGuard(const X11Connection &connection);
     ~HeldKeyGuard() override;
 
-    /// Guards the keys that are down now and would be repeated, each until it is up. Must be called before
-    /// the keyboard goes to another window.
+    /// Guards the keys that are down now and would be repeated until all of them are up. Must be called
+    /// before the keyboard goes to another window.
     void begin();
 
 private:
@@ -35,6 +35,8 @@ private:
     xcb_connection_t *m_grabs = nullptr;
     KeyStates m_guarded;
     QTimer m_watch;
+    /// How many times in a row all guarded keys were found up.
+    int m_looksWithout = 0;
 };
 
 } // namespace vesk

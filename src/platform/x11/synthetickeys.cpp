@@ -57,7 +57,7 @@ public:
     }
 
 private:
-    [[nodiscard]] size_t width() const { return m_reply->keysyms_per_keycode; }
+    [[nodiscard]] size_t width() const { return m_reply ? m_reply->keysyms_per_keycode : 0; }
 
     xcb_keycode_t m_firstKey;
     XReply<xcb_get_keyboard_mapping_reply_t> m_reply;

@@ -49,10 +49,11 @@ QCoro::Task<bool> X11EventPoster::post(Command command, Target target, std::func
     const QPointer<X11EventPoster> self(this);
     const Needs needs = m_needs;
     const auto window = static_cast<xcb_window_t>(target);
-    const std::optional<qint64> process = needs.workspace.processOf(window);
-    if (!process || *process == QCoreApplication::applicationPid())
+    // 0 for a program of another machine whose process here cannot be told.
+    const qint64 process = needs.workspace.processOf(window).value_or(0);
+    if (target == Target::None || process == QCoreApplication::applicationPid())
         co_return false;
-    const WindowIdentity identity = needs.workspace.identityOf(window, *process);
+    const WindowIdentity identity = needs.workspace.identityOf(window, process);
     const auto keysyms = [&](const std::optional<QString> &role) {
         const DesktopEntry *entry = needs.workspace.entries().match(identity);
         return keysFor(command, keyTakerOf(identity, entry, role));
@@ -78,7 +79,7 @@ QCoro::Task<bool> X11EventPoster::post(Command command, Target target, std::func
         // Asked last: the user may go from one part of the window to another at any time, but not without
         // a key or a button.
         const xcb_timestamp_t lastPress = needs.input.lastPress();
-        const std::optional<QString> role = co_await focusedRole(*process);
+        const std::optional<QString> role = co_await focusedRole(process);
         if (self.isNull() || !isWanted())
             co_return false;
         const Attempt attempt = tryToPost(keysyms(role), window, lastPress);
@@ -124,6 +125,8 @@ QCoro::Task<bool> X11EventPoster::waitForAnswer(WindowPing &ping)
 QCoro::Task<std::optional<QString>> X11EventPoster::focusedRole(qint64 processIdentifier)
 {
     Accessibility &accessibility = m_needs.accessibility;
+    if (processIdentifier == 0)
+        co_return std::nullopt;
     const std::optional<AccessibleElement> focused =
         co_await accessibility.copyElement(Accessibility::applicationElement(processIdentifier),
                                            Accessibility::ElementAttribute::FocusedElement);
