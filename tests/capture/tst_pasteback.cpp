@@ -8,6 +8,8 @@
 
 #include <QTest>
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
@@ -36,6 +38,8 @@ struct World : CaptureDesktop
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(World &)>)
+
 /// When, and into what, a text is pasted.
 class TestPasteBack : public QObject
 {
@@ -48,6 +52,8 @@ private Q_SLOTS:
     void nothingIsPastedWhereTheUserWentMeanwhile();
     void nothingIsPastedIntoVesk_data();
     void nothingIsPastedIntoVesk();
+    void textThatIsNotPastedIsReported_data();
+    void textThatIsNotPastedIsReported();
     void twoTextsInARowAreNotPastedTwice();
     void endOfTheProgramWhileWaiting();
 };
@@ -90,7 +96,7 @@ void TestPasteBack::windowThatTheUserLeftIsWaitedFor()
         world.clock.advance(85ms);
         QCOMPARE(world.poster.posted().size(), comes ? 1 : 0);
         world.clock.advance(475ms);
-        QCOMPARE(world.poster.posted().size(), 1);
+        QCOMPARE(world.poster.posted(), QList{comes ? Command::Paste : Command::PasteUnlessTerminal});
     }
 }
 
@@ -128,6 +134,54 @@ void TestPasteBack::nothingIsPastedIntoVesk()
     world.clock.advance(5s);
     QVERIFY(world.poster.posted().isEmpty());
     QCOMPARE(world.clock.sleeperCount(), 0);
+}
+
+void TestPasteBack::textThatIsNotPastedIsReported_data()
+{
+    using Refusal = PasteBack::Refusal;
+    QTest::addColumn<std::function<void(World &)>>("event");
+    QTest::addColumn<QList<Command>>("posted");
+    QTest::addColumn<QList<Refusal>>("refusals");
+    const auto row = [](const char *name, const std::function<void(World &)> &event,
+                        const QList<Command> &posted, const QList<Refusal> &refusals) {
+        QTest::newRow(name) << event << posted << refusals;
+    };
+    row("the window is there", [](World &) {}, {Command::Paste}, {});
+    row("the window has closed", [](World &world) { world.application.closePreviousWindow(); }, {},
+        {Refusal::WindowClosed});
+    row("the window closes at the last moment",
+        [](World &world) {
+            world.poster.setDelay(world.clock, 50ms);
+            world.clock.advance(90ms);
+            world.application.closePreviousWindow();
+        },
+        {}, {Refusal::WindowClosed});
+    row("another window gets the keyboard",
+        [](World &world) {
+            world.poster.setDelay(world.clock, 50ms);
+            world.clock.advance(90ms);
+            world.poster.setTarget(EventPoster::Target{2});
+        },
+        {}, {Refusal::NotTaken});
+    row("the application does not take the keys", [](World &world) { world.poster.setAllowed(false); }, {},
+        {Refusal::NotTaken});
+}
+
+void TestPasteBack::textThatIsNotPastedIsReported()
+{
+    using Refusal = PasteBack::Refusal;
+    QFETCH(const std::function<void(World &)>, event);
+    World world;
+    QList<Refusal> refusals;
+    QObject::connect(world.pasteBack.get(), &PasteBack::refused,
+                     [&refusals](Refusal refusal) { refusals.append(refusal); });
+    world.bringForward(4711);
+    world.pasteBack->pasteIntoPreviousApp(u"text"_s);
+    event(world);
+    world.clock.advance(5s);
+    QTEST(world.poster.posted(), "posted");
+    QTEST(refusals, "refusals");
+    QCOMPARE(QCoro::waitFor(world.pasteboard.string()), u"text"_s);
 }
 
 void TestPasteBack::twoTextsInARowAreNotPastedTwice()
