@@ -25,9 +25,20 @@ NotesFile::NotesFile(QString path)
 
 std::optional<QList<NotesFile::Row>> NotesFile::notes() const
 {
+    return rowsOf("Note");
+}
+
+std::optional<QList<NotesFile::Row>> NotesFile::prompts() const
+{
+    return rowsOf("Prompt");
+}
+
+std::optional<QList<NotesFile::Row>> NotesFile::rowsOf(const char *table) const
+{
     try {
         const SQLite::Database database = openToRead(m_path);
-        SQLite::Statement query(database, "SELECT * FROM Note ORDER BY createdAt, rowid");
+        SQLite::Statement query(database,
+                                std::string("SELECT * FROM ") + table + " ORDER BY createdAt, rowid");
         QList<Row> rows;
         while (query.executeStep()) {
             Row row;
@@ -54,14 +65,8 @@ QStringList NotesFile::texts() const
 QStringList NotesFile::promptTexts() const
 {
     QStringList texts;
-    try {
-        const SQLite::Database database = openToRead(m_path);
-        SQLite::Statement query(database, "SELECT text FROM Prompt ORDER BY createdAt, rowid");
-        while (query.executeStep())
-            texts.append(QString::fromStdString(query.getColumn(0).getString()));
-    } catch (const SQLite::Exception &) {
-        texts.clear();
-    }
+    for (const Row &row : prompts().value_or(QList<Row>()))
+        texts.append(row.value(QStringLiteral("text")));
     return texts;
 }
 

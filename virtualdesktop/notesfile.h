@@ -21,6 +21,9 @@ public:
     /// All notes, the oldest first. None if the file is not there or cannot be read.
     [[nodiscard]] std::optional<QList<Row>> notes() const;
 
+    /// All prompts, likewise.
+    [[nodiscard]] std::optional<QList<Row>> prompts() const;
+
     /// The notes' texts in the same order; empty if the file cannot be read.
     [[nodiscard]] QStringList texts() const;
 
@@ -36,6 +39,8 @@ public:
     [[nodiscard]] const QString &path() const { return m_path; }
 
 private:
+    [[nodiscard]] std::optional<QList<Row>> rowsOf(const char *table) const;
+
     QString m_path;
 };
 

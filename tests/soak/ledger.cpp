@@ -30,6 +30,14 @@ bool isOneBoxTurned(const QString &before, const QString &after)
     return turned == 1;
 }
 
+QStringList sourceOf(const Note &note)
+{
+    if (!note.sourceApp())
+        return {};
+    return {*note.sourceApp(), note.sourceBundleID().value_or(QString()),
+            note.sourceTitle().value_or(QString()), note.sourceURL().value_or(QString())};
+}
+
 } // namespace
 
 Ledger::Entries Ledger::read(NotesStore &store)
@@ -40,14 +48,19 @@ Ledger::Entries Ledger::read(NotesStore &store)
         entries.insert(note.id(), {.isPrompt = false,
                                    .text = note.text(),
                                    .isMarked = note.isPinned(),
-                                   .updatedAt = note.updatedAt()});
+                                   .createdAt = note.createdAt(),
+                                   .updatedAt = note.updatedAt(),
+                                   .source = sourceOf(note)});
     }
     for (qsizetype i = 0; i < store.prompts().count(); ++i) {
         const Prompt &prompt = store.prompts().at(i);
-        entries.insert(prompt.id(), {.isPrompt = true,
-                                     .text = prompt.text(),
-                                     .isMarked = prompt.isDone(),
-                                     .updatedAt = prompt.createdAt()});
+        entries.insert(prompt.id(),
+                       {.isPrompt = true,
+                        .text = prompt.text(),
+                        .isMarked = prompt.isDone(),
+                        .createdAt = prompt.createdAt(),
+                        .updatedAt = prompt.createdAt(),
+                        .source = prompt.isCaptured() ? QStringList{u"captured"_s} : QStringList()});
     }
     return entries;
 }
@@ -60,6 +73,10 @@ QString Ledger::findAdded(const Entries &now, const Effect &effect) const
             continue;
         if (it->isPrompt != effect.isPrompt || it->isMarked)
             return u"something of another kind was added: "_s + it->text;
+        if (it->createdAt != it->updatedAt)
+            return u"added with two dates: "_s + it->text;
+        if (it->source.isEmpty() == effect.isCaptured)
+            return u"added with the wrong source: "_s + it->text + u" from "_s + it->source.join(u',');
         added.append(it->text);
     }
     const bool isRight = effect.added && added == QStringList{*effect.added};
@@ -69,7 +86,8 @@ QString Ledger::findAdded(const Entries &now, const Effect &effect) const
                                                    effect.added.value_or(QString()));
 }
 
-QString Ledger::follow(NotesStore &store, const Effect &effect, const QSet<RecordId> &openNotes)
+QString Ledger::follow(NotesStore &store, const Effect &effect, const QSet<RecordId> &openNotes,
+                       const OpenText &openText)
 {
     const Entries now = read(store);
     if (QString wrong = findAdded(now, effect); !wrong.isEmpty())
@@ -94,10 +112,15 @@ QString Ledger::follow(NotesStore &store, const Effect &effect, const QSet<Recor
                 ++touched;
             else
                 return u"lost: "_s + it->text;
+        } else if (after->createdAt != it->createdAt || after->source != it->source
+                   || after->isPrompt != it->isPrompt) {
+            return u"made anew: "_s + it->text;
         } else if (effect.changed == it.key()) {
             if (!effect.isRight(it->text, after->text) || after->isMarked != it->isMarked)
                 return u"\"%1\" became \"%2\""_s.arg(it->text, after->text);
         } else if (openNotes.contains(it.key()) && after->isMarked == it->isMarked) {
+            if (!openText.explains(it.key(), it->text, after->text))
+                return u"the open note \"%1\" became \"%2\""_s.arg(it->text, after->text);
             m_isOpenTextChanged = true;
         } else {
             const bool isMarkTurned = after->isMarked != it->isMarked && after->text == it->text;

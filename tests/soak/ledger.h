@@ -2,6 +2,7 @@
 #pragma once
 
 #include "notes/notesstore.h"
+#include "soak/opentext.h"
 
 #include <QMap>
 #include <QSet>
@@ -21,7 +22,11 @@ public:
         QString text;
         /// Pinned, or done.
         bool isMarked = false;
+        Date createdAt{};
+        /// Of a prompt, that of its creation.
         Date updatedAt{};
+        /// Where it was captured; empty if it was written in Vesk.
+        QStringList source = {};
         bool operator==(const Entry &) const = default;
     };
     using Entries = QMap<RecordId, Entry>;
@@ -34,6 +39,8 @@ public:
         /// `added` may as well not have happened.
         bool isAddedForSure = true;
         bool isPrompt = false;
+        /// Whether `added` comes from another application.
+        bool isCaptured = false;
         /// Has to be gone.
         std::optional<RecordId> removed = {};
         /// Has to have another text, of which this is true.
@@ -48,8 +55,10 @@ public:
     [[nodiscard]] static Entries read(NotesStore &store);
 
     /// Compares with the store, which an action has changed, and takes its state over. Returns what is
-    /// wrong; empty if nothing is. A note that was open or is may have another text.
-    [[nodiscard]] QString follow(NotesStore &store, const Effect &effect, const QSet<RecordId> &openNotes);
+    /// wrong; empty if nothing is. A note that was open or is may have another text, if `openText` can
+    /// explain it.
+    [[nodiscard]] QString follow(NotesStore &store, const Effect &effect, const QSet<RecordId> &openNotes,
+                                 const OpenText &openText);
 
     [[nodiscard]] const Entries &entries() const { return m_entries; }
     [[nodiscard]] bool isOpenTextChanged() const { return m_isOpenTextChanged; }

@@ -2,6 +2,7 @@
 #include "soak/soakuser.h"
 
 #include "../components/shownitems.h"
+#include "editor/notetextview.h"
 #include "notes/markup.h"
 #include "soak/soakworld.h"
 
@@ -47,6 +48,10 @@ QQuickWindow *focusWindow()
     return window && window->isVisible() ? window : nullptr;
 }
 
+/// How many letters a key that deletes may take, at most: a sign of several, and a word.
+constexpr qsizetype kSign = 8;
+constexpr qsizetype kWord = 40;
+
 bool isMenuOpen()
 {
     return focusWindow() && !shownItems(*focusWindow(), [](const QQuickItem &item) {
@@ -80,8 +85,21 @@ Ledger::Effect SoakUser::act(SoakWorld &world, const Ledger::Entries &entries)
     const auto *action =
         std::ranges::find_if(kActions, [&](const Action &each) { return (left -= each.weight) < 0; });
     m_done = QString::fromLatin1(action->name);
+    const NoteTextView *editor = world.panel.editor()->textView();
+    m_openText.begin(editor && editor->target() ? editor->target()->property("selectedText").toString()
+                                                : QString());
+    rememberOpenText();
     (this->*action->run)();
+    rememberOpenText();
     return std::exchange(m_effect, {});
+}
+
+void SoakUser::rememberOpenText()
+{
+    const auto &id = m_world->panel.openNote()->id();
+    const Note *note = id ? m_world->store.findNote(*id) : nullptr;
+    if (note)
+        m_openText.remember(*id, note->text());
 }
 
 bool SoakUser::isInPanel() const
@@ -152,6 +170,12 @@ void SoakUser::press()
         return;
     PanelModel &panel = m_world->panel;
     const PanelKeyboard &keyboard = *panel.keyboard();
+    OpenText::Reach &reach = m_openText.reach();
+    reach.goesBack = stroke.key() == Qt::Key_Z || isMenuOpen();
+    if (name == u"Ctrl+V" || isMenuOpen())
+        reach.insertions = m_world->pasteTexts();
+    if (stroke.key() == Qt::Key_Backspace || stroke.key() == Qt::Key_Delete)
+        reach.removal = stroke.keyboardModifiers() == Qt::NoModifier ? kSign : kWord;
     if (stroke.key() == Qt::Key_Return || stroke.key() == Qt::Key_Enter)
         expectDraft(stroke.keyboardModifiers() == Qt::NoModifier);
     const std::optional<RecordId> selected = panel.selection()->selected();
@@ -170,11 +194,13 @@ void SoakUser::type()
                                     u"# h"_s,  u"**b**"_s, u"  "_s,      u"o"_s};
     const QString &word = oneOf(kWords);
     note(word);
+    m_openText.reach().insertions = {word};
     for (const QChar letter : word) {
         // Where a button has the keyboard, a space presses it.
         expectAnything();
         if (focusWindow())
             QTest::keyClick(focusWindow(), letter.toLatin1());
+        rememberOpenText();
     }
 }
 
@@ -187,6 +213,7 @@ void SoakUser::compose()
     QInputMethodEvent committed;
     static const QStringList kTexts{u"漢字"_s, u"é"_s, u"😀"_s, QString(), QString(u'\xdc00')};
     committed.setCommitString(oneOf(kTexts));
+    m_openText.reach().insertions = {markup::wellFormed(committed.commitString())};
     if (focusWindow() && focusWindow()->focusObject())
         QCoreApplication::sendEvent(focusWindow()->focusObject(), &committed);
 }
@@ -200,6 +227,7 @@ void SoakUser::click()
         return item.metaObject()->indexOfSignal("clicked()") >= 0 || isOfType(item, "NoteCard")
                || isOfType(item, "NoteEditor") || isOfType(item, "Composer") || isOfType(item, "SearchField");
     });
+    m_openText.reach() = {.insertions = m_world->pasteTexts(), .removal = 0, .goesBack = true, .moves = true};
     QPoint place(pick(window->width()), pick(window->height()));
     if (!targets.isEmpty() && pick(10) > 0) {
         const QQuickItem &target = *oneOf(targets);
@@ -250,6 +278,7 @@ void SoakUser::capture()
         };
     } else if (isKept && !(last && m_entries->value(*last).text == kept)) {
         m_effect.added = kept;
+        m_effect.isCaptured = true;
     }
     m_world->hotKeys.press(row.combination);
 }
@@ -269,6 +298,7 @@ void SoakUser::addToChecklist()
             };
         } else {
             m_effect.added = markup::wellFormed(markup::checklist(text));
+            m_effect.isCaptured = true;
         }
     }
     m_world->hotKeys.press(hotkeytable::kAddToChecklist.combination);
@@ -285,6 +315,7 @@ void SoakUser::savePrompt()
     m_effect.isPrompt = true;
     if (m_world->accessibility.isProcessTrusted() && !(last && m_entries->value(*last).text == kept))
         m_effect.added = kept;
+    m_effect.isCaptured = true;
     m_world->tapShiftTwice();
 }
 

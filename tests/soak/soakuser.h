@@ -2,6 +2,7 @@
 #pragma once
 
 #include "soak/ledger.h"
+#include "soak/opentext.h"
 
 #include <QRandomGenerator>
 
@@ -23,6 +24,9 @@ public:
 
     /// Does one thing, and tells what may come of it in a store that holds this.
     [[nodiscard]] Ledger::Effect act(SoakWorld &world, const Ledger::Entries &entries);
+
+    /// What the last thing may have done to a text that is open.
+    [[nodiscard]] const OpenText &openText() const { return m_openText; }
 
     /// What was done last, in words.
     [[nodiscard]] const QString &done() const { return m_done; }
@@ -59,11 +63,14 @@ private:
     void note(const QString &what) { m_done += u' ' + what; }
     void expectDraft(bool isSure);
     void expectAnything();
+    /// To be called after each key.
+    void rememberOpenText();
 
     QRandomGenerator m_random;
     SoakWorld *m_world = nullptr;
     const Ledger::Entries *m_entries = nullptr;
     Ledger::Effect m_effect;
+    OpenText m_openText;
     QString m_done;
 };
 

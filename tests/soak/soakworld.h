@@ -20,7 +20,7 @@ struct SoakWorld : ProgramWorld
             watcher.markOwn();
         });
         QObject::connect(panel.keyboard(), &PanelKeyboard::fieldPasteRequested, &watcher,
-                         [this] { panel.keyboard()->insertIntoField(QStringLiteral("pasted\ntext")); });
+                         [this] { panel.keyboard()->insertIntoField(kPasted); });
         QObject::connect(panel.menu(), &PanelMenu::quickNoteRequested, &watcher,
                          [this] { box.show(QuickNoteBox::Mode::Note); });
         QObject::connect(panel.menu(), &PanelMenu::quickChecklistRequested, &watcher,
@@ -28,6 +28,21 @@ struct SoakWorld : ProgramWorld
         watcher.start();
         services.start();
     }
+
+    /// What pasting may insert: the two selections, and what the fields are given here.
+    [[nodiscard]] QStringList pasteTexts() const
+    {
+        QStringList texts{kPasted};
+        for (const MemoryPasteboard *each : {&pasteboard, &primary}) {
+            for (const PasteboardItem &item : each->items()) {
+                for (const PasteboardData &form : item)
+                    texts.append(QString::fromUtf8(form.data));
+            }
+        }
+        return texts;
+    }
+
+    static inline const QString kPasted = QStringLiteral("pasted\ntext");
 
     PasteBack pasteBack{{.clock = clock,
                          .application = application,

@@ -113,15 +113,36 @@ QString SoakTest::findFaultInFile() const
     const NotesFile file(m_path);
     if (file.integrity() != u"ok"_s)
         return u"the file: "_s + file.integrity();
-    QStringList notes;
-    QStringList prompts;
-    for (const Ledger::Entry &each : m_ledger.entries())
-        (each.isPrompt ? prompts : notes).append(each.text);
-    QStringList fileNotes = file.texts();
-    QStringList filePrompts = file.promptTexts();
-    for (QStringList *texts : {&notes, &prompts, &fileNotes, &filePrompts})
-        texts->sort();
-    return fileNotes == notes && filePrompts == prompts ? QString() : u"the file has other texts"_s;
+    using Rows = QMap<QString, NotesFile::Row>;
+    const auto number = [](Date date) { return QString::number(date.time_since_epoch().count()); };
+    const auto flag = [](bool value) { return QString::number(int(value)); };
+    Rows expected;
+    const Ledger::Entries &entries = m_ledger.entries();
+    for (auto it = entries.begin(); it != entries.end(); ++it) {
+        const QString id = it.key().toString(QUuid::WithoutBraces);
+        NotesFile::Row row{{u"id"_s, id}, {u"text"_s, it->text}, {u"createdAt"_s, number(it->createdAt)}};
+        if (it->isPrompt) {
+            row.insert({{u"isDone"_s, flag(it->isMarked)}, {u"isCaptured"_s, flag(!it->source.isEmpty())}});
+        } else {
+            row.insert({{u"updatedAt"_s, number(it->updatedAt)},
+                        {u"isPinned"_s, flag(it->isMarked)},
+                        {u"sourceApp"_s, it->source.value(0)},
+                        {u"sourceBundleID"_s, it->source.value(1)},
+                        {u"sourceTitle"_s, it->source.value(2)},
+                        {u"sourceURL"_s, it->source.value(3)}});
+        }
+        expected.insert(id, row);
+    }
+    Rows found;
+    for (const auto &rows : {file.notes(), file.prompts()}) {
+        for (const NotesFile::Row &row : rows.value_or(QList<NotesFile::Row>()))
+            found.insert(row.value(u"id"_s), row);
+    }
+    for (auto it = expected.begin(); it != expected.end(); ++it) {
+        if (found.take(it.key()) != *it)
+            return u"the file has not what is in memory: "_s + it->value(u"text"_s);
+    }
+    return found.isEmpty() ? QString() : u"the file has more than what is in memory"_s;
 }
 
 QString SoakTest::findFault()
@@ -130,7 +151,7 @@ QString SoakTest::findFault()
     NotesStore &store = m_world->store;
     if (m_ledger.isOpenTextChanged())
         m_lastEdit = m_world->clock.monotonic();
-    if (store.hasPendingChanges() && m_world->clock.monotonic() - m_lastEdit > 2s)
+    if (store.hasPendingChanges() && m_world->clock.monotonic() - m_lastEdit > 500ms)
         return u"something is not saved"_s;
     const std::optional<RecordId> open = panel.openNote()->id();
     const Ledger::Entries &all = m_ledger.entries();
@@ -168,7 +189,7 @@ void SoakTest::act()
     m_history.append(m_user.done());
     if (m_history.size() > kTold)
         m_history.removeFirst();
-    QString fault = m_ledger.follow(m_world->store, effect, openNotes);
+    QString fault = m_ledger.follow(m_world->store, effect, openNotes, m_user.openText());
     if (fault.isEmpty())
         fault = findFault();
     const QString told =
