@@ -125,11 +125,15 @@ void TestMishaps::killedAtAnyMomentLosesNothing()
     QStringList kept;
     int confirmedCount = 0;
     int number = 0;
-    for (int round = 0; round < rounds(); ++round) {
+    // A machine that is too slow to confirm anything before it kills gives more time.
+    unsigned longest = 300'000;
+    for (int round = 0; round < rounds() || confirmedCount == 0; ++round) {
         QVERIFY(startVesk());
         QString last;
         const QStringList confirmed =
-            addUntilKilled(std::chrono::microseconds(random() % 300'000), number, last);
+            addUntilKilled(std::chrono::microseconds(random() % longest), number, last);
+        if (confirmed.isEmpty())
+            longest *= 2;
         QVERIFY(m_vesk->waitForExit(kBound));
         confirmedCount += int(confirmed.size());
         kept += confirmed;
@@ -140,7 +144,6 @@ void TestMishaps::killedAtAnyMomentLosesNothing()
         QCOMPARE(found, kept);
         QCOMPARE(m_desktop->notes().integrity(), u"ok"_s);
     }
-    QVERIFY(confirmedCount > 0);
     qInfo("%d notes confirmed, %d kills.", confirmedCount, rounds());
 }
 
