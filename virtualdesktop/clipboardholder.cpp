@@ -4,9 +4,9 @@
 namespace vesk {
 
 std::unique_ptr<ClipboardHolder> ClipboardHolder::hold(const QString &displayName, const Forms &forms,
-                                                       const char *selection)
+                                                       const char *selection, const QList<QByteArray> &silent)
 {
-    std::unique_ptr<ClipboardHolder> holder(new ClipboardHolder(forms));
+    std::unique_ptr<ClipboardHolder> holder(new ClipboardHolder(forms, silent));
     const auto handle = [holder = holder.get()](DisplayConnection &display,
                                                 const xcb_generic_event_t &event) {
         const auto request = SelectionThread::requestIn(event);
@@ -27,6 +27,11 @@ void ClipboardHolder::answer(DisplayConnection &display, const xcb_selection_req
             continue;
         SelectionThread::write(display, request, request.target, 8, bytes);
         isGiven = true;
+    }
+    for (const QByteArray &name : m_silent) {
+        targets.append(display.atom(name.constData()));
+        if (targets.constLast() == request.target)
+            return;
     }
     if (request.target == targets.constFirst()) {
         SelectionThread::writeAtoms(display, request, targets);

@@ -14,22 +14,26 @@ class ClipboardHolder final
 public:
     using Forms = QMap<QByteArray, QByteArray>;
 
-    /// Owns the selection when this returns. Null if the server did not answer.
+    /// Owns the selection when this returns. Null if the server did not answer. The silent forms are offered
+    /// too, and whoever asks for one gets no answer.
     [[nodiscard]] static std::unique_ptr<ClipboardHolder> hold(const QString &displayName, const Forms &forms,
-                                                               const char *selection = "CLIPBOARD");
+                                                               const char *selection = "CLIPBOARD",
+                                                               const QList<QByteArray> &silent = {});
 
     /// A program that hangs goes on owning the clipboard and answers nobody.
     void setHanging(bool isHanging) { m_isHanging = isHanging; }
 
 private:
-    explicit ClipboardHolder(Forms forms)
+    ClipboardHolder(Forms forms, QList<QByteArray> silent)
         : m_forms(std::move(forms))
+        , m_silent(std::move(silent))
     {
     }
 
     void answer(DisplayConnection &display, const xcb_selection_request_event_t &request) const;
 
     const Forms m_forms;
+    const QList<QByteArray> m_silent;
     std::atomic_bool m_isHanging = false;
     std::unique_ptr<SelectionThread> m_thread;
 };

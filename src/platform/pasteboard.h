@@ -31,6 +31,18 @@ class Pasteboard : public QObject
     Q_OBJECT
 
 public:
+    /// How a content came to be on the pasteboard.
+    enum class Claim {
+        /// By an application that the user works with, or the platform cannot tell.
+        Ordinary,
+        /// By a program that the user does not work with at the moment. A clipboard manager claims the
+        /// content of others in this way, unchanged.
+        Aside,
+        /// Right after the program that the content before came from had gone. That content is on the
+        /// pasteboard again if a clipboard manager had kept it.
+        AfterLoss,
+    };
+
     /// Where a content comes from, as far as the platform can tell.
     struct Origin
     {
@@ -39,6 +51,15 @@ public:
         /// How long before the change was made the user had asked for it, by that process's word: an
         /// application that hung makes a copy later than it was told to.
         std::optional<std::chrono::milliseconds> delay;
+        Claim claim = Claim::Ordinary;
+    };
+
+    /// How long a reading waits for the owner of the content.
+    enum class Patience {
+        /// The user waits for something else, and would rather have it without this text.
+        Short,
+        /// The user has asked for this text, as by pasting.
+        Long,
     };
 
     /// Rises with every change of the content, whoever made it, this program included.
@@ -50,13 +71,16 @@ public:
     /// Where the content came from that the last change brought.
     [[nodiscard]] virtual Origin origin() const = 0;
 
-    /// Everything on the pasteboard. Representations whose owner does not deliver them are left out;
-    /// an empty pasteboard gives an empty list, and so does content that is declared secret or whose
-    /// owner stalls. What is not to be lost is therefore replaced only after asking `hasContents`.
+    /// Everything on the pasteboard, for writing it back. Representations that the owner refuses are left
+    /// out, and so may be those that can be made again from others. If anything else cannot be had whole
+    /// (it is declared secret, it is too large, the owner is silent for too long), the list is empty, as it
+    /// is for an empty pasteboard. So ask `hasContents` before replacing what must not be lost.
     virtual QCoro::Task<QList<PasteboardItem>> pasteboardItems() = 0;
 
-    /// The content as text. None if it has no text, is declared secret, or its owner does not answer.
-    virtual QCoro::Task<std::optional<QString>> string() = 0;
+    /// The content as text. Nullopt if it has no text, is declared secret, or its owner does not answer in
+    /// time.
+    virtual QCoro::Task<std::optional<QString>> string(Patience patience) = 0;
+    QCoro::Task<std::optional<QString>> string() { return string(Patience::Short); }
 
     virtual void clearContents() = 0;
 

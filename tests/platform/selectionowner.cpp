@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "selectionowner.h"
 
+#include <thread>
+
 using vesk::SelectionThread;
 
 namespace {
@@ -67,7 +69,7 @@ void SelectionOwner::sendText(Display &display, const Request &request)
 {
     if (m_manner == Manner::Silent)
         return;
-    if (m_manner == Manner::Incremental || m_manner == Manner::StallsHalfway) {
+    if (m_manner == Manner::Incremental || m_manner == Manner::StallsHalfway || m_manner == Manner::Drips) {
         m_requestor = request.requestor;
         m_property = request.property;
         m_sent = 0;
@@ -86,6 +88,10 @@ void SelectionOwner::sendNextPiece(Display &display)
 {
     if (m_manner == Manner::StallsHalfway && m_sent > 0)
         return;
+    if (m_manner == Manner::Drips) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        m_sent = 0;
+    }
     const QByteArray piece = m_text.mid(m_sent, kPiece);
     m_sent += piece.size();
     xcb_change_property(display.xcb(), XCB_PROP_MODE_REPLACE, m_requestor, m_property,

@@ -15,6 +15,8 @@ public:
         Incremental,
         /// In pieces, of which only the first comes.
         StallsHalfway,
+        /// In pieces of one byte without end.
+        Drips,
         /// Lists its targets and then never answers.
         Silent,
         /// Offers no text at all.

@@ -3,8 +3,10 @@
 #include "x11test.h"
 
 #include "platform/memory/memorypasteboard.h"
+#include "platform/x11/selectioncontent.h"
 #include "platform/x11/selectiontransfer.h"
 #include "platform/x11/x11pasteboard.h"
+#include "virtualdesktop/clipboardholder.h"
 
 #include <QCoroTask>
 
@@ -127,7 +129,13 @@ private Q_SLOTS:
     void originTellsHowLongAgoTheUserCopied();
     void silentOwnerIsAskedOnce();
     void secretIsNotEvenRead();
+    void everythingOrNothingIsKept_data();
+    void everythingOrNothingIsKept();
+    void formThatIsTooLongIsNotCut();
+    void takenOverByAClipboardManager();
     void lostSelectionIsNotServed();
+    void readerThatNamesTheRootLeavesItHeard();
+    void tooManyFormsAtOnceAreRefused();
     void severalFormsAreGivenAtOnce();
     void formsOfText_data();
     void formsOfText();
@@ -311,6 +319,95 @@ void TestPasteboard::secretIsNotEvenRead()
     QCOMPARE(owner.readings(), 0);
 }
 
+void TestPasteboard::everythingOrNothingIsKept_data()
+{
+    QTest::addColumn<QList<QByteArray>>("given");
+    QTest::addColumn<QList<QByteArray>>("silent");
+    QTest::addColumn<bool>("isKept");
+    using Forms = QList<QByteArray>;
+    QTest::newRow("picture that is not converted in time")
+        << Forms{"image/png"} << Forms{"image/bmp", "image/tiff", "image/x-xpixmap"} << true;
+    QTest::newRow("text in old encodings")
+        << Forms{"UTF8_STRING", "text/html"} << Forms{"COMPOUND_TEXT", "STRING"} << true;
+    QTest::newRow("text without its markup") << Forms{"UTF8_STRING"} << Forms{"text/html"} << false;
+    QTest::newRow("text without its picture") << Forms{"UTF8_STRING"} << Forms{"image/png"} << false;
+    QTest::newRow("picture in one of two formats") << Forms{"image/jpeg"} << Forms{"image/bmp"} << false;
+    QTest::newRow("moving picture") << Forms{"image/png"} << Forms{"image/gif"} << false;
+}
+
+void TestPasteboard::everythingOrNothingIsKept()
+{
+    QFETCH(const QList<QByteArray>, given);
+    QFETCH(const QList<QByteArray>, silent);
+    QFETCH(const bool, isKept);
+    ClipboardHolder::Forms forms;
+    PasteboardItem expected;
+    for (const QByteArray &form : given) {
+        forms.insert(form, "content of " + form);
+        expected.append({.type = QString::fromLatin1(form), .data = forms.value(form)});
+    }
+    const auto owner = ClipboardHolder::hold(m_desktop->displayName(), forms, "CLIPBOARD", silent);
+    Program vesk;
+    const QList<PasteboardItem> items = QCoro::waitFor(vesk.pasteboard.pasteboardItems());
+    QVERIFY(items == (isKept ? only(expected) : QList<PasteboardItem>()));
+    QVERIFY(vesk.pasteboard.hasContents());
+}
+
+/// It would be written back as if it were whole.
+void TestPasteboard::formThatIsTooLongIsNotCut()
+{
+    const QByteArray tooLong(selectioncontent::kMaximumBytes + 1, 'x');
+    const PasteboardData picture{.type = u"image/png"_s, .data = "png"};
+    Program vesk;
+    Program other;
+    other.pasteboard.writeObjects({{picture, {.type = u"image/bmp"_s, .data = tooLong}}});
+    other.catchUp();
+    QVERIFY(QCoro::waitFor(vesk.pasteboard.pasteboardItems()) == only({picture}));
+    other.pasteboard.writeObjects({{picture, {.type = u"text/html"_s, .data = tooLong}}});
+    other.catchUp();
+    QVERIFY(QCoro::waitFor(vesk.pasteboard.pasteboardItems()).isEmpty());
+    QVERIFY(vesk.pasteboard.hasContents());
+}
+
+void TestPasteboard::takenOverByAClipboardManager()
+{
+    using Claim = Pasteboard::Claim;
+    const Program vesk;
+    Program manager;
+    const auto claim = [&vesk] {
+        vesk.catchUp();
+        return vesk.pasteboard.origin().claim;
+    };
+    const auto bringForward = [this](xcb_window_t window) {
+        xcb_change_property(m_connection->xcb(), XCB_PROP_MODE_REPLACE, m_connection->root(),
+                            m_connection->atom("_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW, 32, 1, &window);
+        std::ignore = m_connection->property32(m_connection->root(), XCB_ATOM_WM_NAME);
+    };
+    auto application = std::make_unique<Program>();
+    bringForward(application->connection->window());
+    application->pasteboard.setString(u"theirs"_s);
+    application->catchUp();
+    QCOMPARE(claim(), Claim::Ordinary);
+    // The only windows of another process are the window manager's.
+    const auto other =
+        m_connection->property32(m_connection->root(), m_connection->atom("_NET_SUPPORTING_WM_CHECK"));
+    QVERIFY(other);
+    bringForward(*other);
+    manager.pasteboard.setString(u"theirs"_s);
+    manager.catchUp();
+    QCOMPARE(claim(), Claim::Aside);
+
+    bringForward(application->connection->window());
+    application->pasteboard.setString(u"theirs again"_s);
+    application->catchUp();
+    application.reset();
+    QTRY_VERIFY(!vesk.pasteboard.hasContents());
+    QCOMPARE(claim(), Claim::Ordinary);
+    manager.pasteboard.setString(u"theirs again"_s);
+    manager.catchUp();
+    QCOMPARE(claim(), Claim::AfterLoss);
+}
+
 void TestPasteboard::lostSelectionIsNotServed()
 {
     Program own;
@@ -330,6 +427,65 @@ void TestPasteboard::lostSelectionIsNotServed()
     own.catchUp();
     QVERIFY(server.isOwner());
     QVERIFY(QCoro::waitFor(other.pasteboard.string()) == std::optional(u"ours again"_s));
+}
+
+/// Vesk hears of the active window by the root's properties.
+void TestPasteboard::readerThatNamesTheRootLeavesItHeard()
+{
+    Program vesk;
+    const Program other;
+    const X11Connection &reader = *other.connection;
+    const xcb_atom_t property = reader.atom("PIECE");
+    vesk.pasteboard.setString(QString(1'000'000, u'x'));
+    vesk.catchUp();
+    xcb_convert_selection(reader.xcb(), reader.root(), reader.atom("CLIPBOARD"), reader.atom("UTF8_STRING"),
+                          property, XCB_CURRENT_TIME);
+    other.sync();
+    // An empty piece is the last one.
+    QTRY_COMPARE(reader.property(reader.root(), property).size(), 4);
+    bool isLast = false;
+    while (!isLast) {
+        xcb_delete_property(reader.xcb(), reader.root(), property);
+        other.sync();
+        vesk.catchUp();
+        const auto cookie = xcb_get_property(reader.xcb(), 0, reader.root(), property, XCB_ATOM_ANY, 0, 0);
+        const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(reader.xcb(), cookie, nullptr));
+        QVERIFY(reply && reply->type == reader.atom("UTF8_STRING"));
+        isLast = reply->bytes_after == 0;
+    }
+    vesk.catchUp();
+    vesk.catchUp();
+    bool isHeard = false;
+    connect(vesk.connection.get(), &X11Connection::eventReceived, this,
+            [&](const xcb_generic_event_t *event) {
+                isHeard |= (event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY;
+            });
+    xcb_delete_property(reader.xcb(), reader.root(), property);
+    other.sync();
+    vesk.catchUp();
+    QVERIFY(isHeard);
+}
+
+void TestPasteboard::tooManyFormsAtOnceAreRefused()
+{
+    Program vesk;
+    const Program other;
+    vesk.pasteboard.setString(u"x"_s);
+    vesk.catchUp();
+    const X11Connection &reader = *other.connection;
+    const QList<xcb_atom_t> pairs(2 * (SelectionServer::kMaximumPairs + 1), reader.atom("UTF8_STRING"));
+    xcb_change_property(reader.xcb(), XCB_PROP_MODE_REPLACE, reader.window(), reader.atom("PAIRS"),
+                        reader.atom("ATOM_PAIR"), 32, static_cast<uint32_t>(pairs.size()), pairs.data());
+    std::optional<xcb_atom_t> answer;
+    connect(&reader, &X11Connection::eventReceived, this, [&](const xcb_generic_event_t *event) {
+        if ((event->response_type & 0x7f) == XCB_SELECTION_NOTIFY)
+            answer = reinterpret_cast<const xcb_selection_notify_event_t *>(event)->property;
+    });
+    xcb_convert_selection(reader.xcb(), reader.window(), reader.atom("CLIPBOARD"), reader.atom("MULTIPLE"),
+                          reader.atom("PAIRS"), XCB_CURRENT_TIME);
+    other.sync();
+    QTRY_VERIFY(answer);
+    QCOMPARE(*answer, xcb_atom_t{XCB_ATOM_NONE});
 }
 
 void TestPasteboard::severalFormsAreGivenAtOnce()

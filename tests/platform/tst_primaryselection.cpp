@@ -24,6 +24,9 @@ private Q_SLOTS:
     void ownerThatChangesWhileItIsReadGivesNothing();
     void lateAnswerIsNotTakenForTheNext();
     void readingGivenUpLetsTheOwnerFinish();
+    void ownerThatDripsIsGivenUp();
+    void longAnswerIsReadNoFurtherThanTheLimit_data();
+    void longAnswerIsReadNoFurtherThanTheLimit();
 };
 
 void TestPrimarySelection::text_data()
@@ -101,9 +104,38 @@ void TestPrimarySelection::readingGivenUpLetsTheOwnerFinish()
     const SelectionOwner owner(QByteArray(1'000'000, 'x'), SelectionOwner::Manner::Incremental);
     const SelectionTransfer::Data data = QCoro::waitFor(SelectionTransfer::read(
         *m_connection, XCB_ATOM_PRIMARY, m_connection->atom("UTF8_STRING"), qsizetype{150'000}));
-    QVERIFY(data.outcome == SelectionTransfer::Outcome::Complete);
+    QVERIFY(data.outcome == SelectionTransfer::Outcome::Cut);
     QVERIFY(owner.isSending());
     QTRY_VERIFY(!owner.isSending());
+}
+
+/// Each byte comes in time, and the last one never.
+void TestPrimarySelection::ownerThatDripsIsGivenUp()
+{
+    const SelectionOwner owner("x", SelectionOwner::Manner::Drips);
+    PrimarySelection primary(*m_connection);
+    QVERIFY(!QCoro::waitFor(primary.text()));
+}
+
+void TestPrimarySelection::longAnswerIsReadNoFurtherThanTheLimit_data()
+{
+    using Outcome = SelectionTransfer::Outcome;
+    QTest::addColumn<qsizetype>("limit");
+    QTest::addColumn<SelectionTransfer::Outcome>("outcome");
+    QTest::newRow("as long as the limit") << qsizetype{3'000'000} << Outcome::Complete;
+    QTest::newRow("one byte longer") << qsizetype{2'999'999} << Outcome::Cut;
+    QTest::newRow("far longer") << qsizetype{1000} << Outcome::Cut;
+}
+
+void TestPrimarySelection::longAnswerIsReadNoFurtherThanTheLimit()
+{
+    QFETCH(const qsizetype, limit);
+    const SelectionOwner owner(QByteArray(3'000'000, 'x'), SelectionOwner::Manner::Whole);
+    const SelectionTransfer::Data data = QCoro::waitFor(SelectionTransfer::read(
+        *m_connection, XCB_ATOM_PRIMARY, m_connection->atom("UTF8_STRING"), limit, std::chrono::seconds(10)));
+    QTEST(data.outcome, "outcome");
+    QVERIFY(data.bytes.size() >= limit);
+    QVERIFY(data.bytes.size() <= limit + 4);
 }
 
 DESKTOP_TEST_MAIN(TestPrimarySelection)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/clientmachine.h"
+#include "platform/x11/contentforms.h"
 #include "platform/x11/screenspace.h"
 #include "platform/x11/selectionbytes.h"
 
@@ -19,6 +20,10 @@ private Q_SLOTS:
     void targetsThatAreCutAreLeftOut();
     void processOfAWindow_data();
     void processOfAWindow();
+    void textKeepsEveryCharacter_data();
+    void textKeepsEveryCharacter();
+    void formsMadeFromOthers_data();
+    void formsMadeFromOthers();
 };
 
 void X11RulesTest::docksTakeTheirScreensOnly_data()
@@ -90,6 +95,71 @@ void X11RulesTest::processOfAWindow()
     const bool isOwn = isOwnMachine(machine, u"desk"_s);
     QTEST(isOwn, "isOwn");
     QTEST(processOfClient(connected, stated, isOwn), "expected");
+}
+
+void X11RulesTest::textKeepsEveryCharacter_data()
+{
+    using selectionbytes::Encoding;
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<Encoding>("encoding");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *name, const QByteArray &bytes, Encoding encoding, const QString &text) {
+        QTest::newRow(name) << bytes << encoding << text;
+    };
+    row("U+FEFF at the beginning",
+        "\xef\xbb\xbf"
+        "a",
+        Encoding::Utf8, u"\ufeffa"_s);
+    row("U+FEFF twice", "\xef\xbb\xbf\xef\xbb\xbf", Encoding::Utf8, u"\ufeff\ufeff"_s);
+    row("U+FFFE",
+        "\xef\xbf\xbe"
+        "a",
+        Encoding::Utf8, u"\ufffea"_s);
+    row("NUL and line breaks", "a\0\r\n\r"_qba, Encoding::Utf8, u"a\0\r\n\r"_s);
+    row("beyond the first plane", "\xf0\x9f\x91\xa9", Encoding::Utf8, u"\U0001F469"_s);
+    row("half of a pair",
+        "a\xed\xa0\x80"
+        "b",
+        Encoding::Utf8, u"a\ufffd\ufffd\ufffdb"_s);
+    row("cut in a character", "a\xf0\x9f", Encoding::Utf8, u"a\ufffd\ufffd"_s);
+    row("Latin-1", "\xef\xbb\xbf\x80\xff", Encoding::Latin1, u"\u00ef\u00bb\u00bf\u0080\u00ff"_s);
+}
+
+void X11RulesTest::textKeepsEveryCharacter()
+{
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const selectionbytes::Encoding, encoding);
+    QTEST(selectionbytes::text(bytes, encoding), "text");
+}
+
+void X11RulesTest::formsMadeFromOthers_data()
+{
+    QTest::addColumn<QByteArray>("form");
+    QTest::addColumn<QList<QByteArray>>("offered");
+    QTest::addColumn<QByteArray>("source");
+    const auto row = [](const QByteArray &form, const QList<QByteArray> &others, const QByteArray &source) {
+        QTest::newRow((form + " beside " + others.join(", ")).constData())
+            << form << (others + QList<QByteArray>{form}) << source;
+    };
+    row("image/bmp", {"image/png"}, "image/png");
+    row("image/x-xpixmap", {"image/tiff", "image/png"}, "image/png");
+    row("image/bmp", {"image/jpeg"}, {});
+    row("image/png", {"image/bmp"}, {});
+    row("image/gif", {"image/png"}, {});
+    row("image/svg+xml", {"image/png"}, {});
+    row("STRING", {"UTF8_STRING"}, "UTF8_STRING");
+    row("text/plain", {"text/plain;charset=utf-8"}, "text/plain;charset=utf-8");
+    row("text/plain;charset=utf-8", {"UTF8_STRING"}, "UTF8_STRING");
+    row("UTF8_STRING", {"text/plain;charset=utf-8"}, {});
+    row("STRING", {"text/plain"}, {});
+    row("text/html", {"UTF8_STRING", "image/png"}, {});
+}
+
+void X11RulesTest::formsMadeFromOthers()
+{
+    QFETCH(const QByteArray, form);
+    QFETCH(const QList<QByteArray>, offered);
+    QTEST(contentforms::sourceOf(form, offered), "source");
 }
 
 QTEST_GUILESS_MAIN(X11RulesTest)

@@ -16,11 +16,10 @@ QCoro::Task<QList<PasteboardItem>> MemoryPasteboard::pasteboardItems()
     co_return items;
 }
 
-QCoro::Task<std::optional<QString>> MemoryPasteboard::string()
+QCoro::Task<std::optional<QString>> MemoryPasteboard::string(Patience /*patience*/)
 {
-    if (m_isSecret)
-        co_return std::nullopt;
-    const QList<PasteboardItem> items = m_items;
+    // Also if it changes meanwhile.
+    const QList<PasteboardItem> items = m_isSecret ? QList<PasteboardItem>() : m_items;
     if (m_clock)
         co_await m_clock->sleep(m_delay);
     for (const PasteboardItem &item : items) {

@@ -21,7 +21,8 @@ public:
     [[nodiscard]] bool hasContents() const override { return !m_items.isEmpty(); }
     [[nodiscard]] Origin origin() const override { return m_origin; }
     QCoro::Task<QList<PasteboardItem>> pasteboardItems() override;
-    QCoro::Task<std::optional<QString>> string() override;
+    using Pasteboard::string;
+    QCoro::Task<std::optional<QString>> string(Patience patience) override;
     void clearContents() override;
     void setString(const QString &text) override;
     void writeObjects(const QList<PasteboardItem> &items) override;
@@ -37,7 +38,7 @@ public:
     }
     /// Plays where the content of the next changes comes from; unknown at first.
     void setOrigin(const Origin &origin) { m_origin = origin; }
-    /// Plays content whose owner declares it secret.
+    /// Plays content that cannot be had: its owner declares it secret, or it is too large.
     void setSecret(bool isSecret) { m_isSecret = isSecret; }
     /// What is on it now, read at once.
     [[nodiscard]] const QList<PasteboardItem> &items() const { return m_items; }

@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/selectionbytes.h"
 
+#include <QStringDecoder>
+
 #include <cstring>
 
 namespace vesk::selectionbytes {
 
 QString text(const QByteArray &bytes, Encoding encoding)
 {
-    return encoding == Encoding::Utf8 ? QString::fromUtf8(bytes) : QString::fromLatin1(bytes);
+    if (encoding == Encoding::Latin1)
+        return QString::fromLatin1(bytes);
+    using Flag = QStringConverter::Flag;
+    QStringDecoder decoder(QStringConverter::Utf8, Flag::ConvertInitialBom | Flag::Stateless);
+    return decoder(bytes);
 }
 
 QList<xcb_atom_t> atoms(const QByteArray &bytes)

@@ -15,7 +15,8 @@ enum class Encoding {
     Latin1,
 };
 
-/// What is no text in this encoding becomes U+FFFD.
+/// What is not text in this encoding becomes U+FFFD. A U+FEFF at the beginning is kept: the encoding is
+/// known, so it is a character of the text, not a mark.
 [[nodiscard]] QString text(const QByteArray &bytes, Encoding encoding);
 
 /// A list of atoms; a last one that is cut is left out.

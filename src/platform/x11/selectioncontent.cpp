@@ -2,6 +2,7 @@
 #include "platform/x11/selectioncontent.h"
 
 #include "platform/accessibility.h"
+#include "platform/x11/contentforms.h"
 #include "platform/x11/selectionbytes.h"
 #include "platform/x11/selectiontransfer.h"
 #include "platform/x11/x11connection.h"
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace vesk::selectioncontent {
 
@@ -19,6 +21,9 @@ using Outcome = SelectionTransfer::Outcome;
 
 constexpr qsizetype kSmall = 1 << 16; // bytes
 constexpr const char *kSecretHint = "x-kde-passwordManagerHint";
+/// How long an owner that has just listed its forms may take to make one of them. It is alive, and may be
+/// converting a large picture.
+constexpr std::chrono::milliseconds kConversion{1000};
 
 struct TextTarget
 {
@@ -31,29 +36,25 @@ constexpr std::array kTextTargets{
     TextTarget{.name = "UTF8_STRING", .encoding = selectionbytes::Encoding::Utf8},
     TextTarget{.name = "text/plain;charset=utf-8", .encoding = selectionbytes::Encoding::Utf8},
     TextTarget{.name = "STRING", .encoding = selectionbytes::Encoding::Latin1},
+    // In no stated encoding, which today means this one.
+    TextTarget{.name = "text/plain", .encoding = selectionbytes::Encoding::Utf8},
 };
 
-/// Targets that are no content. Some of them are commands: converting DELETE deletes. TEXT is whichever
-/// encoding the owner likes, which only it can tell.
-constexpr std::array kProtocolTargets{
-    "TARGETS", "TIMESTAMP",        "MULTIPLE",        "SAVE_TARGETS",
-    "DELETE",  "INSERT_SELECTION", "INSERT_PROPERTY", "TEXT",
-};
-
-/// The targets that the owner lists; none if it does not answer, or declares its content secret.
-QCoro::Task<QList<xcb_atom_t>> readTargets(QPointer<X11Connection> connection, xcb_atom_t selection)
+/// The targets that the owner lists; empty if it does not answer, or declares its content secret.
+QCoro::Task<QList<xcb_atom_t>> readTargets(QPointer<X11Connection> connection, xcb_atom_t selection,
+                                           ReadingAllowance &allowance)
 {
     const xcb_atom_t list = connection->atom("TARGETS");
     const xcb_atom_t hint = connection->atom(kSecretHint);
     const SelectionTransfer::Data data =
-        co_await SelectionTransfer::read(*connection, selection, list, kSmall);
+        co_await SelectionTransfer::read(*connection, selection, list, kSmall, allowance);
     if (connection.isNull() || data.outcome != Outcome::Complete)
         co_return QList<xcb_atom_t>();
     QList<xcb_atom_t> targets = selectionbytes::atoms(data.bytes);
     // Only owners that list the hint are asked for it: some answer every target with their text.
     if (targets.contains(hint)) {
         const SelectionTransfer::Data value =
-            co_await SelectionTransfer::read(*connection, selection, hint, kSmall);
+            co_await SelectionTransfer::read(*connection, selection, hint, kSmall, allowance);
         // An owner that lists the hint and then does not tell is not trusted to be harmless.
         if (value.outcome != Outcome::Complete || value.bytes.trimmed() == QByteArrayLiteral("secret"))
             targets.clear();
@@ -61,54 +62,104 @@ QCoro::Task<QList<xcb_atom_t>> readTargets(QPointer<X11Connection> connection, x
     co_return targets;
 }
 
-bool isContent(const X11Connection &connection, xcb_atom_t target)
+/// What the forms are kept in while they are read, in the owner's order.
+struct Form
 {
-    return std::ranges::none_of(kProtocolTargets,
-                                [&](const char *name) { return connection.atom(name) == target; });
+    xcb_atom_t target = XCB_ATOM_NONE;
+    QByteArray name;
+    /// The form that this one can be made from.
+    QByteArray source;
+    std::optional<QByteArray> bytes;
+};
+
+QList<Form> formsOf(const X11Connection &connection, const QList<xcb_atom_t> &targets)
+{
+    QList<Form> forms;
+    QList<QByteArray> names;
+    for (const xcb_atom_t target : targets) {
+        const QByteArray name = connection.atomName(target).toLatin1();
+        if (names.contains(name) || !contentforms::isContent(name))
+            continue;
+        names.append(name);
+        forms.append({.target = target, .name = name, .source = {}, .bytes = {}});
+    }
+    for (Form &form : forms)
+        form.source = contentforms::sourceOf(form.name, names);
+    return forms;
+}
+
+bool hasBytes(const QList<Form> &forms, const QByteArray &name)
+{
+    const auto form = std::ranges::find(forms, name, &Form::name);
+    return form != forms.cend() && form->bytes.has_value();
 }
 
 } // namespace
 
-QCoro::Task<std::optional<QString>> text(X11Connection &connection, xcb_atom_t selection)
+QCoro::Task<std::optional<QString>> text(X11Connection &connection, xcb_atom_t selection,
+                                         ReadingAllowance &allowance)
 {
     const QPointer<X11Connection> guard(&connection);
-    const QList<xcb_atom_t> targets = co_await readTargets(guard, selection);
+    const QList<xcb_atom_t> targets = co_await readTargets(guard, selection, allowance);
     if (guard.isNull())
         co_return std::nullopt;
-    const auto *const best = std::ranges::find_if(kTextTargets, [&](const TextTarget &target) {
-        return targets.contains(connection.atom(target.name));
-    });
-    if (best == kTextTargets.end())
-        co_return std::nullopt;
-    const xcb_atom_t target = connection.atom(best->name);
-    const SelectionTransfer::Data data =
-        co_await SelectionTransfer::read(connection, selection, target, kMaximumTextBytes);
-    if (data.outcome != Outcome::Complete)
-        co_return std::nullopt;
-    co_return selectionbytes::text(data.bytes, best->encoding);
+    // What is dragged is listed in the messages of the drag, and not by every source here too.
+    const bool isUnlisted = targets.isEmpty() && selection == connection.atom("XdndSelection");
+    for (const TextTarget &target : kTextTargets) {
+        const xcb_atom_t atom = connection.atom(target.name);
+        if (!isUnlisted && !targets.contains(atom))
+            continue;
+        const SelectionTransfer::Data data =
+            co_await SelectionTransfer::read(connection, selection, atom, kMaximumTextBytes, allowance);
+        // A text that is cut is still longer than any that is kept, so that the user can be told.
+        if (data.outcome == Outcome::Complete || data.outcome == Outcome::Cut)
+            co_return selectionbytes::text(data.bytes, target.encoding);
+        if (data.outcome == Outcome::Stalled || guard.isNull())
+            break;
+    }
+    co_return std::nullopt;
 }
 
-QCoro::Task<PasteboardItem> representations(X11Connection &connection, xcb_atom_t selection)
+QCoro::Task<std::optional<QString>> text(X11Connection &connection, xcb_atom_t selection)
+{
+    ReadingAllowance allowance(kShort);
+    co_return co_await text(connection, selection, allowance);
+}
+
+QCoro::Task<PasteboardItem> representations(X11Connection &connection, xcb_atom_t selection,
+                                            ReadingAllowance &allowance)
 {
     const QPointer<X11Connection> guard(&connection);
-    const QList<xcb_atom_t> targets = co_await readTargets(guard, selection);
+    const QList<xcb_atom_t> targets = co_await readTargets(guard, selection, allowance);
+    if (guard.isNull())
+        co_return PasteboardItem();
+    QList<Form> forms = formsOf(connection, targets);
+    // First what must be kept, then what can be made from it, and is worth no more than a short wait.
+    bool isOwnerSilent = false;
+    for (const bool isMade : {false, true}) {
+        for (Form &form : forms) {
+            const bool isReplaceable = hasBytes(forms, form.source);
+            allowance.setSilence(isReplaceable ? SelectionTransfer::kDeadline : kConversion);
+            if (form.source.isEmpty() == isMade || (isReplaceable && isOwnerSilent))
+                continue;
+            const SelectionTransfer::Data data = co_await SelectionTransfer::read(
+                connection, selection, form.target, kMaximumBytes, allowance);
+            if (guard.isNull())
+                co_return PasteboardItem();
+            isOwnerSilent |= data.outcome == Outcome::Stalled;
+            // A part is not the form.
+            const bool isLost = isOwnerSilent || data.outcome == Outcome::Cut;
+            if (isLost && !isReplaceable)
+                co_return PasteboardItem();
+            // Numbers are facts about the owner itself (its windows, its lengths), not content.
+            if (data.outcome == Outcome::Complete && data.format == 8)
+                form.bytes = data.bytes;
+        }
+    }
     PasteboardItem item;
-    QList<xcb_atom_t> asked;
-    for (const xcb_atom_t target : targets) {
-        if (guard.isNull())
-            co_return PasteboardItem();
-        if (asked.contains(target) || !isContent(connection, target))
-            continue;
-        asked.append(target);
-        const SelectionTransfer::Data data =
-            co_await SelectionTransfer::read(connection, selection, target, kMaximumBytes);
-        // A part would pass for the whole.
-        if (data.outcome == Outcome::Stalled || guard.isNull())
-            co_return PasteboardItem();
-        // Numbers are facts about the owner itself (its windows, its lengths), not content.
-        const bool isWhole = data.outcome == Outcome::Complete && data.bytes.size() <= kMaximumBytes;
-        if (isWhole && data.format == 8)
-            item.append({.type = connection.atomName(target), .data = data.bytes});
+    for (const Form &form : std::as_const(forms)) {
+        if (form.bytes)
+            item.append({.type = QString::fromLatin1(form.name), .data = *form.bytes});
     }
     co_return std::move(item);
 }

@@ -7,6 +7,15 @@
 
 namespace vesk {
 
+namespace {
+
+/// A reader that is stopped in a debugger is not worth keeping the data for, nor is one that takes a piece
+/// now and then. A slow line to another machine manages this rate, in bytes a second.
+constexpr std::chrono::milliseconds kPatience{10'000};
+constexpr qsizetype kSlowestRate = qsizetype{64} * 1024;
+
+} // namespace
+
 SelectionSender::SelectionSender(X11Connection &connection, Request request, xcb_atom_t type,
                                  const QByteArray &bytes)
     : m_connection(connection)
@@ -14,11 +23,12 @@ SelectionSender::SelectionSender(X11Connection &connection, Request request, xcb
     , m_type(type)
     , m_bytes(bytes)
 {
-    // A reader that is stopped in a debugger is not worth keeping the data for.
-    constexpr std::chrono::seconds kPatience{10};
     m_patience.setSingleShot(true);
     m_patience.setInterval(kPatience);
     connect(&m_patience, &QTimer::timeout, this, &SelectionSender::finish);
+    m_total.setSingleShot(true);
+    connect(&m_total, &QTimer::timeout, this, &SelectionSender::finish);
+    m_total.start(kPatience + std::chrono::milliseconds{bytes.size() * 1000 / kSlowestRate});
     connect(&connection, &X11Connection::eventReceived, this, &SelectionSender::onEvent);
     const auto size = static_cast<uint32_t>(bytes.size());
     xcb_change_property(connection.xcb(), XCB_PROP_MODE_REPLACE, request.requestor, request.property,
@@ -62,6 +72,7 @@ void SelectionSender::finish()
         return;
     m_isFinished = true;
     m_patience.stop();
+    m_total.stop();
     m_bytes.clear();
     Q_EMIT finished();
 }

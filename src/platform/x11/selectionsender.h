@@ -53,6 +53,7 @@ private:
     QByteArray m_bytes;
     qsizetype m_sent = 0;
     QTimer m_patience;
+    QTimer m_total;
     bool m_isFinished = false;
 };
 

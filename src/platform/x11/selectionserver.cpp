@@ -122,8 +122,7 @@ bool SelectionServer::convert(SelectionSender::Request request, xcb_atom_t targe
     const Representation *representation = findRepresentation(target);
     if (!representation)
         return false;
-    put(request, *representation);
-    return true;
+    return put(request, *representation);
 }
 
 bool SelectionServer::convertMultiple(SelectionSender::Request request)
@@ -135,7 +134,7 @@ bool SelectionServer::convertMultiple(SelectionSender::Request request)
     };
     const QByteArray bytes = m_connection.property(request.requestor, request.property);
     QList<Pair> pairs(bytes.size() / qsizetype{sizeof(Pair)});
-    if (pairs.isEmpty())
+    if (pairs.isEmpty() || pairs.size() > kMaximumPairs)
         return false;
     std::memcpy(pairs.data(), bytes.constData(), static_cast<size_t>(pairs.size()) * sizeof(Pair));
     for (Pair &pair : pairs) {
@@ -160,29 +159,34 @@ void SelectionServer::putTargets(SelectionSender::Request request)
                         XCB_ATOM_ATOM, 32, static_cast<uint32_t>(targets.size()), targets.constData());
 }
 
-void SelectionServer::put(SelectionSender::Request request, const Representation &representation)
+bool SelectionServer::put(SelectionSender::Request request, const Representation &representation)
 {
-    if (representation.bytes.size() > SelectionSender::kPiece) {
-        sendInPieces(request, representation);
-        return;
-    }
+    if (representation.bytes.size() > SelectionSender::kPiece)
+        return sendInPieces(request, representation);
     xcb_change_property(m_connection.xcb(), XCB_PROP_MODE_REPLACE, request.requestor, request.property,
                         representation.type, 8, static_cast<uint32_t>(representation.bytes.size()),
                         representation.bytes.constData());
+    return true;
 }
 
-void SelectionServer::sendInPieces(SelectionSender::Request request, const Representation &representation)
+bool SelectionServer::sendInPieces(SelectionSender::Request request, const Representation &representation)
 {
     // A reader that uses a property again has given up what it had asked for there.
     std::erase_if(m_senders, [&](const auto &sender) { return sender->request() == request; });
-    const uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
-    xcb_change_window_attributes(m_connection.xcb(), request.requestor, XCB_CW_EVENT_MASK, &events);
+    if (m_senders.size() >= kMaximumSenders)
+        return false;
+    // The window can be one of which Vesk hears other things, the root above all.
+    if (!m_heardEvents.contains(request.requestor)) {
+        constexpr uint32_t kEvents = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+        m_heardEvents.insert(request.requestor, m_connection.addEvents(request.requestor, kEvents));
+    }
     auto sender =
         std::make_unique<SelectionSender>(m_connection, request, representation.type, representation.bytes);
     connect(
         sender.get(), &SelectionSender::finished, this, [this, request] { onSent(request); },
         Qt::QueuedConnection);
     m_senders.push_back(std::move(sender));
+    return true;
 }
 
 void SelectionServer::onSent(SelectionSender::Request request)
@@ -193,8 +197,7 @@ void SelectionServer::onSent(SelectionSender::Request request)
         m_senders, [&](const auto &sender) { return sender->request().requestor == request.requestor; });
     if (isRead)
         return;
-    const uint32_t none = XCB_EVENT_MASK_NO_EVENT;
-    xcb_change_window_attributes(m_connection.xcb(), request.requestor, XCB_CW_EVENT_MASK, &none);
+    m_connection.removeEvents(request.requestor, m_heardEvents.take(request.requestor));
     m_connection.flush();
 }
 

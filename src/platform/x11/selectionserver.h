@@ -4,6 +4,7 @@
 #include "platform/pasteboard.h"
 #include "platform/x11/selectionsender.h"
 
+#include <QHash>
 #include <QList>
 #include <QObject>
 
@@ -24,6 +25,11 @@ class SelectionServer final : public QObject
     Q_OBJECT
 
 public:
+    /// How many forms a reader may ask for in one request, and how many long ones may be under way to
+    /// readers. No honest reader comes near.
+    static constexpr qsizetype kMaximumPairs = 256;
+    static constexpr size_t kMaximumSenders = 256;
+
     SelectionServer(X11Connection &connection, xcb_atom_t selection);
     /// Gives the selection up, if it has it.
     ~SelectionServer() override;
@@ -55,8 +61,8 @@ private:
     bool convert(SelectionSender::Request request, xcb_atom_t target);
     bool convertMultiple(SelectionSender::Request request);
     void putTargets(SelectionSender::Request request);
-    void put(SelectionSender::Request request, const Representation &representation);
-    void sendInPieces(SelectionSender::Request request, const Representation &representation);
+    bool put(SelectionSender::Request request, const Representation &representation);
+    bool sendInPieces(SelectionSender::Request request, const Representation &representation);
     void onSent(SelectionSender::Request request);
     [[nodiscard]] const Representation *findRepresentation(xcb_atom_t target) const;
 
@@ -69,6 +75,8 @@ private:
     std::optional<unsigned int> m_claim;
     QList<Representation> m_representations;
     std::vector<std::unique_ptr<SelectionSender>> m_senders;
+    /// The events that are heard of the readers' windows for the senders' sake.
+    QHash<xcb_window_t, uint32_t> m_heardEvents;
 };
 
 } // namespace vesk

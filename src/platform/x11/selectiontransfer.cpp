@@ -5,16 +5,29 @@
 
 #include <QCoroSignal>
 
+#include <algorithm>
 #include <memory>
 
 namespace vesk {
 
+namespace {
+
+using namespace std::chrono_literals;
+
+/// How long an owner that is left halfway may go on sending, by its longest silence and in all.
+constexpr auto kLingeringSilence = 10s;
+constexpr auto kLingering = 30s;
+/// What is asked of the server in one piece, in its units of 4 bytes.
+constexpr uint32_t kPieceWords = 1 << 18;
+
+} // namespace
+
 QCoro::Task<SelectionTransfer::Data> SelectionTransfer::read(X11Connection &connection, xcb_atom_t selection,
                                                              xcb_atom_t target, qsizetype limit,
-                                                             std::chrono::milliseconds patience)
+                                                             ReadingAllowance &allowance)
 {
     std::unique_ptr<SelectionTransfer> transfer(
-        new SelectionTransfer(connection, selection, target, limit, patience));
+        new SelectionTransfer(connection, selection, target, limit, allowance));
     if (!transfer->m_isFinished)
         co_await qCoro(transfer.get(), &SelectionTransfer::finished);
     Data data = std::move(transfer->m_data);
@@ -23,16 +36,28 @@ QCoro::Task<SelectionTransfer::Data> SelectionTransfer::read(X11Connection &conn
     co_return std::move(data);
 }
 
+QCoro::Task<SelectionTransfer::Data> SelectionTransfer::read(X11Connection &connection, xcb_atom_t selection,
+                                                             xcb_atom_t target, qsizetype limit,
+                                                             std::chrono::milliseconds patience)
+{
+    ReadingAllowance allowance({.silence = patience, .total = std::max(patience, kTotal), .bytes = limit});
+    co_return co_await read(connection, selection, target, limit, allowance);
+}
+
 SelectionTransfer::SelectionTransfer(X11Connection &connection, xcb_atom_t selection, xcb_atom_t target,
-                                     qsizetype limit, std::chrono::milliseconds patience)
+                                     qsizetype limit, ReadingAllowance &allowance)
     : m_connection(&connection)
     , m_window(xcb_generate_id(connection.xcb()))
     , m_property(connection.atom("VESK_SELECTION"))
-    , m_limit(limit)
+    , m_limit(std::min(limit, allowance.bytesLeft()))
+    , m_allowance(allowance)
 {
+    m_total.setSingleShot(true);
+    connect(&m_total, &QTimer::timeout, this, [this] { finish(Outcome::Stalled); });
+    m_total.start(std::max(0ms, allowance.timeLeft()));
     m_stall.setSingleShot(true);
     m_stall.setTimerType(Qt::PreciseTimer);
-    m_stall.setInterval(patience);
+    m_stall.setInterval(allowance.silence());
     connect(&m_stall, &QTimer::timeout, this, [this] { finish(Outcome::Stalled); });
     connect(&connection, &X11Connection::eventReceived, this, &SelectionTransfer::onEvent);
     // Nothing comes any more then, and whoever waits may not outlive the event loop.
@@ -75,58 +100,75 @@ void SelectionTransfer::onNotify(xcb_atom_t property)
         end(Outcome::Refused);
         return;
     }
-    Data first = takeProperty();
+    Data first = takeProperty(m_limit);
     if (first.type == m_connection->atom("INCR")) {
         m_isIncremental = true;
         m_stall.start();
         return;
     }
-    m_data = std::move(first);
-    end(m_data.type == XCB_ATOM_NONE ? Outcome::Refused : Outcome::Complete);
+    if (!m_isFinished) {
+        m_allowance.take(first.bytes.size());
+        m_data = std::move(first);
+    }
+    end(m_data.outcome);
 }
 
 void SelectionTransfer::onChunk()
 {
-    const Data chunk = takeProperty();
+    const Data chunk = takeProperty(m_isFinished ? 0 : m_limit - m_data.bytes.size());
     if (chunk.bytes.isEmpty()) {
         end(Outcome::Complete);
         return;
     }
-    if (m_isFinished) {
-        m_stall.start();
+    m_stall.start();
+    if (m_isFinished)
         return;
-    }
+    m_allowance.take(chunk.bytes.size());
+    m_total.start(std::max(0ms, m_allowance.timeLeft()));
     m_data.type = chunk.type;
     m_data.format = chunk.format;
     m_data.bytes += chunk.bytes;
-    if (m_data.bytes.size() > m_limit)
-        finish(Outcome::Complete);
-    else
-        m_stall.start();
+    if (chunk.outcome == Outcome::Cut || m_data.bytes.size() > m_limit)
+        finish(Outcome::Cut);
 }
 
-SelectionTransfer::Data SelectionTransfer::takeProperty()
+SelectionTransfer::Data SelectionTransfer::takeProperty(qsizetype limit)
 {
-    constexpr uint32_t kWhole = 1 << 28;
-    const auto cookie =
-        xcb_get_property(m_connection->xcb(), 1, m_window, m_property, XCB_GET_PROPERTY_TYPE_ANY, 0, kWhole);
-    const XReply<xcb_get_property_reply_t> reply(
-        xcb_get_property_reply(m_connection->xcb(), cookie, nullptr));
-    if (!reply)
-        return {};
-    const auto *bytes = static_cast<const char *>(xcb_get_property_value(reply.get()));
-    return {.type = reply->type,
-            .format = reply->format,
-            .bytes = QByteArray(bytes, xcb_get_property_value_length(reply.get()))};
+    Data data;
+    xcb_connection_t *xcb = m_connection->xcb();
+    for (uint32_t rest = 1; rest > 0;) {
+        // A property can be as long as the server's memory, so it is fetched piece by piece. The piece that
+        // is the last one deletes it.
+        const auto offset = static_cast<uint32_t>(data.bytes.size() / 4);
+        const auto words =
+            static_cast<uint32_t>(std::min<qsizetype>(kPieceWords, (limit - data.bytes.size()) / 4 + 1));
+        const auto cookie =
+            xcb_get_property(xcb, 1, m_window, m_property, XCB_GET_PROPERTY_TYPE_ANY, offset, words);
+        const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(xcb, cookie, nullptr));
+        if (!reply || reply->type == XCB_ATOM_NONE)
+            return {};
+        data.type = reply->type;
+        data.format = reply->format;
+        data.bytes.append(static_cast<const char *>(xcb_get_property_value(reply.get())),
+                          xcb_get_property_value_length(reply.get()));
+        rest = reply->bytes_after;
+        if (rest > 0 && data.bytes.size() > limit) {
+            xcb_delete_property(xcb, m_window, m_property);
+            m_connection->flush();
+            break;
+        }
+    }
+    data.outcome = data.bytes.size() > limit ? Outcome::Cut : Outcome::Complete;
+    return data;
 }
 
 void SelectionTransfer::linger()
 {
-    constexpr std::chrono::seconds kPatience{10};
     setParent(m_connection);
     connect(&m_stall, &QTimer::timeout, this, &QObject::deleteLater);
-    m_stall.setInterval(kPatience);
-    m_stall.start();
+    connect(&m_total, &QTimer::timeout, this, &QObject::deleteLater);
+    m_stall.start(kLingeringSilence);
+    m_total.start(kLingering);
 }
 
 void SelectionTransfer::end(Outcome outcome)
@@ -145,6 +187,7 @@ void SelectionTransfer::finish(Outcome outcome)
     m_isFinished = true;
     m_data.outcome = outcome;
     m_stall.stop();
+    m_total.stop();
     Q_EMIT finished();
 }
 

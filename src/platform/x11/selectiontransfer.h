@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/x11/readingallowance.h"
+
 #include <QCoroTask>
 
 #include <QByteArray>
@@ -16,8 +18,8 @@ namespace vesk {
 
 class X11Connection;
 
-/// One reading of a selection from its owner. Waits for the owner as long as data keeps coming, and
-/// gives up when it stalls.
+/// One reading of a selection from its owner. Waits as long as data keeps coming, within what the
+/// reading may cost.
 class SelectionTransfer final : public QObject
 {
     Q_OBJECT
@@ -25,9 +27,11 @@ class SelectionTransfer final : public QObject
 public:
     enum class Outcome {
         Complete,
+        /// There is more than the limit; only the beginning was read.
+        Cut,
         /// There is no owner, or it has no such form.
         Refused,
-        /// The owner did not answer, or stopped halfway.
+        /// The owner did not answer, stopped halfway, or took too long.
         Stalled,
     };
 
@@ -43,10 +47,16 @@ public:
 
     /// The longest silence of an owner that is taken for work.
     static constexpr std::chrono::milliseconds kDeadline{100};
+    /// How long an owner may take for a small answer, however it drips.
+    static constexpr std::chrono::milliseconds kTotal{1000};
 
-    /// The selection's data in the form `target`; worth something only if complete. Data beyond
-    /// `limit` bytes is not waited for, and what has come is returned. `patience` is the longest silence
-    /// of the owner that is borne.
+    /// The selection's data in the form `target`. Of data beyond `limit` bytes, or beyond what the
+    /// allowance has left, the outcome is `Cut`, and `bytes` holds more than that limit but not all. The
+    /// allowance must outlive the reading.
+    [[nodiscard]] static QCoro::Task<Data> read(X11Connection &connection, xcb_atom_t selection,
+                                                xcb_atom_t target, qsizetype limit,
+                                                ReadingAllowance &allowance);
+    /// The same with an allowance of its own. `patience` is the longest silence.
     [[nodiscard]] static QCoro::Task<Data> read(X11Connection &connection, xcb_atom_t selection,
                                                 xcb_atom_t target, qsizetype limit,
                                                 std::chrono::milliseconds patience = kDeadline);
@@ -58,13 +68,14 @@ Q_SIGNALS:
 
 private:
     SelectionTransfer(X11Connection &connection, xcb_atom_t selection, xcb_atom_t target, qsizetype limit,
-                      std::chrono::milliseconds patience);
+                      ReadingAllowance &allowance);
 
     void onEvent(const xcb_generic_event_t *event);
     void onNotify(xcb_atom_t property);
     void onChunk();
-    /// Takes the property of the transfer, which tells the owner that it may go on.
-    [[nodiscard]] Data takeProperty();
+    /// Reads at most a little more than `limit` bytes of the transfer's property and deletes it, which
+    /// tells the owner to go on. The outcome is `Complete`, `Cut`, or `Refused` if there is no property.
+    [[nodiscard]] Data takeProperty(qsizetype limit);
     /// Goes on taking what the owner still sends, without keeping it, after the reading was given up.
     /// An owner left halfway may not serve the next reading, and some die when their reader vanishes.
     void linger();
@@ -77,7 +88,11 @@ private:
     xcb_window_t m_window;
     xcb_atom_t m_property;
     qsizetype m_limit;
+    /// The owner's silence, and everything together. The data that comes pays for more time.
     QTimer m_stall;
+    QTimer m_total;
+    /// Not to be used after the reading has finished.
+    ReadingAllowance &m_allowance;
     bool m_isIncremental = false;
     bool m_isFinished = false;
     bool m_hasEnded = false;

@@ -101,6 +101,33 @@ QByteArray X11Connection::property(xcb_window_t window, xcb_atom_t name) const
     return {bytes, xcb_get_property_value_length(reply.get())};
 }
 
+uint32_t X11Connection::addEvents(xcb_window_t window, uint32_t events) const
+{
+    const std::optional<uint32_t> heard = ownEvents(window);
+    if (!heard)
+        return XCB_EVENT_MASK_NO_EVENT;
+    const uint32_t all = *heard | events;
+    xcb_change_window_attributes(m_connection, window, XCB_CW_EVENT_MASK, &all);
+    return events & ~*heard;
+}
+
+void X11Connection::removeEvents(xcb_window_t window, uint32_t events) const
+{
+    const std::optional<uint32_t> heard = ownEvents(window);
+    if (!heard || events == XCB_EVENT_MASK_NO_EVENT)
+        return;
+    const uint32_t rest = *heard & ~events;
+    xcb_change_window_attributes(m_connection, window, XCB_CW_EVENT_MASK, &rest);
+}
+
+std::optional<uint32_t> X11Connection::ownEvents(xcb_window_t window) const
+{
+    const auto cookie = xcb_get_window_attributes(m_connection, window);
+    const XReply<xcb_get_window_attributes_reply_t> reply(
+        xcb_get_window_attributes_reply(m_connection, cookie, nullptr));
+    return reply ? std::optional(reply->your_event_mask) : std::nullopt;
+}
+
 std::optional<quint32> X11Connection::property32(xcb_window_t window, xcb_atom_t name) const
 {
     const QByteArray bytes = property(window, name);

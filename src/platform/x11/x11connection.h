@@ -56,6 +56,11 @@ public:
     [[nodiscard]] QByteArray property(xcb_window_t window, xcb_atom_t name) const;
     /// The first 32-bit value of a property; none if it or the window does not exist.
     [[nodiscard]] std::optional<quint32> property32(xcb_window_t window, xcb_atom_t name) const;
+    /// Hears these events of a window, beside those that are heard of it already, and returns those of them
+    /// that were not. `removeEvents` ends that; it must get what this returned, so that whoever else hears
+    /// the window goes on hearing it.
+    [[nodiscard]] uint32_t addEvents(xcb_window_t window, uint32_t events) const;
+    void removeEvents(xcb_window_t window, uint32_t events) const;
     /// Process of the client that made a window or owns a selection with it; none if it is gone or
     /// the server cannot tell.
     [[nodiscard]] std::optional<qint64> clientProcess(xcb_window_t window) const;
@@ -79,6 +84,8 @@ private:
     /// Why the server will not do; empty if it will.
     [[nodiscard]] QString setUpExtensions();
     void listen();
+    /// The events of a window that this connection hears; nullopt if there is no such window.
+    [[nodiscard]] std::optional<uint32_t> ownEvents(xcb_window_t window) const;
     void readEvents();
 
     xcb_connection_t *m_connection;

@@ -20,6 +20,22 @@ namespace {
 /// secrecy was asked of another owner, so it is done again; some applications claim twice for one copy.
 constexpr int kAttempts = 3;
 
+/// How soon a clipboard manager claims what it has kept of an owner that went, in the server's time.
+constexpr xcb_timestamp_t kTakeoverMilliseconds = 2000;
+
+xcb_atom_t selectionOf(const X11Connection &connection, X11Pasteboard::Kind kind)
+{
+    switch (kind) {
+    case X11Pasteboard::Kind::Clipboard:
+        return connection.atom("CLIPBOARD");
+    case X11Pasteboard::Kind::Primary:
+        return XCB_ATOM_PRIMARY;
+    case X11Pasteboard::Kind::Dragged:
+        return connection.atom("XdndSelection");
+    }
+    Q_UNREACHABLE();
+}
+
 bool isLatin1(const QString &text)
 {
     return std::ranges::all_of(text, [](QChar character) { return character.row() == 0; });
@@ -29,7 +45,7 @@ bool isLatin1(const QString &text)
 
 X11Pasteboard::X11Pasteboard(X11Connection &connection, Kind kind)
     : m_connection(connection)
-    , m_selection(kind == Kind::Primary ? xcb_atom_t{XCB_ATOM_PRIMARY} : connection.atom("CLIPBOARD"))
+    , m_selection(selectionOf(connection, kind))
     , m_server(connection, m_selection)
 {
     connect(&connection, &X11Connection::eventReceived, this, &X11Pasteboard::onEvent);
@@ -52,18 +68,19 @@ Pasteboard::Origin X11Pasteboard::origin() const
 {
     if (m_server.isOwner())
         return {.processIdentifier = QCoreApplication::applicationPid(),
-                .delay = std::chrono::milliseconds{0}};
-    if (!m_owner)
-        return {};
-    return {.processIdentifier = m_connection.clientProcess(*m_owner), .delay = m_delay};
+                .delay = std::chrono::milliseconds{0},
+                .claim = Claim::Ordinary};
+    return m_origin.value_or(Origin());
 }
 
 QCoro::Task<QList<PasteboardItem>> X11Pasteboard::pasteboardItems()
 {
     const QPointer<X11Pasteboard> self(this);
+    ReadingAllowance allowance(selectioncontent::kEverything);
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
         const qint64 count = m_changeCount;
-        const PasteboardItem item = co_await selectioncontent::representations(m_connection, m_selection);
+        const PasteboardItem item =
+            co_await selectioncontent::representations(m_connection, m_selection, allowance);
         if (self.isNull())
             break;
         if (count != m_changeCount)
@@ -76,12 +93,15 @@ QCoro::Task<QList<PasteboardItem>> X11Pasteboard::pasteboardItems()
     co_return QList<PasteboardItem>();
 }
 
-QCoro::Task<std::optional<QString>> X11Pasteboard::string()
+QCoro::Task<std::optional<QString>> X11Pasteboard::string(Patience patience)
 {
     const QPointer<X11Pasteboard> self(this);
+    ReadingAllowance allowance(patience == Patience::Long ? selectioncontent::kLong
+                                                          : selectioncontent::kShort);
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
         const qint64 count = m_changeCount;
-        const std::optional<QString> text = co_await selectioncontent::text(m_connection, m_selection);
+        const std::optional<QString> text =
+            co_await selectioncontent::text(m_connection, m_selection, allowance);
         if (self.isNull())
             break;
         if (count == m_changeCount)
@@ -140,11 +160,35 @@ void X11Pasteboard::onEvent(const xcb_generic_event_t *event)
     const bool isCounted = notify->owner == m_server.window() || m_server.isOlderThanOffer(event);
     if (notify->selection != m_selection || isCounted)
         return;
-    m_owner = notify->owner;
     // Most applications claim a selection with the time of the key that the user copied by.
     const auto late = static_cast<int32_t>(notify->timestamp - notify->selection_timestamp);
-    m_delay = std::chrono::milliseconds{std::max(late, int32_t{0})};
+    m_origin = {.processIdentifier = m_connection.clientProcess(notify->owner),
+                .delay = std::chrono::milliseconds{std::max(late, int32_t{0})},
+                .claim = claimOf(*notify)};
+    if (notify->owner == XCB_WINDOW_NONE)
+        m_lossTime = notify->timestamp;
+    else
+        m_lossTime.reset();
     rise();
+}
+
+std::optional<qint64> X11Pasteboard::frontmostProcess() const
+{
+    const std::optional<quint32> window =
+        m_connection.property32(m_connection.root(), m_connection.atom("_NET_ACTIVE_WINDOW"));
+    return window && *window != XCB_WINDOW_NONE ? m_connection.clientProcess(*window) : std::nullopt;
+}
+
+Pasteboard::Claim X11Pasteboard::claimOf(const xcb_xfixes_selection_notify_event_t &notify) const
+{
+    const std::optional<qint64> frontmost = frontmostProcess();
+    const std::optional<qint64> owner = m_connection.clientProcess(notify.owner);
+    const bool areKnown = frontmost && owner;
+    if (areKnown && frontmost == owner)
+        return Claim::Ordinary;
+    if (m_lossTime && notify.timestamp - *m_lossTime < kTakeoverMilliseconds)
+        return Claim::AfterLoss;
+    return areKnown ? Claim::Aside : Claim::Ordinary;
 }
 
 void X11Pasteboard::rise()

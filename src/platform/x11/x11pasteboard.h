@@ -5,13 +5,15 @@
 #include "platform/x11/selectionserver.h"
 
 #include <xcb/xcb.h>
+#include <xcb/xfixes.h>
 
 namespace vesk {
 
 class X11Connection;
 
-/// A selection that is used like a pasteboard: CLIPBOARD, or PRIMARY, which the middle mouse button
-/// pastes. It holds one item at most, whose types are its owner's targets.
+/// A selection that is used like a pasteboard: CLIPBOARD, PRIMARY, which the middle mouse button
+/// pastes, or XdndSelection, which holds what is being dragged. It holds one item at most, whose types are
+/// its owner's targets.
 class X11Pasteboard final : public Pasteboard
 {
     Q_OBJECT
@@ -20,6 +22,7 @@ public:
     enum class Kind {
         Clipboard,
         Primary,
+        Dragged,
     };
 
     explicit X11Pasteboard(X11Connection &connection, Kind kind = Kind::Clipboard);
@@ -28,7 +31,8 @@ public:
     [[nodiscard]] bool hasContents() const override;
     [[nodiscard]] Origin origin() const override;
     QCoro::Task<QList<PasteboardItem>> pasteboardItems() override;
-    QCoro::Task<std::optional<QString>> string() override;
+    using Pasteboard::string;
+    QCoro::Task<std::optional<QString>> string(Patience patience) override;
     void clearContents() override;
     void setString(const QString &text) override;
     /// Items beyond the first add the types that those before them lack.
@@ -40,6 +44,9 @@ public:
 
 private:
     [[nodiscard]] bool hasOwner(xcb_atom_t selection) const;
+    /// The process whose window the user works with; nullopt if there is none.
+    [[nodiscard]] std::optional<qint64> frontmostProcess() const;
+    [[nodiscard]] Claim claimOf(const xcb_xfixes_selection_notify_event_t &notify) const;
     void onEvent(const xcb_generic_event_t *event);
     void rise();
 
@@ -47,10 +54,11 @@ private:
     xcb_atom_t m_selection;
     SelectionServer m_server;
     qint64 m_changeCount = 0;
-    /// The window that owned the selection after the last change by another application; none before
-    /// the first.
-    std::optional<xcb_window_t> m_owner;
-    std::chrono::milliseconds m_delay{0};
+    /// The last change by another application; nullopt before the first.
+    std::optional<Origin> m_origin;
+    /// When the last owner but one went without another having claimed the selection, by the server's
+    /// clock; nullopt if it did not.
+    std::optional<xcb_timestamp_t> m_lossTime;
 };
 
 } // namespace vesk

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/contentforms.h"
+
+#include <algorithm>
+#include <array>
+
+namespace vesk::contentforms {
+
+namespace {
+
+/// TEXT is whichever encoding the owner likes, which only it can tell.
+constexpr std::array<QByteArrayView, 8> kProtocolTargets{
+    "TARGETS", "TIMESTAMP",        "MULTIPLE",        "SAVE_TARGETS",
+    "DELETE",  "INSERT_SELECTION", "INSERT_PROPERTY", "TEXT",
+};
+
+/// Unicode texts. Each of them holds whatever a plain text in any other encoding does.
+constexpr std::array<QByteArrayView, 3> kUnicodeTexts{"UTF8_STRING", "text/plain;charset=utf-8",
+                                                      "text/plain;charset=UTF-8"};
+/// What can be made of them, besides plain text in other encodings. The last one is good within its own
+/// program only.
+constexpr std::array<QByteArrayView, 4> kMadeOfUnicode{"STRING", "COMPOUND_TEXT", "C_STRING",
+                                                       "GTK_TEXT_BUFFER_CONTENTS"};
+
+constexpr QByteArrayView kPicture = "image/png";
+/// What the toolkits convert pictures into besides. Formats that can move (GIF, WebP, AVIF), that hold
+/// outlines (SVG) or layers are not among them: such a picture is more than its PNG.
+constexpr std::array<QByteArrayView, 25> kMadeOfPicture{
+    "image/bmp",
+    "image/x-bmp",
+    "image/x-MS-bmp",
+    "image/x-ms-bmp",
+    "image/x-win-bitmap",
+    "image/jpeg",
+    "image/jpg",
+    "image/tiff",
+    "image/tif",
+    "image/x-icon",
+    "image/x-ico",
+    "image/ico",
+    "image/icon",
+    "image/cur",
+    "image/icns",
+    "image/vnd.microsoft.icon",
+    "image/vnd.wap.wbmp",
+    "image/x-portable-anymap",
+    "image/x-portable-bitmap",
+    "image/x-portable-graymap",
+    "image/x-portable-pixmap",
+    "image/x-xbitmap",
+    "image/x-xpixmap",
+    "application/ico",
+    "application/x-qt-image",
+};
+
+bool contains(const auto &names, QByteArrayView name)
+{
+    return std::ranges::find(names, name) != names.end();
+}
+
+} // namespace
+
+bool isContent(QByteArrayView target)
+{
+    return !contains(kProtocolTargets, target);
+}
+
+QByteArray sourceOf(const QByteArray &target, const QList<QByteArray> &offered)
+{
+    if (contains(kMadeOfPicture, target))
+        return offered.contains(kPicture) ? kPicture.toByteArray() : QByteArray();
+    const bool isPlainText = target == "text/plain" || target.startsWith("text/plain;")
+                             || target == kUnicodeTexts.front() || contains(kMadeOfUnicode, target);
+    if (!isPlainText)
+        return {};
+    const auto *const best =
+        std::ranges::find_if(kUnicodeTexts, [&](QByteArrayView name) { return offered.contains(name); });
+    // The best of them is made of nothing else.
+    return best == kUnicodeTexts.end() || *best == target ? QByteArray() : best->toByteArray();
+}
+
+} // namespace vesk::contentforms
