@@ -5,6 +5,7 @@
 #include "platform/clock.h"
 #include "platform/pasteboard.h"
 
+#include <QHashFunctions>
 #include <QPointer>
 
 namespace vesk {
@@ -19,6 +20,7 @@ PasteboardWatcher::PasteboardWatcher(Pasteboard &pasteboard, Clock &clock)
     : m_pasteboard(pasteboard)
     , m_clock(clock)
     , m_changeCount(pasteboard.changeCount())
+    , m_hasContents(pasteboard.hasContents())
 {
 }
 
@@ -31,6 +33,7 @@ void PasteboardWatcher::start()
         connect(&m_pasteboard, &Pasteboard::changed, this, &PasteboardWatcher::look);
     else
         lookNowAndThen();
+    recognise();
 }
 
 void PasteboardWatcher::markOwn()
@@ -41,29 +44,47 @@ void PasteboardWatcher::markOwn()
 PasteboardWatcher::Standing PasteboardWatcher::standing()
 {
     look();
-    return {.changedAt = m_changedAt, .isOwn = holdsOwn()};
+    return current();
+}
+
+PasteboardWatcher::Standing PasteboardWatcher::current() const
+{
+    return {.changedAt = m_changedAt,
+            .isOwn = m_ownPasteChangeCount == m_changeCount,
+            .fingerprint = m_fingerprint};
 }
 
 void PasteboardWatcher::markRestored(const Standing &standing)
 {
     m_changeCount = m_pasteboard.changeCount();
     m_changedAt = standing.changedAt;
+    m_fingerprint = standing.fingerprint;
+    m_hasContents = m_pasteboard.hasContents();
     if (standing.isOwn)
         m_ownPasteChangeCount = m_changeCount;
 }
 
 QCoro::Task<std::optional<QString>> PasteboardWatcher::recentCopy(std::chrono::milliseconds maximumAge)
 {
-    if (holdsOwn())
-        co_return std::nullopt;
-    // Content that differs from what was seen last is newer than the last look, and needs no test.
-    const bool isSeen = m_pasteboard.changeCount() == m_changeCount;
-    if (isSeen && (!m_changedAt || m_clock.monotonic() - *m_changedAt > maximumAge))
+    // Content that was not seen yet is newer than the last look.
+    look();
+    // The time that the owner takes to answer does not count.
+    const std::chrono::microseconds asked = m_clock.monotonic();
+    const auto isRecent = [this, asked, maximumAge] {
+        return !holdsOwn() && m_changedAt && asked - *m_changedAt <= maximumAge;
+    };
+    if (!isRecent())
         co_return std::nullopt;
     const QPointer<PasteboardWatcher> self(this);
+    const qint64 count = m_changeCount;
     const std::optional<QString> string = co_await m_pasteboard.string();
-    // This program may have written while the owner was asked.
-    if (!string || self.isNull() || holdsOwn())
+    if (!string || self.isNull())
+        co_return std::nullopt;
+    look();
+    if (m_changeCount == count)
+        compareWithPrevious(*string);
+    // This program may have written while the owner was asked, or the content turns out to be older.
+    if (!isRecent())
         co_return std::nullopt;
     const QString text = markup::trimmed(*string);
     if (text.isEmpty())
@@ -73,12 +94,47 @@ QCoro::Task<std::optional<QString>> PasteboardWatcher::recentCopy(std::chrono::m
 
 void PasteboardWatcher::look()
 {
-    const qint64 current = m_pasteboard.changeCount();
-    if (current == m_changeCount)
+    const qint64 count = m_pasteboard.changeCount();
+    if (count == m_changeCount)
         return;
-    m_changeCount = current;
+    // An owner that goes leaves nothing behind; the next one may bring the same content again.
+    if (m_hasContents)
+        m_previous = current();
+    m_changeCount = count;
     m_changedAt = m_clock.monotonic();
+    m_fingerprint.reset();
+    m_hasContents = m_pasteboard.hasContents();
     Q_EMIT changed();
+    recognise();
+}
+
+QCoro::Task<> PasteboardWatcher::recognise()
+{
+    if (!m_hasContents)
+        co_return;
+    const QPointer<PasteboardWatcher> self(this);
+    const qint64 count = m_changeCount;
+    const std::optional<QString> text = co_await m_pasteboard.string();
+    if (!self.isNull() && text && m_changeCount == count && m_pasteboard.changeCount() == count)
+        compareWithPrevious(*text);
+}
+
+void PasteboardWatcher::compareWithPrevious(const QString &text)
+{
+    using Claim = Pasteboard::Claim;
+    // Some clipboard managers leave out white space at the ends.
+    m_fingerprint = qHash(markup::trimmed(text), static_cast<size_t>(QHashSeed::globalSeed()));
+    if (!m_previous)
+        return;
+    const Claim claim = m_pasteboard.origin().claim;
+    const bool isSame = m_previous->fingerprint == m_fingerprint;
+    // An owner that goes before its text was known is followed by a manager at once, by users later.
+    const bool isPerhapsSame = claim == Claim::AfterLoss && !m_previous->fingerprint;
+    if (claim == Claim::Ordinary || !(isSame || isPerhapsSame))
+        return;
+    m_changedAt = m_previous->changedAt;
+    if (m_previous->isOwn)
+        m_ownPasteChangeCount = m_changeCount;
 }
 
 QCoro::Task<> PasteboardWatcher::lookNowAndThen()

@@ -28,9 +28,11 @@ public:
         std::optional<std::chrono::microseconds> changedAt;
         /// Whether this program wrote it by itself, to be pasted.
         bool isOwn = false;
+        /// Tells the text from others, without keeping it; nullopt while it is not known.
+        std::optional<size_t> fingerprint;
     };
 
-    /// Both have to outlive the watcher.
+    /// Both must outlive the watcher.
     PasteboardWatcher(Pasteboard &pasteboard, Clock &clock);
 
     /// Begins to watch; a second call does nothing. Wakes up every 0.5 seconds, but where the
@@ -47,7 +49,8 @@ public:
     void markRestored(const Standing &standing);
 
     /// The pasteboard's text without white space at its ends, if the user put it there within the
-    /// last `maximumAge`. None if it is older, this program's own, empty or no text.
+    /// last `maximumAge`. Nullopt if it is older, this program's own, empty or not text. A content that
+    /// another program, such as a clipboard manager, has taken over is as old as it was.
     QCoro::Task<std::optional<QString>> recentCopy(std::chrono::milliseconds maximumAge);
 
 Q_SIGNALS:
@@ -58,6 +61,12 @@ private:
     void look();
     QCoro::Task<> lookNowAndThen();
     [[nodiscard]] bool holdsOwn() const;
+    /// What is known of the content that was seen last.
+    [[nodiscard]] Standing current() const;
+    /// Reads the text of the content of now, to know it again.
+    QCoro::Task<> recognise();
+    /// Gives the content of now, with this text, the standing of the one before if it is the same.
+    void compareWithPrevious(const QString &text);
 
     Pasteboard &m_pasteboard;
     Clock &m_clock;
@@ -65,6 +74,11 @@ private:
     /// The content seen last, and when it was first seen.
     qint64 m_changeCount;
     std::optional<std::chrono::microseconds> m_changedAt;
+    std::optional<size_t> m_fingerprint;
+    /// False after an owner has gone that nobody has followed yet.
+    bool m_hasContents;
+    /// The content before, if there was any.
+    std::optional<Standing> m_previous;
     std::optional<qint64> m_ownPasteChangeCount;
 };
 

@@ -26,6 +26,9 @@ private Q_SLOTS:
     void whiteSpaceAndPictures();
     void ownContent();
     void restoredContentKeepsItsStanding();
+    void takenOverContentKeepsItsStanding_data();
+    void takenOverContentKeepsItsStanding();
+    void ownContentThatIsTakenOverStaysOwn();
     void reportedChangesNeedNoWakeUps();
 
 private:
@@ -130,6 +133,56 @@ void TestPasteboardWatcher::restoredContentKeepsItsStanding()
     QCOMPARE(recent(), u"word"_s);
     m_clock->advance(1ms);
     QCOMPARE(recent(), u"-"_s);
+}
+
+void TestPasteboardWatcher::takenOverContentKeepsItsStanding_data()
+{
+    using Claim = Pasteboard::Claim;
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<Pasteboard::Claim>("claim");
+    QTest::addColumn<bool>("isOwnerGone");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("by a manager after the owner quit") << u"word"_s << Claim::AfterLoss << true << u"-"_s;
+    QTest::newRow("by a manager before the owner quits") << u"word"_s << Claim::Aside << false << u"-"_s;
+    QTest::newRow("without white space at its end") << u"word"_s << Claim::AfterLoss << false << u"-"_s;
+    QTest::newRow("another text, chosen in a manager") << u"other"_s << Claim::Aside << false << u"other"_s;
+    QTest::newRow("another text, right after an owner quit")
+        << u"other"_s << Claim::AfterLoss << true << u"other"_s;
+    QTest::newRow("the same text, copied again") << u"word"_s << Claim::Ordinary << false << u"word"_s;
+}
+
+void TestPasteboardWatcher::takenOverContentKeepsItsStanding()
+{
+    QFETCH(const QString, text);
+    QFETCH(const Pasteboard::Claim, claim);
+    QFETCH(const bool, isOwnerGone);
+    m_watcher->start();
+    m_pasteboard->setString(u"word\n"_s);
+    m_clock->advance(7s);
+    if (isOwnerGone)
+        m_pasteboard->clearContents();
+    m_pasteboard->setOrigin({.processIdentifier = {}, .delay = {}, .claim = claim});
+    m_pasteboard->setString(text);
+    // The copy itself is still fresh, whoever has it now.
+    QCOMPARE(recent(), text);
+    m_clock->advance(2s);
+    QTEST(recent(), "expected");
+    // And a manager may claim it again and again.
+    m_pasteboard->setOrigin({.processIdentifier = {}, .delay = {}, .claim = Pasteboard::Claim::Aside});
+    m_clock->advance(7s);
+    m_pasteboard->setString(text);
+    QCOMPARE(recent(), u"-"_s);
+}
+
+void TestPasteboardWatcher::ownContentThatIsTakenOverStaysOwn()
+{
+    m_watcher->start();
+    m_pasteboard->setString(u"pasted by Vesk"_s);
+    m_watcher->markOwn();
+    m_pasteboard->setOrigin({.processIdentifier = {}, .delay = {}, .claim = Pasteboard::Claim::Aside});
+    m_pasteboard->setString(u"pasted by Vesk"_s);
+    QCOMPARE(recent(), u"-"_s);
+    QVERIFY(m_watcher->standing().isOwn);
 }
 
 void TestPasteboardWatcher::reportedChangesNeedNoWakeUps()
