@@ -135,6 +135,8 @@ QVariantList AccessibleApplication::answer(const QDBusMessage &message)
         const QList<uint> part = characters.mid(start, end - start);
         return {QString::fromUcs4(reinterpret_cast<const char32_t *>(part.constData()), part.size())};
     }
+    if (member == "GetCharacterAtOffset"_L1)
+        return {static_cast<int>(object.text.toUcs4().value(asked.value(0).toInt()))};
     if (m_manner.hasLinks && member == "GetLinkIndex"_L1)
         return {static_cast<int>(object.children.indexOf(embeddedAt(object, asked.value(0).toInt())))};
     if (m_manner.hasLinks && member == "GetLink"_L1)

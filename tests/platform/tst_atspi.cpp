@@ -222,6 +222,7 @@ void TestAtSpi::selectedText_data()
     QTest::newRow("part") << window(plain(u"one two"_s, {{4, 7}})) << u"two"_s;
     QTest::newRow("backwards, beyond the basic plane")
         << window(plain(u"\U0001f600 two"_s, {{3, 0}})) << u"\U0001f600 t"_s;
+    QTest::newRow("begins with U+FEFF") << window(plain(u"a\ufeffone"_s, {{1, 5}})) << u"\ufeffone"_s;
     QTest::newRow("nothing selected is sure") << window(plain(u"one"_s, {})) << QString();
     QTest::newRow("empty selection") << window(plain(u"one"_s, {{1, 1}})) << QString();
     QTest::newRow("several ranges") << window(plain(u"one two three"_s, {{0, 3}, {8, 13}}))

@@ -54,6 +54,12 @@ bool isApart(const QString &role)
     return roles.contains(role);
 }
 
+/// Places are in characters.
+qsizetype charactersIn(QStringView text)
+{
+    return text.size() - std::ranges::count_if(text, [](QChar unit) { return unit.isLowSurrogate(); });
+}
+
 QCoro::Task<std::optional<QString>> readPlain(AtSpiQuestion question, AtSpiReference object, AtSpiRange range)
 {
     QVariantList arguments;
@@ -62,7 +68,16 @@ QCoro::Task<std::optional<QString>> readPlain(AtSpiQuestion question, AtSpiRefer
     const std::optional<QVariantList> reply = co_await question.call(object, kText, u"GetText"_s, arguments);
     if (!reply)
         co_return std::nullopt;
-    co_return reply->value(0).toString();
+    QString text = reply->value(0).toString();
+    // QtDBus takes a U+FEFF at the beginning of a string for a byte order mark, and drops it.
+    if (charactersIn(text) == range.end - range.start - 1) {
+        const QVariantList first(1, range.start);
+        const std::optional<QVariantList> character =
+            co_await question.call(object, kText, u"GetCharacterAtOffset"_s, first);
+        if (character && character->value(0).toUInt() == QChar::ByteOrderMark)
+            text.prepend(QChar::ByteOrderMark);
+    }
+    co_return std::move(text);
 }
 
 /// What stands in the text of `object` at this place, by way of its links; null if it knows none.
