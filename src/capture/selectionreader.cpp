@@ -83,6 +83,7 @@ QCoro::Task<SelectionReader::Reading> SelectionReader::readSelection()
 {
     const QPointer<SelectionReader> self(this);
     const EventPoster::Target target = m_needs.poster.target();
+    m_wasPasteboardInTheWay = false;
     const SelectedText selected = co_await m_needs.accessibility.selectedText();
     // The user may have withdrawn the trust meanwhile.
     if (self.isNull() || !m_needs.accessibility.isProcessTrusted())
@@ -92,6 +93,8 @@ QCoro::Task<SelectionReader::Reading> SelectionReader::readSelection()
         text = co_await m_needs.watcher.recentCopy(kRecentCopyAge);
     if (text)
         co_return Reading{.text = text};
+    if (!self.isNull() && m_wasPasteboardInTheWay)
+        co_return Reading{.lack = Reading::Lack::PasteboardInTheWay};
     if (selected.isSilent)
         co_return Reading{.lack = Reading::Lack::NoAnswer};
     co_return Reading{.lack = selected.isClaimed ? Reading::Lack::NotGiven : Reading::Lack::None};
@@ -114,6 +117,8 @@ QCoro::Task<std::optional<QString>> SelectionReader::readSelected(EventPoster::T
     if (selected.finding == SelectedText::Finding::Nothing)
         co_return std::nullopt;
     const std::optional<QString> copied = co_await m_copy.copySelection(target);
+    if (!self.isNull())
+        m_wasPasteboardInTheWay = m_copy.wasPasteboardInTheWay();
     // Some editors copy the caret's line where nothing is selected.
     if (!copied || (isWholeLine(*copied) && !selected.isClaimed))
         co_return std::nullopt;

@@ -53,6 +53,9 @@ public:
             NoAnswer,
             /// The application says that something is selected, and did not hand it over.
             NotGiven,
+            /// The application was not made to copy, since what is on the pasteboard could not have been put
+            /// back.
+            PasteboardInTheWay,
         };
 
         /// Without white space at its ends; nullopt if that leaves nothing.
@@ -86,6 +89,8 @@ private:
 
     Needs m_needs;
     SyntheticCopy m_copy;
+    /// Of the reading that is under way, or the last one.
+    bool m_wasPasteboardInTheWay = false;
 };
 
 } // namespace vesk

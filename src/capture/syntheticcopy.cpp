@@ -49,6 +49,7 @@ QCoro::Task<std::optional<QString>> SyntheticCopy::copySelection(EventPoster::Ta
     if (m_isCopying)
         co_return std::nullopt;
     m_isCopying = true;
+    m_wasPasteboardInTheWay = false;
     m_late.reset();
     const QPointer<SyntheticCopy> self(this);
     const std::optional<QString> copied = co_await copyAndRestore(target);
@@ -66,8 +67,12 @@ QCoro::Task<std::optional<QString>> SyntheticCopy::copyAndRestore(EventPoster::T
     const std::optional<RunningApplication> application = m_needs.workspace.frontmostApplication();
     const qint64 before = pasteboard.changeCount();
     const std::optional<Saved> saved = co_await save();
-    if (self.isNull() || !saved)
+    if (self.isNull())
         co_return std::nullopt;
+    if (!saved) {
+        m_wasPasteboardInTheWay = pasteboard.changeCount() == before && pasteboard.hasContents();
+        co_return std::nullopt;
+    }
     // While a key is still held the user may copy something, by the mouse or elsewhere. That is newer
     // than what was selected, and the application's copy would take it away.
     const std::function<bool()> isWanted = [self, before] {

@@ -44,6 +44,10 @@ public:
     /// not answered yet. The pasteboard then has what it had before, or what the user has copied meanwhile.
     QCoro::Task<std::optional<QString>> copySelection(EventPoster::Target target);
 
+    /// Whether the last question was not asked because what is on the pasteboard could not have been put
+    /// back.
+    [[nodiscard]] bool wasPasteboardInTheWay() const { return m_wasPasteboardInTheWay; }
+
 private:
     /// What the user has on the pasteboard.
     struct Saved
@@ -94,6 +98,7 @@ private:
 
     Needs m_needs;
     bool m_isCopying = false;
+    bool m_wasPasteboardInTheWay = false;
     /// What is to be put back if the application still copies, after nobody waits for it any more.
     std::optional<Late> m_late;
     /// Counts the waits for a late copy.

@@ -24,6 +24,9 @@ namespace {
 
 /// A second press within this time is a slip of the finger.
 constexpr std::chrono::seconds kCommandGap{2};
+/// The longest time that a key of the panel waits for a reading. An application that answers slowly must
+/// not keep the user from the notes.
+constexpr std::chrono::seconds kLongestHold{1};
 
 const QString kDone = notices::kSaved.symbol.toString();
 const QString kTrouble = notices::kNotSaved.symbol.toString();
@@ -50,6 +53,10 @@ QString remarkOn(SelectionReader::Reading::Lack lack, const QString &application
             .arg(application);
     case Lack::NotGiven:
         return VeskServices::tr("%1 did not hand over the selected text.").arg(application);
+    case Lack::PasteboardInTheWay:
+        return VeskServices::tr("Vesk could not read what is selected in %1 without losing what is on the "
+                                "clipboard.")
+            .arg(application);
     case Lack::None:
         break;
     }
@@ -101,10 +108,14 @@ void VeskServices::start()
 void VeskServices::perform(quint32 id)
 {
     // With the focus, the panel would take away the selection that is being read.
-    if (m_readings > 0 && (id == hotkeytable::kOpen.id || id == hotkeytable::kWrite.id)) {
-        m_heldBack.append(id);
-        return;
-    }
+    if (m_readings > 0 && (id == hotkeytable::kOpen.id || id == hotkeytable::kWrite.id))
+        holdBack(id);
+    else
+        performNow(id);
+}
+
+void VeskServices::performNow(quint32 id)
+{
     switch (id) {
     case hotkeytable::kQuickNote.id:
         capture(Target::NewNote);
@@ -134,10 +145,33 @@ void VeskServices::perform(quint32 id)
 
 void VeskServices::endReading()
 {
-    if (--m_readings > 0)
+    if (--m_readings == 0)
+        performHeldBack();
+}
+
+void VeskServices::holdBack(quint32 id)
+{
+    if (m_heldBack.contains(id))
         return;
+    m_heldBack.append(id);
+    if (m_heldBack.size() == 1)
+        stopHoldingLater();
+}
+
+QCoro::Task<> VeskServices::stopHoldingLater()
+{
+    const QPointer<VeskServices> self(this);
+    const int hold = ++m_holds;
+    co_await m_needs.clock.sleep(kLongestHold);
+    // The reading may have ended, and another one may hold keys by now.
+    if (!self.isNull() && m_holds == hold)
+        performHeldBack();
+}
+
+void VeskServices::performHeldBack()
+{
     for (const quint32 id : std::exchange(m_heldBack, {}))
-        perform(id);
+        performNow(id);
 }
 
 void VeskServices::followTrust()
@@ -237,10 +271,15 @@ QCoro::Task<> VeskServices::savePromptSelection()
 {
     const QPointer<VeskServices> self(this);
     const auto reading = beginReading();
+    const Source press = m_needs.reader.readSource();
     const SelectionReader::Reading read = co_await m_needs.reader.readSelection();
-    // Two taps of Shift mean nothing else where nothing is selected, so nothing is said.
-    if (!self.isNull() && read.text)
+    if (self.isNull())
+        co_return;
+    // Two taps of Shift mean nothing else where nothing is selected, so nothing is said then.
+    if (read.text)
         keepPrompt(*read.text);
+    else if (press && read.lack == SelectionReader::Reading::Lack::PasteboardInTheWay)
+        m_needs.toast.show(remarkOn(read.lack, press->source.app), kTrouble);
 }
 
 QCoro::Task<VeskServices::Reading> VeskServices::readSelection(Source press)

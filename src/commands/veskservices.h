@@ -107,6 +107,7 @@ private:
     };
 
     void perform(quint32 id);
+    void performNow(quint32 id);
     /// Marks a reading as under way for as long as what is returned lives.
     [[nodiscard]] auto beginReading()
     {
@@ -117,6 +118,9 @@ private:
         });
     }
     void endReading();
+    void holdBack(quint32 id);
+    QCoro::Task<> stopHoldingLater();
+    void performHeldBack();
     /// Listens for the double Shift as far as the user lets it and wants it.
     void followTrust();
     /// Whether a command follows the last one too soon; if not, it is the last one from now on.
@@ -148,8 +152,10 @@ private:
     Instant m_lastPrompt;
     bool m_hasAskedForAccess = false;
     int m_readings = 0;
-    /// The keys of the panel that were pressed during a reading.
+    /// The keys of the panel that were pressed during a reading, each once.
     QList<quint32> m_heldBack;
+    /// Counts the times that keys were held back.
+    int m_holds = 0;
 };
 
 } // namespace vesk

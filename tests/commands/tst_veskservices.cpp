@@ -31,6 +31,9 @@ private Q_SLOTS:
     void missingTextIsExplained();
     void sameKeyClosesTheBox();
     void trustWithdrawnWhileReading();
+    void panelKeysWaitForAReadingNoLongerThanASecond();
+    void clipboardThatCannotBeKeptIsToldOf_data() { commands(); }
+    void clipboardThatCannotBeKeptIsToldOf();
     void doubleShiftIsHeardOnlyWithTrust();
     void checklistKeyIsLeftToItsOwner();
 
@@ -293,6 +296,57 @@ void TestVeskServices::trustWithdrawnWhileReading()
     QVERIFY(world.texts().isEmpty());
     QVERIFY(world.box.isShowing());
     QCOMPARE(world.accessibility.askCount(), 1);
+}
+
+void TestVeskServices::clipboardThatCannotBeKeptIsToldOf()
+{
+    QFETCH(const Command, command);
+    const QString reason =
+        u"Vesk could not read what is selected in Editor without losing what is on the clipboard."_s;
+    ServicesWorld world;
+    world.select(std::nullopt);
+    world.pasteboard.setString(u"password"_s);
+    world.pasteboard.setSecret(true);
+    world.command(command);
+    world.clock.advance(1s);
+    QVERIFY(world.poster.posted().isEmpty());
+    QCOMPARE(world.box.isShowing() ? world.box.remark() : world.notice(), reason);
+    // The next time nothing is in the way.
+    world.pasteboard.setSecret(false);
+    world.box.close();
+    world.clock.advance(20s);
+    QTRY_COMPARE(world.notice(), QString());
+    world.command(command);
+    world.clock.advance(2s);
+    QVERIFY(world.notice() != reason && world.box.remark() != reason);
+}
+
+/// The panel would take the keyboard away from the application that is being read, but the user does not
+/// wait for ever.
+void TestVeskServices::panelKeysWaitForAReadingNoLongerThanASecond()
+{
+    ServicesWorld world;
+    world.select(std::nullopt);
+    world.poster.setDelay(world.clock, 10s);
+    world.press(hotkeytable::kQuickNote);
+    // A second press meanwhile does not close what the first has not opened yet.
+    world.press(hotkeytable::kOpen);
+    world.press(hotkeytable::kOpen);
+    world.clock.advance(999ms);
+    QVERIFY(!world.panelWindow.isShown());
+    world.clock.advance(1ms);
+    QVERIFY(world.panelWindow.isShown());
+    // A later reading has a second of its own.
+    world.application.hide();
+    world.clock.advance(20s);
+    world.box.close();
+    world.press(hotkeytable::kQuickNote);
+    world.clock.advance(500ms);
+    world.press(hotkeytable::kWrite);
+    world.clock.advance(999ms);
+    QVERIFY(!world.panelWindow.isShown());
+    world.clock.advance(1ms);
+    QVERIFY(world.panelWindow.isShown());
 }
 
 void TestVeskServices::doubleShiftIsHeardOnlyWithTrust()
