@@ -45,10 +45,16 @@ void Pointer::click(QPoint place, int times)
     }
 }
 
-void Pointer::button(quint8 type)
+void Pointer::middleClick(QPoint place)
 {
-    constexpr quint8 kLeftButton = 1;
-    xcb_test_fake_input(m_display.xcb(), type, kLeftButton, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+    moveTo(place);
+    button(XCB_BUTTON_PRESS, kMiddleButton);
+    button(XCB_BUTTON_RELEASE, kMiddleButton);
+}
+
+void Pointer::button(quint8 type, quint8 number)
+{
+    xcb_test_fake_input(m_display.xcb(), type, number, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
     xcb_flush(m_display.xcb());
     std::this_thread::sleep_for(kFinger);
 }

@@ -21,8 +21,13 @@ public:
     /// Clicks the left button `times` times at this place of the screen, as fast as a double click is.
     void click(QPoint place, int times = 1);
 
+    void middleClick(QPoint place);
+
 private:
-    void button(quint8 type);
+    static constexpr quint8 kLeftButton = 1;
+    static constexpr quint8 kMiddleButton = 2;
+
+    void button(quint8 type, quint8 number = kLeftButton);
 
     DisplayConnection &m_display;
 };

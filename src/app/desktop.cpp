@@ -19,6 +19,7 @@ Desktop::Desktop(std::unique_ptr<X11Connection> connection, ApplicationService &
     , accessibility(*x11, input, workspace, consent)
     , pasteboard(*x11)
     , primary(*x11, X11Pasteboard::Kind::Primary)
+    , dragged(*x11, X11Pasteboard::Kind::Dragged)
     , poster({.connection = *x11,
               .input = input,
               .workspace = workspace,

@@ -50,6 +50,7 @@ struct Desktop
     X11Accessibility accessibility;
     X11Pasteboard pasteboard;
     X11Pasteboard primary;
+    X11Pasteboard dragged;
     X11EventPoster poster;
     X11EventTap tap;
 };

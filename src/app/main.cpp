@@ -11,6 +11,7 @@
 #include "app/unwrittenwindow.h"
 #include "app/veskapp.h"
 #include "components/surroundings.h"
+#include "editor/lentpasteboards.h"
 #include "notes/notesstore.h"
 #include "notes/storecopy.h"
 #include "platform/freedesktop/coredumps.h"
@@ -67,6 +68,7 @@ void showFatal(vesk::Desktop &desktop, vesk::ApplicationService &service,
     remoteControl.refuseCommands(Texts::tr("Vesk could not open the notes store and is about to end."));
     QQmlEngine engine;
     vesk::lendToEngine(engine, desktop.appearance, desktop.workspace, desktop.windows);
+    vesk::lendToEditors(engine, desktop.pasteboard, &desktop.primary, &desktop.dragged);
     vesk::MessageWindow window(engine, content);
     QObject::connect(&window, &vesk::MessageWindow::accepted, qApp, &QCoreApplication::quit);
     QObject::connect(&window, &vesk::MessageWindow::rejected, qApp, &QCoreApplication::quit);
@@ -93,6 +95,7 @@ void showUnwritten(vesk::Desktop &desktop, vesk::ApplicationService &service, co
         return;
     QQmlEngine engine;
     vesk::lendToEngine(engine, desktop.appearance, desktop.workspace, desktop.windows);
+    vesk::lendToEditors(engine, desktop.pasteboard, &desktop.primary, &desktop.dragged);
     vesk::UnwrittenWindow window(engine, store, desktop.pasteboard);
     QObject::connect(&window, &vesk::UnwrittenWindow::quitRequested, qApp, [] { QCoreApplication::exit(0); });
     // Whoever starts Vesk again sees why it has not ended.
@@ -216,7 +219,7 @@ int main(int argc, char *argv[])
     QGuiApplication::setLayoutDirection(translation.language().textDirection());
     QGuiApplication::setQuitOnLastWindowClosed(false);
     // Qt's text fields read the clipboard whenever it changes, and Qt waits for its owner: for seconds if
-    // that one hangs, or is Vesk itself. They are not told of changes, and paste by our own pasteboard.
+    // that one hangs, or is Vesk itself. They are not told of changes, and never copy or paste by it.
     QGuiApplication::clipboard()->blockSignals(true);
     QGuiApplication::setDesktopFileName(u"org.vesk.Vesk"_s);
     QGuiApplication::setWindowIcon(QIcon(u":/vesk/icon/org.vesk.Vesk.svg"_s));

@@ -23,7 +23,7 @@ QQmlEngine &lent(QQmlEngine &engine, Desktop &desktop, const GlobalKeys &keys)
 {
     lendToEngine(engine, desktop.appearance, desktop.workspace, desktop.windows);
     lendKeys(engine, keys);
-    lendToEditors(engine, desktop.pasteboard, &desktop.primary);
+    lendToEditors(engine, desktop.pasteboard, &desktop.primary, &desktop.dragged);
     return engine;
 }
 
@@ -87,8 +87,6 @@ VeskApp::VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, Applicat
         const bool isClosed = refusal == PasteBack::Refusal::WindowClosed;
         m_toast.show(isClosed ? notices::kCopiedWindowClosed : notices::kCopiedOnly);
     });
-    connect(m_panel.keyboard(), &PanelKeyboard::fieldPasteRequested, this,
-            [this, &desktop] { pasteIntoField(desktop.pasteboard); });
     connect(m_panel.cards(), &CardActions::copyRequested, this, [this, &desktop](const QString &text) {
         desktop.pasteboard.setString(text);
         m_watcher.markOwn();
@@ -214,14 +212,6 @@ void VeskApp::write()
 {
     m_panelWindow.showPanel();
     m_panel.requestField(PanelModel::Field::Composer);
-}
-
-QCoro::Task<> VeskApp::pasteIntoField(Pasteboard &pasteboard)
-{
-    const QPointer<VeskApp> self(this);
-    const std::optional<QString> text = co_await pasteboard.string();
-    if (!self.isNull() && text)
-        m_panel.keyboard()->insertIntoField(*text);
 }
 
 } // namespace vesk

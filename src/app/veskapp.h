@@ -16,8 +16,6 @@
 #include "quicknote/quicknotepanel.h"
 #include "quicknote/toast.h"
 
-#include <QCoroTask>
-
 #include <QObject>
 #include <QPointer>
 #include <QQmlEngine>
@@ -27,7 +25,6 @@
 namespace vesk {
 
 class ApplicationService;
-class Pasteboard;
 class RemoteControl;
 struct Desktop;
 
@@ -53,8 +50,6 @@ private:
     void onAction(const QString &name);
     void perform(MenuCommands::Command command);
     void write();
-    /// Reads the pasteboard for the panel's field.
-    QCoro::Task<> pasteIntoField(Pasteboard &pasteboard);
 
     GlobalKeys &m_keys;
     QQmlEngine m_engine;

@@ -186,7 +186,8 @@ FocusScope {
                 onPositionChanged: drag => view.dropPosition = edit.positionAt(drag.x, drag.y)
                 onExited: view.dropPosition = -1
                 onDropped: drop => {
-                    view.dropText(drop.text);
+                    // Not the text of the event: that would wait for the program that it comes from.
+                    view.drop();
                     drop.accept(Qt.CopyAction);
                 }
             }

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "editor/lentpasteboards.h"
 
+#include "editor/fieldguard.h"
+
 #include <QQmlEngine>
 
 namespace vesk {
 
-LentPasteboards::LentPasteboards(Pasteboard &pasteboard, Pasteboard *primary, QQmlEngine &engine)
+LentPasteboards::LentPasteboards(Pasteboard &pasteboard, Pasteboard *primary, Pasteboard *dragged,
+                                 QQmlEngine &engine)
     : QObject(&engine)
     , m_pasteboard(pasteboard)
     , m_primary(primary)
+    , m_dragged(dragged)
 {
 }
 
@@ -17,9 +21,10 @@ LentPasteboards *LentPasteboards::findFor(const QQmlEngine &engine)
     return engine.findChild<LentPasteboards *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-void lendToEditors(QQmlEngine &engine, Pasteboard &pasteboard, Pasteboard *primary)
+void lendToEditors(QQmlEngine &engine, Pasteboard &pasteboard, Pasteboard *primary, Pasteboard *dragged)
 {
-    new LentPasteboards(pasteboard, primary, engine);
+    new LentPasteboards(pasteboard, primary, dragged, engine);
+    new FieldGuard(engine);
 }
 
 } // namespace vesk

@@ -2,6 +2,7 @@
 #include "editor/notetextview.h"
 
 #include "editor/editrules.h"
+#include "editor/fieldguard.h"
 #include "editor/lentpasteboards.h"
 #include "editor/notetext.h"
 #include "editor/textcomposition.h"
@@ -65,6 +66,7 @@ void NoteTextView::componentComplete()
     connect(document->documentLayout(), &QAbstractTextDocumentLayout::update, this, &NoteTextView::polish);
     connect(target, &QQuickItem::widthChanged, this, &NoteTextView::polish);
     connect(target, SIGNAL(cursorPositionChanged()), this, SLOT(passLineBreak()));
+    FieldGuard::leaveAlone(*target);
     target->installEventFilter(this);
     setText(std::exchange(m_loadedText, QString()));
 }
@@ -187,14 +189,14 @@ void NoteTextView::selectAll()
     m_edit.select({.anchor = 0, .caret = m_text->text().size()});
 }
 
-void NoteTextView::dropText(const QString &text)
+void NoteTextView::drop()
 {
     const int position = m_dropPosition;
     setDropPosition(-1);
-    if (position < 0 || text.isEmpty())
+    if (position < 0)
         return;
-    m_steps->edit(position, 0, text, {.anchor = position, .caret = position + text.size()});
     forceFocus();
+    m_transfer->dropAt(position);
 }
 
 void NoteTextView::toggleLinePrefix(const QString &marker)

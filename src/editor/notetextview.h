@@ -66,8 +66,9 @@ public:
     Q_INVOKABLE void focusWhenShown();
     /// Gives it the keyboard now if it waits for it; whether it did.
     bool focusIfAwaited() { return m_focusTask.finish(); }
-    /// Puts a text that was dropped where it was dropped.
-    Q_INVOKABLE void dropText(const QString &text);
+    /// Puts the text that is dropped where it is dropped. To be called while the drop is being handled: its
+    /// source offers the text no longer than that.
+    Q_INVOKABLE void drop();
 
     [[nodiscard]] QQuickItem *target() const { return m_edit.item(); }
     void setTarget(QQuickItem *target);

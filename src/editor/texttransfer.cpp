@@ -3,6 +3,7 @@
 
 #include "editor/edititem.h"
 #include "editor/editsteps.h"
+#include "editor/heldinput.h"
 #include "editor/notetext.h"
 #include "platform/pasteboard.h"
 
@@ -18,6 +19,7 @@ TextTransfer::TextTransfer(EditSteps &steps, const EditItem &edit, const NoteTex
     , m_text(text)
     , m_lent(lent)
 {
+    connect(edit.item(), SIGNAL(selectedTextChanged()), this, SLOT(onSelectionChanged()));
 }
 
 QString TextTransfer::selectedText() const
@@ -44,38 +46,59 @@ void TextTransfer::cut()
 void TextTransfer::paste()
 {
     if (m_lent)
-        insertFrom(m_lent->pasteboard(), std::nullopt);
+        insertFrom(m_lent->pasteboard(), m_edit.selection(), Then::PlaceCaret);
 }
 
 void TextTransfer::pasteSelected(qsizetype position)
 {
-    if (m_lent && m_lent->primary())
-        insertFrom(*m_lent->primary(), position);
+    if (!m_lent || !m_lent->primary())
+        return;
+    m_edit.select(Selection::at(position));
+    insertFrom(*m_lent->primary(), Selection::at(position), Then::PlaceCaret);
 }
 
-QCoro::Task<> TextTransfer::insertFrom(Pasteboard &pasteboard, std::optional<qsizetype> position)
+void TextTransfer::dropAt(qsizetype position)
+{
+    if (m_lent && m_lent->dragged())
+        insertFrom(*m_lent->dragged(), Selection::at(position), Then::Select);
+}
+
+QCoro::Task<> TextTransfer::insertFrom(Pasteboard &pasteboard, Selection place, Then then)
 {
     const QPointer<TextTransfer> self(this);
-    // Follows what is typed before the owner of the text has answered.
-    QTextCursor place(&m_text.document());
-    place.setPosition(static_cast<int>(position.value_or(0)));
-    const std::optional<QString> text = co_await pasteboard.string();
-    if (self.isNull() || !text || m_edit.isComposing())
+    // Sends on what it holds when this ends, after the text.
+    HeldInput held(*m_edit.item());
+    // Follows what else changes before the owner of the text has answered.
+    QTextCursor span(&m_text.document());
+    span.setPosition(static_cast<int>(place.start()));
+    span.setPosition(static_cast<int>(place.end()), QTextCursor::KeepAnchor);
+    const std::optional<QString> text = co_await pasteboard.string(Pasteboard::Patience::Long);
+    if (!text)
+        held.dropPastes();
+    if (self.isNull() || !text || text->isEmpty() || m_edit.isComposing())
         co_return;
-    if (position)
-        m_edit.select(Selection::at(place.position()));
-    m_steps.replaceSelection(*text);
+    const qsizetype start = span.selectionStart();
+    const qsizetype end = span.selectionEnd();
+    // Where the user has put the caret meanwhile, it stays.
+    const auto moved = [&](qsizetype position) {
+        if (position < start)
+            return position;
+        return position > end ? position + text->size() - (end - start) : start + text->size();
+    };
+    const Selection selection = m_edit.selection();
+    Selection after{.anchor = moved(selection.anchor), .caret = moved(selection.caret)};
+    if (then == Then::Select)
+        after = {.anchor = start, .caret = start + text->size()};
+    m_steps.edit(start, end - start, *text, after);
 }
 
 void TextTransfer::publishSelection()
 {
-    if (!m_lent || !m_lent->primary() || m_edit.selection().isEmpty())
+    // Only a selection that was made just now: another program may have selected something since.
+    if (!m_isSelectionNew || !m_lent || !m_lent->primary() || m_edit.selection().isEmpty())
         return;
-    const QString text = selectedText();
-    if (text == m_published)
-        return;
-    m_published = text;
-    m_lent->primary()->setString(text);
+    m_isSelectionNew = false;
+    m_lent->primary()->setString(selectedText());
 }
 
 void TextTransfer::moveSelection(qsizetype position, bool isCopied)

@@ -60,11 +60,6 @@ Plate {
             root.replaceSelection("\n");
         }
 
-        function onInsertRequested(text: string) {
-            if (edit.activeFocus)
-                root.replaceSelection(text);
-        }
-
         target: root.model.keyboard
     }
 

@@ -28,17 +28,6 @@ Plate {
     }
 
     Connections {
-        function onInsertRequested(text: string) {
-            if (!input.activeFocus)
-                return;
-            input.remove(input.selectionStart, input.selectionEnd);
-            input.insert(input.cursorPosition, text.replace(/\s*\n\s*/g, " "));
-        }
-
-        target: root.model.keyboard
-    }
-
-    Connections {
         function onSearchChanged() {
             if (input.text !== root.model.search)
                 input.text = root.model.search;

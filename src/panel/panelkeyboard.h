@@ -39,8 +39,6 @@ public:
 
     /// Asks for a field, or with `None` for neither, to have the keyboard.
     void request(Field field);
-    /// Puts a text in place of the selection in the field that has the keyboard, if one has it.
-    void insertIntoField(const QString &text) { Q_EMIT insertRequested(text); }
 
     [[nodiscard]] Field activeField() const { return m_activeField; }
     void setActiveField(Field field);
@@ -56,11 +54,6 @@ Q_SIGNALS:
     void requestedFieldChanged();
     void fieldRequestChanged();
     void changed();
-    /// The field that has the keyboard shall get what is on the pasteboard, by `insertIntoField`. The
-    /// fields do not read it themselves, since that would wait for whoever owns it.
-    void fieldPasteRequested();
-    /// The field that has the keyboard shall put this in place of its selection.
-    void insertRequested(const QString &text);
     /// The field that has the keyboard shall show its menu, or if neither has it the selected card.
     void menuRequested();
     /// The composer shall break the line where its caret is.

@@ -54,10 +54,6 @@ bool PanelKeys::handlePress(const QKeyEvent &event)
     }
     if (keyboard.isComposing())
         return false;
-    if (keyboard.isInField() && event.matches(QKeySequence::Paste)) {
-        Q_EMIT keyboard.fieldPasteRequested();
-        return true;
-    }
     const PanelAction action = panelAction(event.key(), event.modifiers(),
                                            {.field = keyboard.activeField(),
                                             .isNoteOpen = m_panel.openNote()->id().has_value(),

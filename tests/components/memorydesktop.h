@@ -29,6 +29,7 @@ struct MemoryDesktop
     MemoryDefaults defaults;
     MemoryPasteboard pasteboard;
     MemoryPasteboard primary;
+    MemoryPasteboard dragged;
     MemoryScreens screens;
     MemorySounds sounds;
     MemoryWindows windows{screens};

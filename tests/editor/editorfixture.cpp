@@ -34,7 +34,7 @@ Qt::Key keyOf(char32_t character)
 
 EditorFixture::EditorFixture(const QString &properties, QSize size)
 {
-    lendToEditors(engine, pasteboard, &primary);
+    lendToEditors(engine, pasteboard, &primary, &dragged);
     QQmlComponent component(&engine);
     component.setData(u"import QtQuick\nimport Vesk.Components\nimport Vesk.Editor\n"
                       "Rectangle { color: Theme.background\n"

@@ -6,6 +6,8 @@
 #include "editor/notetextview.h"
 
 #include <QAccessible>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
@@ -38,6 +40,8 @@ private Q_SLOTS:
     void selectedTextIsDragged();
     void wordsAndLinesAreClicked();
     void selectedTextIsPastedByTheMiddleButton();
+    void selectingTheSameTextAgainTakesPrimaryBack();
+    void droppedTextIsNotAskedOfTheToolkit();
     void menuEdits();
     void screenReaderFindsBoxes();
 };
@@ -302,6 +306,42 @@ void EditorLooksTest::selectedTextIsPastedByTheMiddleButton()
                       fixture.inWindow(fixture.rectangleOf(3).center()));
     QTRY_COMPARE(fixture.text(), u"onex\ny\u00a0two"_s);
     QCOMPARE(fixture.caret(), 6);
+}
+
+void EditorLooksTest::selectingTheSameTextAgainTakesPrimaryBack()
+{
+    EditorFixture fixture;
+    fixture.load(u"one"_s);
+    const auto primary = [&fixture] { return fixture.primary.items().constFirst().constFirst().data; };
+    fixture.press(Qt::Key_A, Qt::ControlModifier);
+    QTRY_VERIFY(!fixture.primary.items().isEmpty() && primary() == "one");
+    fixture.primary.setString(u"selected elsewhere"_s);
+    // What is still selected from before is not selected anew.
+    fixture.press(Qt::Key_Shift);
+    QCoreApplication::processEvents();
+    QCOMPARE(primary(), "selected elsewhere");
+    fixture.press(Qt::Key_End);
+    fixture.press(Qt::Key_A, Qt::ControlModifier);
+    QTRY_COMPARE(primary(), "one");
+}
+
+/// The toolkit would wait for the program that the text is dragged from.
+void EditorLooksTest::droppedTextIsNotAskedOfTheToolkit()
+{
+    EditorFixture fixture;
+    fixture.load(u"one two"_s);
+    fixture.dragged.setString(u"dropped "_s);
+    QMimeData toolkits;
+    toolkits.setText(u"the toolkit's"_s);
+    const QPoint point = fixture.inWindow(fixture.rectangleOf(4).center());
+    QDragEnterEvent enter(point, Qt::CopyAction, &toolkits, Qt::LeftButton, Qt::NoModifier);
+    QDragMoveEvent move(point, Qt::CopyAction, &toolkits, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop(point, Qt::CopyAction, &toolkits, Qt::LeftButton, Qt::NoModifier);
+    for (QEvent *event :
+         {static_cast<QEvent *>(&enter), static_cast<QEvent *>(&move), static_cast<QEvent *>(&drop)})
+        QCoreApplication::sendEvent(&fixture.window, event);
+    QCOMPARE(fixture.text(), u"one dropped two"_s);
+    QCOMPARE(fixture.edit->property("selectedText"), u"dropped "_s);
 }
 
 void EditorLooksTest::menuEdits()

@@ -34,7 +34,8 @@ private Q_SLOTS:
     void lineWithAPictureCharacterIsPainted();
     void foreignLineBreakIsOneCharacter();
     void pasteIsPlainText();
-    void pasteThatIsLateComesWhereTheCaretIs();
+    void latePasteComesBeforeWhatIsTypedAfterIt();
+    void latePasteComesWhereItWasAskedFor();
     void nothingOfOthersIsPastedWithoutAPasteboard();
 };
 
@@ -408,16 +409,17 @@ void NoteEditorTest::pasteIsPlainText()
     QCOMPARE(fixture.text(), u"ab"_s);
 }
 
-void NoteEditorTest::pasteThatIsLateComesWhereTheCaretIs()
+void NoteEditorTest::latePasteComesBeforeWhatIsTypedAfterIt()
 {
     MemoryClock clock;
     EditorFixture fixture;
     fixture.pasteboard.setString(u"late"_s);
     fixture.pasteboard.setDelay(clock, std::chrono::seconds(1));
     fixture.press(Qt::Key_V, Qt::ControlModifier);
-    fixture.type(u"ab"_s);
+    fixture.type(u"ab\n"_s);
     clock.advance(std::chrono::seconds(1));
-    QTRY_COMPARE(fixture.text(), u"ablate"_s);
+    QTRY_COMPARE(fixture.text(), u"lateab\n"_s);
+    fixture.press(Qt::Key_Z, Qt::ControlModifier);
     fixture.press(Qt::Key_V, Qt::ControlModifier);
     // The editor may have gone by the time.
     delete fixture.editor;
@@ -425,6 +427,23 @@ void NoteEditorTest::pasteThatIsLateComesWhereTheCaretIs()
     QCoreApplication::processEvents();
     QVERIFY(!fixture.controller.textView());
     fixture.controller.toggleLinePrefix(u"☐ "_s);
+}
+
+void NoteEditorTest::latePasteComesWhereItWasAskedFor()
+{
+    MemoryClock clock;
+    EditorFixture fixture;
+    fixture.load(u"one two"_s);
+    fixture.select(4, 7);
+    fixture.pasteboard.setString(u"late"_s);
+    fixture.pasteboard.setDelay(clock, std::chrono::seconds(1));
+    fixture.press(Qt::Key_V, Qt::ControlModifier);
+    // By the mouse.
+    fixture.select(0, 3);
+    clock.advance(std::chrono::seconds(1));
+    QTRY_COMPARE(fixture.text(), u"one late"_s);
+    QCOMPARE(fixture.anchor(), 0);
+    QCOMPARE(fixture.caret(), 3);
 }
 
 void NoteEditorTest::nothingOfOthersIsPastedWithoutAPasteboard()

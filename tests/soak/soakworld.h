@@ -19,8 +19,6 @@ struct SoakWorld : ProgramWorld
             pasteboard.setString(text);
             watcher.markOwn();
         });
-        QObject::connect(panel.keyboard(), &PanelKeyboard::fieldPasteRequested, &watcher,
-                         [this] { panel.keyboard()->insertIntoField(kPasted); });
         QObject::connect(panel.menu(), &PanelMenu::quickNoteRequested, &watcher,
                          [this] { box.show(QuickNoteBox::Mode::Note); });
         QObject::connect(panel.menu(), &PanelMenu::quickChecklistRequested, &watcher,
@@ -32,7 +30,7 @@ struct SoakWorld : ProgramWorld
     /// What pasting may insert: the two selections, and what the fields are given here.
     [[nodiscard]] QStringList pasteTexts() const
     {
-        QStringList texts{kPasted};
+        QStringList texts;
         for (const MemoryPasteboard *each : {&pasteboard, &primary}) {
             for (const PasteboardItem &item : each->items()) {
                 for (const PasteboardData &form : item)
@@ -41,8 +39,6 @@ struct SoakWorld : ProgramWorld
         }
         return texts;
     }
-
-    static inline const QString kPasted = QStringLiteral("pasted\ntext");
 
     PasteBack pasteBack{{.clock = clock,
                          .application = application,

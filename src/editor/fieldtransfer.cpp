@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+#include "editor/fieldtransfer.h"
+
+#include "editor/heldinput.h"
+#include "editor/lentpasteboards.h"
+#include "editor/trackedspan.h"
+#include "platform/pasteboard.h"
+
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QInputMethodEvent>
+#include <QPointer>
+#include <QQmlContext>
+#include <QQmlExpression>
+#include <QQuickItem>
+#include <QRegularExpression>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include <memory>
+
+namespace vesk {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString asOneLine(QString text)
+{
+    static const QRegularExpression kAtTheEnds(
+        u"^[\\r\\n\\x{2028}\\x{2029}]+|[\\r\\n\\x{2028}\\x{2029}]+$"_s);
+    static const QRegularExpression kWithin(u"\\s*[\\r\\n\\x{2028}\\x{2029}]+\\s*"_s);
+    return text.remove(kAtTheEnds).replace(kWithin, u" "_s);
+}
+
+} // namespace
+
+FieldTransfer *FieldTransfer::qmlAttachedProperties(QObject *item)
+{
+    auto *textItem = qobject_cast<QQuickItem *>(item);
+    return textItem ? &of(*textItem) : nullptr;
+}
+
+FieldTransfer &FieldTransfer::of(QQuickItem &item)
+{
+    // Not by QML, which knows attached types of imported modules only.
+    if (auto *known = item.findChild<FieldTransfer *>(QString(), Qt::FindDirectChildrenOnly))
+        return *known;
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the item owns it.
+    return *new FieldTransfer(item);
+}
+
+FieldTransfer::FieldTransfer(QQuickItem &item)
+    : QObject(&item)
+    , m_edit(&item)
+{
+    connect(&item, SIGNAL(selectedTextChanged()), this, SLOT(onSelectionChanged()));
+}
+
+LentPasteboards *FieldTransfer::lent() const
+{
+    const QQmlEngine *engine = qmlEngine(&item());
+    return engine ? LentPasteboards::findFor(*engine) : nullptr;
+}
+
+bool FieldTransfer::isReadOnly() const
+{
+    return item().property("readOnly").toBool();
+}
+
+QString FieldTransfer::selectedText() const
+{
+    QTextDocument *document = m_edit.document();
+    if (!document)
+        return item().property("selectedText").toString();
+    // The item itself would make ordinary spaces of those that do not break.
+    QTextCursor cursor(document);
+    cursor.setPosition(static_cast<int>(m_edit.selection().start()));
+    cursor.setPosition(static_cast<int>(m_edit.selection().end()), QTextCursor::KeepAnchor);
+    return cursor.selectedText().replace(QChar::ParagraphSeparator, u'\n');
+}
+
+void FieldTransfer::copy()
+{
+    endComposing();
+    LentPasteboards *pasteboards = lent();
+    if (pasteboards && !m_edit.selection().isEmpty())
+        pasteboards->pasteboard().setString(selectedText());
+}
+
+void FieldTransfer::cut()
+{
+    copy();
+    const Selection selection = m_edit.selection();
+    if (lent() && !isReadOnly() && !selection.isEmpty())
+        replace(selection.start(), selection.end(), {});
+}
+
+void FieldTransfer::paste()
+{
+    LentPasteboards *pasteboards = lent();
+    if (!pasteboards || isReadOnly())
+        return;
+    endComposing();
+    insertFrom(pasteboards->pasteboard(), m_edit.selection());
+}
+
+void FieldTransfer::pasteSelected(const QPointF &point)
+{
+    LentPasteboards *pasteboards = lent();
+    if (!pasteboards || !pasteboards->primary() || isReadOnly())
+        return;
+    endComposing();
+    item().forceActiveFocus(Qt::MouseFocusReason);
+    // A single line cannot be asked for this from C++.
+    QQmlExpression position(qmlContext(&item()), &item(),
+                            u"positionAt(%1, %2)"_s.arg(point.x()).arg(point.y()));
+    const int clicked = position.evaluate().toInt();
+    m_edit.select(Selection::at(clicked));
+    insertFrom(*pasteboards->primary(), Selection::at(clicked));
+}
+
+void FieldTransfer::publishSelection()
+{
+    LentPasteboards *pasteboards = lent();
+    // Only a selection that was made just now: another program may have selected something since.
+    if (!m_isSelectionNew || !pasteboards || !pasteboards->primary() || m_edit.selection().isEmpty())
+        return;
+    m_isSelectionNew = false;
+    pasteboards->primary()->setString(selectedText());
+}
+
+void FieldTransfer::endComposing()
+{
+    if (!m_edit.isComposing())
+        return;
+    QGuiApplication::inputMethod()->commit();
+    if (!m_edit.isComposing())
+        return;
+    // The input method does not know of it, or has gone.
+    QInputMethodEvent commit;
+    commit.setCommitString(item().property("preeditText").toString());
+    QCoreApplication::sendEvent(&item(), &commit);
+}
+
+void FieldTransfer::replace(qsizetype start, qsizetype end, const QString &text)
+{
+    if (QTextDocument *document = m_edit.document()) {
+        QTextCursor cursor(document);
+        cursor.setPosition(static_cast<int>(start));
+        cursor.setPosition(static_cast<int>(end), QTextCursor::KeepAnchor);
+        cursor.insertText(text);
+        return;
+    }
+    QMetaObject::invokeMethod(&item(), "remove", Q_ARG(int, static_cast<int>(start)),
+                              Q_ARG(int, static_cast<int>(end)));
+    QMetaObject::invokeMethod(&item(), "insert", Q_ARG(int, static_cast<int>(start)),
+                              Q_ARG(QString, asOneLine(text)));
+}
+
+QCoro::Task<> FieldTransfer::insertFrom(Pasteboard &pasteboard, Selection place)
+{
+    const QPointer<FieldTransfer> self(this);
+    // Sends on what it holds when this ends, after the text.
+    HeldInput held(item());
+    // The item's child, so that it goes with it.
+    const QPointer<TrackedSpan> span = new TrackedSpan(item(), place.start(), place.end());
+    span->setParent(this);
+    const std::optional<QString> text = co_await pasteboard.string(Pasteboard::Patience::Long);
+    if (self.isNull())
+        co_return;
+    if (!text)
+        held.dropPastes();
+    const Selection now{.anchor = span->start(), .caret = span->end()};
+    delete span;
+    if (!text || text->isEmpty() || isReadOnly())
+        co_return;
+    const qsizetype lengthBefore = item().property("length").toInt();
+    replace(now.start(), now.end(), *text);
+    // What is held back was typed here before the keyboard moved on, and follows the text.
+    const qsizetype growth = item().property("length").toInt() - lengthBefore;
+    if (!item().hasActiveFocus())
+        m_edit.select(Selection::at(now.end() + growth));
+}
+
+} // namespace vesk

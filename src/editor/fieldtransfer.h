@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "editor/edititem.h"
+
+#include <QCoroTask>
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QString>
+
+namespace vesk {
+
+class LentPasteboards;
+class Pasteboard;
+
+/// Copies from and pastes into one of the toolkit's text items by the pasteboards that were lent to its
+/// engine; attached to the item. The toolkit's own copying and pasting waits for whoever owns the
+/// clipboard, for seconds if that program hangs. `FieldGuard` calls this for keys and the mouse, menus
+/// call it themselves. Without pasteboards nothing is copied, cut or pasted.
+class FieldTransfer : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Attached to text items.")
+    QML_ATTACHED(vesk::FieldTransfer)
+
+public:
+    static FieldTransfer *qmlAttachedProperties(QObject *item);
+    /// What belongs to this item; made at the first call.
+    [[nodiscard]] static FieldTransfer &of(QQuickItem &item);
+
+    Q_INVOKABLE void copy();
+    Q_INVOKABLE void cut();
+    /// Puts the pasteboard's text in place of the selection. What is typed meanwhile comes after it. The
+    /// text goes where it was asked for, even if the keyboard has moved on by the time it comes.
+    Q_INVOKABLE void paste();
+    /// Puts what was last selected, anywhere, at a point of the item.
+    void pasteSelected(const QPointF &point);
+    /// Offers a new selection for the middle mouse button, here and elsewhere.
+    void publishSelection();
+
+    [[nodiscard]] bool isReadOnly() const;
+
+private Q_SLOTS:
+    void onSelectionChanged() { m_isSelectionNew = true; }
+
+private:
+    explicit FieldTransfer(QQuickItem &item);
+
+    [[nodiscard]] QQuickItem &item() const { return *m_edit.item(); }
+    [[nodiscard]] LentPasteboards *lent() const;
+    [[nodiscard]] QString selectedText() const;
+    void endComposing();
+    void replace(qsizetype start, qsizetype end, const QString &text);
+    QCoro::Task<> insertFrom(Pasteboard &pasteboard, Selection place);
+
+    EditItem m_edit;
+    bool m_isSelectionNew = false;
+};
+
+} // namespace vesk
