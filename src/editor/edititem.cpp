@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "editor/edititem.h"
 
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QInputMethodEvent>
 #include <QQuickItem>
 #include <QQuickTextDocument>
 
@@ -46,6 +49,19 @@ QRectF EditItem::rectangleOf(qsizetype position) const
 bool EditItem::isComposing() const
 {
     return m_item->property("inputMethodComposing").toBool();
+}
+
+void EditItem::endComposing() const
+{
+    if (!isComposing())
+        return;
+    QGuiApplication::inputMethod()->commit();
+    if (!isComposing())
+        return;
+    // The input method does not know of it, or has gone.
+    QInputMethodEvent commit;
+    commit.setCommitString(m_item->property("preeditText").toString());
+    QCoreApplication::sendEvent(m_item, &commit);
 }
 
 } // namespace vesk

@@ -30,6 +30,8 @@ public:
     [[nodiscard]] QRectF rectangleOf(qsizetype position) const;
     /// Whether an input method is composing a text in it.
     [[nodiscard]] bool isComposing() const;
+    /// Writes what is being composed into the text.
+    void endComposing() const;
 
 private:
     QQuickItem *m_item = nullptr;

@@ -6,9 +6,6 @@
 #include "editor/trackedspan.h"
 #include "platform/pasteboard.h"
 
-#include <QGuiApplication>
-#include <QInputMethod>
-#include <QInputMethodEvent>
 #include <QPointer>
 #include <QQmlContext>
 #include <QQmlExpression>
@@ -82,7 +79,7 @@ QString FieldTransfer::selectedText() const
 
 void FieldTransfer::copy()
 {
-    endComposing();
+    m_edit.endComposing();
     LentPasteboards *pasteboards = lent();
     if (pasteboards && !m_edit.selection().isEmpty())
         pasteboards->pasteboard().setString(selectedText());
@@ -101,7 +98,7 @@ void FieldTransfer::paste()
     LentPasteboards *pasteboards = lent();
     if (!pasteboards || isReadOnly())
         return;
-    endComposing();
+    m_edit.endComposing();
     insertFrom(pasteboards->pasteboard(), m_edit.selection());
 }
 
@@ -110,7 +107,7 @@ void FieldTransfer::pasteSelected(const QPointF &point)
     LentPasteboards *pasteboards = lent();
     if (!pasteboards || !pasteboards->primary() || isReadOnly())
         return;
-    endComposing();
+    m_edit.endComposing();
     item().forceActiveFocus(Qt::MouseFocusReason);
     // A single line cannot be asked for this from C++.
     QQmlExpression position(qmlContext(&item()), &item(),
@@ -128,19 +125,6 @@ void FieldTransfer::publishSelection()
         return;
     m_isSelectionNew = false;
     pasteboards->primary()->setString(selectedText());
-}
-
-void FieldTransfer::endComposing()
-{
-    if (!m_edit.isComposing())
-        return;
-    QGuiApplication::inputMethod()->commit();
-    if (!m_edit.isComposing())
-        return;
-    // The input method does not know of it, or has gone.
-    QInputMethodEvent commit;
-    commit.setCommitString(item().property("preeditText").toString());
-    QCoreApplication::sendEvent(&item(), &commit);
 }
 
 void FieldTransfer::replace(qsizetype start, qsizetype end, const QString &text)

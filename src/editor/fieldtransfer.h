@@ -51,7 +51,6 @@ private:
     [[nodiscard]] QQuickItem &item() const { return *m_edit.item(); }
     [[nodiscard]] LentPasteboards *lent() const;
     [[nodiscard]] QString selectedText() const;
-    void endComposing();
     void replace(qsizetype start, qsizetype end, const QString &text);
     QCoro::Task<> insertFrom(Pasteboard &pasteboard, Selection place);
 

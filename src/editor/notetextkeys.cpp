@@ -72,6 +72,18 @@ bool isTyping(const QKeyEvent &event)
            || event.key() == Qt::Key_Tab;
 }
 
+/// Some desktops, and terminals, paste plain text by the second combination.
+bool isPaste(const QKeyEvent &event)
+{
+    return event.matches(QKeySequence::Paste)
+           || (event.key() == Qt::Key_V && modifiersOf(event) == (kCommand | Qt::ShiftModifier));
+}
+
+bool isTransfer(const QKeyEvent &event)
+{
+    return isPaste(event) || event.matches(QKeySequence::Copy) || event.matches(QKeySequence::Cut);
+}
+
 bool isModifier(const QKeyEvent &event)
 {
     return event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_ScrollLock;
@@ -105,6 +117,8 @@ bool NoteTextKeys::handleShortcut(QKeyEvent &event) const
 
 bool NoteTextKeys::handleKey(QKeyEvent &event)
 {
+    if (isTransfer(event))
+        m_edit.endComposing();
     if (m_edit.isComposing()) {
         // The input method lets through what it has no use for. A letter follows what was composed so
         // far; any other key would tear it apart.
@@ -140,7 +154,7 @@ bool NoteTextKeys::handleEditingKey(const QKeyEvent &event)
         m_view.cut();
     else if (event.matches(QKeySequence::Copy))
         m_view.copy();
-    else if (event.matches(QKeySequence::Paste))
+    else if (isPaste(event))
         m_view.paste();
     else if (isChecklist(event))
         m_view.toggleLinePrefix(QStringLiteral(u"\u2610 "));

@@ -251,6 +251,14 @@ void NoteTextView::publishSelection()
     QMetaObject::invokeMethod(m_transfer.get(), &TextTransfer::publishSelection, Qt::QueuedConnection);
 }
 
+bool NoteTextView::handleMouse(const QMouseEvent &event)
+{
+    // By itself the item would paste from the toolkit's clipboard.
+    if (event.button() == Qt::MiddleButton)
+        m_edit.endComposing();
+    return !m_edit.isComposing() && m_mouse->handle(event);
+}
+
 bool NoteTextView::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
@@ -279,7 +287,7 @@ bool NoteTextView::eventFilter(QObject *watched, QEvent *event)
         [[fallthrough]];
     case QEvent::MouseMove:
         m_isMovingRight = false;
-        return !m_edit.isComposing() && m_mouse->handle(static_cast<const QMouseEvent &>(*event));
+        return handleMouse(static_cast<const QMouseEvent &>(*event));
     default:
         return QQuickItem::eventFilter(watched, event);
     }

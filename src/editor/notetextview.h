@@ -14,6 +14,8 @@
 
 #include <memory>
 
+class QMouseEvent;
+
 namespace vesk {
 
 class NoteText;
@@ -113,6 +115,7 @@ protected:
 private:
     void onChanged(const Splice &change);
     void publishSelection();
+    bool handleMouse(const QMouseEvent &event);
 
     EditItem m_edit;
     std::unique_ptr<NoteText> m_text;

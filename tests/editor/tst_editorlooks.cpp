@@ -306,6 +306,10 @@ void EditorLooksTest::selectedTextIsPastedByTheMiddleButton()
                       fixture.inWindow(fixture.rectangleOf(3).center()));
     QTRY_COMPARE(fixture.text(), u"onex\ny\u00a0two"_s);
     QCOMPARE(fixture.caret(), 6);
+    fixture.compose(u"ni"_s);
+    QTest::mouseClick(&fixture.window, Qt::MiddleButton, {},
+                      fixture.inWindow(fixture.rectangleOf(0).center()));
+    QTRY_COMPARE(fixture.text(), u"x\nyonex\nyni\u00a0two"_s);
 }
 
 void EditorLooksTest::selectingTheSameTextAgainTakesPrimaryBack()

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void lineWithAPictureCharacterIsPainted();
     void foreignLineBreakIsOneCharacter();
     void pasteIsPlainText();
+    void pasteWhileComposing();
     void latePasteComesBeforeWhatIsTypedAfterIt();
     void latePasteComesWhereItWasAskedFor();
     void nothingOfOthersIsPastedWithoutAPasteboard();
@@ -407,6 +408,17 @@ void NoteEditorTest::pasteIsPlainText()
     fixture.pasteboard.setSecret(true);
     fixture.press(Qt::Key_V, Qt::ControlModifier);
     QCOMPARE(fixture.text(), u"ab"_s);
+}
+
+void NoteEditorTest::pasteWhileComposing()
+{
+    EditorFixture fixture;
+    fixture.pasteboard.setString(u"X"_s);
+    fixture.compose(u"ni"_s);
+    fixture.press(Qt::Key_V, Qt::ControlModifier);
+    fixture.compose(u"hao"_s);
+    fixture.press(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(fixture.text(), u"niXhaoX"_s);
 }
 
 void NoteEditorTest::latePasteComesBeforeWhatIsTypedAfterIt()
