@@ -93,6 +93,24 @@ void FieldTransfer::cut()
         replace(selection.start(), selection.end(), {});
 }
 
+void FieldTransfer::removeSelection()
+{
+    m_edit.endComposing();
+    const Selection selection = m_edit.selection();
+    if (!isReadOnly() && !selection.isEmpty())
+        replace(selection.start(), selection.end(), {});
+}
+
+void FieldTransfer::selectAll()
+{
+    QMetaObject::invokeMethod(&item(), "selectAll");
+}
+
+bool FieldTransfer::hasText() const
+{
+    return item().property("length").toInt() > 0;
+}
+
 void FieldTransfer::paste()
 {
     LentPasteboards *pasteboards = lent();

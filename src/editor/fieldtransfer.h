@@ -35,6 +35,11 @@ public:
     /// Puts the pasteboard's text in place of the selection. What is typed meanwhile comes after it. The
     /// text goes where it was asked for, even if the keyboard has moved on by the time it comes.
     Q_INVOKABLE void paste();
+    /// Deletes what is selected.
+    Q_INVOKABLE void removeSelection();
+    Q_INVOKABLE void selectAll();
+    [[nodiscard]] Q_INVOKABLE bool hasSelection() const { return !m_edit.selection().isEmpty(); }
+    [[nodiscard]] Q_INVOKABLE bool hasText() const;
     /// Puts what was last selected, anywhere, at a point of the item.
     void pasteSelected(const QPointF &point);
     /// Offers a new selection for the middle mouse button, here and elsewhere.

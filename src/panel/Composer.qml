@@ -4,6 +4,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 import Vesk.Components
+import Vesk.Editor
 import Vesk.Panel
 
 // Where a new note is written; grows from one line to five.
@@ -17,6 +18,10 @@ Plate {
 
     function takeKeyboard() {
         edit.forceActiveFocus();
+    }
+
+    function showMenu() {
+        menu.show(Qt.point(edit.cursorRectangle.x, edit.cursorRectangle.y + edit.cursorRectangle.height), true);
     }
 
     function replaceSelection(text: string) {
@@ -66,7 +71,18 @@ Plate {
     MouseArea {
         anchors.fill: parent
         cursorShape: Qt.IBeamCursor
-        onPressed: root.takeKeyboard()
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        onPressed: mouse => {
+            root.takeKeyboard();
+            if (mouse.button === Qt.RightButton)
+                menu.show(mapToItem(edit, mouse.x, mouse.y), false);
+        }
+    }
+
+    FieldMenuHost {
+        id: menu
+
+        field: edit
     }
 
     Symbol {
@@ -109,6 +125,7 @@ Plate {
             selectionColor: Theme.textSelection
             selectedTextColor: Theme.primary
             selectByMouse: true
+            persistentSelection: true
             activeFocusOnTab: true
             cursorDelegate: Caret {
                 isWanted: edit.cursorVisible
@@ -121,6 +138,12 @@ Plate {
             Accessible.multiLine: true
             Accessible.name: placeholder.text
             onTextChanged: root.model.draft = text
+            // The menu acts on what is selected while it has the keyboard, as does who comes back to the
+            // window.
+            onActiveFocusChanged: {
+                if (!activeFocus && !menu.isOpen && Window.active)
+                    deselect();
+            }
             onCursorRectangleChanged: root.followCaret(cursorRectangle)
 
             Text {

@@ -52,7 +52,12 @@ FocusScope {
         }
 
         function onMenuRequested() {
-            content.showMenu();
+            if (search.hasKeyboard)
+                search.showMenu();
+            else if (composer.hasKeyboard)
+                composer.showMenu();
+            else
+                content.showMenu();
         }
 
         target: root.model.keyboard

@@ -4,6 +4,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 import Vesk.Components
+import Vesk.Editor
 import Vesk.Panel
 
 // The capsule that the user searches in.
@@ -16,6 +17,10 @@ Plate {
 
     function takeKeyboard() {
         input.forceActiveFocus();
+    }
+
+    function showMenu() {
+        menu.show(Qt.point(input.cursorRectangle.x, input.cursorRectangle.y + input.cursorRectangle.height), true);
     }
 
     implicitHeight: Math.round(34 * Theme.fonts.scale)
@@ -39,7 +44,18 @@ Plate {
     MouseArea {
         anchors.fill: parent
         cursorShape: Qt.IBeamCursor
-        onPressed: root.takeKeyboard()
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        onPressed: mouse => {
+            root.takeKeyboard();
+            if (mouse.button === Qt.RightButton)
+                menu.show(mapToItem(input, mouse.x, mouse.y), false);
+        }
+    }
+
+    FieldMenuHost {
+        id: menu
+
+        field: input
     }
 
     Symbol {
@@ -71,6 +87,7 @@ Plate {
         selectionColor: Theme.textSelection
         selectedTextColor: Theme.primary
         selectByMouse: true
+        persistentSelection: true
         activeFocusOnTab: true
         cursorDelegate: Caret {
             isWanted: input.cursorVisible
@@ -80,6 +97,11 @@ Plate {
         Accessible.searchEdit: true
         Accessible.name: qsTr("Search")
         onTextChanged: root.model.search = text
+        // The menu acts on what is selected while it has the keyboard, as does who comes back to the window.
+        onActiveFocusChanged: {
+            if (!activeFocus && !menu.isOpen && Window.active)
+                deselect();
+        }
 
         Text {
             id: placeholder

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void keysOpenTheMenuOfTheSelectedCard_data();
     void keysOpenTheMenuOfTheSelectedCard();
     void openNoteHasItsMenus();
+    void fieldHasAMenu_data();
+    void fieldHasAMenu();
 
 private:
     void rightClick(const QQuickItem &item)
@@ -178,6 +180,50 @@ void PanelMenusTest::openNoteHasItsMenus()
     choose(u"Pin"_s);
     QVERIFY(store().notes().first()->isPinned());
     QVERIFY(model().openNote()->id());
+}
+
+void PanelMenusTest::fieldHasAMenu_data()
+{
+    QTest::addColumn<Field>("field");
+    QTest::addColumn<QByteArray>("type");
+    QTest::newRow("search") << Field::Search << QByteArray("SearchField");
+    QTest::newRow("composer") << Field::Composer << QByteArray("Composer");
+}
+
+void PanelMenusTest::fieldHasAMenu()
+{
+    QFETCH(Field, field);
+    QFETCH(QByteArray, type);
+    const auto text = [&] { return field == Field::Search ? model().search() : model().draft(); };
+    // A right click gives the field the keyboard, too.
+    rightClick(*shown(type).constFirst());
+    QCOMPARE(offered(), QStringList({u"[Cut]"_s, u"[Copy]"_s, u"Paste"_s, u"[Delete]"_s, u"[Select All]"_s}));
+    m_fixture->pasteboard.setString(u"one two"_s);
+    choose(u"Paste"_s);
+    QCOMPARE(model().keyboard()->activeField(), field);
+    QTRY_COMPARE(text(), u"one two"_s);
+    rightClick(*shown(type).constFirst());
+    QCOMPARE(offered(), QStringList({u"[Cut]"_s, u"[Copy]"_s, u"Paste"_s, u"[Delete]"_s, u"Select All"_s}));
+    choose(u"Select All"_s);
+    // What is selected stays selected below the menu, by the key as well.
+    press(Qt::Key_F10, Qt::ShiftModifier);
+    QCOMPARE(offered(), QStringList({u"Cut"_s, u"Copy"_s, u"Paste"_s, u"Delete"_s, u"Select All"_s}));
+    press(Qt::Key_Return);
+    QCOMPARE(text(), QString());
+    press(Qt::Key_V, Qt::ControlModifier);
+    QTRY_COMPARE(text(), u"one two"_s);
+    press(Qt::Key_Home);
+    for (int i = 0; i < 4; ++i)
+        press(Qt::Key_Right, Qt::ShiftModifier);
+    rightClick(*shown(type).constFirst());
+    choose(u"Copy"_s);
+    rightClick(*shown(type).constFirst());
+    choose(u"Delete"_s);
+    QCOMPARE(text(), u"two"_s);
+    press(Qt::Key_End);
+    press(Qt::Key_Menu);
+    choose(u"Paste"_s);
+    QTRY_COMPARE(text(), u"twoone "_s);
 }
 
 QTEST_MAIN(PanelMenusTest)

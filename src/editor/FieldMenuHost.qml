@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+import Vesk.Editor
+
+// Shows a text field's menu, which is made anew each time.
+Loader {
+    id: root
+
+    required property Item field
+    // True before the menu takes the keyboard from the field, too.
+    readonly property bool isOpen: root.isOpening || (root.item ? (root.item as FieldMenu).isOpen : false)
+    property bool isOpening: false
+
+    // At a point of the field.
+    function show(point: point, isByKey: bool) {
+        const transfer = root.field.FieldTransfer;
+        root.setSource("FieldMenu.qml", {
+                "transfer": transfer,
+                "hasSelection": transfer.hasSelection(),
+                "hasText": transfer.hasText()
+            });
+        const menu = root.item as FieldMenu;
+        root.isOpening = true;
+        menu.openAt(root.field, point.x, point.y);
+        root.isOpening = false;
+        if (isByKey)
+            menu.selectFirst();
+    }
+}
