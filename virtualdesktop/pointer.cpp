@@ -45,6 +45,17 @@ void Pointer::click(QPoint place, int times)
     }
 }
 
+bool Pointer::isTaken() const
+{
+    // Asked for with a window that is not shown, the pointer is never given.
+    xcb_connection_t *xcb = m_display.xcb();
+    const auto cookie =
+        xcb_grab_pointer(xcb, 0, m_display.window(), 0, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC,
+                         XCB_WINDOW_NONE, XCB_CURSOR_NONE, XCB_CURRENT_TIME);
+    const Reply<xcb_grab_pointer_reply_t> reply{xcb_grab_pointer_reply(xcb, cookie, nullptr)};
+    return reply && reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
+}
+
 void Pointer::middleClick(QPoint place)
 {
     moveTo(place);

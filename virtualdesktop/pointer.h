@@ -23,6 +23,9 @@ public:
 
     void middleClick(QPoint place);
 
+    /// Whether a program has the pointer to itself.
+    [[nodiscard]] bool isTaken() const;
+
 private:
     static constexpr quint8 kLeftButton = 1;
     static constexpr quint8 kMiddleButton = 2;

@@ -15,14 +15,14 @@ constexpr int kTries = 10;
 
 } // namespace
 
-std::unique_ptr<TextEditor> TextEditor::open(VirtualDesktop &desktop, const QStringList &lines)
+std::unique_ptr<TextEditor> TextEditor::open(VirtualDesktop &desktop, const QStringList &lines,
+                                             const QString &name)
 {
-    const QString file = desktop.writeFile(u"sample.txt"_s, lines.join(u'\n') + u'\n');
+    const QString file = desktop.writeFile(name, lines.join(u'\n') + u'\n');
     std::unique_ptr<ChildProcess> process = desktop.run(u"mousepad"_s, {u"--disable-server"_s, file});
     if (!process)
         return nullptr;
-    const std::optional<Window> window =
-        desktop.windows().waitViewableOf(process->pid(), u"sample.txt"_s, kStartBound);
+    const std::optional<Window> window = desktop.windows().waitViewableOf(process->pid(), name, kStartBound);
     if (!window)
         return nullptr;
     std::unique_ptr<TextEditor> editor(new TextEditor(desktop, std::move(process), lines));

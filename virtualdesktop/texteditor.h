@@ -9,8 +9,10 @@ namespace vesk {
 class TextEditor final
 {
 public:
-    /// Null if its window did not come up and take the keyboard.
-    [[nodiscard]] static std::unique_ptr<TextEditor> open(VirtualDesktop &desktop, const QStringList &lines);
+    /// Opens a file of this name with these lines. Null if its window did not come up and take the
+    /// keyboard.
+    [[nodiscard]] static std::unique_ptr<TextEditor> open(VirtualDesktop &desktop, const QStringList &lines,
+                                                          const QString &name = QStringLiteral("sample.txt"));
 
     /// Selects the whole of the line with this index. False if the editor never said that it has.
     [[nodiscard]] bool selectLine(int index);

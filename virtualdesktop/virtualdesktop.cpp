@@ -37,7 +37,7 @@ std::unique_ptr<VirtualDesktop> VirtualDesktop::start(QString &problem, const La
     else if (!desktop->startBus())
         problem = u"The session bus (dbus-daemon) did not start."_s;
     else if (!desktop->startWindowManager())
-        problem = u"The window manager (openbox) did not start."_s;
+        problem = u"The window manager did not start."_s;
     else if (!lacks.accessibilityBus && !desktop->enableAccessibility())
         problem = u"The accessibility bus (at-spi2-core) did not answer."_s;
     else
@@ -104,8 +104,9 @@ std::unique_ptr<ChildProcess> VirtualDesktop::run(const QString &program, const 
 
 bool VirtualDesktop::startServer()
 {
-    QStringList arguments{u"-displayfd"_s,   u"1"_s,         u"-screen"_s, u"0"_s,
-                          u"1600x1000x24"_s, u"-nolisten"_s, u"tcp"_s,     u"-noreset"_s};
+    const QString screen = u"%1x%2x24"_s.arg(m_lacks.screen.width()).arg(m_lacks.screen.height());
+    QStringList arguments{u"-displayfd"_s, u"1"_s,         u"-screen"_s, u"0"_s,
+                          screen,          u"-nolisten"_s, u"tcp"_s,     u"-noreset"_s};
     if (!m_lacks.extension.isEmpty())
         arguments += {u"-extension"_s, m_lacks.extension};
     m_server = run(u"Xvfb"_s, arguments);
@@ -147,7 +148,15 @@ bool VirtualDesktop::startBus()
 
 bool VirtualDesktop::startWindowManager()
 {
-    m_windowManager = run(u"openbox"_s);
+    const std::optional<WindowManager> chosen = WindowManager::chosen();
+    if (!chosen)
+        return false;
+    for (const auto &[path, text] : chosen->files) {
+        QDir(m_home.path()).mkpath(QFileInfo(path).path());
+        if (writeFile(path, text).isEmpty())
+            return false;
+    }
+    m_windowManager = run(chosen->command.first(), chosen->command.sliced(1));
     return m_windowManager && waitForRootProperty("_NET_SUPPORTING_WM_CHECK");
 }
 

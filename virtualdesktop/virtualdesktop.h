@@ -6,13 +6,14 @@
 #include "virtualdesktop/keyboard.h"
 #include "virtualdesktop/notesfile.h"
 #include "virtualdesktop/pointer.h"
+#include "virtualdesktop/windowmanager.h"
 #include "virtualdesktop/windows.h"
 
 #include <QTemporaryDir>
 
 namespace vesk {
 
-/// A desktop of its own: an X server without a screen, a window manager, a session bus with the
+/// A desktop of its own: an X server without a screen, the chosen window manager, a session bus with the
 /// accessibility bus, and a home folder that starts empty. All of it ends with this object.
 class VirtualDesktop final
 {
@@ -23,7 +24,9 @@ public:
         /// Nobody answers for it, as where it is not installed.
         bool accessibilityBus = false;
         /// An extension of the X server.
-        QString extension;
+        QString extension = {};
+        /// Pixels; most desktops have more.
+        QSize screen = {1600, 1000};
     };
 
     /// Null if some part did not come up; `problem` then says which.

@@ -34,7 +34,6 @@ Windows::Windows(DisplayConnection &display)
     : m_display(display)
     , m_titleAtom(display.atom("_NET_WM_NAME"))
     , m_pidAtom(display.atom("_NET_WM_PID"))
-    , m_activeAtom(display.atom("_NET_ACTIVE_WINDOW"))
 {
 }
 
@@ -42,9 +41,10 @@ QList<xcb_window_t> Windows::topWindows() const
 {
     xcb_connection_t *xcb = m_display.xcb();
     QList<xcb_window_t> windows = {m_display.root()};
-    // The root's children, and theirs: the window manager puts an application's window into a frame.
+    // The window manager puts an application's window into a frame, and icewm that into another one.
+    constexpr int kDepth = 3;
     qsizetype level = 0;
-    for (int depth = 0; depth < 2; ++depth) {
+    for (int depth = 0; depth < kDepth; ++depth) {
         const QList<xcb_window_t> parents = windows.mid(level);
         level = windows.size();
         QList<xcb_query_tree_cookie_t> cookies;
@@ -174,12 +174,40 @@ bool Windows::waitActive(const Window &window, std::chrono::milliseconds bound)
 void Windows::activate(const Window &window)
 {
     constexpr quint32 kFromPager = 2;
+    sendToRoot("_NET_ACTIVE_WINDOW", window.id, kFromPager);
+}
+
+bool Windows::goToWorkspace(quint32 index, std::chrono::milliseconds bound)
+{
+    sendToRoot("_NET_CURRENT_DESKTOP", m_display.root(), index);
+    return m_display.waitUntil(bound, [&] { return rootNumber("_NET_CURRENT_DESKTOP") == index; });
+}
+
+QRect Windows::workArea() const
+{
+    QRect area(QPoint(), m_display.size());
+    const QList<quint32> said = numbers(m_display.root(), "_NET_WORKAREA");
+    if (said.size() >= 4)
+        area &= QRect(int(said.at(0)), int(said.at(1)), int(said.at(2)), int(said.at(3)));
+    for (const xcb_window_t window : topWindows()) {
+        // Left, right, top, bottom.
+        const QList<quint32> strut = numbers(window, "_NET_WM_STRUT_PARTIAL");
+        if (strut.size() != 12)
+            continue;
+        const QRect whole(QPoint(), m_display.size());
+        area &= whole.adjusted(int(strut.at(0)), int(strut.at(2)), -int(strut.at(1)), -int(strut.at(3)));
+    }
+    return area;
+}
+
+void Windows::sendToRoot(const char *type, xcb_window_t window, quint32 value)
+{
     xcb_client_message_event_t message = {};
     message.response_type = XCB_CLIENT_MESSAGE;
     message.format = 32;
-    message.window = window.id;
-    message.type = m_activeAtom;
-    message.data.data32[0] = kFromPager;
+    message.window = window;
+    message.type = m_display.atom(type);
+    message.data.data32[0] = value;
     xcb_send_event(m_display.xcb(), 0, m_display.root(),
                    XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
                    reinterpret_cast<const char *>(&message));

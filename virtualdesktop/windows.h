@@ -71,19 +71,26 @@ public:
     /// What the window manager says in a number on the root window; 0 if nothing.
     [[nodiscard]] quint32 rootNumber(const char *property) const;
 
+    /// Asks the window manager to go to this workspace, as a pager does, and waits until it is there.
+    /// Failure: false after `bound`.
+    [[nodiscard]] bool goToWorkspace(quint32 index, std::chrono::milliseconds bound);
+
+    /// The screen without what docks keep for themselves, as the docks or the window manager say.
+    [[nodiscard]] QRect workArea() const;
+
     /// Titles of all viewable windows, for the message of a test that failed.
     [[nodiscard]] QString describe() const;
 
 private:
     [[nodiscard]] bool isFocusInside(xcb_window_t window) const;
     [[nodiscard]] xcb_window_t activeWindow() const;
+    void sendToRoot(const char *type, xcb_window_t window, quint32 value);
     [[nodiscard]] QList<quint32> numbers(xcb_window_t window, const char *property) const;
     [[nodiscard]] QList<xcb_window_t> topWindows() const;
 
     DisplayConnection &m_display;
     xcb_atom_t m_titleAtom;
     xcb_atom_t m_pidAtom;
-    xcb_atom_t m_activeAtom;
 };
 
 } // namespace vesk

@@ -41,7 +41,6 @@ private:
     /// Whether the panel stands in this corner, 10 points of `ratio` pixels in; waits for it.
     [[nodiscard]] bool waitInCorner(QPoint corner, qreal ratio = 1);
     [[nodiscard]] QString where() const;
-    void sendToRoot(const char *message, quint32 value);
 
     std::unique_ptr<Monitors> m_monitors;
 };
@@ -80,21 +79,6 @@ QString TestPanelPlace::where() const
         return u"not shown"_s;
     const QRect &area = found->geometry;
     return u"%1,%2 %3x%4"_s.arg(area.x()).arg(area.y()).arg(area.width()).arg(area.height());
-}
-
-void TestPanelPlace::sendToRoot(const char *message, quint32 value)
-{
-    DisplayConnection &display = m_desktop->display();
-    xcb_client_message_event_t event = {};
-    event.response_type = XCB_CLIENT_MESSAGE;
-    event.format = 32;
-    event.window = display.root();
-    event.type = display.atom(message);
-    event.data.data32[0] = value;
-    xcb_send_event(display.xcb(), 0, display.root(),
-                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
-                   reinterpret_cast<const char *>(&event));
-    xcb_flush(display.xcb());
 }
 
 void TestPanelPlace::docksKeepTheirRoom()
@@ -192,11 +176,7 @@ void TestPanelPlace::standsAboveAFullScreenWindow()
 void TestPanelPlace::comesUpOnTheDesktopInUse()
 {
     constexpr quint32 kSecond = 1;
-    sendToRoot("_NET_NUMBER_OF_DESKTOPS", 3);
-    sendToRoot("_NET_CURRENT_DESKTOP", kSecond);
-    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [this] {
-        return m_desktop->windows().rootNumber("_NET_CURRENT_DESKTOP") == kSecond;
-    }));
+    VERIFY_ON(*m_desktop, m_desktop->windows().goToWorkspace(kSecond, kBound));
     toggle();
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel(), kBound));

@@ -5,6 +5,9 @@ namespace vesk {
 
 void VeskTest::startDesktop(const VirtualDesktop::Lacks &lacks)
 {
+    const std::optional<WindowManager> manager = WindowManager::chosen();
+    if (manager && !manager->isInstalled())
+        QSKIP(qPrintable(QStringLiteral("The window manager %1 is not installed.").arg(manager->name)));
     QString problem;
     m_desktop = VirtualDesktop::start(problem, lacks);
     QVERIFY2(m_desktop, qPrintable(problem));
