@@ -42,6 +42,7 @@ private Q_SLOTS:
     void nothingIsInFront();
     void accessibilityBusIsMissing();
     void screenIsLocked();
+    void soundServerHangs();
     void extensionOfTheServerIsMissing();
     void textOutlivesVesk_data();
     void textOutlivesVesk();
@@ -259,6 +260,28 @@ void TestFaults::screenIsLocked()
     QCOMPARE(m_desktop->notes().promptTexts(), QStringList{m_lines.at(1)});
     QCOMPARE(capture(), Outcome::Note);
     QCOMPARE(m_desktop->notes().texts(), m_lines);
+}
+
+/// Vesk ends all the same, and the next one starts.
+void TestFaults::soundServerHangs()
+{
+    startDesktop();
+    QVERIFY(m_desktop && m_desktop->prepareUser());
+    m_desktop->setVariable(u"LD_PRELOAD"_s, QStringLiteral(VESK_HUNG_SOUND));
+    QVERIFY(startVesk());
+    press({XK_n});
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kQuickNote, kBound));
+    m_desktop->keyboard().type(u"tea"_s);
+    m_desktop->keyboard().tap({XK_Return}, kFinger);
+    VERIFY_ON(*m_desktop, waitNotice(kSaved));
+    QVERIFY(m_desktop->display().waitUntil(
+        kBound, [this] { return !m_desktop->readFile(u"sound-begun"_s).isEmpty(); }));
+    m_vesk->signal(SIGTERM);
+    QVERIFY(m_vesk->waitForExit(kBound));
+    QCOMPARE(m_vesk->exitCode(), 0);
+    m_desktop->setVariable(u"LD_PRELOAD"_s, {});
+    QVERIFY(startVesk());
+    QCOMPARE(m_desktop->notes().texts(), QStringList{u"tea"_s});
 }
 
 void TestFaults::extensionOfTheServerIsMissing()

@@ -5,47 +5,57 @@
 
 #include <canberra.h>
 
+#include <atomic>
+#include <system_error>
+#include <thread>
+
 namespace vesk {
+
+struct CanberraSounds::Player
+{
+    struct Destroy
+    {
+        void operator()(ca_context *context) const { ca_context_destroy(context); }
+    };
+
+    std::unique_ptr<ca_context, Destroy> context;
+    std::atomic<bool> isBusy = false;
+};
 
 CanberraSounds::CanberraSounds()
 {
-    m_thread.setMaxThreadCount(1);
-    m_thread.setExpiryTimeout(10'000);
     ca_context *context = nullptr;
     if (ca_context_create(&context) != CA_SUCCESS)
         return;
-    m_context.reset(context);
+    m_player = std::make_shared<Player>();
+    m_player->context.reset(context);
     ca_context_change_props(context, CA_PROP_APPLICATION_NAME, "Vesk", CA_PROP_APPLICATION_ID,
                             "org.vesk.Vesk", nullptr);
 }
 
-CanberraSounds::~CanberraSounds()
-{
-    m_thread.clear();
-    // A server that does not answer holds the thread; the program's end is not held up for that.
-    constexpr int kPatience = 200; // milliseconds
-    if (!m_thread.waitForDone(kPatience))
-        static_cast<void>(m_context.release());
-}
+CanberraSounds::~CanberraSounds() = default;
 
 void CanberraSounds::play(Sound sound)
 {
     Q_ASSERT(sound == Sound::Tink);
-    // One sound waits at most; more would only come late.
-    if (!m_context || m_thread.activeThreadCount() > 0)
+    // A sound that has to wait for the one before would only come late.
+    if (!m_player || m_player->isBusy.exchange(true))
         return;
     const QString description = QCoreApplication::translate("vesk::CanberraSounds", "Saved to Vesk");
-    m_thread.start([context = m_context.get(), description = description.toUtf8()] {
+    const auto play = [player = m_player, description = description.toUtf8()] {
         // The name for "something is done" in the sound naming rules of the free desktops.
-        ca_context_play(context, 0, CA_PROP_EVENT_ID, "complete", CA_PROP_EVENT_DESCRIPTION,
+        ca_context_play(player->context.get(), 0, CA_PROP_EVENT_ID, "complete", CA_PROP_EVENT_DESCRIPTION,
                         description.constData(), CA_PROP_MEDIA_ROLE, "event", CA_PROP_CANBERRA_CACHE_CONTROL,
                         "permanent", nullptr);
-    });
-}
-
-void CanberraSounds::Destroy::operator()(ca_context *context) const
-{
-    ca_context_destroy(context);
+        player->isBusy = false;
+    };
+    try {
+        // A thread that somebody waits for would hold up the program's end while the server hangs.
+        std::thread(play).detach();
+    } catch (const std::system_error &) {
+        // No thread is left. The note is kept, and the notice says so.
+        m_player->isBusy = false;
+    }
 }
 
 } // namespace vesk

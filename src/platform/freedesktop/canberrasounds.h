@@ -3,8 +3,6 @@
 
 #include "platform/sounds.h"
 
-#include <QThreadPool>
-
 #include <memory>
 
 struct ca_context;
@@ -12,7 +10,8 @@ struct ca_context;
 namespace vesk {
 
 /// Sounds of the desktop's sound theme. The sound server is spoken to on a thread of its own: the
-/// first contact waits for the server's answer, and a hung server would hold up Vesk.
+/// first contact waits for the server's answer, and a hung server would hold up Vesk. Nobody waits for that
+/// thread, not even at the program's end.
 class CanberraSounds final : public Sounds
 {
 public:
@@ -22,13 +21,10 @@ public:
     void play(Sound sound) override;
 
 private:
-    struct Destroy
-    {
-        void operator()(ca_context *context) const;
-    };
+    struct Player;
 
-    std::unique_ptr<ca_context, Destroy> m_context;
-    QThreadPool m_thread;
+    /// Shared with the thread, which may outlive this object. Null if there is no sound.
+    std::shared_ptr<Player> m_player;
 };
 
 } // namespace vesk
