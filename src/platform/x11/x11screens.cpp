@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <span>
 
 namespace vesk {
 
@@ -43,6 +44,23 @@ QList<quint32> numbersOf(const XReply<xcb_get_property_reply_t> &reply)
         return {};
     return numbersOf(QByteArray(static_cast<const char *>(xcb_get_property_value(reply.get())),
                                 xcb_get_property_value_length(reply.get())));
+}
+
+QList<xcb_window_t> childrenOf(xcb_connection_t *xcb, const QList<xcb_window_t> &parents)
+{
+    QList<xcb_query_tree_cookie_t> questions;
+    for (const xcb_window_t parent : parents)
+        questions.append(xcb_query_tree(xcb, parent));
+    QList<xcb_window_t> children;
+    for (const xcb_query_tree_cookie_t question : std::as_const(questions)) {
+        const XReply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(xcb, question, nullptr));
+        if (!tree)
+            continue;
+        const std::span found(xcb_query_tree_children(tree.get()),
+                              static_cast<size_t>(xcb_query_tree_children_length(tree.get())));
+        children.append(QList<xcb_window_t>(found.begin(), found.end()));
+    }
+    return children;
 }
 
 } // namespace
@@ -116,6 +134,9 @@ void X11Screens::onEvent(const xcb_generic_event_t *event)
     if (isOfRoot ? isOneOf({"_NET_CLIENT_LIST", "_NET_WORKAREA", "_NET_CURRENT_DESKTOP", "_GTK_WORKAREAS_D0"})
                  : isOneOf({"_NET_WM_STRUT_PARTIAL", "_NET_WM_STRUT"}))
         m_settling.start();
+    // Nothing else tells of a dock that is in no list.
+    if (isOfRoot && m_workArea.isEmpty() && isOneOf({"_NET_ACTIVE_WINDOW"}))
+        m_settling.start();
 }
 
 void X11Screens::settle()
@@ -134,18 +155,17 @@ void X11Screens::readSpace()
         m_connection.xcb(), xcb_get_geometry(m_connection.xcb(), m_connection.root()), nullptr));
     if (geometry)
         m_desktop = QSize(geometry->width, geometry->height);
-    readStruts();
     const quint32 desktop =
         m_connection.property32(m_connection.root(), m_connection.atom("_NET_CURRENT_DESKTOP")).value_or(0);
     m_monitorAreas = areas("_GTK_WORKAREAS_D" + QByteArray::number(desktop));
     m_workArea = areas("_NET_WORKAREA").value(desktop);
+    readStruts();
 }
 
 void X11Screens::readStruts()
 {
     xcb_connection_t *xcb = m_connection.xcb();
-    const QList<quint32> windows =
-        numbersOf(m_connection.property(m_connection.root(), m_connection.atom("_NET_CLIENT_LIST")));
+    const QList<xcb_window_t> windows = candidates();
     // All questions go out before the first answer is waited for.
     QList<std::array<xcb_get_property_cookie_t, 2>> questions;
     for (const xcb_window_t window : windows) {
@@ -171,6 +191,26 @@ void X11Screens::readStruts()
             m_struts.append(wholeEdges(plain.at(0), plain.at(1), plain.at(2), plain.at(3)));
         }
     }
+}
+
+QList<xcb_window_t> X11Screens::candidates() const
+{
+    QList<quint32> windows =
+        numbersOf(m_connection.property(m_connection.root(), m_connection.atom("_NET_CLIENT_LIST")));
+    if (!m_workArea.isEmpty())
+        return windows;
+    // A window manager that does not say what is free may not list the docks either.
+    QList<xcb_window_t> parents{m_connection.root()};
+    constexpr int kDepth = 2;
+    for (int depth = 0; depth < kDepth; ++depth) {
+        const QList<xcb_window_t> children = childrenOf(m_connection.xcb(), parents);
+        for (const xcb_window_t child : children) {
+            if (!windows.contains(child))
+                windows.append(child);
+        }
+        parents = children;
+    }
+    return windows;
 }
 
 QList<QRect> X11Screens::areas(const QByteArray &property) const

@@ -33,6 +33,8 @@ private:
     void settle();
     void readSpace();
     void readStruts();
+    /// The windows that may be docks.
+    [[nodiscard]] QList<xcb_window_t> candidates() const;
     /// Areas of a property of the root window, each of four numbers.
     [[nodiscard]] QList<QRect> areas(const QByteArray &property) const;
     [[nodiscard]] QRectF visibleFrame(const QScreen &screen) const;

@@ -55,6 +55,9 @@ X11Windows::X11Windows(X11Connection &connection, const Screens &screens)
     xcb_xfixes_select_selection_input(connection.xcb(), connection.window(), connection.atom(kCompositor),
                                       kOwnerChanges);
     connect(&connection, &X11Connection::eventReceived, this, &X11Windows::onEvent);
+    constexpr std::chrono::milliseconds kLook{40};
+    m_look.setInterval(kLook);
+    connect(&m_look, &QTimer::timeout, this, &X11Windows::lookAgain);
 }
 
 void X11Windows::prepare(QWindow &window, Kind kind)
@@ -69,8 +72,29 @@ void X11Windows::prepare(QWindow &window, Kind kind)
 
 bool X11Windows::setFrame(QWindow &window, const QRectF &frame)
 {
-    window.setGeometry(m_screens.flipped(frame).toRect());
+    const QRect geometry = m_screens.flipped(frame).toRect();
+    window.setGeometry(geometry);
+    m_placings.removeIf([&window](const Placing &each) { return each.window == &window; });
+    m_placings.append(Placing{.window = &window, .geometry = geometry});
+    m_look.start();
     return true;
+}
+
+void X11Windows::lookAgain()
+{
+    // Some window managers put the title bar that a window is not to have where the window is to be, and
+    // the window below it. Asked again once it is shown, they put the window there.
+    constexpr int kLooks = 6;
+    for (Placing &each : m_placings) {
+        ++each.looks;
+        if (!each.window || !each.window->isVisible() || each.window->geometry() == each.geometry)
+            continue;
+        if (each.window->size() == each.geometry.size())
+            each.window->setGeometry(each.geometry);
+    }
+    m_placings.removeIf([](const Placing &each) { return each.window.isNull() || each.looks >= kLooks; });
+    if (m_placings.isEmpty())
+        m_look.stop();
 }
 
 void X11Windows::setCornerRadius(QWindow &window, qreal radius)

@@ -3,6 +3,10 @@
 
 #include "platform/windows.h"
 
+#include <QPointer>
+#include <QTimer>
+#include <QWindow>
+
 #include <xcb/xcb.h>
 
 namespace vesk {
@@ -24,11 +28,23 @@ public:
     [[nodiscard]] bool isComposited() const override { return m_isComposited; }
 
 private:
+    /// Where a window was put, until its window manager has had its say.
+    struct Placing
+    {
+        QPointer<QWindow> window;
+        QRect geometry;
+        int looks = 0;
+    };
+
+    /// Puts the windows that were shown elsewhere than where they were put there once more.
+    void lookAgain();
     void onEvent(const xcb_generic_event_t *event);
     [[nodiscard]] bool hasCompositor() const;
 
     X11Connection &m_connection;
     const Screens &m_screens;
+    QList<Placing> m_placings;
+    QTimer m_look;
     bool m_isComposited = false;
 };
 
