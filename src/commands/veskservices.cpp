@@ -210,8 +210,12 @@ void VeskServices::capture(Target target)
         m_needs.quickNote.close();
         return;
     }
-    if (!isWithinGap(m_lastCapture))
-        captureSelection(target, m_needs.reader.readSource());
+    if (isWithinGap(m_lastCapture))
+        return;
+    // First of all: who writes a quick note does not wait for the box.
+    if (m_needs.accessibility.isProcessTrusted())
+        m_needs.quickNote.expect();
+    captureSelection(target, m_needs.reader.readSource());
 }
 
 QCoro::Task<> VeskServices::captureSelection(Target target, Source press)
@@ -225,6 +229,7 @@ QCoro::Task<> VeskServices::captureSelection(Target target, Source press)
             co_return;
     }
     if (read.selection) {
+        m_needs.quickNote.expectNothing();
         keep(*read.selection, target);
         co_return;
     }

@@ -16,6 +16,10 @@ public:
 
     virtual ~QuickNoteBox() = default;
 
+    /// Says that the box may come up in a moment: what is typed from now on is kept for it. `show`, or
+    /// `expectNothing`, follows.
+    virtual void expect() = 0;
+    virtual void expectNothing() = 0;
     /// Brings the box up with the keyboard. `remark` is a line for the user beside the note, such as why it
     /// has no text; empty for none.
     virtual void show(Mode mode, const QString &remark) = 0;

@@ -61,7 +61,7 @@ void QuickNotePanel::makeWindow()
     connect(&m_model, &QuickNoteModel::moveRequested, this, &QuickNotePanel::beginMove);
     connect(m_view.get(), &QWindow::visibleChanged, this, [this](bool isVisible) {
         if (!isVisible)
-            m_isShowing = false; // The whole program was hidden.
+            setShowing(false); // The whole program was hidden.
     });
 
     // The shape is cut in the screen's own pixels.
@@ -69,6 +69,16 @@ void QuickNotePanel::makeWindow()
 
     m_fade = std::make_unique<WindowFade>(*m_view, Surroundings::of(m_needs.engine));
     connect(m_fade.get(), &WindowFade::gone, m_view.get(), &QWindow::hide);
+}
+
+void QuickNotePanel::expect()
+{
+    m_needs.application.expectKeys();
+}
+
+void QuickNotePanel::expectNothing()
+{
+    m_needs.application.expectNoKeys();
 }
 
 void QuickNotePanel::show(Mode mode, const QString &remark)
@@ -87,21 +97,31 @@ void QuickNotePanel::show(Mode mode, const QString &remark)
     m_fade->fadeIn(kFadeIn);
     m_view->show();
     m_view->raise();
-    m_isShowing = true;
+    setShowing(true);
     m_needs.application.activate(*m_view);
     // At once, not a little later: by then the user may have put the caret elsewhere.
     m_controller.forceFocus();
     m_controller.moveCaretToEnd();
+    Q_EMIT opened();
 }
 
 void QuickNotePanel::close()
 {
     if (!m_isShowing)
         return;
-    m_isShowing = false;
     // Before the fading: what is typed now is for the application below.
     m_needs.application.giveKeyboardBack(*m_view);
     m_fade->fadeOut(kFadeOut);
+    setShowing(false);
+}
+
+void QuickNotePanel::setShowing(bool isShowing)
+{
+    if (m_isShowing == isShowing)
+        return;
+    m_isShowing = isShowing;
+    if (!isShowing)
+        Q_EMIT closed();
 }
 
 void QuickNotePanel::save()
@@ -156,10 +176,20 @@ void QuickNotePanel::beginMove()
 {
     // A window manager that is asked to move the window has the keyboard meanwhile, and some of them go
     // on after the button is up.
-    if (m_isPlaceable)
-        m_isMoving = true;
-    else
+    if (!m_isPlaceable) {
         m_view->startSystemMove();
+        return;
+    }
+    m_isMoving = true;
+    // The pointer has gone some way until this counted as dragging, on a busy machine all the way.
+    moveTo(m_pointer);
+}
+
+void QuickNotePanel::moveTo(QPoint pointer)
+{
+    m_pointer = pointer;
+    if (m_isMoving)
+        m_needs.windows.setFrame(*m_view, m_needs.screens.flipped(QRectF(pointer - m_grip, m_view->size())));
 }
 
 bool QuickNotePanel::eventFilter(QObject *watched, QEvent *event)
@@ -170,13 +200,15 @@ bool QuickNotePanel::eventFilter(QObject *watched, QEvent *event)
         close();
         return true;
     case QEvent::MouseButtonPress:
-        m_grip = static_cast<QMouseEvent *>(event)->globalPosition().toPoint() - m_view->position();
+        m_isMoving = false;
+        m_pointer = static_cast<QMouseEvent *>(event)->globalPosition().toPoint();
+        m_grip = m_pointer - m_view->position();
         break;
     case QEvent::MouseMove:
-        if (m_isMoving)
-            m_view->setPosition(static_cast<QMouseEvent *>(event)->globalPosition().toPoint() - m_grip);
+        moveTo(static_cast<QMouseEvent *>(event)->globalPosition().toPoint());
         break;
     case QEvent::MouseButtonRelease:
+        moveTo(static_cast<QMouseEvent *>(event)->globalPosition().toPoint());
         m_isMoving = false;
         break;
     default:

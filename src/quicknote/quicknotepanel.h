@@ -47,6 +47,8 @@ public:
     explicit QuickNotePanel(const Needs &needs);
     ~QuickNotePanel() override;
 
+    void expect() override;
+    void expectNothing() override;
     using QuickNoteBox::show;
     void show(Mode mode, const QString &remark) override;
     void close() override;
@@ -59,16 +61,25 @@ public:
     /// Null before the box was first shown.
     [[nodiscard]] QQuickView *window() const { return m_view.get(); }
 
+Q_SIGNALS:
+    /// The box has come up, or its mode has changed.
+    void opened();
+    /// The box has gone, for whatever reason.
+    void closed();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void makeWindow();
+    void setShowing(bool isShowing);
     void place();
     /// Gives the window its round corners.
     void shape();
     /// Has the window follow the pointer while the button is down.
     void beginMove();
+    /// Moves the window so that the pointer keeps its hold of it.
+    void moveTo(QPoint pointer);
     void onFocusWindowChanged(const QWindow *window);
 
     Needs m_needs;
@@ -82,6 +93,7 @@ private:
     bool m_isMoving = false;
     /// Where the pointer has hold of the window, from its corner.
     QPoint m_grip;
+    QPoint m_pointer;
 };
 
 } // namespace vesk

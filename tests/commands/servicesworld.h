@@ -35,8 +35,11 @@ struct ServicesWorld : StoreFolder, ProgramWorld
     {
     public:
         using QuickNoteBox::show;
+        void expect() override { m_isExpected = true; }
+        void expectNothing() override { m_isExpected = false; }
         void show(Mode mode, const QString &remark) override
         {
+            m_isExpected = false;
             m_mode = mode;
             m_remark = remark;
         }
@@ -44,10 +47,13 @@ struct ServicesWorld : StoreFolder, ProgramWorld
         [[nodiscard]] bool isShowing() const override { return m_mode.has_value(); }
         [[nodiscard]] std::optional<Mode> mode() const { return m_mode; }
         [[nodiscard]] const QString &remark() const { return m_remark; }
+        /// Whether what is typed is kept for the box.
+        [[nodiscard]] bool isExpected() const { return m_isExpected; }
 
     private:
         std::optional<Mode> m_mode;
         QString m_remark;
+        bool m_isExpected = false;
     };
 
     /// `owners` have the checklist's combination for themselves.

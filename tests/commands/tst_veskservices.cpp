@@ -102,6 +102,7 @@ void TestVeskServices::selectionGoesWhereTheKeySays()
     QCOMPARE(ServicesWorld::notice(), notice);
     QVERIFY(!world.store.hasPendingChanges());
     QCOMPARE(world.sounds.played(), QList{Sounds::Sound::Tink});
+    QVERIFY2(!world.box.isExpected(), "What is typed is kept from the application.");
 }
 
 void TestVeskServices::commandsKeepTheirDistance_data()

@@ -157,9 +157,11 @@ void TestQuickNoteBox::draggingItsGroundMovesIt()
     m_desktop->keyboard().tap({XK_Return});
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kSaved, kBound));
     QCOMPARE(m_desktop->notes().texts(), QStringList{u"tea"_s});
-    const QList<Window> all = m_desktop->windows().all();
-    QVERIFY(std::ranges::any_of(all, [&](const Window &window) {
-        return window.id == box->id && window.geometry == box->geometry.translated(60, 90);
+    VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
+        const QList<Window> all = m_desktop->windows().all();
+        return std::ranges::any_of(all, [&](const Window &window) {
+            return window.id == box->id && window.geometry == box->geometry.translated(60, 90);
+        });
     }));
 }
 

@@ -19,6 +19,12 @@ void MemoryApplication::hide()
     Q_EMIT didHide();
 }
 
+bool MemoryApplication::holdKeys()
+{
+    m_expectsKeys = false;
+    return false;
+}
+
 void MemoryApplication::activate(QWindow &window)
 {
     m_isActive = true;

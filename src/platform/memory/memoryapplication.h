@@ -21,7 +21,9 @@ public:
     [[nodiscard]] bool isAway() const override { return m_isAway; }
     [[nodiscard]] bool isPreviousWindowClosed() const override { return m_isPreviousWindowClosed; }
     void unhide() override { m_isHidden = false; }
-    bool holdKeys() override { return false; }
+    void expectKeys() override { m_expectsKeys = true; }
+    void expectNoKeys() override { m_expectsKeys = false; }
+    bool holdKeys() override;
     void activate(QWindow &window) override;
     void giveKeyboardBack(QWindow &window) override;
 
@@ -31,6 +33,8 @@ public:
     void setAway(bool isAway) { m_isAway = isAway; }
     /// Plays that the window that had the keyboard closes.
     void closePreviousWindow() { m_isPreviousWindowClosed = true; }
+    /// Whether what is typed is kept until it is known who is to have it.
+    [[nodiscard]] bool expectsKeys() const { return m_expectsKeys; }
     /// Plays a second start of the program.
     void reopen() { Q_EMIT reopened(); }
     /// The window that was activated last.
@@ -41,6 +45,7 @@ private:
     bool m_isHidden = false;
     bool m_isAway = true;
     bool m_isPreviousWindowClosed = false;
+    bool m_expectsKeys = false;
     QPointer<QWindow> m_activatedWindow;
 };
 

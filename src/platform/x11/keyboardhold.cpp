@@ -9,14 +9,47 @@ namespace vesk {
 KeyboardHold::KeyboardHold(X11Connection &connection)
     : m_connection(connection)
 {
-    constexpr std::chrono::milliseconds kLimit{1000};
+    constexpr std::chrono::milliseconds kLimit{1500};
     m_limit.setSingleShot(true);
     m_limit.setInterval(kLimit);
     connect(&m_limit, &QTimer::timeout, this, &KeyboardHold::end);
+    // Longer than it takes to ask the application in front, unless that does not answer.
+    constexpr std::chrono::milliseconds kQuietLimit{700};
+    m_quietLimit.setSingleShot(true);
+    m_quietLimit.setInterval(kQuietLimit);
+    connect(&m_quietLimit, &QTimer::timeout, this, &KeyboardHold::endQuiet);
+    connect(&connection, &X11Connection::keysNeeded, this, [this] {
+        endQuiet();
+        end();
+    });
     constexpr std::chrono::milliseconds kLook{20};
     m_releaseWatch.setInterval(kLook);
     connect(&m_releaseWatch, &QTimer::timeout, this, &KeyboardHold::lookForRelease);
     connect(&connection, &X11Connection::eventReceived, this, &KeyboardHold::onEvent);
+}
+
+void KeyboardHold::beginQuietly()
+{
+    if (m_isQuiet || m_isHolding)
+        return;
+    // A grab of the pointer may freeze the keyboard too, and no window hears of a change of focus.
+    const auto cookie =
+        xcb_grab_pointer(m_connection.xcb(), 0, m_connection.root(), 0, XCB_GRAB_MODE_SYNC,
+                         XCB_GRAB_MODE_SYNC, XCB_WINDOW_NONE, XCB_CURSOR_NONE, XCB_CURRENT_TIME);
+    const XReply<xcb_grab_pointer_reply_t> reply(xcb_grab_pointer_reply(m_connection.xcb(), cookie, nullptr));
+    m_isQuiet = reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
+    if (m_isQuiet)
+        m_quietLimit.start();
+}
+
+void KeyboardHold::endQuiet()
+{
+    if (!m_isQuiet)
+        return;
+    m_isQuiet = false;
+    m_quietLimit.stop();
+    xcb_ungrab_pointer(m_connection.xcb(), XCB_CURRENT_TIME);
+    m_connection.flush();
 }
 
 bool KeyboardHold::begin()
@@ -31,11 +64,14 @@ bool KeyboardHold::begin()
     m_isHolding = reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
     if (m_isHolding)
         m_limit.start();
+    // Not before: no key may pass between the two.
+    endQuiet();
     return m_isHolding;
 }
 
 void KeyboardHold::end()
 {
+    endQuiet();
     if (!m_isHolding)
         return;
     m_isHolding = false;

@@ -12,7 +12,7 @@ class X11Connection;
 
 /// Keeps what is typed while one of Vesk's windows comes up for that window: the server delivers no key
 /// until the window has the keyboard, and then all of them, in order. Ends by itself after a moment, in
-/// case the window manager gives the keyboard to nobody.
+/// case the window manager gives the keyboard to nobody, and before Vesk itself sends keys.
 class KeyboardHold final : public QObject
 {
     Q_OBJECT
@@ -20,6 +20,12 @@ class KeyboardHold final : public QObject
 public:
     explicit KeyboardHold(X11Connection &connection);
 
+    /// Holds the keys in a way that no application notices: without a grab of the keyboard, of which
+    /// toolkits think that it takes the focus away. The pointer's clicks are kept as well. Does nothing
+    /// while another application has the pointer to itself, as with a menu open.
+    void beginQuietly();
+    /// Ends what `beginQuietly` began.
+    void endQuiet();
     /// Whether it holds now: not if another application has the keyboard to itself.
     bool begin();
     /// Lets all keys go to the window that has the keyboard now.
@@ -32,7 +38,9 @@ private:
 
     X11Connection &m_connection;
     QTimer m_limit;
+    QTimer m_quietLimit;
     QTimer m_releaseWatch;
+    bool m_isQuiet = false;
     bool m_isHolding = false;
     /// The hot key whose release the hold keeps from those who wait for it; 0 for none.
     xcb_keycode_t m_pressedKey = 0;

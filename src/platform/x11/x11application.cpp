@@ -10,6 +10,8 @@
 #include <QGuiApplication>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace vesk {
 
 X11Application::X11Application(X11Connection &connection, X11Workspace &workspace,
@@ -18,6 +20,8 @@ X11Application::X11Application(X11Connection &connection, X11Workspace &workspac
     , m_workspace(workspace)
     , m_hold(connection)
     , m_heldKeys(connection)
+    , m_lastForeign(foreignActiveWindow())
+    , m_workspaceInUse(workspaceInUse())
 {
     // Long enough for the window manager to do all that it was asked to, too short to be seen when the
     // user turns elsewhere.
@@ -28,6 +32,8 @@ X11Application::X11Application(X11Connection &connection, X11Workspace &workspac
         // News of an earlier switch may be all that was heard so far.
         if (isOwnWindowActive())
             return;
+        if (!foreignActiveWindow())
+            m_lastForeign.reset(); // The user works in no window.
         // The keyboard may have come and gone before either was read.
         if (m_activation.isActive() && hasUserTurnedElsewhere()) {
             m_activation.stop();
@@ -38,6 +44,7 @@ X11Application::X11Application(X11Connection &connection, X11Workspace &workspac
     constexpr std::chrono::milliseconds kActivation{500};
     m_activation.setSingleShot(true);
     m_activation.setInterval(kActivation);
+    connect(&connection, &X11Connection::eventReceived, this, &X11Application::onEvent);
     connect(&workspace, &X11Workspace::activeWindowChanged, this, &X11Application::onActiveWindowChanged);
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *window) {
         if (!window)
@@ -71,9 +78,10 @@ void X11Application::hide()
     }
     // Window managers differ in whom they give the keyboard to when a window goes, so it is said.
     m_returnedTo = hadKeyboard ? m_previousWindow : std::nullopt;
-    if (m_returnedTo && isOpen(*m_returnedTo))
-        ownwindows::requestActivation(m_returnedTo->id, m_connection.userTime());
+    if (hadKeyboard)
+        activatePrevious();
     m_previousWindow.reset();
+    m_taken.clear();
     Q_EMIT didHide();
 }
 
@@ -90,21 +98,31 @@ bool X11Application::isPreviousWindowClosed() const
     return m_returnedTo && !isOpen(*m_returnedTo);
 }
 
+void X11Application::expectKeys()
+{
+    m_hold.beginQuietly();
+}
+
+void X11Application::expectNoKeys()
+{
+    m_hold.endQuiet();
+}
+
 bool X11Application::holdKeys()
 {
+    remember();
     // Qt lets go of a window that is hidden only when the server says so.
     const QWindow *window = QGuiApplication::focusWindow();
-    return !(window && window->isVisible()) && m_hold.begin();
+    if (!(window && window->isVisible()))
+        return m_hold.begin();
+    m_hold.endQuiet();
+    return false;
 }
 
 void X11Application::activate(QWindow &window)
 {
-    if (const std::optional<ForeignWindow> other = foreignActiveWindow()) {
-        m_previousWindow = other;
-        m_previousOwnWindow = nullptr;
-    } else if (QWindow *own = QGuiApplication::focusWindow(); own != &window) {
-        m_previousOwnWindow = own;
-    }
+    remember();
+    rememberOwn(window);
     m_activatedWindow = &window;
     m_activation.start();
     window.requestActivate();
@@ -120,16 +138,94 @@ void X11Application::giveKeyboardBack(QWindow &window)
     m_heldKeys.begin();
     m_hold.end();
     m_activation.stop();
-    if (m_previousOwnWindow && m_previousOwnWindow->isVisible()) {
-        m_previousOwnWindow->requestActivate();
-        ownwindows::requestActivation(ownwindows::idOf(*m_previousOwnWindow), m_connection.userTime());
-    } else if (m_previousWindow && isOpen(*m_previousWindow)) {
-        ownwindows::requestActivation(m_previousWindow->id, m_connection.userTime());
+    if (QWindow *own = ownBefore(window)) {
+        own->requestActivate();
+        ownwindows::requestActivation(ownwindows::idOf(*own), m_connection.userTime());
+    } else {
+        activatePrevious();
     }
+}
+
+void X11Application::onEvent(const xcb_generic_event_t *event)
+{
+    if ((event->response_type & 0x7f) != XCB_PROPERTY_NOTIFY)
+        return;
+    const auto *notify = reinterpret_cast<const xcb_property_notify_event_t *>(event);
+    if (notify->window == m_connection.root() && notify->atom == m_connection.atom("_NET_CURRENT_DESKTOP"))
+        onWorkspaceChanged();
+}
+
+void X11Application::onWorkspaceChanged()
+{
+    const quint32 now = workspaceInUse();
+    if (now == m_workspaceInUse)
+        return;
+    m_workspaceInUse = now;
+    // Neither the keyboard nor a paste goes back to where the user has left.
+    m_lastForeign = foreignActiveWindow();
+    m_previousWindow.reset();
+    m_taken.clear();
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    const bool isAnyShown = std::ranges::any_of(windows, [](const QWindow *window) {
+        return window->isVisible() && !(window->flags() & Qt::WindowDoesNotAcceptFocus);
+    });
+    if (!isAnyShown)
+        return;
+    m_hold.end();
+    m_activation.stop();
+    m_isActive = false;
+    Q_EMIT didResignActive();
+}
+
+void X11Application::remember()
+{
+    if (const std::optional<ForeignWindow> other = foreignActiveWindow())
+        m_lastForeign = other;
+    m_previousWindow = m_lastForeign;
+}
+
+void X11Application::rememberOwn(QWindow &window)
+{
+    QWindow *own = foreignActiveWindow() ? nullptr : QGuiApplication::focusWindow();
+    // Asked for again while it has the keyboard, it still has it from the same.
+    if (own == &window)
+        return;
+    m_taken.removeIf([&window](const Taken &each) { return each.window.isNull() || each.window == &window; });
+    if (own)
+        m_taken.append(Taken{.window = &window, .from = own});
+}
+
+QWindow *X11Application::ownBefore(const QWindow &window) const
+{
+    const auto found =
+        std::ranges::find_if(m_taken, [&window](const Taken &each) { return each.window == &window; });
+    return found != m_taken.cend() && found->from && found->from->isVisible() ? found->from.data() : nullptr;
+}
+
+void X11Application::activatePrevious()
+{
+    if (m_previousWindow && isOpen(*m_previousWindow) && isOnThisWorkspace(m_previousWindow->id))
+        ownwindows::requestActivation(m_previousWindow->id, m_connection.userTime());
+}
+
+bool X11Application::isOnThisWorkspace(xcb_window_t window) const
+{
+    constexpr quint32 kOnAll = 0xFFFFFFFF;
+    const std::optional<quint32> workspace =
+        m_connection.property32(window, m_connection.atom("_NET_WM_DESKTOP"));
+    return !workspace || workspace == kOnAll || workspace == workspaceInUse();
+}
+
+quint32 X11Application::workspaceInUse() const
+{
+    return m_connection.property32(m_connection.root(), m_connection.atom("_NET_CURRENT_DESKTOP"))
+        .value_or(0);
 }
 
 void X11Application::onActiveWindowChanged()
 {
+    if (const std::optional<ForeignWindow> other = foreignActiveWindow())
+        m_lastForeign = other;
     if (isOwnWindowActive()) {
         m_elsewhere.stop();
         m_activation.stop();

@@ -34,6 +34,8 @@ public:
     [[nodiscard]] bool isAway() const override;
     [[nodiscard]] bool isPreviousWindowClosed() const override;
     void unhide() override { m_isHidden = false; }
+    void expectKeys() override;
+    void expectNoKeys() override;
     bool holdKeys() override;
     void activate(QWindow &window) override;
     void giveKeyboardBack(QWindow &window) override;
@@ -47,7 +49,27 @@ private:
         qint64 process = 0;
     };
 
+    /// One of our windows that took the keyboard from another of ours; null where that has gone.
+    struct Taken
+    {
+        QPointer<QWindow> window;
+        QPointer<QWindow> from;
+    };
+
+    void onEvent(const xcb_generic_event_t *event);
     void onActiveWindowChanged();
+    /// The user has gone to another workspace: what was on the screen stays behind.
+    void onWorkspaceChanged();
+    /// Reads which window of another application has the keyboard, to give it back later.
+    void remember();
+    void rememberOwn(QWindow &window);
+    /// The window of ours from which this one took the keyboard, if it is shown; else null.
+    [[nodiscard]] QWindow *ownBefore(const QWindow &window) const;
+    /// Gives the keyboard to the other application's window that had it. Does nothing if there is none, or
+    /// it is on another workspace, where the user would have to follow.
+    void activatePrevious();
+    [[nodiscard]] bool isOnThisWorkspace(xcb_window_t window) const;
+    [[nodiscard]] quint32 workspaceInUse() const;
     void setActive(bool isActive);
     [[nodiscard]] bool isOwnWindowActive() const;
     /// Whether a window is active that is neither ours nor the one that had the keyboard before.
@@ -65,12 +87,16 @@ private:
     QTimer m_elsewhere;
     /// Runs from `activate` until the window manager has followed, or will not.
     QTimer m_activation;
-    /// Another application's window that had the keyboard before, and ours that took it after, if any.
+    /// Another application's window that had the keyboard last. Window managers may give it to ours as
+    /// soon as that is shown, so it has to be known before.
+    std::optional<ForeignWindow> m_lastForeign;
+    /// The one that had it when ours took it.
     std::optional<ForeignWindow> m_previousWindow;
-    QPointer<QWindow> m_previousOwnWindow;
+    QList<Taken> m_taken;
     QPointer<QWindow> m_activatedWindow;
     /// The window that was to be given the keyboard back last, even if it was closed by then.
     std::optional<ForeignWindow> m_returnedTo;
+    quint32 m_workspaceInUse = 0;
     bool m_isActive = false;
     bool m_isHidden = false;
 };

@@ -48,6 +48,7 @@ QCoro::Task<bool> X11EventPoster::post(Command command, Target target, std::func
 {
     const QPointer<X11EventPoster> self(this);
     const Needs needs = m_needs;
+    Q_EMIT needs.connection.keysNeeded();
     const auto window = static_cast<xcb_window_t>(target);
     // 0 for a program of another machine whose process here cannot be told.
     const qint64 process = needs.workspace.processOf(window).value_or(0);
