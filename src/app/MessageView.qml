@@ -6,8 +6,9 @@ import QtQuick
 import Vesk.App
 import Vesk.Components
 
-// What a message window shows. The safe button has the keyboard at first: the window may come up while
-// the user types, and a Return must not answer a question that was not read.
+// What a message window shows. The safe button has the keyboard at first, or none where the window comes up
+// by itself: a Return must not answer a question that was not read. A text that is longer than the window
+// scrolls; the buttons stay.
 Rectangle {
     id: root
 
@@ -19,76 +20,126 @@ Rectangle {
     // Whether the second button is the one that loses something.
     required property bool isRejectCostly
 
+    property real maximumWidth: 440
+    property real maximumHeight: 600
+    // Whether a button has the keyboard at first.
+    property bool hasDefaultButton: true
+    readonly property real margin: 24
+
     signal accepted
     signal rejected
 
-    width: 440
-    height: column.height + 2 * 24
+    function takeFocus() {
+        if (!root.hasDefaultButton)
+            root.forceActiveFocus();
+        else if (reject.visible && !root.isRejectCostly)
+            reject.forceActiveFocus();
+        else
+            accept.forceActiveFocus();
+    }
+
+    function scrollBy(step: real) {
+        const most = Math.max(0, flickable.contentHeight - flickable.height);
+        flickable.contentY = Math.max(0, Math.min(most, flickable.contentY + step));
+    }
+
+    width: Math.min(440, root.maximumWidth)
+    height: Math.min(texts.height + buttons.height + 3 * root.margin, root.maximumHeight)
     color: Theme.background
+    Keys.onUpPressed: root.scrollBy(-40)
+    Keys.onDownPressed: root.scrollBy(40)
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown;
+        if (event.accepted)
+            root.scrollBy((event.key === Qt.Key_PageUp ? -0.8 : 0.8) * flickable.height);
+    }
     LayoutMirroring.enabled: Theme.isMirrored
     LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.Dialog
     Accessible.name: root.heading
     Accessible.description: root.message
 
-    Column {
-        id: column
+    Flickable {
+        id: flickable
 
-        x: 24
-        y: 24
-        width: root.width - 48
-        spacing: 12
+        anchors.top: parent.top
+        anchors.topMargin: root.margin
+        anchors.bottom: buttons.top
+        anchors.bottomMargin: root.margin
+        width: root.width
+        contentHeight: texts.height
+        boundsBehavior: Flickable.StopAtBounds
+        clip: contentHeight > height
 
-        Text {
-            width: parent.width
-            wrapMode: Text.Wrap
-            textFormat: Text.PlainText
-            text: root.heading
-            font: Theme.fonts.headline
-            color: Theme.primary
-        }
+        Column {
+            id: texts
 
-        Text {
-            width: parent.width
-            wrapMode: Text.Wrap
-            textFormat: Text.PlainText
-            lineHeight: 1.15
-            text: root.message
-            font: Theme.fonts.body
-            color: Theme.secondary
-        }
+            x: root.margin
+            width: root.width - 2 * root.margin
+            spacing: 12
 
-        MessageDetails {
-            visible: root.details.length > 0
-            width: parent.width
-            text: root.details
-        }
-
-        Item {
-            width: parent.width
-            height: buttons.height + 8
-
-            Row {
-                id: buttons
-
-                anchors.right: parent.right
-                anchors.bottom: parent.bottom
-                spacing: Theme.space
-
-                MessageButton {
-                    focus: visible && !root.isRejectCostly
-                    visible: root.rejectLabel.length > 0
-                    text: root.rejectLabel
-                    onClicked: root.rejected()
-                }
-
-                MessageButton {
-                    focus: root.rejectLabel.length === 0 || root.isRejectCostly
-                    isMain: true
-                    text: root.acceptLabel
-                    onClicked: root.accepted()
-                }
+            Text {
+                width: parent.width
+                wrapMode: Text.Wrap
+                textFormat: Text.PlainText
+                text: root.heading
+                font: Theme.fonts.headline
+                color: Theme.primary
             }
+
+            Text {
+                width: parent.width
+                wrapMode: Text.Wrap
+                textFormat: Text.PlainText
+                lineHeight: 1.15
+                text: root.message
+                font: Theme.fonts.body
+                color: Theme.secondary
+            }
+
+            MessageDetails {
+                visible: root.details.length > 0
+                width: parent.width
+                text: root.details
+            }
+        }
+    }
+
+    // Says that there is more of the text, and how much.
+    Rectangle {
+        visible: flickable.contentHeight > flickable.height
+        x: root.width - width - 6
+        y: flickable.y + flickable.visibleArea.yPosition * flickable.height
+        width: 5
+        height: flickable.visibleArea.heightRatio * flickable.height
+        radius: 2.5
+        color: Theme.tertiary
+    }
+
+    Flow {
+        id: buttons
+
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: root.margin
+        anchors.right: parent.right
+        anchors.rightMargin: root.margin
+        width: Math.min(root.width - 2 * root.margin, accept.width + (reject.visible ? reject.width + spacing : 0))
+        spacing: Theme.space
+
+        MessageButton {
+            id: reject
+
+            visible: root.rejectLabel.length > 0
+            text: root.rejectLabel
+            onClicked: root.rejected()
+        }
+
+        MessageButton {
+            id: accept
+
+            isMain: true
+            text: root.acceptLabel
+            onClicked: root.accepted()
         }
     }
 }

@@ -24,20 +24,19 @@ MessageWindow::Content question()
 
 } // namespace
 
-AccessWindow::AccessWindow(QQmlEngine &engine, Consent &consent)
-    : m_window(engine, question())
+AccessWindow::AccessWindow(QQmlEngine &engine, Consent &consent, Questions &questions)
+    : m_questions(questions)
+    , m_window(engine, question())
 {
     connect(&m_window, &MessageWindow::accepted, this, [this, &consent] {
         consent.setGiven(true);
-        Q_EMIT answered();
-        m_window.hide();
+        m_questions.hide(m_window);
     });
     connect(&m_window, &MessageWindow::rejected, this, [this, &consent](MessageWindow::Rejection how) {
         // Whoever only closes the window has not changed their mind.
         if (how == MessageWindow::Rejection::ByButton)
             consent.setGiven(false);
-        Q_EMIT answered();
-        m_window.hide();
+        m_questions.hide(m_window);
     });
 }
 

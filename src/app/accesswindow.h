@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/messagewindow.h"
+#include "app/questions.h"
 
 #include <QObject>
 
@@ -18,16 +18,16 @@ class AccessWindow final : public QObject
     Q_OBJECT
 
 public:
-    /// Hidden at first. Both must outlive the window.
-    AccessWindow(QQmlEngine &engine, Consent &consent);
+    /// Hidden at first. All must outlive the window.
+    AccessWindow(QQmlEngine &engine, Consent &consent, Questions &questions);
 
-    void show() { m_window.show(); }
-
-Q_SIGNALS:
-    /// The user has answered or closed the window, which is about to go.
-    void answered();
+    /// The user wants to see the question.
+    void show() { m_questions.showAsked(m_window); }
+    /// Vesk needs the answer.
+    void ask() { m_questions.showUnasked(m_window); }
 
 private:
+    Questions &m_questions;
     MessageWindow m_window;
 };
 

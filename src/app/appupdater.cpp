@@ -27,10 +27,11 @@ QString findUpdater(const Workspace &workspace)
 
 } // namespace
 
-AppUpdater::AppUpdater(QQmlEngine &engine, Updates &updates, Workspace &workspace)
+AppUpdater::AppUpdater(QQmlEngine &engine, Updates &updates, Workspace &workspace, Questions &questions)
     : m_engine(engine)
     , m_updates(updates)
     , m_workspace(workspace)
+    , m_questions(questions)
 {
     connect(&updates, &Updates::canCheckForUpdatesChanged, this, &AppUpdater::canCheckChanged);
     connect(&updates, &Updates::checkFinished, this, &AppUpdater::show);
@@ -47,11 +48,12 @@ MessageWindow::Content AppUpdater::describe(const Updates::Result &result, const
                 .rejectLabel = {}};
     case Updates::Outcome::Available:
         if (updater.isEmpty())
-            return {.heading = tr("There is a newer Vesk"),
-                    .message = tr("Your system can install version %1, by what you install packages with.")
-                                   .arg(result.version),
-                    .acceptLabel = close,
-                    .rejectLabel = {}};
+            return {
+                .heading = tr("There is a newer Vesk"),
+                .message =
+                    tr("Your system can install version %1 with your package manager.").arg(result.version),
+                .acceptLabel = close,
+                .rejectLabel = {}};
         return {.heading = tr("There is a newer Vesk"),
                 .message = tr("Your system can install version %1.").arg(result.version),
                 .acceptLabel = tr("Open Updates"),
@@ -77,12 +79,13 @@ void AppUpdater::show(const Updates::Result &result)
     m_window = std::make_unique<MessageWindow>(m_engine, describe(result, updater));
     const bool opensUpdater = result.outcome == Updates::Outcome::Available && !updater.isEmpty();
     connect(m_window.get(), &MessageWindow::accepted, this, [this, opensUpdater, updater] {
-        m_window->hide();
+        m_questions.hide(*m_window);
         if (opensUpdater)
             m_workspace.openApplication(updater);
     });
-    connect(m_window.get(), &MessageWindow::rejected, m_window.get(), &MessageWindow::hide);
-    m_window->show();
+    connect(m_window.get(), &MessageWindow::rejected, this, [this] { m_questions.hide(*m_window); });
+    // The user may have gone on typing since asking.
+    m_questions.showUnasked(*m_window);
 }
 
 } // namespace vesk

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/messagewindow.h"
+#include "app/questions.h"
 #include "platform/updates.h"
 
 #include <QObject>
@@ -21,8 +21,8 @@ class AppUpdater final : public QObject
     Q_OBJECT
 
 public:
-    /// All have to outlive it.
-    AppUpdater(QQmlEngine &engine, Updates &updates, Workspace &workspace);
+    /// All must outlive it.
+    AppUpdater(QQmlEngine &engine, Updates &updates, Workspace &workspace, Questions &questions);
 
     [[nodiscard]] bool canCheck() const { return m_updates.canCheckForUpdates(); }
     void checkForUpdates() { m_updates.checkForUpdates(); }
@@ -41,6 +41,7 @@ private:
     QQmlEngine &m_engine;
     Updates &m_updates;
     Workspace &m_workspace;
+    Questions &m_questions;
     std::unique_ptr<MessageWindow> m_window;
 };
 

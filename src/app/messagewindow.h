@@ -4,13 +4,16 @@
 #include <QObject>
 #include <QQuickView>
 #include <QString>
+#include <QTimer>
 
+class QKeyEvent;
 class QQmlEngine;
 
 namespace vesk {
 
-/// A small window that tells the user something and has one or two buttons. Closing it, or Escape,
-/// is the same as the second button, or as the only one.
+/// A small window above all others that tells the user something and has one or two buttons. Closing it,
+/// or Escape, is the same as the second button, or as the only one. It fits on the screen under the
+/// pointer; a longer text scrolls. A key that is held answers nothing.
 class MessageWindow final : public QObject
 {
     Q_OBJECT
@@ -36,15 +39,25 @@ public:
         ByClosing,
     };
 
+    enum class Arrival {
+        /// The user has asked for it: the button that loses nothing has the keyboard at first.
+        Asked,
+        /// It comes up by itself, and the keys that the user is typing are not meant for it: no button has
+        /// the keyboard at first, and no key answers until the keyboard has been quiet for a moment.
+        Unasked,
+    };
+
     /// Hidden at first. The engine must be lent its surroundings before, and must outlive the window.
     MessageWindow(QQmlEngine &engine, const Content &content);
     ~MessageWindow() override;
 
     /// Shows the window, or brings it forward.
-    void show();
+    void show(Arrival arrival = Arrival::Asked);
     void hide();
     void setAcceptLabel(const QString &label);
     void setDetails(const QString &details);
+
+    [[nodiscard]] QQuickView &window() { return m_view; }
 
 Q_SIGNALS:
     void accepted();
@@ -59,8 +72,14 @@ private Q_SLOTS:
 private:
     /// Gives the window the size of what it shows, and no other.
     void fit();
+    /// Makes the window no larger than its screen, and puts it into the middle.
+    void place();
+    /// Whether a key of the window must not be acted on.
+    [[nodiscard]] bool isSwallowed(const QKeyEvent &event);
 
     QQuickView m_view;
+    /// Runs while keys that are typed may be meant for another window.
+    QTimer m_guard;
     bool m_isRejectCostly;
 };
 

@@ -57,8 +57,9 @@ VeskApp::VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, Applicat
                    .windows = desktop.windows,
                    .sounds = desktop.sounds,
                    .toast = m_toast})
-    , m_accessWindow(m_engine, desktop.consent)
-    , m_updater(m_engine, desktop.updates, desktop.workspace)
+    , m_questions(desktop.application)
+    , m_accessWindow(m_engine, desktop.consent, m_questions)
+    , m_updater(m_engine, desktop.updates, desktop.workspace, m_questions)
     , m_services({.clock = desktop.clock,
                   .keys = m_keys,
                   .tap = desktop.tap,
@@ -75,11 +76,14 @@ VeskApp::VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, Applicat
     , m_memoryTrim(desktop.application)
 {
     connect(&desktop.application, &Application::reopened, &m_panelWindow, &PanelWindow::showPanel);
-    connect(&desktop.accessibility, &X11Accessibility::trustAsked, &m_accessWindow, &AccessWindow::show);
-    // Else the keyboard would go on to another application, and the panel, which was asked from, away.
-    connect(&m_accessWindow, &AccessWindow::answered, this, [this, &desktop] {
-        if (m_panelWindow.isShown())
-            desktop.application.activate(m_panelWindow.window());
+    connect(&m_quickNote, &QuickNotePanel::opened, &m_questions, &Questions::pause);
+    connect(&m_quickNote, &QuickNotePanel::closed, &m_questions, &Questions::resume);
+    connect(&desktop.accessibility, &X11Accessibility::trustAsked, this, [this] {
+        // In the panel the user has pressed a button for it; elsewhere a key, for something else.
+        if (m_panelWindow.window().isActive())
+            m_accessWindow.show();
+        else
+            m_accessWindow.ask();
     });
     connect(desktop.x11.get(), &X11Connection::lost, this, [] { QCoreApplication::exit(1); });
     connect(m_panel.cards(), &CardActions::pasteRequested, &m_pasteBack, &PasteBack::pasteIntoPreviousApp);

@@ -6,6 +6,7 @@
 #include "app/desktopmenus.h"
 #include "app/memorytrim.h"
 #include "app/menucommands.h"
+#include "app/questions.h"
 #include "capture/pasteback.h"
 #include "capture/pasteboardwatcher.h"
 #include "capture/selectionreader.h"
@@ -60,6 +61,7 @@ private:
     PanelWindow m_panelWindow;
     Toast m_toast;
     QuickNotePanel m_quickNote;
+    Questions m_questions;
     AccessWindow m_accessWindow;
     AppUpdater m_updater;
     VeskServices m_services;
