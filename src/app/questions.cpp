@@ -3,6 +3,8 @@
 
 #include "platform/application.h"
 
+#include <QTimer>
+
 namespace vesk {
 
 Questions::Questions(Application &application)
@@ -22,7 +24,8 @@ void Questions::pause()
 void Questions::resume()
 {
     m_isPaused = false;
-    showWaiting();
+    // The whole program may be about to be hidden; only then is there a place for a question.
+    QTimer::singleShot(0, this, &Questions::showWaiting);
 }
 
 void Questions::show(MessageWindow &window, MessageWindow::Arrival arrival)
@@ -52,7 +55,7 @@ void Questions::showWaiting()
 {
     m_waiting.removeAll(nullptr);
     // Whoever had to wait for it no longer expects it.
-    if (!m_waiting.isEmpty())
+    if (!m_isPaused && !m_waiting.isEmpty())
         showUnasked(*m_waiting.first());
 }
 

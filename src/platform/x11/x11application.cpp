@@ -197,9 +197,18 @@ void X11Application::rememberOwn(QWindow &window)
 
 QWindow *X11Application::ownBefore(const QWindow &window) const
 {
-    const auto found =
-        std::ranges::find_if(m_taken, [&window](const Taken &each) { return each.window == &window; });
-    return found != m_taken.cend() && found->from && found->from->isVisible() ? found->from.data() : nullptr;
+    // One that has gone in the meantime may have taken it from yet another.
+    const QWindow *taker = &window;
+    for (qsizetype step = 0; step < m_taken.size(); ++step) {
+        const auto found =
+            std::ranges::find_if(m_taken, [taker](const Taken &each) { return each.window == taker; });
+        if (found == m_taken.cend() || !found->from)
+            return nullptr;
+        if (found->from->isVisible() && found->from != &window)
+            return found->from;
+        taker = found->from;
+    }
+    return nullptr;
 }
 
 void X11Application::activatePrevious()
