@@ -28,6 +28,49 @@
     </message>
 </context>
 <context>
+    <name>CardMenu</name>
+    <message>
+        <source>Prompt</source>
+        <translation>Prompt</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Mark as Not Done</source>
+        <translation>Als nicht erledigt markieren</translation>
+    </message>
+    <message>
+        <source>Mark as Done</source>
+        <translation>Als erledigt markieren</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>Lösen</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>Anheften</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste into the App You Came From (⌘↩)</source>
+        <translation>In die vorherige Anwendung einfügen (⌘↩)</translation>
+    </message>
+    <message>
+        <source>Delete (⌘⌫)</source>
+        <translation>Löschen (⌘⌫)</translation>
+    </message>
+</context>
+<context>
     <name>ChecklistRow</name>
     <message>
         <source>Mark “%1” as not done</source>
@@ -36,6 +79,13 @@
     <message>
         <source>Mark “%1” as done</source>
         <translation>„%1“ als erledigt markieren</translation>
+    </message>
+</context>
+<context>
+    <name>Client</name>
+    <message>
+        <source>Vesk needs the session&apos;s message bus, and there is none: run this in your desktop&apos;s session.</source>
+        <translation>Vesk braucht den Nachrichtenbus der Sitzung, und es gibt keinen: Rufen Sie dies in der Sitzung Ihrer Arbeitsumgebung auf.</translation>
     </message>
 </context>
 <context>
@@ -126,6 +176,33 @@
     </message>
 </context>
 <context>
+    <name>FieldMenu</name>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Entf</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+</context>
+<context>
     <name>GuideView</name>
     <message>
         <source>Quick Guide</source>
@@ -206,6 +283,10 @@
     <message>
         <source>Done</source>
         <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Done (⌘↩)</source>
+        <translation>Fertig (⌘↩)</translation>
     </message>
 </context>
 <context>
@@ -341,10 +422,6 @@
     <message>
         <source>Quit</source>
         <translation>Beenden</translation>
-    </message>
-    <message>
-        <source>There is a copy of your notes, made on %1: “%2”. To go on with it, run this command in a terminal and start Vesk again. It keeps the damaged file in the folder “damaged” beside it.</source>
-        <translation>Es gibt eine Kopie Ihrer Notizen vom %1: „%2“. Um mit ihr weiterzuarbeiten, führen Sie diesen Befehl in einem Terminal aus und starten Vesk neu. Er bewahrt die beschädigte Datei im Ordner „damaged“ daneben auf.</translation>
     </message>
 </context>
 <context>
@@ -482,20 +559,20 @@
         <translation>Darf Vesk lesen, was Sie markieren?</translation>
     </message>
     <message>
-        <source>When you press one of Vesk’s keys, Vesk reads the text that is selected, or was copied a moment before, and where it is: the application, its window’s title and, in a browser, the page’s address. At other times it only notices when a key or button was pressed, not which one, to tell what is selected now from what was. It sends nothing anywhere.
-
-Applications that are open already may have to be started again before Vesk can read them.</source>
-        <translation>Wenn Sie eine der Tasten von Vesk drücken, liest Vesk den Text, der markiert ist oder kurz zuvor kopiert wurde, und wo er steht: die Anwendung, den Titel ihres Fensters und in einem Browser die Adresse der Seite. Sonst bemerkt es nur, dass eine Taste gedrückt wurde, nicht welche, um zu unterscheiden, was jetzt und was früher markiert wurde. Es sendet nichts irgendwohin.
-
-Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevor Vesk in ihnen lesen kann.</translation>
-    </message>
-    <message>
         <source>Allow</source>
         <translation>Erlauben</translation>
     </message>
     <message>
         <source>Not Now</source>
         <translation>Nicht jetzt</translation>
+    </message>
+    <message>
+        <source>When you press one of Vesk’s keys, Vesk reads the text that is selected, or was copied a moment before, and where it is: the application, its window’s title and, in a browser, the page’s address. At other times it only notices when a key or button is pressed (not which one), when something is selected, and whether a password field has the keyboard, to tell what is selected now from what was and to leave passwords alone. It sends nothing anywhere.
+
+Applications that are open already may have to be started again before Vesk can read them.</source>
+        <translation>Wenn Sie eine von Vesks Tasten drücken, liest Vesk den Text, der markiert ist oder eben kopiert wurde, und wo er steht: die Anwendung, den Titel ihres Fensters und im Browser die Adresse der Seite. Sonst bemerkt Vesk nur, wann eine Taste oder ein Knopf gedrückt wird (nicht welche), wann etwas markiert wird und ob ein Passwortfeld die Tastatur hat, um die jetzige Markierung von einer früheren zu unterscheiden und Passwörter nicht anzurühren. Vesk sendet nichts irgendwohin.
+
+Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevor Vesk sie lesen kann.</translation>
     </message>
 </context>
 <context>
@@ -515,10 +592,6 @@ Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevo
     <message>
         <source>There is a newer Vesk</source>
         <translation>Es gibt ein neueres Vesk</translation>
-    </message>
-    <message>
-        <source>Your system can install version %1, by what you install packages with.</source>
-        <translation>Ihr System kann Version %1 installieren, mit Ihrer Paketverwaltung.</translation>
     </message>
     <message>
         <source>Your system can install version %1.</source>
@@ -548,6 +621,10 @@ Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevo
         <source>Your system’s package service did not answer. Try again later.</source>
         <translation>Der Paketdienst Ihres Systems hat nicht geantwortet. Versuchen Sie es später noch einmal.</translation>
     </message>
+    <message>
+        <source>Your system can install version %1 with your package manager.</source>
+        <translation>Ihr System kann Version %1 mit der Paketverwaltung installieren.</translation>
+    </message>
 </context>
 <context>
     <name>vesk::CanberraSounds</name>
@@ -558,10 +635,6 @@ Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevo
 </context>
 <context>
     <name>vesk::Client</name>
-    <message>
-        <source>Vesk needs the session&apos;s message bus, and there is none: run this in your desktop&apos;s session.</source>
-        <translation>Vesk braucht den Nachrichtenbus der Sitzung, und es gibt keinen: Rufen Sie dies in der Sitzung Ihrer Arbeitsumgebung auf.</translation>
-    </message>
     <message>
         <source>The text is longer than the %1 MB that a note may have.</source>
         <translation>Der Text ist länger als die %1 MB, die eine Notiz haben darf.</translation>
@@ -598,6 +671,10 @@ Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevo
         <source>Vesk is not running, so none of these works now.</source>
         <translation>Vesk läuft nicht, daher wirkt im Moment keine davon.</translation>
     </message>
+    <message>
+        <source>The note was not kept: other commands are writing to the notes all the time.</source>
+        <translation>Die Notiz wurde nicht behalten: Andere Befehle schreiben fortwährend in die Notizen.</translation>
+    </message>
 </context>
 <context>
     <name>vesk::CommandHints</name>
@@ -628,6 +705,11 @@ Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevo
     <message>
         <source>%1 (keys taken by %2)</source>
         <translation>%1 (Tasten belegt von %2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>keys: what they do</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -798,6 +880,25 @@ läuft.</translation>
     <message>
         <source>print the keys that work everywhere, and whether they do</source>
         <translation>die überall wirkenden Tasten ausgeben, und ob sie wirken</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::DailyCopy</name>
+    <message>
+        <source>The notes file is damaged, so no copy of it was made. Quit and start Vesk for advice.</source>
+        <translation>Die Notizdatei ist beschädigt, deshalb wurde keine Kopie gemacht. Beenden Sie Vesk und starten Sie es neu, um Rat zu erhalten.</translation>
+    </message>
+    <message>
+        <source>Vesk cannot keep a copy of your notes: the disk is too full.</source>
+        <translation>Vesk kann keine Kopie Ihrer Notizen anlegen: Der Datenträger ist zu voll.</translation>
+    </message>
+    <message>
+        <source>Vesk cannot keep a copy of your notes: it may not write into their folder.</source>
+        <translation>Vesk kann keine Kopie Ihrer Notizen anlegen: Es darf nicht in deren Ordner schreiben.</translation>
+    </message>
+    <message>
+        <source>Vesk cannot keep a copy of your notes: making it failed.</source>
+        <translation>Vesk kann keine Kopie Ihrer Notizen anlegen: Es ist fehlgeschlagen.</translation>
     </message>
 </context>
 <context>
@@ -1133,6 +1234,10 @@ läuft.</translation>
         <source>Vesk cannot start</source>
         <translation>Vesk kann nicht starten</translation>
     </message>
+    <message>
+        <source>Vesk could not open the notes store and is about to end.</source>
+        <translation>Vesk konnte den Notizspeicher nicht öffnen und beendet sich gleich.</translation>
+    </message>
 </context>
 <context>
     <name>vesk::MenuCommands</name>
@@ -1192,6 +1297,14 @@ läuft.</translation>
     <message>
         <source>Not saved yet, Vesk keeps trying</source>
         <translation>Noch nicht gespeichert, Vesk versucht es weiter</translation>
+    </message>
+    <message>
+        <source>Copied. The window you came from has closed</source>
+        <translation>Kopiert. Das vorherige Fenster wurde geschlossen</translation>
+    </message>
+    <message>
+        <source>Copied. Paste it where you need it</source>
+        <translation>Kopiert. Fügen Sie es ein, wo Sie es brauchen</translation>
     </message>
 </context>
 <context>
@@ -1269,75 +1382,167 @@ läuft.</translation>
         <translation>Der Text ist zu lang für eine Notiz.</translation>
     </message>
     <message>
-        <source>The note is not saved yet: the disk takes nothing. Vesk keeps it and goes on trying; do not add it again.</source>
-        <translation>Die Notiz ist noch nicht gespeichert: Der Datenträger nimmt nichts an. Vesk behält sie und versucht es weiter; fügen Sie sie nicht noch einmal hinzu.</translation>
-    </message>
-    <message>
         <source>This Vesk cannot do that.</source>
         <translation>Dieses Vesk kann das nicht.</translation>
+    </message>
+    <message>
+        <source>The note is not on the disk yet; do not add it again. %1</source>
+        <translation>Die Notiz ist noch nicht auf dem Datenträger; fügen Sie sie nicht noch einmal hinzu. %1</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::SaveProblem</name>
+    <message>
+        <source>Not saved: the disk is full. Vesk keeps trying.</source>
+        <translation>Nicht gespeichert: Der Datenträger ist voll. Vesk versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>Not saved: your disk quota is used up. Vesk keeps trying.</source>
+        <translation>Nicht gespeichert: Ihr Kontingent auf dem Datenträger ist aufgebraucht. Vesk versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>Not saved: the notes file is read-only. Vesk keeps trying.</source>
+        <translation>Nicht gespeichert: Die Notizdatei ist schreibgeschützt. Vesk versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>Not saved: Vesk may not write the notes file. Vesk keeps trying.</source>
+        <translation>Nicht gespeichert: Vesk darf die Notizdatei nicht schreiben. Vesk versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>Not saved: another program is using the notes file. Vesk keeps trying.</source>
+        <translation>Nicht gespeichert: Ein anderes Programm benutzt die Notizdatei. Vesk versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>Not saved: the notes file was moved or replaced while Vesk was running.</source>
+        <translation>Nicht gespeichert: Die Notizdatei wurde verschoben oder ersetzt, während Vesk lief.</translation>
+    </message>
+    <message>
+        <source>Not saved: the notes file is damaged. Copy your latest notes elsewhere.</source>
+        <translation>Nicht gespeichert: Die Notizdatei ist beschädigt. Kopieren Sie Ihre neuesten Notizen anderswohin.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln notes or prompts cannot be saved (%1). All others are.</source>
+        <translation>
+            <numerusform>Eine Notiz oder ein Prompt kann nicht gespeichert werden (%1). Alle anderen sind gespeichert.</numerusform>
+            <numerusform>%Ln Notizen oder Prompts können nicht gespeichert werden (%1). Alle anderen sind gespeichert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not saved: the notes file cannot be written (%1). Vesk keeps trying.</source>
+        <translation>Nicht gespeichert: Die Notizdatei kann nicht geschrieben werden (%1). Vesk versucht es weiter.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::StoreAdvice</name>
+    <message>
+        <source>To begin with no notes instead, move the files “%1*”, and what is left of the store, to another folder.</source>
+        <translation>Um stattdessen ohne Notizen zu beginnen, verschieben Sie die Dateien „%1*“ und was vom Speicher übrig ist in einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>The copy of your notes, “%1”, cannot be read either.</source>
+        <translation>Auch die Kopie Ihrer Notizen, „%1“, kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>There is a copy of your notes, made on %1: “%2”.</source>
+        <translation>Es gibt eine Kopie Ihrer Notizen vom %1: „%2“.</translation>
+    </message>
+    <message>
+        <source>To go on with the copy, run this command in a terminal and start Vesk again. What is left of the store is kept in the folder “damaged” beside it.</source>
+        <translation>Um mit der Kopie weiterzuarbeiten, führen Sie diesen Befehl in einem Terminal aus und starten Sie Vesk neu. Was vom Speicher übrig ist, wird daneben im Ordner „damaged“ aufbewahrt.</translation>
     </message>
 </context>
 <context>
     <name>vesk::StoreFile</name>
     <message>
-        <source>is a link to a file that does not exist</source>
-        <translation>ist ein Verweis auf eine Datei, die es nicht gibt</translation>
+        <source>The file “%1” is a link to a file that does not exist.</source>
+        <translation>Die Datei „%1“ ist ein Verweis auf eine Datei, die es nicht gibt.</translation>
     </message>
     <message>
-        <source>is a folder</source>
-        <translation>ist ein Ordner</translation>
+        <source>The file “%1” is a folder.</source>
+        <translation>Die Datei „%1“ ist ein Ordner.</translation>
     </message>
     <message>
-        <source>is not an ordinary file</source>
-        <translation>ist keine gewöhnliche Datei</translation>
+        <source>The file “%1” is not an ordinary file.</source>
+        <translation>Die Datei „%1“ ist keine gewöhnliche Datei.</translation>
     </message>
     <message>
-        <source>cannot be read (%1)</source>
-        <translation>kann nicht gelesen werden (%1)</translation>
+        <source>The file “%1” cannot be read (%2).</source>
+        <translation>Die Datei „%1“ kann nicht gelesen werden (%2).</translation>
     </message>
     <message>
-        <source>cannot be written (%1)</source>
-        <translation>kann nicht geschrieben werden (%1)</translation>
+        <source>The file “%1” cannot be written (%2).</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden (%2).</translation>
     </message>
     <message>
-        <source>is missing or empty, but its journal “%1” is not</source>
-        <translation>fehlt oder ist leer, aber ihr Journal „%1“ nicht</translation>
+        <source>The file “%1” is missing or empty, but its journal “%2” is not.</source>
+        <translation>Die Datei „%1“ fehlt oder ist leer, ihr Journal „%2“ aber nicht.</translation>
     </message>
     <message>
-        <source>is a database of another program</source>
-        <translation>ist eine Datenbank eines anderen Programms</translation>
+        <source>The file “%1” is empty, but there is a copy of it from before.</source>
+        <translation>Die Datei „%1“ ist leer, aber es gibt eine frühere Kopie davon.</translation>
     </message>
     <message>
-        <source>cannot be created (%1)</source>
-        <translation>kann nicht angelegt werden (%1)</translation>
+        <source>The file “%1” is missing, but there is a copy of it.</source>
+        <translation>Die Datei „%1“ fehlt, aber es gibt eine Kopie davon.</translation>
     </message>
     <message>
-        <source>is not a database</source>
-        <translation>ist keine Datenbank</translation>
+        <source>The file “%1” is a database of another program.</source>
+        <translation>Die Datei „%1“ ist eine Datenbank eines anderen Programms.</translation>
     </message>
     <message>
-        <source>is in use by another program</source>
-        <translation>wird von einem anderen Programm benutzt</translation>
+        <source>The file “%1” cannot be created (%2).</source>
+        <translation>Die Datei „%1“ kann nicht angelegt werden (%2).</translation>
     </message>
     <message>
-        <source>cannot be written</source>
-        <translation>kann nicht geschrieben werden</translation>
+        <source>The file “%1” is not a database.</source>
+        <translation>Die Datei „%1“ ist keine Datenbank.</translation>
     </message>
     <message>
-        <source>cannot be opened (%1)</source>
-        <translation>kann nicht geöffnet werden (%1)</translation>
+        <source>The file “%1” is in use by another program.</source>
+        <translation>Die Datei „%1“ wird von einem anderen Programm benutzt.</translation>
     </message>
     <message>
-        <source>is damaged</source>
-        <translation>ist beschädigt</translation>
+        <source>The file “%1” cannot be opened: the disk is full.</source>
+        <translation>Die Datei „%1“ kann nicht geöffnet werden: Der Datenträger ist voll.</translation>
     </message>
     <message>
-        <source>was written by a newer Vesk (version %1 of the store; this one knows version %2)</source>
-        <translation>wurde von einem neueren Vesk geschrieben (Version %1 des Speichers; dieses kennt Version %2)</translation>
+        <source>The file “%1” cannot be opened: your disk quota is used up.</source>
+        <translation>Die Datei „%1“ kann nicht geöffnet werden: Ihr Kontingent auf dem Datenträger ist aufgebraucht.</translation>
     </message>
     <message>
-        <source>The file “%1” %2.</source>
-        <translation>Die Datei „%1“ %2.</translation>
+        <source>The file “%1” cannot be opened (%2).</source>
+        <translation>Die Datei „%1“ kann nicht geöffnet werden (%2).</translation>
+    </message>
+    <message>
+        <source>The file “%1” is damaged.</source>
+        <translation>Die Datei „%1“ ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The file “%1” was written by a newer Vesk (version %2 of the store; this one knows version %3).</source>
+        <translation>Die Datei „%1“ wurde von einem neueren Vesk geschrieben (Version %2 des Speichers; dieses kennt Version %3).</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::StoreLock</name>
+    <message>
+        <source>The file “%1” cannot be created (%2).</source>
+        <translation>Die Datei „%1“ kann nicht angelegt werden (%2).</translation>
+    </message>
+    <message>
+        <source>The file “%1” cannot be locked (%2).</source>
+        <translation>Die Datei „%1“ kann nicht gesperrt werden (%2).</translation>
+    </message>
+    <message>
+        <source>The notes are open in another program, which has locked the file “%1”.</source>
+        <translation>Die Notizen sind in einem anderen Programm offen, das die Datei „%1“ gesperrt hat.</translation>
+    </message>
+    <message>
+        <source>Vesk is running in another session (process %1 on %2), and the notes can only be open once. Quit it there first.</source>
+        <translation>Vesk läuft in einer anderen Sitzung (Prozess %1 auf %2), und die Notizen können nur einmal offen sein. Beenden Sie es dort zuerst.</translation>
+    </message>
+    <message>
+        <source>Another command, process %1 on %2, is writing to the notes.</source>
+        <translation>Ein anderer Befehl, Prozess %1 auf %2, schreibt gerade in die Notizen.</translation>
     </message>
 </context>
 <context>
@@ -1361,6 +1566,13 @@ läuft.</translation>
     <message>
         <source>Copied</source>
         <translation>Kopiert</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::VeskApp</name>
+    <message>
+        <source>Vesk is ending.</source>
+        <translation>Vesk beendet sich.</translation>
     </message>
 </context>
 <context>
@@ -1400,6 +1612,18 @@ läuft.</translation>
     <message>
         <source>The selection is too long to keep</source>
         <translation>Die Auswahl ist zu lang zum Speichern</translation>
+    </message>
+    <message>
+        <source>%1 did not answer, so Vesk could not read what is selected there.</source>
+        <translation>%1 hat nicht geantwortet, deshalb konnte Vesk nicht lesen, was dort markiert ist.</translation>
+    </message>
+    <message>
+        <source>%1 did not hand over the selected text.</source>
+        <translation>%1 hat den markierten Text nicht herausgegeben.</translation>
+    </message>
+    <message>
+        <source>Vesk could not read what is selected in %1 without losing what is on the clipboard.</source>
+        <translation>Vesk konnte nicht lesen, was in %1 markiert ist, ohne den Inhalt der Zwischenablage zu verlieren.</translation>
     </message>
 </context>
 <context>

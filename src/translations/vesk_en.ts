@@ -38,4 +38,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>vesk::SaveProblem</name>
+    <message numerus="yes">
+        <source>%Ln notes or prompts cannot be saved (%1). All others are.</source>
+        <translation>
+            <numerusform>One note or prompt cannot be saved (%1). All others are.</numerusform>
+            <numerusform>%Ln notes or prompts cannot be saved (%1). All others are.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -28,6 +28,49 @@
     </message>
 </context>
 <context>
+    <name>CardMenu</name>
+    <message>
+        <source>Prompt</source>
+        <translation>הנחיה</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>פתק</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>פתיחה</translation>
+    </message>
+    <message>
+        <source>Mark as Not Done</source>
+        <translation>סימון כלא בוצע</translation>
+    </message>
+    <message>
+        <source>Mark as Done</source>
+        <translation>סימון כבוצע</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>ביטול הצמדה</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>הצמדה</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>העתקה</translation>
+    </message>
+    <message>
+        <source>Paste into the App You Came From (⌘↩)</source>
+        <translation>הדבקה ביישום הקודם (⌘↩)</translation>
+    </message>
+    <message>
+        <source>Delete (⌘⌫)</source>
+        <translation>מחיקה (⌘⌫)</translation>
+    </message>
+</context>
+<context>
     <name>ChecklistRow</name>
     <message>
         <source>Mark “%1” as not done</source>
@@ -36,6 +79,13 @@
     <message>
         <source>Mark “%1” as done</source>
         <translation>סימון &quot;%1&quot; כבוצע</translation>
+    </message>
+</context>
+<context>
+    <name>Client</name>
+    <message>
+        <source>Vesk needs the session&apos;s message bus, and there is none: run this in your desktop&apos;s session.</source>
+        <translation>‏Vesk זקוק לאפיק ההודעות של ההפעלה, ואין כזה: יש להריץ זאת בתוך ההפעלה של שולחן העבודה.</translation>
     </message>
 </context>
 <context>
@@ -126,6 +176,33 @@
     </message>
 </context>
 <context>
+    <name>FieldMenu</name>
+    <message>
+        <source>Edit</source>
+        <translation>עריכה</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>גזירה</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>העתקה</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>הדבקה</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>בחירת הכול</translation>
+    </message>
+</context>
+<context>
     <name>GuideView</name>
     <message>
         <source>Quick Guide</source>
@@ -206,6 +283,10 @@
     <message>
         <source>Done</source>
         <translation>סיום</translation>
+    </message>
+    <message>
+        <source>Done (⌘↩)</source>
+        <translation>סיום (⌘↩)</translation>
     </message>
 </context>
 <context>
@@ -341,10 +422,6 @@
     <message>
         <source>Quit</source>
         <translation>יציאה</translation>
-    </message>
-    <message>
-        <source>There is a copy of your notes, made on %1: “%2”. To go on with it, run this command in a terminal and start Vesk again. It keeps the damaged file in the folder “damaged” beside it.</source>
-        <translation>יש עותק של הפתקים, שנוצר בתאריך %1: &quot;⁦%2⁩&quot;. כדי להמשיך איתו, יש להריץ את הפקודה הזו במסוף ולהפעיל את Vesk מחדש. היא שומרת את הקובץ הפגום בתיקייה &quot;damaged&quot; שלידו.</translation>
     </message>
 </context>
 <context>
@@ -482,20 +559,20 @@
         <translation>לאפשר ל־Vesk לקרוא את מה שמסמנים?</translation>
     </message>
     <message>
-        <source>When you press one of Vesk’s keys, Vesk reads the text that is selected, or was copied a moment before, and where it is: the application, its window’s title and, in a browser, the page’s address. At other times it only notices when a key or button was pressed, not which one, to tell what is selected now from what was. It sends nothing anywhere.
-
-Applications that are open already may have to be started again before Vesk can read them.</source>
-        <translation>כשלוחצים על אחד מצירופי המקשים של Vesk, הוא קורא את הטקסט שמסומן, או שהועתק רגע קודם לכן, ואת מקומו: היישום, כותרת החלון שלו, ובדפדפן גם כתובת הדף. בשאר הזמן הוא רק מבחין שנלחץ מקש או לחצן, ולא איזה, כדי להבדיל בין מה שמסומן עכשיו למה שסומן קודם. הוא לא שולח דבר לשום מקום.
-
-ייתכן שיישומים שכבר פתוחים יצטרכו הפעלה מחדש לפני ש־Vesk יוכל לקרוא מהם.</translation>
-    </message>
-    <message>
         <source>Allow</source>
         <translation>אישור</translation>
     </message>
     <message>
         <source>Not Now</source>
         <translation>לא עכשיו</translation>
+    </message>
+    <message>
+        <source>When you press one of Vesk’s keys, Vesk reads the text that is selected, or was copied a moment before, and where it is: the application, its window’s title and, in a browser, the page’s address. At other times it only notices when a key or button is pressed (not which one), when something is selected, and whether a password field has the keyboard, to tell what is selected now from what was and to leave passwords alone. It sends nothing anywhere.
+
+Applications that are open already may have to be started again before Vesk can read them.</source>
+        <translation>כשמקישים על אחד ממקשי Vesk, הוא קורא את הטקסט שמסומן, או שהועתק רגע קודם, והיכן הוא נמצא: היישום, כותרת החלון שלו, ובדפדפן גם כתובת הדף. בזמנים אחרים הוא רק מבחין מתי מקש או לחצן נלחצים (ולא איזה מהם), מתי משהו מסומן, ואם המקלדת נמצאת בשדה סיסמה, כדי להבדיל בין מה שמסומן עכשיו למה שסומן קודם וכדי לא לגעת בסיסמאות. הוא לא שולח דבר לשום מקום.
+
+ייתכן שצריך להפעיל מחדש יישומים שכבר פתוחים כדי ש־Vesk יוכל לקרוא אותם.</translation>
     </message>
 </context>
 <context>
@@ -515,10 +592,6 @@ Applications that are open already may have to be started again before Vesk can 
     <message>
         <source>There is a newer Vesk</source>
         <translation>יש Vesk חדש יותר</translation>
-    </message>
-    <message>
-        <source>Your system can install version %1, by what you install packages with.</source>
-        <translation>המערכת יכולה להתקין את גרסה %1, בעזרת מנהל החבילות.</translation>
     </message>
     <message>
         <source>Your system can install version %1.</source>
@@ -548,6 +621,10 @@ Applications that are open already may have to be started again before Vesk can 
         <source>Your system’s package service did not answer. Try again later.</source>
         <translation>שירות החבילות של המערכת לא השיב. כדאי לנסות שוב מאוחר יותר.</translation>
     </message>
+    <message>
+        <source>Your system can install version %1 with your package manager.</source>
+        <translation>המערכת יכולה להתקין את גרסה %1 באמצעות מנהל החבילות.</translation>
+    </message>
 </context>
 <context>
     <name>vesk::CanberraSounds</name>
@@ -558,10 +635,6 @@ Applications that are open already may have to be started again before Vesk can 
 </context>
 <context>
     <name>vesk::Client</name>
-    <message>
-        <source>Vesk needs the session&apos;s message bus, and there is none: run this in your desktop&apos;s session.</source>
-        <translation>‏Vesk זקוק לאפיק ההודעות של ההפעלה, ואין כזה: יש להריץ זאת בתוך ההפעלה של שולחן העבודה.</translation>
-    </message>
     <message>
         <source>The text is longer than the %1 MB that a note may have.</source>
         <translation>הטקסט ארוך מ־%1 MB, הגודל המרבי של פתק.</translation>
@@ -598,6 +671,10 @@ Applications that are open already may have to be started again before Vesk can 
         <source>Vesk is not running, so none of these works now.</source>
         <translation>Vesk אינו פועל, ולכן אף אחד מהצירופים אינו פועל כעת.</translation>
     </message>
+    <message>
+        <source>The note was not kept: other commands are writing to the notes all the time.</source>
+        <translation>הפתק לא נשמר: פקודות אחרות כותבות כל הזמן אל הפתקים.</translation>
+    </message>
 </context>
 <context>
     <name>vesk::CommandHints</name>
@@ -628,6 +705,11 @@ Applications that are open already may have to be started again before Vesk can 
     <message>
         <source>%1 (keys taken by %2)</source>
         <translation>%1 (המקשים תפוסים על ידי %2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>keys: what they do</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -798,6 +880,25 @@ runs.</source>
     <message>
         <source>print the keys that work everywhere, and whether they do</source>
         <translation>הדפסת המקשים שפועלים בכל מקום, והאם הם פועלים</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::DailyCopy</name>
+    <message>
+        <source>The notes file is damaged, so no copy of it was made. Quit and start Vesk for advice.</source>
+        <translation>קובץ הפתקים פגום, ולכן לא נוצר עותק שלו. יש לצאת מ־Vesk ולהפעיל אותו שוב כדי לקבל הנחיות.</translation>
+    </message>
+    <message>
+        <source>Vesk cannot keep a copy of your notes: the disk is too full.</source>
+        <translation>‏Vesk לא יכול לשמור עותק של הפתקים: הכונן מלא מדי.</translation>
+    </message>
+    <message>
+        <source>Vesk cannot keep a copy of your notes: it may not write into their folder.</source>
+        <translation>‏Vesk לא יכול לשמור עותק של הפתקים: אין לו הרשאת כתיבה בתיקייה שלהם.</translation>
+    </message>
+    <message>
+        <source>Vesk cannot keep a copy of your notes: making it failed.</source>
+        <translation>‏Vesk לא יכול לשמור עותק של הפתקים: יצירתו נכשלה.</translation>
     </message>
 </context>
 <context>
@@ -1133,6 +1234,10 @@ runs.</source>
         <source>Vesk cannot start</source>
         <translation>לא ניתן להפעיל את Vesk</translation>
     </message>
+    <message>
+        <source>Vesk could not open the notes store and is about to end.</source>
+        <translation>‏Vesk לא הצליח לפתוח את מאגר הפתקים ועומד להיסגר.</translation>
+    </message>
 </context>
 <context>
     <name>vesk::MenuCommands</name>
@@ -1192,6 +1297,14 @@ runs.</source>
     <message>
         <source>Not saved yet, Vesk keeps trying</source>
         <translation>עדיין לא נשמר, Vesk ממשיך לנסות</translation>
+    </message>
+    <message>
+        <source>Copied. The window you came from has closed</source>
+        <translation>הועתק. החלון הקודם נסגר</translation>
+    </message>
+    <message>
+        <source>Copied. Paste it where you need it</source>
+        <translation>הועתק. אפשר להדביק במקום הרצוי</translation>
     </message>
 </context>
 <context>
@@ -1269,75 +1382,167 @@ runs.</source>
         <translation>הטקסט ארוך מדי לפתק.</translation>
     </message>
     <message>
-        <source>The note is not saved yet: the disk takes nothing. Vesk keeps it and goes on trying; do not add it again.</source>
-        <translation>הפתק עדיין לא נשמר: הכונן אינו מקבל דבר. Vesk שומר אותו וממשיך לנסות; אין להוסיף אותו שוב.</translation>
-    </message>
-    <message>
         <source>This Vesk cannot do that.</source>
         <translation>‏Vesk הזה לא יכול לעשות זאת.</translation>
+    </message>
+    <message>
+        <source>The note is not on the disk yet; do not add it again. %1</source>
+        <translation>הפתק עדיין לא נכתב לכונן; אין להוסיף אותו שוב. %1</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::SaveProblem</name>
+    <message>
+        <source>Not saved: the disk is full. Vesk keeps trying.</source>
+        <translation>לא נשמר: הכונן מלא. Vesk ממשיך לנסות.</translation>
+    </message>
+    <message>
+        <source>Not saved: your disk quota is used up. Vesk keeps trying.</source>
+        <translation>לא נשמר: מכסת הכונן נוצלה. Vesk ממשיך לנסות.</translation>
+    </message>
+    <message>
+        <source>Not saved: the notes file is read-only. Vesk keeps trying.</source>
+        <translation>לא נשמר: קובץ הפתקים לקריאה בלבד. Vesk ממשיך לנסות.</translation>
+    </message>
+    <message>
+        <source>Not saved: Vesk may not write the notes file. Vesk keeps trying.</source>
+        <translation>לא נשמר: ל־Vesk אין הרשאה לכתוב את קובץ הפתקים. Vesk ממשיך לנסות.</translation>
+    </message>
+    <message>
+        <source>Not saved: another program is using the notes file. Vesk keeps trying.</source>
+        <translation>לא נשמר: תוכנה אחרת משתמשת בקובץ הפתקים. Vesk ממשיך לנסות.</translation>
+    </message>
+    <message>
+        <source>Not saved: the notes file was moved or replaced while Vesk was running.</source>
+        <translation>לא נשמר: קובץ הפתקים הועבר או הוחלף בזמן ש־Vesk פעל.</translation>
+    </message>
+    <message>
+        <source>Not saved: the notes file is damaged. Copy your latest notes elsewhere.</source>
+        <translation>לא נשמר: קובץ הפתקים פגום. יש להעתיק את הפתקים האחרונים למקום אחר.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln notes or prompts cannot be saved (%1). All others are.</source>
+        <translation>
+            <numerusform>אי אפשר לשמור פתק או הנחיה (%1). כל השאר נשמרו.</numerusform>
+            <numerusform>אי אפשר לשמור %Ln פתקים או הנחיות (%1). כל השאר נשמרו.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not saved: the notes file cannot be written (%1). Vesk keeps trying.</source>
+        <translation>לא נשמר: אי אפשר לכתוב את קובץ הפתקים (%1). Vesk ממשיך לנסות.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::StoreAdvice</name>
+    <message>
+        <source>To begin with no notes instead, move the files “%1*”, and what is left of the store, to another folder.</source>
+        <translation>כדי להתחיל במקום זאת ללא פתקים, יש להעביר את הקבצים “⁦%1*⁩” ואת מה שנותר מהמאגר לתיקייה אחרת.</translation>
+    </message>
+    <message>
+        <source>The copy of your notes, “%1”, cannot be read either.</source>
+        <translation>גם את העותק של הפתקים, “⁦%1⁩”, אי אפשר לקרוא.</translation>
+    </message>
+    <message>
+        <source>There is a copy of your notes, made on %1: “%2”.</source>
+        <translation>יש עותק של הפתקים, שנוצר ב־%1: “⁦%2⁩”.</translation>
+    </message>
+    <message>
+        <source>To go on with the copy, run this command in a terminal and start Vesk again. What is left of the store is kept in the folder “damaged” beside it.</source>
+        <translation>כדי להמשיך עם העותק, יש להריץ את הפקודה הזו במסוף ולהפעיל את Vesk שוב. מה שנותר מהמאגר נשמר בתיקייה “⁦damaged⁩” לידו.</translation>
     </message>
 </context>
 <context>
     <name>vesk::StoreFile</name>
     <message>
-        <source>is a link to a file that does not exist</source>
-        <translation>הוא קישור לקובץ שאינו קיים</translation>
+        <source>The file “%1” is a link to a file that does not exist.</source>
+        <translation>הקובץ “⁦%1⁩” הוא קישור לקובץ שאינו קיים.</translation>
     </message>
     <message>
-        <source>is a folder</source>
-        <translation>הוא תיקייה</translation>
+        <source>The file “%1” is a folder.</source>
+        <translation>הקובץ “⁦%1⁩” הוא תיקייה.</translation>
     </message>
     <message>
-        <source>is not an ordinary file</source>
-        <translation>אינו קובץ רגיל</translation>
+        <source>The file “%1” is not an ordinary file.</source>
+        <translation>הקובץ “⁦%1⁩” אינו קובץ רגיל.</translation>
     </message>
     <message>
-        <source>cannot be read (%1)</source>
-        <translation>אינו ניתן לקריאה (%1)</translation>
+        <source>The file “%1” cannot be read (%2).</source>
+        <translation>הקובץ “⁦%1⁩” אינו ניתן לקריאה (%2).</translation>
     </message>
     <message>
-        <source>cannot be written (%1)</source>
-        <translation>אינו ניתן לכתיבה (%1)</translation>
+        <source>The file “%1” cannot be written (%2).</source>
+        <translation>הקובץ “⁦%1⁩” אינו ניתן לכתיבה (%2).</translation>
     </message>
     <message>
-        <source>is missing or empty, but its journal “%1” is not</source>
-        <translation>חסר או ריק, אך היומן שלו &quot;⁦%1⁩&quot; אינו כזה</translation>
+        <source>The file “%1” is missing or empty, but its journal “%2” is not.</source>
+        <translation>הקובץ “⁦%1⁩” חסר או ריק, אבל היומן שלו “⁦%2⁩” אינו ריק.</translation>
     </message>
     <message>
-        <source>is a database of another program</source>
-        <translation>הוא מסד נתונים של תוכנה אחרת</translation>
+        <source>The file “%1” is empty, but there is a copy of it from before.</source>
+        <translation>הקובץ “⁦%1⁩” ריק, אבל יש עותק קודם שלו.</translation>
     </message>
     <message>
-        <source>cannot be created (%1)</source>
-        <translation>אינו ניתן ליצירה (%1)</translation>
+        <source>The file “%1” is missing, but there is a copy of it.</source>
+        <translation>הקובץ “⁦%1⁩” חסר, אבל יש עותק שלו.</translation>
     </message>
     <message>
-        <source>is not a database</source>
-        <translation>אינו מסד נתונים</translation>
+        <source>The file “%1” is a database of another program.</source>
+        <translation>הקובץ “⁦%1⁩” הוא מסד נתונים של תוכנה אחרת.</translation>
     </message>
     <message>
-        <source>is in use by another program</source>
-        <translation>נמצא בשימוש של תוכנה אחרת</translation>
+        <source>The file “%1” cannot be created (%2).</source>
+        <translation>הקובץ “⁦%1⁩” לא ניתן ליצירה (%2).</translation>
     </message>
     <message>
-        <source>cannot be written</source>
-        <translation>אינו ניתן לכתיבה</translation>
+        <source>The file “%1” is not a database.</source>
+        <translation>הקובץ “⁦%1⁩” אינו מסד נתונים.</translation>
     </message>
     <message>
-        <source>cannot be opened (%1)</source>
-        <translation>אינו ניתן לפתיחה (%1)</translation>
+        <source>The file “%1” is in use by another program.</source>
+        <translation>הקובץ “⁦%1⁩” נמצא בשימוש של תוכנה אחרת.</translation>
     </message>
     <message>
-        <source>is damaged</source>
-        <translation>פגום</translation>
+        <source>The file “%1” cannot be opened: the disk is full.</source>
+        <translation>הקובץ “⁦%1⁩” לא ניתן לפתיחה: הכונן מלא.</translation>
     </message>
     <message>
-        <source>was written by a newer Vesk (version %1 of the store; this one knows version %2)</source>
-        <translation>נכתב בידי Vesk חדש יותר (גרסה %1 של המאגר; זה מכיר את גרסה %2)</translation>
+        <source>The file “%1” cannot be opened: your disk quota is used up.</source>
+        <translation>הקובץ “⁦%1⁩” לא ניתן לפתיחה: מכסת הכונן נוצלה.</translation>
     </message>
     <message>
-        <source>The file “%1” %2.</source>
-        <translation>הקובץ &quot;⁦%1⁩&quot; %2.</translation>
+        <source>The file “%1” cannot be opened (%2).</source>
+        <translation>הקובץ “⁦%1⁩” לא ניתן לפתיחה (%2).</translation>
+    </message>
+    <message>
+        <source>The file “%1” is damaged.</source>
+        <translation>הקובץ “⁦%1⁩” פגום.</translation>
+    </message>
+    <message>
+        <source>The file “%1” was written by a newer Vesk (version %2 of the store; this one knows version %3).</source>
+        <translation>הקובץ “⁦%1⁩” נכתב על ידי גרסה חדשה יותר של Vesk (גרסה %2 של המאגר; גרסה זו מכירה את גרסה %3).</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::StoreLock</name>
+    <message>
+        <source>The file “%1” cannot be created (%2).</source>
+        <translation>הקובץ “⁦%1⁩” לא ניתן ליצירה (%2).</translation>
+    </message>
+    <message>
+        <source>The file “%1” cannot be locked (%2).</source>
+        <translation>הקובץ “⁦%1⁩” לא ניתן לנעילה (%2).</translation>
+    </message>
+    <message>
+        <source>The notes are open in another program, which has locked the file “%1”.</source>
+        <translation>הפתקים פתוחים בתוכנה אחרת, שנעלה את הקובץ “⁦%1⁩”.</translation>
+    </message>
+    <message>
+        <source>Vesk is running in another session (process %1 on %2), and the notes can only be open once. Quit it there first.</source>
+        <translation>‏Vesk פועל בהפעלה אחרת (תהליך %1 על ⁦%2⁩), והפתקים יכולים להיות פתוחים רק במקום אחד. יש לצאת ממנו שם קודם.</translation>
+    </message>
+    <message>
+        <source>Another command, process %1 on %2, is writing to the notes.</source>
+        <translation>פקודה אחרת, תהליך %1 על ⁦%2⁩, כותבת כעת אל הפתקים.</translation>
     </message>
 </context>
 <context>
@@ -1361,6 +1566,13 @@ runs.</source>
     <message>
         <source>Copied</source>
         <translation>הועתק</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::VeskApp</name>
+    <message>
+        <source>Vesk is ending.</source>
+        <translation>‏Vesk נסגר.</translation>
     </message>
 </context>
 <context>
@@ -1400,6 +1612,18 @@ runs.</source>
     <message>
         <source>The selection is too long to keep</source>
         <translation>הבחירה ארוכה מכדי לשמור אותה</translation>
+    </message>
+    <message>
+        <source>%1 did not answer, so Vesk could not read what is selected there.</source>
+        <translation>היישום %1 לא הגיב, ולכן Vesk לא הצליח לקרוא מה מסומן בו.</translation>
+    </message>
+    <message>
+        <source>%1 did not hand over the selected text.</source>
+        <translation>היישום %1 לא מסר את הטקסט המסומן.</translation>
+    </message>
+    <message>
+        <source>Vesk could not read what is selected in %1 without losing what is on the clipboard.</source>
+        <translation>‏Vesk לא הצליח לקרוא מה מסומן ביישום %1 בלי לאבד את תוכן הלוח.</translation>
     </message>
 </context>
 <context>
