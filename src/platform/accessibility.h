@@ -97,7 +97,7 @@ public:
                                                            StringAttribute attribute) = 0;
 
     /// What is selected in the window that has the keyboard when this is called. Never the content of a
-    /// password field, nor content that its owner declares secret. Takes 600 ms at most, except for the
+    /// password field, nor content that its owner declares secret. Takes 1.2 s at most, except for the
     /// transfer of a long text, which goes on while it makes progress.
     virtual QCoro::Task<SelectedText> selectedText() = 0;
 

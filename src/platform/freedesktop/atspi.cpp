@@ -153,8 +153,9 @@ QCoro::Task<std::optional<AccessibleElement>> AtSpi::shownPage(AtSpiQuestion que
     co_return std::nullopt;
 }
 
-QCoro::Task<bool> AtSpi::isInPasswordField(AtSpiQuestion question, qint64 processIdentifier)
+QCoro::Task<std::optional<bool>> AtSpi::isInPasswordField(AtSpiQuestion question, qint64 processIdentifier)
 {
+    const QPointer<AtSpi> self(this);
     const QHash<QString, AtSpiReference> focused = m_focused;
     for (const AtSpiReference &object : focused) {
         const std::optional<qint64> process = co_await question.processIdentifier(object.service);
@@ -164,7 +165,23 @@ QCoro::Task<bool> AtSpi::isInPasswordField(AtSpiQuestion question, qint64 proces
         if (role == kPasswordRole)
             co_return true;
     }
-    co_return false;
+    if (self.isNull())
+        co_return std::nullopt;
+    const std::optional<AccessibleElement> element = co_await focusedElement(question, processIdentifier);
+    if (!element || element->address.isEmpty())
+        co_return std::nullopt;
+    const std::optional<QString> role = co_await question.roleName(referenceOf(*element));
+    if (!role)
+        co_return std::nullopt;
+    co_return role == kPasswordRole;
+}
+
+QCoro::Task<std::optional<bool>> AtSpi::isEditable(AtSpiQuestion question, AccessibleElement element)
+{
+    const std::optional<AtSpiStates> states = co_await question.states(referenceOf(element));
+    if (!states)
+        co_return std::nullopt;
+    co_return states->test(atspistate::kEditable);
 }
 
 QCoro::Task<std::optional<QString>> AtSpi::documentUrl(AtSpiQuestion question, AccessibleElement element)

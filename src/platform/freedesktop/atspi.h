@@ -54,9 +54,11 @@ public:
     /// application has no search of its own.
     static QCoro::Task<std::optional<AccessibleElement>> shownPage(AtSpiQuestion question,
                                                                    qint64 processIdentifier);
-    /// Whether what last announced to have the keyboard in an application, by the time of the call, is a
-    /// password field. False if that could not be told in time.
-    QCoro::Task<bool> isInPasswordField(AtSpiQuestion question, qint64 processIdentifier);
+    /// Whether a password field has the keyboard in an application, or was the last to announce it by the
+    /// time of the call. Nullopt if that could not be told in time.
+    QCoro::Task<std::optional<bool>> isInPasswordField(AtSpiQuestion question, qint64 processIdentifier);
+    /// Whether the element's text can be changed; nullopt if it does not answer.
+    static QCoro::Task<std::optional<bool>> isEditable(AtSpiQuestion question, AccessibleElement element);
     /// Address of the page that a document shows.
     static QCoro::Task<std::optional<QString>> documentUrl(AtSpiQuestion question, AccessibleElement element);
 

@@ -15,6 +15,7 @@
 namespace vesk {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -62,7 +63,7 @@ X11Accessibility::X11Accessibility(X11Connection &connection, RawInput &input, X
     , m_standing({.connection = connection, .input = input, .workspace = workspace, .primary = m_primary})
     , m_deadlines(deadlines)
 {
-    connect(&m_primary, &PrimarySelection::claimed, this, &X11Accessibility::noteSecret);
+    connect(&m_primary, &PrimarySelection::claimed, this, &X11Accessibility::noteOrigin);
     connect(&consent, &Consent::changed, this, [this] {
         followConsent();
         Q_EMIT trustChanged();
@@ -141,13 +142,17 @@ QCoro::Task<SelectedText> X11Accessibility::selectedText()
     // Before any wait, in which the user may press something.
     const bool isClaimed = m_standing.isFresh(*window);
     SelectedText unknown{.isClaimed = isClaimed && !isPrimarySecret()};
-    const AtSpiQuestion search = m_atSpi.ask(m_deadlines);
+    // Where something was selected a moment ago, an answer is worth a longer wait.
+    AtSpiQuestion::Deadlines deadlines = m_deadlines;
+    if (isClaimed)
+        deadlines = {.question = 2 * m_deadlines.question, .call = 3 * m_deadlines.call};
+    const AtSpiQuestion search = m_atSpi.ask(deadlines);
     std::optional<AccessibleElement> focused;
     if (process)
         focused = co_await m_atSpi.focusedElement(search, *process);
     if (self.isNull())
         co_return SelectedText();
-    const AtSpiQuestion question = m_atSpi.ask(m_deadlines);
+    const AtSpiQuestion question = m_atSpi.ask(deadlines);
     const bool isOnBus = focused && !focused->address.isEmpty();
     std::optional<QString> role;
     std::optional<AtSpiSelection> own;
@@ -157,6 +162,13 @@ QCoro::Task<SelectedText> X11Accessibility::selectedText()
         co_return SelectedText();
     if (role == kPasswordRole)
         co_return SelectedText{.finding = Finding::Nothing};
+    if (role && role != kTerminalRole && unknown.isClaimed && m_harmless == m_primary.claim().number) {
+        const std::optional<QString> text = co_await harmlessText(question, *focused);
+        if (text)
+            co_return SelectedText{.finding = Finding::Selected, .text = *text, .isClaimed = true};
+        if (self.isNull() || !isProcessTrusted())
+            co_return SelectedText();
+    }
     if (role)
         own = co_await AtSpi::selectedText(question, *focused);
     if (self.isNull() || !isProcessTrusted())
@@ -220,7 +232,21 @@ QCoro::Task<SelectedText> X11Accessibility::confirmedText(AtSpiSelection own, bo
     co_return isDoubtful ? unknown : itself;
 }
 
-QCoro::Task<> X11Accessibility::noteSecret()
+QCoro::Task<std::optional<QString>> X11Accessibility::harmlessText(AtSpiQuestion question,
+                                                                   AccessibleElement element)
+{
+    const QPointer<X11Accessibility> self(this);
+    // A field knows its selection better: PRIMARY may be from the page around it.
+    const std::optional<bool> isEditable = co_await AtSpi::isEditable(question, element);
+    if (self.isNull() || isEditable.value_or(true))
+        co_return std::nullopt;
+    const std::optional<QString> text = co_await m_primary.text();
+    if (self.isNull() || !isProcessTrusted())
+        co_return std::nullopt;
+    co_return text;
+}
+
+QCoro::Task<> X11Accessibility::noteOrigin()
 {
     const PrimarySelection::Claim claim = m_primary.claim();
     if (!isProcessTrusted() || claim.owner == XCB_WINDOW_NONE)
@@ -229,9 +255,15 @@ QCoro::Task<> X11Accessibility::noteSecret()
     if (!process)
         co_return;
     const QPointer<X11Accessibility> self(this);
-    const bool isSecret = co_await m_atSpi.isInPasswordField(m_atSpi.ask(), *process);
-    if (!self.isNull() && isSecret)
+    // Nobody waits for this.
+    const AtSpiQuestion question = m_atSpi.ask({.question = 1s, .call = 500ms});
+    const std::optional<bool> isSecret = co_await m_atSpi.isInPasswordField(question, *process);
+    if (self.isNull() || !isSecret)
+        co_return;
+    if (*isSecret)
         m_secret = claim.number;
+    else
+        m_harmless = claim.number;
 }
 
 } // namespace vesk

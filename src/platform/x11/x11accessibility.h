@@ -15,15 +15,15 @@ class X11Workspace;
 
 /// Other applications' texts, by the accessibility bus and the X11 selection, and neither without the user's
 /// consent. Toolkits put even a password's clear text into the X11 selection, and leave it there. So that
-/// counts by itself only where nothing else can be asked, in terminals and Emacs; elsewhere the bus must
-/// name the same text.
+/// counts by itself only where nothing else can be asked, in terminals and Emacs, and in pages and the like
+/// if it was claimed outside of a password field for sure. Elsewhere the bus must name the same text.
 class X11Accessibility final : public Accessibility
 {
     Q_OBJECT
 
 public:
     /// All of it must outlive this object. `deadlines` are those of each of the two questions by which a
-    /// selected text is read.
+    /// selected text is read; they are longer if something was selected a moment before.
     X11Accessibility(X11Connection &connection, RawInput &input, X11Workspace &workspace, Consent &consent,
                      const AtSpiQuestion::Deadlines &deadlines = {});
 
@@ -47,10 +47,13 @@ private:
     /// whether a question was left without an answer.
     QCoro::Task<SelectedText> terminalText(xcb_window_t window, std::optional<AtSpiSelection> own,
                                            bool isSilent);
+    /// The text of a claim that was not made out of a password field, if the element that has the keyboard is
+    /// no field; else nullopt.
+    QCoro::Task<std::optional<QString>> harmlessText(AtSpiQuestion question, AccessibleElement element);
     /// `own` is what the bus says is selected; `isClaimed` as in `SelectedText`.
     QCoro::Task<SelectedText> confirmedText(AtSpiSelection own, bool isClaimed);
-    /// Remembers PRIMARY for secret if it was claimed out of a password field.
-    QCoro::Task<> noteSecret();
+    /// Remembers whether PRIMARY was claimed out of a password field.
+    QCoro::Task<> noteOrigin();
     [[nodiscard]] bool isPrimarySecret() const { return m_secret == m_primary.claim().number; }
 
     RawInput &m_input;
@@ -60,8 +63,10 @@ private:
     PrimaryStanding m_standing;
     AtSpi m_atSpi;
     const AtSpiQuestion::Deadlines m_deadlines;
-    /// Number of the last claim that was made while a password field had the keyboard.
+    /// Number of the last claim that was made while a password field had the keyboard, and of the last that
+    /// was made while something else had it for sure.
     std::optional<quint64> m_secret;
+    std::optional<quint64> m_harmless;
 };
 
 } // namespace vesk
