@@ -27,7 +27,7 @@ struct SoakWorld : ProgramWorld
         services.start();
     }
 
-    /// What pasting may insert: the two selections, and what the fields are given here.
+    /// What pasting may insert.
     [[nodiscard]] QStringList pasteTexts() const
     {
         QStringList texts;
