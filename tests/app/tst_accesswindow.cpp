@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "../components/memorydesktop.h"
 #include "app/accesswindow.h"
+#include "app/questions.h"
 #include "platform/freedesktop/consent.h"
 #include "platform/freedesktop/inidefaults.h"
 
@@ -49,7 +50,8 @@ void TestAccessWindow::answerCountsWhateverWasAnsweredBefore()
     Consent consent(defaults);
     consent.setGiven(wasGiven);
     MemoryDesktop desktop;
-    AccessWindow access(desktop.engine, consent);
+    Questions questions(desktop.application);
+    AccessWindow access(desktop.engine, consent, questions);
     access.show();
     auto *window = qobject_cast<QQuickView *>(QGuiApplication::topLevelWindows().constFirst());
     QVERIFY(window && QTest::qWaitForWindowActive(window));
