@@ -306,7 +306,7 @@ void TestPasteboard::silentOwnerIsAskedOnce()
     Program vesk;
     QVERIFY(QCoro::waitFor(vesk.pasteboard.pasteboardItems()).isEmpty());
     QCOMPARE(owner.readings(), 1);
-    QVERIFY(!QCoro::waitFor(vesk.pasteboard.string()));
+    QVERIFY(!QCoro::waitFor(vesk.pasteboard.string(Pasteboard::Patience::Long)));
     QCOMPARE(owner.readings(), 2);
 }
 
@@ -535,7 +535,7 @@ void TestPasteboard::formsOfText()
     vesk.catchUp();
     const SelectionTransfer::Data data = QCoro::waitFor(
         SelectionTransfer::read(*other.connection, other.connection->atom("CLIPBOARD"),
-                                other.connection->atom(target.constData()), qsizetype{1} << 16));
+                                other.connection->atom(target.constData()), qsizetype{1} << 16, 10s));
     QCOMPARE(data.outcome == SelectionTransfer::Outcome::Complete, !type.isEmpty());
     if (!type.isEmpty())
         QCOMPARE(data.type, other.connection->atom(type.constData()));

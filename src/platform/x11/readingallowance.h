@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 
+#include <algorithm>
 #include <chrono>
 
 namespace vesk {
@@ -22,8 +23,10 @@ public:
         qsizetype bytes;
     };
 
-    /// The slowest rate, in bytes a second, at which a large content is worth waiting for.
-    static constexpr qsizetype kSlowestRate = qsizetype{4} * 1024 * 1024;
+    /// The slowest rate, in bytes a second, at which a large content is worth waiting for, as on a machine
+    /// that is busy, and the longest that any reading takes.
+    static constexpr qsizetype kSlowestRate = qsizetype{1024} * 1024;
+    static constexpr std::chrono::milliseconds kLongest{30'000};
 
     explicit ReadingAllowance(const Limits &limits)
         : m_limits(limits)
@@ -40,7 +43,7 @@ public:
     [[nodiscard]] std::chrono::milliseconds timeLeft() const
     {
         const std::chrono::milliseconds earned{m_taken * 1000 / kSlowestRate};
-        return m_limits.total + earned - std::chrono::milliseconds{m_elapsed.elapsed()};
+        return std::min(m_limits.total + earned, kLongest) - std::chrono::milliseconds{m_elapsed.elapsed()};
     }
 
 private:
