@@ -42,6 +42,9 @@ MessageWindow::MessageWindow(QQmlEngine &engine, const Content &content)
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *window) {
         if (window && window != &m_view && m_view.isVisible())
             m_view.raise();
+        // On a busy machine the first keys come long after the window was shown.
+        if (window == &m_view && m_isUnasked)
+            m_guard.start();
     });
 }
 
@@ -52,12 +55,12 @@ MessageWindow::~MessageWindow()
 
 void MessageWindow::show(Arrival arrival)
 {
-    const bool isUnasked = arrival == Arrival::Unasked && !m_isRejectCostly;
-    if (isUnasked)
+    m_isUnasked = arrival == Arrival::Unasked && !m_isRejectCostly;
+    if (m_isUnasked)
         m_guard.start();
     if (!m_view.isVisible()) {
         place();
-        m_view.rootObject()->setProperty("hasDefaultButton", !isUnasked);
+        m_view.rootObject()->setProperty("hasDefaultButton", !m_isUnasked);
         QMetaObject::invokeMethod(m_view.rootObject(), "takeFocus");
     }
     m_view.show();

@@ -80,6 +80,7 @@ private:
     QQuickView m_view;
     /// Runs while keys that are typed may be meant for another window.
     QTimer m_guard;
+    bool m_isUnasked = false;
     bool m_isRejectCostly;
 };
 

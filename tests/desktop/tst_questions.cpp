@@ -132,6 +132,8 @@ void TestQuestions::standsWholeAboveVesksWindows()
     tap({XK_Escape});
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kQuestion, kBound));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kPanel, kBound));
+    togglePanel();
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
     QCOMPARE(m_editor->text(), kLine + u'\n');
 }
 

@@ -84,15 +84,20 @@ void X11Windows::lookAgain()
 {
     // Some window managers put the title bar that a window is not to have where the window is to be, and
     // the window below it. Asked again once it is shown, they put the window there.
-    constexpr int kLooks = 6;
+    constexpr int kLooks = 100;
+    constexpr int kLooksAtShown = 10;
     for (Placing &each : m_placings) {
         ++each.looks;
-        if (!each.window || !each.window->isVisible() || each.window->geometry() == each.geometry)
+        // A busy window manager takes its time.
+        if (!each.window || !each.window->isExposed())
             continue;
-        if (each.window->size() == each.geometry.size())
+        ++each.looksAtShown;
+        if (each.window->geometry() != each.geometry && each.window->size() == each.geometry.size())
             each.window->setGeometry(each.geometry);
     }
-    m_placings.removeIf([](const Placing &each) { return each.window.isNull() || each.looks >= kLooks; });
+    m_placings.removeIf([](const Placing &each) {
+        return each.window.isNull() || each.looks >= kLooks || each.looksAtShown >= kLooksAtShown;
+    });
     if (m_placings.isEmpty())
         m_look.stop();
 }

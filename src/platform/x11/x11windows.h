@@ -34,6 +34,8 @@ private:
         QPointer<QWindow> window;
         QRect geometry;
         int looks = 0;
+        /// How many of the looks were at the window on the screen.
+        int looksAtShown = 0;
     };
 
     /// Puts the windows that were shown elsewhere than where they were put there once more.
