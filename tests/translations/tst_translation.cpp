@@ -113,8 +113,10 @@ void TranslationTest::everyMessageIsTranslated()
             QVERIFY2(!text.isEmpty(), where.constData());
             // "One item" needs no place for the number.
             const bool mayLackNumber = message.isPlural && text != message.translations.last();
-            if (!mayLackNumber || text.contains(u'%'))
-                QCOMPARE(fixedParts(text), fixedParts(message.source));
+            QStringList expected = fixedParts(message.source);
+            if (mayLackNumber && !text.contains("%Ln"_L1) && !text.contains("%n"_L1))
+                expected.removeIf([](const QString &part) { return part == "%Ln"_L1 || part == "%n"_L1; });
+            QCOMPARE(fixedParts(text), expected);
         }
         if (!message.isPlural)
             QCOMPARE(QCoreApplication::translate(message.context.toUtf8().constData(),
