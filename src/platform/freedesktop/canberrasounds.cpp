@@ -15,7 +15,7 @@ struct CanberraSounds::Player
 {
     struct Destroy
     {
-        void operator()(ca_context *context) const { ca_context_destroy(context); }
+        void operator()(ca_context *ended) const { ca_context_destroy(ended); }
     };
 
     std::unique_ptr<ca_context, Destroy> context;
