@@ -266,7 +266,7 @@ bool X11Application::isOwnWindowActive() const
 bool X11Application::hasUserTurnedElsewhere() const
 {
     const std::optional<ForeignWindow> window = foreignActiveWindow();
-    return window && !(m_previousWindow && window->id == m_previousWindow->id);
+    return window && (!m_previousWindow || window->id != m_previousWindow->id);
 }
 
 std::optional<X11Application::ForeignWindow> X11Application::foreignActiveWindow() const
