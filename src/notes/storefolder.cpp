@@ -62,19 +62,17 @@ std::optional<qint64> freeBytes(const QString &folder)
 int tryWriting(const QString &folder)
 {
     // More than what a file system may keep in the inode itself.
-    static constexpr std::array<char, 64 * 1024> kBytes{};
+    static constexpr std::array<char, 65'536> kBytes{};
     const int descriptor = openNameless(QFile::encodeName(folder));
     if (descriptor < 0)
         return errno;
     int error = 0;
     const ssize_t written = ::write(descriptor, kBytes.data(), kBytes.size());
-    if (written < 0)
+    // Some file systems find out only when they sync.
+    if (written < 0 || ::fsync(descriptor) != 0)
         error = errno;
     else if (static_cast<size_t>(written) < kBytes.size())
         error = ENOSPC;
-    // Some find out only now.
-    else if (::fsync(descriptor) != 0)
-        error = errno;
     ::close(descriptor);
     return error;
 }
