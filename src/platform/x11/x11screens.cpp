@@ -134,7 +134,7 @@ void X11Screens::onEvent(const xcb_generic_event_t *event)
     if (isOfRoot ? isOneOf({"_NET_CLIENT_LIST", "_NET_WORKAREA", "_NET_CURRENT_DESKTOP", "_GTK_WORKAREAS_D0"})
                  : isOneOf({"_NET_WM_STRUT_PARTIAL", "_NET_WM_STRUT"}))
         m_settling.start();
-    // Nothing else tells of a dock that is in no list.
+    // No other event reports a dock that is not listed.
     if (isOfRoot && m_workArea.isEmpty() && isOneOf({"_NET_ACTIVE_WINDOW"}))
         m_settling.start();
 }
