@@ -232,7 +232,7 @@ KeyTaker keyTakerOf(const WindowIdentity &window, const DesktopEntry *entry,
     const bool canRoleDecide = program == KeyTaker::Ordinary || program == KeyTaker::Uncertain;
     if (!canRoleDecide || !role)
         return program;
-    const auto row = std::ranges::find(kRoles, *role, &Row::name);
+    const auto *const row = std::ranges::find(kRoles, *role, &Row::name);
     return row == kRoles.end() ? KeyTaker::Ordinary : row->taker;
 }
 
