@@ -55,7 +55,10 @@ void EditItem::endComposing() const
 {
     if (!isComposing())
         return;
-    QGuiApplication::inputMethod()->commit();
+    // The toolkit asks on behalf of whatever has the keyboard, and has done so already for an item that has
+    // lost it.
+    if (m_item->hasActiveFocus())
+        QGuiApplication::inputMethod()->commit();
     if (!isComposing())
         return;
     // The input method does not know of it, or has gone.

@@ -30,7 +30,7 @@ public:
     [[nodiscard]] QRectF rectangleOf(qsizetype position) const;
     /// Whether an input method is composing a text in it.
     [[nodiscard]] bool isComposing() const;
-    /// Writes what is being composed into the text.
+    /// Writes what is being composed into the text, where the input method does not do so when it is asked.
     void endComposing() const;
 
 private:

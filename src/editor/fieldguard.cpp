@@ -79,6 +79,7 @@ bool FieldGuard::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease:
+    case QEvent::FocusOut:
         break;
     default:
         return false;
@@ -92,6 +93,9 @@ bool FieldGuard::eventFilter(QObject *watched, QEvent *event)
         return handleKey(transfer, static_cast<QKeyEvent &>(*event));
     case QEvent::KeyRelease:
         publishLater(transfer);
+        return false;
+    case QEvent::FocusOut:
+        transfer.endComposing();
         return false;
     case QEvent::MouseButtonRelease:
         publishLater(transfer);

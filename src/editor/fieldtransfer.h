@@ -44,6 +44,8 @@ public:
     void pasteSelected(const QPointF &point);
     /// Offers a new selection for the middle mouse button, here and elsewhere.
     void publishSelection();
+    /// Writes what an input method is composing into the text.
+    void endComposing() { m_edit.endComposing(); }
 
     [[nodiscard]] bool isReadOnly() const;
 

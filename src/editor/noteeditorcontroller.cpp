@@ -42,6 +42,12 @@ void NoteEditorController::forceFocus()
         m_textView->forceFocus();
 }
 
+void NoteEditorController::finishComposing()
+{
+    if (m_textView)
+        m_textView->finishComposing();
+}
+
 bool NoteEditorController::focusIfAwaited()
 {
     return m_textView && m_textView->focusIfAwaited();

@@ -28,6 +28,9 @@ public:
     void moveCaretToEnd();
     /// Gives the text the keyboard.
     void forceFocus();
+    /// Writes what an input method is composing into the text. To be called before the text is saved or its
+    /// editor goes.
+    void finishComposing();
     /// Gives the text the keyboard now if it waits for it, as it does when it has just come up; whether it
     /// did.
     bool focusIfAwaited();

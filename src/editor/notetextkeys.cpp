@@ -7,8 +7,6 @@
 #include "editor/notetext.h"
 #include "editor/notetextview.h"
 
-#include <QGuiApplication>
-#include <QInputMethod>
 #include <QKeyEvent>
 
 namespace vesk {
@@ -126,8 +124,7 @@ bool NoteTextKeys::handleKey(QKeyEvent &event)
             event.accept();
             return true;
         }
-        QGuiApplication::inputMethod()->commit();
-        m_view.finishComposing();
+        m_edit.endComposing();
         m_steps->beforeKey(event.timestamp());
         return false;
     }

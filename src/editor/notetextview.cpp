@@ -77,8 +77,8 @@ void NoteTextView::itemChange(ItemChange change, const ItemChangeData &data)
         // Opened again before it was gone; another may have had the commands meanwhile.
         if (data.boolValue && m_controller)
             m_controller->setTextView(this);
-        // The host closes the editor. It has lost the keyboard, so the input method was asked to commit.
-        if (!data.boolValue)
+        // The host closes the editor.
+        if (!data.boolValue && m_composition)
             finishComposing();
     }
     QQuickItem::itemChange(change, data);
@@ -234,12 +234,6 @@ void NoteTextView::forceFocus()
     m_edit.item()->forceActiveFocus();
 }
 
-void NoteTextView::finishComposing()
-{
-    if (m_composition)
-        m_composition->finish();
-}
-
 void NoteTextView::focusWhenShown()
 {
     m_focusTask.start();
@@ -274,6 +268,9 @@ bool NoteTextView::eventFilter(QObject *watched, QEvent *event)
         return m_composition->handle(static_cast<const QInputMethodEvent &>(*event));
     case QEvent::FocusIn:
         m_keys.enter();
+        return false;
+    case QEvent::FocusOut:
+        finishComposing();
         return false;
     case QEvent::KeyRelease:
         publishSelection();

@@ -62,8 +62,8 @@ public:
     Q_INVOKABLE void toggleBox(int position);
     void moveCaretToEnd();
     Q_INVOKABLE void forceFocus();
-    /// Writes what is being composed, where the input method has not committed it when it was asked to.
-    void finishComposing();
+    /// Writes what is being composed into the text.
+    void finishComposing() { m_edit.endComposing(); }
     /// Gives the text the keyboard as soon as its window can have it, or after half a second.
     Q_INVOKABLE void focusWhenShown();
     /// Gives it the keyboard now if it waits for it; whether it did.

@@ -67,16 +67,6 @@ bool TextComposition::replaceWholeCharacters(const QInputMethodEvent &event)
     return true;
 }
 
-void TextComposition::finish()
-{
-    if (!m_edit.isComposing())
-        return;
-    QInputMethodEvent event;
-    event.setCommitString(m_edit.item()->property("preeditText").toString());
-    m_steps.beforeInputMethod();
-    deliver(event);
-}
-
 void TextComposition::deliver(QInputMethodEvent &event)
 {
     m_edit.item()->removeEventFilter(&m_view);

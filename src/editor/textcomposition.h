@@ -22,8 +22,6 @@ public:
 
     /// True if the event was dealt with here, false if it is for the item.
     bool handle(const QInputMethodEvent &event);
-    /// Writes what is being composed, as if the input method had committed it.
-    void finish();
 
 private:
     bool commitTyped(const QInputMethodEvent &event);

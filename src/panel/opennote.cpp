@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panel/opennote.h"
 
+#include "editor/noteeditorcontroller.h"
 #include "notes/notesstore.h"
 #include "panel/cardselection.h"
 #include "panel/notelistmodel.h"
@@ -8,18 +9,15 @@
 
 namespace vesk {
 
-OpenNote::OpenNote(NotesStore &store, NoteListModel &notes, PanelKeyboard &keyboard, CardSelection &selection)
-    : m_store(store)
-    , m_notes(notes)
-    , m_keyboard(keyboard)
-    , m_selection(selection)
+OpenNote::OpenNote(const Needs &needs)
+    : m_needs(needs)
 {
-    connect(&store.notes(), &LiveQueryBase::removed, this, [this](qsizetype, const RecordId &id) {
+    connect(&needs.store.notes(), &LiveQueryBase::removed, this, [this](qsizetype, const RecordId &id) {
         if (m_id == id)
             setId(std::nullopt);
     });
-    connect(&keyboard, &PanelKeyboard::activeFieldChanged, this, [this] {
-        if (m_keyboard.isInField())
+    connect(&needs.keyboard, &PanelKeyboard::activeFieldChanged, this, [this] {
+        if (m_needs.keyboard.isInField())
             close();
     });
 }
@@ -30,31 +28,34 @@ void OpenNote::open(const Note &note)
         return;
     const RecordId id = note.id();
     close();
-    if (m_keyboard.isInField())
-        m_keyboard.request(PanelKeyboard::Field::None);
+    if (m_needs.keyboard.isInField())
+        m_needs.keyboard.request(PanelKeyboard::Field::None);
     setId(id);
-    m_selection.select(id);
+    m_needs.selection.select(id);
 }
 
 void OpenNote::close()
 {
     if (!m_id)
         return;
-    Note *note = m_store.findNote(*m_id);
+    // Without motion the editor goes at once.
+    m_needs.editor.finishComposing();
+    Note *note = m_needs.store.findNote(*m_id);
     setId(std::nullopt);
     if (note && note->isBlank()) {
-        m_store.remove(*note);
-        m_selection.select(std::nullopt);
+        m_needs.store.remove(*note);
+        m_needs.selection.select(std::nullopt);
     }
     // What could not be written stays in the store, which tries again and has the panel say so.
-    static_cast<void>(m_store.save());
-    if (m_keyboard.isEditing() && !m_keyboard.isInField())
-        m_keyboard.request(PanelKeyboard::Field::None);
+    static_cast<void>(m_needs.store.save());
+    if (m_needs.keyboard.isEditing() && !m_needs.keyboard.isInField())
+        m_needs.keyboard.request(PanelKeyboard::Field::None);
 }
 
 void OpenNote::closeIfBlank()
 {
-    const Note *note = m_id ? m_store.findNote(*m_id) : nullptr;
+    m_needs.editor.finishComposing();
+    const Note *note = m_id ? m_needs.store.findNote(*m_id) : nullptr;
     if (note && note->isBlank())
         close();
 }
@@ -70,11 +71,11 @@ void OpenNote::setId(const std::optional<RecordId> &id)
         return;
     m_id = id;
     if (id)
-        m_notes.setOpenNote(id);
+        m_needs.notes.setOpenNote(id);
     Q_EMIT changed();
     // A card closes before its row moves: a view that takes the editor down in the midst of a move falls.
     if (!m_id)
-        m_notes.setOpenNote(std::nullopt);
+        m_needs.notes.setOpenNote(std::nullopt);
 }
 
 } // namespace vesk

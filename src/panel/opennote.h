@@ -12,6 +12,7 @@ namespace vesk {
 
 class CardSelection;
 class Note;
+class NoteEditorController;
 class NoteListModel;
 class NotesStore;
 class PanelKeyboard;
@@ -26,14 +27,24 @@ class OpenNote final : public QObject
     Q_PROPERTY(QString cardId READ cardId NOTIFY changed)
 
 public:
-    /// All of these have to outlive this.
-    OpenNote(NotesStore &store, NoteListModel &notes, PanelKeyboard &keyboard, CardSelection &selection);
+    /// What the note's editor works with. All of these must outlive this.
+    struct Needs
+    {
+        NotesStore &store;
+        NoteListModel &notes;
+        PanelKeyboard &keyboard;
+        CardSelection &selection;
+        NoteEditorController &editor;
+    };
+
+    explicit OpenNote(const Needs &needs);
 
     /// Opens a note in its place and selects it, after closing the one that is open.
     void open(const Note &note);
-    /// Closes the open note and saves; a note that was left blank is removed.
+    /// Closes the open note, with what is being composed in it, and saves; a note that was left blank is
+    /// removed.
     Q_INVOKABLE void close();
-    /// Closes the open note, and so removes it, if nothing is in it.
+    /// Closes the open note, and so removes it, if nothing is in it. Ends composing in any case.
     void closeIfBlank();
 
     [[nodiscard]] const std::optional<RecordId> &id() const { return m_id; }
@@ -45,10 +56,7 @@ Q_SIGNALS:
 private:
     void setId(const std::optional<RecordId> &id);
 
-    NotesStore &m_store;
-    NoteListModel &m_notes;
-    PanelKeyboard &m_keyboard;
-    CardSelection &m_selection;
+    Needs m_needs;
     std::optional<RecordId> m_id;
 };
 

@@ -17,7 +17,11 @@ PanelModel::PanelModel(NotesStore &store, Clock &clock, Defaults &defaults, Appl
     , m_notes(store, clock, defaults)
     , m_prompts(store, defaults)
     , m_selection(m_notes)
-    , m_openNote(store, m_notes, m_keyboard, m_selection)
+    , m_openNote({.store = store,
+                  .notes = m_notes,
+                  .keyboard = m_keyboard,
+                  .selection = m_selection,
+                  .editor = m_editor})
     , m_cards(store, clock, m_openNote, m_selection)
     , m_keys(*this, application)
     , m_menu(this)

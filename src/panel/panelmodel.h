@@ -136,13 +136,13 @@ private:
     PromptListModel m_prompts;
     PanelKeyboard m_keyboard;
     CardSelection m_selection;
+    NoteEditorController m_editor;
     OpenNote m_openNote;
     CardActions m_cards;
     PanelKeys m_keys;
     PanelMenu m_menu;
     Guide m_guide;
     PanelHeight m_height;
-    NoteEditorController m_editor;
     Tab m_tab = Tab::Notes;
     QString m_search;
     QString m_draft;

@@ -98,7 +98,11 @@ PanelWindow::PanelWindow(QQmlEngine &engine, PanelModel &model, Application &app
     QTimer::singleShot(0, this, &PanelWindow::prepareAhead);
 }
 
-PanelWindow::~PanelWindow() = default;
+PanelWindow::~PanelWindow()
+{
+    // What is being composed in the open note would go with its editor.
+    m_model.becomeInactive();
+}
 
 void PanelWindow::prepareAhead()
 {

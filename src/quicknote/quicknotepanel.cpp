@@ -85,6 +85,7 @@ void QuickNotePanel::show(Mode mode, const QString &remark)
 {
     // First of all: what the user types from here on is meant for the box.
     m_needs.application.holdKeys();
+    m_controller.finishComposing();
     m_model.begin(mode);
     m_model.setRemark(remark);
     if (!m_view)
@@ -109,6 +110,7 @@ void QuickNotePanel::close()
 {
     if (!m_isShowing)
         return;
+    m_controller.finishComposing();
     // Before the fading: what is typed now is for the application below.
     m_needs.application.giveKeyboardBack(*m_view);
     m_fade->fadeOut(kFadeOut);
@@ -126,6 +128,7 @@ void QuickNotePanel::setShowing(bool isShowing)
 
 void QuickNotePanel::save()
 {
+    m_controller.finishComposing();
     const QString body = m_model.body();
     if (body.isEmpty())
         return;

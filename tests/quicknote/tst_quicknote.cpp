@@ -5,6 +5,7 @@
 #include "quicknote/quicknotepanel.h"
 #include "quicknote/toast.h"
 
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QTemporaryDir>
 #include <QTest>
@@ -58,6 +59,12 @@ struct World : MemoryDesktop
         for (const QChar letter : text)
             QTest::keyClick(box->window(), letter.toLatin1());
     }
+    /// What an input method shows before it commits.
+    void compose(const QString &text) const
+    {
+        QInputMethodEvent event(text, {});
+        QCoreApplication::sendEvent(box->window()->focusObject(), &event);
+    }
     [[nodiscard]] QStringList texts() const
     {
         QStringList all;
@@ -95,6 +102,7 @@ private Q_SLOTS:
     void blankDraftIsNotKept();
     void eachModeHasItsDraft();
     void reopenedBoxHasItsDraftWithTheCaretAtTheEnd();
+    void closingAndSavingKeepWhatIsComposed();
     void goesWhenTheKeyboardDoes_data();
     void goesWhenTheKeyboardDoes();
     void questionOfOursLeavesItOpen();
@@ -258,6 +266,26 @@ void QuickNoteTest::goesWhenTheKeyboardDoes()
     QVERIFY(!m_world->box->isShowing());
     QVERIFY(!m_world->box->window()->isVisible());
     QCOMPARE(m_world->draft(), u"tea"_s);
+}
+
+/// The input method of this test does not answer when it is asked to commit.
+void QuickNoteTest::closingAndSavingKeepWhatIsComposed()
+{
+    QVERIFY(m_world->show(Mode::Note));
+    m_world->type(u"a"_s);
+    m_world->compose(u"ni"_s);
+    m_world->box->close();
+    QCOMPARE(m_world->draft(), u"ani"_s);
+    QVERIFY(m_world->show(Mode::Note));
+    m_world->compose(u"hao"_s);
+    // In the other mode the draft is parked with it.
+    m_world->box->show(Mode::Checklist);
+    m_world->box->show(Mode::Note);
+    QCOMPARE(m_world->draft(), u"anihao"_s);
+    m_world->compose(u"ma"_s);
+    m_world->box->save();
+    QCOMPARE(m_world->texts(), QStringList{u"anihaoma"_s});
+    QCOMPARE(m_world->draft(), QString());
 }
 
 void QuickNoteTest::questionOfOursLeavesItOpen()
