@@ -8,6 +8,7 @@
 #include "app/remotecontrol.h"
 #include "app/saveatexit.h"
 #include "app/storefailure.h"
+#include "app/storewatch.h"
 #include "app/unwrittenwindow.h"
 #include "app/veskapp.h"
 #include "components/surroundings.h"
@@ -148,6 +149,7 @@ int runVesk(bool isInBackground)
     }
     const vesk::DailyCopy dailyCopy(path, QCoreApplication::applicationFilePath(), desktop.clock);
     const vesk::SaveAtExit saveAtExit(*opened.store);
+    const vesk::StoreWatch storeWatch(*opened.store, desktop.clock);
     const int result =
         runUntilQuit(desktop, std::move(keys), *opened.store, service, dailyCopy, isInBackground);
     // What this does not write is offered to the user.

@@ -99,8 +99,10 @@ std::unique_ptr<Database> Database::tryOpening(const StoreFile &file, std::uniqu
 }
 
 Database::Database(const StoreFile &file, storejournal::Kind journal)
-    : m_folder(file.folder())
+    : m_file(file)
+    , m_journal(journal)
     , m_connection(file.nativePath(), SQLite::OPEN_READWRITE, kBusyTimeoutMilliseconds)
+    , m_place(file.path())
 {
     // Until the file is accepted. Without a journal there is nothing to move, and closing tidies up
     // the empty companions that opening has made.
@@ -116,7 +118,7 @@ StoreError Database::load(const StoreFile &file, storejournal::Kind journal, Ope
     // SQLite falls back to reading alone without a word.
     if (sqlite3_db_readonly(m_connection.getHandle(), "main") != 0)
         return file.describe(StoreTrouble::of(
-            SQLITE_READONLY, QString::fromUtf8(sqlite3_errstr(SQLITE_READONLY)), 0, m_folder));
+            SQLITE_READONLY, QString::fromUtf8(sqlite3_errstr(SQLITE_READONLY)), 0, m_file.folder()));
     {
         SQLite::Transaction transaction(m_connection, SQLite::TransactionBehavior::IMMEDIATE);
         // Looked at again, with the journal now.
@@ -129,7 +131,7 @@ StoreError Database::load(const StoreFile &file, storejournal::Kind journal, Ope
         // it would make later saves fail, or write a note a second time.
         const std::string report = m_connection.execAndGet("PRAGMA integrity_check(1)").getString();
         if (report != "ok")
-            return file.describe(StoreTrouble::ofCheck(QString::fromStdString(report), m_folder));
+            return file.describe(StoreTrouble::ofCheck(QString::fromStdString(report), m_file.folder()));
         schema::migrate(m_connection);
         m_notes = std::make_unique<NoteTable>(m_connection);
         m_prompts = std::make_unique<PromptTable>(m_connection);
@@ -156,10 +158,12 @@ StoreError Database::load(const StoreFile &file, storejournal::Kind journal, Ope
 Database::Written Database::write(const std::vector<Change> &changes)
 {
     Written written;
-    if (hasMoved()) {
-        // What SQLite writes now would be in no file that is found again.
-        written.trouble = {.kind = StoreTrouble::Kind::Moved, .detail = u"the file was moved"_s};
-    } else {
+    // Otherwise SQLite would write into a file that is not found again, or beside another writer.
+    if (m_place.look() == StorePlace::Finding::Unreachable)
+        written.trouble = {.kind = StoreTrouble::Kind::Unreachable, .detail = u"its folder is not there"_s};
+    else
+        written.trouble = renewLock();
+    if (!written.trouble) {
         written = writeInOneTransaction(changes, false);
         if (!written.isCommitted && written.trouble->kind == StoreTrouble::Kind::RecordRefused)
             written = writeInOneTransaction(changes, true);
@@ -215,15 +219,7 @@ void Database::makeAll(const std::vector<Change> &changes, bool isApart, Written
 StoreTrouble Database::troubleOf(const SQLite::Exception &error)
 {
     return StoreTrouble::of(error.getExtendedErrorCode(), QString::fromUtf8(error.what()),
-                            sqlite3_system_errno(m_connection.getHandle()), m_folder);
-}
-
-bool Database::hasMoved()
-{
-    int hasMoved = 0;
-    const int result =
-        sqlite3_file_control(m_connection.getHandle(), "main", SQLITE_FCNTL_HAS_MOVED, &hasMoved);
-    return result == SQLITE_OK && hasMoved != 0;
+                            sqlite3_system_errno(m_connection.getHandle()), m_file.folder());
 }
 
 void Database::make(const Removal &removal)

@@ -7,9 +7,12 @@
 #include "notes/storefile.h"
 #include "notes/storejournal.h"
 #include "notes/storelock.h"
+#include "notes/storeplace.h"
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
+
+#include <QCoreApplication>
 
 #include <memory>
 #include <optional>
@@ -22,6 +25,8 @@ namespace vesk {
 /// SQLite's leaves it.
 class Database final
 {
+    Q_DECLARE_TR_FUNCTIONS(vesk::Database)
+
 public:
     /// Either an open database with all that it held, or the reason why there is none.
     struct OpenResult
@@ -59,6 +64,21 @@ public:
     /// that cannot be written does not keep the others from it. If the whole fails, the file is as it was.
     [[nodiscard]] Written write(const std::vector<Change> &changes);
 
+    /// Whether the file was deleted, moved away or replaced while it was open. False if that cannot be found
+    /// out, as when its disk was taken away.
+    [[nodiscard]] bool isLost() const;
+    /// A database in place of one that is lost, and what happened, in one sentence for the user; or the
+    /// reason why there is none.
+    struct Anew
+    {
+        std::unique_ptr<Database> database;
+        QString incident;
+        StoreTrouble trouble;
+    };
+    /// Makes a new store of `records`, which must be all of them, in the place of the lost file, or beside a
+    /// foreign one that is there now. If it fails, this one is as it was; otherwise it is of no use any more.
+    [[nodiscard]] Anew writeAnew(const std::vector<Change> &records);
+
 private:
     Database(const StoreFile &file, storejournal::Kind journal);
 
@@ -81,13 +101,21 @@ private:
     void make(const Removal &removal);
     [[nodiscard]] Written writeInOneTransaction(const std::vector<Change> &changes, bool isApart);
     [[nodiscard]] StoreTrouble troubleOf(const SQLite::Exception &error);
-    /// Whether the file at this path is no longer the one that is open.
-    [[nodiscard]] bool hasMoved();
+    /// Locks anew if the lock's file was removed, from when on it binds nobody.
+    [[nodiscard]] std::optional<StoreTrouble> renewLock();
+    /// Moves the journal into the file, so that nothing is left by which the next file of the name could be
+    /// changed.
+    [[nodiscard]] std::optional<StoreTrouble> emptyJournal();
+    [[nodiscard]] static std::optional<StoreTrouble> fill(const StoreFile &file,
+                                                          const std::vector<Change> &records);
 
-    const QString m_folder;
+    const StoreFile m_file;
+    const storejournal::Kind m_journal;
     // Given up after the file is closed.
     std::unique_ptr<StoreLock> m_lock;
     SQLite::Database m_connection;
+    // Made after the connection, so that it is the same file.
+    StorePlace m_place;
     // Prepared once the tables are known to be there.
     std::unique_ptr<NoteTable> m_notes;
     std::unique_ptr<PromptTable> m_prompts;

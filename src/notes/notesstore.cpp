@@ -2,8 +2,10 @@
 #include "notes/notesstore.h"
 
 #include "notes/database.h"
+#include "notes/rescuedstores.h"
 #include "notes/saveproblem.h"
 
+#include <QDebug>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -36,6 +38,11 @@ NotesStore::OpenResult NotesStore::open(const QString &path, Clock &clock, Use u
         return {.store = nullptr, .error = opened.error.text, .fault = opened.error.fault};
     std::unique_ptr<NotesStore> store(new NotesStore(std::move(opened.database), clock));
     store->load(std::move(opened.notes), std::move(opened.prompts));
+    if (const QString rescued = rescuedstores::latest(path); !rescued.isEmpty())
+        store->m_incident =
+            tr("Notes that Vesk kept when the notes file was replaced are in “%1”. To get them "
+               "back, quit Vesk and put that file in the place of “%2”.")
+                .arg(rescued, path);
     return {.store = std::move(store)};
 }
 
@@ -48,7 +55,7 @@ NotesStore::NotesStore(std::unique_ptr<Database> database, Clock &clock)
 NotesStore::~NotesStore()
 {
     // Nobody is left to be told of a failure; it has been logged.
-    if (hasPendingChanges())
+    if (hasPendingChanges() || m_database->isLost())
         static_cast<void>(write());
 }
 
@@ -137,7 +144,7 @@ void NotesStore::promptChanged(Prompt &prompt)
 
 bool NotesStore::save()
 {
-    const bool isSaved = !hasPendingChanges() || write();
+    const bool isSaved = (!hasPendingChanges() && !m_database->isLost()) || write();
     if (hasPendingChanges()) {
         startRetrying();
     } else {
@@ -168,6 +175,8 @@ QStringList NotesStore::unwrittenTexts() const
 
 bool NotesStore::write()
 {
+    if (m_database->isLost())
+        return writeAnew();
     std::vector<Database::Change> changes;
     std::vector<quint64> numbers;
     for (const auto &[number, change] : m_pending.changes()) {
@@ -193,6 +202,34 @@ bool NotesStore::write()
                    ? describeSaveProblem(*written.trouble, static_cast<qsizetype>(written.refused.size()))
                    : QString());
     return isWritten;
+}
+
+bool NotesStore::writeAnew()
+{
+    std::vector<Database::Change> records;
+    records.reserve(m_heldNotes.size() + m_heldPrompts.size());
+    for (const auto &[id, held] : m_heldNotes) {
+        records.emplace_back(held.record.get());
+        // As long as there is no new file, none may have it.
+        m_pending.addChanged(RecordKind::Note, id);
+    }
+    for (const auto &[id, held] : m_heldPrompts) {
+        records.emplace_back(held.record.get());
+        m_pending.addChanged(RecordKind::Prompt, id);
+    }
+    Database::Anew anew = m_database->writeAnew(records);
+    if (!anew.database) {
+        qWarning() << "The notes could not be saved:" << qPrintable(anew.trouble.detail);
+        setProblem(describeSaveProblem(anew.trouble, 0));
+        return false;
+    }
+    qWarning() << qPrintable(anew.incident);
+    m_database = std::move(anew.database);
+    m_pending.clear();
+    m_problem.clear();
+    m_incident = anew.incident;
+    Q_EMIT problemChanged();
+    return true;
 }
 
 void NotesStore::setProblem(const QString &problem)

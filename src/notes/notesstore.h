@@ -68,13 +68,17 @@ public:
 
     /// Writes everything pending, and returns once it is on the disk. False if a change since the last
     /// save is not: nothing is lost, it stays pending in its order, `problem` says why, and the store tries
-    /// again by itself. A record that cannot be written does not keep the others from it.
+    /// again by itself. A record that cannot be written does not keep the others from it. If the file was
+    /// lost meanwhile, everything is written to a new one, and `incident` says so.
     [[nodiscard]] bool save();
     [[nodiscard]] bool hasPendingChanges() const;
     /// The texts that the file has not got as they are now, in the order in which they changed first.
     [[nodiscard]] QStringList unwrittenTexts() const;
     /// Why something is not written, in one sentence for the user; empty if the last attempt succeeded.
     [[nodiscard]] const QString &problem() const { return m_problem; }
+    /// What has happened to the file that the user should know although all is written, in a sentence or two:
+    /// it was lost while it was open, or notes from such a time lie beside it. Empty if nothing has.
+    [[nodiscard]] const QString &incident() const { return m_incident; }
 
     /// Null if there is no record of that kind with this identity.
     [[nodiscard]] Note *findNote(const RecordId &id) const;
@@ -89,6 +93,7 @@ public:
     [[nodiscard]] QList<Prompt *> donePrompts() const;
 
 Q_SIGNALS:
+    /// `problem` or `incident` has changed.
     void problemChanged();
     /// An attempt to save has ended, by whomever it was made and however it went.
     void saveTried();
@@ -119,6 +124,8 @@ private:
 
     /// Tries once; see `save`.
     [[nodiscard]] bool write();
+    /// Tries once to bring everything into a new file, after the file was lost.
+    [[nodiscard]] bool writeAnew();
     void setProblem(const QString &problem);
     /// Begins to try again by itself, unless it already does.
     void startRetrying();
@@ -134,6 +141,7 @@ private:
     LiveQuery<Prompt> m_prompts{&Prompt::createdAt};
     PendingChanges m_pending;
     QString m_problem;
+    QString m_incident;
     bool m_isRetrying = false;
     quint64 m_retryRound = 0;
 };

@@ -37,6 +37,12 @@ bool PendingChanges::settle(const QSet<quint64> &refused)
     return areOld;
 }
 
+void PendingChanges::clear()
+{
+    m_changes.clear();
+    m_numbers.clear();
+}
+
 void PendingChanges::add(const Change &change)
 {
     const auto number = m_numbers.constFind(change.id);

@@ -44,6 +44,8 @@ public:
     /// whether all of these had been refused before, and not changed since.
     [[nodiscard]] bool settle(const QSet<quint64> &refused);
 
+    void clear();
+
     [[nodiscard]] bool isEmpty() const { return m_changes.empty(); }
     /// By a number that grows; the numbers have gaps.
     [[nodiscard]] const std::map<quint64, Change> &changes() const { return m_changes; }

@@ -30,8 +30,13 @@ QString describeSaveProblem(const StoreTrouble &trouble, qsizetype refused)
         return SaveProblem::tr("Not saved: Vesk may not write the notes file. Vesk keeps trying.");
     case Kind::InUse:
         return SaveProblem::tr("Not saved: another program is using the notes file. Vesk keeps trying.");
-    case Kind::Moved:
-        return SaveProblem::tr("Not saved: the notes file was moved or replaced while Vesk was running.");
+    case Kind::Lost:
+        return SaveProblem::tr("Not saved: the notes file is gone, and a new one cannot be made (%1). Vesk "
+                               "keeps trying.")
+            .arg(trouble.detail);
+    case Kind::Unreachable:
+        return SaveProblem::tr(
+            "Not saved: the folder of the notes file cannot be reached. Vesk keeps trying.");
     case Kind::Damaged:
     case Kind::NotADatabase:
         return SaveProblem::tr("Not saved: the notes file is damaged. Copy your latest notes elsewhere.");

@@ -16,6 +16,7 @@
 #include <sqlite3.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -29,6 +30,17 @@ namespace {
 [[nodiscard]] QString sharedMemoryOf(const QString &path)
 {
     return path + u"-shm"_s;
+}
+
+/// Renames a file unless there is one of the new name; false with `errno` set.
+[[nodiscard]] bool renameToFree(const QByteArray &from, const char *to)
+{
+    if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to, RENAME_NOREPLACE) == 0)
+        return true;
+    if (errno != EINVAL && errno != ENOSYS)
+        return false;
+    // Network file systems do not know that, but have hard links.
+    return ::link(from.constData(), to) == 0;
 }
 
 /// No database is smaller.
@@ -72,6 +84,11 @@ QString StoreFile::folder() const
 void StoreFile::removeWithCompanions(const QString &path)
 {
     QFile::remove(path);
+    removeCompanions(path);
+}
+
+void StoreFile::removeCompanions(const QString &path)
+{
     QFile::remove(rollbackJournalOf(path));
     QFile::remove(journalOf(path));
     QFile::remove(sharedMemoryOf(path));
@@ -172,26 +189,46 @@ bool StoreFile::isUnsettled() const
     return hasJournal() || QFileInfo(rollbackJournalOf(m_path)).size() > 0;
 }
 
+QString StoreFile::unfinishedPath() const
+{
+    return m_path + u".new"_s;
+}
+
+bool StoreFile::makeUnfinished(const QString &unfinished, const std::function<void(SQLite::Database &)> &fill)
+{
+    removeWithCompanions(unfinished);
+    if (!makePrivate(unfinished))
+        return false;
+    SQLite::Database connection(QFile::encodeName(unfinished).toStdString(), SQLite::OPEN_READWRITE);
+    SQLite::Transaction transaction(connection);
+    schema::migrate(connection);
+    fill(connection);
+    transaction.commit();
+    return true;
+}
+
 StoreError StoreFile::create() const
 {
-    const QString unfinished = m_path + u".new"_s;
-    removeWithCompanions(unfinished);
+    const QString unfinished = unfinishedPath();
     const auto cleanUp = qScopeGuard([&unfinished] { removeWithCompanions(unfinished); });
-
-    const QByteArray name = QFile::encodeName(unfinished);
-    if (!makePrivate(unfinished))
-        return {.text = tr("The file “%1” cannot be created (%2).").arg(m_path, qt_error_string(errno))};
-    {
-        SQLite::Database connection(name.constData(), SQLite::OPEN_READWRITE);
-        SQLite::Transaction transaction(connection);
-        schema::migrate(connection);
-        transaction.commit();
-    }
-    if (::rename(name.constData(), nativePath().c_str()) != 0)
+    const auto fillNothing = [](SQLite::Database &) {};
+    if (!makeUnfinished(unfinished, fillNothing)
+        || ::rename(QFile::encodeName(unfinished).constData(), nativePath().c_str()) != 0)
         return {.text = tr("The file “%1” cannot be created (%2).").arg(m_path, qt_error_string(errno))};
     // The entry of a renamed file is to survive a power failure too. Not every file system can.
     static_cast<void>(sync(folder()));
     return {};
+}
+
+int StoreFile::createFilled(const std::function<void(SQLite::Database &)> &fill) const
+{
+    const QString unfinished = unfinishedPath();
+    const auto cleanUp = qScopeGuard([&unfinished] { removeWithCompanions(unfinished); });
+    if (!makeUnfinished(unfinished, fill)
+        || !renameToFree(QFile::encodeName(unfinished), nativePath().c_str()))
+        return errno;
+    static_cast<void>(sync(folder()));
+    return 0;
 }
 
 void StoreFile::restrictAccess() const
@@ -222,7 +259,8 @@ StoreError StoreFile::describe(const StoreTrouble &trouble) const
     case Kind::ReadOnly:
     case Kind::NotAllowed:
         return {.text = tr("The file “%1” cannot be written (%2).").arg(m_path, trouble.detail)};
-    case Kind::Moved:
+    case Kind::Lost:
+    case Kind::Unreachable:
     case Kind::RecordRefused:
     case Kind::Other:
         break;

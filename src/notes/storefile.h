@@ -7,7 +7,12 @@
 #include <QCoreApplication>
 #include <QString>
 
+#include <functional>
 #include <string>
+
+namespace SQLite {
+class Database;
+}
 
 namespace vesk {
 
@@ -26,6 +31,7 @@ public:
     /// The name of the journal that it keeps there instead where it does without the log.
     [[nodiscard]] static QString rollbackJournalOf(const QString &path);
     static void removeWithCompanions(const QString &path);
+    static void removeCompanions(const QString &path);
     /// Makes an empty file for its user only; false, with `errno` set, if it is there or cannot be made.
     [[nodiscard]] static bool makePrivate(const QString &path);
     /// Brings a file, or the names in a folder, to the disk.
@@ -46,8 +52,11 @@ public:
     /// Whether there are changes that SQLite has not yet moved from the write-ahead log into the file.
     [[nodiscard]] bool hasJournal() const;
 
-    /// Makes an empty store. It comes into its place complete or not at all.
+    /// Makes an empty store where there is no file or an empty one.
     [[nodiscard]] StoreError create() const;
+    /// Makes a store with what `fill` writes, which must throw if it cannot. It comes into its place complete
+    /// or not at all, and replaces no file. Returns the `errno` of the step that failed; 0 if none did.
+    [[nodiscard]] int createFilled(const std::function<void(SQLite::Database &)> &fill) const;
     /// Lets nobody but the user read the file and its companions.
     void restrictAccess() const;
 
@@ -63,6 +72,10 @@ public:
 private:
     /// Whether a change may be half done, to be completed or undone when SQLite opens the file.
     [[nodiscard]] bool isUnsettled() const;
+    /// Makes a complete store at `unfinished`. False, with `errno` set, if the file cannot be made.
+    [[nodiscard]] static bool makeUnfinished(const QString &unfinished,
+                                             const std::function<void(SQLite::Database &)> &fill);
+    [[nodiscard]] QString unfinishedPath() const;
 
     /// Absolute, with links followed if the file is there.
     QString m_path;

@@ -36,7 +36,7 @@ StoreLock::Result StoreLock::acquire(const QString &store, Use use, std::chrono:
         return {
             .lock = nullptr,
             .error = {.text = tr("The file “%1” cannot be created (%2).").arg(path, qt_error_string(errno))}};
-    std::unique_ptr<StoreLock> lock(new StoreLock(descriptor));
+    std::unique_ptr<StoreLock> lock(new StoreLock(descriptor, store, use));
     const QDeadlineTimer deadline(patience);
     const QDeadlineTimer sessionDeadline(std::min(patience, kEnding));
     while (!tryLocking(descriptor)) {
@@ -51,13 +51,22 @@ StoreLock::Result StoreLock::acquire(const QString &store, Use use, std::chrono:
             return {.lock = nullptr, .error = describe(path, holder)};
         std::this_thread::sleep_for(kPause);
     }
-    lock->writeHolder(use);
+    lock->writeHolder();
     return {.lock = std::move(lock)};
 }
 
 StoreLock::~StoreLock()
 {
     ::close(m_descriptor);
+}
+
+bool StoreLock::isInPlace() const
+{
+    struct stat own = {};
+    struct stat there = {};
+    return ::fstat(m_descriptor, &own) == 0
+           && ::stat(QFile::encodeName(pathFor(m_store)).constData(), &there) == 0
+           && own.st_dev == there.st_dev && own.st_ino == there.st_ino;
 }
 
 QString StoreLock::pathFor(const QString &store)
@@ -104,13 +113,13 @@ std::optional<StoreLock::Holder> StoreLock::readHolder(int descriptor)
                   .use = words.at(2).startsWith(kSession) ? Use::Session : Use::Command};
 }
 
-void StoreLock::writeHolder(Use use) const
+void StoreLock::writeHolder() const
 {
     QString host = QSysInfo::machineHostName();
     host.replace(u' ', u'-');
     const QByteArray line =
         u"%1 %2 %3\n"_s.arg(::getpid())
-            .arg(host.isEmpty() ? u"localhost"_s : host, use == Use::Session ? kSession : kCommand)
+            .arg(host.isEmpty() ? u"localhost"_s : host, m_use == Use::Session ? kSession : kCommand)
             .toUtf8();
     // On a full disk nobody learns who has the lock, but it binds all the same.
     if (::ftruncate(m_descriptor, 0) == 0)

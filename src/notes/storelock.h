@@ -9,6 +9,7 @@
 #include <chrono>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace vesk {
 
@@ -39,6 +40,12 @@ public:
     ~StoreLock();
     Q_DISABLE_COPY_MOVE(StoreLock)
 
+    /// Whether the file that is locked is still there under its name.
+    [[nodiscard]] bool isInPlace() const;
+    /// The path of the store that it was acquired for.
+    [[nodiscard]] const QString &store() const { return m_store; }
+    [[nodiscard]] Use use() const { return m_use; }
+
 private:
     struct Holder
     {
@@ -47,8 +54,10 @@ private:
         Use use;
     };
 
-    explicit StoreLock(int descriptor)
+    StoreLock(int descriptor, QString store, Use use)
         : m_descriptor(descriptor)
+        , m_store(std::move(store))
+        , m_use(use)
     {
     }
 
@@ -59,9 +68,11 @@ private:
     [[nodiscard]] static bool tryLocking(int descriptor);
     [[nodiscard]] static std::optional<Holder> readHolder(int descriptor);
     [[nodiscard]] static StoreError describe(const QString &path, const std::optional<Holder> &holder);
-    void writeHolder(Use use) const;
+    void writeHolder() const;
 
     int m_descriptor;
+    QString m_store;
+    Use m_use;
 };
 
 } // namespace vesk

@@ -72,7 +72,7 @@ StoreTrouble StoreTrouble::of(int code, const QString &message, int systemError,
         return {.kind = Kind::DiskFull, .detail = message};
     case SQLITE_READONLY:
         if (code == SQLITE_READONLY_DBMOVED)
-            return {.kind = Kind::Moved, .detail = message};
+            return {.kind = Kind::Lost, .detail = message};
         return ofSystem(systemError, Kind::ReadOnly, message, folder);
     case SQLITE_IOERR:
     case SQLITE_CANTOPEN:

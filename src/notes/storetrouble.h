@@ -16,8 +16,10 @@ struct StoreTrouble
         QuotaUsedUp,
         ReadOnly,
         NotAllowed,
-        /// The file was moved or deleted while it was open.
-        Moved,
+        /// The file is not in its place, and no new one could be put there.
+        Lost,
+        /// The folder of the file, or its file system, is not there.
+        Unreachable,
         /// One record cannot be written; the others can.
         RecordRefused,
         Other,

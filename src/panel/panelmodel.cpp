@@ -74,7 +74,11 @@ bool PanelModel::isTrusted() const
 
 QString PanelModel::problem() const
 {
-    return m_store.problem().isEmpty() ? m_copyProblem : m_store.problem();
+    for (const QString &each : {m_store.problem(), m_store.incident()}) {
+        if (!each.isEmpty())
+            return each;
+    }
+    return m_copyProblem;
 }
 
 void PanelModel::setCopyProblem(const QString &problem)

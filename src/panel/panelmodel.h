@@ -113,7 +113,7 @@ public:
     void setDraft(const QString &draft);
     [[nodiscard]] bool isTrusted() const;
     [[nodiscard]] QString problem() const;
-    /// Why there is no recent copy of the store; empty if there is one. A save that fails comes first.
+    /// Why there is no recent copy of the store; empty if there is one. Any trouble with the store comes first.
     void setCopyProblem(const QString &problem);
 
 Q_SIGNALS:

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "app/dailycopy.h"
 #include "app/storefailure.h"
+#include "app/storewatch.h"
+#include "notes/notesreader.h"
 #include "platform/memory/memoryclock.h"
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -20,6 +23,7 @@ class TestDailyCopy : public QObject
 private Q_SLOTS:
     void leadsBackToTheNotes();
     void saysWhenNoCopyCanBeMade();
+    void lostStoreIsWrittenAnewByItself();
 };
 
 void TestDailyCopy::leadsBackToTheNotes()
@@ -85,6 +89,27 @@ void TestDailyCopy::saysWhenNoCopyCanBeMade()
     clock.advance(10min);
     QTRY_VERIFY_WITH_TIMEOUT(dailyCopy.problem().isEmpty(), 30'000);
     QVERIFY(StoreCopy(path).madeAt());
+}
+
+/// The user changes nothing, and Vesk may be killed.
+void TestDailyCopy::lostStoreIsWrittenAnewByItself()
+{
+    const QTemporaryDir home;
+    const QString path = home.filePath(u"Vesk/Notes.store"_s);
+    MemoryClock clock;
+    const auto opened = NotesStore::open(path, clock);
+    QVERIFY2(opened.store, qPrintable(opened.error));
+    opened.store->insert(std::make_unique<Note>(clock, u"Water the lemon tree"_s));
+    QVERIFY(opened.store->save());
+    {
+        const StoreWatch watch(*opened.store, clock);
+        QVERIFY(QFile::remove(path));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"deleted"_s));
+        clock.advance(1min);
+        QCOMPARE(readNotes(path).notes.size(), size_t{1});
+    }
+    clock.advance(1min);
+    QCOMPARE(clock.sleeperCount(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestDailyCopy)

@@ -31,7 +31,6 @@ private Q_SLOTS:
     void mayDieWhileItWaitsForARetry();
     void triesOnceMoreAtTheEnd();
     void oneRecordThatIsRefusedHoldsBackNoOther();
-    void saysThatItsFileIsGone();
 
 private:
     /// Makes every insertion of a note with this text fail, for a reason that lies in the file.
@@ -384,23 +383,6 @@ void TestNotesStore::oneRecordThatIsRefusedHoldsBackNoOther()
     m_fixture->clock.advance(10s);
     QVERIFY(!store.hasPendingChanges() && store.problem().isEmpty());
     QCOMPARE(m_fixture->rows(), (QStringList{u"a"_s, u"b"_s, u"c"_s, u"refused"_s}));
-}
-
-void TestNotesStore::saysThatItsFileIsGone()
-{
-    m_fixture->addNote(u"a"_s);
-    QVERIFY(m_fixture->store->save());
-    const QString aside = m_fixture->path() + u".aside"_s;
-    QVERIFY(QFile::rename(m_fixture->path(), aside));
-    QTest::ignoreMessage(QtWarningMsg, "The notes could not be saved: the file was moved");
-    m_fixture->addNote(u"b"_s);
-    QVERIFY(!m_fixture->store->save());
-    QVERIFY2(m_fixture->store->problem().contains(u"moved"_s), qPrintable(m_fixture->store->problem()));
-    QCOMPARE(m_fixture->store->unwrittenTexts(), QStringList{u"b"_s});
-    // Once it is back, all is well.
-    QVERIFY(QFile::rename(aside, m_fixture->path()));
-    QVERIFY(m_fixture->store->save());
-    QCOMPARE(m_fixture->rows(), (QStringList{u"a"_s, u"b"_s}));
 }
 
 QTEST_GUILESS_MAIN(TestNotesStore)

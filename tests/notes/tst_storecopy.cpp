@@ -100,9 +100,10 @@ void TestStoreCopy::holdsWhatIsSavedWhileTheStoreIsOpen()
     QCOMPARE(QFileInfo(m_copy->path()).dir().entryList({u"*copy*"_s}, QDir::Files),
              QStringList{QFileInfo(m_copy->path()).fileName()});
 
-    const auto opened = NotesStore::open(m_copy->path(), m_fixture->clock);
+    auto opened = NotesStore::open(m_copy->path(), m_fixture->clock);
     QVERIFY2(opened.store, qPrintable(opened.error));
     QCOMPARE(opened.store->notes().count(), saved.size() - 1);
+    opened.store.reset();
     // And it is replaced by the next.
     QCOMPARE(m_copy->make(), StoreCopy::Outcome::Made);
 }
