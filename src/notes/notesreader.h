@@ -17,7 +17,7 @@ struct NotesReading
 };
 
 /// Reads what is saved, for a program beside the one that has the store open: neither disturbs the
-/// other. Changes nothing in the file, and makes none.
+/// other. Changes nothing in the file, and needs no space on the disk.
 [[nodiscard]] NotesReading readNotes(const QString &path);
 
 } // namespace vesk

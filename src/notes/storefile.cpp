@@ -116,7 +116,7 @@ bool StoreFile::sync(const QString &path)
     return isSynced;
 }
 
-StoreError StoreFile::obstacle() const
+StoreError StoreFile::obstacle(Access access) const
 {
     const QFileInfo file(m_path);
     if (file.isSymLink())
@@ -130,7 +130,8 @@ StoreError StoreFile::obstacle() const
         // answer here as well.
         if (::faccessat(AT_FDCWD, nativePath().c_str(), R_OK, AT_EACCESS) != 0)
             return {.text = tr("The file “%1” cannot be read (%2).").arg(m_path, qt_error_string(errno))};
-        if (::faccessat(AT_FDCWD, nativePath().c_str(), W_OK, AT_EACCESS) != 0)
+        if (access == Access::ReadAndWrite
+            && ::faccessat(AT_FDCWD, nativePath().c_str(), W_OK, AT_EACCESS) != 0)
             return {.text = tr("The file “%1” cannot be written (%2).").arg(m_path, qt_error_string(errno))};
     }
     if (!isEmpty())
@@ -154,10 +155,8 @@ StoreError StoreFile::obstacle() const
 
 StoreError StoreFile::contentsObstacle() const
 {
-    // An immutable database is read without locks and without regard to the journal.
-    const QByteArray address = QUrl::fromLocalFile(m_path).toEncoded() + "?immutable=1";
     try {
-        SQLite::Database connection(address.constData(), SQLite::OPEN_READONLY | SQLite::OPEN_URI);
+        SQLite::Database connection(immutableAddress(), SQLite::OPEN_READONLY | SQLite::OPEN_URI);
         const int version = schema::version(connection);
         if (QFileInfo(m_path).size() < kSmallestPage)
             return damaged();
@@ -240,6 +239,11 @@ void StoreFile::restrictAccess() const
 std::string StoreFile::nativePath() const
 {
     return QFile::encodeName(m_path).toStdString();
+}
+
+std::string StoreFile::immutableAddress() const
+{
+    return (QUrl::fromLocalFile(m_path).toEncoded() + "?immutable=1").toStdString();
 }
 
 StoreError StoreFile::describe(const StoreTrouble &trouble) const

@@ -41,8 +41,12 @@ public:
     /// when the file is made.
     void makeFolder() const;
 
+    enum class Access {
+        Read,
+        ReadAndWrite,
+    };
     /// Why this file cannot be used, as far as that shows from outside. Changes nothing.
-    [[nodiscard]] StoreError obstacle() const;
+    [[nodiscard]] StoreError obstacle(Access access = Access::ReadAndWrite) const;
     /// Why the contents cannot be used, as far as the main file alone shows. Changes nothing: takes
     /// no lock, makes no file, leaves the journal alone.
     [[nodiscard]] StoreError contentsObstacle() const;
@@ -51,6 +55,8 @@ public:
     [[nodiscard]] bool isEmpty() const;
     /// Whether there are changes that SQLite has not yet moved from the write-ahead log into the file.
     [[nodiscard]] bool hasJournal() const;
+    /// Whether a change may be half done, to be completed or undone when SQLite opens the file.
+    [[nodiscard]] bool isUnsettled() const;
 
     /// Makes an empty store where there is no file or an empty one.
     [[nodiscard]] StoreError create() const;
@@ -64,14 +70,14 @@ public:
     [[nodiscard]] QString folder() const;
     /// For SQLite.
     [[nodiscard]] std::string nativePath() const;
+    /// For SQLite, to read the file without locks and without regard to the journal, and to make no file.
+    [[nodiscard]] std::string immutableAddress() const;
     /// One sentence for what kept the file from being opened.
     [[nodiscard]] StoreError describe(const StoreTrouble &trouble) const;
     [[nodiscard]] StoreError damaged() const;
     [[nodiscard]] StoreError newerVersion(int version) const;
 
 private:
-    /// Whether a change may be half done, to be completed or undone when SQLite opens the file.
-    [[nodiscard]] bool isUnsettled() const;
     /// Makes a complete store at `unfinished`. False, with `errno` set, if the file cannot be made.
     [[nodiscard]] static bool makeUnfinished(const QString &unfinished,
                                              const std::function<void(SQLite::Database &)> &fill);
