@@ -3,6 +3,7 @@
 
 #include "platform/accessibility.h"
 #include "platform/freedesktop/applicationservice.h"
+#include "platform/logging.h"
 
 #include <QDBusConnection>
 #include <QDBusMetaType>
@@ -44,6 +45,7 @@ void RemoteControl::AddNote(const QString &text, const QDBusMessage &message) co
         return;
     }
     const QString problem = m_commands.addNote(trimmed);
+    qCDebug(appLog) << "bus call" << message.member() << "saved:" << problem.isEmpty();
     // The store holds on to it and writes it when the disk lets it.
     if (!problem.isEmpty())
         refuse(message, QDBusError::Failed,
@@ -60,6 +62,7 @@ QList<QVariantMap> RemoteControl::Keys(QStringList &problems) const
 void RemoteControl::carryOut(const std::function<void()> &command, const QDBusMessage &message,
                              const QString &refusal)
 {
+    qCDebug(appLog) << "bus call" << message.member() << "refused:" << !refusal.isEmpty();
     if (!refusal.isEmpty()) {
         refuse(message, QDBusError::Failed, refusal);
         return;

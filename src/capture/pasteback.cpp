@@ -5,6 +5,7 @@
 #include "platform/application.h"
 #include "platform/clock.h"
 #include "platform/eventposter.h"
+#include "platform/logging.h"
 #include "platform/pasteboard.h"
 #include "platform/workspace.h"
 
@@ -62,6 +63,7 @@ QCoro::Task<> PasteBack::pasteWhenAway()
         return !self.isNull() && self->isWanted(paste, isBack);
     };
     const bool isPosted = co_await needs.poster.post(command, target, isStillWanted);
+    qCDebug(captureLog) << "previous window is back:" << isBack << "pasted:" << isPosted;
     if (self.isNull() || isPosted || m_paste != paste)
         co_return;
     const bool isClosed = needs.application.isPreviousWindowClosed();

@@ -4,6 +4,7 @@
 #include "capture/pageaddress.h"
 #include "notes/markup.h"
 #include "platform/accessibility.h"
+#include "platform/logging.h"
 #include "platform/workspace.h"
 
 #include <QCoreApplication>
@@ -89,8 +90,10 @@ QCoro::Task<SelectionReader::Reading> SelectionReader::readSelection()
     if (self.isNull() || !m_needs.accessibility.isProcessTrusted())
         co_return Reading();
     std::optional<QString> text = co_await readSelected(target, selected);
+    const bool isSelected = text.has_value();
     if (!text && !self.isNull())
         text = co_await m_needs.watcher.recentCopy(kRecentCopyAge);
+    qCDebug(captureLog) << "selection read:" << isSelected << "recent copy:" << (text && !isSelected);
     if (text)
         co_return Reading{.text = text};
     if (!self.isNull() && m_wasPasteboardInTheWay)

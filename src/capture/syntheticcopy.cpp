@@ -4,6 +4,7 @@
 #include "notes/markup.h"
 #include "platform/clock.h"
 #include "platform/eventtap.h"
+#include "platform/logging.h"
 #include "platform/workspace.h"
 
 #include <QCoreApplication>
@@ -55,6 +56,7 @@ QCoro::Task<std::optional<QString>> SyntheticCopy::copySelection(EventPoster::Ta
     const std::optional<QString> copied = co_await copyAndRestore(target);
     if (!self.isNull())
         m_isCopying = false;
+    qCDebug(captureLog) << "synthetic copy gave a text:" << copied.has_value();
     if (markup::trimmed(copied.value_or(QString())).isEmpty())
         co_return std::nullopt;
     co_return copied;

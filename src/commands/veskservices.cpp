@@ -8,6 +8,7 @@
 #include "panel/panelwindow.h"
 #include "platform/accessibility.h"
 #include "platform/eventtap.h"
+#include "platform/logging.h"
 #include "platform/sounds.h"
 #include "platform/workspace.h"
 #include "quicknote/notice.h"
@@ -116,6 +117,7 @@ void VeskServices::perform(quint32 id)
 
 void VeskServices::performNow(quint32 id)
 {
+    qCDebug(commandsLog) << "command" << id;
     switch (id) {
     case hotkeytable::kQuickNote.id:
         capture(Target::NewNote);
@@ -153,6 +155,7 @@ void VeskServices::holdBack(quint32 id)
 {
     if (m_heldBack.contains(id))
         return;
+    qCDebug(commandsLog) << "command" << id << "waits for the reading under way";
     m_heldBack.append(id);
     if (m_heldBack.size() == 1)
         stopHoldingLater();

@@ -2,6 +2,7 @@
 #include "input/globalkeys.h"
 
 #include "input/keysettings.h"
+#include "platform/logging.h"
 
 #include <algorithm>
 
@@ -75,8 +76,12 @@ bool GlobalKeys::apply()
             m_claims.at(i)->unregisterKey();
         m_keys.at(i).combination = settings.combinations.at(i);
     }
-    for (size_t i = 0; i < m_keys.size(); ++i)
-        m_keys.at(i).state = claim(i);
+    for (size_t i = 0; i < m_keys.size(); ++i) {
+        const State state = claim(i);
+        if (state != m_keys.at(i).state)
+            qCDebug(inputLog) << m_keys.at(i).row.command << "works:" << (state == State::Works);
+        m_keys.at(i).state = state;
+    }
     const bool isAnyTaken = std::ranges::find(m_keys, State::Taken, &Key::state) != m_keys.end();
     m_holders = isAnyTaken ? m_hotKeys.otherHolders() : QStringList();
     if (m_problems != settings.problems) {

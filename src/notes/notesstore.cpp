@@ -4,6 +4,7 @@
 #include "notes/database.h"
 #include "notes/rescuedstores.h"
 #include "notes/saveproblem.h"
+#include "platform/logging.h"
 
 #include <QDebug>
 #include <QStandardPaths>
@@ -37,6 +38,8 @@ NotesStore::OpenResult NotesStore::open(const QString &path, Clock &clock, Use u
     if (!opened.database)
         return {.store = nullptr, .error = opened.error.text, .fault = opened.error.fault};
     std::unique_ptr<NotesStore> store(new NotesStore(std::move(opened.database), clock));
+    qCDebug(notesLog) << "store opened:" << opened.notes.size() << "notes," << opened.prompts.size()
+                      << "prompts";
     store->load(std::move(opened.notes), std::move(opened.prompts));
     if (const QString rescued = rescuedstores::latest(path); !rescued.isEmpty())
         store->m_incident =
@@ -189,6 +192,8 @@ bool NotesStore::write()
             changes.emplace_back(Database::Removal{.kind = change.kind, .id = change.id});
     }
     const Database::Written written = m_database->write(changes);
+    qCDebug(notesLog) << changes.size() << "changes committed:" << written.isCommitted
+                      << "refused:" << written.refused.size();
     bool isWritten = false;
     if (written.isCommitted) {
         QSet<quint64> refused;

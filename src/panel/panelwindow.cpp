@@ -6,6 +6,7 @@
 #include "panel/panelplacement.h"
 #include "platform/appearance.h"
 #include "platform/application.h"
+#include "platform/logging.h"
 #include "platform/screens.h"
 #include "platform/windows.h"
 
@@ -115,6 +116,7 @@ void PanelWindow::prepareAhead()
 
 void PanelWindow::showPanel()
 {
+    qCDebug(panelLog) << "panel shown";
     // First of all: what the user types from here on is meant for the panel.
     m_application.holdKeys();
     position(m_screens.screenUnderMouse());
@@ -203,6 +205,7 @@ std::optional<Screen> PanelWindow::ownScreen() const
 
 void PanelWindow::hideWindow()
 {
+    qCDebug(panelLog) << "panel hidden";
     m_fadeIn.stop();
     dropEdge();
     m_view.hide();

@@ -2,6 +2,7 @@
 #include "platform/freedesktop/atspi.h"
 
 #include "platform/freedesktop/atspiterminal.h"
+#include "platform/logging.h"
 
 #include <QCoroTimer>
 
@@ -96,6 +97,8 @@ QCoro::Task<std::optional<AccessibleElement>> AtSpi::focusedElement(AtSpiQuestio
         co_await applicationsOf(question, processIdentifier);
     if (!applications)
         co_return std::nullopt;
+    qCDebug(freedesktopLog) << "process" << processIdentifier << "roots on the accessibility bus"
+                            << applications->size();
     if (applications->isEmpty())
         co_return applicationItself;
     std::optional<AtSpiReference> best;

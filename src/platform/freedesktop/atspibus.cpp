@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/atspibus.h"
 
+#include "platform/logging.h"
+
 #include <QCoroDBusPendingCall>
 
 #include <QDBusPendingCall>
@@ -139,6 +141,7 @@ QCoro::Task<> AtSpiBus::connectToBus()
             m_address = address;
             m_failures = 0;
             listen(bus);
+            qCDebug(freedesktopLog) << "connected to the accessibility bus";
             Q_EMIT connected();
             co_return;
         }
@@ -164,6 +167,7 @@ void AtSpiBus::leaveBus()
     m_bus.reset();
     m_address.clear();
     QDBusConnection::disconnectFromBus(kConnectionName);
+    qCDebug(freedesktopLog) << "left the accessibility bus";
     Q_EMIT disconnected();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/selectiontransfer.h"
 
+#include "platform/logging.h"
 #include "platform/x11/x11connection.h"
 
 #include <QCoroSignal>
@@ -186,6 +187,8 @@ void SelectionTransfer::finish(Outcome outcome)
         return;
     m_isFinished = true;
     m_data.outcome = outcome;
+    qCDebug(x11Log) << "selection transfer complete:" << (outcome == Outcome::Complete) << "bytes"
+                    << m_data.bytes.size();
     m_stall.stop();
     m_total.stop();
     Q_EMIT finished();

@@ -2,6 +2,7 @@
 #include "platform/x11/x11accessibility.h"
 
 #include "platform/freedesktop/consent.h"
+#include "platform/logging.h"
 #include "platform/x11/keytaker.h"
 #include "platform/x11/rawinput.h"
 #include "platform/x11/x11connection.h"
@@ -184,6 +185,9 @@ QCoro::Task<SelectedText> X11Accessibility::selectedText()
     if (self.isNull() || !isProcessTrusted())
         co_return SelectedText();
     found.isSilent = isSilent;
+    qCDebug(x11Log) << "selection found:" << (found.finding == Finding::Selected) << "length"
+                    << found.text.size() << "application on the bus:" << isOnBus
+                    << "PRIMARY fresh:" << isClaimed << "silent:" << isSilent;
     co_return found;
 }
 

@@ -2,6 +2,7 @@
 #include "platform/x11/x11application.h"
 
 #include "platform/freedesktop/applicationservice.h"
+#include "platform/logging.h"
 #include "platform/x11/ownwindows.h"
 #include "platform/x11/x11connection.h"
 #include "platform/x11/x11workspace.h"
@@ -253,6 +254,7 @@ void X11Application::setActive(bool isActive)
     if (m_isActive == isActive)
         return;
     m_isActive = isActive;
+    qCDebug(x11Log) << "keyboard in one of our windows:" << isActive;
     if (!isActive)
         Q_EMIT didResignActive();
 }

@@ -3,6 +3,7 @@
 
 #include "platform/accessibility.h"
 #include "platform/clock.h"
+#include "platform/logging.h"
 #include "platform/x11/keystates.h"
 #include "platform/x11/keytaker.h"
 #include "platform/x11/rawinput.h"
@@ -84,8 +85,11 @@ QCoro::Task<bool> X11EventPoster::post(Command command, Target target, std::func
         if (self.isNull() || !isWanted())
             co_return false;
         const Attempt attempt = tryToPost(keysyms(role), window, lastPress);
-        if (attempt != Attempt::Early)
-            co_return attempt == Attempt::Posted;
+        if (attempt == Attempt::Early)
+            continue;
+        const bool isPosted = attempt == Attempt::Posted;
+        qCDebug(x11Log) << (command == Command::Copy ? "copy" : "paste") << "keys posted:" << isPosted;
+        co_return isPosted;
     }
     co_return false;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/x11hotkeys.h"
 
+#include "platform/logging.h"
 #include "platform/x11/grabholders.h"
 #include "platform/x11/keystates.h"
 #include "platform/x11/rawinput.h"
@@ -194,6 +195,7 @@ void X11HotKeys::onPress(const xcb_key_press_event_t &press)
         const quint32 id = each.key();
         m_held = pressedGrab;
         m_connection.setUserTime(press.time);
+        qCDebug(x11Log) << "hot key" << id << "pressed at server time" << press.time;
         Q_EMIT pressed(id);
         return;
     }
