@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: MIT
+#include "pasteboardprogram.h"
 #include "selectionowner.h"
 #include "x11test.h"
 
 #include "platform/memory/memorypasteboard.h"
 #include "platform/x11/selectioncontent.h"
-#include "platform/x11/selectiontransfer.h"
-#include "platform/x11/x11pasteboard.h"
 #include "virtualdesktop/clipboardholder.h"
 
 #include <QCoroTask>
 
-#include <QEventLoop>
 #include <QRandomGenerator>
 #include <QSignalSpy>
-#include <QTimer>
 
-#include <array>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
@@ -23,26 +19,6 @@ using namespace std::chrono_literals;
 using namespace vesk;
 
 namespace {
-
-/// One program's view of the X server's pasteboard.
-struct Program
-{
-    std::unique_ptr<X11Connection> connection = X11Connection::open().connection;
-    X11Pasteboard pasteboard{*connection};
-
-    /// The server has done all that was asked of it when this returns.
-    void sync() const { std::ignore = connection->property32(connection->root(), XCB_ATOM_WM_NAME); }
-
-    /// What the server has to tell has been heard when this returns.
-    void catchUp() const
-    {
-        sync();
-        // What came along with a reply is read when the event loop is about to sleep.
-        QEventLoop loop;
-        QTimer::singleShot(1, &loop, &QEventLoop::quit);
-        loop.exec();
-    }
-};
 
 /// One implementation, and another program's access to the same pasteboard.
 class Bench
@@ -84,11 +60,6 @@ QByteArray randomBytes(qsizetype size)
     QRandomGenerator random(1);
     random.generate(bytes.begin(), bytes.end());
     return bytes;
-}
-
-PasteboardData text(const QByteArray &bytes)
-{
-    return {.type = MemoryPasteboard::kTextType, .data = bytes};
 }
 
 QList<PasteboardItem> only(const PasteboardItem &item)
@@ -133,12 +104,6 @@ private Q_SLOTS:
     void everythingOrNothingIsKept();
     void formThatIsTooLongIsNotCut();
     void takenOverByAClipboardManager();
-    void lostSelectionIsNotServed();
-    void readerThatNamesTheRootLeavesItHeard();
-    void tooManyFormsAtOnceAreRefused();
-    void severalFormsAreGivenAtOnce();
-    void formsOfText_data();
-    void formsOfText();
 
 private:
     static void benches();
@@ -406,140 +371,6 @@ void TestPasteboard::takenOverByAClipboardManager()
     manager.pasteboard.setString(u"theirs again"_s);
     manager.catchUp();
     QCOMPARE(claim(), Claim::AfterLoss);
-}
-
-void TestPasteboard::lostSelectionIsNotServed()
-{
-    Program own;
-    SelectionServer server(*own.connection, own.connection->atom("CLIPBOARD"));
-    server.offer({text("ours")});
-    own.catchUp();
-    QVERIFY(server.isOwner());
-    Program other;
-    other.pasteboard.setString(u"theirs"_s);
-    other.catchUp();
-    QTRY_VERIFY(!server.isOwner());
-    // News of the loss of an offer that has been followed by another is no news.
-    server.offer({text("ours")});
-    other.pasteboard.setString(u"theirs"_s);
-    other.sync();
-    server.offer({text("ours again")});
-    own.catchUp();
-    QVERIFY(server.isOwner());
-    QVERIFY(QCoro::waitFor(other.pasteboard.string()) == std::optional(u"ours again"_s));
-}
-
-/// Vesk hears of the active window by the root's properties.
-void TestPasteboard::readerThatNamesTheRootLeavesItHeard()
-{
-    Program vesk;
-    const Program other;
-    const X11Connection &reader = *other.connection;
-    const xcb_atom_t property = reader.atom("PIECE");
-    vesk.pasteboard.setString(QString(1'000'000, u'x'));
-    vesk.catchUp();
-    xcb_convert_selection(reader.xcb(), reader.root(), reader.atom("CLIPBOARD"), reader.atom("UTF8_STRING"),
-                          property, XCB_CURRENT_TIME);
-    other.sync();
-    // An empty piece is the last one.
-    QTRY_COMPARE(reader.property(reader.root(), property).size(), 4);
-    bool isLast = false;
-    while (!isLast) {
-        xcb_delete_property(reader.xcb(), reader.root(), property);
-        other.sync();
-        vesk.catchUp();
-        const auto cookie = xcb_get_property(reader.xcb(), 0, reader.root(), property, XCB_ATOM_ANY, 0, 0);
-        const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(reader.xcb(), cookie, nullptr));
-        QVERIFY(reply && reply->type == reader.atom("UTF8_STRING"));
-        isLast = reply->bytes_after == 0;
-    }
-    vesk.catchUp();
-    vesk.catchUp();
-    bool isHeard = false;
-    connect(vesk.connection.get(), &X11Connection::eventReceived, this,
-            [&](const xcb_generic_event_t *event) {
-                isHeard |= (event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY;
-            });
-    xcb_delete_property(reader.xcb(), reader.root(), property);
-    other.sync();
-    vesk.catchUp();
-    QVERIFY(isHeard);
-}
-
-void TestPasteboard::tooManyFormsAtOnceAreRefused()
-{
-    Program vesk;
-    const Program other;
-    vesk.pasteboard.setString(u"x"_s);
-    vesk.catchUp();
-    const X11Connection &reader = *other.connection;
-    const QList<xcb_atom_t> pairs(2 * (SelectionServer::kMaximumPairs + 1), reader.atom("UTF8_STRING"));
-    xcb_change_property(reader.xcb(), XCB_PROP_MODE_REPLACE, reader.window(), reader.atom("PAIRS"),
-                        reader.atom("ATOM_PAIR"), 32, static_cast<uint32_t>(pairs.size()), pairs.data());
-    std::optional<xcb_atom_t> answer;
-    connect(&reader, &X11Connection::eventReceived, this, [&](const xcb_generic_event_t *event) {
-        if ((event->response_type & 0x7f) == XCB_SELECTION_NOTIFY)
-            answer = reinterpret_cast<const xcb_selection_notify_event_t *>(event)->property;
-    });
-    xcb_convert_selection(reader.xcb(), reader.window(), reader.atom("CLIPBOARD"), reader.atom("MULTIPLE"),
-                          reader.atom("PAIRS"), XCB_CURRENT_TIME);
-    other.sync();
-    QTRY_VERIFY(answer);
-    QCOMPARE(*answer, xcb_atom_t{XCB_ATOM_NONE});
-}
-
-void TestPasteboard::severalFormsAreGivenAtOnce()
-{
-    Program vesk;
-    const Program other;
-    vesk.pasteboard.setString(u"ж"_s);
-    const X11Connection &reader = *other.connection;
-    const std::array<xcb_atom_t, 4> pairs{reader.atom("UTF8_STRING"), reader.atom("FIRST"),
-                                          reader.atom("image/png"), reader.atom("SECOND")};
-    xcb_change_property(reader.xcb(), XCB_PROP_MODE_REPLACE, reader.window(), reader.atom("PAIRS"),
-                        reader.atom("ATOM_PAIR"), 32, pairs.size(), pairs.data());
-    xcb_convert_selection(reader.xcb(), reader.window(), reader.atom("CLIPBOARD"), reader.atom("MULTIPLE"),
-                          reader.atom("PAIRS"), XCB_CURRENT_TIME);
-    other.sync();
-    QTRY_COMPARE(reader.property(reader.window(), reader.atom("FIRST")), "\xd0\xb6"_qba);
-    const std::array<xcb_atom_t, 4> answer{pairs[0], pairs[1], XCB_ATOM_NONE, pairs[3]};
-    const QByteArray expected(reinterpret_cast<const char *>(answer.data()), sizeof answer);
-    QTRY_COMPARE(reader.property(reader.window(), reader.atom("PAIRS")), expected);
-}
-
-void TestPasteboard::formsOfText_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QByteArray>("target");
-    QTest::addColumn<QByteArray>("type");
-    QTest::addColumn<QByteArray>("bytes");
-    const auto row = [](const char *name, const QString &text, const QByteArray &target,
-                        const QByteArray &type,
-                        const QByteArray &bytes) { QTest::newRow(name) << text << target << type << bytes; };
-    row("UTF-8", u"ж"_s, "UTF8_STRING", "UTF8_STRING", "\xd0\xb6");
-    row("plain", u"ж"_s, "text/plain", "text/plain", "\xd0\xb6");
-    row("any", u"ж"_s, "TEXT", "UTF8_STRING", "\xd0\xb6");
-    row("Latin", u"ä"_s, "STRING", "STRING", "\xe4");
-    row("not Latin", u"ж"_s, "STRING", {}, {});
-}
-
-void TestPasteboard::formsOfText()
-{
-    QFETCH(const QString, text);
-    QFETCH(const QByteArray, target);
-    QFETCH(const QByteArray, type);
-    QFETCH(const QByteArray, bytes);
-    Program vesk;
-    Program other;
-    vesk.pasteboard.setString(text);
-    vesk.catchUp();
-    const SelectionTransfer::Data data = QCoro::waitFor(
-        SelectionTransfer::read(*other.connection, other.connection->atom("CLIPBOARD"),
-                                other.connection->atom(target.constData()), qsizetype{1} << 16, 10s));
-    QCOMPARE(data.outcome == SelectionTransfer::Outcome::Complete, !type.isEmpty());
-    if (!type.isEmpty())
-        QCOMPARE(data.type, other.connection->atom(type.constData()));
-    QCOMPARE(data.bytes, bytes);
 }
 
 DESKTOP_TEST_MAIN(TestPasteboard)
