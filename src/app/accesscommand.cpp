@@ -34,7 +34,8 @@ int runAccessCommand(const QStringList &arguments)
     }
     consent.setGiven(action == "allow"_L1);
     if (!defaults.isWritable()) {
-        errors << QCoreApplication::translate("vesk::AccessCommand", "The choice could not be written to %1.")
+        errors << QCoreApplication::translate("vesk::AccessCommand",
+                                              "The setting could not be written to %1.")
                       .arg(IniDefaults::standardPath())
                << '\n';
         return 1;

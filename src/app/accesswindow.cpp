@@ -9,17 +9,18 @@ namespace {
 
 MessageWindow::Content question()
 {
-    return {.heading = AccessWindow::tr("Let Vesk read what you select?"),
-            .message = AccessWindow::tr(
-                "When you press one of Vesk’s keys, Vesk reads the text that is selected, or was copied a "
-                "moment before, and where it is: the application, its window’s title and, in a browser, the "
-                "page’s address. At other times it only notices when a key or button is pressed (not which "
-                "one), when something is selected, and whether a password field has the keyboard, to tell "
-                "what is selected now from what was and to leave passwords alone. It sends nothing "
-                "anywhere.\n\n"
-                "Applications that are open already may have to be started again before Vesk can read them."),
-            .acceptLabel = AccessWindow::tr("Allow"),
-            .rejectLabel = AccessWindow::tr("Not Now")};
+    return {
+        .heading = AccessWindow::tr("Let Vesk read what you select?"),
+        .message = AccessWindow::tr(
+            "When you press one of Vesk’s keys, Vesk reads the text that is selected, or was copied a "
+            "moment before, and where it is: the application, its window’s title and, in a browser, the "
+            "page’s address. At other times it only notices when a key or button is pressed (not which "
+            "one), when something is selected, and whether a password field has the keyboard. It "
+            "needs this to tell a current selection from an old one and to leave passwords alone. It sends "
+            "nothing anywhere.\n\n"
+            "You may have to restart applications that are already open before Vesk can read them."),
+        .acceptLabel = AccessWindow::tr("Allow"),
+        .rejectLabel = AccessWindow::tr("Not Now")};
 }
 
 } // namespace

@@ -59,9 +59,9 @@ MessageWindow::Content AppUpdater::describe(const Updates::Result &result, const
                 .acceptLabel = tr("Open Updates"),
                 .rejectLabel = tr("Later")};
     case Updates::Outcome::NotInstalled:
-        return {.heading = tr("Your system does not update this Vesk"),
+        return {.heading = tr("Your system does not update this copy of Vesk"),
                 .message =
-                    tr("It was not installed as a package. A newer version is where this one came from."),
+                    tr("It was not installed as a package. Look for a newer version where you got this one."),
                 .acceptLabel = close,
                 .rejectLabel = {}};
     case Updates::Outcome::Failed:

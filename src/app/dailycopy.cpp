@@ -86,13 +86,14 @@ QString DailyCopy::describe(StoreCopy::Outcome outcome)
 {
     switch (outcome) {
     case StoreCopy::Outcome::StoreDamaged:
-        return tr("The notes file is damaged, so no copy of it was made. Quit and start Vesk for advice.");
+        return tr(
+            "The notes file is damaged, so Vesk did not copy it. Quit Vesk and start it again for advice.");
     case StoreCopy::Outcome::DiskTooFull:
         return tr("Vesk cannot keep a copy of your notes: the disk is too full.");
     case StoreCopy::Outcome::NotAllowed:
-        return tr("Vesk cannot keep a copy of your notes: it may not write into their folder.");
+        return tr("Vesk cannot keep a copy of your notes: it has no permission to write to their folder.");
     default:
-        return tr("Vesk cannot keep a copy of your notes: making it failed.");
+        return tr("Vesk cannot keep a copy of your notes: copying them failed.");
     }
 }
 

@@ -66,7 +66,7 @@ void showFatal(vesk::Desktop &desktop, vesk::ApplicationService &service,
     say(content);
     // Whoever calls meanwhile gets an answer.
     vesk::RemoteControl remoteControl(service, {.quit = [] { QCoreApplication::exit(0); }});
-    remoteControl.refuseCommands(Texts::tr("Vesk could not open the notes store and is about to end."));
+    remoteControl.refuseCommands(Texts::tr("Vesk could not open the notes store and is about to quit."));
     QQmlEngine engine;
     vesk::lendToEngine(engine, desktop.appearance, desktop.workspace, desktop.windows);
     vesk::lendToEditors(engine, desktop.pasteboard, &desktop.primary, &desktop.dragged);
@@ -117,10 +117,10 @@ int runVesk(bool isInBackground)
     case vesk::ApplicationService::Claim::Forwarded:
         return 0;
     case vesk::ApplicationService::Claim::NoAnswer:
-        say(Texts::tr("Vesk is running already, and does not answer."));
+        say(Texts::tr("Vesk is already running but does not respond."));
         return 1;
     case vesk::ApplicationService::Claim::NoBus:
-        say(Texts::tr("Vesk needs the session's message bus, and there is none."));
+        say(Texts::tr("Vesk needs a session bus, and there is none."));
         return 1;
     }
     vesk::X11Connection::OpenResult x11 = vesk::X11Connection::open();
@@ -172,11 +172,11 @@ int refuseWithoutServer(int argc, char *argv[])
     const QString message =
         isWayland
             ? Texts::tr(
-                "Vesk needs an X11 desktop, and this is a Wayland desktop without an X server. Log in to a "
-                "session of X11, or use the commands that need none: vesk add and vesk list.")
+                "Vesk needs an X11 desktop, and this is a Wayland desktop without an X server. Log in to an "
+                "X11 session, or use the commands that work without one: vesk add and vesk list.")
             : Texts::tr(
                   "Vesk needs an X11 desktop, and there is no X server at \"%1\". The commands vesk add and "
-                  "vesk list need none.")
+                  "vesk list work without one.")
                   .arg(qEnvironmentVariable("DISPLAY"));
     say(message);
     if (isWayland)

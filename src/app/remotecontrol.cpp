@@ -49,7 +49,7 @@ void RemoteControl::AddNote(const QString &text, const QDBusMessage &message) co
     // The store holds on to it and writes it when the disk lets it.
     if (!problem.isEmpty())
         refuse(message, QDBusError::Failed,
-               tr("The note is not on the disk yet; do not add it again. %1").arg(problem));
+               tr("The note was added but is not on the disk yet. Do not add it again. %1").arg(problem));
 }
 
 QList<QVariantMap> RemoteControl::Keys(QStringList &problems) const
@@ -68,7 +68,7 @@ void RemoteControl::carryOut(const std::function<void()> &command, const QDBusMe
         return;
     }
     if (!command) {
-        refuse(message, QDBusError::NotSupported, tr("This Vesk cannot do that."));
+        refuse(message, QDBusError::NotSupported, tr("This Vesk does not support that command."));
         return;
     }
     message.setDelayedReply(true);

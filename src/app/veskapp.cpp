@@ -129,7 +129,7 @@ VeskApp::VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, Applicat
 VeskApp::~VeskApp()
 {
     if (m_remoteControl)
-        m_remoteControl->refuseCommands(tr("Vesk is ending."));
+        m_remoteControl->refuseCommands(tr("Vesk is quitting."));
 }
 
 void VeskApp::offerCommands(Desktop &desktop, NotesStore &store, ApplicationService &service)

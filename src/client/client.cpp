@@ -36,13 +36,12 @@ constexpr std::chrono::milliseconds kTurnDeadline = 30s;
 
 QString noBus()
 {
-    return Client::tr("Vesk needs the session's message bus, and there is none: run this in your desktop's "
-                      "session.");
+    return Client::tr("There is no session bus. Run this command in your desktop session.");
 }
 
 QString tooLong()
 {
-    return Client::tr("The text is longer than the %1 MB that a note may have.").arg(kMaximumTextBytes >> 20);
+    return Client::tr("The text is too long: a note can have up to %1 MB.").arg(kMaximumTextBytes >> 20);
 }
 
 int outcome(const Remote::Answer &answer)
@@ -58,7 +57,7 @@ int print(const QByteArray &text)
     const bool isWritten =
         output.open(stdout, QIODevice::WriteOnly) && output.write(text) == text.size() && output.flush();
     if (!isWritten)
-        sayError(Client::tr("Standard output takes no more: %1.").arg(output.errorString()));
+        sayError(Client::tr("Could not write to standard output: %1.").arg(output.errorString()));
     return isWritten ? kDone : kFailed;
 }
 
@@ -163,7 +162,7 @@ int Client::keys(const CommandLine &command)
                                       answer.values.value(1).toStringList());
     } else {
         report = KeysReport::withoutVesk(KeysFile::read(KeysFile::standardPath()));
-        sayError(tr("Vesk is not running, so none of these works now."));
+        sayError(tr("Vesk is not running, so none of these keys work now."));
     }
     for (const QString &problem : std::as_const(report.problems))
         sayError(problem);
@@ -174,7 +173,7 @@ int Client::addInput()
 {
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly)) {
-        sayError(tr("Standard input cannot be read."));
+        sayError(tr("Could not read standard input."));
         return kFailed;
     }
     // A pipe gives what it has at the moment, so it is read until it gives nothing.
@@ -219,7 +218,7 @@ int Client::add(const QString &text)
         if (m_remote.owner() == Remote::Owner::Vesk)
             return outcome(m_remote.call(u"AddNote"_s, {trimmed}));
     }
-    sayError(tr("The note was not kept: other commands are writing to the notes all the time."));
+    sayError(tr("The note was not saved, because other commands kept writing to the notes."));
     return kFailed;
 }
 

@@ -61,33 +61,32 @@ struct Usage
 constexpr std::array kCommands{
     Usage{"toggle", QT_TRANSLATE_NOOP("vesk::CommandLine", "show or hide the panel")},
     Usage{"write", QT_TRANSLATE_NOOP("vesk::CommandLine", "show the panel to write a note")},
-    Usage{"capture", QT_TRANSLATE_NOOP("vesk::CommandLine", "keep the selected text as a note")},
+    Usage{"capture", QT_TRANSLATE_NOOP("vesk::CommandLine", "save the selected text as a note")},
     Usage{"capture --append", QT_TRANSLATE_NOOP("vesk::CommandLine", "add it to the note changed last")},
     Usage{"capture --checklist",
-          QT_TRANSLATE_NOOP("vesk::CommandLine", "keep each selected line as a checkbox")},
+          QT_TRANSLATE_NOOP("vesk::CommandLine", "save each selected line as a checkbox")},
     Usage{"add-to-checklist",
           QT_TRANSLATE_NOOP("vesk::CommandLine", "add the selected lines to the checklist changed last")},
-    Usage{"save-prompt", QT_TRANSLATE_NOOP("vesk::CommandLine", "keep the selected text as a prompt")},
-    Usage{"quick-note [--checklist]",
-          QT_TRANSLATE_NOOP("vesk::CommandLine", "open the box for a quick note")},
-    Usage{"quit", QT_TRANSLATE_NOOP("vesk::CommandLine", "end Vesk")},
+    Usage{"save-prompt", QT_TRANSLATE_NOOP("vesk::CommandLine", "save the selected text as a prompt")},
+    Usage{"quick-note [--checklist]", QT_TRANSLATE_NOOP("vesk::CommandLine", "open the quick-note box")},
+    Usage{"quit", QT_TRANSLATE_NOOP("vesk::CommandLine", "quit Vesk")},
 };
 
 constexpr std::array kOwnCommands{
-    Usage{"add TEXT", QT_TRANSLATE_NOOP("vesk::CommandLine",
-                                        "keep TEXT as a note; \"vesk add -\" takes it from standard input")},
+    Usage{"add TEXT",
+          QT_TRANSLATE_NOOP("vesk::CommandLine", "save TEXT as a note; \"vesk add -\" reads standard input")},
     Usage{"list [--json]", QT_TRANSLATE_NOOP("vesk::CommandLine", "print the notes, newest first")},
     Usage{"keys [--json]",
-          QT_TRANSLATE_NOOP("vesk::CommandLine", "print the keys that work everywhere, and whether they do")},
+          QT_TRANSLATE_NOOP("vesk::CommandLine", "print the global keys and whether they work")},
     Usage{"access allow|deny|status",
-          QT_TRANSLATE_NOOP("vesk::CommandLine",
-                            "whether Vesk may read what is selected in other applications")},
+          QT_TRANSLATE_NOOP("vesk::CommandLine", "allow or forbid Vesk to read selected text")},
 };
 
 constexpr std::array kOptions{
     Usage{"--background", QT_TRANSLATE_NOOP("vesk::CommandLine", "start without showing the panel")},
-    Usage{"--gpu", QT_TRANSLATE_NOOP("vesk::CommandLine", "draw the windows by the GPU (only at the start)")},
-    Usage{"-h, --help", QT_TRANSLATE_NOOP("vesk::CommandLine", "print this")},
+    Usage{"--gpu",
+          QT_TRANSLATE_NOOP("vesk::CommandLine", "draw windows with the GPU (only when Vesk starts)")},
+    Usage{"-h, --help", QT_TRANSLATE_NOOP("vesk::CommandLine", "print this help")},
     Usage{"-v, --version", QT_TRANSLATE_NOOP("vesk::CommandLine", "print the version")},
 };
 
@@ -119,7 +118,7 @@ ParsedCommandLine parseStart(const QStringList &words)
         if (word == "--background"_L1)
             command.isInBackground = true;
         else if (word != "--gpu"_L1)
-            return wrong(Texts::tr("There is no option %1.").arg(word));
+            return wrong(Texts::tr("Unknown option: %1").arg(word));
     }
     command.arguments = words;
     return right(command);
@@ -128,9 +127,9 @@ ParsedCommandLine parseStart(const QStringList &words)
 ParsedCommandLine parseAdd(const QStringList &words)
 {
     if (words.isEmpty())
-        return wrong(Texts::tr("What is to be added? Give the text, or - to take it from standard input."));
+        return wrong(Texts::tr("add: The text is missing. Give a text, or - to read standard input."));
     if (words.size() > 1)
-        return wrong(Texts::tr("Put the text into quotes, so that it is one argument."));
+        return wrong(Texts::tr("add: Too many arguments. Put the text in quotes."));
     if (words.first() == "-"_L1)
         return right({.kind = Kind::AddInput});
     return right({.kind = Kind::Add, .text = words.first()});
@@ -140,14 +139,14 @@ ParsedCommandLine parseForm(const QString &word, const QStringList &options)
 {
     const auto isNamed = [&word](const Form &form) { return word == form.word; };
     if (std::ranges::none_of(kForms, isNamed))
-        return wrong(Texts::tr("There is no command %1.").arg(word));
+        return wrong(Texts::tr("Unknown command: %1").arg(word));
     if (options.size() > 1)
-        return wrong(Texts::tr("%1 takes one option at most.").arg(word));
+        return wrong(Texts::tr("%1: Only one option is allowed.").arg(word));
     const QString option = options.value(0);
     const auto isMeant = [&](const Form &form) { return isNamed(form) && option == form.option; };
     const auto *const form = std::ranges::find_if(kForms, isMeant);
     if (form == kForms.end())
-        return wrong(Texts::tr("%1 does not know %2.").arg(word, option));
+        return wrong(Texts::tr("%1: Unknown option %2").arg(word, option));
     return right({.kind = form->kind, .method = form->method, .isJson = option == "--json"_L1});
 }
 
@@ -177,15 +176,15 @@ ParsedCommandLine parseCommandLine(const QStringList &words)
 
 QString commandLineHelp()
 {
-    return Texts::tr("Usage: vesk [command]\n\nKeeps what you select, anywhere. Without a command: starts "
-                     "Vesk, or shows the panel of the Vesk that\nruns.")
+    return Texts::tr("Usage: vesk [command]\n\nSaves what you select in any application. Without a command, "
+                     "starts Vesk, or shows its\npanel if it is already running.")
            + u"\n\n"_s
            + section(Texts::tr("Commands for the running Vesk, which is started in the background if "
-                               "none runs:"),
+                               "necessary:"),
                      kCommands)
-           + section(Texts::tr("Commands that need no running Vesk:"), kOwnCommands)
+           + section(Texts::tr("Commands that work without a running Vesk:"), kOwnCommands)
            + section(Texts::tr("Options:"), kOptions)
-           + Texts::tr("Exit status: 0 done, 1 failed (standard error says why), 2 wrong use.") + u'\n';
+           + Texts::tr("Exit status: 0 success, 1 failure (standard error says why), 2 wrong usage.") + u'\n';
 }
 
 } // namespace vesk

@@ -114,7 +114,7 @@ Remote::Answer Remote::start(const QString &program)
     // a pipe that nobody reads would end the program at its first word.
     QTemporaryFile words(QDir::tempPath() + u"/vesk-start-XXXXXX"_s);
     if (!words.open())
-        return failed(tr("No temporary file could be made in %1.").arg(QDir::tempPath()));
+        return failed(tr("Could not create a temporary file in %1.").arg(QDir::tempPath()));
     QProcess process;
     process.setProgram(program);
     process.setArguments({u"--background"_s});
@@ -131,11 +131,11 @@ Remote::Answer Remote::start(const QString &program)
             return done();
         if (hasEnded(pid)) {
             const QString reason = contentsOf(words.fileName());
-            return failed(reason.isEmpty() ? tr("Vesk ended as soon as it was started.") : reason);
+            return failed(reason.isEmpty() ? tr("Vesk quit as soon as it was started.") : reason);
         }
         pause();
     }
-    return failed(tr("Vesk was started, and does not answer yet."));
+    return failed(tr("Vesk was started but does not respond yet."));
 }
 
 void Remote::pause()
@@ -155,7 +155,7 @@ Remote::Answer Remote::waitForEnd()
         if (!m_bus.interface()->isServiceRegistered(kService))
             return done();
     }
-    return failed(tr("Vesk was told to quit, and has not ended yet."));
+    return failed(tr("Vesk was told to quit but is still running."));
 }
 
 Remote::Answer Remote::send(const QString &interface, const QString &method, const QVariantList &arguments)
@@ -169,11 +169,11 @@ Remote::Answer Remote::send(const QString &interface, const QString &method, con
     switch (QDBusError(reply).type()) {
     case QDBusError::NoReply:
     case QDBusError::TimedOut:
-        return failed(tr("Vesk is running, and does not answer."));
+        return failed(tr("Vesk is running but does not respond."));
     case QDBusError::UnknownInterface:
     case QDBusError::UnknownMethod:
-        return failed(tr("The Vesk that is running does not know this command: it is of another version. "
-                         "Quit it and start it again."));
+        return failed(tr("The running Vesk is another version, which does not have this command. Quit it "
+                         "and start it again."));
     default:
         return failed(reply.errorMessage());
     }

@@ -67,9 +67,10 @@ QString CommandKeys::holders() const
 QString CommandKeys::notice(const HotKeyRow &row) const
 {
     if (isTaken(row) && m_keys->holders().isEmpty())
-        return tr("Another program has these keys. Free them there, or choose others in %1.").arg(fileName());
+        return tr("Another program uses these keys. Free them there, or choose others in %1.")
+            .arg(fileName());
     if (isTaken(row))
-        return tr("%1 has these keys. Free them there, or choose others in %2.").arg(holders(), fileName());
+        return tr("%1 uses these keys. Free them there, or choose others in %2.").arg(holders(), fileName());
     if (m_keys && m_keys->key(row).state == State::Off)
         return tr("Switched off in %1.").arg(fileName());
     return {};

@@ -72,25 +72,27 @@ ParsedCombination parseCombination(const QString &text, const HotKeys *keyboard)
     };
     QStringList words = wordsOf(text);
     if (words.isEmpty())
-        return wrong(Texts::tr("There is no key in it."));
+        return wrong(Texts::tr("The combination is empty."));
     const QString name = words.takeLast();
     KeyCombination combination{};
     for (const QString &word : std::as_const(words)) {
         const std::optional<Qt::KeyboardModifier> modifier = findModifier(word);
         if (!modifier)
-            return wrong(Texts::tr("“%1” is no modifier; there are Super, Alt, Ctrl and Shift.").arg(word));
+            return wrong(
+                Texts::tr("“%1” is not a modifier. The modifiers are Super, Alt, Ctrl and Shift.").arg(word));
         combination.modifiers |= *modifier;
     }
     const std::optional<KeyPosition> key = keynames::findKey(name, keyboard);
     if (!key)
-        return wrong(findModifier(name) ? Texts::tr("After the modifiers a key is missing.")
-                                        : Texts::tr("There is no key “%1”.").arg(name));
+        return wrong(findModifier(name) ? Texts::tr("The key after the modifiers is missing.")
+                                        : Texts::tr("Unknown key: “%1”.").arg(name));
     combination.key = *key;
     if (combination.key == KeyPosition::LeftShift)
         return combination == kDoubleShift ? ParsedCombination{.combination = combination, .problem = {}}
-                                           : wrong(Texts::tr("After the modifiers a key is missing."));
+                                           : wrong(Texts::tr("The key after the modifiers is missing."));
     if (!(combination.modifiers & (Qt::MetaModifier | Qt::AltModifier | Qt::ControlModifier)))
-        return wrong(Texts::tr("It needs Super, Alt or Ctrl, or every application would lose this key."));
+        return wrong(
+            Texts::tr("The combination needs Super, Alt or Ctrl, or no application could use this key."));
     return {.combination = combination, .problem = {}};
 }
 
@@ -112,15 +114,14 @@ public:
             return;
         const qsizetype equals = text.indexOf(u'=');
         if (equals < 0) {
-            say(number,
-                Texts::tr("“%1” is no command with “=” and a combination behind it.").arg(text.left(40)));
+            say(number, Texts::tr("“%1” does not have the form “command = combination”.").arg(text.left(40)));
             return;
         }
         const QString command = text.left(equals).simplified();
         const auto *const row = std::ranges::find_if(
             hotkeytable::kAll, [&command](const HotKeyRow &each) { return each.command == command; });
         if (row == hotkeytable::kAll.end()) {
-            say(number, Texts::tr("No key has a command “%1”.").arg(command.left(40)));
+            say(number, Texts::tr("Unknown command: “%1”.").arg(command.left(40)));
             return;
         }
         set(*row, text.mid(equals + 1).trimmed(), number);
@@ -146,7 +147,7 @@ private:
     {
         choice(row) = row.combination;
         say(number,
-            Texts::tr("%1 “%2” stays at %3.")
+            Texts::tr("%1 “%2” keeps %3.")
                 .arg(problem, row.command.toString(), keynames::written(row.combination, m_keyboard)));
     }
 
@@ -154,7 +155,7 @@ private:
     {
         if (line(row) != 0) {
             say(number,
-                Texts::tr("“%1” was in line %2 already, which holds.").arg(row.command).arg(line(row)));
+                Texts::tr("“%1” is already set in line %2, which applies.").arg(row.command).arg(line(row)));
             return;
         }
         line(row) = number;
@@ -186,9 +187,8 @@ private:
                 const HotKeyRow &loser = losesFirst ? first : second;
                 const HotKeyRow &winner = losesFirst ? second : first;
                 const QString taken = keynames::written(*choice(winner), m_keyboard);
-                keepDefault(
-                    loser, line(loser),
-                    Texts::tr("%1 is the combination of “%2”.").arg(taken, winner.command.toString()));
+                keepDefault(loser, line(loser),
+                            Texts::tr("%1 is already used for “%2”.").arg(taken, winner.command.toString()));
                 return true;
             }
         }

@@ -27,7 +27,8 @@ QString describeSaveProblem(const StoreTrouble &trouble, qsizetype refused)
     case Kind::ReadOnly:
         return SaveProblem::tr("Not saved: the notes file is read-only. Vesk keeps trying.");
     case Kind::NotAllowed:
-        return SaveProblem::tr("Not saved: Vesk may not write the notes file. Vesk keeps trying.");
+        return SaveProblem::tr(
+            "Not saved: Vesk has no permission to write the notes file. Vesk keeps trying.");
     case Kind::InUse:
         return SaveProblem::tr("Not saved: another program is using the notes file. Vesk keeps trying.");
     case Kind::Lost:
@@ -41,7 +42,7 @@ QString describeSaveProblem(const StoreTrouble &trouble, qsizetype refused)
     case Kind::NotADatabase:
         return SaveProblem::tr("Not saved: the notes file is damaged. Copy your latest notes elsewhere.");
     case Kind::RecordRefused:
-        return SaveProblem::tr("%Ln notes or prompts cannot be saved (%1). All others are.", nullptr,
+        return SaveProblem::tr("%Ln notes or prompts cannot be saved (%1). All others are saved.", nullptr,
                                static_cast<int>(refused))
             .arg(trouble.detail);
     case Kind::Other:

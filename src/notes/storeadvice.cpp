@@ -25,9 +25,10 @@ StoreAdvice StoreAdvice::on(const QString &store, StoreFault fault, Date now)
     const QList<QString> copies = generations.found();
     if (copies.isEmpty())
         return {};
-    const QString anew = tr("To begin with no notes instead, move the files “%1*”, and what is left of the "
-                            "store, to another folder.")
-                             .arg(generations.newest());
+    const QString anew =
+        tr("To start without notes instead, move the files “%1*” and what is left of the store "
+           "to another folder.")
+            .arg(generations.newest());
     const auto sound =
         std::ranges::find_if(copies, [](const QString &copy) { return CopyContents::read(copy).isSound; });
     if (sound == copies.end())
@@ -35,10 +36,11 @@ StoreAdvice StoreAdvice::on(const QString &store, StoreFault fault, Date now)
                            + u"\n\n"_s + anew};
     const QFileInfo copy(*sound);
     const QString date = QLocale().toString(copy.lastModified(), QLocale::LongFormat);
-    return {.message = tr("There is a copy of your notes, made on %1: “%2”.").arg(date, copy.filePath())
-                       + u"\n\n"_s + anew + u"\n\n"_s
-                       + tr("To go on with the copy, run this command in a terminal and start Vesk again. "
-                            "What is left of the store is kept in the folder “damaged” beside it."),
+    return {.message =
+                tr("There is a copy of your notes, made on %1: “%2”.").arg(date, copy.filePath()) + u"\n\n"_s
+                + anew + u"\n\n"_s
+                + tr("To use the copy, run this command in a terminal and start Vesk again. What is left of "
+                     "the store is kept in the folder “damaged” beside it."),
             .command = restoringCommand(path, copy.filePath(), now)};
 }
 

@@ -147,7 +147,7 @@ StoreError StoreFile::obstacle(Access access) const
     // would be one of the new file.
     if (!StoreGenerations(m_path).found().isEmpty())
         return {.text = file.exists()
-                            ? tr("The file “%1” is empty, but there is a copy of it from before.").arg(m_path)
+                            ? tr("The file “%1” is empty, but there is an earlier copy of it.").arg(m_path)
                             : tr("The file “%1” is missing, but there is a copy of it.").arg(m_path),
                 .fault = StoreFault::Missing};
     return {};
@@ -161,7 +161,7 @@ StoreError StoreFile::contentsObstacle() const
         if (QFileInfo(m_path).size() < kSmallestPage)
             return damaged();
         if (schema::applicationId(connection) != schema::kApplicationId)
-            return {.text = tr("The file “%1” is a database of another program.").arg(m_path)};
+            return {.text = tr("The file “%1” is the database of another program.").arg(m_path)};
         if (version > schema::kVersion)
             return newerVersion(version);
     } catch (const SQLite::Exception &exception) {
@@ -279,7 +279,7 @@ StoreError StoreFile::damaged() const
 
 StoreError StoreFile::newerVersion(int version) const
 {
-    return {.text = tr("The file “%1” was written by a newer Vesk (version %2 of the store; this one knows "
+    return {.text = tr("The file “%1” was written by a newer Vesk (store version %2; this Vesk supports "
                        "version %3).")
                         .arg(m_path)
                         .arg(version)

@@ -135,8 +135,8 @@ StoreError StoreLock::describe(const QString &path, const std::optional<Holder> 
                 .fault = fault};
     const QString text =
         holder->use == Use::Session
-            ? tr("Vesk is running in another session (process %1 on %2), and the notes can only be open "
-                 "once. Quit it there first.")
+            ? tr("Vesk is running in another session (process %1 on %2), and only one Vesk can have the "
+                 "notes open. Quit it there first.")
             : tr("Another command, process %1 on %2, is writing to the notes.");
     return {.text = text.arg(holder->process).arg(holder->host), .fault = fault};
 }

@@ -41,7 +41,8 @@ void TestAppUpdater::tells_data()
     QTest::newRow("up to date") << Outcome::UpToDate << u"0.1.0"_s << discover << true
                                 << u"Vesk: Vesk is up to date"_s << QStringList();
     QTest::newRow("not a package") << Outcome::NotInstalled << QString() << discover << true
-                                   << u"Vesk: Your system does not update this Vesk"_s << QStringList();
+                                   << u"Vesk: Your system does not update this copy of Vesk"_s
+                                   << QStringList();
     QTest::newRow("no answer") << Outcome::Failed << QString() << discover << true
                                << u"Vesk: Could not check for updates"_s << QStringList();
 }

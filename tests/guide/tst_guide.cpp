@@ -106,10 +106,11 @@ void GuideTest::showsTheUsersKeys()
     keys.start();
     Stage stage(true, 600, &keys);
     const QString all = heard(stage.view);
-    for (const QString &part :
-         {u"Open Vesk anywhere, Ctrl, Super, Home"_s, u"Write a new note, Switched off in "_s,
-          u"Select text and press Super+P to save it"_s,
-          u"Add to your last note, Alt, Shift, Super, N, openbox or other has these keys. Free them there"_s})
+    for (
+        const QString &part :
+        {u"Open Vesk anywhere, Ctrl, Super, Home"_s, u"Write a new note, Switched off in "_s,
+         u"Select text and press Super+P to save it"_s,
+         u"Add to your last note, Alt, Shift, Super, N, openbox or other uses these keys. Free them there"_s})
         QVERIFY2(all.contains(part), qPrintable(all));
     hotKeys.setFree(kAppend.combination);
     keys.retry();

@@ -107,23 +107,24 @@ void TestUsersKeys::fileIsRead_data()
                         const QString &problems = {}) { QTest::newRow(name) << text << choices << problems; };
     row("no file", {}, {});
     row("letters, case and spaces", u"  Capture --append=x\ncapture = super + ALT+q \r\n"_s,
-        u"capture: Super+Alt+Q"_s, u"line 1: No key has a command “Capture --append”"_s);
+        u"capture: Super+Alt+Q"_s, u"line 1: Unknown command: “Capture --append”"_s);
     row("option apart", u"capture   --append=Ctrl+Alt+F5"_s, u"capture --append: Alt+Ctrl+F5"_s);
     row("remarks", u"# capture=Super+Q\n; toggle=none\n\n"_s, {});
     row("off", u"toggle=\nwrite=none"_s, u"toggle: off, write: off"_s);
     row("signs", u"toggle=Super+=\nwrite=Ctrl+Alt+#\nquit=x"_s, u"toggle: Super+="_s,
-        u"no key “#”. “write” stays at Super+Alt+Ctrl+N|command “quit”"_s);
+        u"Unknown key: “#”. “write” keeps Super+Alt+Ctrl+N|command: “quit”"_s);
     row("unknown key", u"toggle=Super+Foo"_s, {},
-        u"line 1: There is no key “Foo”. “toggle” stays at Super+Alt+T."_s);
-    row("unknown modifier", u"toggle=Hyper+T"_s, {}, u"“Hyper” is no modifier"_s);
-    row("no key", u"toggle=Super+Alt"_s, {}, u"a key is missing"_s);
-    row("no modifier", u"toggle=F5\nwrite=Shift+N"_s, {}, u"line 1: It needs Super|line 2: It needs Super"_s);
-    row("no line", u"toggle Super+Q"_s, {}, u"“toggle Super+Q” is no command with “=”"_s);
-    row("said twice", u"toggle=Super+Q\ntoggle=Super+W"_s, u"toggle: Super+Q"_s, u"in line 1 already"_s);
+        u"line 1: Unknown key: “Foo”. “toggle” keeps Super+Alt+T."_s);
+    row("unknown modifier", u"toggle=Hyper+T"_s, {}, u"“Hyper” is not a modifier"_s);
+    row("no key", u"toggle=Super+Alt"_s, {}, u"key after the modifiers is missing"_s);
+    row("no modifier", u"toggle=F5\nwrite=Shift+N"_s, {},
+        u"line 1: The combination needs Super|line 2: The combination needs Super"_s);
+    row("no line", u"toggle Super+Q"_s, {}, u"“toggle Super+Q” does not have the form"_s);
+    row("said twice", u"toggle=Super+Q\ntoggle=Super+W"_s, u"toggle: Super+Q"_s, u"already set in line 1"_s);
     row("another's default", u"capture=Super+Alt+T"_s, {},
-        u"Super+Alt+T is the combination of “toggle”. “capture” stays"_s);
+        u"Super+Alt+T is already used for “toggle”. “capture” keeps"_s);
     row("another's line", u"toggle=Super+Q\ncapture=Super+Q"_s, u"toggle: Super+Q"_s,
-        u"line 2: Super+Q is the combination of “toggle”"_s);
+        u"line 2: Super+Q is already used for “toggle”"_s);
     row("changed places", u"toggle=Super+Alt+N\ncapture=Super+Alt+T"_s,
         u"capture: Super+Alt+T, toggle: Super+Alt+N"_s);
     // Each falls back for another's sake; in the end all have one.
