@@ -21,32 +21,31 @@ public:
         Dark,
     };
 
-    /// The font of the desktop's own texts.
+    /// The font that the desktop uses for its own texts.
     struct TextFont
     {
-        /// Empty if the desktop does not tell.
+        /// Empty if the desktop does not say.
         QString family;
-        /// How large the user wants texts, where 1 is what desktops come with. Beyond the scale of the
-        /// whole screen, which already is in every point.
+        /// The user's text size as a factor; 1 is the default. Applies on top of the scale of the screen,
+        /// which every point already includes.
         qreal scale = 1;
 
         friend bool operator==(const TextFont &, const TextFont &) = default;
     };
 
     [[nodiscard]] virtual ColorScheme colorScheme() const = 0;
-    /// The user's accent colour; none if the desktop has no such choice.
+    /// The user's accent colour; nullopt if the desktop has no such setting.
     [[nodiscard]] virtual std::optional<QColor> accentColor() const = 0;
     /// Whether the user wants no animation.
     [[nodiscard]] virtual bool shouldReduceMotion() const = 0;
-    /// Whether the user wants lines and texts that stand out strongly.
+    /// Whether the user wants high contrast.
     [[nodiscard]] virtual bool shouldIncreaseContrast() const = 0;
     [[nodiscard]] virtual TextFont textFont() const = 0;
-    /// How long a text cursor takes to go and come again; 0 for one that does not blink, none if the
-    /// desktop does not tell.
+    /// The period of a blinking text cursor; 0 if it does not blink, nullopt if the desktop does not say.
     [[nodiscard]] virtual std::optional<std::chrono::milliseconds> cursorFlashTime() const = 0;
 
 Q_SIGNALS:
-    /// One of these has changed.
+    /// Emitted when any of these values has changed.
     void changed();
 };
 

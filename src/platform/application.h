@@ -16,54 +16,55 @@ public:
     /// Whether one of this program's windows has the keyboard.
     [[nodiscard]] virtual bool isActive() const = 0;
 
-    /// Whether the program was hidden and not unhidden since. It starts unhidden, with no window up.
+    /// Whether `hide` was called and `unhide` was not called since. The program starts unhidden, with no
+    /// window shown.
     [[nodiscard]] virtual bool isHidden() const = 0;
 
-    /// Takes all of the program's windows off the screen, notices excepted, and gives the keyboard
-    /// back to the window that had it before `activate`, if that is on the workspace in use. A key that is
-    /// still down does not reach that window. Does nothing if already hidden.
+    /// Hides all windows of the program except notices, and gives the keyboard back to the window that had it
+    /// before `activate`, if that window is on the current workspace. A key that is still down does not reach
+    /// that window. Does nothing if already hidden.
     virtual void hide() = 0;
 
-    /// Whether what `hide` began is done: the window that had the keyboard before `activate` has it
-    /// again or, where there is no such window any more, another application has it.
+    /// Whether `hide` is complete: the window that had the keyboard before `activate` has it again or, if
+    /// that window no longer exists, another application has it.
     [[nodiscard]] virtual bool isAway() const = 0;
 
-    /// Whether the window that `hide` was to give the keyboard back to is closed, before or since. False
-    /// where there was no such window.
+    /// Whether the window that `hide` should have given the keyboard back to is closed, however long ago.
+    /// False if there was no such window.
     [[nodiscard]] virtual bool isPreviousWindowClosed() const = 0;
 
-    /// Ends the hidden state, without showing any window by itself.
+    /// Ends the hidden state. Does not show any window.
     virtual void unhide() = 0;
 
-    /// Keeps what is typed from now on until it is known who is to have it: `holdKeys` keeps it for a window
-    /// of this program, and `expectNoKeys` lets it go where it was meant to go. The application in front
+    /// Holds back what is typed until it is known which window should receive it: `holdKeys` keeps it for a
+    /// window of this program, and `expectNoKeys` passes it on to the application in front. That application
     /// does not notice, and can still be asked about its selection. Ends by itself after a moment.
     virtual void expectKeys() = 0;
-    /// Does nothing without an `expectKeys`.
+    /// See `expectKeys`, without which it does nothing.
     virtual void expectNoKeys() = 0;
 
-    /// Keeps the keys that are typed from now on for the window that `activate` is about to give the
-    /// keyboard to, and remembers the window of another application that has it; to be called before a
-    /// window is shown, since showing it may be enough to give it the keyboard. Without an `activate` that
-    /// follows, keeps them for a moment only. False if the platform cannot, or one of this program's
-    /// windows has the keyboard already.
+    /// Holds back the keys that are typed from now on for the window that `activate` is about to give the
+    /// keyboard to, and remembers the other application's window that has it. Must be called before a window
+    /// is shown, because showing it may already give it the keyboard. If no `activate` follows, ends by
+    /// itself after a moment. Returns false if the platform cannot do this, or if one of this program's
+    /// windows already has the keyboard.
     virtual bool holdKeys() = 0;
 
-    /// Gives the keyboard to `window`, which is shown or being shown.
+    /// Gives the keyboard to `window`, which must be shown or about to be shown.
     virtual void activate(QWindow &window) = 0;
 
-    /// Gives the keyboard back to the window, of this or another program, that had it before `window`
-    /// was activated, and leaves all windows where they are. A key that is still down does not reach that
-    /// window. Does nothing if `window` has not got the keyboard.
+    /// Gives the keyboard back to the window, of this or another program, that had it before `window` was
+    /// activated. Hides nothing. A key that is still down does not reach that window. Does nothing if
+    /// `window` does not have the keyboard.
     virtual void giveKeyboardBack(QWindow &window) = 0;
 
 Q_SIGNALS:
-    /// The program has gone into the hidden state.
+    /// Emitted after the program was hidden.
     void didHide();
-    /// A window of another application has taken the keyboard from this program, or the user has gone to
-    /// another workspace while this program had a window on the screen.
+    /// Emitted when a window of another application has taken the keyboard from this program, or the user has
+    /// switched to another workspace while this program had a window on the screen.
     void didResignActive();
-    /// The user has started the program a second time; that start has ended itself.
+    /// Emitted when the user has started the program again; the second process has already exited.
     void reopened();
 };
 

@@ -7,22 +7,22 @@
 
 namespace vesk {
 
-/// The user's remembered choices.
+/// The user's settings.
 class Defaults
 {
 public:
     virtual ~Defaults() = default;
 
-    /// False if the key was never set.
+    /// Returns false if the key was never set.
     [[nodiscard]] virtual bool boolForKey(const QString &key) const = 0;
 
-    /// Remembered across restarts; a choice that cannot be written holds until the program ends.
+    /// Kept across restarts. A value that cannot be written holds until the program exits.
     virtual void setBool(bool value, const QString &key) = 0;
 
-    /// Nothing if the key was never set, or to something that is not a whole number.
+    /// Returns nullopt if the key was never set or is not a whole number.
     [[nodiscard]] virtual std::optional<int> intForKey(const QString &key) const = 0;
 
-    /// Remembered like a `setBool`.
+    /// Kept like a value of `setBool`.
     virtual void setInt(int value, const QString &key) = 0;
 };
 

@@ -14,28 +14,33 @@ public:
     enum class Command {
         Copy,
         Paste,
-        /// Pastes, unless what has the keyboard is or may be a terminal.
+        /// Pastes, unless the keyboard is or may be in a terminal.
         PasteUnlessTerminal,
     };
 
-    /// The window that keys went to at some moment, by the platform's own number.
+    /// A window that had the keyboard, by the platform's own number.
     enum class Target : quint64 {
         None = 0
     };
 
     virtual ~EventPoster() = default;
 
-    /// The window that has the keyboard now; while a hot key is handled, the one that had it at the press.
-    /// `None` on an empty desktop.
+    /// Returns the window that has the keyboard now; while a hot key is handled, the one that had it at the
+    /// press. `None` on an empty desktop.
     [[nodiscard]] virtual Target target() = 0;
 
-    /// Posts the key combination of `command` to `target`. Waits until the key that started Vesk's own
-    /// command is up: 700 ms for a copy, 2 s for pasting. Modifiers that the user holds then are out of the
-    /// way for these keys only: what the user types next comes with them. Returns false, with nothing posted,
-    /// if `target` has not, or no longer, got the keyboard; if another program keeps all keys for itself, as
-    /// a menu or a screen lock does; if the window, or what has the keyboard in it, would take the keys for
-    /// something else (a terminal takes Copy for an interrupt) or does not answer; if a key stays down; if
-    /// `isWanted`, asked right before the keys go out, says no; or if the platform cannot post.
+    /// Posts the key combination of `command` to `target`. First waits until no key but modifiers is down: up
+    /// to 700 ms for a copy and 2 s for a paste. Modifiers that the user still holds are released for these
+    /// keys only; they apply again to what the user types next.
+    ///
+    /// Returns false, with nothing posted, if
+    /// - `target` does not, or no longer, have the keyboard;
+    /// - another program has grabbed the keyboard, as a menu or a screen lock does;
+    /// - the keys would mean something else there (Copy interrupts a terminal), or the window does not
+    ///   answer;
+    /// - a key stays down;
+    /// - `isWanted`, called right before the keys are sent, returns false;
+    /// - the platform cannot post keys.
     virtual QCoro::Task<bool> post(Command command, Target target, std::function<bool()> isWanted) = 0;
 };
 

@@ -7,40 +7,40 @@
 
 namespace vesk {
 
-/// The modifiers as they are after one of them went down or up.
+/// The state of the modifiers after one of them was pressed or released.
 struct ModifierChange
 {
     /// All that are held down.
     Qt::KeyboardModifiers held;
-    /// Whether Caps Lock is on. Num Lock, which many people never turn off, is not told.
+    /// Whether Caps Lock is on. Num Lock is ignored, because many people never turn it off.
     bool isCapsLocked = false;
-    /// When it happened, by the keyboard's own clock, whose zero is arbitrary.
+    /// When it happened, by the keyboard's own clock. Its zero is arbitrary.
     std::chrono::milliseconds time{0};
 };
 
-/// Listens to the keyboard while other applications have it. Only listens: every key goes on to the
-/// application that it is meant for.
+/// Listens to the keyboard while other applications have it. Never takes a key away from them.
 class EventTap : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Begins to listen; a second call does nothing. False if the platform does not allow it.
+    /// Starts listening; a second call does nothing. Returns false if the platform does not allow it.
     virtual bool start() = 0;
 
-    /// Whether another program keeps all keys for itself now, as a screen lock or an open menu does. They
-    /// are heard nevertheless.
+    /// Whether another program has grabbed the keyboard, as a screen lock or an open menu does. The signals
+    /// below are emitted nevertheless.
     [[nodiscard]] virtual bool isKeyboardTaken() const = 0;
 
 Q_SIGNALS:
-    /// A key that is not a modifier, or a mouse button, went down; once a press, not again for
-    /// auto-repeat. Num Lock and Scroll Lock are such keys.
+    /// Emitted when a mouse button or a key that is not a modifier was pressed; once per press, not for
+    /// auto-repeat. Num Lock and Scroll Lock are not modifiers.
     void keyDown();
-    /// The mouse's wheel was turned.
+    /// Emitted when the mouse wheel was turned.
     void wheelTurned();
-    /// A modifier or Caps Lock went down or up.
+    /// Emitted when a modifier or Caps Lock was pressed or released.
     void flagsChanged(vesk::ModifierChange change);
-    /// Nothing is heard any more, because the user no longer agrees, or it is heard again.
+    /// Emitted when listening stops, because the user no longer agrees, and when it starts again. Keys may
+    /// have been missed.
     void interrupted();
 };
 

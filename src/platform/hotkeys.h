@@ -8,8 +8,8 @@
 
 namespace vesk {
 
-/// A place on the keyboard, numbered as Linux numbers the keys. The user's layout does not move it. Those
-/// that have a name here are named by what stands there on an ANSI keyboard.
+/// A position on the keyboard, numbered as Linux numbers the keys; independent of the user's layout. The
+/// named ones are named after the key at that position on an ANSI keyboard.
 enum class KeyPosition : quint8 {
     T = 20,
     LeftShift = 42,
@@ -20,42 +20,42 @@ enum class KeyPosition : quint8 {
 struct KeyCombination
 {
     KeyPosition key;
-    /// Exactly these modifiers; the locks (Caps Lock, Num Lock) do not count.
+    /// Exactly these modifiers; Caps Lock and Num Lock are ignored.
     Qt::KeyboardModifiers modifiers;
 
     friend bool operator==(const KeyCombination &, const KeyCombination &) = default;
 };
 
-/// Key combinations that reach Vesk while any application has the keyboard, and reach no other.
+/// Key combinations that reach Vesk, and nobody else, whichever application has the keyboard.
 class HotKeys : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Claims a combination under `id`, in place of what `id` had claimed before; what `id` has already
-    /// stays without a gap. False, with `id` claiming nothing, if another application has the combination
-    /// or the platform has no hot keys.
+    /// Claims a combination for `id`, replacing what `id` claimed before. If `id` already has this
+    /// combination, it keeps it without a gap. Returns false, with nothing claimed for `id`, if another
+    /// application has the combination or the platform has no hot keys.
     virtual bool registerHotKey(quint32 id, KeyCombination combination) = 0;
 
-    /// Gives the combination of `id` up; does nothing if it has none.
+    /// Gives up the combination of `id`. Does nothing if it has none.
     virtual void unregisterHotKey(quint32 id) = 0;
 
-    /// The key on which the user's layout has this character, rather without Shift than with it. None if
-    /// it stands on no key, or the platform cannot tell.
+    /// Returns the key that produces this character in the user's layout, preferably without Shift. Nullopt
+    /// if no key does, or the platform cannot tell.
     [[nodiscard]] virtual std::optional<KeyPosition> findKey(QChar character) const = 0;
 
-    /// The character that is printed on a key in the user's layout: in upper case, and in Latin script
-    /// where the keyboard has both. Null for a key without one, or if the platform cannot tell.
+    /// Returns the character printed on a key in the user's layout, in upper case, and in Latin script if the
+    /// keyboard has both. Null if there is none, or the platform cannot tell.
     [[nodiscard]] virtual QChar characterOn(KeyPosition key) const = 0;
 
-    /// The programs, by the names that the user knows, of which one has what could not be claimed. Empty
-    /// if the platform cannot tell, or only that it is one of many.
+    /// Returns the names of the programs one of which has the combination that could not be claimed. Empty if
+    /// the platform cannot tell, or if there are too many to be of help.
     [[nodiscard]] virtual QStringList otherHolders() const = 0;
 
 Q_SIGNALS:
-    /// The combination of `id` was pressed; once a press, not again for auto-repeat.
+    /// Emitted when the combination of `id` was pressed; once per press, not for auto-repeat.
     void pressed(quint32 id);
-    /// The user has another layout or other modifiers. What was claimed may be lost by that, until it is
+    /// Emitted when the user's layout or modifiers have changed. Combinations may be lost until they are
     /// claimed again.
     void layoutChanged();
 };

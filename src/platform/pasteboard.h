@@ -13,7 +13,7 @@
 
 namespace vesk {
 
-/// One representation of a pasteboard item: its type as the platform names it, and the bytes.
+/// One representation of a pasteboard item: the platform's name of its type, and the bytes.
 struct PasteboardData
 {
     QString type;
@@ -22,7 +22,7 @@ struct PasteboardData
     friend bool operator==(const PasteboardData &, const PasteboardData &) = default;
 };
 
-/// One thing on the pasteboard in all of its representations, best first.
+/// One item on the pasteboard in all its representations, best first.
 using PasteboardItem = QList<PasteboardData>;
 
 /// The pasteboard that the user copies to and pastes from.
@@ -31,71 +31,71 @@ class Pasteboard : public QObject
     Q_OBJECT
 
 public:
-    /// How a content came to be on the pasteboard.
+    /// How the content got onto the pasteboard.
     enum class Claim {
-        /// By an application that the user works with, or the platform cannot tell.
+        /// From the application that the user works with, or the platform cannot tell.
         Ordinary,
-        /// By a program that the user does not work with at the moment. A clipboard manager claims the
-        /// content of others in this way, unchanged.
+        /// From a program that the user is not working with. This is how a clipboard manager takes over the
+        /// content of others, unchanged.
         Aside,
-        /// Right after the program that the content before came from had gone. That content is on the
-        /// pasteboard again if a clipboard manager had kept it.
+        /// Right after the program that owned the previous content exited. If a clipboard manager had kept
+        /// that content, it is on the pasteboard again.
         AfterLoss,
     };
 
-    /// Where a content comes from, as far as the platform can tell.
+    /// Where the content comes from, as far as the platform can tell.
     struct Origin
     {
         /// The process that put it there.
         std::optional<qint64> processIdentifier;
-        /// How long before the change was made the user had asked for it, by that process's word: an
-        /// application that hung makes a copy later than it was told to.
+        /// How long before the change the user had asked for it, according to that process. An application
+        /// that hung makes a copy later than it was told to.
         std::optional<std::chrono::milliseconds> delay;
         Claim claim = Claim::Ordinary;
     };
 
-    /// How long a reading waits for the owner of the content.
+    /// How long to wait for the owner of the content.
     enum class Patience {
-        /// The user waits for something else, and would rather have it without this text.
+        /// The user waits for something else, which must not be held up by this text.
         Short,
-        /// The user has asked for this text, as by pasting.
+        /// The user has asked for this very text, for example by pasting.
         Long,
     };
 
-    /// Rises with every change of the content, whoever made it, this program included.
+    /// Increases with every change of the content, including changes by this program.
     [[nodiscard]] virtual qint64 changeCount() const = 0;
 
-    /// Whether there is anything on the pasteboard, readable or not. Read at the call.
+    /// Whether there is anything on the pasteboard now, readable or not.
     [[nodiscard]] virtual bool hasContents() const = 0;
 
-    /// Where the content came from that the last change brought.
+    /// Where the content of the last change came from.
     [[nodiscard]] virtual Origin origin() const = 0;
 
-    /// Everything on the pasteboard, for writing it back. Representations that the owner refuses are left
-    /// out, and so may be those that can be made again from others. If anything else cannot be had whole
-    /// (it is declared secret, it is too large, the owner is silent for too long), the list is empty, as it
-    /// is for an empty pasteboard. So ask `hasContents` before replacing what must not be lost.
+    /// Reads everything on the pasteboard, so that it can be written back later. Representations that the
+    /// owner refuses are left out, and possibly those that can be made from others. If anything else cannot
+    /// be read completely (it is marked as secret, too large, or its owner does not answer), the list is
+    /// empty, as it is for an empty pasteboard: check `hasContents` before you replace content that must not
+    /// be lost.
     virtual QCoro::Task<QList<PasteboardItem>> pasteboardItems() = 0;
 
-    /// The content as text. Nullopt if it has no text, is declared secret, or its owner does not answer in
-    /// time.
+    /// Reads the content as text. Nullopt if it has no text, is marked as secret, or its owner does not
+    /// answer in time.
     virtual QCoro::Task<std::optional<QString>> string(Patience patience) = 0;
     QCoro::Task<std::optional<QString>> string() { return string(Patience::Short); }
 
     virtual void clearContents() = 0;
 
-    /// Replaces the content by plain text.
+    /// Replaces the content with plain text.
     virtual void setString(const QString &text) = 0;
 
-    /// Replaces the content by these items; an empty list empties the pasteboard.
+    /// Replaces the content with these items; an empty list empties the pasteboard.
     virtual void writeObjects(const QList<PasteboardItem> &items) = 0;
 
-    /// Whether `changed` tells of every change. If false, a caller that must know looks at
-    /// `changeCount` now and then.
+    /// Whether `changed` is emitted for every change. If not, callers must poll `changeCount`.
     [[nodiscard]] virtual bool reportsChanges() const = 0;
 
 Q_SIGNALS:
-    /// The change count has risen.
+    /// Emitted after `changeCount` has increased.
     void changed();
 };
 

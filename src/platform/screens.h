@@ -11,12 +11,12 @@
 
 namespace vesk {
 
-/// One screen, in points. The y axis grows upwards, from the bottom left corner of the main screen;
-/// a rectangle's `y()` is its bottom edge and `y() + height()` its top edge.
+/// One screen, in points. The origin is the bottom left corner of the main screen and the y axis points
+/// upwards: a rectangle's `y()` is its bottom edge and `y() + height()` its top edge.
 struct Screen
 {
     QRectF frame;
-    /// The frame without panels and docks.
+    /// The part of the frame that panels and docks leave free.
     QRectF visibleFrame;
 
     friend bool operator==(const Screen &, const Screen &) = default;
@@ -28,16 +28,17 @@ class Screens : public QObject
     Q_OBJECT
 
 public:
-    /// All screens, the main screen first; empty if there is none.
+    /// Returns all screens, the main screen first; empty if there is none.
     [[nodiscard]] virtual QList<Screen> screens() const = 0;
 
-    /// Where the pointer is, in the coordinates of `Screen`; none if the platform does not tell.
+    /// Returns the position of the pointer in `Screen` coordinates; nullopt if the platform does not say.
     [[nodiscard]] virtual std::optional<QPointF> mouseLocation() const = 0;
 
-    /// Turns a rectangle of `Screen` coordinates into Qt's window coordinates (y downwards), or back.
+    /// Converts a rectangle from `Screen` coordinates to Qt's window coordinates (y downwards), or back.
     [[nodiscard]] virtual QRectF flipped(const QRectF &rectangle) const = 0;
 
-    /// The first screen that holds the pointer; else the main screen; none if there is no screen.
+    /// Returns the first screen that contains the pointer, otherwise the main screen; nullopt if there is no
+    /// screen.
     [[nodiscard]] std::optional<Screen> screenUnderMouse() const
     {
         const QList<Screen> all = screens();
@@ -50,7 +51,7 @@ public:
         return all.isEmpty() ? std::nullopt : std::optional(all.first());
     }
 
-    /// Whether a window of this geometry, in Qt's coordinates, is all on one screen.
+    /// Whether a window with this geometry, in Qt's coordinates, lies completely on one screen.
     [[nodiscard]] bool holdsWhole(const QRectF &geometry) const
     {
         const QList<Screen> all = screens();
@@ -59,7 +60,7 @@ public:
     }
 
 Q_SIGNALS:
-    /// A screen has come, gone, or changed its size, place or visible frame.
+    /// Emitted when a screen was added or removed, or its frame or visible frame has changed.
     void changed();
 };
 

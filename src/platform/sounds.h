@@ -3,19 +3,19 @@
 
 namespace vesk {
 
-/// Short sounds of the desktop's own theme.
+/// Plays short sounds from the desktop's sound theme.
 class Sounds
 {
 public:
     enum class Sound {
-        /// Something was kept.
+        /// Something was saved.
         Tink,
     };
 
     virtual ~Sounds() = default;
 
-    /// Starts the sound and returns at once; silent if the desktop has no such sound, or has its
-    /// sounds turned off.
+    /// Starts the sound and returns at once. Does nothing if the desktop has no such sound or its sounds are
+    /// off.
     virtual void play(Sound sound) = 0;
 };
 

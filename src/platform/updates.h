@@ -6,7 +6,7 @@
 
 namespace vesk {
 
-/// The desktop's way to bring Vesk up to date.
+/// Asks the desktop's package service whether there is a newer Vesk.
 class Updates : public QObject
 {
     Q_OBJECT
@@ -16,29 +16,30 @@ public:
         UpToDate,
         /// A newer version can be installed.
         Available,
-        /// Vesk was not installed by what updates the system.
+        /// Vesk was not installed by the system's package manager.
         NotInstalled,
-        /// The answer did not come, or made no sense.
+        /// There was no answer, or it was invalid.
         Failed,
     };
 
     struct Result
     {
         Outcome outcome = Outcome::Failed;
-        /// The newer version, or the installed one where it is up to date; else empty.
+        /// `Available`: the newer version. `UpToDate`: the installed one. Otherwise empty.
         QString version;
     };
 
-    /// Whether a check can be started now; false while one runs, while the system is being changed by
-    /// others, and where nothing could answer.
+    /// Whether a check can be started now. False while one is running, while packages are being installed or
+    /// removed, and if there is no package service.
     [[nodiscard]] virtual bool canCheckForUpdates() const = 0;
 
-    /// Starts a check, without waiting; does nothing if it cannot. May take minutes.
+    /// Starts a check and returns at once; `checkFinished` follows, possibly after minutes. Does nothing if
+    /// `canCheckForUpdates` is false.
     virtual void checkForUpdates() = 0;
 
 Q_SIGNALS:
     void canCheckForUpdatesChanged();
-    /// Once for every check that was started.
+    /// Emitted once for every check that was started.
     void checkFinished(const vesk::Updates::Result &result);
 };
 

@@ -8,32 +8,32 @@ class QWindow;
 
 namespace vesk {
 
-/// What the desktop lets Vesk decide about its own windows.
+/// Places and shapes Vesk's own windows, as far as the desktop allows.
 class Windows : public QObject
 {
     Q_OBJECT
 
 public:
     enum class Kind {
-        /// Takes the keyboard, stays above other windows, is on every desktop, is in no task list.
+        /// Takes the keyboard, stays above other windows, is on every workspace, and is not in the task list.
         Panel,
-        /// Never takes the keyboard nor a click, is above everything, is on every desktop.
+        /// Takes neither the keyboard nor clicks, is above everything, and is on every workspace.
         Notice,
     };
 
-    /// Gives a window its kind. Has to be called before every show: window managers forget when a
-    /// window is hidden.
+    /// Sets the kind of a window. Must be called before every show, because window managers forget it when
+    /// the window is hidden.
     virtual void prepare(QWindow &window, Kind kind) = 0;
 
-    /// Puts a window where `frame` says, in the coordinates of `Screen`. False, with the window left
-    /// where it is, if the desktop does not let programs place their windows.
+    /// Moves and resizes a window to `frame`, in `Screen` coordinates. Returns false and changes nothing if
+    /// the desktop does not let programs place their windows.
     virtual bool setFrame(QWindow &window, const QRectF &frame) = 0;
 
-    /// Cuts a window's corners to this radius, in points, where nothing blends windows. Does nothing
-    /// while `isComposited`, when a window draws its own corners.
+    /// Cuts a window's corners to this radius, in points, if the desktop does not blend windows. Does nothing
+    /// while `isComposited`: then windows draw their own corners.
     virtual void setCornerRadius(QWindow &window, qreal radius) = 0;
 
-    /// Whether the desktop blends windows, so that a window can be translucent.
+    /// Whether the desktop blends windows, so that they can be translucent.
     [[nodiscard]] virtual bool isComposited() const = 0;
 
 Q_SIGNALS:

@@ -10,46 +10,46 @@
 
 namespace vesk {
 
-/// An application that is running, as the user knows it.
+/// A running application, as the user knows it.
 struct RunningApplication
 {
-    /// 0 if it does not run on this machine, or its process cannot be told.
+    /// 0 if it runs on another machine or its process is not known.
     qint64 processIdentifier = 0;
-    /// Name in the user's language; empty if the application has none.
+    /// Its name in the user's language; empty if it has none.
     QString localizedName;
-    /// What identifies the application across machines (a desktop-entry id such as
-    /// "org.xfce.mousepad"); none if it is not installed in the ordinary way.
+    /// Identifies the application across machines (a desktop-entry id such as "org.xfce.mousepad"). Nullopt
+    /// if no desktop entry is installed for it.
     std::optional<QString> bundleIdentifier;
 
     friend bool operator==(const RunningApplication &, const RunningApplication &) = default;
 };
 
-/// The applications of the desktop: which one the user works in, where they are, how they are opened.
+/// The applications of the desktop: which one is in front, which are installed, and how they are opened.
 class Workspace : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The application whose window has the keyboard, read at the call. None on an empty desktop, or
-    /// if the window's application cannot be told. May be this program.
+    /// Returns the application whose window has the keyboard now, possibly this program. Nullopt on an empty
+    /// desktop, or if the window's application is not known.
     [[nodiscard]] virtual std::optional<RunningApplication> frontmostApplication() const = 0;
 
     /// Whether an application with this identifier is installed.
     [[nodiscard]] virtual bool hasApplication(const QString &bundleIdentifier) const = 0;
 
-    /// The icon of an installed application; a null icon if it is not installed or has none.
+    /// Returns the icon of an installed application; a null icon if it is not installed or has none.
     [[nodiscard]] virtual QIcon iconForApplication(const QString &bundleIdentifier) const = 0;
 
-    /// Opens an address in the user's application for it, without waiting. False if it could not be
-    /// handed over.
+    /// Opens an address in the user's default application and returns at once. Returns false if that failed.
     virtual bool openUrl(const QUrl &url) = 0;
 
-    /// Launches an application or brings it forward, without waiting. False if it is not installed.
+    /// Launches an application or brings it forward, and returns at once. Returns false if it is not
+    /// installed.
     virtual bool openApplication(const QString &bundleIdentifier) = 0;
 
 Q_SIGNALS:
-    /// Another application has become frontmost, this program included. Not fired for a change of
-    /// window within one application.
+    /// Emitted when another application, possibly this program, comes to the front. Not emitted for a change
+    /// of windows within one application.
     void didActivateApplication(const vesk::RunningApplication &application);
 };
 
