@@ -5,9 +5,9 @@
 
 namespace vesk {
 
-/// `vesk access allow|deny|status`: the user's consent, for scripts. A running Vesk follows at once.
-/// `arguments` are those after "access". Returns the program's exit status: 0 if done; for status also
-/// 0 if allowed and 1 if not; 2 if the arguments are wrong.
+/// Carries out `vesk access allow|deny|status`, which sets or prints the user's consent. A running Vesk
+/// follows at once. `arguments` are the words after "access". Returns the exit status: 0 for success, 1 if
+/// `status` finds that reading is not allowed, 2 if the arguments are wrong.
 [[nodiscard]] int runAccessCommand(const QStringList &arguments);
 
 } // namespace vesk

@@ -11,8 +11,8 @@ namespace vesk {
 
 class Consent;
 
-/// Asks the user whether Vesk may read what is selected in other applications. Each button is the answer from
-/// then on, also where the other one was given before. Closing the window leaves things as they are.
+/// Asks the user whether Vesk may read what is selected in other applications. Either button sets the answer,
+/// even if there was another before. Closing the window changes nothing.
 class AccessWindow final : public QObject
 {
     Q_OBJECT
@@ -21,9 +21,9 @@ public:
     /// Hidden at first. All must outlive the window.
     AccessWindow(QQmlEngine &engine, Consent &consent, Questions &questions);
 
-    /// The user wants to see the question.
+    /// Shows the question because the user wants to see it.
     void show() { m_questions.showAsked(m_window); }
-    /// Vesk needs the answer.
+    /// Shows the question because Vesk needs the answer.
     void ask() { m_questions.showUnasked(m_window); }
 
 private:

@@ -14,8 +14,8 @@ namespace vesk {
 
 class Workspace;
 
-/// Checks for a newer Vesk when the user asks, and says what came out in a small window. The desktop's own
-/// updater installs; this only opens it.
+/// Checks for a newer Vesk when the user asks for it, and shows the result in a small window. The desktop's
+/// own updater installs; this class only opens it.
 class AppUpdater final : public QObject
 {
     Q_OBJECT
@@ -27,8 +27,8 @@ public:
     [[nodiscard]] bool canCheck() const { return m_updates.canCheckForUpdates(); }
     void checkForUpdates() { m_updates.checkForUpdates(); }
 
-    /// What the window says of a result; `updater` is the identifier of the application that installs
-    /// updates, empty for none.
+    /// Returns what the window shows for a result. `updater` is the identifier of the application that
+    /// installs updates; empty if there is none.
     [[nodiscard]] static MessageWindow::Content describe(const Updates::Result &result,
                                                          const QString &updater);
 

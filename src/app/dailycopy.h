@@ -13,22 +13,22 @@ namespace vesk {
 
 class Clock;
 
-/// Has a copy of the store made once a day, when nobody has written anything for a while. A process of
-/// its own makes it, so that neither a key nor a window waits for it.
+/// Copies the store once a day, when nothing has been written for a while. A separate process makes the copy,
+/// so that no key and no window waits for it.
 class DailyCopy final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What the program that makes the copy is called with.
+    /// The argument that makes `program` copy the store and exit.
     static constexpr auto kWord = "copy-store";
 
-    /// `program` makes the copy; usually the one that runs. Looks for the first time after some minutes.
+    /// `program` makes the copy; usually the running program itself. The first check is after some minutes.
     DailyCopy(const QString &store, QString program, Clock &clock);
     ~DailyCopy() override;
 
-    /// Why no copy has been made for days, or that the store turned out to be damaged, in one sentence for
-    /// the user; empty if all is well.
+    /// One sentence for the user: why no copy has been made for days, or that the store is damaged. Empty if
+    /// there is no problem.
     [[nodiscard]] const QString &problem() const { return m_problem; }
 
 Q_SIGNALS:

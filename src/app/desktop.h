@@ -26,8 +26,7 @@
 
 namespace vesk {
 
-/// The desktop that Vesk runs on: every platform object of an X11 session, made in the order in which
-/// they need each other.
+/// All platform objects of an X11 session, constructed in the order in which they depend on each other.
 struct Desktop
 {
     Desktop(std::unique_ptr<X11Connection> connection, ApplicationService &service);

@@ -11,14 +11,14 @@ namespace vesk {
 
 class PanelWindow;
 
-/// The menus that the desktop draws where it has a place for them: that of Vesk's icon, and the menu bar of
+/// The menus that the desktop draws if it has a place for them: the menu of Vesk's icon, and the menu bar of
 /// the panel.
 class DesktopMenus final
 {
     Q_DECLARE_TR_FUNCTIONS(vesk::DesktopMenus)
 
 public:
-    /// Both have to outlive it.
+    /// Both must outlive this object.
     DesktopMenus(PanelWindow &panel, MenuCommands &commands);
 
 private:

@@ -11,9 +11,9 @@ class QWindow;
 
 namespace vesk {
 
-/// Keeps commands in their place among the keys of a window. While assistive programs listen, Qt shows
-/// them each key press first and delivers it when they have answered, but a press that is a command's is
-/// not shown to them, and so would overtake the keys before it.
+/// Keeps commands in order with the other keys of a window. While assistive programs listen, Qt shows them
+/// each key press first and delivers it when they have answered. It does not do so for a key that runs a
+/// command, which would therefore overtake the keys before it.
 class KeyOrder final : public QObject
 {
     Q_OBJECT
@@ -21,12 +21,11 @@ class KeyOrder final : public QObject
 public:
     using Command = std::function<void()>;
 
-    /// The window has to outlive the order, and whatever else filters its events has to be installed
-    /// already.
+    /// The window must outlive this object. All other event filters must be installed before.
     explicit KeyOrder(QWindow &window);
 
-    /// Runs the command of the key that was pressed just now: at once, or after the last key before it was
-    /// delivered. Waits for 0.2 s at most, as assistive programs may have kept a key for themselves.
+    /// Runs the command of the key that was just pressed, at once or after the keys before it were delivered.
+    /// Waits at most 0.2 s, because assistive programs may keep a key for themselves.
     void run(const Command &command);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -35,7 +34,7 @@ private:
     struct Waiting
     {
         Command command;
-        /// Those that have to be delivered first.
+        /// How many keys must be delivered first.
         int keysBefore = 0;
     };
 
@@ -45,9 +44,9 @@ private:
     void giveUp();
 
     std::deque<Waiting> m_waiting;
-    /// Pressed, but not delivered yet.
+    /// Pressed but not delivered yet.
     int m_keysUnderWay = 0;
-    /// Whether the last key that was pressed was a command's.
+    /// Whether the last pressed key runs a command.
     bool m_isCommandHeld = false;
     QTimer m_due;
     QTimer m_patience;

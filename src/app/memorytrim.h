@@ -8,14 +8,14 @@ namespace vesk {
 
 class Application;
 
-/// Gives memory that is free back to the system, a while after the start and after each time that Vesk
-/// was hidden: what a search needed is not held for the hours until the next one.
+/// Returns free memory to the system a while after the start, and each time Vesk has been hidden for a while.
+/// What a search needed is not held until the next one, hours later.
 class MemoryTrim final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `application` has to outlive this.
+    /// `application` must outlive this object.
     explicit MemoryTrim(Application &application);
 
 private:

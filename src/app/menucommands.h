@@ -12,8 +12,8 @@ namespace vesk {
 
 class NoteEditorController;
 
-/// The commands of the program's File and Format menus, with their keys inside its windows. A key is
-/// compared with what stands on it in the user's layout, with and without Shift.
+/// The commands of the File and Format menus, and their keys in Vesk's windows. A key matches if it has the
+/// command's character in the user's layout, with or without Shift.
 class MenuCommands final : public QObject
 {
     Q_OBJECT
@@ -31,19 +31,20 @@ public:
     };
     Q_ENUM(Command)
 
-    /// Listens to the keys of the program's windows; those of the Format menu are for the panel, whose
-    /// open note `editor` stands for. Both have to outlive the commands.
+    /// Listens to the keys of the program's windows. Those of the Format menu act on the open note of the
+    /// panel, through `editor`. Both must outlive this object.
     MenuCommands(QWindow &panel, NoteEditorController &editor);
 
-    /// As the menus show it.
+    /// The title in the menus.
     [[nodiscard]] static QString title(Command command);
-    /// Empty for a command whose key works everywhere, and so also in Vesk's windows.
+    /// Empty for a command with a global key, which works in Vesk's windows too.
     [[nodiscard]] static QKeySequence keys(Command command);
-    /// A command of the Format menu is done at once, and does nothing without an open note.
+    /// Carries out a command of the Format menu, which does nothing without an open note; emits `chosen` for
+    /// a command of the File menu.
     void perform(Command command);
 
 Q_SIGNALS:
-    /// A command of the File menu was chosen.
+    /// Emitted when a command of the File menu was chosen.
     void chosen(vesk::MenuCommands::Command command);
 
 private:

@@ -11,9 +11,9 @@ class QQmlEngine;
 
 namespace vesk {
 
-/// A small window above all others that tells the user something and has one or two buttons. Closing it,
-/// or Escape, is the same as the second button, or as the only one. It fits on the screen under the
-/// pointer; a longer text scrolls. A key that is held answers nothing.
+/// A small window above all others with a message and one or two buttons. Closing it or pressing Escape is
+/// like the second button, or the only one. It fits on the screen with the pointer; a longer text scrolls.
+/// Holding a key down does not press a button.
 class MessageWindow final : public QObject
 {
     Q_OBJECT
@@ -24,11 +24,11 @@ public:
         QString heading;
         QString message;
         QString acceptLabel;
-        /// Empty for no second button.
+        /// Empty if there is no second button.
         QString rejectLabel;
-        /// A longer text to look through and copy from, under the message; empty for none.
+        /// A longer text under the message, to read and copy from; empty if there is none.
         QString details = {};
-        /// Whether the second button loses something: then the first has the keyboard at first, and
+        /// Whether the second button loses something. If so, the first button has the keyboard at first and
         /// Escape does nothing.
         bool isRejectCostly = false;
     };
@@ -40,14 +40,14 @@ public:
     };
 
     enum class Arrival {
-        /// The user has asked for it: the button that loses nothing has the keyboard at first.
+        /// The user has asked for the window: the button that loses nothing has the keyboard at first.
         Asked,
-        /// It comes up by itself, and the keys that the user is typing are not meant for it: no button has
-        /// the keyboard at first, and no key answers until the keyboard has been quiet for a moment.
+        /// The window opens by itself, and the keys that the user is typing are not meant for it: no button
+        /// has the keyboard at first, and keys are ignored until the keyboard has been quiet for a moment.
         Unasked,
     };
 
-    /// Hidden at first. The engine must be lent its surroundings before, and must outlive the window.
+    /// Hidden at first. `lendToEngine` must have been called for the engine, which must outlive the window.
     MessageWindow(QQmlEngine &engine, const Content &content);
     ~MessageWindow() override;
 
@@ -70,15 +70,15 @@ private Q_SLOTS:
     void onRejected() { Q_EMIT rejected(Rejection::ByButton); }
 
 private:
-    /// Gives the window the size of what it shows, and no other.
+    /// Fixes the window's size to that of its content.
     void fit();
-    /// Makes the window no larger than its screen, and puts it into the middle.
+    /// Limits the window to its screen and centres it.
     void place();
-    /// Whether a key of the window must not be acted on.
+    /// Whether a key press must be ignored.
     [[nodiscard]] bool isSwallowed(const QKeyEvent &event);
 
     QQuickView m_view;
-    /// Runs while keys that are typed may be meant for another window.
+    /// Runs while typed keys may be meant for another window.
     QTimer m_guard;
     bool m_isUnasked = false;
     bool m_isRejectCostly;

@@ -5,8 +5,8 @@
 
 namespace vesk {
 
-/// Has the desktop show a notification, for when there can be no window of our own. Waits for it to be
-/// taken, for a second at most; does nothing where nobody shows notifications.
+/// Shows a desktop notification, for when Vesk cannot show a window. Waits at most a second for the
+/// notification service. Does nothing if there is none.
 void notifyUser(const QString &summary, const QString &body);
 
 } // namespace vesk

@@ -11,25 +11,25 @@ namespace vesk {
 
 class Application;
 
-/// Shows Vesk's questions one at a time, and none while the user writes in the quick-note box: the words
-/// would go to the question, and a Space among them could answer it. Owned by the application.
+/// Shows Vesk's questions one at a time, and none while the user writes in the quick-note box: what is typed
+/// would go to the question, and a space could answer it. Owned by the application.
 class Questions final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Must outlive it.
+    /// `application` must outlive this object.
     explicit Questions(Application &application);
 
-    /// Takes what is shown away, and keeps every question back until `resume`.
+    /// Hides the current question, and holds back all questions until `resume`.
     void pause();
     void resume();
 
     /// Shows a question that the user has asked for, or brings it forward.
     void showAsked(MessageWindow &window) { show(window, MessageWindow::Arrival::Asked); }
-    /// Shows a question that comes up by itself. The keys that are typed in its first moments answer nothing.
+    /// Shows a question that opens by itself. Keys that are typed in its first moments are ignored.
     void showUnasked(MessageWindow &window) { show(window, MessageWindow::Arrival::Unasked); }
-    /// Takes the question away and gives the keyboard back to the window that had it.
+    /// Hides the question and gives the keyboard back to the window that had it.
     void hide(MessageWindow &window);
 
 private:

@@ -8,8 +8,8 @@
 
 namespace vesk {
 
-/// Lets the program end in order when the session, or a terminal, tells it to (SIGTERM, SIGINT,
-/// SIGHUP). One for the program.
+/// Quits the program properly when the session or a terminal asks it to (SIGTERM, SIGINT, SIGHUP). One per
+/// program.
 class QuitSignals final : public QObject
 {
     Q_OBJECT

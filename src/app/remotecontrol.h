@@ -15,15 +15,15 @@ class ApplicationService;
 class Clock;
 class NotesStore;
 
-/// The interface org.vesk.Vesk on the session bus: what the keys do, for scripts, and for desktops on
-/// which a program cannot have keys of its own. Only the user's own processes reach that bus.
+/// The interface org.vesk.Vesk on the session bus: the commands of the keys, for scripts and for desktops on
+/// which a program cannot have global keys. Only the user's own processes can reach that bus.
 class RemoteControl final : public QDBusAbstractAdaptor
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.vesk.Vesk")
 
 public:
-    /// What the methods of the same names do. One that is empty answers that it is not supported.
+    /// What the methods with the same names do. An empty one returns the error NotSupported.
     struct Commands
     {
         std::function<void()> toggle = {};
@@ -36,15 +36,15 @@ public:
         std::function<void()> savePrompt = {};
         std::function<void()> quickNote = {};
         std::function<void()> quickChecklist = {};
-        /// Keeps the text as a new note; returns why it is not on the disk yet, or nothing if it is.
+        /// Saves the text as a new note. Returns why it is not on the disk yet; empty if it is.
         std::function<QString(const QString &)> addNote = {};
         std::function<KeysReport()> keys = {};
     };
 
-    /// Owned by the service, under whose name and path it is called.
+    /// Owned by the service, which exports it under its own name and path.
     RemoteControl(ApplicationService &service, Commands commands);
 
-    /// From now on answers every command with `reason`, except Quit, and AddNote while there is a store.
+    /// From now on refuses every command with `reason`, except Quit, and AddNote while there is a store.
     void refuseCommands(const QString &reason) { m_refusal = reason; }
 
 public Q_SLOTS:
@@ -65,11 +65,11 @@ public Q_SLOTS:
     void QuickNote(const QDBusMessage &message) const { carryOut(m_commands.quickNote, message); }
     void QuickChecklist(const QDBusMessage &message) const { carryOut(m_commands.quickChecklist, message); }
     void AddNote(const QString &text, const QDBusMessage &message) const;
-    /// Returns a map for each combination, and what is wrong with the user's file.
+    /// Returns a map for each combination, and the problems in the user's file.
     [[nodiscard]] QList<QVariantMap> Keys(QStringList &problems) const;
 
 private:
-    /// Answers the caller first: what a command does may take its time.
+    /// Replies to the caller before it runs the command, which may take long.
     static void carryOut(const std::function<void()> &command, const QDBusMessage &message,
                          const QString &refusal);
     void carryOut(const std::function<void()> &command, const QDBusMessage &message) const

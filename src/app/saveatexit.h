@@ -7,8 +7,8 @@ namespace vesk {
 
 class NotesStore;
 
-/// While it lives, what is pending in the store is also written when the program is ended on the spot
-/// (`std::exit`), as the toolkit does once it has lost the display. One for the program.
+/// While it exists, pending changes are also written when the program exits at once (`std::exit`), as the
+/// toolkit does when it has lost the display. One per program.
 class SaveAtExit final
 {
 public:

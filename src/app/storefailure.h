@@ -6,8 +6,8 @@
 
 namespace vesk {
 
-/// What is said of the store at `path` that could not be opened; if only a copy of it helps, also how to go
-/// on with that.
+/// Returns the message about a store at `path` that could not be opened and, if only a copy helps, how to
+/// restore it.
 [[nodiscard]] MessageWindow::Content describeStoreFailure(const NotesStore::OpenResult &opened,
                                                           const QString &path, Date now);
 

@@ -11,7 +11,7 @@ namespace vesk {
 class Clock;
 class NotesStore;
 
-/// Looks once a minute whether the store's file is still there, so that a lost one is written anew although
+/// Checks once a minute whether the store's file is still there, so that a lost file is written again even if
 /// the user changes nothing.
 class StoreWatch final : public QObject
 {

@@ -12,7 +12,7 @@ namespace vesk {
 class NotesStore;
 class Pasteboard;
 
-/// Says at the end of a run that some texts are not in the file, and lets the user take them elsewhere. The
+/// Tells the user, when Vesk quits, that some texts are not in the file, and lets the user copy them. The
 /// list follows the store: texts may still arrive, or be written after all.
 class UnwrittenWindow final : public QObject
 {
@@ -25,7 +25,7 @@ public:
     void show() { m_window.show(); }
 
 Q_SIGNALS:
-    /// The user wants the program to end, or nothing is left to write.
+    /// Emitted when the user wants to quit, or nothing is left to write.
     void quitRequested();
 
 private:

@@ -35,18 +35,18 @@ class VeskApp final : public QObject
     Q_OBJECT
 
 public:
-    /// All have to outlive it.
+    /// All must outlive this object.
     VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, ApplicationService &service);
     ~VeskApp() override;
 
     void showPanel() { m_panelWindow.showPanel(); }
-    /// Shows in the panel that the daily copy could not be made; an empty text takes that away.
+    /// Shows in the panel that the daily copy could not be made; an empty text removes the message.
     void setCopyProblem(const QString &problem) { m_panel.setCopyProblem(problem); }
 
 private:
-    /// Lets other processes give the commands that the keys give.
+    /// Lets other processes give Vesk the commands of the keys.
     void offerCommands(Desktop &desktop, NotesStore &store, ApplicationService &service);
-    /// Says on standard error what is wrong with the user's choice of keys.
+    /// Prints the problems in the user's key settings to standard error.
     void tellOfKeys() const;
     void onAction(const QString &name);
     void perform(MenuCommands::Command command);
@@ -68,7 +68,7 @@ private:
     MenuCommands m_commands;
     MemoryTrim m_memoryTrim;
     std::unique_ptr<DesktopMenus> m_desktopMenus;
-    /// The service's, which answers other programs until it ends, after this object.
+    /// Owned by the service, which answers other programs and is destroyed after this object.
     QPointer<RemoteControl> m_remoteControl;
 };
 

@@ -15,13 +15,13 @@ class Pasteboard;
 class PasteboardWatcher;
 class Workspace;
 
-/// Puts a text of Vesk's into the application that the user came from. Owned by the application.
+/// Pastes a text into the application that the user came from. Owned by the application.
 class PasteBack final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What it works with; all of it outlives it.
+    /// All of them must outlive this object.
     struct Needs
     {
         Clock &clock;
@@ -32,25 +32,25 @@ public:
         EventPoster &poster;
     };
 
-    /// Why a text was only copied.
+    /// Why a text was copied but not pasted.
     enum class Refusal {
-        /// The window that the user came from is closed.
+        /// The window that the user came from has been closed.
         WindowClosed,
-        /// The window has lost the keyboard or does not take the keys.
+        /// The window lost the keyboard or does not accept the keys.
         NotTaken,
     };
 
     explicit PasteBack(const Needs &needs);
 
-    /// Puts `text` on the pasteboard, where it stays, hides this program and returns; pastes as soon
-    /// as the window that the user came from has the keyboard again. If it does not get it within 1
-    /// second, pastes into whatever application is frontmost then, unless that is or may be a terminal.
-    /// Never pastes into this program, into another window when the one that the user came from is closed,
-    /// or where the text would be taken for a password. A second call replaces one that still waits.
+    /// Copies `text` to the pasteboard, hides this program and returns. Pastes as soon as the window that the
+    /// user came from has the keyboard again. If that takes more than 1 second, pastes into the application
+    /// that is in front then, unless it is or may be a terminal. Never pastes into this program, into another
+    /// window if the one that the user came from is closed, or where the text would be taken for a password.
+    /// A second call replaces one that is still waiting.
     void pasteIntoPreviousApp(const QString &text);
 
 Q_SIGNALS:
-    /// The text was not pasted. It is on the pasteboard.
+    /// Emitted when the text was not pasted. It is on the pasteboard nevertheless.
     void refused(vesk::PasteBack::Refusal refusal);
 
 private:
@@ -60,7 +60,7 @@ private:
     [[nodiscard]] bool isAway() const;
 
     Needs m_needs;
-    /// Counts the calls, so that one that waits knows whether it still is the last.
+    /// Counts the calls, so that a waiting call can tell whether it is still the latest.
     int m_paste = 0;
 };
 

@@ -14,58 +14,58 @@ namespace vesk {
 class Clock;
 class Pasteboard;
 
-/// Knows how long ago the pasteboard's content came, and whether this program put it there. Owned by
-/// the application, one for the program.
+/// Knows how old the content of the pasteboard is, and whether this program put it there. Owned by the
+/// application, one per program.
 class PasteboardWatcher final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What is known of one content of the pasteboard.
+    /// What is known about one content of the pasteboard.
     struct Standing
     {
-        /// By the monotonic clock; none for content that was there before the watcher.
+        /// By the monotonic clock; nullopt for content that was there before the watcher.
         std::optional<std::chrono::microseconds> changedAt;
-        /// Whether this program wrote it by itself, to be pasted.
+        /// Whether this program wrote it.
         bool isOwn = false;
-        /// Tells the text from others, without keeping it; nullopt while it is not known.
+        /// A hash of the text, to recognise it without keeping it; nullopt while the text is not known.
         std::optional<size_t> fingerprint;
     };
 
     /// Both must outlive the watcher.
     PasteboardWatcher(Pasteboard &pasteboard, Clock &clock);
 
-    /// Begins to watch; a second call does nothing. Wakes up every 0.5 seconds, but where the
-    /// pasteboard reports its changes only for those.
+    /// Starts watching; a second call does nothing. Polls every 0.5 seconds, unless the pasteboard reports
+    /// its changes.
     void start();
 
-    /// Marks the content of now as this program's own. To be called right after writing it.
+    /// Marks the current content as this program's own. Must be called right after writing it.
     void markOwn();
 
-    /// What is known of the content of now. Content not seen before counts as having come just now.
+    /// Returns what is known about the current content. Content that was not seen before counts as new.
     [[nodiscard]] Standing standing();
-    /// Gives the content of now the standing that it had before it was away for a moment. To be
-    /// called right after it was written back.
+    /// Gives the current content the standing that it had before it was replaced for a moment. Must be called
+    /// right after it was written back.
     void markRestored(const Standing &standing);
 
-    /// The pasteboard's text without white space at its ends, if the user put it there within the
-    /// last `maximumAge`. Nullopt if it is older, this program's own, empty or not text. A content that
-    /// another program, such as a clipboard manager, has taken over is as old as it was.
+    /// Returns the pasteboard's text, trimmed, if the user copied it within the last `maximumAge`. Nullopt if
+    /// it is older, this program's own, empty or not text. Content that another program, such as a clipboard
+    /// manager, has taken over keeps its age.
     QCoro::Task<std::optional<QString>> recentCopy(std::chrono::milliseconds maximumAge);
 
 Q_SIGNALS:
-    /// There is content that was not seen before.
+    /// Emitted when there is new content.
     void changed();
 
 private:
     void look();
     QCoro::Task<> lookNowAndThen();
     [[nodiscard]] bool holdsOwn() const;
-    /// What is known of the content that was seen last.
+    /// What is known about the content that was seen last.
     [[nodiscard]] Standing current() const;
-    /// Reads the text of the content of now, to know it again.
+    /// Reads the current text, to recognise it later.
     QCoro::Task<> recognise();
-    /// Gives the content of now, with this text, the standing of the one before if it is the same.
+    /// Gives the current content the standing of the previous one if `text` is the same.
     void compareWithPrevious(const QString &text);
 
     Pasteboard &m_pasteboard;
@@ -75,9 +75,9 @@ private:
     qint64 m_changeCount;
     std::optional<std::chrono::microseconds> m_changedAt;
     std::optional<size_t> m_fingerprint;
-    /// False after an owner has gone that nobody has followed yet.
+    /// False while there is no owner.
     bool m_hasContents;
-    /// The content before, if there was any.
+    /// The previous content, if there was any.
     std::optional<Standing> m_previous;
     std::optional<qint64> m_ownPasteChangeCount;
 };

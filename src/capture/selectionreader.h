@@ -16,14 +16,14 @@ namespace vesk {
 class Accessibility;
 struct SelectedText;
 
-/// Reads what is selected in the frontmost application, and where. Owned by the application, one for
-/// the program.
+/// Reads what is selected in the frontmost application, and where that is. Owned by the application, one per
+/// program.
 class SelectionReader final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What it works with; all of it outlives it.
+    /// All of them must outlive this object.
     struct Needs
     {
         Accessibility &accessibility;
@@ -38,27 +38,27 @@ public:
     /// What was in front of the user when a key was pressed.
     struct SourceAtPress
     {
-        /// Without the page's address, which takes time.
+        /// Without the address of the page, which takes longer to read.
         CaptureSource source;
         qint64 processIdentifier = 0;
     };
 
-    /// What came of reading a selection.
+    /// The result of reading a selection.
     struct Reading
     {
         enum class Lack {
-            /// Nothing was missing, or nothing was selected.
+            /// The text is there, or nothing was selected.
             None,
-            /// The application left a question without an answer.
+            /// The application did not answer.
             NoAnswer,
-            /// The application says that something is selected, and did not hand it over.
+            /// The application says that something is selected but did not provide it.
             NotGiven,
-            /// The application was not made to copy, since what is on the pasteboard could not have been put
-            /// back.
+            /// The application was not asked to copy, because the content of the pasteboard could not have
+            /// been restored.
             PasteboardInTheWay,
         };
 
-        /// Without white space at its ends; nullopt if that leaves nothing.
+        /// Trimmed; nullopt if nothing is left.
         std::optional<QString> text = {};
         /// Why there is no text although something may be selected.
         Lack lack = Lack::None;
@@ -66,30 +66,29 @@ public:
 
     explicit SelectionReader(const Needs &needs);
 
-    /// The frontmost application and its window, as they are at the call. None if nothing is
-    /// frontmost, it has no name, or it is this program. The window's title is left out without the
-    /// user's trust, and where it only repeats the application's name.
+    /// Returns the frontmost application and its window at the time of the call. Nullopt if there is none, it
+    /// has no name, or it is this program. The window's title is left out if the user has not agreed to
+    /// reading, or if it only repeats the application's name.
     [[nodiscard]] std::optional<SourceAtPress> readSource() const;
 
-    /// The address of the web page around what has the keyboard in an application, within 300 ms;
-    /// none if there is none, or it is neither http nor https. Can be asked for while the selection
-    /// is being read.
+    /// Returns the address of the web page that has the keyboard in this process; nullopt if there is none,
+    /// it is neither http nor https, or the answer takes more than 300 ms. May run while the selection is
+    /// read.
     QCoro::Task<std::optional<QString>> readPageAddress(qint64 processIdentifier);
 
-    /// The selected text, or else what the user has copied within the last 8 seconds. There is none
-    /// without the user's trust. Where the selection cannot be read, the application is made to copy it;
-    /// the pasteboard then has what it had before. In a browser's address bar, the text is the whole address
-    /// even where the browser shows only a part. Texts beyond `kMaximumTextBytes` may be cut beyond that
-    /// size.
+    /// Returns the selected text, or else what the user copied within the last 8 seconds. Returns nothing if
+    /// the user has not agreed to reading. If the selection cannot be read, makes the application copy it and
+    /// then restores the pasteboard. In a browser's address bar, returns the whole address even if the
+    /// browser shows only part of it. Texts of more than `kMaximumTextBytes` may be cut off beyond that size.
     QCoro::Task<Reading> readSelection();
 
 private:
-    /// The selected text, by the way that fits; nullopt if there is none.
+    /// The selected text, read in the way that suits the application; nullopt if there is none.
     QCoro::Task<std::optional<QString>> readSelected(EventPoster::Target target, SelectedText selected);
 
     Needs m_needs;
     SyntheticCopy m_copy;
-    /// Of the reading that is under way, or the last one.
+    /// For the current reading, or the last one.
     bool m_wasPasteboardInTheWay = false;
 };
 

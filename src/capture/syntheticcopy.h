@@ -18,14 +18,14 @@ class Clock;
 class EventTap;
 class Workspace;
 
-/// Learns what is selected in the frontmost application by letting it copy, and puts back what the
-/// user had on the pasteboard. Owned by the selection reader.
+/// Finds out what is selected in the frontmost application by making it copy, and then restores the
+/// pasteboard. Owned by the selection reader.
 class SyntheticCopy final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What it works with; all of it outlives it.
+    /// All of them must outlive this object.
     struct Needs
     {
         Clock &clock;
@@ -38,18 +38,18 @@ public:
 
     explicit SyntheticCopy(const Needs &needs);
 
-    /// The text that the application copies in the window that the user pressed a key in, with any white
-    /// space at its ends. Nullopt if it copies nothing within 0.5 seconds, no text or only white space, if
-    /// the keys cannot be posted, if the user copies something before they are, or if an earlier question is
-    /// not answered yet. The pasteboard then has what it had before, or what the user has copied meanwhile.
+    /// Returns the text that the application copies in the window where the user pressed the key, not
+    /// trimmed. Nullopt if it copies nothing within 0.5 seconds, no text, or only white space; if the keys
+    /// cannot be posted; if the user copies something before they are; or if an earlier call is still
+    /// running. Afterwards the pasteboard has its previous content, or what the user has copied meanwhile.
     QCoro::Task<std::optional<QString>> copySelection(EventPoster::Target target);
 
-    /// Whether the last question was not asked because what is on the pasteboard could not have been put
-    /// back.
+    /// Whether the last call did not send any keys because the content of the pasteboard could not have been
+    /// restored.
     [[nodiscard]] bool wasPasteboardInTheWay() const { return m_wasPasteboardInTheWay; }
 
 private:
-    /// What the user has on the pasteboard.
+    /// The user's content of the pasteboard.
     struct Saved
     {
         QList<PasteboardItem> items;
@@ -63,28 +63,28 @@ private:
         /// By the monotonic clock.
         std::chrono::microseconds at{0};
     };
-    /// Whose a change of the pasteboard is.
+    /// Who made a change of the pasteboard.
     enum class Author {
-        /// The application's, by our keys.
+        /// The application, because of our keys.
         Asked,
-        /// The application's perhaps; or the platform cannot tell.
+        /// Perhaps the application, or the platform cannot tell.
         Unclear,
-        /// Not the application's.
+        /// Not the application.
         Another,
     };
-    /// A request that the application has not answered in time.
+    /// A request that the application did not answer in time.
     struct Late
     {
         Request request;
         Saved saved;
-        /// The user has done something since by which the application may have been told to copy.
+        /// Whether the user has done something since that may have made the application copy.
         bool isUserBusy = false;
     };
 
     QCoro::Task<std::optional<QString>> copyAndRestore(EventPoster::Target target);
     QCoro::Task<std::optional<QString>> takeAnswer(Request request, Saved saved);
     QCoro::Task<std::optional<QString>> takeCopy(Saved saved);
-    /// What is on the pasteboard; none if it changes meanwhile or could not be put back.
+    /// Reads the pasteboard; nullopt if it changes meanwhile or could not be restored.
     QCoro::Task<std::optional<Saved>> save();
     void restore(const Saved &saved);
     [[nodiscard]] Author authorOf(const Request &request) const;
@@ -99,7 +99,7 @@ private:
     Needs m_needs;
     bool m_isCopying = false;
     bool m_wasPasteboardInTheWay = false;
-    /// What is to be put back if the application still copies, after nobody waits for it any more.
+    /// What to restore if the application copies after the wait is over.
     std::optional<Late> m_late;
     /// Counts the waits for a late copy.
     int m_lateWait = 0;

@@ -8,17 +8,17 @@
 
 namespace vesk {
 
-/// Does what a command line asks for. One for the run of the program.
+/// Carries out a command line. One per program.
 class Client final
 {
     Q_DECLARE_TR_FUNCTIONS(vesk::Client)
 
 public:
-    /// `app` is the path of the program that shows the windows.
+    /// `app` is the path of the program with the windows.
     explicit Client(QString app);
 
-    /// Returns the program's exit status; what went wrong stands on standard error. Does not return if
-    /// this process becomes the application.
+    /// Returns the exit status; prints errors to standard error. Does not return if this process becomes the
+    /// application.
     [[nodiscard]] int run(const CommandLine &command);
 
 private:
@@ -28,7 +28,7 @@ private:
     [[nodiscard]] int keys(const CommandLine &command);
     [[nodiscard]] int addInput();
     [[nodiscard]] int add(const QString &text);
-    /// Adds to the store itself, while this process has the name of Vesk.
+    /// Adds to the store directly. This process must own the bus name of Vesk.
     [[nodiscard]] int addToStore(const QString &text);
     [[nodiscard]] int becomeApp(const QStringList &arguments);
 
@@ -36,7 +36,7 @@ private:
     Remote m_remote;
 };
 
-/// Prints one line on standard error.
+/// Prints one line to standard error.
 void sayError(const QString &message);
 
 } // namespace vesk

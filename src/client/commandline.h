@@ -8,25 +8,24 @@
 
 namespace vesk {
 
-/// What the words after `vesk` ask for.
+/// What the words after `vesk` mean.
 struct CommandLine
 {
     enum class Kind {
-        /// Start Vesk, or bring the running one up.
+        /// Start Vesk, or show the panel of the running one.
         Start,
-        /// Have `method` of the running Vesk called; start one if none runs.
+        /// Call `method` of the running Vesk, starting it if necessary.
         Call,
-        /// Let the running Vesk end.
+        /// Quit the running Vesk.
         Quit,
-        /// Keep `text` as a note.
+        /// Save `text` as a note.
         Add,
-        /// Keep standard input as a note.
+        /// Save standard input as a note.
         AddInput,
-        /// Print the notes.
         List,
-        /// Print the combinations of keys.
+        /// Print the global key combinations.
         Keys,
-        /// Ask or set whether Vesk may read other applications, by `arguments`.
+        /// Print or set whether Vesk may read other applications; see `arguments`.
         Access,
         Help,
         Version,
@@ -36,20 +35,20 @@ struct CommandLine
     /// Of the interface org.vesk.Vesk.
     QString method = {};
     QString text = {};
-    /// What is handed on to the program that shows the windows.
+    /// Passed on to the program with the windows.
     QStringList arguments = {};
     bool isInBackground = false;
     bool isJson = false;
 };
 
-/// Either a command line or what is wrong with it, in one sentence.
+/// Either a command line, or what is wrong with it in one sentence.
 struct ParsedCommandLine
 {
     std::optional<CommandLine> command;
     QString error;
 };
 
-/// `words` are those after the program's name.
+/// Parses the words after the program's name.
 [[nodiscard]] ParsedCommandLine parseCommandLine(const QStringList &words);
 
 /// What `vesk --help` prints.

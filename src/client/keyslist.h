@@ -7,10 +7,10 @@
 
 namespace vesk {
 
-/// One line for each combination, in columns: its keys, whether it works, the command and what it does.
+/// Formats one line per combination, in columns: its keys, whether it works, the command and what it does.
 [[nodiscard]] QByteArray keysAsLines(const KeysReport &report);
 
-/// The combinations as a JSON array of objects; `takenBy` is there for those that are taken.
+/// Formats the combinations as a JSON array of objects. Only those that are taken have `takenBy`.
 [[nodiscard]] QByteArray keysAsJson(const KeysReport &report);
 
 } // namespace vesk

@@ -10,55 +10,54 @@
 
 namespace vesk {
 
-/// The Vesk that runs in this session, seen from another process. Every call waits for its answer: the
-/// program that uses this does nothing else meanwhile.
+/// The Vesk that runs in this session, as seen from another process. Every call blocks until it is answered.
 class Remote final
 {
     Q_DECLARE_TR_FUNCTIONS(vesk::Remote)
 
 public:
-    /// How a call went; `error` says in one sentence why it failed, and is empty if it did not.
+    /// The result of a call. `error` says in one sentence why it failed, and is empty otherwise.
     struct Answer
     {
         bool isDone = false;
         QString error;
-        /// What the method returned.
         QVariantList values = {};
     };
 
     Remote();
 
-    /// Who has Vesk's name on the bus.
+    /// Who owns Vesk's name on the bus.
     enum class Owner {
         Nobody,
-        /// A Vesk that stays, whether or not it answers.
+        /// A running Vesk, whether or not it answers.
         Vesk,
-        /// A command that is adding a note at this moment.
+        /// A command that is just adding a note.
         Command,
     };
 
-    /// Without the session's bus nothing else here works.
+    /// Without a session bus, nothing else here works.
     [[nodiscard]] bool hasBus() const;
     [[nodiscard]] Owner owner() const;
-    /// Waits for a command that has the name.
+    /// If a command owns the name, waits until it is done.
     [[nodiscard]] bool isRunning() const;
 
-    /// Has the running Vesk come forward.
+    /// Shows the panel of the running Vesk.
     [[nodiscard]] Answer activate();
-    /// Calls a method of org.vesk.Vesk. Waits up to 10 s, for a Vesk that has only just started.
+    /// Calls a method of org.vesk.Vesk. Waits up to 10 s, since Vesk may have only just started.
     [[nodiscard]] Answer call(const QString &method, const QVariantList &arguments = {});
 
-    /// Starts `program` in the background, detached from the terminal, and waits until it answers on the
-    /// bus, up to 15 s. Fails if it ends before.
+    /// Starts `program` in the background, detached from the terminal, and waits up to 15 s until it answers
+    /// on the bus. Fails if it exits before that.
     [[nodiscard]] Answer start(const QString &program);
 
-    /// Takes Vesk's name for the rest of this process, so that none starts meanwhile; false if one runs.
+    /// Takes Vesk's name until this process exits, so that no Vesk can start meanwhile. Returns false if the
+    /// name is taken.
     [[nodiscard]] bool takeName();
 
-    /// Waits until the Vesk that was told to quit is gone, up to 10 s.
+    /// Waits up to 10 s until the Vesk that was told to quit has exited.
     [[nodiscard]] Answer waitForEnd();
 
-    /// Waits a moment before something is asked again.
+    /// Waits a moment before the next attempt.
     static void pause();
 
 private:

@@ -29,14 +29,14 @@ class PanelWindow;
 class Sounds;
 class Toast;
 
-/// Turns global key presses into stored notes and prompts. Owned by the application, one for the
-/// program.
+/// Carries out the commands of the global keys: saves selected text as notes and prompts, and opens the
+/// panel. Owned by the application, one per program.
 class VeskServices final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What the hub works with; all of it outlives the hub.
+    /// All of them must outlive this object.
     struct Needs
     {
         Clock &clock;
@@ -51,14 +51,14 @@ public:
         PanelWindow &panelWindow;
         QuickNoteBox &quickNote;
         Toast &toast;
-        /// Identifiers of applications that keep the checklist's combination for themselves.
+        /// Identifiers of applications that keep the checklist combination for themselves.
         std::span<const QStringView> checklistKeyOwners = hotkeytable::kChecklistKeyOwners;
     };
 
-    /// Where captured text goes.
+    /// Where the captured text goes.
     enum class Target {
         NewNote,
-        /// The note changed last, or a new one if there is none.
+        /// The note changed last, or a new note if there is none.
         LastNote,
         /// A new note with a checkbox for each line.
         NewChecklist,
@@ -66,27 +66,28 @@ public:
 
     explicit VeskServices(const Needs &needs);
 
-    /// Registers the hot keys, and listens for the double Shift while the user lets it. To be called
-    /// once. A combination that is taken does nothing.
+    /// Claims the hot keys, and listens for the double Shift while the user agrees. Must be called once.
+    /// Combinations that are taken do nothing.
     void start();
 
-    /// Keeps what is selected in the frontmost application. Ignored within 2 seconds of the last
-    /// capture. With nothing selected, or without the user's trust, the quick-note box opens; while it
-    /// is open, it is closed instead.
+    /// Saves what is selected in the frontmost application. Ignored within 2 seconds of the last capture. If
+    /// nothing is selected, or the user has not agreed to reading, opens the quick-note box; if that is open
+    /// already, closes it instead.
     void capture(Target target);
 
-    /// Adds what is selected as checkboxes to the checklist changed last, or makes it one if there is
-    /// none. Ignored within 2 seconds of the last capture.
+    /// Adds what is selected as checkboxes to the checklist changed last, or to a new one if there is none.
+    /// Ignored within 2 seconds of the last capture.
     void addSelectionToChecklist();
 
-    /// Keeps what is selected as a prompt. Ignored within 2 seconds of the last prompt; does nothing
-    /// if nothing is selected.
+    /// Saves what is selected as a prompt. Ignored within 2 seconds of the last prompt. Does nothing if
+    /// nothing is selected.
     void savePrompt();
 
-    /// Gives the checklist's combination up while its owner is frontmost, and takes it again after.
+    /// Gives up the checklist combination while an application that uses it is in front, and claims it again
+    /// afterwards.
     void updateChecklistKey(const std::optional<QString> &frontmostBundleID);
 
-    /// Asks the user for trust; once in a run.
+    /// Asks the user for permission to read, at most once per run.
     void askForAccessOnce();
 
 private:
@@ -97,18 +98,19 @@ private:
         QString text;
         std::optional<CaptureSource> source;
     };
-    /// What came of asking for the selection.
+    /// The result of asking for the selection.
     struct Reading
     {
         /// Nullopt if there is none.
         std::optional<Selection> selection = {};
-        /// For the user: why there is none although something may be selected. Empty for no such reason.
+        /// Tells the user why there is none although something may be selected. Empty if there is nothing to
+        /// say.
         QString remark = {};
     };
 
     void perform(quint32 id);
     void performNow(quint32 id);
-    /// Marks a reading as under way for as long as what is returned lives.
+    /// Marks a reading as under way for the lifetime of the returned object.
     [[nodiscard]] auto beginReading()
     {
         ++m_readings;
@@ -121,24 +123,24 @@ private:
     void holdBack(quint32 id);
     QCoro::Task<> stopHoldingLater();
     void performHeldBack();
-    /// Listens for the double Shift as far as the user lets it and wants it.
+    /// Listens for the double Shift if the user has agreed to it and wants it.
     void followTrust();
-    /// Whether a command follows the last one too soon; if not, it is the last one from now on.
+    /// Returns whether a command follows the last one too soon. If not, records it as the last one.
     [[nodiscard]] bool isWithinGap(Instant &last) const;
 
     QCoro::Task<> captureSelection(Target target, Source press);
     QCoro::Task<> addToChecklist(Source press);
     QCoro::Task<> savePromptSelection();
-    /// What is selected, with the page's address in its source.
+    /// Reads what is selected, with the address of the page in its source.
     QCoro::Task<Reading> readSelection(Source press);
 
     void keep(const Selection &selection, Target target);
     void keepInChecklist(const Selection &selection);
     void keepPrompt(const QString &text);
     void insertNote(const QString &text, const std::optional<CaptureSource> &source);
-    /// Says so if a text is longer than Vesk takes.
+    /// Returns true, and tells the user, if a text is too long to keep.
     [[nodiscard]] bool refuseTooLong(const QString &text);
-    /// Saves, then tells the user; in this order, so that what is said to be saved is.
+    /// Saves, and then tells the user, so that the message is true.
     void saveAndConfirm(const QString &message, const QString &symbol);
     void confirm(const QString &message, const QString &symbol);
     void tellNotSaved();
@@ -147,14 +149,14 @@ private:
 
     Needs m_needs;
     DoubleShiftMonitor m_doubleShift;
-    /// When the last capture, and the last double Shift, were accepted; none before the first.
+    /// When the last capture and the last double Shift were accepted; nullopt before the first.
     Instant m_lastCapture;
     Instant m_lastPrompt;
     bool m_hasAskedForAccess = false;
     int m_readings = 0;
-    /// The keys of the panel that were pressed during a reading, each once.
+    /// The panel commands that were given during a reading, each once.
     QList<quint32> m_heldBack;
-    /// Counts the times that keys were held back.
+    /// Counts how often commands were held back.
     int m_holds = 0;
 };
 

@@ -11,25 +11,24 @@ namespace vesk {
 class EventTap;
 struct ModifierChange;
 
-/// Notices two taps of Shift in quick succession, with nothing else pressed between. Owned by whoever
-/// acts on it.
+/// Detects two quick taps of Shift with nothing else pressed in between. Owned by the class that acts on it.
 class DoubleShiftMonitor final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Does not listen yet. The tap has to outlive the monitor.
+    /// Does not listen yet. `tap` must outlive the monitor.
     explicit DoubleShiftMonitor(EventTap &tap);
 
-    /// Begins to listen. Does nothing if it listens already; where listening is not allowed yet, a
-    /// later call tries again.
+    /// Starts listening. Does nothing if it already listens. If listening is not allowed yet, a later call
+    /// tries again.
     void start();
-    /// Ends to listen, and forgets a tap that was made.
+    /// Stops listening, and forgets a first tap.
     void stop();
 
 Q_SIGNALS:
-    /// Shift was tapped twice; the second tap has ended 0.4 seconds after the first at the latest. A
-    /// third tap begins anew.
+    /// Emitted when Shift was tapped twice and the second tap ended at most 0.4 seconds after the first. A
+    /// third tap counts as the first of the next pair.
     void doubleShift();
 
 private:
@@ -40,12 +39,12 @@ private:
 
     EventTap &m_tap;
     bool m_isListening = false;
-    /// When the last single tap ended.
+    /// When the first tap of a pair ended.
     std::optional<std::chrono::milliseconds> m_lastTap;
-    /// Whether Shift, and no other modifier, is held.
+    /// Whether only Shift is held.
     bool m_shiftIsDown = false;
     bool m_isAnyHeld = false;
-    /// Whether a key, a mouse button or the wheel was used with the modifiers that are held.
+    /// Whether a key, a mouse button or the wheel was used while the current modifiers were held.
     bool m_isUsed = false;
 };
 

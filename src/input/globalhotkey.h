@@ -7,19 +7,20 @@
 
 namespace vesk {
 
-/// One system-wide key combination. Owned by whoever acts on it.
+/// One global key combination. Owned by the class that acts on it.
 class GlobalHotKey final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Claims nothing yet. `id` is unique among all hot keys on the same platform object, which has
-    /// to outlive this one.
+    /// Claims nothing yet. `id` must be unique among the hot keys of `hotKeys`, which must outlive this
+    /// object.
     GlobalHotKey(quint32 id, HotKeys &hotKeys);
-    /// Gives the combination up.
+    /// Gives up the combination.
     ~GlobalHotKey() override;
 
-    /// Claims a combination in place of the one before. False, and inert, if it is not to be had.
+    /// Claims a combination in place of the previous one. Returns false, with nothing claimed, if it is
+    /// taken.
     bool registerKey(KeyCombination combination);
     void unregisterKey();
     [[nodiscard]] bool isRegistered() const { return m_isRegistered; }

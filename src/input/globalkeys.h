@@ -12,8 +12,8 @@
 
 namespace vesk {
 
-/// The combinations by which Vesk is reached from everywhere, as the user wants them, and whether each of
-/// them works. Owned by the application, one for the program.
+/// The global key combinations as the user wants them, and whether each of them works. Owned by the
+/// application, one per program.
 class GlobalKeys final : public QObject
 {
     Q_OBJECT
@@ -21,18 +21,18 @@ class GlobalKeys final : public QObject
 public:
     enum class State {
         Works,
-        /// Another program has the combination; `holders` may tell which.
+        /// Another program has the combination; `holders` may name it.
         Taken,
         /// The user has switched it off.
         Off,
-        /// Shift is not listened to, as the user does not let Vesk.
+        /// Vesk does not listen to Shift, because the user has not agreed.
         NoAccess,
     };
 
     struct Key
     {
         HotKeyRow row;
-        /// None if it is switched off.
+        /// Nullopt if it is switched off.
         std::optional<KeyCombination> combination;
         State state = State::Off;
 
@@ -42,42 +42,43 @@ public:
         }
     };
 
-    /// Claims nothing yet. `path` is that of the user's file; it need not exist.
+    /// Claims nothing yet. `path` is the user's file, which need not exist.
     GlobalKeys(HotKeys &hotKeys, const QString &path);
 
-    /// Claims the combinations, and from then on follows the file and the keyboard's layout.
+    /// Claims the combinations, and follows the file and the keyboard layout from now on.
     void start();
-    /// Tries again to claim what was taken: the other program may have given it up.
+    /// Tries again to claim what was taken, in case the other program has given it up.
     void retry();
 
-    /// Leaves one combination to the applications, or takes it again.
+    /// Leaves a combination to the applications, or claims it again.
     void setLeftToApplications(quint32 id, bool isLeft);
-    /// Tells whether Shift is listened to.
+    /// Must be called whenever Vesk starts or stops listening to Shift.
     void setShiftHeard(bool isHeard);
 
     /// In the order of `hotkeytable::kAll`.
     [[nodiscard]] const std::vector<Key> &keys() const { return m_keys; }
     [[nodiscard]] const Key &key(const HotKeyRow &row) const { return m_keys.at(row.id - 1); }
-    /// Whether two taps of Shift are to save a prompt.
+    /// Whether the user wants two taps of Shift to save a prompt.
     [[nodiscard]] bool isDoubleShiftWanted() const;
-    /// The programs of which one has what is taken; empty if nothing is, or nobody can tell.
+    /// The programs one of which has a taken combination; empty if none is taken, or the platform cannot
+    /// tell.
     [[nodiscard]] const QStringList &holders() const { return m_holders; }
-    /// What is wrong with the user's file, one sentence or two each.
+    /// The problems in the user's file, one or two sentences each.
     [[nodiscard]] const QStringList &problems() const { return m_problems; }
     [[nodiscard]] const QString &path() const { return m_file.path(); }
     [[nodiscard]] const HotKeys &keyboard() const { return m_hotKeys; }
 
 Q_SIGNALS:
-    /// The combination of `hotkeytable`'s row with this `id` was pressed.
+    /// Emitted when the combination of the row `id` of `hotkeytable` was pressed.
     void pressed(quint32 id);
-    /// A combination, its state, the holders, or what is printed on a key is another one.
+    /// Emitted when a combination, its state, the holders, or the label of a key has changed.
     void changed();
-    /// There are other problems than before, or none any more.
+    /// Emitted when `problems` has changed.
     void problemsChanged();
 
 private:
     void followChange();
-    /// Claims what can be claimed. Whether anything is not as it was.
+    /// Claims what can be claimed. Returns whether anything has changed.
     bool apply();
     [[nodiscard]] State claim(size_t place);
 

@@ -9,19 +9,19 @@
 
 namespace vesk {
 
-/// One of Vesk's own key combinations.
+/// One of Vesk's global key combinations.
 struct HotKeyRow
 {
     quint32 id;
-    /// Unless the user has chosen another.
+    /// The default.
     KeyCombination combination;
-    /// The words after `vesk` that do the same; the name of the combination in the user's file.
+    /// The words after `vesk` that do the same, which also name the combination in the user's file.
     QStringView command;
-    /// To be translated.
+    /// Must be translated before it is shown.
     const char *purpose;
 };
 
-/// The combinations by which Vesk is reached from everywhere.
+/// The global key combinations.
 namespace hotkeytable {
 
 inline constexpr Qt::KeyboardModifiers kBase = Qt::MetaModifier | Qt::AltModifier;
@@ -62,20 +62,20 @@ inline constexpr HotKeyRow kAddToChecklist{
     .combination = {.key = KeyPosition::C, .modifiers = kBase | Qt::ShiftModifier},
     .command = u"add-to-checklist",
     .purpose = QT_TRANSLATE_NOOP("vesk::KeysReport", "add the selected lines to the checklist changed last")};
-/// Saves the selection as a prompt. Shift together with Shift stands for two taps of it, which are no
-/// combination that could be claimed.
+/// Saves the selection as a prompt. Shift with Shift stands for two taps of Shift, which are not a
+/// combination that can be claimed.
 inline constexpr HotKeyRow kSavePrompt{
     .id = 7,
     .combination = {.key = KeyPosition::LeftShift, .modifiers = Qt::ShiftModifier},
     .command = u"save-prompt",
     .purpose = QT_TRANSLATE_NOOP("vesk::KeysReport", "save the selected text as a prompt")};
 
-/// In the order of their identifiers, which begin with 1.
+/// In the order of their identifiers, which start at 1.
 inline constexpr std::array kAll{kQuickNote, kAppend,         kOpen,      kWrite,
                                  kChecklist, kAddToChecklist, kSavePrompt};
 
-/// Applications that have `kChecklist`'s combination for themselves, and keep it while they are
-/// frontmost. No file manager of this desktop does.
+/// Applications that use the combination of `kChecklist` themselves, and keep it while they are in front. No
+/// file manager of this desktop does.
 inline constexpr std::array<QStringView, 0> kChecklistKeyOwners{};
 
 } // namespace hotkeytable

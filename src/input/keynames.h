@@ -7,18 +7,19 @@
 
 #include <optional>
 
-/// How keys and combinations are called where the user writes and reads them. `keyboard` tells what is
-/// printed on the user's keys; where it is null or cannot tell, the keyboard is an ANSI one.
+/// The names of keys and combinations that the user writes and reads. `keyboard` says what is printed on the
+/// user's keys; if it is null or cannot tell, an ANSI keyboard is assumed.
 namespace vesk::keynames {
 
-/// The key with this name, as "Space", or with this one character. None if there is no such key.
+/// Returns the key with this name, such as "Space", or with this single character. Nullopt if there is none.
 [[nodiscard]] std::optional<KeyPosition> findKey(QStringView name, const HotKeys *keyboard);
-/// Empty for a key that has neither a character nor a name.
+/// Returns the name of a key; empty if it has neither a character nor a name.
 [[nodiscard]] QString nameOf(KeyPosition key, const HotKeys *keyboard);
 
-/// As it is written in a file, as "Super+Alt+N"; Shift tapped twice is "Shift Shift".
+/// Returns the combination as written in the user's file, such as "Super+Alt+N". Shift tapped twice is
+/// "Shift Shift".
 [[nodiscard]] QString written(KeyCombination combination, const HotKeys *keyboard);
-/// Key by key in the notation of Vesk's texts: glyphs and the letters that are printed on the keys.
+/// Returns the combination key by key as Vesk's texts show it: glyphs, and the letters printed on the keys.
 [[nodiscard]] QStringList glyphs(KeyCombination combination, const HotKeys *keyboard);
 
 } // namespace vesk::keynames

@@ -10,18 +10,18 @@
 
 namespace vesk {
 
-/// The combinations as the user wants them.
+/// The combinations that the user has chosen.
 struct KeySettings
 {
-    /// In the order of `hotkeytable::kAll`; none for one that is switched off.
+    /// In the order of `hotkeytable::kAll`; nullopt for one that is switched off.
     std::array<std::optional<KeyCombination>, hotkeytable::kAll.size()> combinations;
-    /// What is wrong with the user's lines, a sentence or two each.
+    /// The problems in the user's lines, one or two sentences each.
     QStringList problems;
 };
 
-/// Reads the text of the user's file: on each line a command, "=" and its combination, or nothing or
-/// "none" to switch it off; "#" or ";" begins a remark. A line that is wrong leaves its command as it is
-/// by default. `keyboard` tells where the user's letters are; null for an ANSI keyboard.
+/// Parses the user's file. Each line has a command, "=" and its combination, or nothing or "none" to switch
+/// the command off; lines that start with "#" or ";" are comments. A command whose line is wrong keeps its
+/// default. `keyboard` says where the user's letters are; null stands for an ANSI keyboard.
 [[nodiscard]] KeySettings readKeySettings(const QString &text, const HotKeys *keyboard);
 
 } // namespace vesk

@@ -7,7 +7,7 @@
 
 namespace vesk {
 
-/// The file in which the user may choose other combinations. Vesk only reads it.
+/// The file in which the user can choose key combinations. Vesk only reads it.
 class KeysFile final : public QObject
 {
     Q_OBJECT
@@ -15,18 +15,18 @@ class KeysFile final : public QObject
 public:
     /// `$XDG_CONFIG_HOME/Vesk/Keys.conf`.
     [[nodiscard]] static QString standardPath();
-    /// What stands in the file at `path`; empty if there is none.
+    /// Returns the content of the file; empty if there is none.
     [[nodiscard]] static QString read(const QString &path);
 
-    /// Watches the file from now on, also while it does not exist.
+    /// Starts watching the file, which need not exist yet.
     explicit KeysFile(QString path);
 
     [[nodiscard]] const QString &path() const { return m_path; }
     [[nodiscard]] const QString &text() const { return m_text; }
 
 Q_SIGNALS:
-    /// The text is another one. Told once a change is over, and not before: editors write a file in parts,
-    /// or remove it and put another in its place.
+    /// Emitted when the text has changed, once the change is complete: editors write a file in parts, or
+    /// remove it and put another in its place.
     void changed();
 
 private:

@@ -11,7 +11,7 @@ namespace vesk {
 
 class GlobalKeys;
 
-/// What there is to tell about the combinations, for other processes and for people.
+/// The state of the key combinations, for other processes and for people.
 struct KeysReport
 {
     Q_DECLARE_TR_FUNCTIONS(vesk::KeysReport)
@@ -21,24 +21,24 @@ public:
     {
         /// The words after `vesk` that do the same.
         QString command;
-        /// As they are printed on the user's keyboard; empty if they are switched off.
+        /// As printed on the user's keyboard; empty if switched off.
         QString keys;
         QString purpose;
         /// "works", "taken", "off", "no-access" or, without a running Vesk, "unknown".
         QString state;
-        /// The programs of which one has what is taken; empty if that cannot be told.
+        /// The programs one of which has the combination; empty if it is not taken or nobody can tell.
         QStringList takenBy;
     };
 
     QList<Key> keys;
-    /// What is wrong with the user's file.
+    /// The problems in the user's file.
     QStringList problems;
 
     [[nodiscard]] static KeysReport of(const GlobalKeys &keys);
-    /// What the user's file says, with the keys called as on an ANSI keyboard.
+    /// Returns what the user's file says, with the keys of an ANSI keyboard.
     [[nodiscard]] static KeysReport withoutVesk(const QString &fileText);
 
-    /// Each key as it is sent to another process, by the names of its fields; and the way back.
+    /// Converts the keys to and from the maps that are sent to another process, keyed by field name.
     [[nodiscard]] QList<QVariantMap> toMaps() const;
     [[nodiscard]] static KeysReport fromMaps(const QList<QVariantMap> &maps, const QStringList &problems);
 };
