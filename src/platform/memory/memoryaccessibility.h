@@ -10,13 +10,13 @@
 
 namespace vesk {
 
-/// Other applications' user interfaces as a test describes them.
+/// Other applications' user interfaces, as set by a test.
 class MemoryAccessibility final : public Accessibility
 {
     Q_OBJECT
 
 public:
-    /// One element as a test lays it out.
+    /// One element, as set by a test.
     struct Element
     {
         QString role;
@@ -38,16 +38,16 @@ public:
     void setTrusted(bool isTrusted);
     [[nodiscard]] int askCount() const { return m_askCount; }
     void setFocusedWindowTitle(qint64 processIdentifier, const QString &title);
-    /// Puts an element in place of what stood under its name.
+    /// Adds an element, or replaces the one with the same name.
     void setElement(const AccessibleElement &name, const Element &element);
-    /// What has the keyboard, for the system-wide element and for the element's application; none
-    /// for nothing.
+    /// Sets the element that has the keyboard, for the system-wide element and for the element's application;
+    /// nullopt for none.
     void setFocusedElement(const std::optional<AccessibleElement> &name) { m_focused = name; }
-    /// What is selected where the keyboard is.
+    /// Sets what is selected in the element that has the keyboard.
     void setSelectedText(const SelectedText &selected) { m_selected = selected; }
-    /// The page that every application shows; nullopt for none.
+    /// Sets the page that every application shows; nullopt for none.
     void setShownPage(const std::optional<AccessibleElement> &name) { m_shownPage = name; }
-    /// Lets every answer take this long; zero answers at once, without suspending.
+    /// Makes every answer take this long. With zero, answers come at once, without suspending.
     void setDelay(std::chrono::milliseconds delay) { m_delay = delay; }
 
 private:

@@ -5,7 +5,7 @@
 
 namespace vesk {
 
-/// A desktop's looks as a test sets them.
+/// The looks of the desktop, as set by a test.
 class MemoryAppearance final : public Appearance
 {
     Q_OBJECT

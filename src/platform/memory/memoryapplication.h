@@ -8,8 +8,7 @@
 
 namespace vesk {
 
-/// This program among no others: it hides and shows its real windows, and a test takes the keyboard
-/// away from it.
+/// This program without any others. It hides and shows its real windows; a test can take the keyboard away.
 class MemoryApplication final : public Application
 {
     Q_OBJECT
@@ -27,15 +26,15 @@ public:
     void activate(QWindow &window) override;
     void giveKeyboardBack(QWindow &window) override;
 
-    /// Plays the user turning to another application.
+    /// Simulates the user switching to another application.
     void resignActive();
-    /// Plays a window manager that has, or has not, given the keyboard to the window that had it.
+    /// Sets whether the window manager has given the keyboard back to the previous window.
     void setAway(bool isAway) { m_isAway = isAway; }
-    /// Plays that the window that had the keyboard closes.
+    /// Simulates that the window that had the keyboard is closed.
     void closePreviousWindow() { m_isPreviousWindowClosed = true; }
-    /// Whether what is typed is kept until it is known who is to have it.
+    /// Whether typed keys are being held back by `expectKeys`.
     [[nodiscard]] bool expectsKeys() const { return m_expectsKeys; }
-    /// Plays a second start of the program.
+    /// Simulates a second start of the program.
     void reopen() { Q_EMIT reopened(); }
     /// The window that was activated last.
     [[nodiscard]] QWindow *activatedWindow() const { return m_activatedWindow; }

@@ -15,7 +15,7 @@ class MemoryClock final : public Clock
 {
 public:
     explicit MemoryClock(Date now = Date{std::chrono::years{50}});
-    /// Wakes whoever still sleeps, so that each can see that what it waited for has gone, and end.
+    /// Wakes all sleepers, so that each can notice that what it waited for is gone, and finish.
     ~MemoryClock() override;
     Q_DISABLE_COPY_MOVE(MemoryClock)
 
@@ -23,9 +23,9 @@ public:
     [[nodiscard]] std::chrono::microseconds monotonic() const override { return m_monotonic; }
     QCoro::Task<> sleep(std::chrono::milliseconds duration) override;
 
-    /// Sets the date alone, as a user does who sets the system's clock; sleepers sleep on.
+    /// Sets the date only, like a user who sets the system's clock. Does not wake sleepers.
     void setNow(Date now) { m_now = now; }
-    /// Lets time pass: sleepers whose time comes go on, in the order of their times, each at its own.
+    /// Lets time pass. Wakes sleepers in the order of their times, each at its own time.
     void advance(std::chrono::milliseconds duration);
     [[nodiscard]] qsizetype sleeperCount() const { return static_cast<qsizetype>(m_sleepers.size()); }
 
@@ -41,7 +41,7 @@ private:
 
     Date m_now;
     std::chrono::microseconds m_monotonic{0};
-    /// By time; those of the same time in the order in which they went to sleep.
+    /// Sorted by time, and for the same time in the order in which they went to sleep.
     std::vector<Sleeper> m_sleepers;
 };
 

@@ -7,7 +7,7 @@
 
 namespace vesk {
 
-/// Choices that are forgotten when the object goes.
+/// Settings that last as long as the object.
 class MemoryDefaults final : public Defaults
 {
 public:

@@ -13,7 +13,7 @@
 
 namespace vesk {
 
-/// Hot keys that a test presses.
+/// Hot keys that a test can press.
 class MemoryHotKeys final : public HotKeys
 {
     Q_OBJECT
@@ -25,13 +25,13 @@ public:
     [[nodiscard]] QChar characterOn(KeyPosition key) const override { return m_layout.value(key); }
     [[nodiscard]] QStringList otherHolders() const override { return m_holders; }
 
-    /// Presses a combination; true if someone has it.
+    /// Presses a combination. Returns whether anybody has claimed it.
     bool press(KeyCombination combination);
-    /// Plays another application that has the combination already.
+    /// Simulates another application that already has the combination.
     void setTaken(KeyCombination combination) { m_taken.append(combination); }
     void setFree(KeyCombination combination) { m_taken.removeAll(combination); }
     void setHolders(const QStringList &holders) { m_holders = holders; }
-    /// Gives the keyboard another layout; keys that are not named have none of these characters.
+    /// Sets the keyboard layout. Keys that are not named have no character.
     void setLayout(const QHash<KeyPosition, QChar> &layout);
     [[nodiscard]] qsizetype registrationCount() const { return m_registered.size(); }
 
@@ -42,7 +42,7 @@ private:
     QHash<KeyPosition, QChar> m_layout;
 };
 
-/// A keyboard that a test listens through.
+/// A keyboard that a test can type on.
 class MemoryEventTap final : public EventTap
 {
     Q_OBJECT
@@ -51,11 +51,11 @@ public:
     bool start() override;
     [[nodiscard]] bool isKeyboardTaken() const override { return false; }
 
-    /// Plays a key; heard only once `start` was called.
+    /// Presses a key. Only reported after `start` was called.
     void press();
     void turnWheel();
     void setFlags(ModifierChange change);
-    /// Plays a platform that does not let anyone listen; `start` then gives false.
+    /// Sets whether the platform allows listening. If not, `start` returns false.
     void setAllowed(bool isAllowed) { m_isAllowed = isAllowed; }
 
 private:
@@ -63,7 +63,7 @@ private:
     bool m_isStarted = false;
 };
 
-/// Keeps what was posted, and lets a test answer like the application that gets the keys.
+/// Records what was posted, and lets a test respond like the application that gets the keys.
 class MemoryEventPoster final : public EventPoster
 {
 public:
@@ -71,9 +71,9 @@ public:
     QCoro::Task<bool> post(Command command, Target target, std::function<bool()> isWanted) override;
 
     [[nodiscard]] const QList<Command> &posted() const { return m_posted; }
-    /// What the frontmost application does with a command that it gets.
+    /// Sets what the frontmost application does with a command.
     void setResponse(std::function<void(Command)> response) { m_response = std::move(response); }
-    /// Lets posting take this long, as if a key stayed down.
+    /// Makes posting take this long, as if a key stayed down.
     void setDelay(Clock &clock, std::chrono::milliseconds delay)
     {
         m_clock = &clock;
@@ -81,7 +81,7 @@ public:
     }
     /// Gives the keyboard to another window.
     void setTarget(Target target) { m_target = target; }
-    /// Whether commands are posted at all; if not, `post` gives false.
+    /// Sets whether commands can be posted. If not, `post` returns false.
     void setAllowed(bool isAllowed) { m_isAllowed = isAllowed; }
 
 private:

@@ -8,13 +8,13 @@
 
 namespace vesk {
 
-/// A pasteboard of a test's own.
+/// A pasteboard for a test.
 class MemoryPasteboard final : public Pasteboard
 {
     Q_OBJECT
 
 public:
-    /// The type under which `setString` and `string` keep text.
+    /// The type that `setString` and `string` use for text.
     static const QString kTextType;
 
     [[nodiscard]] qint64 changeCount() const override { return m_changeCount; }
@@ -28,19 +28,19 @@ public:
     void writeObjects(const QList<PasteboardItem> &items) override;
     [[nodiscard]] bool reportsChanges() const override { return m_reportsChanges; }
 
-    /// Plays a platform that does not tell of changes.
+    /// Sets whether the platform reports changes.
     void setReportsChanges(bool reportsChanges) { m_reportsChanges = reportsChanges; }
-    /// Lets reading take this long, and give what was there when it began.
+    /// Makes reading take this long. It returns the content from when it started.
     void setDelay(Clock &clock, std::chrono::milliseconds delay)
     {
         m_clock = &clock;
         m_delay = delay;
     }
-    /// Plays where the content of the next changes comes from; unknown at first.
+    /// Sets the origin of the following changes; unknown at first.
     void setOrigin(const Origin &origin) { m_origin = origin; }
-    /// Plays content that cannot be had: its owner declares it secret, or it is too large.
+    /// Makes the content unreadable, as if it were marked as secret or too large.
     void setSecret(bool isSecret) { m_isSecret = isSecret; }
-    /// What is on it now, read at once.
+    /// The current content, without waiting.
     [[nodiscard]] const QList<PasteboardItem> &items() const { return m_items; }
 
 private:

@@ -5,7 +5,7 @@
 
 namespace vesk {
 
-/// Screens as a test arranges them; one of 1600 by 1000 points at first, with the pointer in it.
+/// Screens as a test arranges them. At first there is one of 1600 by 1000 points, with the pointer on it.
 class MemoryScreens final : public Screens
 {
     Q_OBJECT

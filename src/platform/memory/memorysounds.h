@@ -7,7 +7,7 @@
 
 namespace vesk {
 
-/// Keeps the sounds that were played.
+/// Records the sounds that were played.
 class MemorySounds final : public Sounds
 {
 public:

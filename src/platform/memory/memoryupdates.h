@@ -5,7 +5,7 @@
 
 namespace vesk {
 
-/// An updater that finds what a test tells it to.
+/// A package service with results that a test sets.
 class MemoryUpdates final : public Updates
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
     void checkForUpdates() override;
 
     void setCanCheck(bool canCheck);
-    /// Ends the check that runs.
+    /// Finishes the running check.
     void finish(const Result &result);
 
 private:

@@ -7,7 +7,7 @@ namespace vesk {
 
 class Screens;
 
-/// Places real windows in the coordinates of the given screens, and keeps what was asked for.
+/// Places real windows in the coordinates of the given screens, and records what was requested.
 class MemoryWindows final : public Windows
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     void setCornerRadius(QWindow &window, qreal radius) override;
     [[nodiscard]] bool isComposited() const override { return m_isComposited; }
 
-    /// The frame that was asked for last; null before that.
+    /// The frame that was requested last; null before the first.
     [[nodiscard]] QRectF frame() const { return m_frame; }
     void setPlaceable(bool isPlaceable) { m_isPlaceable = isPlaceable; }
     void setComposited(bool isComposited);

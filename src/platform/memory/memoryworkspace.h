@@ -9,7 +9,7 @@
 
 namespace vesk {
 
-/// A desktop's applications as a test names them.
+/// The applications of the desktop, as set by a test.
 class MemoryWorkspace final : public Workspace
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     bool openUrl(const QUrl &url) override;
     bool openApplication(const QString &bundleIdentifier) override;
 
-    /// Plays the user turning to an application, or to none.
+    /// Simulates the user switching to an application, or to none.
     void setFrontmostApplication(const std::optional<RunningApplication> &application);
     void install(const QString &bundleIdentifier, const QIcon &icon = {});
     [[nodiscard]] const QList<QUrl> &openedUrls() const { return m_openedUrls; }
