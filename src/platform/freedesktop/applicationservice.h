@@ -9,9 +9,9 @@
 
 namespace vesk {
 
-/// The program's name on the session bus: the first start has it, every later one finds it taken and
-/// calls the first. Speaks org.freedesktop.Application, so that a desktop may do the same. Adaptors that
-/// are its children are on the bus as well.
+/// The program's name on the session bus. The first process owns it; every later one finds it taken and calls
+/// the first. Implements org.freedesktop.Application, so that a desktop can do the same. Adaptors that are
+/// children of this object are exported as well.
 class ApplicationService final : public QObject
 {
     Q_OBJECT
@@ -19,17 +19,17 @@ class ApplicationService final : public QObject
 
 public:
     enum class Claim {
-        /// This is the first start; `activated` tells of later ones.
+        /// This is the first process. `activated` is emitted for later ones.
         First,
-        /// Another start runs, and has been told to come forward unless it was to be left alone.
+        /// Another process is running, and was told to come forward unless `LeaveAlone` was given.
         Forwarded,
-        /// Another start runs, and did not answer within 5 s.
+        /// Another process is running but did not answer within 5 s.
         NoAnswer,
         /// There is no session bus.
         NoBus,
     };
 
-    /// In the platform data of Activate: the call only asks whether Vesk is there.
+    /// Key in the platform data of Activate: the call only asks whether Vesk is running.
     static inline const QString kInBackground = QStringLiteral("background");
 
     using QObject::QObject;
@@ -39,8 +39,8 @@ public:
         LeaveAlone,
     };
 
-    /// Takes the name, or forwards to who has it. Blocks for that answer: nothing else of the program
-    /// runs yet. A process that has the name only for a moment, to add a note, is waited for.
+    /// Takes the name, or calls its owner. Blocks until that answers, since nothing else is running yet. If
+    /// the owner is a command that is only adding a note, waits until it is done.
     [[nodiscard]] Claim claim(IfTaken ifTaken = IfTaken::BringForward);
 
 public Q_SLOTS:
@@ -51,11 +51,11 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void activated();
-    /// One of the actions of the desktop entry was chosen.
+    /// Emitted when an action of the desktop entry was chosen.
     void actionActivated(const QString &name);
 
 private:
-    /// None if who has the name is no Vesk that stays.
+    /// Returns nullopt if the owner of the name is not a running Vesk.
     [[nodiscard]] static std::optional<Claim> forward(IfTaken ifTaken);
 };
 

@@ -19,7 +19,7 @@ class QDBusServiceWatcher;
 
 namespace vesk {
 
-/// The accessibility bus: a connection of its own, made again when the bus has died and is back.
+/// A connection to the accessibility bus. Reconnects if the bus has died and come back.
 class AtSpiBus final : public QObject
 {
     Q_OBJECT
@@ -28,28 +28,28 @@ public:
     AtSpiBus();
     ~AtSpiBus() override;
 
-    /// Switches the desktop's accessibility on, so that applications offer their texts, and connects.
-    /// `connected` follows, whenever there is such a bus.
+    /// Switches on the desktop's accessibility, so that applications offer their texts, and connects.
+    /// `connected` is emitted as soon as there is such a bus.
     void start();
-    /// Disconnects; the desktop's accessibility stays as it is, since others may use it.
+    /// Disconnects. Leaves the desktop's accessibility on, because others may use it.
     void stop();
     [[nodiscard]] bool isConnected() const { return m_bus && m_bus->isConnected(); }
-    /// Rises whenever the connection is left: what was learned over it is then worth nothing.
+    /// Increases whenever the connection is lost or closed: what was learned over it is no longer valid.
     [[nodiscard]] int generation() const { return m_generation; }
 
-    /// Calls a method. None if there is no connection.
+    /// Calls a method. Returns nullopt if there is no connection.
     [[nodiscard]] std::optional<QDBusPendingCall> send(const QDBusMessage &message,
                                                        std::chrono::milliseconds deadline);
 
-    /// The object below which all applications are.
+    /// The parent object of all applications.
     [[nodiscard]] static AtSpiReference registry();
 
 Q_SIGNALS:
     void connected();
-    /// The connection is lost or left.
+    /// Emitted when the connection is lost or closed.
     void disconnected();
     void focusEvent(const vesk::AtSpiReference &object, bool isFocused);
-    /// An application has come to the bus or left it.
+    /// Emitted when an application has joined the bus or left it.
     void applicationAdded(const vesk::AtSpiReference &root);
     void applicationRemoved(const vesk::AtSpiReference &root);
 
@@ -70,7 +70,7 @@ private:
     std::unique_ptr<QDBusServiceWatcher> m_registryWatcher;
     QString m_address;
     int m_generation = 0;
-    /// Tells a connection in the making that a newer one is wanted, or none.
+    /// Lets a connection attempt notice that a newer one, or none, is wanted.
     int m_attempt = 0;
     int m_failures = 0;
     QTimer m_retry;

@@ -9,24 +9,24 @@
 
 namespace vesk {
 
-/// What a search for the keyboard's place in an application has found.
+/// The result of a search for the object with the keyboard in an application.
 struct AtSpiFocus
 {
-    /// Nullopt if nothing that was seen claims it.
+    /// Nullopt if no object that was seen claims the keyboard.
     std::optional<AtSpiReference> object;
-    /// Whether the object has a text. Containers claim the keyboard along with what they contain.
+    /// Whether the object has a text. Containers claim the keyboard together with what they contain.
     bool isText = false;
-    /// Whether all that can have it was seen.
+    /// Whether all objects that can have the keyboard were seen.
     bool isComplete = false;
 };
 
-/// The outermost web page that the active window of an application shows, by the application's own search;
+/// Returns the outermost web page in the active window of an application, using the application's own search;
 /// nullopt if there is none.
 QCoro::Task<std::optional<AtSpiReference>> searchShownPage(AtSpiQuestion question,
                                                            AtSpiReference application);
 
-/// Looks through an application, its active window first, for what has the keyboard: by the
-/// application's own search where its toolkit has one, else object by object.
+/// Searches an application, its active window first, for the object with the keyboard: with the application's
+/// own search if its toolkit has one, otherwise object by object.
 QCoro::Task<AtSpiFocus> searchFocus(AtSpiQuestion question, AtSpiReference application);
 
 } // namespace vesk

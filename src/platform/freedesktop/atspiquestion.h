@@ -17,7 +17,7 @@
 
 namespace vesk {
 
-/// The states of an object, by the numbers of the accessibility bus.
+/// The states of an object, numbered as on the accessibility bus.
 using AtSpiStates = std::bitset<64>;
 
 namespace atspistate {
@@ -29,9 +29,9 @@ inline constexpr size_t kVisible = 30;
 inline constexpr size_t kManagesDescendants = 31;
 } // namespace atspistate
 
-/// One question to other applications: calls that keep to one deadline together. A small value;
-/// copies share the deadline and `isSilent`. Once the deadline has passed, or the bus that was asked is
-/// left, every call gives nullopt at once.
+/// One question to other applications: a group of calls with a common deadline. A small value; copies share
+/// the deadline and `isSilent`. Once the deadline has passed or the bus was left, every call returns nullopt
+/// at once.
 class AtSpiQuestion final
 {
 public:
@@ -39,7 +39,7 @@ public:
 
     struct Deadlines
     {
-        /// The longest that a whole question takes.
+        /// The longest time for the whole question.
         std::chrono::milliseconds question{300};
         /// The longest wait for one answer. A working application answers within a few milliseconds.
         std::chrono::milliseconds call{100};
@@ -48,17 +48,17 @@ public:
     AtSpiQuestion(AtSpiBus &bus, const Deadlines &deadlines);
 
     [[nodiscard]] bool isOver() const;
-    /// Whether a call so far got no answer in time. An error is an answer.
+    /// Whether any call so far was not answered in time. An error counts as an answer.
     [[nodiscard]] bool isSilent() const { return *m_isSilent; }
 
-    /// Calls a method. The call is made at once, so that several can be under way. Nullopt if the
-    /// answer is an error or does not come in time.
+    /// Calls a method. The call is sent at once, so several can run at the same time. Returns nullopt if the
+    /// answer is an error or does not arrive in time.
     Reply call(const AtSpiReference &object, const QString &interface, const QString &method,
                const QVariantList &arguments = {}) const;
     [[nodiscard]] Reply property(const AtSpiReference &object, const QString &interface,
                                  const QString &name) const;
 
-    /// Nullopt if the object does not answer; the others below likewise.
+    /// Returns nullopt if the object does not answer; so do the functions below.
     [[nodiscard]] QCoro::Task<std::optional<QList<AtSpiReference>>>
     children(const AtSpiReference &object) const;
     [[nodiscard]] QCoro::Task<std::optional<AtSpiReference>> parent(const AtSpiReference &object) const;
@@ -66,7 +66,7 @@ public:
     [[nodiscard]] QCoro::Task<std::optional<QString>> roleName(const AtSpiReference &object) const;
     /// Whether it has the Text interface.
     [[nodiscard]] QCoro::Task<std::optional<bool>> isText(const AtSpiReference &object) const;
-    /// Process that owns a connection to the bus; nullopt if it is gone.
+    /// Returns the process that owns a connection to the bus; nullopt if it is gone.
     [[nodiscard]] QCoro::Task<std::optional<qint64>> processIdentifier(const QString &service) const;
 
 private:

@@ -21,9 +21,9 @@ struct AtSpiReference
     friend bool operator==(const AtSpiReference &, const AtSpiReference &) = default;
     [[nodiscard]] bool isNull() const;
 
-    /// From an answer's argument of the type (so), bare or within a variant; null if it is none.
+    /// Reads a reply argument of type (so), bare or inside a variant. Null if it has another type.
     [[nodiscard]] static AtSpiReference read(const QVariant &argument);
-    /// From an answer's argument of the type a(so), without null references; empty if it is none.
+    /// Reads a reply argument of type a(so), without null references. Empty if it has another type.
     [[nodiscard]] static QList<AtSpiReference> readList(const QVariant &argument);
 };
 

@@ -7,8 +7,8 @@
 
 namespace vesk {
 
-/// Whether a text field of a web page is the one into which a terminal in the page takes its keys. False if
-/// that cannot be told.
+/// Returns whether a text field in a web page is the input of a terminal in that page. False if that is not
+/// known.
 [[nodiscard]] QCoro::Task<bool> isWebTerminal(AtSpiQuestion question, AtSpiReference field);
 
 } // namespace vesk

@@ -5,13 +5,13 @@
 
 namespace vesk {
 
-/// Puts a text together from runs and from the objects embedded between them, the way the user sees
-/// them: blocks begin and end a line, cells of a row are apart by tabs.
+/// Assembles a text from runs and the objects embedded between them, as the user sees it: blocks start and
+/// end a line, and the cells of a row are separated by tabs.
 class AtSpiTextJoin final
 {
 public:
     enum class Layout {
-        /// Stands in the line, as a link does.
+        /// Part of the line, like a link.
         Inline,
         Block,
         Cell,
@@ -23,7 +23,7 @@ public:
         Layout layout = Layout::Inline;
     };
 
-    /// How an object of this role stands in the text around it.
+    /// Returns how an object with this role is placed in the surrounding text.
     [[nodiscard]] static Layout layoutOf(const QString &roleName);
 
     void append(const Piece &piece);
@@ -31,7 +31,7 @@ public:
 
 private:
     QString m_text;
-    /// Layout of the last piece that had a text.
+    /// Layout of the last piece with a text.
     Layout m_last = Layout::Inline;
 };
 

@@ -9,9 +9,9 @@ struct ca_context;
 
 namespace vesk {
 
-/// Sounds of the desktop's sound theme. The sound server is spoken to on a thread of its own: the
-/// first contact waits for the server's answer, and a hung server would hold up Vesk. Nobody waits for that
-/// thread, not even at the program's end.
+/// Plays sounds of the desktop's sound theme, in a separate thread: the first contact blocks until the sound
+/// server answers, and a hung server would block Vesk. Nobody waits for that thread, not even when the
+/// program exits.
 class CanberraSounds final : public Sounds
 {
 public:
@@ -23,7 +23,7 @@ public:
 private:
     struct Player;
 
-    /// Shared with the thread, which may outlive this object. Null if there is no sound.
+    /// Shared with the thread, which may outlive this object. Null if sound is not available.
     std::shared_ptr<Player> m_player;
 };
 

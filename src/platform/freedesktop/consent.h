@@ -7,8 +7,8 @@ namespace vesk {
 
 class IniDefaults;
 
-/// The user's agreement that Vesk reads other applications. A Linux session has no permission of this
-/// kind, so Vesk asks for it itself and remembers the answer for the user.
+/// The user's agreement that Vesk may read other applications. Linux desktops have no permission of this
+/// kind, so Vesk asks for it and stores the answer.
 class Consent final : public QObject
 {
     Q_OBJECT
@@ -17,11 +17,11 @@ public:
     explicit Consent(IniDefaults &defaults);
 
     [[nodiscard]] bool isGiven() const { return m_isGiven; }
-    /// Gives the agreement or withdraws it, for this and every later run.
+    /// Gives or withdraws the agreement, for this run and all later ones.
     void setGiven(bool isGiven);
 
 Q_SIGNALS:
-    /// It was given or withdrawn, here or by another process.
+    /// Emitted when the agreement was given or withdrawn, here or by another process.
     void changed();
 
 private:

@@ -12,13 +12,12 @@
 
 namespace vesk {
 
-/// One line of a menu that the desktop shows: something to do, a menu of its own, or, without a label, a
-/// dividing line.
+/// One entry of a menu that the desktop shows: an action, a submenu or, without a label, a separator.
 struct DBusMenuEntry
 {
     QString label;
     std::function<void()> action;
-    /// Shown beside the label. Whoever owns the menu listens to them.
+    /// Shown beside the label only; the owner of the menu must handle these keys.
     QKeySequence keys = {};
     QList<DBusMenuEntry> children = {};
 };
@@ -54,8 +53,8 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuLayout &l
 QDBusArgument &operator<<(QDBusArgument &argument, const DBusMenuEvent &event);
 const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuEvent &event);
 
-/// A menu for a desktop that draws it itself and asks for its lines by the bus: com.canonical.dbusmenu,
-/// never changing. Owned by the object under whose path it is called. The lines are numbered from 1, each
+/// A menu that the desktop draws itself after reading its entries over the bus (com.canonical.dbusmenu). It
+/// never changes. Owned by the object whose path it is exported under. Entries are numbered from 1, each
 /// before its children; the menu itself is 0.
 class DBusMenu final : public QDBusAbstractAdaptor
 {
@@ -86,7 +85,7 @@ public Q_SLOTS:
     static QList<int> AboutToShowGroup(const QList<int> &ids, QList<int> &idErrors);
 
 Q_SIGNALS:
-    // Part of the protocol; a menu that never changes sends none.
+    // Required by the protocol; never emitted, because the menu never changes.
     void LayoutUpdated(uint revision, int parent);
 
 private:
@@ -98,9 +97,9 @@ private:
 
     void addLines(const QList<DBusMenuEntry> &entries, int parent);
     [[nodiscard]] bool hasLine(int id) const { return id >= 1 && id <= m_lines.size(); }
-    /// Only those named; all if none is.
+    /// Returns the named properties, or all if `names` is empty.
     [[nodiscard]] QVariantMap properties(int id, const QStringList &names) const;
-    /// With the lines below, as deep as `depth` says; all of them if it is negative.
+    /// Returns an entry with its descendants down to `depth` levels; all of them if it is negative.
     [[nodiscard]] DBusMenuLayout layout(int id, int depth, const QStringList &names) const;
 
     QList<Line> m_lines;

@@ -11,7 +11,7 @@
 
 namespace vesk {
 
-/// What a window tells of the application that it belongs to; empty where it does not.
+/// What a window says about its application. Empty where it says nothing.
 struct WindowIdentity
 {
     /// Set by GTK applications.
@@ -19,30 +19,30 @@ struct WindowIdentity
     /// The two parts of WM_CLASS.
     QString instanceName;
     QString className;
-    /// Name of the file that the process runs.
+    /// File name of the executable of its process.
     QString executableName;
 };
 
-/// The applications that are installed, by their desktop entries. Read once, on first need.
+/// The installed applications, according to their desktop entries. Read once, when first needed.
 class DesktopEntries final
 {
 public:
     /// Looks in `applications` below `$XDG_DATA_HOME` and `$XDG_DATA_DIRS`, the user’s folder first.
     DesktopEntries();
-    /// Looks in these folders of desktop files, the first before the others.
+    /// Looks in these folders of desktop files. Earlier folders take precedence.
     explicit DesktopEntries(QStringList folders);
 
-    /// Null if no application has this identifier.
+    /// Returns null if no application has this identifier.
     [[nodiscard]] const DesktopEntry *find(const QString &id) const;
 
-    /// The application that a window belongs to; null if it cannot be told.
+    /// Returns the application that a window belongs to; null if that is not known.
     [[nodiscard]] const DesktopEntry *match(const WindowIdentity &window) const;
 
-    /// A null icon if the application or its icon is not installed.
+    /// Returns a null icon if the application or its icon is not installed.
     [[nodiscard]] QIcon icon(const QString &id) const;
 
-    /// Starts an application, or lets a running one come forward, as its command does. False if it is
-    /// not installed or cannot be started.
+    /// Runs the command of an application, which starts it or brings it forward. Returns false if it is not
+    /// installed or cannot be started.
     [[nodiscard]] bool launch(const QString &id) const;
 
 private:

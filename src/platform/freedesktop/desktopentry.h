@@ -10,31 +10,31 @@ class QIODevice;
 
 namespace vesk {
 
-/// What Vesk needs of one desktop entry: the file by which an application is installed.
+/// The parts of a desktop entry, the file that describes an installed application, that Vesk needs.
 struct DesktopEntry
 {
-    /// The file's name without its ending, folders joined by dashes.
+    /// The file name without its suffix, with folders joined by dashes.
     QString id;
     /// In the user's language.
     QString name;
-    /// A theme's icon name, or an absolute path.
+    /// A name in the icon theme, or an absolute path.
     QString icon;
-    /// The command line, field codes and quotes included.
+    /// The command line, including field codes and quotes.
     QString exec;
-    /// The class of the application's windows; empty if the file does not say.
+    /// The window class of the application; empty if the file does not say.
     QString startupWMClass;
-    /// Whether menus leave it out.
+    /// Whether menus do not show it.
     bool isHidden = false;
-    /// What kinds of application it belongs to, by the names of the desktop menu specification.
+    /// Categories, as named by the desktop menu specification.
     QStringList categories;
 
-    /// Reads a desktop-entry file. None if it cannot be read, is no application, or is deleted by the
-    /// user (`Hidden`).
+    /// Reads a desktop-entry file. Returns nullopt if it cannot be read, is not an application, or was
+    /// deleted by the user (`Hidden`).
     [[nodiscard]] static std::optional<DesktopEntry> read(const QString &path, const QString &id);
-    /// The same from what is open already.
+    /// The same for an open file.
     [[nodiscard]] static std::optional<DesktopEntry> read(QIODevice &file, const QString &id);
 
-    /// The command line in words, without field codes; empty if it is malformed.
+    /// Returns the words of the command line without field codes; empty if it is malformed.
     [[nodiscard]] QStringList command() const;
 };
 

@@ -5,7 +5,7 @@
 
 namespace vesk {
 
-/// What one of a desktop's settings services says of its looks; none for what it does not say.
+/// What a settings service says about the looks of the desktop; nullopt where it says nothing.
 struct DesktopLooks
 {
     std::optional<Appearance::ColorScheme> colorScheme;
@@ -19,10 +19,10 @@ struct DesktopLooks
     friend bool operator==(const DesktopLooks &, const DesktopLooks &) = default;
 };
 
-/// The font that a description such as "Noto Sans Bold 11" names; none if it has no family or size.
+/// Parses a font description such as "Noto Sans Bold 11". Returns nullopt if it has no family or no size.
 [[nodiscard]] std::optional<Appearance::TextFont> textFontFrom(const QString &description);
 
-/// Whether a theme of this name is a dark one, and whether it is one of high contrast.
+/// Whether the name of a theme indicates a dark theme, or one with high contrast.
 [[nodiscard]] bool isDarkTheme(const QString &name);
 [[nodiscard]] bool isHighContrastTheme(const QString &name);
 

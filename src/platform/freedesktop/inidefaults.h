@@ -9,7 +9,7 @@
 
 namespace vesk {
 
-/// The user's choices in an INI file, under [General]. Tells when another process has changed it.
+/// The user's settings in an INI file, under [General]. Notices changes by other processes.
 class IniDefaults final : public QObject, public Defaults
 {
     Q_OBJECT
@@ -24,15 +24,15 @@ public:
     void setBool(bool value, const QString &key) override;
     [[nodiscard]] std::optional<int> intForKey(const QString &key) const override;
     void setInt(int value, const QString &key) override;
-    /// Whether the last choice that was set has reached the file.
+    /// Whether the last value that was set has been written to the file.
     [[nodiscard]] bool isWritable() const { return m_isWritable; }
 
 Q_SIGNALS:
-    /// The file was written by somebody else, and at least one value differs.
+    /// Emitted when another process has written the file and at least one value differs.
     void changedOutside();
 
 private:
-    /// What the keys stand for, as the file has it.
+    /// The values by key, as written in the file.
     using Values = QHash<QString, QString>;
 
     void set(const QString &value, const QString &key);

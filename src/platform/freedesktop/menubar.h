@@ -9,15 +9,15 @@
 
 namespace vesk {
 
-/// The menus of a window on a desktop that shows those of the active window in a bar of its own
-/// (com.canonical.AppMenu.Registrar). They are there while the desktop has such a bar, whenever that comes,
-/// goes or starts anew; where there is none nothing happens. Never waits for the bus.
+/// The menus of a window on a desktop that shows the menus of the active window in a bar of its own
+/// (com.canonical.AppMenu.Registrar). Follows that bar as it appears, disappears and restarts; does nothing
+/// if there is none. Never waits for the bus.
 class MenuBar final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `window` is the number that the X server knows the window by.
+    /// `window` is the X server's id of the window.
     MenuBar(QDBusConnection bus, quint32 window, const QList<DBusMenuEntry> &menus);
 
 private:

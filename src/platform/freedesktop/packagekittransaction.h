@@ -11,7 +11,7 @@
 
 namespace vesk {
 
-/// One piece of work of PackageKit's, and what it tells while it does it.
+/// A PackageKit transaction, and the packages that it reports.
 class PackageKitTransaction final : public QObject
 {
     Q_OBJECT
@@ -19,17 +19,17 @@ class PackageKitTransaction final : public QObject
 public:
     struct Package
     {
-        /// Of PkInfoEnum.
+        /// A value of PkInfoEnum.
         uint info = 0;
         QString name;
         QString version;
     };
 
-    /// `path` is that of a transaction that was created and has yet to be given its work.
+    /// `path` is the object path of a transaction that was created but not run yet.
     PackageKitTransaction(QDBusConnection bus, QString path);
 
-    /// Gives it its work. `finished` follows in any case, after `limit` at the latest; what still runs
-    /// then is cancelled.
+    /// Runs a method. `finished` is always emitted, at the latest after `limit`; if the transaction is still
+    /// running then, it is cancelled.
     void run(const QString &method, const QVariantList &arguments, std::chrono::milliseconds limit);
 
     [[nodiscard]] const QList<Package> &packages() const { return m_packages; }

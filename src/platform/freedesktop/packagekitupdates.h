@@ -15,25 +15,25 @@
 
 namespace vesk {
 
-/// Updates by PackageKit, which speaks for the package manager of most desktops. It only asks; the
-/// desktop's own updater installs.
+/// Looks for updates through PackageKit, which most desktops have in front of their package manager. Only
+/// asks; the desktop's own updater installs.
 class PackageKitUpdates final : public Updates
 {
     Q_OBJECT
 
 public:
-    /// How long is waited for what.
+    /// How long to wait.
     struct Limits
     {
-        /// An answer of the service itself.
+        /// For an answer of the service itself.
         std::chrono::milliseconds call = std::chrono::seconds{10};
-        /// A question about packages, which may be behind the work of others.
+        /// For a question about packages, which may be queued behind other work.
         std::chrono::milliseconds question = std::chrono::minutes{1};
-        /// Fetching the news from the package sources.
+        /// For refreshing the package lists.
         std::chrono::milliseconds refresh = std::chrono::minutes{3};
     };
 
-    /// `bus` is the system's. Starts no service by itself.
+    /// `bus` must be the system bus. Does not start the service.
     PackageKitUpdates(QDBusConnection bus, Limits limits);
 
     [[nodiscard]] bool canCheckForUpdates() const override { return m_canCheck; }
@@ -52,7 +52,7 @@ private:
     QCoro::Task<> lookForService();
     QCoro::Task<> lookForTransactions();
     QCoro::Task<> check();
-    /// Has a transaction of its own do `method`; none if that failed.
+    /// Runs `method` in a new transaction. Returns nullopt if it failed.
     static QCoro::Task<Packages> ask(QDBusConnection bus, QString method, QVariantList arguments,
                                      std::chrono::milliseconds callLimit, std::chrono::milliseconds limit);
     static QCoro::Task<Result> findResult(QDBusConnection bus, Limits limits);
@@ -61,7 +61,7 @@ private:
     Limits m_limits;
     QDBusServiceWatcher m_watcher;
     bool m_isRunning = false;
-    /// The bus would start it.
+    /// Whether the bus can start the service.
     bool m_isActivatable = false;
     bool m_isBusy = false;
     bool m_isChecking = false;

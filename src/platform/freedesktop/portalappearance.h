@@ -10,13 +10,13 @@ class QDBusVariant;
 
 namespace vesk {
 
-/// The desktop's looks as its settings portal tells them; says nothing where there is none.
+/// The looks of the desktop according to its settings portal. Empty if there is none.
 class PortalAppearance final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Asks the portal; the answers arrive later, as `changed`.
+    /// Asks the portal. `changed` is emitted when the answers arrive.
     PortalAppearance();
 
     [[nodiscard]] const DesktopLooks &looks() const { return m_looks; }

@@ -11,9 +11,8 @@
 
 namespace vesk {
 
-/// Vesk's icon among those of the desktop's panel (the StatusNotifierItem protocol). It is there while
-/// the desktop has a place for such icons, whenever that comes, goes or starts anew; where there is none
-/// nothing happens. Never waits for the bus.
+/// Vesk's icon in the desktop's panel (the StatusNotifierItem protocol). Follows the panel as it appears,
+/// disappears and restarts; does nothing if the desktop does not show such icons. Never waits for the bus.
 class StatusIcon final : public QObject
 {
     Q_OBJECT
@@ -33,7 +32,7 @@ private:
 
     QDBusConnection m_bus;
     QDBusServiceWatcher m_watcher;
-    /// What the menu is called under.
+    /// The object that the menu is exported under.
     QObject m_menu;
 };
 

@@ -8,8 +8,8 @@
 
 namespace vesk {
 
-/// What the desktop asks of the icon: org.kde.StatusNotifierItem. The desktop finds the picture by name
-/// in its own icon theme. Owned by the object under whose path it is called.
+/// The interface org.kde.StatusNotifierItem, through which the desktop reads the icon. The desktop finds the
+/// picture by name in its icon theme. Owned by the object whose path it is exported under.
 class StatusItem final : public QDBusAbstractAdaptor
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ public:
     [[nodiscard]] static QString id() { return QStringLiteral("org.vesk.Vesk"); }
     [[nodiscard]] static QString title() { return QStringLiteral("Vesk"); }
     [[nodiscard]] static QString status() { return QStringLiteral("Active"); }
-    // The one in colours: not every desktop recolours a symbolic icon for a dark panel.
+    // The coloured icon, because not every desktop recolours a symbolic one for a dark panel.
     [[nodiscard]] static QString iconName() { return QStringLiteral("org.vesk.Vesk"); }
     [[nodiscard]] static bool itemIsMenu() { return false; }
     [[nodiscard]] QDBusObjectPath menu() const { return m_menu; }
@@ -43,7 +43,7 @@ public Q_SLOTS:
     // NOLINTBEGIN(bugprone-easily-swappable-parameters): of the protocol
     void Activate(int x, int y);
     void SecondaryActivate(int x, int y) { Activate(x, y); }
-    /// The desktop draws the menu itself; one that cannot has none.
+    /// Desktops draw the menu themselves. This is called by those that cannot, which get no menu.
     void ContextMenu(int x, int y) { Activate(x, y); }
     static void Scroll(int delta, const QString &orientation);
     // NOLINTEND(bugprone-easily-swappable-parameters)

@@ -5,7 +5,7 @@
 
 namespace vesk {
 
-/// The system's clock; sleeps on Qt's timers.
+/// The system's clock. Sleeps with Qt's timers.
 class SystemClock final : public Clock
 {
 public:
