@@ -9,12 +9,13 @@ class QString;
 
 namespace vesk {
 
-/// Whether `WM_CLIENT_MACHINE` of a window names this machine, which calls itself `own`. A window that does
-/// not say where its program runs counts as one of this machine. One of the two names may lack the domain.
+/// Returns whether `client`, the WM_CLIENT_MACHINE of a window, names this machine, whose name is `own`. An
+/// empty `client` counts as this machine. Either name may lack the domain.
 [[nodiscard]] bool isOwnMachine(const QString &client, const QString &own);
 
-/// The process of a window. `connected` is what the server knows of the connection, `stated` is
-/// `_NET_WM_PID`, which means nothing on any machine but the program's own. Nullopt if it cannot be told.
+/// Returns the process of a window. `connected` is the process at the other end of the connection, according
+/// to the server; `stated` is _NET_WM_PID, which is only valid on the program's own machine. Nullopt if it is
+/// not known.
 [[nodiscard]] std::optional<qint64> processOfClient(std::optional<qint64> connected,
                                                     std::optional<qint64> stated, bool isOwnMachine);
 

@@ -5,16 +5,16 @@
 #include <QByteArrayView>
 #include <QList>
 
-/// Which forms of a content have to be kept for the content to be kept. Owners offer one picture in ten
-/// formats that they convert when they are asked, and converting a large picture takes long; nothing is
-/// lost if one of them is kept that the others can be made from.
+/// Decides which forms of a content must be saved. Owners offer one picture in ten formats, which they
+/// convert on request, and converting a large picture takes long. Nothing is lost if the format is saved from
+/// which the others can be made.
 namespace vesk::contentforms {
 
-/// Whether a target stands for content. Some are commands: converting DELETE deletes.
+/// Returns whether a target stands for content. Some are commands: converting DELETE deletes the selection.
 [[nodiscard]] bool isContent(QByteArrayView target);
 
-/// The form from which `target` can be made without loss by whoever wants it, among the forms that are
-/// offered; empty if it has to be kept itself.
+/// Returns the offered form from which readers can make `target` without loss; empty if `target` itself must
+/// be saved.
 [[nodiscard]] QByteArray sourceOf(const QByteArray &target, const QList<QByteArray> &offered);
 
 } // namespace vesk::contentforms

@@ -11,8 +11,8 @@
 
 namespace vesk {
 
-/// Whether what Emacs offers in PRIMARY is still its region. After each command Emacs claims PRIMARY again
-/// while there is a region, and once more, with the same text, by most of the commands that end it.
+/// Tells whether what Emacs offers in PRIMARY is still its region. Emacs claims PRIMARY after each command
+/// while there is a region, and most commands that end the region claim it once more with the same text.
 class EmacsSelection final : public QObject
 {
     Q_OBJECT
@@ -21,18 +21,18 @@ public:
     /// `primary` must outlive this object.
     explicit EmacsSelection(PrimarySelection &primary);
 
-    /// The user has pressed a key or a button in the window by which Emacs owns PRIMARY.
+    /// Must be called when the user presses a key or button in the window with which Emacs owns PRIMARY.
     void addPress(xcb_timestamp_t time);
-    /// The press that was added last turned out to be meant for others.
+    /// Removes the last press, which turned out not to be meant for Emacs.
     void removePress();
     [[nodiscard]] xcb_timestamp_t lastPress() const { return m_press.time; }
 
-    /// Emacs has claimed PRIMARY. The claim's text is then compared with the one before.
+    /// Must be called when Emacs claims PRIMARY. Compares the text of the claim with that of the previous
+    /// one.
     QCoro::Task<> addClaim();
-    /// Forgets everything.
     void clear();
 
-    /// Whether the claim of now comes with a region. Waits a moment for a comparison that is under way.
+    /// Returns whether the current claim belongs to a region. Waits a moment for a running comparison.
     QCoro::Task<bool> hasRegion();
 
 private:
@@ -41,7 +41,8 @@ private:
         xcb_timestamp_t time = 0;
         /// How many claims came after it and before the next one.
         int claims = 0;
-        /// Time of the first of the presses right before it that no claim came after; 0 if there is none.
+        /// Time of the first of the presses directly before it that were not followed by a claim; 0 if there
+        /// are none.
         xcb_timestamp_t unclaimedSince = 0;
     };
 
@@ -50,7 +51,7 @@ private:
     PrimarySelection &m_primary;
     Press m_press;
     Press m_pressBefore;
-    /// Number of the last claim that was compared, and what is known of it.
+    /// The number of the last claim that was compared, and what is known about it.
     std::optional<quint64> m_compared;
     std::optional<size_t> m_fingerprint;
     bool m_hasRegion = false;

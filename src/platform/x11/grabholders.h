@@ -7,9 +7,8 @@ namespace vesk {
 
 class X11Connection;
 
-/// The other programs that have keys or buttons for themselves, by the names that the user knows. The
-/// server tells who has such grabs, not for which keys; where so many have some that a name says nothing,
-/// the list is empty.
+/// Returns the names of the other programs that have passive grabs. The server says who has such grabs, but
+/// not on which keys. The list is empty if there are too many for a name to be of help.
 [[nodiscard]] QStringList grabHolders(const X11Connection &connection);
 
 } // namespace vesk

@@ -10,9 +10,9 @@ namespace vesk {
 
 class X11Connection;
 
-/// Keeps a key that was pressed in one of Vesk's windows from the window that gets the keyboard next: while
-/// it is held, the server repeats it for whoever has the keyboard. Its grabs belong to a connection of their
-/// own and end with it, whatever hot keys Vesk has on the same keys.
+/// Prevents a key that was pressed in one of Vesk's windows from reaching the window that gets the keyboard
+/// next: the server repeats a held key for whoever has the keyboard. The grabs belong to a separate
+/// connection and end with it, whatever hot keys Vesk has on the same keys.
 class HeldKeyGuard final : public QObject
 {
     Q_OBJECT
@@ -21,8 +21,8 @@ public:
     explicit HeldKeyGuard(const X11Connection &connection);
     ~HeldKeyGuard() override;
 
-    /// Guards the keys that are down now and would be repeated until all of them are up. Must be called
-    /// before the keyboard goes to another window.
+    /// Guards the keys that are down now and would be repeated, until all of them are up. Must be called
+    /// before another window gets the keyboard.
     void begin();
 
 private:
@@ -35,7 +35,7 @@ private:
     xcb_connection_t *m_grabs = nullptr;
     KeyStates m_guarded;
     QTimer m_watch;
-    /// How many times in a row all guarded keys were found up.
+    /// How many times in a row all guarded keys were up.
     int m_looksWithout = 0;
 };
 

@@ -13,17 +13,17 @@ namespace vesk {
 
 class X11Connection;
 
-/// Which characters stand on which keys in the user's layouts. Read when it is first asked for.
+/// Knows which key produces which character in the user's layouts. Reads the layouts when first needed.
 class KeyLetters final
 {
 public:
     explicit KeyLetters(X11Connection &connection);
 
-    /// The contract of HotKeys.
+    /// See HotKeys.
     [[nodiscard]] std::optional<KeyPosition> findKey(QChar character) const;
     [[nodiscard]] QChar characterOn(KeyPosition key) const;
 
-    /// To be called when the keyboard has another layout.
+    /// Must be called when the keyboard layout has changed.
     void forget() { m_isRead = false; }
 
 private:
@@ -33,7 +33,7 @@ private:
     X11Connection &m_connection;
     mutable bool m_isRead = false;
     mutable QHash<KeyPosition, QChar> m_printed;
-    /// By character in upper case: on its own, and together with Shift.
+    /// By upper-case character: without and with Shift.
     mutable QHash<QChar, KeyPosition> m_plain;
     mutable QHash<QChar, KeyPosition> m_shifted;
 };

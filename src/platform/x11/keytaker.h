@@ -12,31 +12,31 @@
 
 namespace vesk {
 
-/// What an application does with the keys of a command.
+/// How an application reacts to the keys of a command.
 enum class KeyTaker {
     Ordinary,
-    /// Ordinary in general, but what has the keyboard may be a terminal or the screen of another machine.
+    /// Usually ordinary, but the keyboard may be in a terminal or in the screen of another machine.
     Uncertain,
-    /// Control-C interrupts what runs in it.
+    /// Control-C interrupts the running program.
     Terminal,
-    /// Has no key for the clipboard, or other keys than the usual ones: what others paste by, a terminal
-    /// quotes the next key by.
+    /// Has no keys for the clipboard, or unusual ones: in some terminals, the usual paste key quotes the next
+    /// key.
     OwnKeys,
-    /// Control-C begins a command of its own.
+    /// Control-C is the prefix of other commands.
     Emacs,
-    /// Asks for a password; gets no key of ours.
+    /// Asks for a password. Must not get any keys from Vesk.
     PasswordPrompt,
-    /// Shows another machine's screen, where anything may have the keyboard and the clipboard may be another
-    /// one.
+    /// Shows the screen of another machine, where anything may have the keyboard and the clipboard may be
+    /// different.
     OtherMachine,
 };
 
-/// Which of them has the keyboard in a window. `entry` is the desktop entry of the window's application, null
-/// if it has none. `role` is that of the object with the keyboard, nullopt if it could not be asked.
+/// Returns what has the keyboard in a window. `entry` is the desktop entry of the window's application, null
+/// if it has none. `role` is the role of the object with the keyboard, nullopt if it is not known.
 [[nodiscard]] KeyTaker keyTakerOf(const WindowIdentity &window, const DesktopEntry *entry,
                                   const std::optional<QString> &role = std::nullopt);
 
-/// The keys of a command, modifiers first, as keysyms; empty if the application must not get them.
+/// Returns the keysyms of a command, modifiers first; empty if the application must not get them.
 [[nodiscard]] QList<uint32_t> keysFor(EventPoster::Command command, KeyTaker taker);
 
 } // namespace vesk

@@ -11,9 +11,9 @@ namespace vesk {
 
 class X11Connection;
 
-/// Which keys are modifiers, and which of the core protocol's eight bits each stands for. Only Shift,
-/// Caps Lock and Control have fixed bits; the others are where the keyboard's layout puts them. Follows
-/// every change of the layout.
+/// Knows which keys are modifiers, and which of the eight modifier bits of the core protocol each has. Only
+/// Shift, Caps Lock and Control have fixed bits; the layout decides about the others. Follows every change of
+/// the layout.
 class ModifierMap final : public QObject
 {
     Q_OBJECT
@@ -22,23 +22,23 @@ public:
     explicit ModifierMap(X11Connection &connection);
 
     [[nodiscard]] bool isModifier(xcb_keycode_t key) const { return m_masks.contains(key); }
-    /// What a key adds to a combination; none for locks and for keys that are no modifiers.
+    /// The modifiers that a key adds to a combination; empty for locks and for keys that are not modifiers.
     [[nodiscard]] Qt::KeyboardModifiers modifiersOf(xcb_keycode_t key) const;
     [[nodiscard]] bool isCapsLock(xcb_keycode_t key) const;
     /// Whether a key is Caps Lock, Num Lock or Scroll Lock.
     [[nodiscard]] bool isLock(xcb_keycode_t key) const { return (m_masks.value(key, 0) & m_bits.locks) != 0; }
-    /// Whether a modifier, alone or together with another, switches to another of the keyboard's layouts.
+    /// Whether a modifier, alone or with another one, switches the keyboard layout.
     [[nodiscard]] bool isLayoutSwitch(xcb_keycode_t key) const { return m_layoutSwitches.contains(key); }
 
     /// The bits of these modifiers.
     [[nodiscard]] uint8_t bitsOf(Qt::KeyboardModifiers modifiers) const;
-    /// The bits of Caps Lock, Num Lock and Scroll Lock, as far as the keyboard has them.
+    /// The bits of Caps Lock, Num Lock and Scroll Lock, if the keyboard has them.
     [[nodiscard]] uint8_t lockBits() const { return m_bits.locks; }
 
 Q_SIGNALS:
-    /// A modifier has moved to another key or bit.
+    /// Emitted when a modifier has moved to another key or bit.
     void changed();
-    /// The keyboard has another layout, in which modifiers may have moved too; sent after `changed`.
+    /// Emitted when the layout has changed; after `changed`, if modifiers have moved too.
     void keyboardChanged();
 
 private:

@@ -8,8 +8,8 @@
 
 namespace vesk {
 
-/// What one reading of a selection may cost in all, over however many transfers it takes: the owner can
-/// be any program, and may send without end, or a byte now and then.
+/// Limits the total cost of reading a selection, over all transfers that this takes. The owner can be any
+/// program, and may send endlessly, or one byte now and then.
 class ReadingAllowance final
 {
 public:
@@ -17,14 +17,14 @@ public:
     {
         /// The longest silence of the owner.
         std::chrono::milliseconds silence;
-        /// The whole time, on top of what the data takes at the slowest acceptable rate.
+        /// The total time, in addition to what the data takes at the slowest acceptable rate.
         std::chrono::milliseconds total;
-        /// The size of everything that is read.
+        /// The total size of what is read.
         qsizetype bytes;
     };
 
-    /// The slowest rate, in bytes a second, at which a large content is worth waiting for, as on a machine
-    /// that is busy, and the longest that any reading takes.
+    /// The slowest rate, in bytes a second, that is acceptable for a large content on a busy machine; and the
+    /// longest time that any reading may take.
     static constexpr qsizetype kSlowestRate = qsizetype{1024} * 1024;
     static constexpr std::chrono::milliseconds kLongest{30'000};
 
@@ -39,7 +39,7 @@ public:
 
     [[nodiscard]] std::chrono::milliseconds silence() const { return m_limits.silence; }
     [[nodiscard]] qsizetype bytesLeft() const { return m_limits.bytes - m_taken; }
-    /// Not positive when the time is up.
+    /// Zero or negative when the time is up.
     [[nodiscard]] std::chrono::milliseconds timeLeft() const
     {
         const std::chrono::milliseconds earned{m_taken * 1000 / kSlowestRate};

@@ -9,16 +9,16 @@
 
 namespace vesk {
 
-/// What a dock keeps free for itself at the edges of the desktop that all screens make up. In pixels of
-/// the server, as the window manager's rules have it: left, right, top, bottom, and then for each of
-/// these edges where along it the dock begins and ends, both included.
+/// The space that a dock reserves at the edges of the desktop that all screens form. In pixels of the server,
+/// in the order of _NET_WM_STRUT_PARTIAL: left, right, top, bottom, and then for each of these edges the
+/// start and end of the dock along it, both inclusive.
 using Strut = std::array<quint32, 12>;
 
-/// A strut of the older kind, which is as long as its edge.
+/// Returns a strut of the older kind, which covers its whole edge.
 [[nodiscard]] Strut wholeEdges(quint32 left, quint32 right, quint32 top, quint32 bottom);
 
-/// What the docks leave of a screen. A strut that would take the whole of it, because the dock stands on
-/// the inner edge of a screen beyond, takes nothing.
+/// Returns the part of a screen that the docks leave free. Ignores a strut that would take the whole screen
+/// because the dock is on the inner edge of another screen.
 [[nodiscard]] QRect spaceOn(const QRect &screen, QSize desktop, const QList<Strut> &struts);
 
 } // namespace vesk

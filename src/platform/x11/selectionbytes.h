@@ -7,7 +7,7 @@
 
 #include <xcb/xproto.h>
 
-/// What the bytes mean that a selection's owner gives. They come from any program, and may be anything.
+/// Interprets the bytes of a selection, which come from any program and can be anything.
 namespace vesk::selectionbytes {
 
 enum class Encoding {
@@ -15,11 +15,11 @@ enum class Encoding {
     Latin1,
 };
 
-/// What is not text in this encoding becomes U+FFFD. A U+FEFF at the beginning is kept: the encoding is
-/// known, so it is a character of the text, not a mark.
+/// Decodes a text. Invalid bytes become U+FFFD. A U+FEFF at the beginning is kept: since the encoding is
+/// known, it is part of the text, not a byte order mark.
 [[nodiscard]] QString text(const QByteArray &bytes, Encoding encoding);
 
-/// A list of atoms; a last one that is cut is left out.
+/// Decodes a list of atoms. If the data is truncated, returns the complete ones.
 [[nodiscard]] QList<xcb_atom_t> atoms(const QByteArray &bytes);
 
 } // namespace vesk::selectionbytes

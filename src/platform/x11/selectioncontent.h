@@ -16,15 +16,15 @@ namespace vesk {
 
 class X11Connection;
 
-/// What a selection's owner has to give, PRIMARY's and CLIPBOARD's alike. Content that its owner
-/// declares secret is nothing, and is not read. The allowances must outlive the readings.
+/// Reads the content of any selection. Content that its owner marks as secret counts as none, and is not
+/// read. The allowances must outlive the readings.
 namespace selectioncontent {
 
-/// The longest form, in bytes, that is taken, and the size of all of them together.
+/// The limits, in bytes, for one form and for all forms together.
 inline constexpr qsizetype kMaximumBytes = qsizetype{64} * 1024 * 1024;
 inline constexpr qsizetype kMaximumTotalBytes = 2 * kMaximumBytes;
 
-/// For a reading that the user does not wait for, as such: a hung owner is noticed at once.
+/// For a reading that must not hold up the user: gives up quickly on a hung owner.
 inline constexpr ReadingAllowance::Limits kShort{.silence = SelectionTransfer::kDeadline,
                                                  .total = std::chrono::milliseconds{1000},
                                                  .bytes = kMaximumTotalBytes};
@@ -32,21 +32,21 @@ inline constexpr ReadingAllowance::Limits kShort{.silence = SelectionTransfer::k
 inline constexpr ReadingAllowance::Limits kLong{.silence = std::chrono::milliseconds{1000},
                                                 .total = std::chrono::milliseconds{3000},
                                                 .bytes = kMaximumTotalBytes};
-/// For everything that there is.
+/// For saving the whole content.
 inline constexpr ReadingAllowance::Limits kEverything{.silence = SelectionTransfer::kDeadline,
                                                       .total = std::chrono::milliseconds{2000},
                                                       .bytes = kMaximumTotalBytes};
 
-/// The content as text. Nullopt if the owner has no text, declares it secret, or does not deliver it within
-/// the allowance. A text beyond `kMaximumTextBytes` comes cut beyond that size.
+/// Reads the content as text. Nullopt if the owner has no text, marks it as secret, or does not deliver it
+/// within the allowance. A text of more than `kMaximumTextBytes` is cut off beyond that size.
 [[nodiscard]] QCoro::Task<std::optional<QString>> text(X11Connection &connection, xcb_atom_t selection,
                                                        ReadingAllowance &allowance);
-/// The same within a short allowance of its own.
+/// The same with the allowance `kShort`.
 [[nodiscard]] QCoro::Task<std::optional<QString>> text(X11Connection &connection, xcb_atom_t selection);
 
-/// Everything that the owner gives and that another owner could give in its place, in its order. Left out
-/// is what the owner refuses, and what is not delivered but can be made from what is. Empty if anything
-/// else is not delivered whole and within the allowance, or is secret.
+/// Reads everything that another owner could offer in place of this one, in the owner's order. Leaves out
+/// what the owner refuses, and what it does not deliver but can be made from the rest. Empty if anything else
+/// is secret or is not delivered completely within the allowance.
 [[nodiscard]] QCoro::Task<PasteboardItem> representations(X11Connection &connection, xcb_atom_t selection,
                                                           ReadingAllowance &allowance);
 

@@ -13,8 +13,8 @@ namespace vesk {
 
 class X11Connection;
 
-/// One answer to a reader of our selection that is too long for one piece. Each piece is sent when the
-/// reader has taken the one before. Keeps its data, whatever becomes of the selection meanwhile.
+/// An answer to a reader of our selection that is too long for one request. Sends each piece when the reader
+/// has taken the previous one. Keeps its data even if the selection changes meanwhile.
 class SelectionSender final : public QObject
 {
     Q_OBJECT
@@ -28,18 +28,18 @@ public:
         friend bool operator==(const Request &, const Request &) = default;
     };
 
-    /// The longest data that goes in one piece, and the length of a piece, in bytes.
+    /// The size of a piece, and the longest data that is sent in one piece, in bytes.
     static constexpr qsizetype kPiece = qsizetype{192} * 1024;
 
-    /// Announces the data in the reader's property. The events of the reader's window have to be
-    /// selected before.
+    /// Announces the data in the reader's property. The events of the reader's window must have been selected
+    /// before.
     SelectionSender(X11Connection &connection, Request request, xcb_atom_t type, const QByteArray &bytes);
 
     [[nodiscard]] Request request() const { return m_request; }
     [[nodiscard]] bool isFinished() const { return m_isFinished; }
 
 Q_SIGNALS:
-    /// All has been sent, or the reader is gone or has lost interest. Fired once.
+    /// Emitted once, when everything has been sent or the reader is gone or no longer reads.
     void finished();
 
 private:

@@ -18,8 +18,7 @@ namespace vesk {
 
 class X11Connection;
 
-/// One reading of a selection from its owner. Waits as long as data keeps coming, within what the
-/// reading may cost.
+/// Reads one form of a selection from its owner. Waits as long as data keeps coming, within the allowance.
 class SelectionTransfer final : public QObject
 {
     Q_OBJECT
@@ -27,9 +26,9 @@ class SelectionTransfer final : public QObject
 public:
     enum class Outcome {
         Complete,
-        /// There is more than the limit; only the beginning was read.
+        /// There is more data than the limit; only the beginning was read.
         Cut,
-        /// There is no owner, or it has no such form.
+        /// There is no owner, or it does not have this form.
         Refused,
         /// The owner did not answer, stopped halfway, or took too long.
         Stalled,
@@ -38,25 +37,25 @@ public:
     struct Data
     {
         Outcome outcome = Outcome::Refused;
-        /// The type that the owner gave the data.
+        /// The type of the data, according to the owner.
         xcb_atom_t type = XCB_ATOM_NONE;
-        /// Bits of one unit of the data: 8, 16 or 32.
+        /// Bits per unit: 8, 16 or 32.
         quint8 format = 0;
         QByteArray bytes;
     };
 
-    /// The longest silence of an owner that is taken for work.
+    /// How long an owner may be silent before it counts as hung.
     static constexpr std::chrono::milliseconds kDeadline{100};
-    /// How long an owner may take for a small answer, however it drips.
+    /// How long an owner may take in all for a small answer.
     static constexpr std::chrono::milliseconds kTotal{1000};
 
-    /// The selection's data in the form `target`. Of data beyond `limit` bytes, or beyond what the
-    /// allowance has left, the outcome is `Cut`, and `bytes` holds more than that limit but not all. The
+    /// Reads the selection in the form `target`. If there are more than `limit` bytes, or more than the
+    /// allowance has left, the outcome is `Cut` and `bytes` has more than that limit but not everything. The
     /// allowance must outlive the reading.
     [[nodiscard]] static QCoro::Task<Data> read(X11Connection &connection, xcb_atom_t selection,
                                                 xcb_atom_t target, qsizetype limit,
                                                 ReadingAllowance &allowance);
-    /// The same with an allowance of its own. `patience` is the longest silence.
+    /// The same with an allowance of its own, in which `patience` is the longest silence.
     [[nodiscard]] static QCoro::Task<Data> read(X11Connection &connection, xcb_atom_t selection,
                                                 xcb_atom_t target, qsizetype limit,
                                                 std::chrono::milliseconds patience = kDeadline);
@@ -73,25 +72,25 @@ private:
     void onEvent(const xcb_generic_event_t *event);
     void onNotify(xcb_atom_t property);
     void onChunk();
-    /// Reads at most a little more than `limit` bytes of the transfer's property and deletes it, which
-    /// tells the owner to go on. The outcome is `Complete`, `Cut`, or `Refused` if there is no property.
+    /// Reads slightly more than `limit` bytes at most from the property and deletes it, which tells the owner
+    /// to continue. The outcome is `Complete`, `Cut`, or `Refused` if there is no property.
     [[nodiscard]] Data takeProperty(qsizetype limit);
-    /// Goes on taking what the owner still sends, without keeping it, after the reading was given up.
-    /// An owner left halfway may not serve the next reading, and some die when their reader vanishes.
+    /// Keeps receiving and discarding data after the reading was given up. An owner that is left halfway may
+    /// not serve the next reader, and some crash when their reader vanishes.
     void linger();
-    /// The owner has nothing more to send.
+    /// Must be called when the owner has nothing more to send.
     void end(Outcome outcome);
     void finish(Outcome outcome);
 
     QPointer<X11Connection> m_connection;
-    /// Of its own for each transfer, so that no late answer to one is taken for another's.
+    /// A new one for each transfer, so that a late answer is not mistaken for that of another transfer.
     xcb_window_t m_window;
     xcb_atom_t m_property;
     qsizetype m_limit;
-    /// The owner's silence, and everything together. The data that comes pays for more time.
+    /// Limit the owner's silence and the total time, which grows with the received data.
     QTimer m_stall;
     QTimer m_total;
-    /// Not to be used after the reading has finished.
+    /// Must not be used after the reading has finished.
     ReadingAllowance &m_allowance;
     bool m_isIncremental = false;
     bool m_isFinished = false;

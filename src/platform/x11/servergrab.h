@@ -5,8 +5,8 @@
 
 namespace vesk {
 
-/// While it lives, the server serves no other client: no window changes, nobody else takes the keyboard or
-/// sends keys. The user's own keys still arrive. For a few requests in a row only, without any wait.
+/// While it exists, the server serves no other client: no window changes, and nobody else takes the keyboard
+/// or sends keys. The user's own keys still arrive. Only for a few requests in a row, without any wait.
 class ServerGrab final
 {
 public:

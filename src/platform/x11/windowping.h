@@ -10,17 +10,17 @@ namespace vesk {
 
 class X11Connection;
 
-/// A question to a window whether its application still takes events (`_NET_WM_PING`).
+/// Asks a window whether its application still handles events (_NET_WM_PING).
 class WindowPing final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Asks at once. A window whose answer could not be heard counts as answering.
+    /// Asks at once. A window whose answer cannot be received counts as answering.
     WindowPing(X11Connection &connection, xcb_window_t window);
     ~WindowPing() override;
 
-    /// Asks once more. GTK may keep an answer back until it has something else to do.
+    /// Asks again. GTK may hold back an answer until it has something else to do.
     void ask();
     [[nodiscard]] bool isAnswered() const { return m_isAnswered; }
 

@@ -11,7 +11,7 @@ namespace vesk {
 
 class RawInput;
 
-/// The keyboard as raw input tells it. Silent while the user has not agreed that Vesk listens.
+/// Reports the keyboard from raw input. Silent unless the user has agreed to it.
 class X11EventTap final : public EventTap
 {
     Q_OBJECT
@@ -30,9 +30,10 @@ private:
 
     RawInput &m_input;
     bool m_isStarted = false;
-    /// What is held, and what it meant when it went down: the layout may change before it goes up.
+    /// The held modifier keys, with their meaning when they were pressed: the layout may change before they
+    /// are released.
     QHash<xcb_keycode_t, Qt::KeyboardModifiers> m_held;
-    /// The server's time of the last change, and the same since the tap was made: the server's wraps.
+    /// The server time of the last change, which wraps, and the same without wrapping.
     xcb_timestamp_t m_serverTime = 0;
     std::chrono::milliseconds m_time{0};
 };

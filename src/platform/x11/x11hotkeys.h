@@ -16,8 +16,8 @@ namespace vesk {
 class RawInput;
 class X11Connection;
 
-/// Hot keys as passive grabs on the keys' positions, one for each state of the locks. They follow the
-/// modifiers when a change of the keyboard's layout moves these.
+/// Hot keys as passive grabs on key positions, one for each state of the locks. They are renewed when a
+/// change of the keyboard layout moves the modifiers.
 class X11HotKeys final : public HotKeys
 {
     Q_OBJECT
@@ -42,23 +42,23 @@ private:
     struct Registration
     {
         KeyCombination combination;
-        /// None while another application has it.
+        /// Nullopt while another application has it.
         std::optional<Grab> grab;
     };
 
     [[nodiscard]] Grab grabFor(KeyCombination combination) const;
-    /// None, with nothing grabbed, if some state of the locks was taken already.
+    /// Returns nullopt, with nothing grabbed, if the combination is taken for any state of the locks.
     [[nodiscard]] std::optional<Grab> tryGrab(Grab grab);
     void ungrab(Grab grab);
     void renewGrabs();
-    /// The modifiers of a grab together with every state of the locks.
+    /// The modifiers of a grab combined with every state of the locks.
     [[nodiscard]] QList<uint16_t> withLocks(uint8_t modifiers) const;
 
     void onEvent(const xcb_generic_event_t *event);
     void onPress(const xcb_key_press_event_t &press);
     void onKeyReleased(xcb_keycode_t key, xcb_timestamp_t time);
 
-    /// Keeps the held key from the application, also once some of its modifiers are let go of.
+    /// Keeps the held key from the application, even after some of its modifiers are released.
     void guardHeldKey();
     void endGuard();
 
@@ -66,13 +66,13 @@ private:
     RawInput &m_input;
     KeyLetters m_letters;
     QHash<quint32, Registration> m_registrations;
-    /// The locks' bits with which all grabs were made.
+    /// The bits of the locks at the time of the grabs.
     uint8_t m_lockBits;
     QList<Grab> m_guards;
-    /// The last press that was acted upon; its key is 0 before the first.
+    /// The last press that was acted on; its key is 0 before the first.
     Grab m_held;
-    /// When the held key went up, or seemed to; none since its last press. Whether a key goes up as an
-    /// event of the grab or as raw input depends on whether the grab was given back by then.
+    /// When the held key was released, or seemed to be; nullopt since its last press. The release arrives as
+    /// an event of the grab or as raw input, depending on whether the grab was given back by then.
     std::optional<xcb_timestamp_t> m_releaseTime;
 };
 
