@@ -106,7 +106,7 @@ Item {
 
                     entry: modelData
                     place: root.place
-                    // Among large texts a long entry is cut off.
+                    // Among large texts a long entry takes more than one line.
                     width: Math.min(Math.max(implicitWidth, rows.implicitWidth), root.width - 2 * 8 - 10)
                     isCurrent: control.current === index
                     onPointedAt: control.current = index

@@ -17,7 +17,7 @@ Rectangle {
 
     visible: root.entry.isVisible
     implicitWidth: root.entry.isDivider ? 0 : label.implicitWidth + 2 * 10
-    implicitHeight: root.entry.isDivider ? 9 : Math.round(24 * Theme.fonts.scale)
+    implicitHeight: root.entry.isDivider ? 9 : Math.round(24 * Theme.fonts.scale + label.implicitHeight * (1 - 1 / label.lineCount))
     radius: 6
     color: root.isCurrent ? Theme.accentFill : "transparent"
     antialiasing: true
@@ -38,6 +38,8 @@ Rectangle {
         anchors.leftMargin: 10
         anchors.verticalCenter: parent.verticalCenter
         width: Math.min(implicitWidth, root.width - 2 * 10)
+        wrapMode: Text.Wrap
+        maximumLineCount: 3
         elide: Text.ElideRight
         text: KeyLabels.spelt(root.entry.text, root.place)
         textFormat: Text.PlainText

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void keysOpenTheMenuOfTheSelectedCard_data();
     void keysOpenTheMenuOfTheSelectedCard();
     void openNoteHasItsMenus();
+    void longEntryIsReadAmongLargeTexts_data();
+    void longEntryIsReadAmongLargeTexts();
     void fieldHasAMenu_data();
     void fieldHasAMenu();
 
@@ -180,6 +182,35 @@ void PanelMenusTest::openNoteHasItsMenus()
     choose(u"Pin"_s);
     QVERIFY(store().notes().first()->isPinned());
     QVERIFY(model().openNote()->id());
+}
+
+void PanelMenusTest::longEntryIsReadAmongLargeTexts_data()
+{
+    QTest::addColumn<qreal>("scale");
+    QTest::newRow("ordinary") << 1.0;
+    QTest::newRow("large") << 1.5;
+    QTest::newRow("very large") << 2.0;
+}
+
+void PanelMenusTest::longEntryIsReadAmongLargeTexts()
+{
+    QFETCH(const qreal, scale);
+    m_fixture->appearance.setTextFont({.family = {}, .scale = scale});
+    rightClick(*shown("NoteCard").constFirst());
+    qreal above = 0;
+    for (QQuickItem *row : shown("MenuRow")) {
+        const QRectF place = row->mapRectToScene(row->boundingRect());
+        QVERIFY(place.left() >= 0 && place.right() <= window().width());
+        QVERIFY(place.top() >= above);
+        above = place.bottom();
+        for (QQuickItem *label : row->childItems()) {
+            if (!label->property("truncated").isValid() || label->property("text").toString().isEmpty())
+                continue;
+            QVERIFY2(!label->property("truncated").toBool(), qPrintable(label->property("text").toString()));
+            QVERIFY(place.contains(label->mapRectToScene(label->boundingRect())));
+        }
+    }
+    QVERIFY(above <= window().height());
 }
 
 void PanelMenusTest::fieldHasAMenu_data()
