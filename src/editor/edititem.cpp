@@ -15,6 +15,11 @@ QTextDocument *EditItem::document() const
     return document ? document->textDocument() : nullptr;
 }
 
+qsizetype EditItem::caret() const
+{
+    return m_item->property("cursorPosition").toInt();
+}
+
 Selection EditItem::selection() const
 {
     const int caret = m_item->property("cursorPosition").toInt();

@@ -22,8 +22,11 @@ public:
     }
 
     [[nodiscard]] QQuickItem *item() const { return m_item; }
+    /// Null for an item of a single line.
     [[nodiscard]] QTextDocument *document() const;
+    /// While the text is changing the ends of the selection can be those of before, but not the caret.
     [[nodiscard]] Selection selection() const;
+    [[nodiscard]] qsizetype caret() const;
     void select(const Selection &selection) const;
     /// The position nearest to a point of the item, and the place of a position.
     [[nodiscard]] qsizetype positionAt(const QPointF &point) const;

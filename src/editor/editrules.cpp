@@ -47,6 +47,20 @@ bool isInsidePair(QStringView text, qsizetype position)
            && text.at(position).isLowSurrogate();
 }
 
+std::optional<Replacement> wholeCharacters(QString text, const Selection &selected, Replacement asked)
+{
+    if (asked.length <= 0)
+        return std::nullopt;
+    text.remove(selected.start(), selected.length());
+    const auto cuts = [&](int offset) { return isInsidePair(text, selected.start() + offset); };
+    const int end = asked.start + asked.length;
+    const int wholeStart = cuts(asked.start) ? asked.start - 1 : asked.start;
+    const int wholeEnd = cuts(end) ? end + 1 : end;
+    if (wholeStart == asked.start && wholeEnd == end)
+        return std::nullopt;
+    return Replacement{.start = wholeStart, .length = wholeEnd - wholeStart};
+}
+
 std::optional<MarkerChange> typedSpace(QStringView before)
 {
     for (const markup::TypedForm &form : markup::kTypedForms) {

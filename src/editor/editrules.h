@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/splice.h"
+
 #include <QStringView>
 
 #include <optional>
@@ -13,6 +15,18 @@ namespace vesk::editrules {
 
 /// Whether a position is between the two halves of a surrogate pair.
 [[nodiscard]] bool isInsidePair(QStringView text, qsizetype position);
+
+/// What an input method replaces, counted from the caret.
+struct Replacement
+{
+    int start = 0;
+    int length = 0;
+};
+/// Input methods that count characters, not UTF-16 units, ask for half an emoji to be replaced. Returns what
+/// is to be replaced so that nothing is left of a character; nullopt if `asked` cuts none. The item removes
+/// what is selected first, and counts from there.
+[[nodiscard]] std::optional<Replacement> wholeCharacters(QString text, const Selection &selected,
+                                                         Replacement asked);
 
 /// Makes of the first `length` characters of a line the `marker`, which is empty to remove them.
 struct MarkerChange

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "editor/editsteps.h"
 
+#include "editor/editedtext.h"
 #include "editor/edititem.h"
-#include "editor/notetext.h"
 
 #include <QScopedValueRollback>
 
@@ -25,7 +25,7 @@ Splice endingAt(qsizetype caret, const Splice &change, const QString &text)
 
 } // namespace
 
-EditSteps::EditSteps(const EditItem &edit, NoteText &text)
+EditSteps::EditSteps(const EditItem &edit, EditedText &text)
     : m_edit(edit)
     , m_text(text)
 {
@@ -95,7 +95,7 @@ void EditSteps::beforeInputMethod()
 
 void EditSteps::record(const Splice &change)
 {
-    const Selection after = m_after.value_or(m_edit.selection());
+    const Selection after = m_after.value_or(Selection::at(m_edit.caret()));
     if (m_after)
         m_edit.select(after);
     if (!m_isReplaying)

@@ -8,15 +8,15 @@
 namespace vesk {
 
 class EditItem;
-class NoteText;
+class EditedText;
 
-/// Changes an editor's text, step by step, and takes the steps back. What the item changes by itself,
-/// as the user types, is recorded too.
+/// Changes a text step by step, and undoes the steps. What the item changes by itself, as the user types, is
+/// recorded too.
 class EditSteps final
 {
 public:
-    /// Both have to outlive this.
-    EditSteps(const EditItem &edit, NoteText &text);
+    /// Both must outlive this.
+    EditSteps(const EditItem &edit, EditedText &text);
 
     /// Changes the text as one step to take back.
     void edit(qsizetype position, qsizetype length, const QString &text, const Selection &after);
@@ -45,7 +45,7 @@ private:
     void replay(const Splice &change, const Selection &after);
 
     const EditItem &m_edit;
-    NoteText &m_text;
+    EditedText &m_text;
     EditHistory m_history;
     /// What the next change starts from, how it joins the last one, and what it leaves selected if that
     /// is not up to the item.

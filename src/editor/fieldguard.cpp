@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "editor/fieldguard.h"
 
+#include "editor/editkeys.h"
+#include "editor/fieldediting.h"
 #include "editor/fieldtransfer.h"
 
 #include <QCoreApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QQmlEngine>
@@ -15,19 +18,13 @@ namespace {
 
 constexpr const char *kLeftAlone = "veskCopiesAndPastesItself";
 
-/// Some desktops, and terminals, paste plain text by these keys.
-bool isPastingPlainText(const QKeyEvent &key)
-{
-    return key.key() == Qt::Key_V && key.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
-}
-
 bool handleKey(FieldTransfer &transfer, QKeyEvent &key)
 {
     if (key.matches(QKeySequence::Copy))
         transfer.copy();
     else if (key.matches(QKeySequence::Cut))
         transfer.cut();
-    else if (key.matches(QKeySequence::Paste) || isPastingPlainText(key))
+    else if (editkeys::isPaste(key))
         transfer.paste();
     else
         return false;
@@ -74,11 +71,14 @@ bool FieldGuard::isGuarded(const QQuickItem &item) const
 bool FieldGuard::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
+    case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
+    case QEvent::InputMethod:
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease:
+    case QEvent::FocusIn:
     case QEvent::FocusOut:
         break;
     default:
@@ -87,10 +87,19 @@ bool FieldGuard::eventFilter(QObject *watched, QEvent *event)
     auto *item = qobject_cast<QQuickItem *>(watched);
     if (!item || !isGuarded(*item))
         return false;
+    FieldEditing &editing = FieldEditing::of(*item);
     FieldTransfer &transfer = FieldTransfer::of(*item);
     switch (event->type()) {
-    case QEvent::KeyPress:
-        return handleKey(transfer, static_cast<QKeyEvent &>(*event));
+    case QEvent::ShortcutOverride:
+        return editing.handleShortcut(static_cast<QKeyEvent &>(*event));
+    case QEvent::KeyPress: {
+        auto &key = static_cast<QKeyEvent &>(*event);
+        return handleKey(transfer, key) || editing.handleKey(key);
+    }
+    case QEvent::InputMethod:
+        return editing.handleInputMethod(static_cast<const QInputMethodEvent &>(*event));
+    case QEvent::FocusIn:
+        return false;
     case QEvent::KeyRelease:
         publishLater(transfer);
         return false;
@@ -101,6 +110,7 @@ bool FieldGuard::eventFilter(QObject *watched, QEvent *event)
         publishLater(transfer);
         [[fallthrough]];
     default:
+        editing.steps().endStep();
         return handleMouse(transfer, static_cast<QMouseEvent &>(*event));
     }
 }

@@ -9,9 +9,9 @@ class QQuickItem;
 
 namespace vesk {
 
-/// Sees to it that no text item of a QML engine uses the toolkit's own clipboard: takes the keys and
-/// clicks that copy, cut and paste, whichever item they go to, and has `FieldTransfer` do it. Owned by
-/// the engine.
+/// Watches all text items of a QML engine except note editors. None of them uses the toolkit's own clipboard:
+/// keys and clicks that copy, cut and paste go to `FieldTransfer`, whichever item they are for. The other
+/// keys, and input methods, go to `FieldEditing`. Owned by the engine.
 class FieldGuard final : public QObject
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/fieldtransfer.h"
 
+#include "editor/fieldediting.h"
 #include "editor/heldinput.h"
 #include "editor/lentpasteboards.h"
 #include "editor/trackedspan.h"
@@ -28,6 +29,12 @@ QString asOneLine(QString text)
         u"^[\\r\\n\\x{2028}\\x{2029}]+|[\\r\\n\\x{2028}\\x{2029}]+$"_s);
     static const QRegularExpression kWithin(u"\\s*[\\r\\n\\x{2028}\\x{2029}]+\\s*"_s);
     return text.remove(kAtTheEnds).replace(kWithin, u" "_s);
+}
+
+/// The line breaks of other systems as the item would write them anyway.
+QString withOwnLineBreaks(QString text)
+{
+    return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').replace(QChar::ParagraphSeparator, u'\n');
 }
 
 } // namespace
@@ -88,9 +95,8 @@ void FieldTransfer::copy()
 void FieldTransfer::cut()
 {
     copy();
-    const Selection selection = m_edit.selection();
-    if (lent() && !isReadOnly() && !selection.isEmpty())
-        replace(selection.start(), selection.end(), {});
+    if (lent())
+        removeSelection();
 }
 
 void FieldTransfer::removeSelection()
@@ -98,7 +104,13 @@ void FieldTransfer::removeSelection()
     m_edit.endComposing();
     const Selection selection = m_edit.selection();
     if (!isReadOnly() && !selection.isEmpty())
-        replace(selection.start(), selection.end(), {});
+        steps().edit(selection.start(), selection.length(), {}, Selection::at(selection.start()));
+}
+
+void FieldTransfer::replaceSelection(const QString &text)
+{
+    m_edit.endComposing();
+    steps().replaceSelection(text);
 }
 
 void FieldTransfer::selectAll()
@@ -145,19 +157,9 @@ void FieldTransfer::publishSelection()
     pasteboards->primary()->setString(selectedText());
 }
 
-void FieldTransfer::replace(qsizetype start, qsizetype end, const QString &text)
+EditSteps &FieldTransfer::steps() const
 {
-    if (QTextDocument *document = m_edit.document()) {
-        QTextCursor cursor(document);
-        cursor.setPosition(static_cast<int>(start));
-        cursor.setPosition(static_cast<int>(end), QTextCursor::KeepAnchor);
-        cursor.insertText(text);
-        return;
-    }
-    QMetaObject::invokeMethod(&item(), "remove", Q_ARG(int, static_cast<int>(start)),
-                              Q_ARG(int, static_cast<int>(end)));
-    QMetaObject::invokeMethod(&item(), "insert", Q_ARG(int, static_cast<int>(start)),
-                              Q_ARG(QString, asOneLine(text)));
+    return FieldEditing::of(item()).steps();
 }
 
 QCoro::Task<> FieldTransfer::insertFrom(Pasteboard &pasteboard, Selection place)
@@ -177,12 +179,17 @@ QCoro::Task<> FieldTransfer::insertFrom(Pasteboard &pasteboard, Selection place)
     delete span;
     if (!text || text->isEmpty() || isReadOnly())
         co_return;
-    const qsizetype lengthBefore = item().property("length").toInt();
-    replace(now.start(), now.end(), *text);
-    // What is held back was typed here before the keyboard moved on, and follows the text.
-    const qsizetype growth = item().property("length").toInt() - lengthBefore;
-    if (!item().hasActiveFocus())
-        m_edit.select(Selection::at(now.end() + growth));
+    const QString pasted = m_edit.document() ? withOwnLineBreaks(*text) : asOneLine(*text);
+    const qsizetype length = now.length();
+    Selection after = m_edit.selection();
+    // Where the user has put the caret meanwhile, it stays. What is held back was typed here before the
+    // keyboard moved on, and follows the text.
+    if (item().hasActiveFocus())
+        after = {.anchor = moved(after.anchor, now.start(), length, pasted.size()),
+                 .caret = moved(after.caret, now.start(), length, pasted.size())};
+    else
+        after = Selection::at(now.start() + pasted.size());
+    steps().edit(now.start(), length, pasted, after);
 }
 
 } // namespace vesk

@@ -11,6 +11,7 @@
 
 namespace vesk {
 
+class EditSteps;
 class LentPasteboards;
 class Pasteboard;
 
@@ -38,6 +39,8 @@ public:
     /// Deletes what is selected.
     Q_INVOKABLE void removeSelection();
     Q_INVOKABLE void selectAll();
+    /// Writes a text in place of what is selected.
+    Q_INVOKABLE void replaceSelection(const QString &text);
     [[nodiscard]] Q_INVOKABLE bool hasSelection() const { return !m_edit.selection().isEmpty(); }
     [[nodiscard]] Q_INVOKABLE bool hasText() const;
     /// Puts what was last selected, anywhere, at a point of the item.
@@ -58,7 +61,7 @@ private:
     [[nodiscard]] QQuickItem &item() const { return *m_edit.item(); }
     [[nodiscard]] LentPasteboards *lent() const;
     [[nodiscard]] QString selectedText() const;
-    void replace(qsizetype start, qsizetype end, const QString &text);
+    [[nodiscard]] EditSteps &steps() const;
     QCoro::Task<> insertFrom(Pasteboard &pasteboard, Selection place);
 
     EditItem m_edit;

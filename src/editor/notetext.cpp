@@ -120,24 +120,13 @@ void NoteText::follow(qsizetype position, qsizetype removed, qsizetype added)
     // is left out; it may stand for something else.
     const QString before = shown(m_text.mid(position, removed));
     const QString after = shownSlice(position, added);
-    const qsizetype shorter = std::min(removed, added);
-    qsizetype head = 0;
-    while (head < shorter && before.at(head) == after.at(head))
-        ++head;
-    // Two emoji often begin with the same half of a surrogate pair, or end in the same one.
-    if (editrules::isInsidePair(before, head))
-        --head;
-    qsizetype tail = 0;
-    while (tail < shorter - head && before.at(removed - 1 - tail) == after.at(added - 1 - tail))
-        ++tail;
-    if (editrules::isInsidePair(before, removed - tail))
-        --tail;
-    if (head + tail == removed && removed == added)
+    const Splice change = difference(before, after);
+    if (change.isEmpty())
         return;
-    position += head;
+    position += change.position;
     m_change = Splice{.position = position,
-                      .removed = m_text.mid(position, removed - head - tail),
-                      .inserted = typed(after.mid(head, added - head - tail))};
+                      .removed = m_text.mid(position, change.removed.size()),
+                      .inserted = typed(change.inserted)};
     m_text.replace(position, m_change->removed.size(), m_change->inserted);
 }
 

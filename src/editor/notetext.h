@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/editedtext.h"
 #include "editor/splice.h"
 
 #include <QObject>
@@ -16,7 +17,7 @@ namespace vesk {
 /// A note's text beside the document that shows it. A document cannot hold every character: what it
 /// would lose, or would not paint the line of, stands in it as another one of the same length. The text
 /// itself is kept here and follows each change of the document. Positions are the same in both.
-class NoteText final : public QObject
+class NoteText final : public QObject, public EditedText
 {
     Q_OBJECT
 
@@ -24,7 +25,7 @@ public:
     /// Takes over the document, which has to outlive this. Each paragraph gets this format.
     NoteText(QTextDocument &document, QTextBlockFormat paragraph, QObject *parent);
 
-    [[nodiscard]] const QString &text() const { return m_text; }
+    [[nodiscard]] const QString &text() const override { return m_text; }
     [[nodiscard]] QTextDocument &document() const { return m_document; }
     /// The line that a paragraph of the document shows, without its line break.
     [[nodiscard]] QStringView line(const QTextBlock &block) const;
@@ -33,8 +34,7 @@ public:
 
     /// Puts another text in place of all there is. No change of the text is reported.
     void load(const QString &text);
-    /// Puts `text` in place of `length` units at `position`.
-    void replace(qsizetype position, qsizetype length, const QString &text);
+    void replace(qsizetype position, qsizetype length, const QString &text) override;
 
 Q_SIGNALS:
     /// A part of the document has changed, maybe in nothing but what is being composed in it. The

@@ -2,8 +2,8 @@
 #include "editor/notetextkeys.h"
 
 #include "editor/edititem.h"
+#include "editor/editkeys.h"
 #include "editor/editsteps.h"
-#include "editor/eraserules.h"
 #include "editor/notetext.h"
 #include "editor/notetextview.h"
 
@@ -29,12 +29,6 @@ bool isReturn(const QKeyEvent &event)
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
-bool isRedo(const QKeyEvent &event)
-{
-    return event.matches(QKeySequence::Redo) || (event.key() == Qt::Key_Y && modifiersOf(event) == kCommand)
-           || (event.key() == Qt::Key_Z && modifiersOf(event) == (kCommand | Qt::ShiftModifier));
-}
-
 bool isChecklist(const QKeyEvent &event)
 {
     return event.key() == Qt::Key_L && modifiersOf(event) == (kCommand | Qt::ShiftModifier);
@@ -53,38 +47,9 @@ bool isTabbingAway(const QKeyEvent &event)
            && event.modifiers().testFlag(Qt::ControlModifier);
 }
 
-/// Whether the key writes a character. Joiners and marks of direction are not printed, but are typed.
-bool isCharacter(const QKeyEvent &event)
-{
-    const QList<uint> text = event.text().toUcs4();
-    if (text.isEmpty() || (event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier)))
-        return false;
-    const QChar::Category category = QChar::category(text.constFirst());
-    return QChar::isPrint(text.constFirst()) || category == QChar::Other_Format
-           || category == QChar::Other_PrivateUse;
-}
-
-bool isTyping(const QKeyEvent &event)
-{
-    return isCharacter(event) || event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete
-           || event.key() == Qt::Key_Tab;
-}
-
-/// Some desktops, and terminals, paste plain text by the second combination.
-bool isPaste(const QKeyEvent &event)
-{
-    return event.matches(QKeySequence::Paste)
-           || (event.key() == Qt::Key_V && modifiersOf(event) == (kCommand | Qt::ShiftModifier));
-}
-
 bool isTransfer(const QKeyEvent &event)
 {
-    return isPaste(event) || event.matches(QKeySequence::Copy) || event.matches(QKeySequence::Cut);
-}
-
-bool isModifier(const QKeyEvent &event)
-{
-    return event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_ScrollLock;
+    return editkeys::isPaste(event) || event.matches(QKeySequence::Copy) || event.matches(QKeySequence::Cut);
 }
 
 } // namespace
@@ -105,7 +70,7 @@ void NoteTextKeys::start(const NoteText &text, EditSteps &steps)
 bool NoteTextKeys::handleShortcut(QKeyEvent &event) const
 {
     // What is accepted here comes as a key press instead of setting off a shortcut of the window.
-    const bool isOurs = m_edit.isComposing() || isRedo(event) || isChecklist(event)
+    const bool isOurs = m_edit.isComposing() || editkeys::isRedo(event) || isChecklist(event)
                         || (m_takesEscape && event.key() == Qt::Key_Escape)
                         || (m_takesCommandReturn && isReturn(event) && modifiersOf(event) == kCommand);
     if (isOurs)
@@ -117,19 +82,10 @@ bool NoteTextKeys::handleKey(QKeyEvent &event)
 {
     if (isTransfer(event))
         m_edit.endComposing();
-    if (m_edit.isComposing()) {
-        // The input method lets through what it has no use for. A letter follows what was composed so
-        // far; any other key would tear it apart.
-        if (!isCharacter(event)) {
-            event.accept();
-            return true;
-        }
-        m_edit.endComposing();
-        m_steps->beforeKey(event.timestamp());
-        return false;
+    if (editkeys::isLostInComposing(event, m_edit) || editkeys::handle(event, m_edit, *m_text, *m_steps)) {
+        event.accept();
+        return true;
     }
-    if (!isTyping(event) && !isModifier(event))
-        m_steps->endStep();
     if (handleEditingKey(event) || handleReturn(event) || handlePage(event)) {
         event.accept();
         return true;
@@ -143,15 +99,11 @@ bool NoteTextKeys::handleEditingKey(const QKeyEvent &event)
         event.key() == Qt::Key_Escape && modifiersOf(event) == Qt::NoModifier && m_takesEscape;
     if (event.isAutoRepeat() && (isEscape || isChecklist(event)))
         return true;
-    if (event.matches(QKeySequence::Undo))
-        m_view.undo();
-    else if (isRedo(event))
-        m_view.redo();
-    else if (event.matches(QKeySequence::Cut))
+    if (event.matches(QKeySequence::Cut))
         m_view.cut();
     else if (event.matches(QKeySequence::Copy))
         m_view.copy();
-    else if (isPaste(event))
+    else if (editkeys::isPaste(event))
         m_view.paste();
     else if (isChecklist(event))
         m_view.toggleLinePrefix(QStringLiteral(u"\u2610 "));
@@ -161,27 +113,10 @@ bool NoteTextKeys::handleEditingKey(const QKeyEvent &event)
         Q_EMIT m_view.contextMenuRequested(m_edit.rectangleOf(m_edit.selection().caret).bottomLeft());
     else if (isTabbingAway(event))
         leaveText(!event.modifiers().testFlag(Qt::ShiftModifier));
-    else if (event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete)
-        return erase(event);
     else if (event.text() == u" " && !(modifiersOf(event) & ~Qt::ShiftModifier))
         return typeSpace();
     else
         return false;
-    return true;
-}
-
-bool NoteTextKeys::erase(const QKeyEvent &event)
-{
-    const bool isBackwards = event.key() == Qt::Key_Backspace;
-    const Qt::KeyboardModifiers ignored = isBackwards ? Qt::ShiftModifier : Qt::NoModifier;
-    const Selection selection = m_edit.selection();
-    if ((modifiersOf(event) & ~ignored) || !selection.isEmpty())
-        return false;
-    const qsizetype caret = selection.caret;
-    const qsizetype start = isBackwards ? eraserules::backspaceStart(m_text->text(), caret) : caret;
-    const qsizetype end = isBackwards ? caret : eraserules::deleteEnd(m_text->text(), caret);
-    if (start < end)
-        m_steps->erase(start, end - start);
     return true;
 }
 

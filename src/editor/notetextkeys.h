@@ -63,7 +63,6 @@ private:
     bool handleEditingKey(const QKeyEvent &event);
     bool handleReturn(const QKeyEvent &event);
     bool handlePage(const QKeyEvent &event);
-    bool erase(const QKeyEvent &event);
     void leaveText(bool isForwards);
 
     NoteTextView &m_view;

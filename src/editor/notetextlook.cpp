@@ -14,7 +14,7 @@ void NoteTextLook::start(const NoteText &text, Theme &theme)
     connect(this, &NoteTextLook::changed, this, &NoteTextLook::apply);
     connect(&theme, &Theme::changed, this, &NoteTextLook::apply);
     apply();
-    m_directions = std::make_unique<ParagraphDirections>(text);
+    m_directions = std::make_unique<ParagraphDirections>(text.document());
     m_directions->touch(0, static_cast<int>(text.text().size()));
     m_directions->apply();
     connect(&text, &NoteText::touched, this, [this](int position, int length) {

@@ -1,19 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "editor/paragraphdirections.h"
 
-#include "editor/notetext.h"
 #include "notes/linedirection.h"
 
 #include <QGuiApplication>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextLayout>
 
 #include <algorithm>
 
 namespace vesk {
 
 namespace {
+
+/// The line with what is being composed in it, as the user sees it.
+QString composedLine(const QTextBlock &block)
+{
+    const QTextLayout &layout = *block.layout();
+    return block.text().insert(layout.preeditAreaPosition(), layout.preeditAreaText());
+}
 
 void setDirection(QTextCursor &cursor, const QTextBlock &block, Qt::LayoutDirection direction)
 {
@@ -25,8 +32,8 @@ void setDirection(QTextCursor &cursor, const QTextBlock &block, Qt::LayoutDirect
 
 } // namespace
 
-ParagraphDirections::ParagraphDirections(const NoteText &text)
-    : m_text(text)
+ParagraphDirections::ParagraphDirections(QTextDocument &document)
+    : m_document(document)
 {
 }
 
@@ -41,14 +48,14 @@ void ParagraphDirections::apply()
     if (!m_touched)
         return;
     const auto [start, end] = *std::exchange(m_touched, std::nullopt);
-    QTextBlock block = m_text.document().findBlock(start);
+    QTextBlock block = m_document.findBlock(start);
     Qt::LayoutDirection direction = block.previous().isValid()
                                         ? block.previous().blockFormat().layoutDirection()
                                         : QGuiApplication::layoutDirection();
-    QTextCursor cursor(&m_text.document());
+    QTextCursor cursor(&m_document);
     bool isEditing = false;
     for (; block.isValid(); block = block.next()) {
-        const std::optional<Qt::LayoutDirection> own = lineDirection(m_text.composedLine(block));
+        const std::optional<Qt::LayoutDirection> own = lineDirection(composedLine(block));
         direction = own.value_or(direction);
         const bool isRight = block.blockFormat().layoutDirection() == direction;
         // After what was touched, only the lines without a direction of their own can be wrong.

@@ -6,19 +6,17 @@
 #include <optional>
 #include <utility>
 
-class QTextBlock;
+class QTextDocument;
 
 namespace vesk {
-
-class NoteText;
 
 /// Gives each paragraph of a document the direction of its line. By itself the toolkit's text item would
 /// give all of them the direction of the first.
 class ParagraphDirections final
 {
 public:
-    /// The text must outlive this.
-    explicit ParagraphDirections(const NoteText &text);
+    /// The document must outlive this.
+    explicit ParagraphDirections(QTextDocument &document);
 
     /// Records that a part of the document has changed. May be called within the change.
     void touch(int position, int length);
@@ -27,7 +25,7 @@ public:
     void apply();
 
 private:
-    const NoteText &m_text;
+    QTextDocument &m_document;
     /// Start and end of what was touched.
     std::optional<std::pair<int, int>> m_touched;
 };

@@ -15,8 +15,23 @@ struct Splice
     QString inserted;
 
     [[nodiscard]] qsizetype growth() const { return inserted.size() - removed.size(); }
+    /// Whether nothing has changed.
+    [[nodiscard]] bool isEmpty() const { return removed.isEmpty() && inserted.isEmpty(); }
     friend bool operator==(const Splice &, const Splice &) = default;
 };
+
+/// What has become of a text, as one change that tears no surrogate pair of `before` apart.
+[[nodiscard]] Splice difference(const QString &before, const QString &after);
+
+/// Where a position is after `length` units at `start` were replaced by `inserted` units: after them, if it
+/// was in what was replaced or at an end of it.
+[[nodiscard]] inline qsizetype moved(qsizetype position, qsizetype start, qsizetype length,
+                                     qsizetype inserted)
+{
+    if (position < start)
+        return position;
+    return std::max(position, start + length) - length + inserted;
+}
 
 /// What is selected: the text between `anchor`, where the selection was begun, and `caret`. Nothing is
 /// selected where both are the same. In UTF-16 units.

@@ -45,25 +45,15 @@ bool TextComposition::commitTyped(const QInputMethodEvent &event)
     return true;
 }
 
-/// Input methods that count characters, not UTF-16 units, ask for half an emoji to be replaced.
 bool TextComposition::replaceWholeCharacters(const QInputMethodEvent &event)
 {
-    if (event.replacementLength() <= 0)
+    const auto whole = editrules::wholeCharacters(m_text.text(), m_edit.selection(),
+                                                  {event.replacementStart(), event.replacementLength()});
+    if (!whole)
         return false;
-    // The item removes what is selected first, and counts from there.
-    const Selection selection = m_edit.selection();
-    QString text = m_text.text();
-    text.remove(selection.start(), selection.length());
-    const auto cuts = [&](int offset) { return editrules::isInsidePair(text, selection.start() + offset); };
-    const int start = event.replacementStart();
-    const int end = start + event.replacementLength();
-    const int wholeStart = cuts(start) ? start - 1 : start;
-    const int wholeEnd = cuts(end) ? end + 1 : end;
-    if (wholeStart == start && wholeEnd == end)
-        return false;
-    QInputMethodEvent whole(event.preeditString(), event.attributes());
-    whole.setCommitString(event.commitString(), wholeStart, wholeEnd - wholeStart);
-    deliver(whole);
+    QInputMethodEvent replacing(event.preeditString(), event.attributes());
+    replacing.setCommitString(event.commitString(), whole->start, whole->length);
+    deliver(replacing);
     return true;
 }
 

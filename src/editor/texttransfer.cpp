@@ -80,13 +80,9 @@ QCoro::Task<> TextTransfer::insertFrom(Pasteboard &pasteboard, Selection place, 
     const qsizetype start = span.selectionStart();
     const qsizetype end = span.selectionEnd();
     // Where the user has put the caret meanwhile, it stays.
-    const auto moved = [&](qsizetype position) {
-        if (position < start)
-            return position;
-        return position > end ? position + text->size() - (end - start) : start + text->size();
-    };
     const Selection selection = m_edit.selection();
-    Selection after{.anchor = moved(selection.anchor), .caret = moved(selection.caret)};
+    Selection after{.anchor = moved(selection.anchor, start, end - start, text->size()),
+                    .caret = moved(selection.caret, start, end - start, text->size())};
     if (then == Then::Select)
         after = {.anchor = start, .caret = start + text->size()};
     m_steps.edit(start, end - start, *text, after);

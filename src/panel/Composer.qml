@@ -24,11 +24,6 @@ Plate {
         menu.show(Qt.point(edit.cursorRectangle.x, edit.cursorRectangle.y + edit.cursorRectangle.height), true);
     }
 
-    function replaceSelection(text: string) {
-        edit.remove(edit.selectionStart, edit.selectionEnd);
-        edit.insert(edit.cursorPosition, text);
-    }
-
     // Keeps the caret in sight while there are more lines than fit.
     function followCaret(caret: rect) {
         if (caret.y < flickable.contentY)
@@ -62,7 +57,7 @@ Plate {
 
     Connections {
         function onLineBreakRequested() {
-            root.replaceSelection("\n");
+            edit.FieldTransfer.replaceSelection("\n");
         }
 
         target: root.model.keyboard
@@ -118,7 +113,6 @@ Plate {
             width: flickable.width - x
             wrapMode: TextEdit.Wrap
             rightPadding: 1
-            horizontalAlignment: placeholder.visible ? TextEdit.AlignLeft : undefined
             textFormat: TextEdit.PlainText
             font: Theme.fonts.field
             color: Theme.primary
@@ -151,6 +145,9 @@ Plate {
 
                 width: parent.width - edit.rightPadding
                 elide: Text.ElideRight
+                // Where the caret of an empty text is.
+                horizontalAlignment: Theme.isMirrored ? Text.AlignRight : Text.AlignLeft
+                LayoutMirroring.enabled: false
                 visible: edit.length === 0 && edit.preeditText.length === 0
                 textFormat: Text.PlainText
                 text: root.model.tab === PanelModel.Tab.Prompts ? qsTr("Write a follow-up prompt…") : qsTr("Write a note…")

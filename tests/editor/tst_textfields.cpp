@@ -8,8 +8,11 @@
 #include <QMouseEvent>
 #include <QQmlComponent>
 #include <QQuickItem>
+#include <QQuickTextDocument>
 #include <QQuickWindow>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextDocument>
 
 #include <memory>
 
@@ -63,6 +66,23 @@ struct Window : MemoryDesktop
         pasteboard.setDelay(clock, 500ms);
         press(Qt::Key_V, Qt::ControlModifier);
     }
+    void undo() { press(Qt::Key_Z, Qt::ControlModifier); }
+    void redo() { press(Qt::Key_Y, Qt::ControlModifier); }
+    void compose(const QString &text) const
+    {
+        QInputMethodEvent event(text, {});
+        QCoreApplication::sendEvent(first, &event);
+    }
+    /// Writes a text in place of another one, whose start is counted from the caret.
+    void commit(const QString &text, int start = 0, int length = 0) const
+    {
+        QInputMethodEvent event;
+        event.setCommitString(text, start, length);
+        QCoreApplication::sendEvent(first, &event);
+    }
+    /// The text of the first field.
+    [[nodiscard]] QString text() const { return textOf(first); }
+    [[nodiscard]] int caret() const { return first->property("cursorPosition").toInt(); }
     static void select(QQuickItem &item, int start, int end)
     {
         QMetaObject::invokeMethod(&item, "select", Q_ARG(int, start), Q_ARG(int, end));
@@ -108,6 +128,19 @@ private Q_SLOTS:
     void selectingTheSameTextAgainTakesPrimaryBack();
     void lineBreaksInASingleLine_data();
     void lineBreaksInASingleLine();
+    void erasesWholeCharacters_data();
+    void erasesWholeCharacters();
+    void eachCommitIsAStep_data() { types(); }
+    void eachCommitIsAStep();
+    void undoNeverLeavesHalfACharacter_data() { types(); }
+    void undoNeverLeavesHalfACharacter();
+    void undoOfPasteAndCut_data() { types(); }
+    void undoOfPasteAndCut();
+    void textOfTheProgramIsNotUndone_data() { types(); }
+    void textOfTheProgramIsNotUndone();
+    void keysAreTheInputMethodsWhileItComposes_data() { types(); }
+    void keysAreTheInputMethodsWhileItComposes();
+    void eachParagraphHasItsDirection();
 
 private:
     static void types()
@@ -315,6 +348,179 @@ void TextFieldsTest::lineBreaksInASingleLine()
     window.pasteboard.setString(pasted);
     window.press(Qt::Key_V, Qt::ControlModifier);
     QCOMPARE(Window::textOf(window.first), expected);
+}
+
+// "|" is where the caret is.
+void TextFieldsTest::erasesWholeCharacters_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("after");
+    for (const QString &type : {u"TextInput"_s, u"TextEdit"_s}) {
+        const auto row = [&type](const char *name) -> QTestData & {
+            return QTest::addRow("%s, %s", qUtf8Printable(type), name) << type;
+        };
+        row("family") << u"a👨‍👩‍👧‍👦|b"_s << int{Qt::Key_Backspace} << u"a|b"_s;
+        row("flag") << u"🇩🇪🇫🇷|"_s << int{Qt::Key_Backspace} << u"🇩🇪|"_s;
+        row("accent") << u"e\u0301|x"_s << int{Qt::Key_Backspace} << u"e|x"_s;
+        row("family, forwards") << u"a|👨‍👩‍👧‍👦b"_s << int{Qt::Key_Delete} << u"a|b"_s;
+        row("letter with an accent, forwards") << u"|e\u0301x"_s << int{Qt::Key_Delete} << u"|x"_s;
+        row("start") << u"|a"_s << int{Qt::Key_Backspace} << u"|a"_s;
+    }
+}
+
+void TextFieldsTest::erasesWholeCharacters()
+{
+    QFETCH(const QString, type);
+    QFETCH(QString, before);
+    QFETCH(const int, key);
+    Window window(type);
+    const int caret = static_cast<int>(before.indexOf(u'|'));
+    before.remove(u'|');
+    window.first->setProperty("text", before);
+    Window::select(*window.first, caret, caret);
+    window.press(key);
+    QTEST(window.text().insert(window.caret(), u'|'), "after");
+    window.undo();
+    QCOMPARE(window.text(), before);
+    QCOMPARE(window.caret(), caret);
+}
+
+void TextFieldsTest::eachCommitIsAStep()
+{
+    QFETCH(const QString, type);
+    Window window(type);
+    window.type(u"ab"_s);
+    window.compose(u"ni"_s);
+    window.commit(u"你好"_s);
+    window.commit(u"世界"_s);
+    window.type(u"cd"_s);
+    // In place of what was selected.
+    Window::select(*window.first, 0, 2);
+    window.compose(u"x"_s);
+    window.commit(u"我"_s);
+    const QStringList states{u"我你好世界cd"_s, u"ab你好世界cd"_s, u"ab你好世界"_s,
+                             u"ab你好"_s,       u"ab"_s,           QString()};
+    for (const QString &state : states) {
+        QCOMPARE(window.text(), state);
+        window.undo();
+    }
+    for (qsizetype i = states.size() - 2; i >= 0; --i) {
+        window.redo();
+        QCOMPARE(window.text(), states.at(i));
+    }
+}
+
+void TextFieldsTest::undoNeverLeavesHalfACharacter()
+{
+    QFETCH(const QString, type);
+    Window window(type);
+    const auto begin = [&window](const QString &text, int caret) {
+        window.first->setProperty("text", text);
+        Window::select(*window.first, caret, caret);
+    };
+    // Both begin with the same half.
+    begin(u"😀"_s, 0);
+    window.commit(u"😁"_s);
+    QCOMPARE(window.text(), u"😁😀"_s);
+    window.undo();
+    QCOMPARE(window.text(), u"😀"_s);
+    begin(u"😀"_s, 2);
+    window.commit(u"😂"_s, -2, 2);
+    window.undo();
+    QCOMPARE(window.text(), u"😀"_s);
+    // The halves come one by one, and half of one is replaced.
+    begin(u"a"_s, 1);
+    window.commit(QChar(0xd83d));
+    window.commit(QChar(0xde00));
+    QCOMPARE(window.text(), u"a😀"_s);
+    window.undo();
+    QCOMPARE(window.text(), u"a"_s);
+    window.redo();
+    QCOMPARE(window.text(), u"a😀"_s);
+    window.commit(u"x"_s, -1, 1);
+    QCOMPARE(window.text(), u"ax"_s);
+    window.undo();
+    QCOMPARE(window.text(), u"a😀"_s);
+}
+
+void TextFieldsTest::undoOfPasteAndCut()
+{
+    QFETCH(const QString, type);
+    Window window(type);
+    window.type(u"one two"_s);
+    window.press(Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
+    window.pasteboard.setString(u"2"_s);
+    window.press(Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(window.text(), u"one 2"_s);
+    window.press(Qt::Key_Home, Qt::ShiftModifier);
+    window.press(Qt::Key_X, Qt::ControlModifier);
+    QCOMPARE(window.text(), QString());
+    window.undo();
+    QCOMPARE(window.text(), u"one 2"_s);
+    QCOMPARE(window.first->property("selectedText"), u"one 2"_s);
+    window.undo();
+    QCOMPARE(window.text(), u"one two"_s);
+    QCOMPARE(window.first->property("selectedText"), u"two"_s);
+    // Words are steps.
+    window.undo();
+    QCOMPARE(window.text(), u"one "_s);
+    window.press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(window.text(), u"one two"_s);
+}
+
+void TextFieldsTest::textOfTheProgramIsNotUndone()
+{
+    QFETCH(const QString, type);
+    Window window(type);
+    window.type(u"saved"_s);
+    window.first->setProperty("text", QString());
+    window.undo();
+    QCOMPARE(window.text(), QString());
+    window.type(u"new"_s);
+    window.undo();
+    window.undo();
+    QCOMPARE(window.text(), QString());
+}
+
+void TextFieldsTest::keysAreTheInputMethodsWhileItComposes()
+{
+    QFETCH(const QString, type);
+    Window window(type);
+    window.type(u"ab"_s);
+    window.compose(u"ni"_s);
+    window.press(Qt::Key_Backspace);
+    window.press(Qt::Key_Left);
+    window.undo();
+    QCOMPARE(window.text(), u"ab"_s);
+    QCOMPARE(window.first->property("preeditText"), u"ni"_s);
+    window.type(u"c"_s);
+    QCOMPARE(window.text(), u"abnic"_s);
+    window.compose(u"hao"_s);
+    window.second->forceActiveFocus();
+    QCOMPARE(window.text(), u"abnichao"_s);
+}
+
+void TextFieldsTest::eachParagraphHasItsDirection()
+{
+    Window window(u"TextEdit"_s);
+    const auto sides = [&window] {
+        QString found;
+        const auto *document = window.first->property("textDocument").value<QQuickTextDocument *>();
+        for (QTextBlock block = document->textDocument()->begin(); block.isValid(); block = block.next())
+            found += block.layout()->lineAt(0).naturalTextRect().left() > 100 ? u'R' : u'L';
+        return found;
+    };
+    window.pasteboard.setString(u"Buy milk\nלקנות חלב\n12\nabc"_s);
+    window.press(Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(sides(), u"LRRL"_s);
+    window.undo();
+    QCOMPARE(sides(), u"L"_s);
+    window.compose(u"ש"_s);
+    QCOMPARE(sides(), u"R"_s);
+    window.compose({});
+    QCOMPARE(sides(), u"L"_s);
 }
 
 QTEST_MAIN(TextFieldsTest)

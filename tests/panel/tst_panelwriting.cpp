@@ -8,9 +8,9 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// What is being composed in the panel when something else happens. The input method of this test does not
-/// answer when it is asked to commit.
-class PanelComposingTest : public PanelTest
+/// Writing with an input method in the panel: what is being composed when something else happens, and how it
+/// is erased and undone. The input method of this test does not answer when it is asked to commit.
+class PanelWritingTest : public PanelTest
 {
     Q_OBJECT
 
@@ -22,15 +22,16 @@ private Q_SLOTS:
     void openNoteKeepsItAtTheEnd();
     void fieldKeepsIt_data();
     void fieldKeepsIt();
+    void composerErasesAndUndoesAsTheEditorDoes();
 
 private:
-    using Step = std::function<void(PanelComposingTest &)>;
+    using Step = std::function<void(PanelWritingTest &)>;
 
     void openLast();
     void compose(const QString &text) const;
 };
 
-void PanelComposingTest::init()
+void PanelWritingTest::init()
 {
     PanelTest::init();
     addNote(u"one"_s);
@@ -39,35 +40,35 @@ void PanelComposingTest::init()
     QTRY_COMPARE(shown("NoteCard").size(), 2);
 }
 
-void PanelComposingTest::openLast()
+void PanelWritingTest::openLast()
 {
     click(*shown("NoteCard").constFirst());
     QTRY_VERIFY(model().keyboard()->isEditing());
     press(Qt::Key_End, Qt::ControlModifier);
 }
 
-void PanelComposingTest::compose(const QString &text) const
+void PanelWritingTest::compose(const QString &text) const
 {
     QInputMethodEvent event(text, {});
     QCoreApplication::sendEvent(window().focusObject(), &event);
 }
 
-void PanelComposingTest::openNoteKeepsIt_data()
+void PanelWritingTest::openNoteKeepsIt_data()
 {
     QTest::addColumn<Step>("step");
-    QTest::newRow("closed") << Step([](PanelComposingTest &test) { test.model().openNote()->close(); });
+    QTest::newRow("closed") << Step([](PanelWritingTest &test) { test.model().openNote()->close(); });
     QTest::newRow("click on another card")
-        << Step([](PanelComposingTest &test) { test.click(*test.shown("NoteCard").constLast()); });
+        << Step([](PanelWritingTest &test) { test.click(*test.shown("NoteCard").constLast()); });
     QTest::newRow("click on the composer")
-        << Step([](PanelComposingTest &test) { test.click(*test.shown("Composer").constFirst()); });
+        << Step([](PanelWritingTest &test) { test.click(*test.shown("Composer").constFirst()); });
     QTest::newRow("another tab") << Step(
-        [](PanelComposingTest &test) { test.model().setTab(PanelModel::Tab::Prompts); });
-    QTest::newRow("panel hidden") << Step([](PanelComposingTest &test) { test.panel().togglePanel(); });
+        [](PanelWritingTest &test) { test.model().setTab(PanelModel::Tab::Prompts); });
+    QTest::newRow("panel hidden") << Step([](PanelWritingTest &test) { test.panel().togglePanel(); });
     QTest::newRow("another application")
-        << Step([](PanelComposingTest &test) { test.m_fixture->application.resignActive(); });
+        << Step([](PanelWritingTest &test) { test.m_fixture->application.resignActive(); });
 }
 
-void PanelComposingTest::openNoteKeepsIt()
+void PanelWritingTest::openNoteKeepsIt()
 {
     QFETCH(const Step, step);
     for (const bool isStill : {true, false}) {
@@ -89,7 +90,7 @@ void PanelComposingTest::openNoteKeepsIt()
     }
 }
 
-void PanelComposingTest::blankNoteStaysWithIt()
+void PanelWritingTest::blankNoteStaysWithIt()
 {
     const RecordId id = store().notes().first()->id();
     openLast();
@@ -101,7 +102,7 @@ void PanelComposingTest::blankNoteStaysWithIt()
     QCOMPARE(store().findNote(id)->text(), u"ni"_s);
 }
 
-void PanelComposingTest::openNoteKeepsItAtTheEnd()
+void PanelWritingTest::openNoteKeepsItAtTheEnd()
 {
     const RecordId id = store().notes().first()->id();
     openLast();
@@ -112,19 +113,19 @@ void PanelComposingTest::openNoteKeepsItAtTheEnd()
     QVERIFY(!kept->hasPendingChanges());
 }
 
-void PanelComposingTest::fieldKeepsIt_data()
+void PanelWritingTest::fieldKeepsIt_data()
 {
     QTest::addColumn<Step>("step");
     QTest::newRow("click on a card") << Step(
-        [](PanelComposingTest &test) { test.click(*test.shown("NoteCard").constLast()); });
-    QTest::newRow("panel hidden") << Step([](PanelComposingTest &test) { test.panel().togglePanel(); });
-    QTest::newRow("another field") << Step([](PanelComposingTest &test) {
+        [](PanelWritingTest &test) { test.click(*test.shown("NoteCard").constLast()); });
+    QTest::newRow("panel hidden") << Step([](PanelWritingTest &test) { test.panel().togglePanel(); });
+    QTest::newRow("another field") << Step([](PanelWritingTest &test) {
         const bool isInComposer = test.model().keyboard()->activeField() == Field::Composer;
         test.model().requestField(isInComposer ? Field::Search : Field::Composer);
     });
 }
 
-void PanelComposingTest::fieldKeepsIt()
+void PanelWritingTest::fieldKeepsIt()
 {
     QFETCH(const Step, step);
     for (const Field field : {Field::Composer, Field::Search}) {
@@ -141,5 +142,33 @@ void PanelComposingTest::fieldKeepsIt()
     }
 }
 
-QTEST_MAIN(PanelComposingTest)
-#include "tst_panelcomposing.moc"
+void PanelWritingTest::composerErasesAndUndoesAsTheEditorDoes()
+{
+    model().requestField(Field::Composer);
+    QQuickItem &edit = *window().activeFocusItem();
+    m_fixture->pasteboard.setString(u"tea 👨‍👩‍👧‍👦"_s);
+    press(Qt::Key_V, Qt::ControlModifier);
+    press(Qt::Key_Backspace);
+    QCOMPARE(model().draft(), u"tea "_s);
+    // Each line begins at its own side, and those that the panel writes are undone, too.
+    const qreal left = edit.property("cursorRectangle").toRectF().x();
+    press(Qt::Key_Return, Qt::ShiftModifier);
+    compose(u"שלום"_s);
+    QVERIFY(edit.property("cursorRectangle").toRectF().x() > left + 50);
+    QInputMethodEvent commit;
+    commit.setCommitString(u"שלום"_s);
+    QCoreApplication::sendEvent(&edit, &commit);
+    for (const QString &state :
+         {u"tea \nשלום"_s, u"tea \n"_s, u"tea "_s, u"tea 👨‍👩‍👧‍👦"_s, QString()}) {
+        QCOMPARE(model().draft(), state);
+        press(Qt::Key_Z, Qt::ControlModifier);
+    }
+    // A draft that is kept as a note does not come back.
+    type(u"milk"_s);
+    press(Qt::Key_Return);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(model().draft(), QString());
+}
+
+QTEST_MAIN(PanelWritingTest)
+#include "tst_panelwriting.moc"
