@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panel/panelkeys.h"
 
+#include "editor/editkeys.h"
 #include "panel/panelkeymap.h"
 #include "panel/panelmodel.h"
 #include "platform/application.h"
@@ -17,9 +18,8 @@ namespace {
 bool typesText(const QKeyEvent &event)
 {
     constexpr Qt::KeyboardModifiers kCommands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    const QString text = event.text();
-    return (event.modifiers() & kCommands) == Qt::NoModifier && !text.isEmpty() && text.front().isPrint()
-           && !text.front().isSpace();
+    return (event.modifiers() & kCommands) == Qt::NoModifier && editkeys::isCharacter(event)
+           && !event.text().front().isSpace();
 }
 
 } // namespace

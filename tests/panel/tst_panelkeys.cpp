@@ -344,6 +344,11 @@ void PanelKeysTest::typingBeginsASearch()
     press(Qt::Key_Escape);
     press(Qt::Key_Escape);
     QCOMPARE(model().keyboard()->activeField(), Field::None);
+    QKeyEvent emoji(QEvent::KeyPress, 0, Qt::NoModifier, u"😀"_s);
+    QCoreApplication::sendEvent(&window(), &emoji);
+    QCOMPARE(model().search(), u"😀"_s);
+    press(Qt::Key_Escape);
+    press(Qt::Key_Escape);
 
     // Into the note that was opened by the key before.
     press(Qt::Key_Down);
