@@ -46,6 +46,12 @@ Menu {
     }
 
     MenuEntry {
+        text: qsTr("Delete")
+        isEnabled: root.hasSelection
+        onTriggered: root.view.removeSelection()
+    }
+
+    MenuEntry {
     }
 
     MenuEntry {

@@ -184,6 +184,13 @@ void NoteTextView::paste()
     m_transfer->paste();
 }
 
+void NoteTextView::removeSelection()
+{
+    m_edit.endComposing();
+    const Selection selection = m_edit.selection();
+    m_steps->edit(selection.start(), selection.length(), {}, Selection::at(selection.start()));
+}
+
 void NoteTextView::selectAll()
 {
     m_edit.select({.anchor = 0, .caret = m_text->text().size()});

@@ -56,6 +56,7 @@ public:
     Q_INVOKABLE void cut();
     Q_INVOKABLE void copy();
     Q_INVOKABLE void paste();
+    Q_INVOKABLE void removeSelection();
     Q_INVOKABLE void selectAll();
     void toggleLinePrefix(const QString &marker);
     /// Ticks or unticks the box at this position; the selection stays.
