@@ -152,6 +152,7 @@ StoreError Database::load(const StoreFile &file, storejournal::Kind journal, Ope
     m_connection.exec("PRAGMA shrink_memory");
     file.restrictAccess();
     setCheckpointOnClose(true);
+    rememberFile();
     return {};
 }
 
@@ -168,6 +169,7 @@ Database::Written Database::write(const std::vector<Change> &changes)
         if (!written.isCommitted && written.trouble->kind == StoreTrouble::Kind::RecordRefused)
             written = writeInOneTransaction(changes, true);
         m_hasFailed = !written.isCommitted;
+        rememberFile();
     }
     if (written.trouble)
         qWarning() << "The notes could not be saved:" << qPrintable(written.trouble->detail);

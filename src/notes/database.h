@@ -103,9 +103,11 @@ private:
     [[nodiscard]] StoreTrouble troubleOf(const SQLite::Exception &error);
     /// Locks anew if the lock's file was removed, from when on it binds nobody.
     [[nodiscard]] std::optional<StoreTrouble> renewLock();
-    /// Moves the journal into the file, so that nothing is left by which the next file of the name could be
-    /// changed.
-    [[nodiscard]] std::optional<StoreTrouble> emptyJournal();
+    /// Leaves no journal by which the next file of the name, or one that was copied over this one, could be
+    /// changed. Where the file is still this program's, it gets what is in the journal.
+    [[nodiscard]] std::optional<StoreTrouble> emptyJournal(StorePlace::Finding finding);
+    /// Takes the file for this program's own, as it is now.
+    void rememberFile();
     [[nodiscard]] static std::optional<StoreTrouble> fill(const StoreFile &file,
                                                           const std::vector<Change> &records);
 
@@ -116,6 +118,7 @@ private:
     SQLite::Database m_connection;
     // Made after the connection, so that it is the same file.
     StorePlace m_place;
+    std::optional<StorePlace> m_journalPlace;
     // Prepared once the tables are known to be there.
     std::unique_ptr<NoteTable> m_notes;
     std::unique_ptr<PromptTable> m_prompts;

@@ -3,7 +3,7 @@
 #include "notes/database.h"
 #include "notes/rescuedstores.h"
 
-#include <QDebug>
+#include <QFile>
 
 #include <SQLiteCpp/Exception.h>
 #include <sqlite3.h>
@@ -34,8 +34,27 @@ std::optional<StoreTrouble> Database::renewLock()
     return StoreTrouble::of(SQLITE_CANTOPEN, locked.error.text, 0, m_file.folder());
 }
 
-std::optional<StoreTrouble> Database::emptyJournal()
+void Database::rememberFile()
 {
+    // Only with a write-ahead log does nobody else write into the file, and a network file system may tell of
+    // this program's own changes late.
+    if (m_journal != storejournal::Kind::WriteAheadLog)
+        return;
+    m_place.remember();
+    if (!m_journalPlace)
+        m_journalPlace.emplace(StoreFile::journalOf(m_file.path()));
+    m_journalPlace->remember();
+}
+
+std::optional<StoreTrouble> Database::emptyJournal(Finding finding)
+{
+    if (finding == Finding::Overwritten) {
+        setCheckpointOnClose(false);
+        // It may have been copied along, and then belongs to the other file.
+        if (m_journalPlace && m_journalPlace->look() == Finding::There)
+            static_cast<void>(QFile::resize(StoreFile::journalOf(m_file.path()), 0));
+        return std::nullopt;
+    }
     // Closing would remove a journal by its name, which may be another store's by now.
     setCheckpointOnClose(false);
     try {
@@ -53,7 +72,7 @@ std::optional<StoreTrouble> Database::emptyJournal()
 Database::Anew Database::writeAnew(const std::vector<Change> &records)
 {
     const Finding finding = m_place.look();
-    const bool isReplaced = finding == Finding::Replaced;
+    const bool isReplaced = finding == Finding::Replaced || finding == Finding::Overwritten;
     // Found out before the journal goes, and where that leads nowhere.
     const QString movedTo = finding == Finding::MovedAway ? m_place.currentPath() : QString();
     const StoreFile file(isReplaced ? rescuedstores::nextPath(m_lock->store()) : m_file.path());
@@ -61,7 +80,7 @@ Database::Anew Database::writeAnew(const std::vector<Change> &records)
     Anew result;
     std::optional<StoreTrouble> trouble = renewLock();
     if (!trouble)
-        trouble = emptyJournal();
+        trouble = emptyJournal(finding);
     if (!trouble)
         trouble = fill(file, records);
     if (trouble) {

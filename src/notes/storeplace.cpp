@@ -49,6 +49,18 @@ StorePlace::~StorePlace()
         ::close(m_descriptor);
 }
 
+StorePlace::Stamp StorePlace::Stamp::of(const struct stat &status)
+{
+    return {.size = status.st_size, .seconds = status.st_mtim.tv_sec, .nanoseconds = status.st_mtim.tv_nsec};
+}
+
+void StorePlace::remember()
+{
+    struct stat status = {};
+    if (m_descriptor >= 0 && ::fstat(m_descriptor, &status) == 0)
+        m_stamp = Stamp::of(status);
+}
+
 StorePlace::Finding StorePlace::look() const
 {
     const QByteArray name = QFile::encodeName(m_path);
@@ -57,7 +69,9 @@ StorePlace::Finding StorePlace::look() const
         // The user may have put a link to the file in its place.
         const bool isSame =
             ::stat(name.constData(), &found) == 0 && found.st_dev == m_device && found.st_ino == m_inode;
-        return isSame ? Finding::There : Finding::Replaced;
+        if (!isSame)
+            return Finding::Replaced;
+        return m_stamp && Stamp::of(found) != *m_stamp ? Finding::Overwritten : Finding::There;
     }
     if (errno != ENOENT && errno != ENOTDIR)
         return Finding::Unreachable;

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <optional>
+#include <sys/stat.h>
 #include <sys/types.h>
 
 namespace vesk {
@@ -21,6 +23,8 @@ public:
         MovedAway,
         /// Another file has its name.
         Replaced,
+        /// Somebody else has written into it since `remember`, as by copying another file over it.
+        Overwritten,
         /// The folder cannot be looked at, or its file system is no longer there.
         Unreachable,
     };
@@ -29,6 +33,9 @@ public:
     explicit StorePlace(const QString &path);
     ~StorePlace();
     Q_DISABLE_COPY_MOVE(StorePlace)
+
+    /// To be called when the file is as this program has left it, if nobody else may write into it.
+    void remember();
 
     [[nodiscard]] Finding look() const;
     /// Where a file that was moved away is; empty if the system does not say.
@@ -40,6 +47,16 @@ private:
     int m_descriptor;
     dev_t m_device = 0;
     ino_t m_inode = 0;
+    struct Stamp
+    {
+        qint64 size;
+        qint64 seconds;
+        qint64 nanoseconds;
+
+        [[nodiscard]] static Stamp of(const struct stat &status);
+        friend bool operator==(const Stamp &, const Stamp &) = default;
+    };
+    std::optional<Stamp> m_stamp;
 };
 
 } // namespace vesk

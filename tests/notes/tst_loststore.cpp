@@ -149,24 +149,34 @@ void TestLostStore::foreignFileIsLeftAlone_data()
 {
     QTest::addColumn<bool>("isStore");
     QTest::addColumn<bool>("isOldOneKept");
-    QTest::newRow("a store in place of the deleted one") << true << false;
-    QTest::newRow("a store in place of the moved one") << true << true;
-    QTest::newRow("another file") << false << false;
+    QTest::addColumn<bool>("isCopiedOver");
+    QTest::newRow("a store in place of the deleted one") << true << false << false;
+    QTest::newRow("a store in place of the moved one") << true << true << false;
+    QTest::newRow("another file") << false << false << false;
+    QTest::newRow("a store copied over") << true << false << true;
+    QTest::newRow("another file copied over") << false << false << true;
 }
 
 void TestLostStore::foreignFileIsLeftAlone()
 {
     QFETCH(bool, isStore);
     QFETCH(bool, isOldOneKept);
+    QFETCH(bool, isCopiedOver);
     const QString foreign = m_fixture->folder.filePath(u"other.store"_s);
     if (isStore)
         putForeignStore(foreign, u"foreign"_s);
     else
         QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), foreign));
     const QByteArray bytes = contentsOf(foreign);
-    QVERIFY(isOldOneKept ? QFile::rename(m_fixture->path(), m_fixture->folder.filePath(u"kept"_s))
-                         : QFile::remove(m_fixture->path()));
-    QVERIFY(QFile::rename(foreign, m_fixture->path()));
+    if (isCopiedOver) {
+        // Into the same file, as cp does.
+        QVERIFY(writeFile(m_fixture->path(), bytes));
+        QVERIFY(QFile::remove(foreign));
+    } else {
+        QVERIFY(isOldOneKept ? QFile::rename(m_fixture->path(), m_fixture->folder.filePath(u"kept"_s))
+                             : QFile::remove(m_fixture->path()));
+        QVERIFY(QFile::rename(foreign, m_fixture->path()));
+    }
 
     QTest::ignoreMessage(QtWarningMsg,
                          QRegularExpression(u"another file"_s, QRegularExpression::CaseInsensitiveOption));
