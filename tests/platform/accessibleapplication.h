@@ -55,6 +55,7 @@ public:
     [[nodiscard]] QString service() const { return m_connection.baseService(); }
     [[nodiscard]] static QString path(const QString &name);
     [[nodiscard]] Object &object(const QString &name) { return m_objects[name]; }
+    void removeObject(const QString &name) { m_objects.remove(name); }
     [[nodiscard]] Manner &manner() { return m_manner; }
     /// How many calls have come, answered or not.
     [[nodiscard]] int calls() const { return m_calls; }

@@ -118,6 +118,8 @@ private Q_SLOTS:
     void unansweredQuestionIsNotNo_data();
     void unansweredQuestionIsNotNo();
     void passwordStaysSecretWhenTheFocusMoves();
+    void passwordIsSecretWhereThePageMovesTheFocusAtOnce_data();
+    void passwordIsSecretWhereThePageMovesTheFocusAtOnce();
     void claimFromAnUnknownPlaceNeedsConfirmation();
     void terminalsSelectionEndsByAClickIntoIt();
     void emacsClaimsAgainOnDeselecting();
@@ -264,6 +266,18 @@ void TestX11Accessibility::primaryNeedsConfirmation_data()
         << editor << page(u"open \n sesame"_s) << Finding::Selected << u"open sesame"_s;
     QTest::newRow("page with another selection")
         << editor << page(u"another"_s) << Finding::Selected << u"open sesame"_s;
+    // Writer has only the paragraphs that are on the screen.
+    Object paragraph = field(u"sesame"_s, {{0, 6}});
+    paragraph.role = u"paragraph"_s;
+    Objects scrolled = window(paragraph);
+    scrolled[u"frame"_s].children = {u"first"_s, u"focused"_s};
+    scrolled[u"first"_s] = {
+        .role = u"paragraph"_s, .isText = true, .text = u"open"_s, .selections = {{0, 4}}};
+    QTest::newRow("paragraphs that agree") << editor << scrolled << Finding::Selected << u"open sesame"_s;
+    scrolled[u"first"_s].selections = {{0, 2}};
+    scrolled[u"focused"_s].selections = {{0, 3}};
+    QTest::newRow("paragraphs whose text is another's")
+        << editor << scrolled << Finding::Unknown << QString();
     Object list = field(u"open sesame"_s, {});
     list.hasUnknownSelection = true;
     QTest::newRow("list that cannot tell") << editor << window(list) << Finding::Unknown << QString();
@@ -343,6 +357,42 @@ void TestX11Accessibility::passwordStaysSecretWhenTheFocusMoves()
     // The next selection is not the field's.
     offer.claimAgain("ls");
     QTRY_COMPARE(read().text, u"ls"_s);
+}
+
+void TestX11Accessibility::passwordIsSecretWhereThePageMovesTheFocusAtOnce_data()
+{
+    QTest::addColumn<bool>("isFieldGone");
+    QTest::newRow("to the page") << false;
+    QTest::newRow("and removes the field") << true;
+}
+
+/// The bus tells of the focus before the X server tells of the selection.
+void TestX11Accessibility::passwordIsSecretWhereThePageMovesTheFocusAtOnce()
+{
+    QFETCH(const bool, isFieldGone);
+    bringForward("Editor");
+    startVesk();
+    Object password = field(u"open sesame"_s, {{0, 11}});
+    password.role = u"password text"_s;
+    Objects objects = window(password);
+    objects[u"frame"_s].children.append(u"page"_s);
+    objects[u"page"_s] = {.role = u"document web"_s, .isText = true, .text = u"another"_s};
+    showOnBus(objects);
+    m_application->announceFocus(u"focused"_s, true);
+    pressKey();
+    settle();
+    m_application->announceFocus(u"focused"_s, false);
+    m_application->object(u"focused"_s).isFocused = false;
+    m_application->object(u"page"_s).isFocused = true;
+    m_application->announceFocus(u"page"_s, true);
+    if (isFieldGone)
+        m_application->removeObject(u"focused"_s);
+    settle();
+    const Offer offer("open sesame");
+    settle();
+    // Until it is known who claimed PRIMARY.
+    QTest::qWait(500);
+    QCOMPARE(read().text, QString());
 }
 
 /// What had the keyboard when PRIMARY was claimed did not say whether it is a password field.

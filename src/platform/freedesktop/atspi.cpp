@@ -84,6 +84,7 @@ AtSpi::AtSpi()
     });
     connect(&m_bus, &AtSpiBus::disconnected, this, [this] {
         m_focused.clear();
+        m_pastFocus.clear();
         m_woken.clear();
     });
 }
@@ -159,24 +160,27 @@ QCoro::Task<std::optional<AccessibleElement>> AtSpi::shownPage(AtSpiQuestion que
 QCoro::Task<std::optional<bool>> AtSpi::isInPasswordField(AtSpiQuestion question, qint64 processIdentifier)
 {
     const QPointer<AtSpi> self(this);
-    const QHash<QString, AtSpiReference> focused = m_focused;
-    for (const AtSpiReference &object : focused) {
-        const std::optional<qint64> process = co_await question.processIdentifier(object.service);
-        if (process != processIdentifier)
-            continue;
-        const std::optional<QString> role = co_await question.roleName(object);
-        if (role == kPasswordRole)
-            co_return true;
-    }
+    QSet<AtSpiReference> focused(m_focused.cbegin(), m_focused.cend());
+    QSet<AtSpiReference> past = recentlyFocused();
+    const std::optional<AccessibleElement> element = co_await focusedElement(question, processIdentifier);
     if (self.isNull())
         co_return std::nullopt;
-    const std::optional<AccessibleElement> element = co_await focusedElement(question, processIdentifier);
-    if (!element || element->address.isEmpty())
-        co_return std::nullopt;
-    const std::optional<QString> role = co_await question.roleName(referenceOf(*element));
-    if (!role)
-        co_return std::nullopt;
-    co_return role == kPasswordRole;
+    // Whatever the application announced before its answers has arrived by now.
+    past.unite(recentlyFocused());
+    bool isKnown = element && !element->address.isEmpty();
+    if (isKnown)
+        focused.insert(referenceOf(*element));
+    const QSet<AtSpiReference> all = focused | past;
+    for (const AtSpiReference &object : all) {
+        const std::optional<qint64> process = co_await question.processIdentifier(object.service);
+        if (process && process != processIdentifier)
+            continue;
+        const std::optional<QString> role = co_await question.roleName(object);
+        if (role == kPasswordRole && focused.contains(object))
+            co_return true;
+        isKnown = isKnown && role && role != kPasswordRole;
+    }
+    co_return isKnown ? std::optional(false) : std::nullopt;
 }
 
 QCoro::Task<std::optional<bool>> AtSpi::isEditable(AtSpiQuestion question, AccessibleElement element)
@@ -207,10 +211,39 @@ void AtSpi::onFocusEvent(const AtSpiReference &object, bool isFocused)
 {
     // Events of the element that loses the focus may come after those of the one that gets it, so
     // a loss only clears the element itself.
+    const auto last = m_focused.constFind(object.service);
+    const bool isLast = last != m_focused.cend() && *last == object;
+    if (isFocused == isLast)
+        return;
+    if (last != m_focused.cend())
+        rememberPast(*last);
     if (isFocused)
         m_focused.insert(object.service, object);
-    else if (m_focused.value(object.service) == object)
+    else
         m_focused.remove(object.service);
+}
+
+void AtSpi::rememberPast(const AtSpiReference &object)
+{
+    // Longer than a claim of PRIMARY, or the news of it, takes on a busy machine.
+    constexpr auto kRecent = 3s;
+    // A page may move the keyboard about as often as it likes.
+    constexpr qsizetype kMaximum = 50;
+    m_pastFocus.removeIf(
+        [&object](const PastFocus &past) { return past.object == object || past.forgottenAt.hasExpired(); });
+    if (m_pastFocus.size() == kMaximum)
+        m_pastFocus.removeFirst();
+    m_pastFocus.append(PastFocus{.object = object, .forgottenAt = QDeadlineTimer(kRecent)});
+}
+
+QSet<AtSpiReference> AtSpi::recentlyFocused() const
+{
+    QSet<AtSpiReference> objects(m_focused.cbegin(), m_focused.cend());
+    for (const PastFocus &past : m_pastFocus) {
+        if (!past.forgottenAt.hasExpired())
+            objects.insert(past.object);
+    }
+    return objects;
 }
 
 void AtSpi::wake(const AtSpiReference &application)

@@ -9,6 +9,7 @@
 
 #include <QCoroTask>
 
+#include <QDeadlineTimer>
 #include <QHash>
 #include <QObject>
 #include <QSet>
@@ -55,7 +56,8 @@ public:
     static QCoro::Task<std::optional<AccessibleElement>> shownPage(AtSpiQuestion question,
                                                                    qint64 processIdentifier);
     /// Whether a password field has the keyboard in an application, or was the last to announce it by the
-    /// time of the call. Nullopt if that could not be told in time.
+    /// time of the call. Nullopt if that could not be told, or a password field had the keyboard in the last
+    /// seconds: pages move it on by themselves as soon as something is selected.
     QCoro::Task<std::optional<bool>> isInPasswordField(AtSpiQuestion question, qint64 processIdentifier);
     /// Whether the element's text can be changed; nullopt if it does not answer.
     static QCoro::Task<std::optional<bool>> isEditable(AtSpiQuestion question, AccessibleElement element);
@@ -63,7 +65,16 @@ public:
     static QCoro::Task<std::optional<QString>> documentUrl(AtSpiQuestion question, AccessibleElement element);
 
 private:
+    struct PastFocus
+    {
+        AtSpiReference object;
+        QDeadlineTimer forgottenAt;
+    };
+
     void onFocusEvent(const AtSpiReference &object, bool isFocused);
+    void rememberPast(const AtSpiReference &object);
+    /// What announced the keyboard last, in every application, and what has lost it within the last seconds.
+    [[nodiscard]] QSet<AtSpiReference> recentlyFocused() const;
     /// Chromium has nothing to show until someone has asked its root for something.
     void wake(const AtSpiReference &application);
     QCoro::Task<> wakeAll();
@@ -71,6 +82,7 @@ private:
 
     /// By service; only what an application has said since Vesk listens.
     QHash<QString, AtSpiReference> m_focused;
+    QList<PastFocus> m_pastFocus;
     QSet<QString> m_woken;
     AtSpiBus m_bus;
 };

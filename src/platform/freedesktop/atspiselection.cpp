@@ -58,7 +58,8 @@ QCoro::Task<bool> goesOutOfSight(AtSpiQuestion question, AtSpiReference last,
 }
 
 /// What is selected in the paragraphs of a document, each on a line of its own.
-QCoro::Task<std::optional<QString>> readParagraphs(AtSpiQuestion question, QList<AtSpiReference> paragraphs)
+QCoro::Task<std::optional<AtSpiSelection>> readParagraphs(AtSpiQuestion question,
+                                                          QList<AtSpiReference> paragraphs)
 {
     if (paragraphs.size() > kMaximumParagraphs)
         co_return std::nullopt;
@@ -90,21 +91,24 @@ QCoro::Task<std::optional<QString>> readParagraphs(AtSpiQuestion question, QList
         lines.append(*text);
     }
     const bool isCut = co_await goesOutOfSight(question, paragraphs.last(), selected);
-    if (isCut || question.isOver())
+    if (question.isOver())
         co_return std::nullopt;
-    co_return lines.join(u'\n');
+    co_return AtSpiSelection{.text = lines.join(u'\n'), .isAssembled = true, .isPart = isCut};
 }
 
-QCoro::Task<std::optional<QString>> readPage(AtSpiQuestion question, AtSpiReference page)
+QCoro::Task<std::optional<AtSpiSelection>> readPage(AtSpiQuestion question, AtSpiReference page)
 {
     const std::optional<QList<AtSpiRange>> ranges = co_await readAtSpiRanges(question, page);
     // Browsers say of a page that nothing is selected although all of it is.
     if (!ranges || ranges->isEmpty())
         co_return std::nullopt;
-    co_return co_await readAtSpiText(question, page, *ranges);
+    const std::optional<QString> text = co_await readAtSpiText(question, page, *ranges);
+    if (!text)
+        co_return std::nullopt;
+    co_return AtSpiSelection{.text = *text, .isAssembled = true};
 }
 
-QCoro::Task<std::optional<QString>> readParagraphsAround(AtSpiQuestion question, AtSpiReference object)
+QCoro::Task<std::optional<AtSpiSelection>> readParagraphsAround(AtSpiQuestion question, AtSpiReference object)
 {
     const std::optional<AtSpiReference> parent = co_await question.parent(object);
     if (!parent)
@@ -113,14 +117,6 @@ QCoro::Task<std::optional<QString>> readParagraphsAround(AtSpiQuestion question,
     if (!paragraphs || !paragraphs->contains(object))
         co_return std::nullopt;
     co_return co_await readParagraphs(question, *paragraphs);
-}
-
-QCoro::Task<std::optional<AtSpiSelection>> assembled(QCoro::Task<std::optional<QString>> reading)
-{
-    const std::optional<QString> text = co_await reading;
-    if (!text)
-        co_return std::nullopt;
-    co_return AtSpiSelection{.text = *text, .isAssembled = true};
 }
 
 } // namespace
@@ -139,13 +135,13 @@ QCoro::Task<std::optional<AtSpiSelection>> readAtSpiSelection(AtSpiQuestion ques
     if (!states->test(atspistate::kEditable) && role != "terminal"_L1) {
         const AtSpiReference page = co_await pageAround(question, object);
         if (!page.isNull())
-            co_return co_await assembled(readPage(question, page));
+            co_return co_await readPage(question, page);
     }
     if (!ranges || question.isOver())
         co_return std::nullopt;
     // Writer has its paragraphs side by side, and only one of them has the keyboard.
     if (isParagraph(*role))
-        co_return co_await assembled(readParagraphsAround(question, object));
+        co_return co_await readParagraphsAround(question, object);
     const std::optional<QString> text = co_await readAtSpiText(question, object, *ranges);
     if (!text)
         co_return std::nullopt;

@@ -18,6 +18,8 @@ struct AtSpiSelection
     /// Whether the text was put together from a page or from several paragraphs: it may differ from what
     /// the application itself would copy.
     bool isAssembled = false;
+    /// Whether it may be only a part of what is selected: the application has the rest out of sight.
+    bool isPart = false;
 };
 
 /// The text that is selected where this object is: in the object itself, or in the page or the row of

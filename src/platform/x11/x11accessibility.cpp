@@ -40,9 +40,11 @@ QString inkOf(const QString &text)
     return ink;
 }
 
-bool isSameText(const QString &text, const QString &other)
+/// Whether PRIMARY is what an application says is selected, as far as it says so.
+bool isConfirmed(const QString &primary, const AtSpiSelection &own)
 {
-    return text == other || inkOf(text) == inkOf(other);
+    return own.isPart ? inkOf(primary).contains(inkOf(own.text))
+                      : primary == own.text || inkOf(primary) == inkOf(own.text);
 }
 
 /// Whether a text is what toolkits show in place of a password's letters.
@@ -141,8 +143,8 @@ QCoro::Task<SelectedText> X11Accessibility::selectedText()
     if (taker == KeyTaker::PasswordPrompt)
         co_return SelectedText{.finding = Finding::Nothing};
     // Before any wait, in which the user may press something.
-    const bool isClaimed = m_standing.isFresh(*window);
-    SelectedText unknown{.isClaimed = isClaimed && !isPrimarySecret()};
+    bool isClaimed = m_standing.isFresh(*window);
+    SelectedText unknown;
     // Where something was selected a moment ago, an answer is worth a longer wait.
     AtSpiQuestion::Deadlines deadlines = m_deadlines;
     if (isClaimed)
@@ -153,6 +155,9 @@ QCoro::Task<SelectedText> X11Accessibility::selectedText()
         focused = co_await m_atSpi.focusedElement(search, *process);
     if (self.isNull())
         co_return SelectedText();
+    // A busy application claims what was selected before the key only by the time that it answers.
+    isClaimed = isClaimed || m_standing.isFresh(*window);
+    unknown.isClaimed = isClaimed && !isPrimarySecret();
     const AtSpiQuestion question = m_atSpi.ask(deadlines);
     const bool isOnBus = focused && !focused->address.isEmpty();
     std::optional<QString> role;
@@ -229,10 +234,10 @@ QCoro::Task<SelectedText> X11Accessibility::confirmedText(AtSpiSelection own, bo
     if (isUsable)
         primary = co_await m_primary.text();
     // The application's own text is the better one: the bus leaves out or adds white space.
-    if (primary && isSameText(*primary, own.text))
+    if (primary && isConfirmed(*primary, own))
         co_return SelectedText{.finding = Finding::Selected, .text = *primary, .isClaimed = true};
     // A field that shows bullets may be a password field that does not say so.
-    const bool isDoubtful = isMask(own.text) || (own.isAssembled && primary);
+    const bool isDoubtful = isMask(own.text) || own.isPart || (own.isAssembled && primary);
     co_return isDoubtful ? unknown : itself;
 }
 
