@@ -16,8 +16,13 @@ namespace vesk {
 /// One program's view of the X server's pasteboard.
 struct Program
 {
+    explicit Program(X11Pasteboard::Kind kind = X11Pasteboard::Kind::Clipboard)
+        : pasteboard(*connection, kind)
+    {
+    }
+
     std::unique_ptr<X11Connection> connection = X11Connection::open().connection;
-    X11Pasteboard pasteboard{*connection};
+    X11Pasteboard pasteboard;
 
     /// The server has done all that was asked of it when this returns.
     void sync() const { std::ignore = connection->property32(connection->root(), XCB_ATOM_WM_NAME); }

@@ -4,6 +4,7 @@
 #include "x11test.h"
 
 #include "platform/memory/memorypasteboard.h"
+#include "platform/x11/primaryselection.h"
 #include "platform/x11/selectioncontent.h"
 #include "virtualdesktop/clipboardholder.h"
 
@@ -42,6 +43,12 @@ private:
 class X11Bench final : public Bench
 {
 public:
+    explicit X11Bench(X11Pasteboard::Kind kind)
+        : m_own(kind)
+        , m_other(kind)
+    {
+    }
+
     Pasteboard &pasteboard() override { return m_own.pasteboard; }
     void copyElsewhere(const QString &text) override
     {
@@ -51,6 +58,8 @@ public:
 
 private:
     Program m_own;
+    /// Hears PRIMARY by the same connection, as in Vesk.
+    PrimarySelection m_selection{*m_own.connection};
     Program m_other;
 };
 
@@ -115,13 +124,15 @@ void TestPasteboard::benches()
     QTest::addColumn<QString>("bench");
     QTest::newRow("memory") << u"memory"_s;
     QTest::newRow("X11") << u"X11"_s;
+    QTest::newRow("X11, PRIMARY") << u"PRIMARY"_s;
 }
 
 std::unique_ptr<Bench> TestPasteboard::makeBench(const QString &name)
 {
     if (name == "memory"_L1)
         return std::make_unique<MemoryBench>();
-    return std::make_unique<X11Bench>();
+    using Kind = X11Pasteboard::Kind;
+    return std::make_unique<X11Bench>(name == "PRIMARY"_L1 ? Kind::Primary : Kind::Clipboard);
 }
 
 void TestPasteboard::textIsReadBack_data()

@@ -155,6 +155,9 @@ void X11Pasteboard::onEvent(const xcb_generic_event_t *event)
     if ((event->response_type & 0x7f) != m_connection.xfixesEvent() + XCB_XFIXES_SELECTION_NOTIFY)
         return;
     const auto *notify = reinterpret_cast<const xcb_xfixes_selection_notify_event_t *>(event);
+    // Whoever else hears this selection has each change reported to a window of its own as well.
+    if (notify->window != m_server.window())
+        return;
     // Our own writes have been counted when they were made, and what was there before a write of ours
     // is gone already: counted now, it would look like a change after the write.
     const bool isCounted = notify->owner == m_server.window() || m_server.isOlderThanOffer(event);
