@@ -8,6 +8,7 @@
 #include "notes/notesstore.h"
 #include "notes/storeadvice.h"
 #include "platform/accessibility.h"
+#include "platform/freedesktop/coredumps.h"
 #include "platform/freedesktop/systemclock.h"
 
 #include <QCoreApplication>
@@ -252,6 +253,8 @@ int Client::becomeApp(const QStringList &arguments)
         pointers.push_back(word.data());
     pointers.push_back(nullptr);
     const QByteArray app = QFile::encodeName(m_app);
+    // It forbids dumps by itself, and gives its own children what it was started with.
+    restoreCoreDumps();
     execv(app.constData(), pointers.data());
     sayError(tr("%1 could not be started: %2.").arg(m_app, qt_error_string(errno)));
     return kFailed;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/freedesktop/coredumps.h"
 #include "platform/freedesktop/desktopentries.h"
 #include "virtualdesktop/files.h"
 
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void userFolderComesFirst();
     void command_data();
     void command();
+    void launchedProgramKeepsItsOwnDumps();
 
 private:
     void write(const QString &folder, const QString &name, const QByteArray &keys);
@@ -140,6 +142,28 @@ void TestDesktopEntries::write(const QString &folder, const QString &name, const
 {
     QVERIFY(writeFile(folder + u'/' + name + u".desktop"_s,
                       "# A comment first\n[Desktop Entry]\nType=Application\n" + keys));
+}
+
+/// What keeps this process's memory out of core dumps is not for the browser that it opens.
+void TestDesktopEntries::launchedProgramKeepsItsOwnDumps()
+{
+    const QString file = m_folder.filePath(u"dumps"_s);
+    const QString script = m_folder.filePath(u"script"_s);
+    QVERIFY(writeFile(script, "grep core /proc/self/limits > " + QFile::encodeName(file)
+                                  + "\ncat /proc/self/coredump_filter >> " + QFile::encodeName(file) + '\n'));
+    write(m_user, u"dumps"_s, "Name=Dumps\nExec=sh " + QFile::encodeName(script) + '\n');
+    const DesktopEntries entries({m_user});
+    const auto dumpsOfLaunched = [&] {
+        QFile::remove(file);
+        const bool isWritten =
+            entries.launch(u"dumps"_s) && QTest::qWaitFor([&] { return contentsOf(file).count('\n') == 2; });
+        return isWritten ? contentsOf(file) : QByteArray();
+    };
+    const QByteArray before = dumpsOfLaunched();
+    QVERIFY(!before.isEmpty());
+    forbidCoreDumps();
+    QCOMPARE(contentsOf(u"/proc/self/coredump_filter"_s).trimmed().toULong(nullptr, 16), 0UL);
+    QCOMPARE(dumpsOfLaunched(), before);
 }
 
 QTEST_GUILESS_MAIN(TestDesktopEntries)

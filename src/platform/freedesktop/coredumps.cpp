@@ -2,24 +2,50 @@
 #include "platform/freedesktop/coredumps.h"
 
 #include <fcntl.h>
+#include <pthread.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
+#include <optional>
 
 namespace vesk {
 
 namespace {
 
-/// Leaves everything that is in memory out of a dump, for where the limit does not help: a hard limit of 0
-/// cannot be raised to 1. Inherited by the programs that Vesk starts, as the limit is.
-void leaveOutMemory()
+constexpr auto kFilter = "/proc/self/coredump_filter";
+
+/// What the process was started with, in a form that a child can set between fork and exec, where nothing
+/// may be allocated.
+struct Before
 {
-    const int filter = ::open("/proc/self/coredump_filter", O_WRONLY | O_CLOEXEC);
-    if (filter < 0)
+    std::optional<rlimit> limit;
+    /// As the kernel has it: a hexadecimal number, which it takes back after "0x".
+    std::array<char, 32> filter{'0', 'x'};
+    size_t filterLength = 0;
+};
+
+Before g_before;
+
+void readFilter()
+{
+    constexpr size_t kPrefix = 2;
+    const int file = ::open(kFilter, O_RDONLY | O_CLOEXEC);
+    if (file < 0)
         return;
-    static_cast<void>(::write(filter, "0", 1));
-    ::close(filter);
+    const ssize_t length = ::read(file, g_before.filter.data() + kPrefix, g_before.filter.size() - kPrefix);
+    g_before.filterLength = length > 0 ? kPrefix + static_cast<size_t>(length) : 0;
+    ::close(file);
+}
+
+void writeFilter(const char *text, size_t length)
+{
+    const int file = ::open(kFilter, O_WRONLY | O_CLOEXEC);
+    if (file < 0)
+        return;
+    static_cast<void>(::write(file, text, length));
+    ::close(file);
 }
 
 } // namespace
@@ -30,13 +56,26 @@ void forbidCoreDumps()
     // which look there for who calls them, refuse every call.
     rlimit limit{};
     if (::getrlimit(RLIMIT_CORE, &limit) == 0) {
+        g_before.limit = limit;
         // Where dumps go to a program (core_pattern begins with a pipe), the kernel does not look at the
         // size, but for the one value 1, which it takes for a program of that kind that has crashed itself,
         // and refuses. One byte is too little for a file, too.
         limit.rlim_cur = std::min(rlim_t{1}, limit.rlim_max);
         static_cast<void>(::setrlimit(RLIMIT_CORE, &limit));
     }
-    leaveOutMemory();
+    // Leaves everything that is in memory out of a dump, for where the limit does not help: a hard limit of
+    // 0 cannot be raised to 1.
+    readFilter();
+    writeFilter("0", 1);
+    static_cast<void>(::pthread_atfork(nullptr, nullptr, restoreCoreDumps));
+}
+
+void restoreCoreDumps()
+{
+    if (g_before.limit)
+        static_cast<void>(::setrlimit(RLIMIT_CORE, &*g_before.limit));
+    if (g_before.filterLength > 0)
+        writeFilter(g_before.filter.data(), g_before.filterLength);
 }
 
 } // namespace vesk
