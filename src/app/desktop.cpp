@@ -14,7 +14,8 @@ Desktop::Desktop(std::unique_ptr<X11Connection> connection, ApplicationService &
     , screens(*x11)
     , windows(*x11, screens)
     , workspace(*x11)
-    , application(*x11, workspace, service)
+    , keyboardHold(*x11, input)
+    , application(*x11, workspace, keyboardHold, service)
     , hotKeys(*x11, input)
     , accessibility(*x11, input, workspace, consent)
     , pasteboard(*x11)
@@ -24,7 +25,8 @@ Desktop::Desktop(std::unique_ptr<X11Connection> connection, ApplicationService &
               .input = input,
               .workspace = workspace,
               .accessibility = accessibility,
-              .clock = clock})
+              .clock = clock,
+              .hold = &keyboardHold})
     , tap(input)
 {
 }

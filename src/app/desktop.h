@@ -8,6 +8,7 @@
 #include "platform/freedesktop/packagekitupdates.h"
 #include "platform/freedesktop/portalappearance.h"
 #include "platform/freedesktop/systemclock.h"
+#include "platform/x11/keyboardhold.h"
 #include "platform/x11/rawinput.h"
 #include "platform/x11/x11accessibility.h"
 #include "platform/x11/x11appearance.h"
@@ -44,6 +45,7 @@ struct Desktop
     X11Screens screens;
     X11Windows windows;
     X11Workspace workspace;
+    KeyboardHold keyboardHold;
     X11Application application;
     X11HotKeys hotKeys;
     X11Accessibility accessibility;

@@ -36,6 +36,9 @@ public:
     /// Ends the hidden state. Does not show any window.
     virtual void unhide() = 0;
 
+    /// Whether any key is down now, whichever window has the keyboard. Does not say which key.
+    [[nodiscard]] virtual bool isAnyKeyDown() const = 0;
+
     /// Holds back what is typed until it is known which window should receive it: `holdKeys` keeps it for a
     /// window of this program, and `expectNoKeys` passes it on to the application in front. That application
     /// does not notice, and can still be asked about its selection. Ends by itself after a moment.

@@ -34,6 +34,8 @@ private Q_SLOTS:
     void heldModifiersAreBackAfterACopy_data();
     void heldModifiersAreBackAfterACopy();
     void heldControlIsBackAfterPasting();
+    void lettersTypedAroundACopyGoIntoTheBox_data();
+    void lettersTypedAroundACopyGoIntoTheBox();
     void keysGoToTheWindowOfThePressOnly_data();
     void keysGoToTheWindowOfThePressOnly();
     void programsThatMayHaveATerminalGetNoCopy_data();
@@ -129,7 +131,6 @@ void TestSentKeys::heldModifiersAreBackAfterACopy_data()
         row("all held", superAlt, {}, u"Super+Alt+x"_s);
         row("Alt held", superAlt, {XK_Super_L}, u"Alt+x"_s);
         row("Super held", superAlt, {XK_Alt_L}, u"Super+x"_s);
-        row("none held", superAlt, {XK_Super_L, XK_Alt_L}, u"x"_s);
         row("three held", withShift, {}, u"Super+Alt+Shift+x"_s);
     }
 }
@@ -181,6 +182,41 @@ void TestSentKeys::heldControlIsBackAfterPasting()
     keyboard.tap({XK_y}, kFinger);
     QVERIFY(m_recorder->waitFor(u"y"_s));
     QCOMPARE(m_recorder->keys(), (QStringList{kPaste, u"Control+x"_s, u"y"_s}));
+    QVERIFY(isKeyboardAtRest());
+}
+
+void TestSentKeys::lettersTypedAroundACopyGoIntoTheBox_data()
+{
+    QTest::addColumn<Keyboard::Device>("device");
+    QTest::addColumn<bool>("isAfterTheCopy");
+    QTest::newRow("keyboard, before") << Keyboard::Device::Hardware << false;
+    QTest::newRow("keyboard, after") << Keyboard::Device::Hardware << true;
+    QTest::newRow("program, before") << Keyboard::Device::Programs << false;
+    QTest::newRow("program, after") << Keyboard::Device::Programs << true;
+}
+
+/// In the document they would replace what is selected.
+void TestSentKeys::lettersTypedAroundACopyGoIntoTheBox()
+{
+    QFETCH(const Keyboard::Device, device);
+    QFETCH(const bool, isAfterTheCopy);
+    Keyboard keyboard(m_desktop->display(), device);
+    const Keys hotKey{XK_Super_L, XK_Alt_L, XK_n};
+    for (const xcb_keysym_t key : hotKey)
+        keyboard.press(key);
+    // Nothing is copied before the hot key is up, and Vesk has heard of it by then.
+    VERIFY_ON(*m_desktop,
+              m_desktop->display().waitUntil(kBound, [this] { return m_desktop->pointer().isTaken(); }));
+    for (const xcb_keysym_t key : hotKey | std::views::reverse)
+        keyboard.release(key);
+    if (isAfterTheCopy)
+        QVERIFY2(m_recorder->waitFor(kCopy), qPrintable(m_recorder->keys().join(u' ')));
+    for (const xcb_keysym_t key : {XK_t, XK_e, XK_a})
+        keyboard.tap({key}, kFinger);
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kQuickNote, kBound));
+    keyboard.tap({XK_Return}, kFinger);
+    VERIFY_ON(*m_desktop, waitNotes({u"tea"_s}));
+    QCOMPARE(m_recorder->keys(), isAfterTheCopy ? QStringList{kCopy} : QStringList());
     QVERIFY(isKeyboardAtRest());
 }
 

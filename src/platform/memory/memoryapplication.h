@@ -20,6 +20,7 @@ public:
     [[nodiscard]] bool isAway() const override { return m_isAway; }
     [[nodiscard]] bool isPreviousWindowClosed() const override { return m_isPreviousWindowClosed; }
     void unhide() override { m_isHidden = false; }
+    [[nodiscard]] bool isAnyKeyDown() const override { return m_isAnyKeyDown; }
     void expectKeys() override { m_expectsKeys = true; }
     void expectNoKeys() override { m_expectsKeys = false; }
     bool holdKeys() override;
@@ -34,6 +35,7 @@ public:
     void closePreviousWindow() { m_isPreviousWindowClosed = true; }
     /// Whether typed keys are being held back by `expectKeys`.
     [[nodiscard]] bool expectsKeys() const { return m_expectsKeys; }
+    void setAnyKeyDown(bool isDown) { m_isAnyKeyDown = isDown; }
     /// Simulates a second start of the program.
     void reopen() { Q_EMIT reopened(); }
     /// The window that was activated last.
@@ -43,6 +45,7 @@ private:
     bool m_isActive = false;
     bool m_isHidden = false;
     bool m_isAway = true;
+    bool m_isAnyKeyDown = false;
     bool m_isPreviousWindowClosed = false;
     bool m_expectsKeys = false;
     QPointer<QWindow> m_activatedWindow;

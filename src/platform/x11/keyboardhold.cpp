@@ -2,12 +2,14 @@
 #include "platform/x11/keyboardhold.h"
 
 #include "platform/x11/keystates.h"
+#include "platform/x11/rawinput.h"
 #include "platform/x11/x11connection.h"
 
 namespace vesk {
 
-KeyboardHold::KeyboardHold(X11Connection &connection)
+KeyboardHold::KeyboardHold(X11Connection &connection, const RawInput &input)
     : m_connection(connection)
+    , m_input(input)
 {
     constexpr std::chrono::milliseconds kLimit{1500};
     m_limit.setSingleShot(true);
@@ -18,10 +20,6 @@ KeyboardHold::KeyboardHold(X11Connection &connection)
     m_quietLimit.setSingleShot(true);
     m_quietLimit.setInterval(kQuietLimit);
     connect(&m_quietLimit, &QTimer::timeout, this, &KeyboardHold::endQuiet);
-    connect(&connection, &X11Connection::keysNeeded, this, [this] {
-        endQuiet();
-        end();
-    });
     constexpr std::chrono::milliseconds kLook{20};
     m_releaseWatch.setInterval(kLook);
     connect(&m_releaseWatch, &QTimer::timeout, this, &KeyboardHold::lookForRelease);
@@ -38,8 +36,17 @@ void KeyboardHold::beginQuietly()
                          XCB_GRAB_MODE_SYNC, XCB_WINDOW_NONE, XCB_CURSOR_NONE, XCB_CURRENT_TIME);
     const XReply<xcb_grab_pointer_reply_t> reply(xcb_grab_pointer_reply(m_connection.xcb(), cookie, nullptr));
     m_isQuiet = reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
-    if (m_isQuiet)
-        m_quietLimit.start();
+    if (!m_isQuiet)
+        return;
+    m_pressBefore = m_input.lastPress();
+    m_quietLimit.start();
+}
+
+bool KeyboardHold::keepsPress() const
+{
+    // A press that turned out to be the desktop's is taken back, and the one before it is the last again.
+    return m_isQuiet && m_input.lastPress() != m_pressBefore
+           && isAtOrAfter(m_input.lastPress(), m_pressBefore);
 }
 
 void KeyboardHold::endQuiet()

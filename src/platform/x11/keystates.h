@@ -25,6 +25,8 @@ struct HeldKeys
     KeyStates byPrograms;
     /// That device.
     xcb_input_device_id_t programsDevice = 0;
+
+    [[nodiscard]] KeyStates all() const { return byUser | byPrograms; }
 };
 
 /// Asked for and waited for. Empty if the server does not answer.

@@ -4,6 +4,7 @@
 #include "platform/x11/x11connection.h"
 
 #include <algorithm>
+#include <array>
 
 namespace vesk {
 
@@ -17,22 +18,25 @@ RawInput::RawInput(X11Connection &connection)
 void RawInput::setListening(bool isListening)
 {
     m_isListening = isListening;
-    struct
+    struct Selection
     {
         xcb_input_event_mask_t header;
         uint32_t mask;
-    } selection{
-        .header = {.deviceid = XCB_INPUT_DEVICE_ALL_MASTER, .mask_len = 1},
-        .mask = 0,
     };
+    std::array<Selection, 2> selections{{
+        {.header = {.deviceid = XCB_INPUT_DEVICE_ALL, .mask_len = 1}, .mask = 0},
+        {.header = {.deviceid = XCB_INPUT_DEVICE_ALL_MASTER, .mask_len = 1}, .mask = 0},
+    }};
     if (isListening) {
-        selection.mask = XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE
-                         | XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS | XCB_INPUT_XI_EVENT_MASK_FOCUS_IN
-                         | XCB_INPUT_XI_EVENT_MASK_FOCUS_OUT;
+        selections.front().mask = XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS
+                                  | XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE
+                                  | XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS;
+        selections.back().mask = XCB_INPUT_XI_EVENT_MASK_FOCUS_IN | XCB_INPUT_XI_EVENT_MASK_FOCUS_OUT;
     } else {
         forget();
     }
-    xcb_input_xi_select_events(m_connection.xcb(), m_connection.root(), 1, &selection.header);
+    xcb_input_xi_select_events(m_connection.xcb(), m_connection.root(), selections.size(),
+                               &selections.front().header);
     m_connection.flush();
     Q_EMIT listeningChanged();
 }
@@ -70,13 +74,17 @@ void RawInput::onEvent(const xcb_generic_event_t *event)
         return;
     const auto &raw = *reinterpret_cast<const xcb_input_raw_key_press_event_t *>(event);
     const auto &focus = *reinterpret_cast<const xcb_input_focus_in_event_t *>(event);
+    // The keyboards and mice themselves are heard: the master device that unites them reports nothing while
+    // it is held.
+    const bool isOfMaster = raw.deviceid != raw.sourceid;
     switch (generic->event_type) {
     case XCB_INPUT_RAW_BUTTON_PRESS:
-        onButton(raw.detail, raw.time);
+        if (!isOfMaster)
+            onButton(raw.detail, raw.time);
         break;
     case XCB_INPUT_RAW_KEY_PRESS:
     case XCB_INPUT_RAW_KEY_RELEASE:
-        if (!isOwn(raw))
+        if (!isOfMaster && !isOwn(raw))
             onKey(generic->event_type == XCB_INPUT_RAW_KEY_PRESS, static_cast<xcb_keycode_t>(raw.detail),
                   raw.time);
         break;

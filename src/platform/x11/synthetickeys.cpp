@@ -95,7 +95,7 @@ SyntheticKeys::~SyntheticKeys()
 bool SyntheticKeys::canPlay() const
 {
     const ModifierMap &modifiers = m_input.modifiers();
-    const KeyStates down = keysDown(m_connection);
+    const KeyStates down = heldKeys(m_connection).all();
     Qt::KeyboardModifiers held;
     for (const xcb_keycode_t key : keysIn(down))
         held |= modifiers.modifiersOf(key);
@@ -107,11 +107,11 @@ bool SyntheticKeys::canPlay() const
     });
 }
 
-bool SyntheticKeys::play(const QList<uint32_t> &keysyms)
+bool SyntheticKeys::play(const QList<uint32_t> &keysyms, const std::function<void()> &letGo)
 {
     const ModifierMap &modifiers = m_input.modifiers();
     const HeldKeys before = heldKeys(m_connection);
-    const KeyStates down = keysDown(m_connection) | before.byPrograms | before.byUser;
+    const KeyStates down = keysDown(m_connection) | before.all();
     const std::optional<Keys> codes = codesOf(keysyms, down);
     if (!codes)
         return false;
@@ -119,6 +119,8 @@ bool SyntheticKeys::play(const QList<uint32_t> &keysyms)
     // state of the lock.
     Keys lifted = keysIn(down);
     lifted.removeIf([&](xcb_keycode_t key) { return !modifiers.isModifier(key) || modifiers.isLock(key); });
+    const xcb_keycode_t filler = KeyboardMapping(m_connection).meaninglessKey();
+    letGo();
     for (const xcb_keycode_t key : std::as_const(lifted))
         send(XCB_KEY_RELEASE, key);
     for (const xcb_keycode_t key : *codes)
@@ -136,9 +138,9 @@ bool SyntheticKeys::play(const QList<uint32_t> &keysyms)
         m_lent.set(key, !byOthers.test(key));
     }
     // Desktops and menu bars open something when Super or Alt goes down and up with no key between.
-    if (const xcb_keycode_t key = KeyboardMapping(m_connection).meaninglessKey(); isAnyBack && key != 0) {
-        send(XCB_KEY_PRESS, key);
-        send(XCB_KEY_RELEASE, key);
+    if (isAnyBack && filler != 0) {
+        send(XCB_KEY_PRESS, filler);
+        send(XCB_KEY_RELEASE, filler);
     }
     // The user may have let go between the question and the answer.
     returnLent();

@@ -9,6 +9,7 @@
 
 #include <xcb/xcb.h>
 
+#include <functional>
 #include <optional>
 
 namespace vesk {
@@ -31,9 +32,12 @@ public:
     /// keyboard's layout when they are held together would switch it once more.
     [[nodiscard]] bool canPlay() const;
 
-    /// Plays the keys with these keysyms, modifiers first. The server must be grabbed. Returns false, with
-    /// nothing played, if the keyboard has no such key.
-    bool play(const QList<uint32_t> &keysyms);
+    /// Plays the keys with these keysyms, modifiers first. The server must be grabbed. Keys that are held
+    /// back must be let go of in `letGo`, which is called at the last moment: whatever the user presses
+    /// from then on may come before the keys. Returns false, with nothing played, if the keyboard has no
+    /// such key.
+    bool play(
+        const QList<uint32_t> &keysyms, const std::function<void()> &letGo = [] {});
 
 private:
     using Keys = QList<xcb_keycode_t>;

@@ -3,6 +3,8 @@
 
 #include "platform/freedesktop/applicationservice.h"
 #include "platform/logging.h"
+#include "platform/x11/keyboardhold.h"
+#include "platform/x11/keystates.h"
 #include "platform/x11/ownwindows.h"
 #include "platform/x11/x11connection.h"
 #include "platform/x11/x11workspace.h"
@@ -15,11 +17,11 @@
 
 namespace vesk {
 
-X11Application::X11Application(X11Connection &connection, X11Workspace &workspace,
+X11Application::X11Application(X11Connection &connection, X11Workspace &workspace, KeyboardHold &hold,
                                ApplicationService &service)
     : m_connection(connection)
     , m_workspace(workspace)
-    , m_hold(connection)
+    , m_hold(hold)
     , m_heldKeys(connection)
     , m_lastForeign(foreignActiveWindow())
     , m_workspaceInUse(workspaceInUse())
@@ -50,9 +52,11 @@ X11Application::X11Application(X11Connection &connection, X11Workspace &workspac
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *window) {
         if (!window)
             return;
-        // Window managers may give the keyboard to another once more before they are done.
-        if (isOwnWindowActive())
+        // Window managers may give the keyboard to another, of ours too, once more before they are done.
+        if (isOwnWindowActive() && isActivationDone()) {
+            m_activation.stop();
             m_hold.end();
+        }
         // News of what was active before may be all that was heard so far; the time begins anew.
         if (m_elsewhere.isActive())
             m_elsewhere.start();
@@ -97,6 +101,11 @@ bool X11Application::isAway() const
 bool X11Application::isPreviousWindowClosed() const
 {
     return m_returnedTo && !isOpen(*m_returnedTo);
+}
+
+bool X11Application::isAnyKeyDown() const
+{
+    return keysDown(m_connection).any();
 }
 
 void X11Application::expectKeys()
@@ -238,9 +247,11 @@ void X11Application::onActiveWindowChanged()
         m_lastForeign = other;
     if (isOwnWindowActive()) {
         m_elsewhere.stop();
-        m_activation.stop();
-        if (QGuiApplication::focusWindow())
-            m_hold.end();
+        if (isActivationDone()) {
+            m_activation.stop();
+            if (QGuiApplication::focusWindow())
+                m_hold.end();
+        }
         setActive(true);
     } else if (!m_elsewhere.isActive()) {
         // A switch passes through other windows, or none: after a quick hide and show the news of the
@@ -257,6 +268,13 @@ void X11Application::setActive(bool isActive)
     qCDebug(x11Log) << "keyboard in one of our windows:" << isActive;
     if (!isActive)
         Q_EMIT didResignActive();
+}
+
+bool X11Application::isActivationDone() const
+{
+    return !m_activation.isActive() || !m_activatedWindow
+           || (m_workspace.activeWindow() == ownwindows::idOf(*m_activatedWindow)
+               && QGuiApplication::focusWindow() == m_activatedWindow);
 }
 
 bool X11Application::isOwnWindowActive() const

@@ -3,7 +3,6 @@
 
 #include "platform/application.h"
 #include "platform/x11/heldkeyguard.h"
-#include "platform/x11/keyboardhold.h"
 
 #include <QPointer>
 #include <QTimer>
@@ -16,6 +15,7 @@
 namespace vesk {
 
 class ApplicationService;
+class KeyboardHold;
 class X11Connection;
 class X11Workspace;
 
@@ -25,7 +25,8 @@ class X11Application final : public Application
     Q_OBJECT
 
 public:
-    X11Application(X11Connection &connection, X11Workspace &workspace, ApplicationService &service);
+    X11Application(X11Connection &connection, X11Workspace &workspace, KeyboardHold &hold,
+                   ApplicationService &service);
 
     /// Also true while the window manager has yet to do what `activate` asked for.
     [[nodiscard]] bool isActive() const override { return m_isActive || m_activation.isActive(); }
@@ -34,6 +35,7 @@ public:
     [[nodiscard]] bool isAway() const override;
     [[nodiscard]] bool isPreviousWindowClosed() const override;
     void unhide() override { m_isHidden = false; }
+    [[nodiscard]] bool isAnyKeyDown() const override;
     void expectKeys() override;
     void expectNoKeys() override;
     bool holdKeys() override;
@@ -71,6 +73,8 @@ private:
     [[nodiscard]] bool isOnThisWorkspace(xcb_window_t window) const;
     [[nodiscard]] quint32 workspaceInUse() const;
     void setActive(bool isActive);
+    /// Whether the window manager has done what `activate` asked for last, or had its time.
+    [[nodiscard]] bool isActivationDone() const;
     [[nodiscard]] bool isOwnWindowActive() const;
     /// Whether a window is active that is neither ours nor the one that had the keyboard before.
     [[nodiscard]] bool hasUserTurnedElsewhere() const;
@@ -81,7 +85,7 @@ private:
 
     X11Connection &m_connection;
     X11Workspace &m_workspace;
-    KeyboardHold m_hold;
+    KeyboardHold &m_hold;
     HeldKeyGuard m_heldKeys;
     /// Runs while another window, or none, is active; only once that lasts has the user turned elsewhere.
     QTimer m_elsewhere;

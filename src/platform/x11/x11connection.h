@@ -73,8 +73,6 @@ public:
     void flush() { xcb_flush(m_connection); }
 
 Q_SIGNALS:
-    /// Vesk is about to look at the keys or to send some: whoever keeps keys back lets them go.
-    void keysNeeded();
     /// Every event, in the server's order. Valid only while the signal is heard.
     void eventReceived(const xcb_generic_event_t *event);
     /// The server has gone; nothing works any more.

@@ -4,6 +4,7 @@
 #include "platform/accessibility.h"
 #include "platform/clock.h"
 #include "platform/logging.h"
+#include "platform/x11/keyboardhold.h"
 #include "platform/x11/keystates.h"
 #include "platform/x11/keytaker.h"
 #include "platform/x11/rawinput.h"
@@ -49,7 +50,6 @@ QCoro::Task<bool> X11EventPoster::post(Command command, Target target, std::func
 {
     const QPointer<X11EventPoster> self(this);
     const Needs needs = m_needs;
-    Q_EMIT needs.connection.keysNeeded();
     const auto window = static_cast<xcb_window_t>(target);
     // 0 for a program of another machine whose process here cannot be told.
     const qint64 process = needs.workspace.processOf(window).value_or(0);
@@ -101,7 +101,7 @@ QCoro::Task<bool> X11EventPoster::waitForLetters(Instant end)
     // Modifiers that are let go of while a letter is still down would leave the letter alone, to be
     // typed over the selection.
     auto upSince = clock.monotonic();
-    while (clock.monotonic() < end) {
+    while (clock.monotonic() < end && !keepsPress()) {
         if (hasLetterDown())
             upSince = clock.monotonic();
         else if (clock.monotonic() - upSince >= kUpFor)
@@ -140,11 +140,34 @@ QCoro::Task<std::optional<QString>> X11EventPoster::focusedRole(qint64 processId
     co_return co_await accessibility.copyString(*focused, Accessibility::StringAttribute::Role);
 }
 
+bool X11EventPoster::isHolding() const
+{
+    return m_needs.hold && m_needs.hold->isQuiet();
+}
+
+bool X11EventPoster::keepsPress() const
+{
+    return m_needs.hold && m_needs.hold->keepsPress();
+}
+
 bool X11EventPoster::hasLetterDown() const
 {
-    const KeyStates states = keysDown(m_needs.connection);
+    // What applications see stands still while the keyboard is held.
+    const KeyStates states = isHolding() ? heldKeys(m_needs.connection).all() : keysDown(m_needs.connection);
     for (size_t key = 0; key < states.size(); ++key) {
         if (states.test(key) && !m_needs.input.isModifier(static_cast<xcb_keycode_t>(key)))
+            return true;
+    }
+    return false;
+}
+
+bool X11EventPoster::hasCommandModifierDown() const
+{
+    constexpr auto kCommand = Qt::MetaModifier | Qt::AltModifier | Qt::ControlModifier;
+    const KeyStates states = heldKeys(m_needs.connection).all();
+    for (size_t key = 0; key < states.size(); ++key) {
+        if (states.test(key)
+            && (m_needs.input.modifiers().modifiersOf(static_cast<xcb_keycode_t>(key)) & kCommand))
             return true;
     }
     return false;
@@ -176,7 +199,18 @@ X11EventPoster::Attempt X11EventPoster::tryToPost(const QList<uint32_t> &keysyms
     if (hasLetterDown() || m_needs.input.lastPress() != lastPress || m_needs.input.isKeyboardTaken()
         || !m_keys.canPlay())
         return Attempt::Early;
-    return m_keys.play(keysyms) ? Attempt::Posted : Attempt::Refused;
+    // Whoever goes on typing writes a note. Let go of now, the letters would replace what is selected.
+    if (keepsPress())
+        return Attempt::Refused;
+    const bool isHeld = isHolding();
+    const bool isPlayed = m_keys.play(keysyms, [this] {
+        if (m_needs.hold)
+            m_needs.hold->end();
+    });
+    // Until it is known what the keys have brought. Whoever still has a hand on the modifiers types nothing.
+    if (isHeld && isPlayed && !hasCommandModifierDown())
+        m_needs.hold->beginQuietly();
+    return isPlayed ? Attempt::Posted : Attempt::Refused;
 }
 
 } // namespace vesk

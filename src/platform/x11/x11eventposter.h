@@ -17,6 +17,7 @@ namespace vesk {
 
 class Accessibility;
 class Clock;
+class KeyboardHold;
 class RawInput;
 class WindowPing;
 class X11Connection;
@@ -28,7 +29,7 @@ class X11EventPoster final : public QObject, public EventPoster
     Q_OBJECT
 
 public:
-    /// All must outlive it.
+    /// All must outlive it. `hold` is null where nobody holds the user's keys.
     struct Needs
     {
         X11Connection &connection;
@@ -36,6 +37,7 @@ public:
         X11Workspace &workspace;
         Accessibility &accessibility;
         Clock &clock;
+        KeyboardHold *hold = nullptr;
     };
 
     explicit X11EventPoster(const Needs &needs);
@@ -59,7 +61,12 @@ private:
     QCoro::Task<bool> waitForAnswer(WindowPing &ping);
     /// Role of what has the keyboard in an application; nullopt if that could not be asked.
     QCoro::Task<std::optional<QString>> focusedRole(qint64 processIdentifier);
+    /// Whether the user's keys are held back, and whether there are any yet.
+    [[nodiscard]] bool isHolding() const;
+    [[nodiscard]] bool keepsPress() const;
     [[nodiscard]] bool hasLetterDown() const;
+    /// Whether a modifier is down with which letters are commands.
+    [[nodiscard]] bool hasCommandModifierDown() const;
     /// Whether the server gives the keys to the window or to one inside it.
     [[nodiscard]] bool hasInputFocus(xcb_window_t window) const;
     [[nodiscard]] Attempt tryToPost(const QList<uint32_t> &keysyms, xcb_window_t window,
