@@ -73,7 +73,7 @@ void showFatal(vesk::Desktop &desktop, vesk::ApplicationService &service,
     vesk::MessageWindow window(engine, content);
     QObject::connect(&window, &vesk::MessageWindow::accepted, qApp, &QCoreApplication::quit);
     QObject::connect(&window, &vesk::MessageWindow::rejected, qApp, &QCoreApplication::quit);
-    window.show();
+    window.show(vesk::MessageWindow::Arrival::Unasked);
     QCoreApplication::exec();
 }
 
@@ -103,7 +103,7 @@ void showUnwritten(vesk::Desktop &desktop, vesk::ApplicationService &service, co
     QObject::connect(&service, &vesk::ApplicationService::activated, &window, &vesk::UnwrittenWindow::show);
     QObject::connect(&service, &vesk::ApplicationService::actionActivated, &window,
                      &vesk::UnwrittenWindow::show);
-    window.show();
+    window.appear();
     QCoreApplication::exec();
 }
 

@@ -55,12 +55,12 @@ MessageWindow::~MessageWindow()
 
 void MessageWindow::show(Arrival arrival)
 {
-    m_isUnasked = arrival == Arrival::Unasked && !m_isRejectCostly;
+    m_isUnasked = arrival == Arrival::Unasked;
     if (m_isUnasked)
         m_guard.start();
     if (!m_view.isVisible()) {
         place();
-        m_view.rootObject()->setProperty("hasDefaultButton", !m_isUnasked);
+        m_view.rootObject()->setProperty("hasDefaultButton", !m_isUnasked || m_isRejectCostly);
         QMetaObject::invokeMethod(m_view.rootObject(), "takeFocus");
     }
     m_view.show();

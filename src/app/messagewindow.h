@@ -42,8 +42,9 @@ public:
     enum class Arrival {
         /// The user has asked for the window: the button that loses nothing has the keyboard at first.
         Asked,
-        /// The window opens by itself, and the keys that the user is typing are not meant for it: no button
-        /// has the keyboard at first, and keys are ignored until the keyboard has been quiet for a moment.
+        /// The window opens by itself, and the keys that the user is typing are not meant for it: keys are
+        /// ignored until the keyboard has been quiet for a moment. No button has the keyboard at first, unless
+        /// the second one loses something.
         Unasked,
     };
 

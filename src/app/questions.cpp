@@ -5,17 +5,31 @@
 
 #include <QTimer>
 
+using namespace std::chrono_literals;
+
 namespace vesk {
+
+namespace {
+
+/// Often enough to see every key: no finger is up again sooner.
+constexpr auto kLook = 20ms;
+constexpr auto kQuiet = 700ms;
+constexpr auto kPatience = 10s;
+
+} // namespace
 
 Questions::Questions(Application &application)
     : m_application(application)
 {
+    m_look.setInterval(kLook);
+    connect(&m_look, &QTimer::timeout, this, &Questions::lookForQuiet);
 }
 
 void Questions::pause()
 {
     m_isPaused = true;
-    if (!m_shown || !m_shown->window().isVisible())
+    m_look.stop();
+    if (!isAnyShown())
         return;
     m_waiting.prepend(m_shown);
     m_shown->hide();
@@ -31,9 +45,11 @@ void Questions::resume()
 void Questions::show(MessageWindow &window, MessageWindow::Arrival arrival)
 {
     m_waiting.removeAll(&window);
-    const bool isOtherShown = m_shown && m_shown != &window && m_shown->window().isVisible();
-    if (isOtherShown || m_isPaused) {
+    const bool isOtherShown = isAnyShown() && m_shown != &window;
+    const bool isUnasked = arrival == MessageWindow::Arrival::Unasked && !window.window().isVisible();
+    if (isOtherShown || m_isPaused || isUnasked) {
         m_waiting.append(&window);
+        showWaiting();
         return;
     }
     m_shown = &window;
@@ -54,9 +70,29 @@ void Questions::hide(MessageWindow &window)
 void Questions::showWaiting()
 {
     m_waiting.removeAll(nullptr);
+    if (m_isPaused || m_waiting.isEmpty() || isAnyShown() || m_look.isActive())
+        return;
+    m_looks = 0;
+    m_looksWithoutKey = 0;
+    m_look.start();
+}
+
+void Questions::lookForQuiet()
+{
+    m_waiting.removeAll(nullptr);
+    if (m_waiting.isEmpty() || isAnyShown()) {
+        m_look.stop();
+        return;
+    }
+    ++m_looks;
+    m_looksWithoutKey = m_application.isAnyKeyDown() ? 0 : m_looksWithoutKey + 1;
+    if (m_looksWithoutKey * kLook < kQuiet && m_looks * kLook < kPatience)
+        return;
+    m_look.stop();
+    m_shown = m_waiting.takeFirst();
     // Whoever had to wait for it no longer expects it.
-    if (!m_isPaused && !m_waiting.isEmpty())
-        showUnasked(*m_waiting.first());
+    m_shown->show(MessageWindow::Arrival::Unasked);
+    m_application.activate(m_shown->window());
 }
 
 } // namespace vesk

@@ -22,6 +22,9 @@ public:
     /// Hidden at first. All must outlive the window.
     UnwrittenWindow(QQmlEngine &engine, const NotesStore &store, Pasteboard &pasteboard);
 
+    /// Brings the window up by itself; see `MessageWindow::Arrival`.
+    void appear() { m_window.show(MessageWindow::Arrival::Unasked); }
+    /// Brings it forward for a user who asks for Vesk.
     void show() { m_window.show(); }
 
 Q_SIGNALS:

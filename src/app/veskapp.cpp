@@ -76,7 +76,7 @@ VeskApp::VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, Applicat
     , m_memoryTrim(desktop.application)
 {
     connect(&desktop.application, &Application::reopened, &m_panelWindow, &PanelWindow::showPanel);
-    connect(&m_quickNote, &QuickNotePanel::opened, &m_questions, &Questions::pause);
+    connect(&m_quickNote, &QuickNotePanel::aboutToOpen, &m_questions, &Questions::pause);
     connect(&m_quickNote, &QuickNotePanel::closed, &m_questions, &Questions::resume);
     connect(&desktop.accessibility, &X11Accessibility::trustAsked, this, [this] {
         // In the panel the user has pressed a button for it; elsewhere a key, for something else.

@@ -83,7 +83,10 @@ void QuickNotePanel::expectNothing()
 
 void QuickNotePanel::show(Mode mode, const QString &remark)
 {
-    // First of all: what the user types from here on is meant for the box.
+    // What makes room for the box does so before: window managers give the keyboard to yet another window
+    // when one goes.
+    Q_EMIT aboutToOpen();
+    // What the user types from here on is meant for the box.
     m_needs.application.holdKeys();
     m_controller.finishComposing();
     m_model.begin(mode);
@@ -103,7 +106,6 @@ void QuickNotePanel::show(Mode mode, const QString &remark)
     // At once, not a little later: by then the user may have put the caret elsewhere.
     m_controller.forceFocus();
     m_controller.moveCaretToEnd();
-    Q_EMIT opened();
 }
 
 void QuickNotePanel::close()
@@ -122,6 +124,7 @@ void QuickNotePanel::setShowing(bool isShowing)
     if (m_isShowing == isShowing)
         return;
     m_isShowing = isShowing;
+    m_hadKeyboard = isShowing && QGuiApplication::focusWindow() == m_view.get();
     if (!isShowing)
         Q_EMIT closed();
 }
@@ -168,9 +171,11 @@ void QuickNotePanel::shape()
 
 void QuickNotePanel::onFocusWindowChanged(const QWindow *window)
 {
+    m_hadKeyboard = m_hadKeyboard || (window && window == m_view.get());
     // None means that the keyboard is on its way, or that another program has grabbed it for a moment.
-    // A question of Vesk's own that comes up over the box does not end it.
-    if (!window || window == m_view.get() || window->type() == Qt::Dialog)
+    // A question of Vesk's own that comes up over the box does not end it, nor does a window that gets the
+    // keyboard on the box's way to it.
+    if (!window || window == m_view.get() || window->type() == Qt::Dialog || !m_hadKeyboard)
         return;
     close();
 }

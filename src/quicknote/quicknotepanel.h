@@ -62,8 +62,8 @@ public:
     [[nodiscard]] QQuickView *window() const { return m_view.get(); }
 
 Q_SIGNALS:
-    /// The box has come up, or its mode has changed.
-    void opened();
+    /// The box is about to come up, or to change its mode.
+    void aboutToOpen();
     /// The box has gone, for whatever reason.
     void closed();
 
@@ -88,6 +88,8 @@ private:
     std::unique_ptr<QQuickView> m_view;
     std::unique_ptr<WindowFade> m_fade;
     bool m_isShowing = false;
+    /// Whether the box has had the keyboard since it came up.
+    bool m_hadKeyboard = false;
     /// Whether the desktop lets the box choose its place.
     bool m_isPlaceable = false;
     bool m_isMoving = false;

@@ -304,9 +304,10 @@ void TestMishaps::fullDiskIsSaidAndNothingIsLost()
     QVERIFY(!runToEnd(program, {u"add"_s, u"while it ends"_s}));
     QVERIFY(!runToEnd(program, {u"toggle"_s}));
     VERIFY_ON(*m_desktop, !m_desktop->windows().findViewable(kPanel));
-    // Copy has the keyboard.
+    // Copy has the keyboard, once that was quiet.
     const auto window = m_desktop->windows().findViewableIf(isTitled);
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*window, kBound));
+    QTest::qWait(1000);
     m_desktop->keyboard().tap({XK_space}, kFinger);
     VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
         return m_desktop->display().readSelection("CLIPBOARD", kFinger)

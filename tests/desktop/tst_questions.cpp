@@ -76,6 +76,9 @@ void TestQuestions::firstNoteIsWrittenWhole()
     VERIFY_ON(*m_desktop, !m_desktop->windows().findViewable(kQuestion));
     tap({XK_Return});
     VERIFY_ON(*m_desktop, waitNotes({note}));
+    // Who goes on where they were is not disturbed before they pause.
+    VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(m_editor->window(), kBound));
+    m_desktop->keyboard().type(u"ripe "_s);
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kQuestion, kBound));
     // What was typed too much answers nothing.
     for (const xcb_keysym_t key : {XK_space, XK_Return, XK_Escape, XK_Tab, XK_space})
@@ -86,7 +89,7 @@ void TestQuestions::firstNoteIsWrittenWhole()
     tap({XK_Return});
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kQuestion, kBound));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
-    QCOMPARE(m_editor->text(), kLine + u'\n');
+    QCOMPARE(m_editor->text(), u"ripe "_s + kLine + u'\n');
 }
 
 void TestQuestions::standsWholeAboveVesksWindows_data()

@@ -228,6 +228,12 @@ void TestQuickNoteBox::unwrittenNoteIsOfferedAtTheEnd()
         m_desktop->windows().waitViewableOf(m_vesk->pid(), u"not saved"_s, kBound);
     VERIFY_ON(*m_desktop, offer);
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*offer, kBound));
+    // What the user was typing answers nothing.
+    for (const xcb_keysym_t key : {XK_space, XK_Tab, XK_Return})
+        m_desktop->keyboard().tap({key}, kFinger);
+    QTest::qWait(1000);
+    QVERIFY(m_vesk->isRunning());
+    QVERIFY(m_desktop->display().readSelection("CLIPBOARD", 500ms) != note);
     // Escape answers nothing, and the first button copies.
     m_desktop->keyboard().tap({XK_Escape});
     m_desktop->keyboard().tap({XK_Return});
