@@ -59,15 +59,18 @@ QList<ApplicationCase> browser(const ApplicationCase &whole)
         Document document;
         QString name;
         QList<Check> without;
+        bool isStartedFirst = false;
     };
+    const QList<Check> notOfPasswords{Check::Whole,   Check::Part,      Check::Source,
+                                      Check::Address, Check::Untouched, Check::Paste};
     const QList<Kind> kinds{
         {Document::Page, u"a page"_s, {Check::Part, Check::Untouched, Check::Paste}},
         {Document::FilePage, u"a page from a file"_s, {Check::Part, Check::Untouched, Check::Paste}},
         {Document::Field, u"a field on a page"_s, {}},
         {Document::Frame, u"a field in a frame"_s, {}},
-        {Document::Password,
-         u"a password field"_s,
-         {Check::Whole, Check::Part, Check::Source, Check::Address, Check::Untouched, Check::Paste}},
+        {Document::Password, u"a password field"_s, notOfPasswords},
+        {Document::Password, u"a password field, started first"_s, notOfPasswords, true},
+        {Document::RestlessPassword, u"a password field that loses the keyboard"_s, notOfPasswords},
     };
     QList<ApplicationCase> cases;
     for (const Kind &kind : kinds) {
@@ -75,6 +78,7 @@ QList<ApplicationCase> browser(const ApplicationCase &whole)
         each.name = whole.name + u", "_s + kind.name;
         each.document = kind.document;
         each.without = kind.without;
+        each.isStartedFirst = kind.isStartedFirst;
         if (kind.document == Document::Field || kind.document == Document::Frame) {
             each.selectPart = kFirstWord;
             each.deselect = kToStart;

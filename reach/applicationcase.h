@@ -40,9 +40,16 @@ enum class Document {
     Frame,
     /// A page with a password field that has the keyboard.
     Password,
+    /// The same, but the page moves the keyboard elsewhere as soon as the password is selected.
+    RestlessPassword,
     /// What a program has printed on a terminal.
     Output,
 };
+
+[[nodiscard]] constexpr bool isPassword(Document document)
+{
+    return document == Document::Password || document == Document::RestlessPassword;
+}
 
 /// One way of using one application as people do.
 struct ApplicationCase
@@ -55,6 +62,8 @@ struct ApplicationCase
     /// "%1" stands for the document.
     QStringList arguments;
     Document document = Document::Text;
+    /// Whether it is started before anything has switched accessibility on, as on a user's first day.
+    bool isStartedFirst = false;
 
     /// What a note says of where it comes from.
     QString applicationName;

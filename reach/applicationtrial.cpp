@@ -34,6 +34,8 @@ const ClipboardHolder::Forms &copiedBefore()
     return forms;
 }
 
+const ApplicationCase::Keys kSelectAll{{XK_Control_L, XK_a}};
+
 /// Applications differ in what they put between two lines.
 QString plain(const QString &text)
 {
@@ -69,7 +71,10 @@ std::optional<ApplicationTrial::Findings> ApplicationTrial::run(QString &problem
         return std::nullopt;
     checkWhole();
     checkPart();
-    checkNothing();
+    if (isPassword(m_application.document))
+        checkSecret();
+    else
+        checkNothing();
     checkClipboard();
     checkUntouched();
     checkPaste();
@@ -89,6 +94,9 @@ QString ApplicationTrial::setUp()
     m_document = SampleDocument::make(*m_desktop, m_application.document);
     if (!m_document)
         return u"The document could not be made."_s;
+    const bool isOff = !m_application.isStartedFirst || m_desktop->setAccessibility(false);
+    if (!isOff)
+        return u"Accessibility cannot be switched off."_s;
     QStringList arguments = m_application.arguments;
     arguments.replaceInStrings(u"%1"_s, m_document->place());
     m_process = m_desktop->run(m_application.program, arguments);
@@ -122,7 +130,7 @@ bool ApplicationTrial::isReady()
             m_desktop->pointer().click(m_window.geometry.center());
         selectAll();
         perform(m_application.copy);
-        if (m_application.document == Document::Password)
+        if (isPassword(m_application.document))
             return true; // It gives nothing that could be looked at.
         const char *selection = m_application.copy.isEmpty() ? "PRIMARY" : "CLIPBOARD";
         if (plain(m_desktop->display().readSelection(selection, kAnswerBound).value_or(QString()))
@@ -168,6 +176,17 @@ void ApplicationTrial::deselect()
     if (m_application.deselect.isEmpty())
         m_desktop->pointer().click(m_window.geometry.center());
     perform(m_application.deselect);
+}
+
+bool ApplicationTrial::command(const QStringList &words)
+{
+    const std::unique_ptr<ChildProcess> process = m_desktop->run(VirtualDesktop::veskProgram(), words);
+    return process && process->waitForExit(kOutcomeBound) && process->exitCode() == 0;
+}
+
+QStringList ApplicationTrial::everythingKept() const
+{
+    return m_desktop->notes().texts() + m_desktop->notes().promptTexts();
 }
 
 std::optional<Window> ApplicationTrial::veskWindow() const
@@ -257,16 +276,55 @@ void ApplicationTrial::checkNothing()
 {
     if (!bringForward())
         return judge(Check::Nothing, false, u"the window does not come forward"_s);
-    // All that was selected, and in a password field still is; many applications go on offering it.
+    // All that was selected; many applications go on offering it.
     selectAll();
-    if (m_application.document != Document::Password)
-        deselect();
+    deselect();
     const qsizetype before = m_desktop->notes().texts().size();
     const Outcome outcome = capture(kFinger);
     const QStringList texts = m_desktop->notes().texts();
     judge(Check::Nothing, outcome == Outcome::Fallback && texts.size() == before,
           texts.size() > before ? u"%1 is kept"_s.arg(quoted(texts.constLast())) : u"nothing happens"_s);
     dismissFallback();
+}
+
+void ApplicationTrial::checkSecret()
+{
+    if (!command({u"add"_s, u"A note to add to"_s}))
+        return judge(Check::Nothing, false, u"no note can be added"_s);
+    using Keys = ApplicationCase::Keys;
+    const QList<std::pair<QString, Keys>> selections{
+        {u"double click"_s, {}},
+        {u"Shift-End"_s, {{XK_Home}, {XK_Shift_L, XK_End}}},
+        {u"Control-A"_s, kSelectAll},
+    };
+    const QList<std::pair<QString, Keys>> captures{
+        {u"the hot key"_s, {{XK_Super_L, XK_Alt_L, XK_n}}},
+        {u"adding"_s, {{XK_Super_L, XK_Alt_L, XK_Shift_L, XK_n}}},
+        {u"a double Shift"_s, {{XK_Shift_L}, {XK_Shift_L}}},
+    };
+    const QStringList before = everythingKept();
+    // A page that moves the keyboard has its turn of each way with each selection.
+    const int rounds = m_application.document == Document::RestlessPassword ? 3 : 1;
+    for (int round = 0; round < rounds; ++round) {
+        for (const auto &[selection, selecting] : selections) {
+            for (const auto &[capture, capturing] : captures) {
+                if (!bringForward())
+                    return judge(Check::Nothing, false, u"the window does not come forward"_s);
+                m_desktop->pointer().click(m_window.geometry.center() - QPoint(200, 0),
+                                           selecting.isEmpty() ? 2 : 1);
+                perform(selecting);
+                for (const QList<xcb_keysym_t> &combination : capturing)
+                    m_desktop->keyboard().tap(combination, kFinger);
+                std::this_thread::sleep_for(kCaptureGate);
+                dismissFallback();
+                if (everythingKept() != before)
+                    return judge(Check::Nothing, false,
+                                 u"%1 is kept after %2 and %3"_s.arg(quoted(everythingKept().join(u' ')),
+                                                                     selection, capture));
+            }
+        }
+    }
+    judge(Check::Nothing, true, {});
 }
 
 void ApplicationTrial::checkClipboard()

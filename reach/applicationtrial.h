@@ -35,6 +35,8 @@ private:
 
     [[nodiscard]] QString setUp();
     [[nodiscard]] bool isReady();
+    /// Runs the command `vesk` to its end; whether it did so with success.
+    [[nodiscard]] bool command(const QStringList &words);
     [[nodiscard]] bool bringForward();
     void perform(const ApplicationCase::Keys &keys);
     void selectAll();
@@ -43,11 +45,15 @@ private:
     /// Presses the hot key for as long, and tells what came of it.
     [[nodiscard]] Outcome capture(std::chrono::milliseconds hold);
     void dismissFallback();
+    /// All notes and prompts.
+    [[nodiscard]] QStringList everythingKept() const;
     [[nodiscard]] std::optional<Window> veskWindow() const;
 
     void checkWhole();
     void checkPart();
     void checkNothing();
+    /// Selects a password in every way, and has it captured in every way.
+    void checkSecret();
     void checkSource();
     void checkClipboard();
     void checkUntouched();

@@ -11,6 +11,29 @@ namespace {
 constexpr auto kPagePath = "/sample.html";
 constexpr auto kInnerPath = "/inner.html";
 
+/// Wherever the page is clicked, the click is in the password.
+constexpr auto kPassword = "<input id=password type=password autofocus value='open sesame open sesame'"
+                           " style='position: fixed; inset: 0; width: 100%; height: 90%; font-size: 60px'>";
+/// In one of several ways, at once or a moment later. A click brings the keyboard back.
+constexpr auto kRestlessness = R"(
+<input id=other style='position: fixed; bottom: 0; left: 0'>
+<script>
+const ways = [() => password.blur(), () => other.focus(), () => { password.disabled = true; },
+              () => { password.blur(); password.type = 'hidden'; }];
+let turns = 0;
+password.addEventListener('select', () => {
+    if (document.activeElement !== password)
+        return;
+    const way = ways[(turns >> 1) % ways.length];
+    setTimeout(way, turns % 2 ? 150 : 0);
+    ++turns;
+});
+document.addEventListener('mousedown', () => {
+    password.type = 'password';
+    password.disabled = false;
+}, true);
+</script>)";
+
 QByteArray page(const QByteArray &body)
 {
     return "<!DOCTYPE html><html><head><title>sample</title></head><body style='font-size: 24px'>" + body
@@ -25,7 +48,9 @@ QByteArray bodyOf(Document kind)
         return "<textarea autofocus style='position: fixed; inset: 0; width: 100%; height: 100%'>" + text
                + "</textarea>";
     case Document::Password:
-        return "<input type=password autofocus value='open sesame'>";
+        return kPassword;
+    case Document::RestlessPassword:
+        return QByteArray(kPassword) + kRestlessness;
     case Document::Frame:
         return QByteArray("<iframe style='position: fixed; inset: 0; width: 90%; height: 90%' src='")
                + kInnerPath + "'></iframe>";

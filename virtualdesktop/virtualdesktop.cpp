@@ -165,19 +165,26 @@ bool VirtualDesktop::waitForRootProperty(const char *name)
     return m_display->waitUntil(kStartBound, [&] { return m_windows->rootNumber(name) != 0; });
 }
 
-bool VirtualDesktop::enableAccessibility()
+bool VirtualDesktop::setAccessibility(bool isOn)
 {
     QDBusConnection bus = QDBusConnection::connectToBus(m_busAddress, kBusConnection);
     QDBusMessage call = QDBusMessage::createMethodCall(u"org.a11y.Bus"_s, u"/org/a11y/bus"_s,
                                                        u"org.freedesktop.DBus.Properties"_s, u"Set"_s);
-    call.setArguments({u"org.a11y.Status"_s, u"IsEnabled"_s, QVariant::fromValue(QDBusVariant(true))});
+    call.setArguments({u"org.a11y.Status"_s, u"IsEnabled"_s, QVariant::fromValue(QDBusVariant(isOn))});
     const int bound = int(std::chrono::milliseconds(kStartBound).count());
-    if (bus.call(call, QDBus::Block, bound).type() != QDBusMessage::ReplyMessage)
+    return bus.call(call, QDBus::Block, bound).type() == QDBusMessage::ReplyMessage;
+}
+
+bool VirtualDesktop::enableAccessibility()
+{
+    if (!setAccessibility(true))
         return false;
+    QDBusConnection bus = QDBusConnection::connectToBus(m_busAddress, kBusConnection);
+    const int bound = int(std::chrono::milliseconds(kStartBound).count());
     // The bus is made when its address is first asked for. Qt's applications look for it once, at their
     // start, and by what the server says of it.
-    call = QDBusMessage::createMethodCall(u"org.a11y.Bus"_s, u"/org/a11y/bus"_s, u"org.a11y.Bus"_s,
-                                          u"GetAddress"_s);
+    const QDBusMessage call = QDBusMessage::createMethodCall(u"org.a11y.Bus"_s, u"/org/a11y/bus"_s,
+                                                             u"org.a11y.Bus"_s, u"GetAddress"_s);
     return bus.call(call, QDBus::Block, bound).type() == QDBusMessage::ReplyMessage
            && waitForRootProperty("AT_SPI_BUS");
 }

@@ -51,6 +51,10 @@ public:
     /// Lets Vesk read other applications and takes its guide for seen, as after the first run.
     [[nodiscard]] bool prepareUser();
 
+    /// Says to applications that assistive programs are, or are not, in use; many ask only when they start.
+    /// It begins switched on. Failure: false.
+    [[nodiscard]] bool setAccessibility(bool isOn);
+
     /// Writes a file into the home folder, or a folder in it, and returns its path.
     [[nodiscard]] QString writeFile(const QString &name, const QString &text);
 
