@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "virtualdesktop/texteditor.h"
 
+#include "virtualdesktop/accessibletree.h"
+
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -73,6 +77,15 @@ std::optional<QString> TextEditor::text()
         return text.has_value();
     });
     return isRead ? text : std::nullopt;
+}
+
+QString TextEditor::shownText() const
+{
+    const QList<AccessibleObject> objects = AccessibleTree(m_desktop.busAddress()).objects(m_process->pid());
+    const auto found = std::ranges::find_if(objects, [](const AccessibleObject &object) {
+        return object.is(AccessibleObject::State::Editable) && object.is(AccessibleObject::State::MultiLine);
+    });
+    return found == objects.cend() ? QString() : found->text;
 }
 
 } // namespace vesk

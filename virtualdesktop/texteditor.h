@@ -23,6 +23,10 @@ public:
     /// What stands in the editor now; none if it did not answer.
     [[nodiscard]] std::optional<QString> text();
 
+    /// The same as the editor tells a screen reader: nothing is selected to find out, so a paste may come at
+    /// any time.
+    [[nodiscard]] QString shownText() const;
+
     [[nodiscard]] const Window &window() const { return m_window; }
     [[nodiscard]] ChildProcess &process() { return *m_process; }
 
