@@ -120,6 +120,7 @@ private Q_SLOTS:
     void passwordStaysSecretWhenTheFocusMoves();
     void passwordIsSecretWhereThePageMovesTheFocusAtOnce_data();
     void passwordIsSecretWhereThePageMovesTheFocusAtOnce();
+    void bulletsOfAPageAreNoText();
     void claimFromAnUnknownPlaceNeedsConfirmation();
     void terminalsSelectionEndsByAClickIntoIt();
     void emacsClaimsAgainOnDeselecting();
@@ -393,6 +394,26 @@ void TestX11Accessibility::passwordIsSecretWhereThePageMovesTheFocusAtOnce()
     // Until it is known who claimed PRIMARY.
     QTest::qWait(500);
     QCOMPARE(read().text, QString());
+}
+
+/// As where a page with a password field is selected as a whole.
+void TestX11Accessibility::bulletsOfAPageAreNoText()
+{
+    const QString bullets(11, QChar(0x2022));
+    bringForward("Editor");
+    startVesk();
+    showOnBus(window({.role = u"document web"_s,
+                      .isFocused = true,
+                      .isText = true,
+                      .text = bullets,
+                      .selections = {{0, 11}}}));
+    pressKey();
+    settle();
+    const Offer offer(bullets.toUtf8());
+    QTest::qWait(500);
+    const SelectedText selected = read();
+    QVERIFY(selected.isClaimed);
+    QCOMPARE(selected.text, QString());
 }
 
 /// What had the keyboard when PRIMARY was claimed did not say whether it is a password field.

@@ -230,14 +230,17 @@ QCoro::Task<SelectedText> X11Accessibility::confirmedText(AtSpiSelection own, bo
     const SelectedText itself{.finding = Finding::Selected, .text = own.text, .isClaimed = isUsable};
     if (own.text.isEmpty())
         co_return isUsable ? unknown : SelectedText{.finding = Finding::Nothing};
+    // A field that shows bullets may be a password field that does not say so, and a page that is selected as
+    // a whole has them in PRIMARY too. Whatever else looks like this can be copied.
+    if (isMask(own.text.trimmed()))
+        co_return unknown;
     std::optional<QString> primary;
     if (isUsable)
         primary = co_await m_primary.text();
     // The application's own text is the better one: the bus leaves out or adds white space.
     if (primary && isConfirmed(*primary, own))
         co_return SelectedText{.finding = Finding::Selected, .text = *primary, .isClaimed = true};
-    // A field that shows bullets may be a password field that does not say so.
-    const bool isDoubtful = isMask(own.text) || own.isPart || (own.isAssembled && primary);
+    const bool isDoubtful = own.isPart || (own.isAssembled && primary);
     co_return isDoubtful ? unknown : itself;
 }
 
@@ -250,7 +253,8 @@ QCoro::Task<std::optional<QString>> X11Accessibility::harmlessText(AtSpiQuestion
     if (self.isNull() || isEditable.value_or(true))
         co_return std::nullopt;
     const std::optional<QString> text = co_await m_primary.text();
-    if (self.isNull() || !isProcessTrusted())
+    // A page that is selected as a whole has a password field's bullets in it.
+    if (self.isNull() || !isProcessTrusted() || (text && isMask(text->trimmed())))
         co_return std::nullopt;
     co_return text;
 }
