@@ -7,6 +7,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTimeZone>
 
 #include <algorithm>
 
@@ -24,7 +25,7 @@ void sortNewestFirst(std::vector<Note::Fields> &notes)
 QDateTime timeOf(Date date)
 {
     const auto sinceEpoch = std::chrono::floor<std::chrono::milliseconds>(date.time_since_epoch());
-    return QDateTime::fromMSecsSinceEpoch(sinceEpoch.count(), Qt::UTC);
+    return QDateTime::fromMSecsSinceEpoch(sinceEpoch.count(), QTimeZone::utc());
 }
 
 QJsonObject toJson(const Note::Fields &note)
