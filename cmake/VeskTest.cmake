@@ -3,7 +3,7 @@
 # vesk_test(<name> SOURCES <file>... [USES <layer>...] [LIBRARIES <library>...])
 #
 # Makes the test tst_<name> of one folder of tests/ and registers it; it runs offscreen
-# and paints without a graphics card.
+# and paints without a graphics card, as tests/unit.env says.
 function(vesk_test name)
     cmake_parse_arguments(arg "" "" "SOURCES;USES;LIBRARIES" ${ARGN})
     set(target tst_${name})
@@ -15,6 +15,6 @@ function(vesk_test name)
     target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR})
     vesk_compile_options(${target})
     add_test(NAME ${name} COMMAND ${target})
-    set_tests_properties(${name} PROPERTIES LABELS unit TIMEOUT 120
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software;LC_ALL=C.UTF-8;LANGUAGE=")
+    file(STRINGS ${PROJECT_SOURCE_DIR}/tests/unit.env environment)
+    set_tests_properties(${name} PROPERTIES LABELS unit TIMEOUT 120 ENVIRONMENT "${environment}")
 endfunction()

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # SPDX-License-Identifier: MIT
 #
 # Sourced by ./dev: sees to it that the packages of tools/packages.txt are there.
@@ -21,7 +22,8 @@ not_installed() {
     local lines line name installed found
     mapfile -t lines
     # dpkg-query fails when it does not know one of the names; what it knows it prints all the same.
-    installed=" $(printf '%s\n' "${lines[@]}" | tr -s ' |' '\n\n' \
+    # shellcheck disable=SC2016 # The names are dpkg's.
+    installed=" $(printf '%s\n' "${lines[@]}" | tr -s ' |' '\n' \
         | xargs dpkg-query -W -f '${db:Status-Status}:${Package} ' 2>/dev/null || true)"
     for line in "${lines[@]}"; do
         found=''
@@ -63,6 +65,13 @@ has_fresh_lists() {
     [[ -n $(find /var/lib/apt/lists -maxdepth 1 -name '*Packages*' -mtime -1 -print -quit 2>/dev/null) ]]
 }
 
+# Asks whether to install packages, unless nobody is there to answer or the answer was given before.
+may_install() {
+    local answer
+    [[ ${VESK_PACKAGES:-} != install && -t 0 ]] || return 0
+    read -r -p 'Install them? [Y/n] ' answer && [[ ${answer,,} =~ ^(y|yes|)$ ]]
+}
+
 # need <group>...: installs what is missing of these groups; ends the run if it cannot.
 need() {
     [[ ${VESK_PACKAGES:-} != skip ]] || return 0
@@ -74,8 +83,10 @@ need() {
     fi
     missing=$(packages_of "$@" | not_installed)
     [[ -n $missing ]] || return 0
-    printf '== Installing packages:\n%s\n' "$missing"
+    printf '== These packages are missing:\n%s\n' "$missing"
+    may_install || exit 1
     has_fresh_lists || as_root apt-get update || exit 1
     mapfile -t names < <(choose <<<"$missing")
-    as_root apt-get install --yes --no-install-recommends "${names[@]}" || exit 1
+    # Another run may be installing packages at this moment.
+    as_root apt-get install --yes --no-install-recommends -o DPkg::Lock::Timeout=600 "${names[@]}" || exit 1
 }
