@@ -10,7 +10,7 @@
 #include "capture/pasteback.h"
 #include "capture/pasteboardwatcher.h"
 #include "capture/selectionreader.h"
-#include "commands/veskservices.h"
+#include "services/veskservices.h"
 #include "input/globalkeys.h"
 #include "panel/panelmodel.h"
 #include "panel/panelwindow.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "../commands/programworld.h"
+#include "../services/programworld.h"
 #include "capture/pasteback.h"
 #include "quicknote/quicknotepanel.h"
 

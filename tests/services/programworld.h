@@ -2,7 +2,7 @@
 #pragma once
 
 #include "../capture/capturedesktop.h"
-#include "commands/veskservices.h"
+#include "services/veskservices.h"
 #include "components/surroundings.h"
 #include "editor/lentpasteboards.h"
 #include "input/globalkeys.h"

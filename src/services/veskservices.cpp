@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "commands/veskservices.h"
+#include "services/veskservices.h"
 
 #include "input/globalkeys.h"
 #include "notes/notesstore.h"
