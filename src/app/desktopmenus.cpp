@@ -2,43 +2,46 @@
 #include "app/desktopmenus.h"
 
 #include "panel/panelwindow.h"
+#include "services/veskservices.h"
 
 namespace vesk {
 
 namespace {
 
-using Command = MenuCommands::Command;
+using Item = MenuCommands::Item;
 
-QList<DBusMenuEntry> entries(MenuCommands &commands, const QList<Command> &wanted)
+QList<DBusMenuEntry> entries(MenuCommands &items, const QList<Item> &wanted)
 {
     QList<DBusMenuEntry> all;
-    for (const Command command : wanted)
-        all.append({.label = MenuCommands::title(command),
-                    .action = [&commands, command] { commands.perform(command); },
-                    .keys = MenuCommands::keys(command)});
+    for (const Item item : wanted)
+        all.append({.label = MenuCommands::title(item),
+                    .action = [&items, item] { items.choose(item); },
+                    .keys = MenuCommands::keys(item)});
     return all;
 }
 
-QList<DBusMenuEntry> fileEntries(MenuCommands &commands)
+QList<DBusMenuEntry> fileEntries(MenuCommands &items)
 {
-    return entries(commands, {Command::NewNote, Command::QuickNote, Command::QuickChecklist});
+    return entries(items, {Item::NewNote, Item::QuickNote, Item::QuickChecklist});
+}
+
+DBusMenuEntry entry(VeskServices &services, Command command)
+{
+    return {.label = titleOf(command), .action = [&services, command] { services.perform(command); }};
 }
 
 } // namespace
 
-DesktopMenus::DesktopMenus(PanelWindow &panel, MenuCommands &commands)
-    : m_icon(
-        QDBusConnection::sessionBus(),
-        {.activated = [&panel] { panel.togglePanel(); },
-         .menu =
-             QList<DBusMenuEntry>{{.label = tr("Open Vesk"), .action = [&panel] { panel.showPanel(); }}}
-             + fileEntries(commands)
-             + QList<DBusMenuEntry>{{}, {.label = tr("Quit"), .action = [] { QCoreApplication::exit(0); }}}})
+DesktopMenus::DesktopMenus(PanelWindow &panel, MenuCommands &items, VeskServices &services)
+    : m_icon(QDBusConnection::sessionBus(),
+             {.activated = [&services] { services.perform(Command::Toggle); },
+              .menu = QList<DBusMenuEntry>{entry(services, Command::Show)} + fileEntries(items)
+                      + QList<DBusMenuEntry>{{}, entry(services, Command::Quit)}})
     , m_bar(QDBusConnection::sessionBus(), static_cast<quint32>(panel.window().winId()),
-            {{.label = tr("File"), .action = {}, .children = fileEntries(commands)},
+            {{.label = tr("File"), .action = {}, .children = fileEntries(items)},
              {.label = tr("Format"),
               .action = {},
-              .children = entries(commands, {Command::Checklist, Command::BulletedList, Command::Heading})}})
+              .children = entries(items, {Item::Checklist, Item::BulletedList, Item::Heading})}})
 {
 }
 

@@ -10,6 +10,7 @@
 namespace vesk {
 
 class PanelWindow;
+class VeskServices;
 
 /// The menus that the desktop draws if it has a place for them: the menu of Vesk's icon, and the menu bar of
 /// the panel.
@@ -18,8 +19,8 @@ class DesktopMenus final
     Q_DECLARE_TR_FUNCTIONS(vesk::DesktopMenus)
 
 public:
-    /// Both must outlive this object.
-    DesktopMenus(PanelWindow &panel, MenuCommands &commands);
+    /// All must outlive this object.
+    DesktopMenus(PanelWindow &panel, MenuCommands &items, VeskServices &services);
 
 private:
     StatusIcon m_icon;

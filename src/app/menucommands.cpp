@@ -16,47 +16,41 @@ namespace vesk {
 
 namespace {
 
-using Command = MenuCommands::Command;
+using Item = MenuCommands::Item;
 
 struct Entry
 {
-    Command command;
-    const char *title;
-    const char *keys;
-    /// What a command of the Format menu puts before a line.
-    QStringView marker;
+    Item item;
+    /// Nullopt in the Format menu.
+    std::optional<Command> command = {};
+    /// Null if the command has one.
+    const char *title = nullptr;
+    const char *keys = "";
+    /// What an item of the Format menu puts before a line.
+    QStringView marker = {};
 };
 
 constexpr std::array kEntries{
-    Entry{.command = Command::NewNote,
-          .title = QT_TRANSLATE_NOOP("vesk::MenuCommands", "New Note"),
-          .keys = "Ctrl+N",
-          .marker = {}},
-    Entry{.command = Command::QuickNote,
-          .title = QT_TRANSLATE_NOOP("vesk::MenuCommands", "Quick Note\u2026"),
-          .keys = "",
-          .marker = {}},
-    Entry{.command = Command::QuickChecklist,
-          .title = QT_TRANSLATE_NOOP("vesk::MenuCommands", "Quick Checklist\u2026"),
-          .keys = "",
-          .marker = {}},
-    Entry{.command = Command::Checklist,
+    Entry{.item = Item::NewNote, .command = Command::Write, .keys = "Ctrl+N"},
+    Entry{.item = Item::QuickNote, .command = Command::QuickNote},
+    Entry{.item = Item::QuickChecklist, .command = Command::QuickChecklist},
+    Entry{.item = Item::Checklist,
           .title = QT_TRANSLATE_NOOP("vesk::MenuCommands", "Checklist"),
           .keys = "Ctrl+Shift+L",
           .marker = u"\u2610 "},
-    Entry{.command = Command::BulletedList,
+    Entry{.item = Item::BulletedList,
           .title = QT_TRANSLATE_NOOP("vesk::MenuCommands", "Bulleted List"),
           .keys = "Ctrl+Shift+8",
           .marker = u"\u2022 "},
-    Entry{.command = Command::Heading,
+    Entry{.item = Item::Heading,
           .title = QT_TRANSLATE_NOOP("vesk::MenuCommands", "Heading"),
           .keys = "Ctrl+Shift+H",
           .marker = u"# "},
 };
 
-const Entry &entryOf(Command command)
+const Entry &entryOf(Item item)
 {
-    return *std::ranges::find(kEntries, command, &Entry::command);
+    return *std::ranges::find(kEntries, item, &Entry::item);
 }
 
 } // namespace
@@ -66,37 +60,38 @@ MenuCommands::MenuCommands(QWindow &panel, NoteEditorController &editor)
     , m_order(panel)
 {
     for (const Entry &entry : kEntries) {
-        const QKeySequence keys = MenuCommands::keys(entry.command);
+        const QKeySequence keys = MenuCommands::keys(entry.item);
         if (keys.isEmpty())
             continue;
         // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it.
         auto *shortcut = new QShortcut(keys, &panel);
         shortcut->setAutoRepeat(false);
-        shortcut->setContext(entry.marker.isEmpty() ? Qt::ApplicationShortcut : Qt::WindowShortcut);
+        shortcut->setContext(entry.command ? Qt::ApplicationShortcut : Qt::WindowShortcut);
         connect(shortcut, &QShortcut::activated, this,
-                [this, command = entry.command] { m_order.run([this, command] { perform(command); }); });
+                [this, item = entry.item] { m_order.run([this, item] { choose(item); }); });
     }
 }
 
-QString MenuCommands::title(Command command)
+QString MenuCommands::title(Item item)
 {
-    return tr(entryOf(command).title);
+    const Entry &entry = entryOf(item);
+    return entry.command ? titleOf(*entry.command) : tr(entry.title);
 }
 
-QKeySequence MenuCommands::keys(Command command)
+QKeySequence MenuCommands::keys(Item item)
 {
-    return {QString::fromLatin1(entryOf(command).keys), QKeySequence::PortableText};
+    return {QString::fromLatin1(entryOf(item).keys), QKeySequence::PortableText};
 }
 
-void MenuCommands::perform(Command command)
+void MenuCommands::choose(Item item)
 {
-    const QStringView marker = entryOf(command).marker;
+    const Entry &entry = entryOf(item);
     // A note that something lies over is not to be changed unseen.
     const NoteTextView *text = m_editor.textView();
-    if (marker.isEmpty())
-        Q_EMIT chosen(command);
+    if (entry.command)
+        Q_EMIT chosen(*entry.command);
     else if (text && text->isEnabled())
-        m_editor.toggleLinePrefix(marker.toString());
+        m_editor.toggleLinePrefix(entry.marker.toString());
 }
 
 } // namespace vesk

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/keyorder.h"
+#include "commands/command.h"
 
 #include <QKeySequence>
 #include <QObject>
@@ -12,14 +13,14 @@ namespace vesk {
 
 class NoteEditorController;
 
-/// The commands of the File and Format menus, and their keys in Vesk's windows. A key matches if it has the
-/// command's character in the user's layout, with or without Shift.
+/// The items of the File and Format menus, and their keys in Vesk's windows. A key matches if it has the
+/// item's character in the user's layout, with or without Shift.
 class MenuCommands final : public QObject
 {
     Q_OBJECT
 
 public:
-    enum class Command {
+    enum class Item {
         // File
         NewNote,
         QuickNote,
@@ -29,23 +30,22 @@ public:
         BulletedList,
         Heading,
     };
-    Q_ENUM(Command)
 
     /// Listens to the keys of the program's windows. Those of the Format menu act on the open note of the
     /// panel, through `editor`. Both must outlive this object.
     MenuCommands(QWindow &panel, NoteEditorController &editor);
 
     /// The title in the menus.
-    [[nodiscard]] static QString title(Command command);
-    /// Empty for a command with a global key, which works in Vesk's windows too.
-    [[nodiscard]] static QKeySequence keys(Command command);
-    /// Carries out a command of the Format menu, which does nothing without an open note; emits `chosen` for
-    /// a command of the File menu.
-    void perform(Command command);
+    [[nodiscard]] static QString title(Item item);
+    /// Empty for an item whose command has a global key, which works in Vesk's windows too.
+    [[nodiscard]] static QKeySequence keys(Item item);
+    /// Carries out an item of the Format menu, which does nothing without an open note; emits `chosen` for an
+    /// item of the File menu.
+    void choose(Item item);
 
 Q_SIGNALS:
-    /// Emitted when a command of the File menu was chosen.
-    void chosen(vesk::MenuCommands::Command command);
+    /// Emitted when an item of the File menu was chosen, with its command.
+    void chosen(vesk::Command command);
 
 private:
     NoteEditorController &m_editor;

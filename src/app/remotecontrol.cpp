@@ -20,13 +20,25 @@ void refuse(const QDBusMessage &message, QDBusError::ErrorType type, const QStri
     QDBusConnection::sessionBus().send(message.createErrorReply(type, reason));
 }
 
+void accept(const QDBusMessage &message)
+{
+    message.setDelayedReply(true);
+    QDBusConnection::sessionBus().send(message.createReply());
+}
+
 } // namespace
 
-RemoteControl::RemoteControl(ApplicationService &service, Commands commands)
+RemoteControl::RemoteControl(ApplicationService &service, Doors doors)
     : QDBusAbstractAdaptor(&service)
-    , m_commands(std::move(commands))
+    , m_doors(std::move(doors))
 {
     qDBusRegisterMetaType<QList<QVariantMap>>();
+}
+
+void RemoteControl::Quit(const QDBusMessage &message) const
+{
+    accept(message);
+    m_doors.quit();
 }
 
 void RemoteControl::AddNote(const QString &text, const QDBusMessage &message) const
@@ -40,11 +52,11 @@ void RemoteControl::AddNote(const QString &text, const QDBusMessage &message) co
         refuse(message, QDBusError::LimitsExceeded, tr("The text is too long for a note."));
         return;
     }
-    if (!m_commands.addNote) {
+    if (!m_doors.addNote) {
         refuse(message, QDBusError::Failed, m_refusal);
         return;
     }
-    const QString problem = m_commands.addNote(trimmed);
+    const QString problem = m_doors.addNote(trimmed);
     qCDebug(appLog) << "bus call" << message.member() << "saved:" << problem.isEmpty();
     // The store holds on to it and writes it when the disk lets it.
     if (!problem.isEmpty())
@@ -54,26 +66,20 @@ void RemoteControl::AddNote(const QString &text, const QDBusMessage &message) co
 
 QList<QVariantMap> RemoteControl::Keys(QStringList &problems) const
 {
-    const KeysReport report = m_commands.keys ? m_commands.keys() : KeysReport();
+    const KeysReport report = m_doors.keys ? m_doors.keys() : KeysReport();
     problems = report.problems;
     return report.toMaps();
 }
 
-void RemoteControl::carryOut(const std::function<void()> &command, const QDBusMessage &message,
-                             const QString &refusal)
+void RemoteControl::carryOut(Command command, const QDBusMessage &message) const
 {
-    qCDebug(appLog) << "bus call" << message.member() << "refused:" << !refusal.isEmpty();
-    if (!refusal.isEmpty()) {
-        refuse(message, QDBusError::Failed, refusal);
-        return;
-    }
-    if (!command) {
-        refuse(message, QDBusError::NotSupported, tr("This Vesk does not support that command."));
-        return;
-    }
-    message.setDelayedReply(true);
-    QDBusConnection::sessionBus().send(message.createReply());
-    command();
+    qCDebug(appLog) << "bus call" << message.member() << "refused:" << !m_refusal.isEmpty();
+    if (!m_refusal.isEmpty())
+        return refuse(message, QDBusError::Failed, m_refusal);
+    if (!m_doors.perform)
+        return refuse(message, QDBusError::NotSupported, tr("This Vesk does not support that command."));
+    accept(message);
+    m_doors.perform(command);
 }
 
 } // namespace vesk

@@ -72,10 +72,13 @@ VeskApp::VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, Applicat
                   .panelWindow = m_panelWindow,
                   .quickNote = m_quickNote,
                   .toast = m_toast})
-    , m_commands(m_panelWindow.window(), *m_panel.editor())
+    , m_menuCommands(m_panelWindow.window(), *m_panel.editor())
     , m_memoryTrim(desktop.application)
 {
-    connect(&desktop.application, &Application::reopened, &m_panelWindow, &PanelWindow::showPanel);
+    const auto performing = [this](Command command) {
+        return [this, command] { m_services.perform(command); };
+    };
+    connect(&desktop.application, &Application::reopened, this, performing(Command::Show));
     connect(&m_quickNote, &QuickNotePanel::aboutToOpen, &m_questions, &Questions::pause);
     connect(&m_quickNote, &QuickNotePanel::closed, &m_questions, &Questions::resume);
     connect(&desktop.accessibility, &X11Accessibility::trustAsked, this, [this] {
@@ -99,13 +102,12 @@ VeskApp::VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, Applicat
     connect(m_panel.cards(), &CardActions::applicationRequested, &desktop.workspace,
             &Workspace::openApplication);
     connect(m_panel.menu(), &PanelMenu::accessibilitySettingsRequested, &m_accessWindow, &AccessWindow::show);
-    connect(&m_commands, &MenuCommands::chosen, this, &VeskApp::perform);
-    connect(m_panel.menu(), &PanelMenu::quickNoteRequested, this,
-            [this] { perform(MenuCommands::Command::QuickNote); });
-    connect(m_panel.menu(), &PanelMenu::quickChecklistRequested, this,
-            [this] { perform(MenuCommands::Command::QuickChecklist); });
+    connect(&m_menuCommands, &MenuCommands::chosen, &m_services, &VeskServices::perform);
+    connect(m_panel.menu(), &PanelMenu::quickNoteRequested, this, performing(Command::QuickNote));
+    connect(m_panel.menu(), &PanelMenu::quickChecklistRequested, this, performing(Command::QuickChecklist));
+    connect(m_panel.menu(), &PanelMenu::quitRequested, this, performing(Command::Quit));
     // Not quit(), which asks the windows, and the panel answers that it only hides.
-    connect(m_panel.menu(), &PanelMenu::quitRequested, this, [] { QCoreApplication::exit(0); });
+    connect(&m_services, &VeskServices::quitRequested, this, [] { QCoreApplication::exit(0); });
     connect(m_panel.menu(), &PanelMenu::updateCheckRequested, &m_updater, &AppUpdater::checkForUpdates);
     const auto followUpdater = [this] { m_panel.menu()->setCanCheckForUpdates(m_updater.canCheck()); };
     connect(&m_updater, &AppUpdater::canCheckChanged, this, followUpdater);
@@ -122,7 +124,7 @@ VeskApp::VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, Applicat
     offerCommands(desktop, store, service);
     QTimer::singleShot(0, this, [this, &desktop] {
         desktop.workspace.warmUp();
-        m_desktopMenus = std::make_unique<DesktopMenus>(m_panelWindow, m_commands);
+        m_desktopMenus = std::make_unique<DesktopMenus>(m_panelWindow, m_menuCommands, m_services);
     });
 }
 
@@ -134,45 +136,32 @@ VeskApp::~VeskApp()
 
 void VeskApp::offerCommands(Desktop &desktop, NotesStore &store, ApplicationService &service)
 {
-    using Target = VeskServices::Target;
     connect(&service, &ApplicationService::actionActivated, this, &VeskApp::onAction);
     // The service has them, and may be called until it ends, after this object.
     const QPointer<VeskApp> self(this);
-    const auto command = [self](auto action) {
-        return [self, action] {
-            if (!self.isNull())
-                action(*self);
-        };
-    };
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the service owns it.
-    m_remoteControl = new RemoteControl(
-        service,
-        {
-            .toggle = command([](VeskApp &app) { app.m_panelWindow.togglePanel(); }),
-            .write = command([](VeskApp &app) { app.write(); }),
-            .quit = [] { QCoreApplication::exit(0); },
-            .capture = command([](VeskApp &app) { app.m_services.capture(Target::NewNote); }),
-            .captureToLastNote = command([](VeskApp &app) { app.m_services.capture(Target::LastNote); }),
-            .captureChecklist = command([](VeskApp &app) { app.m_services.capture(Target::NewChecklist); }),
-            .addToChecklist = command([](VeskApp &app) { app.m_services.addSelectionToChecklist(); }),
-            .savePrompt = command([](VeskApp &app) { app.m_services.savePrompt(); }),
-            .quickNote = command([](VeskApp &app) { app.m_quickNote.show(QuickNoteBox::Mode::Note); }),
-            .quickChecklist =
-                command([](VeskApp &app) { app.m_quickNote.show(QuickNoteBox::Mode::Checklist); }),
-            .addNote =
-                [&clock = desktop.clock, &store](const QString &text) {
-                    store.insert(std::make_unique<Note>(clock, text));
-                    return store.save() ? QString() : store.problem();
-                },
-            .keys =
-                [self] {
-                    if (self.isNull())
-                        return KeysReport();
-                    // Who asks may just have freed a combination.
-                    self->m_keys.retry();
-                    return KeysReport::of(self->m_keys);
-                },
-        });
+    m_remoteControl =
+        new RemoteControl(service, {
+                                       .perform =
+                                           [self](Command command) {
+                                               if (!self.isNull())
+                                                   self->m_services.perform(command);
+                                           },
+                                       .quit = [] { QCoreApplication::exit(0); },
+                                       .addNote =
+                                           [&clock = desktop.clock, &store](const QString &text) {
+                                               store.insert(std::make_unique<Note>(clock, text));
+                                               return store.save() ? QString() : store.problem();
+                                           },
+                                       .keys =
+                                           [self] {
+                                               if (self.isNull())
+                                                   return KeysReport();
+                                               // Who asks may just have freed a combination.
+                                               self->m_keys.retry();
+                                               return KeysReport::of(self->m_keys);
+                                           },
+                                   });
 }
 
 void VeskApp::tellOfKeys() const
@@ -184,38 +173,11 @@ void VeskApp::tellOfKeys() const
 void VeskApp::onAction(const QString &name)
 {
     if (name == "new-note"_L1)
-        write();
+        m_services.perform(Command::Write);
     else if (name == "quick-note"_L1)
-        perform(MenuCommands::Command::QuickNote);
+        m_services.perform(Command::QuickNote);
     else
-        showPanel();
-}
-
-void VeskApp::perform(MenuCommands::Command command)
-{
-    using Command = MenuCommands::Command;
-    switch (command) {
-    case Command::NewNote:
-        m_panel.requestField(PanelModel::Field::Composer);
-        return;
-    case Command::QuickNote:
-        m_quickNote.show(QuickNoteBox::Mode::Note);
-        return;
-    case Command::QuickChecklist:
-        m_quickNote.show(QuickNoteBox::Mode::Checklist);
-        return;
-    case Command::Checklist:
-    case Command::BulletedList:
-    case Command::Heading:
-        // The commands see to the text themselves.
-        return;
-    }
-}
-
-void VeskApp::write()
-{
-    m_panelWindow.showPanel();
-    m_panel.requestField(PanelModel::Field::Composer);
+        m_services.perform(Command::Show);
 }
 
 } // namespace vesk

@@ -10,12 +10,12 @@
 #include "capture/pasteback.h"
 #include "capture/pasteboardwatcher.h"
 #include "capture/selectionreader.h"
-#include "services/veskservices.h"
 #include "input/globalkeys.h"
 #include "panel/panelmodel.h"
 #include "panel/panelwindow.h"
 #include "quicknote/quicknotepanel.h"
 #include "quicknote/toast.h"
+#include "services/veskservices.h"
 
 #include <QObject>
 #include <QPointer>
@@ -49,8 +49,6 @@ private:
     /// Prints the problems in the user's key settings to standard error.
     void tellOfKeys() const;
     void onAction(const QString &name);
-    void perform(MenuCommands::Command command);
-    void write();
 
     GlobalKeys &m_keys;
     QQmlEngine m_engine;
@@ -65,7 +63,7 @@ private:
     AccessWindow m_accessWindow;
     AppUpdater m_updater;
     VeskServices m_services;
-    MenuCommands m_commands;
+    MenuCommands m_menuCommands;
     MemoryTrim m_memoryTrim;
     std::unique_ptr<DesktopMenus> m_desktopMenus;
     /// Owned by the service, which answers other programs and is destroyed after this object.

@@ -156,7 +156,7 @@ int Client::keys(const CommandLine &command)
 {
     KeysReport report;
     if (m_remote.isRunning()) {
-        const Remote::Answer answer = m_remote.call(command.method);
+        const Remote::Answer answer = m_remote.call(u"Keys"_s);
         if (!answer.isDone)
             return outcome(answer);
         report = KeysReport::fromMaps(qdbus_cast<QList<QVariantMap>>(answer.values.value(0)),

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "client/commandline.h"
 
+#include "commands/command.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -15,34 +17,17 @@ namespace {
 
 using Kind = CommandLine::Kind;
 
-/// One way to call the program.
+/// One way to call the program beside the commands for the running Vesk.
 struct Form
 {
-    QLatin1StringView word;
-    /// Empty for none.
-    QLatin1StringView option;
+    QLatin1StringView words;
     Kind kind;
-    /// Empty where no method of the running Vesk is called.
-    QLatin1StringView method;
 };
 
 // The usages below, the completions and the manual page list the same.
 constexpr std::array kForms{
-    Form{"toggle"_L1, ""_L1, Kind::Call, "Toggle"_L1},
-    Form{"write"_L1, ""_L1, Kind::Call, "Write"_L1},
-    Form{"quit"_L1, ""_L1, Kind::Quit, "Quit"_L1},
-    Form{"capture"_L1, ""_L1, Kind::Call, "Capture"_L1},
-    Form{"capture"_L1, "--append"_L1, Kind::Call, "CaptureToLastNote"_L1},
-    Form{"capture"_L1, "--checklist"_L1, Kind::Call, "CaptureChecklist"_L1},
-    Form{"add-to-checklist"_L1, ""_L1, Kind::Call, "AddToChecklist"_L1},
-    Form{"save-prompt"_L1, ""_L1, Kind::Call, "SavePrompt"_L1},
-    Form{"quick-note"_L1, ""_L1, Kind::Call, "QuickNote"_L1},
-    Form{"quick-note"_L1, "--checklist"_L1, Kind::Call, "QuickChecklist"_L1},
-    Form{"list"_L1, ""_L1, Kind::List, ""_L1},
-    Form{"list"_L1, "--json"_L1, Kind::List, ""_L1},
-    Form{"keys"_L1, ""_L1, Kind::Keys, "Keys"_L1},
-    Form{"keys"_L1, "--json"_L1, Kind::Keys, "Keys"_L1},
-    Form{"help"_L1, ""_L1, Kind::Help, ""_L1},
+    Form{"list"_L1, Kind::List},        Form{"list --json"_L1, Kind::List}, Form{"keys"_L1, Kind::Keys},
+    Form{"keys --json"_L1, Kind::Keys}, Form{"help"_L1, Kind::Help},
 };
 
 /// What is said here.
@@ -56,20 +41,6 @@ struct Usage
 {
     const char *call;
     const char *effect;
-};
-
-constexpr std::array kCommands{
-    Usage{"toggle", QT_TRANSLATE_NOOP("vesk::CommandLine", "show or hide the panel")},
-    Usage{"write", QT_TRANSLATE_NOOP("vesk::CommandLine", "show the panel to write a note")},
-    Usage{"capture", QT_TRANSLATE_NOOP("vesk::CommandLine", "save the selected text as a note")},
-    Usage{"capture --append", QT_TRANSLATE_NOOP("vesk::CommandLine", "add it to the note changed last")},
-    Usage{"capture --checklist",
-          QT_TRANSLATE_NOOP("vesk::CommandLine", "save each selected line as a checkbox")},
-    Usage{"add-to-checklist",
-          QT_TRANSLATE_NOOP("vesk::CommandLine", "add the selected lines to the checklist changed last")},
-    Usage{"save-prompt", QT_TRANSLATE_NOOP("vesk::CommandLine", "save the selected text as a prompt")},
-    Usage{"quick-note [--checklist]", QT_TRANSLATE_NOOP("vesk::CommandLine", "open the quick-note box")},
-    Usage{"quit", QT_TRANSLATE_NOOP("vesk::CommandLine", "quit Vesk")},
 };
 
 constexpr std::array kOwnCommands{
@@ -90,14 +61,28 @@ constexpr std::array kOptions{
     Usage{"-v, --version", QT_TRANSLATE_NOOP("vesk::CommandLine", "print the version")},
 };
 
+QString line(const QString &call, const QString &effect)
+{
+    constexpr int kColumn = 33;
+    return u"  "_s + call.leftJustified(kColumn) + effect + u'\n';
+}
+
 /// A heading, and a line for each of `usages`.
 QString section(const QString &heading, std::span<const Usage> usages)
 {
-    constexpr int kColumn = 33;
     QString text = heading + u'\n';
     for (const Usage &usage : usages)
-        text += u"  "_s + QString::fromLatin1(usage.call).leftJustified(kColumn) + Texts::tr(usage.effect)
-                + u'\n';
+        text += line(QString::fromLatin1(usage.call), Texts::tr(usage.effect));
+    return text + u'\n';
+}
+
+QString commandSection(const QString &heading)
+{
+    QString text = heading + u'\n';
+    for (const CommandRow &row : commandRows()) {
+        if (!row.words.isEmpty())
+            text += line(row.words.toString(), purposeOf(row.command));
+    }
     return text + u'\n';
 }
 
@@ -135,19 +120,31 @@ ParsedCommandLine parseAdd(const QStringList &words)
     return right({.kind = Kind::Add, .text = words.first()});
 }
 
+bool isKnownWord(const QString &word)
+{
+    const auto isFirst = [&word](const auto &words) {
+        return words.startsWith(word) && (words.size() == word.size() || words.at(word.size()) == u' ');
+    };
+    return std::ranges::any_of(kForms, isFirst, &Form::words)
+           || std::ranges::any_of(commandRows(), isFirst, &CommandRow::words);
+}
+
 ParsedCommandLine parseForm(const QString &word, const QStringList &options)
 {
-    const auto isNamed = [&word](const Form &form) { return word == form.word; };
-    if (std::ranges::none_of(kForms, isNamed))
+    if (!isKnownWord(word))
         return wrong(Texts::tr("Unknown command: %1").arg(word));
     if (options.size() > 1)
         return wrong(Texts::tr("%1: Only one option is allowed.").arg(word));
     const QString option = options.value(0);
-    const auto isMeant = [&](const Form &form) { return isNamed(form) && option == form.option; };
-    const auto *const form = std::ranges::find_if(kForms, isMeant);
+    const QString words = options.isEmpty() ? word : word + u' ' + option;
+    if (const CommandRow *row = findCommand(words)) {
+        const Kind kind = row->command == Command::Quit ? Kind::Quit : Kind::Call;
+        return right({.kind = kind, .method = row->method});
+    }
+    const auto *const form = std::ranges::find(kForms, words, &Form::words);
     if (form == kForms.end())
         return wrong(Texts::tr("%1: Unknown option %2").arg(word, option));
-    return right({.kind = form->kind, .method = form->method, .isJson = option == "--json"_L1});
+    return right({.kind = form->kind, .isJson = option == "--json"_L1});
 }
 
 bool isOneOf(const QString &word, QLatin1StringView shortForm, QLatin1StringView longForm)
@@ -179,9 +176,8 @@ QString commandLineHelp()
     return Texts::tr("Usage: vesk [command]\n\nSaves what you select in any application. Without a command, "
                      "starts Vesk, or shows its\npanel if it is already running.")
            + u"\n\n"_s
-           + section(Texts::tr("Commands for the running Vesk, which is started in the background if "
-                               "necessary:"),
-                     kCommands)
+           + commandSection(Texts::tr("Commands for the running Vesk, which is started in the background if "
+                                      "necessary:"))
            + section(Texts::tr("Commands that work without a running Vesk:"), kOwnCommands)
            + section(Texts::tr("Options:"), kOptions)
            + Texts::tr("Exit status: 0 success, 1 failure (standard error says why), 2 wrong usage.") + u'\n';

@@ -7,7 +7,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTimeZone>
 
 #include <algorithm>
 
@@ -25,7 +24,7 @@ void sortNewestFirst(std::vector<Note::Fields> &notes)
 QDateTime timeOf(Date date)
 {
     const auto sinceEpoch = std::chrono::floor<std::chrono::milliseconds>(date.time_since_epoch());
-    return QDateTime::fromMSecsSinceEpoch(sinceEpoch.count(), QTimeZone::utc());
+    return QDateTime::fromMSecsSinceEpoch(sinceEpoch.count()).toUTC();
 }
 
 QJsonObject toJson(const Note::Fields &note)

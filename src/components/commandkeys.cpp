@@ -35,25 +35,25 @@ CommandKeys *CommandKeys::create(QQmlEngine *engine, QJSEngine * /*scriptEngine*
     return new CommandKeys(qvariant_cast<const GlobalKeys *>(engine->property(kProperty)), engine);
 }
 
-QStringList CommandKeys::glyphs(const HotKeyRow &row) const
+QStringList CommandKeys::glyphs(Command command) const
 {
     if (!m_keys)
-        return keynames::glyphs(row.combination, nullptr);
-    const std::optional<KeyCombination> combination = m_keys->key(row).combination;
+        return keynames::glyphs(combinationOf(command), nullptr);
+    const std::optional<KeyCombination> combination = m_keys->key(command).combination;
     return combination ? keynames::glyphs(*combination, &m_keys->keyboard()) : QStringList();
 }
 
-QString CommandKeys::spelt(const HotKeyRow &row) const
+QString CommandKeys::spelt(Command command) const
 {
-    QStringList labels = glyphs(row);
+    QStringList labels = glyphs(command);
     for (QString &label : labels)
         label = KeyLabels::label(label, KeyLabels::Global);
     return labels.join(u'+');
 }
 
-bool CommandKeys::isTaken(const HotKeyRow &row) const
+bool CommandKeys::isTaken(Command command) const
 {
-    return m_keys && m_keys->key(row).state == State::Taken;
+    return m_keys && m_keys->key(command).state == State::Taken;
 }
 
 QString CommandKeys::holders() const
@@ -64,25 +64,24 @@ QString CommandKeys::holders() const
     return all.isEmpty() ? tr("another program") : all;
 }
 
-QString CommandKeys::notice(const HotKeyRow &row) const
+QString CommandKeys::notice(Command command) const
 {
-    if (isTaken(row) && m_keys->holders().isEmpty())
+    if (isTaken(command) && m_keys->holders().isEmpty())
         return tr("Another program uses these keys. Free them there, or choose others in %1.")
             .arg(fileName());
-    if (isTaken(row))
+    if (isTaken(command))
         return tr("%1 uses these keys. Free them there, or choose others in %2.").arg(holders(), fileName());
-    if (m_keys && m_keys->key(row).state == State::Off)
+    if (m_keys && m_keys->key(command).state == State::Off)
         return tr("Switched off in %1.").arg(fileName());
     return {};
 }
 
 QString CommandKeys::newNoteTitle() const
 {
-    const HotKeyRow &row = hotkeytable::kWrite;
-    const QString keys = spelt(row);
+    const QString keys = spelt(Command::Write);
     if (keys.isEmpty())
         return tr("New Note");
-    return isTaken(row) ? tr("New Note (%1, taken)").arg(keys) : tr("New Note (%1)").arg(keys);
+    return isTaken(Command::Write) ? tr("New Note (%1, taken)").arg(keys) : tr("New Note (%1)").arg(keys);
 }
 
 QString CommandKeys::takenTitle() const
@@ -98,17 +97,17 @@ QString CommandKeys::takenTitle() const
 
 QStringList CommandKeys::promptKeys() const
 {
-    return glyphs(hotkeytable::kSavePrompt);
+    return glyphs(Command::SavePrompt);
 }
 
 QString CommandKeys::promptSpoken() const
 {
-    return spelt(hotkeytable::kSavePrompt).replace(u'+', u' ');
+    return spelt(Command::SavePrompt).replace(u'+', u' ');
 }
 
 bool CommandKeys::isPromptTaken() const
 {
-    return isTaken(hotkeytable::kSavePrompt);
+    return isTaken(Command::SavePrompt);
 }
 
 bool CommandKeys::isPromptTapped() const

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "commands/command.h"
+
 #include <QObject>
 #include <QQmlEngine>
 #include <QStringList>
@@ -8,7 +10,6 @@
 namespace vesk {
 
 class GlobalKeys;
-struct HotKeyRow;
 
 /// The keys that work everywhere as every view of an engine shows them: those that the user has chosen,
 /// and which of them another program has.
@@ -35,14 +36,14 @@ public:
     static CommandKeys *create(QQmlEngine *engine, QJSEngine *scriptEngine);
 
     /// Key by key in the notation of Vesk's texts; empty if the combination is switched off.
-    [[nodiscard]] QStringList glyphs(const HotKeyRow &row) const;
+    [[nodiscard]] QStringList glyphs(Command command) const;
     /// As it is said in a sentence: "Alt+Super+N". Empty if the combination is switched off.
-    [[nodiscard]] QString spelt(const HotKeyRow &row) const;
-    [[nodiscard]] bool isTaken(const HotKeyRow &row) const;
+    [[nodiscard]] QString spelt(Command command) const;
+    [[nodiscard]] bool isTaken(Command command) const;
     /// Who has what is taken: names, or what stands for them.
     [[nodiscard]] QString holders() const;
     /// Why the combination does not work, and what the user can do; empty if it works.
-    [[nodiscard]] QString notice(const HotKeyRow &row) const;
+    [[nodiscard]] QString notice(Command command) const;
 
     [[nodiscard]] QString newNoteTitle() const;
     [[nodiscard]] QString takenTitle() const;

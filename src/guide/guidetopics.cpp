@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "guide/guidetopics.h"
 
-#include "input/hotkeytable.h"
+#include "commands/command.h"
 
 #include <array>
 
@@ -15,9 +15,9 @@ struct Topic
 {
     const char *symbol;
     const char *title;
-    /// The keys that work everywhere; null for those of Vesk's own windows.
-    const HotKeyRow *row = nullptr;
-    /// Those, separated by spaces.
+    /// Shown by its keys. Nullopt if the topic is about keys of Vesk's own windows.
+    std::optional<Command> command = {};
+    /// Those keys, separated by spaces.
     QStringView keys = {};
     const char *text;
     bool showsAccess = false;
@@ -28,19 +28,19 @@ struct Topic
 constexpr std::array kTopics{
     Topic{.symbol = "keyboard",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Open Vesk anywhere"),
-          .row = &hotkeytable::kOpen,
+          .command = Command::Toggle,
           .text =
               QT_TRANSLATE_NOOP("vesk::GuideTopics", "Press it in any app to open or hide Vesk. Escape also "
                                                      "hides it, and so does clicking another app.")},
     Topic{.symbol = "square.and.pencil",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Write a new note"),
-          .row = &hotkeytable::kWrite,
+          .command = Command::Write,
           .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Opens Vesk with the cursor in \u201CWrite a note\u2026\u201D. Return "
                                     "saves it, Shift-Return starts a new line.")},
     Topic{.symbol = "character.cursor.ibeam",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Save selected text"),
-          .row = &hotkeytable::kQuickNote,
+          .command = Command::Capture,
           .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Select text in a browser, ChatGPT, Claude, a terminal, anywhere, and "
                                     "press it. It becomes a note that remembers where it came from. With "
@@ -48,27 +48,27 @@ constexpr std::array kTopics{
           .showsAccess = true},
     Topic{.symbol = "bubble.left.and.text.bubble.right",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Prompts for your AI chats"),
-          .row = &hotkeytable::kSavePrompt,
+          .command = Command::SavePrompt,
           .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Select text and tap Shift twice to save it as a prompt, or write "
                                     "follow-up prompts in the Prompts tab. Copy or paste them into the chat "
                                     "and tick them off.")},
     Topic{.symbol = "text.append",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Add to your last note"),
-          .row = &hotkeytable::kAppend,
+          .command = Command::CaptureToLastNote,
           .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Adds the selection to the bottom of the note you changed last. A note "
                                     "that ends in a checklist gets new checkboxes.")},
     Topic{.symbol = "checklist",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Make a checklist"),
-          .row = &hotkeytable::kChecklist,
+          .command = Command::CaptureChecklist,
           .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Each selected line becomes a checkbox. With nothing selected, a box "
                                     "opens on the first checkbox: Return adds the next item, \u2318\u21A9 "
                                     "saves.")},
     Topic{.symbol = "text.badge.plus",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Add to your checklist"),
-          .row = &hotkeytable::kAddToChecklist,
+          .command = Command::AddToChecklist,
           .text = QT_TRANSLATE_NOOP("vesk::GuideTopics",
                                     "Each selected line becomes a new checkbox in the checklist you changed "
                                     "last, even if you edited other notes since.")},
@@ -88,7 +88,7 @@ constexpr std::array kTopics{
 
 KeyLabels::Place placeOf(const Topic &topic)
 {
-    return topic.row ? KeyLabels::Global : KeyLabels::Window;
+    return topic.command ? KeyLabels::Global : KeyLabels::Window;
 }
 
 } // namespace
@@ -136,7 +136,7 @@ QVariant GuideTopics::data(const QModelIndex &index, int role) const
     case NoticeRole:
         return noticeOf(place);
     case IsTakenRole:
-        return topic.row && m_keys && m_keys->isTaken(*topic.row);
+        return topic.command && m_keys && m_keys->isTaken(*topic.command);
     default:
         return {};
     }
@@ -145,17 +145,17 @@ QVariant GuideTopics::data(const QModelIndex &index, int role) const
 QStringList GuideTopics::keysOf(size_t place) const
 {
     const Topic &topic = kTopics.at(place);
-    if (topic.row)
-        return m_keys ? m_keys->glyphs(*topic.row) : QStringList();
+    if (topic.command)
+        return m_keys ? m_keys->glyphs(*topic.command) : QStringList();
     return topic.keys.toString().split(u' ', Qt::SkipEmptyParts);
 }
 
 QString GuideTopics::textOf(size_t place) const
 {
     const Topic &topic = kTopics.at(place);
-    if (topic.row != &hotkeytable::kSavePrompt || !m_keys || m_keys->isPromptTapped())
+    if (topic.command != Command::SavePrompt || !m_keys || m_keys->isPromptTapped())
         return tr(topic.text);
-    const QString keys = m_keys->spelt(*topic.row);
+    const QString keys = m_keys->spelt(*topic.command);
     if (keys.isEmpty())
         return tr("Write follow-up prompts in the Prompts tab. Copy or paste them into the chat and tick "
                   "them off.");
@@ -167,8 +167,8 @@ QString GuideTopics::textOf(size_t place) const
 
 QString GuideTopics::noticeOf(size_t place) const
 {
-    const HotKeyRow *row = kTopics.at(place).row;
-    return row && m_keys ? m_keys->notice(*row) : QString();
+    const std::optional<Command> command = kTopics.at(place).command;
+    return command && m_keys ? m_keys->notice(*command) : QString();
 }
 
 QString GuideTopics::spoken(size_t place) const

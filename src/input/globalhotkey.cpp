@@ -3,13 +3,13 @@
 
 namespace vesk {
 
-GlobalHotKey::GlobalHotKey(quint32 id, HotKeys &hotKeys)
-    : m_id(id)
+GlobalHotKey::GlobalHotKey(Command command, HotKeys &hotKeys)
+    : m_command(command)
     , m_hotKeys(hotKeys)
 {
     connect(&hotKeys, &HotKeys::pressed, this, [this](quint32 pressedId) {
-        if (pressedId == m_id)
-            Q_EMIT pressed();
+        if (pressedId == id())
+            Q_EMIT pressed(m_command);
     });
 }
 
@@ -20,14 +20,14 @@ GlobalHotKey::~GlobalHotKey()
 
 bool GlobalHotKey::registerKey(KeyCombination combination)
 {
-    m_isRegistered = m_hotKeys.registerHotKey(m_id, combination);
+    m_isRegistered = m_hotKeys.registerHotKey(id(), combination);
     return m_isRegistered;
 }
 
 void GlobalHotKey::unregisterKey()
 {
     if (m_isRegistered)
-        m_hotKeys.unregisterHotKey(m_id);
+        m_hotKeys.unregisterHotKey(id());
     m_isRegistered = false;
 }
 

@@ -1,21 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/hotkeys.h"
+#include "commands/command.h"
 
 #include <QObject>
 
 namespace vesk {
 
-/// One global key combination. Owned by the class that acts on it.
+/// The global key combination of one command. Owned by the class that acts on it.
 class GlobalHotKey final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Claims nothing yet. `id` must be unique among the hot keys of `hotKeys`, which must outlive this
-    /// object.
-    GlobalHotKey(quint32 id, HotKeys &hotKeys);
+    /// Claims nothing yet. There is one object for each command. `hotKeys` must outlive this object.
+    GlobalHotKey(Command command, HotKeys &hotKeys);
     /// Gives up the combination.
     ~GlobalHotKey() override;
 
@@ -26,10 +25,13 @@ public:
     [[nodiscard]] bool isRegistered() const { return m_isRegistered; }
 
 Q_SIGNALS:
-    void pressed();
+    void pressed(vesk::Command command);
 
 private:
-    quint32 m_id;
+    /// The platform knows the command by its number.
+    [[nodiscard]] quint32 id() const { return static_cast<quint32>(m_command); }
+
+    Command m_command;
     HotKeys &m_hotKeys;
     bool m_isRegistered = false;
 };

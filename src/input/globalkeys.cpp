@@ -11,13 +11,12 @@ namespace vesk {
 GlobalKeys::GlobalKeys(HotKeys &hotKeys, const QString &path)
     : m_hotKeys(hotKeys)
     , m_file(path)
-    , m_isLeft(hotkeytable::kAll.size())
+    , m_isLeft(kCommandsWithKeys)
 {
-    for (const HotKeyRow &row : hotkeytable::kAll) {
-        m_keys.push_back({.row = row, .combination = row.combination});
-        m_claims.push_back(std::make_unique<GlobalHotKey>(row.id, hotKeys));
-        connect(m_claims.back().get(), &GlobalHotKey::pressed, this,
-                [this, id = row.id] { Q_EMIT pressed(id); });
+    for (const CommandRow &row : commandsWithKeys()) {
+        m_keys.push_back({.command = row.command, .combination = row.combination});
+        m_claims.push_back(std::make_unique<GlobalHotKey>(row.command, hotKeys));
+        connect(m_claims.back().get(), &GlobalHotKey::pressed, this, &GlobalKeys::pressed);
     }
 }
 
@@ -37,11 +36,12 @@ void GlobalKeys::retry()
         Q_EMIT changed();
 }
 
-void GlobalKeys::setLeftToApplications(quint32 id, bool isLeft)
+void GlobalKeys::setLeftToApplications(Command command, bool isLeft)
 {
-    if (m_isLeft.at(id - 1) == isLeft)
+    const auto place = static_cast<size_t>(command);
+    if (m_isLeft.at(place) == isLeft)
         return;
-    m_isLeft.at(id - 1) = isLeft;
+    m_isLeft.at(place) = isLeft;
     retry();
 }
 
@@ -55,7 +55,7 @@ void GlobalKeys::setShiftHeard(bool isHeard)
 
 bool GlobalKeys::isDoubleShiftWanted() const
 {
-    return key(hotkeytable::kSavePrompt).combination == hotkeytable::kSavePrompt.combination;
+    return key(Command::SavePrompt).combination == kDoubleShift;
 }
 
 void GlobalKeys::followChange()
@@ -79,7 +79,7 @@ bool GlobalKeys::apply()
     for (size_t i = 0; i < m_keys.size(); ++i) {
         const State state = claim(i);
         if (state != m_keys.at(i).state)
-            qCDebug(inputLog) << m_keys.at(i).row.command << "works:" << (state == State::Works);
+            qCDebug(inputLog) << rowOf(m_keys.at(i).command).words << "works:" << (state == State::Works);
         m_keys.at(i).state = state;
     }
     const bool isAnyTaken = std::ranges::find(m_keys, State::Taken, &Key::state) != m_keys.end();
@@ -96,7 +96,7 @@ GlobalKeys::State GlobalKeys::claim(size_t place)
     const std::optional<KeyCombination> combination = m_keys.at(place).combination;
     if (!combination)
         return State::Off;
-    if (combination == hotkeytable::kSavePrompt.combination)
+    if (combination == kDoubleShift)
         return m_isShiftHeard ? State::Works : State::NoAccess;
     if (m_isLeft.at(place))
         return State::Works;

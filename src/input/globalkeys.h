@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "commands/command.h"
 #include "input/globalhotkey.h"
-#include "input/hotkeytable.h"
 #include "input/keysfile.h"
 
 #include <QObject>
@@ -31,7 +31,7 @@ public:
 
     struct Key
     {
-        HotKeyRow row;
+        Command command = {};
         /// Nullopt if it is switched off.
         std::optional<KeyCombination> combination;
         State state = State::Off;
@@ -51,13 +51,13 @@ public:
     void retry();
 
     /// Leaves a combination to the applications, or claims it again.
-    void setLeftToApplications(quint32 id, bool isLeft);
+    void setLeftToApplications(Command command, bool isLeft);
     /// Must be called whenever Vesk starts or stops listening to Shift.
     void setShiftHeard(bool isHeard);
 
-    /// In the order of `hotkeytable::kAll`.
+    /// In the order of `commandsWithKeys()`.
     [[nodiscard]] const std::vector<Key> &keys() const { return m_keys; }
-    [[nodiscard]] const Key &key(const HotKeyRow &row) const { return m_keys.at(row.id - 1); }
+    [[nodiscard]] const Key &key(Command command) const { return m_keys.at(static_cast<size_t>(command)); }
     /// Whether the user wants two taps of Shift to save a prompt.
     [[nodiscard]] bool isDoubleShiftWanted() const;
     /// The programs one of which has a taken combination; empty if none is taken, or the platform cannot
@@ -69,8 +69,8 @@ public:
     [[nodiscard]] const HotKeys &keyboard() const { return m_hotKeys; }
 
 Q_SIGNALS:
-    /// Emitted when the combination of the row `id` of `hotkeytable` was pressed.
-    void pressed(quint32 id);
+    /// Emitted when the combination of this command was pressed.
+    void pressed(vesk::Command command);
     /// Emitted when a combination, its state, the holders, or the label of a key has changed.
     void changed();
     /// Emitted when `problems` has changed.

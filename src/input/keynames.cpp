@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "input/keynames.h"
 
-#include "input/hotkeytable.h"
+#include "commands/command.h"
 
 #include <algorithm>
 #include <array>
@@ -144,7 +144,7 @@ QString nameOf(KeyPosition key, const HotKeys *keyboard)
 
 QString written(KeyCombination combination, const HotKeys *keyboard)
 {
-    if (combination == hotkeytable::kSavePrompt.combination)
+    if (combination == kDoubleShift)
         return u"Shift Shift"_s;
     QStringList words;
     for (const Modifier &each : kWrittenOrder) {

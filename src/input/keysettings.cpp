@@ -22,8 +22,6 @@ struct Texts
 
 using Choice = std::optional<KeyCombination>;
 
-const KeyCombination kDoubleShift = hotkeytable::kSavePrompt.combination;
-
 struct ModifierName
 {
     QStringView name;
@@ -104,7 +102,7 @@ public:
         : m_keyboard(keyboard)
     {
         for (size_t i = 0; i < m_lines.size(); ++i)
-            m_settings.combinations.at(i) = hotkeytable::kAll.at(i).combination;
+            m_settings.combinations.at(i) = commandsWithKeys()[i].combination;
     }
 
     void readLine(const QString &line, int number)
@@ -118,9 +116,8 @@ public:
             return;
         }
         const QString command = text.left(equals).simplified();
-        const auto *const row = std::ranges::find_if(
-            hotkeytable::kAll, [&command](const HotKeyRow &each) { return each.command == command; });
-        if (row == hotkeytable::kAll.end()) {
+        const CommandRow *row = findCommand(command);
+        if (!row || !row->combination) {
             say(number, Texts::tr("Unknown command: “%1”.").arg(command.left(40)));
             return;
         }
@@ -135,27 +132,29 @@ public:
     }
 
 private:
-    [[nodiscard]] Choice &choice(const HotKeyRow &row) { return m_settings.combinations.at(row.id - 1); }
-    [[nodiscard]] int &line(const HotKeyRow &row) { return m_lines.at(row.id - 1); }
+    [[nodiscard]] Choice &choice(const CommandRow &row)
+    {
+        return m_settings.combinations.at(static_cast<size_t>(row.command));
+    }
+    [[nodiscard]] int &line(const CommandRow &row) { return m_lines.at(static_cast<size_t>(row.command)); }
 
     void say(int number, const QString &problem)
     {
         m_settings.problems.append(Texts::tr("Keys.conf, line %1: %2").arg(number).arg(problem));
     }
 
-    void keepDefault(const HotKeyRow &row, int number, const QString &problem)
+    void keepDefault(const CommandRow &row, int number, const QString &problem)
     {
         choice(row) = row.combination;
-        say(number,
-            Texts::tr("%1 “%2” keeps %3.")
-                .arg(problem, row.command.toString(), keynames::written(row.combination, m_keyboard)));
+        say(number, Texts::tr("%1 “%2” keeps %3.")
+                        .arg(problem, row.words.toString(), keynames::written(*row.combination, m_keyboard)));
     }
 
-    void set(const HotKeyRow &row, const QString &value, int number)
+    void set(const CommandRow &row, const QString &value, int number)
     {
         if (line(row) != 0) {
             say(number,
-                Texts::tr("“%1” is already set in line %2, which applies.").arg(row.command).arg(line(row)));
+                Texts::tr("“%1” is already set in line %2, which applies.").arg(row.words).arg(line(row)));
             return;
         }
         line(row) = number;
@@ -166,7 +165,7 @@ private:
         const ParsedCombination parsed = parseCombination(value, m_keyboard);
         if (!parsed.combination)
             keepDefault(row, number, parsed.problem);
-        else if (parsed.combination == kDoubleShift && row.id != hotkeytable::kSavePrompt.id)
+        else if (parsed.combination == kDoubleShift && row.command != Command::SavePrompt)
             keepDefault(row, number, Texts::tr("Only save-prompt can be Shift tapped twice."));
         else
             choice(row) = parsed.combination;
@@ -176,19 +175,19 @@ private:
     /// are none. Ends, as the combinations by default are all different.
     [[nodiscard]] bool undoOneClash()
     {
-        for (const HotKeyRow &first : hotkeytable::kAll) {
-            for (const HotKeyRow &second : hotkeytable::kAll) {
-                if (first.id >= second.id || !choice(first) || choice(first) != choice(second))
+        for (const CommandRow &first : commandsWithKeys()) {
+            for (const CommandRow &second : commandsWithKeys()) {
+                if (first.command >= second.command || !choice(first) || choice(first) != choice(second))
                     continue;
                 const bool isFirstByDefault = choice(first) == first.combination;
                 const bool isFirstLater = line(first) > line(second) && choice(second) != second.combination;
                 const bool losesFirst =
                     !isFirstByDefault && (choice(second) == second.combination || isFirstLater);
-                const HotKeyRow &loser = losesFirst ? first : second;
-                const HotKeyRow &winner = losesFirst ? second : first;
+                const CommandRow &loser = losesFirst ? first : second;
+                const CommandRow &winner = losesFirst ? second : first;
                 const QString taken = keynames::written(*choice(winner), m_keyboard);
                 keepDefault(loser, line(loser),
-                            Texts::tr("%1 is already used for “%2”.").arg(taken, winner.command.toString()));
+                            Texts::tr("%1 is already used for “%2”.").arg(taken, winner.words.toString()));
                 return true;
             }
         }
@@ -198,7 +197,7 @@ private:
     const HotKeys *m_keyboard;
     KeySettings m_settings;
     /// The line that sets each command; 0 for none.
-    std::array<int, hotkeytable::kAll.size()> m_lines{};
+    std::array<int, kCommandsWithKeys> m_lines{};
 };
 
 } // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "input/hotkeytable.h"
+#include "commands/command.h"
 
 #include <QStringList>
 
@@ -13,10 +13,15 @@ namespace vesk {
 /// The combinations that the user has chosen.
 struct KeySettings
 {
-    /// In the order of `hotkeytable::kAll`; nullopt for one that is switched off.
-    std::array<std::optional<KeyCombination>, hotkeytable::kAll.size()> combinations;
+    /// In the order of `commandsWithKeys()`; nullopt for one that is switched off.
+    std::array<std::optional<KeyCombination>, kCommandsWithKeys> combinations;
     /// The problems in the user's lines, one or two sentences each.
     QStringList problems;
+
+    [[nodiscard]] const std::optional<KeyCombination> &of(Command command) const
+    {
+        return combinations.at(static_cast<size_t>(command));
+    }
 };
 
 /// Parses the user's file. Each line has a command, "=" and its combination, or nothing or "none" to switch

@@ -32,12 +32,12 @@ QString nameOf(GlobalKeys::State state)
     return {};
 }
 
-KeysReport::Key keyOf(const HotKeyRow &row, const std::optional<KeyCombination> &combination,
+KeysReport::Key keyOf(Command command, const std::optional<KeyCombination> &combination,
                       const HotKeys *keyboard)
 {
-    return {.command = row.command.toString(),
+    return {.command = rowOf(command).words.toString(),
             .keys = combination ? keynames::written(*combination, keyboard) : QString(),
-            .purpose = KeysReport::tr(row.purpose),
+            .purpose = purposeOf(command),
             .state = {},
             .takenBy = {}};
 }
@@ -48,7 +48,7 @@ KeysReport KeysReport::of(const GlobalKeys &keys)
 {
     KeysReport report{.keys = {}, .problems = keys.problems()};
     for (const GlobalKeys::Key &each : keys.keys()) {
-        Key key = keyOf(each.row, each.combination, &keys.keyboard());
+        Key key = keyOf(each.command, each.combination, &keys.keyboard());
         key.state = nameOf(each.state);
         if (each.state == GlobalKeys::State::Taken)
             key.takenBy = keys.holders();
@@ -61,8 +61,8 @@ KeysReport KeysReport::withoutVesk(const QString &fileText)
 {
     const KeySettings settings = readKeySettings(fileText, nullptr);
     KeysReport report{.keys = {}, .problems = settings.problems};
-    for (const HotKeyRow &row : hotkeytable::kAll) {
-        Key key = keyOf(row, settings.combinations.at(row.id - 1), nullptr);
+    for (const CommandRow &row : commandsWithKeys()) {
+        Key key = keyOf(row.command, settings.of(row.command), nullptr);
         key.state = key.keys.isEmpty() ? nameOf(GlobalKeys::State::Off) : u"unknown"_s;
         report.keys.append(key);
     }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "panel/commandhints.h"
 
+#include "commands/command.h"
 #include "components/keylabels.h"
-#include "input/hotkeytable.h"
 
 #include <array>
 
@@ -14,30 +14,30 @@ namespace {
 
 struct Entry
 {
-    /// Null for what is typed.
-    const HotKeyRow *row;
-    /// Separated by spaces, if there is no row.
+    /// Nullopt for what is typed.
+    std::optional<Command> command;
+    /// Separated by spaces, if there is no command.
     QStringView keys;
     const char *hint;
 };
 
 constexpr std::array kEntries{
-    Entry{.row = &hotkeytable::kQuickNote,
+    Entry{.command = Command::Capture,
           .keys = {},
           .hint = QT_TRANSLATE_NOOP("vesk::CommandHints", "Save selected text, or write a quick note")},
-    Entry{.row = &hotkeytable::kAppend,
+    Entry{.command = Command::CaptureToLastNote,
           .keys = {},
           .hint = QT_TRANSLATE_NOOP("vesk::CommandHints", "Add the selection to your last note")},
-    Entry{.row = &hotkeytable::kOpen,
+    Entry{.command = Command::Toggle,
           .keys = {},
           .hint = QT_TRANSLATE_NOOP("vesk::CommandHints", "Open or hide Vesk")},
-    Entry{.row = &hotkeytable::kWrite,
+    Entry{.command = Command::Write,
           .keys = {},
           .hint = QT_TRANSLATE_NOOP("vesk::CommandHints", "Open Vesk and write a new note")},
-    Entry{.row = &hotkeytable::kSavePrompt,
+    Entry{.command = Command::SavePrompt,
           .keys = {},
           .hint = QT_TRANSLATE_NOOP("vesk::CommandHints", "Save selected text as a prompt")},
-    Entry{.row = nullptr,
+    Entry{.command = {},
           .keys = u"[ ] \u2423",
           .hint = QT_TRANSLATE_NOOP("vesk::CommandHints", "Start a checklist while typing")},
 };
@@ -62,7 +62,7 @@ void CommandHints::reload()
     beginResetModel();
     m_shown.clear();
     for (size_t i = 0; m_keys && i < kEntries.size(); ++i) {
-        if (!kEntries.at(i).row || !m_keys->glyphs(*kEntries.at(i).row).isEmpty())
+        if (!kEntries.at(i).command || !m_keys->glyphs(*kEntries.at(i).command).isEmpty())
             m_shown.append(i);
     }
     endResetModel();
@@ -84,7 +84,7 @@ QVariant CommandHints::data(const QModelIndex &index, int role) const
     case HintRole:
         return hintOf(entry);
     case IsTakenRole:
-        return kEntries.at(entry).row && m_keys->isTaken(*kEntries.at(entry).row);
+        return kEntries.at(entry).command && m_keys->isTaken(*kEntries.at(entry).command);
     case SpokenRole: {
         QStringList keys = keysOf(entry);
         for (QString &key : keys)
@@ -99,13 +99,13 @@ QVariant CommandHints::data(const QModelIndex &index, int role) const
 QStringList CommandHints::keysOf(size_t entry) const
 {
     const Entry &shown = kEntries.at(entry);
-    return shown.row ? m_keys->glyphs(*shown.row) : shown.keys.toString().split(u' ');
+    return shown.command ? m_keys->glyphs(*shown.command) : shown.keys.toString().split(u' ');
 }
 
 QString CommandHints::hintOf(size_t entry) const
 {
     const Entry &shown = kEntries.at(entry);
-    const bool isTaken = shown.row && m_keys->isTaken(*shown.row);
+    const bool isTaken = shown.command && m_keys->isTaken(*shown.command);
     return isTaken ? tr("%1 (keys taken by %2)").arg(tr(shown.hint), m_keys->holders()) : tr(shown.hint);
 }
 

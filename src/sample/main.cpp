@@ -181,8 +181,8 @@ int main(int argc, char *argv[])
     vesk::MemoryHotKeys hotKeys;
     if (options.isSet(taken)) {
         hotKeys.setHolders({options.value(taken)});
-        hotKeys.setTaken(vesk::hotkeytable::kOpen.combination);
-        hotKeys.setTaken(vesk::hotkeytable::kWrite.combination);
+        hotKeys.setTaken(combinationOf(vesk::Command::Toggle));
+        hotKeys.setTaken(combinationOf(vesk::Command::Write));
     }
     vesk::GlobalKeys keys(hotKeys, options.isSet(keysFile) ? options.value(keysFile)
                                                            : folder.filePath(u"Keys.conf"_s));

@@ -25,8 +25,8 @@ namespace {
 
 /// A second press within this time is a slip of the finger.
 constexpr std::chrono::seconds kCommandGap{2};
-/// The longest time that a key of the panel waits for a reading. An application that answers slowly must
-/// not keep the user from the notes.
+/// The longest time that a command waits for a reading. An application that answers slowly must not keep the
+/// user from the notes.
 constexpr std::chrono::seconds kLongestHold{1};
 
 const QString kDone = notices::kSaved.symbol.toString();
@@ -90,10 +90,10 @@ void VeskServices::start()
         // Shift is heard in front of a locked screen too, where nothing is to be read, and the keys of a
         // copy would go to the lock. The combinations are not heard then.
         if (!m_needs.tap.isKeyboardTaken())
-            savePrompt();
+            perform(Command::SavePrompt);
     });
-    // A combination that another program has leaves its command to the others' ways: the panel can be
-    // opened by starting Vesk again.
+    // If another program has grabbed a combination, its command can still be reached in other ways: the panel
+    // is opened by starting Vesk again.
     m_needs.keys.start();
 
     const std::optional<RunningApplication> frontmost = m_needs.workspace.frontmostApplication();
@@ -106,42 +106,42 @@ void VeskServices::start()
     followTrust();
 }
 
-void VeskServices::perform(quint32 id)
+void VeskServices::perform(Command command)
 {
-    // With the focus, the panel would take away the selection that is being read.
-    if (m_readings > 0 && (id == hotkeytable::kOpen.id || id == hotkeytable::kWrite.id))
-        holdBack(id);
+    // With the focus, a window of Vesk would take away the selection that is being read.
+    if (m_readings > 0 && rowOf(command).takesFocus)
+        holdBack(command);
     else
-        performNow(id);
+        performNow(command);
 }
 
-void VeskServices::performNow(quint32 id)
+void VeskServices::performNow(Command command)
 {
-    qCDebug(commandsLog) << "command" << id;
-    switch (id) {
-    case hotkeytable::kQuickNote.id:
-        capture(Target::NewNote);
-        break;
-    case hotkeytable::kAppend.id:
-        capture(Target::LastNote);
-        break;
-    case hotkeytable::kOpen.id:
-        m_needs.panelWindow.togglePanel();
-        break;
-    case hotkeytable::kWrite.id:
-        openComposer();
-        break;
-    case hotkeytable::kChecklist.id:
-        capture(Target::NewChecklist);
-        break;
-    case hotkeytable::kAddToChecklist.id:
-        addSelectionToChecklist();
-        break;
-    case hotkeytable::kSavePrompt.id:
-        savePrompt();
-        break;
-    default:
-        break;
+    qCDebug(commandsLog) << "command" << rowOf(command).method;
+    switch (command) {
+    case Command::Capture:
+        return capture(Target::NewNote);
+    case Command::CaptureToLastNote:
+        return capture(Target::LastNote);
+    case Command::CaptureChecklist:
+        return capture(Target::NewChecklist);
+    case Command::AddToChecklist:
+        return addSelectionToChecklist();
+    case Command::SavePrompt:
+        return savePrompt();
+    case Command::QuickNote:
+        return openQuickNote(QuickNoteBox::Mode::Note);
+    case Command::QuickChecklist:
+        return openQuickNote(QuickNoteBox::Mode::Checklist);
+    case Command::Toggle:
+        return m_needs.panelWindow.togglePanel();
+    case Command::Show:
+        return m_needs.panelWindow.showPanel();
+    case Command::Write:
+        return openComposer();
+    case Command::Quit:
+        Q_EMIT quitRequested();
+        return;
     }
 }
 
@@ -151,12 +151,12 @@ void VeskServices::endReading()
         performHeldBack();
 }
 
-void VeskServices::holdBack(quint32 id)
+void VeskServices::holdBack(Command command)
 {
-    if (m_heldBack.contains(id))
+    if (m_heldBack.contains(command))
         return;
-    qCDebug(commandsLog) << "command" << id << "waits for the reading under way";
-    m_heldBack.append(id);
+    qCDebug(commandsLog) << "command" << rowOf(command).method << "waits for the reading under way";
+    m_heldBack.append(command);
     if (m_heldBack.size() == 1)
         stopHoldingLater();
 }
@@ -173,8 +173,8 @@ QCoro::Task<> VeskServices::stopHoldingLater()
 
 void VeskServices::performHeldBack()
 {
-    for (const quint32 id : std::exchange(m_heldBack, {}))
-        performNow(id);
+    for (const Command command : std::exchange(m_heldBack, {}))
+        performNow(command);
 }
 
 void VeskServices::followTrust()
@@ -192,7 +192,7 @@ void VeskServices::updateChecklistKey(const std::optional<QString> &frontmostBun
     const bool isOwners = frontmostBundleID
                           && std::ranges::find(m_needs.checklistKeyOwners, *frontmostBundleID)
                                  != m_needs.checklistKeyOwners.end();
-    m_needs.keys.setLeftToApplications(hotkeytable::kChecklist.id, isOwners);
+    m_needs.keys.setLeftToApplications(Command::CaptureChecklist, isOwners);
 }
 
 bool VeskServices::isWithinGap(Instant &last) const
@@ -236,7 +236,8 @@ QCoro::Task<> VeskServices::captureSelection(Target target, Source press)
         keep(*read.selection, target);
         co_return;
     }
-    openQuickNote(target, read.remark);
+    openQuickNote(target == Target::NewChecklist ? QuickNoteBox::Mode::Checklist : QuickNoteBox::Mode::Note,
+                  read.remark);
     // The question comes up over the box. The trust may have been withdrawn while the text was read.
     if (!m_needs.accessibility.isProcessTrusted())
         askForAccessOnce();
@@ -394,10 +395,9 @@ void VeskServices::tellNotSaved()
     m_needs.toast.show(notices::kNotSaved);
 }
 
-void VeskServices::openQuickNote(Target target, const QString &remark)
+void VeskServices::openQuickNote(QuickNoteBox::Mode mode, const QString &remark)
 {
-    const bool isChecklist = target == Target::NewChecklist;
-    m_needs.quickNote.show(isChecklist ? QuickNoteBox::Mode::Checklist : QuickNoteBox::Mode::Note, remark);
+    m_needs.quickNote.show(mode, remark);
 }
 
 void VeskServices::openComposer()

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "capture/selectionreader.h"
+#include "commands/command.h"
 #include "input/doubleshiftmonitor.h"
-#include "input/hotkeytable.h"
 #include "notes/capturesource.h"
 #include "platform/clock.h"
 #include "quicknote/quicknotebox.h"
@@ -29,8 +29,8 @@ class PanelWindow;
 class Sounds;
 class Toast;
 
-/// Carries out the commands of the global keys: saves selected text as notes and prompts, and opens the
-/// panel. Owned by the application, one per program.
+/// Carries out the commands: saves selected text as notes and prompts, and shows the panel and the quick-note
+/// box. Owned by the application, one per program.
 class VeskServices final : public QObject
 {
     Q_OBJECT
@@ -52,9 +52,30 @@ public:
         QuickNoteBox &quickNote;
         Toast &toast;
         /// Identifiers of applications that keep the checklist combination for themselves.
-        std::span<const QStringView> checklistKeyOwners = hotkeytable::kChecklistKeyOwners;
+        std::span<const QStringView> checklistKeyOwners = {};
     };
 
+    explicit VeskServices(const Needs &needs);
+
+    /// Claims the hot keys, and listens for the double Shift while the user agrees. Must be called once.
+    /// Combinations that are taken do nothing.
+    void start();
+
+    /// Carries out a command, wherever it came from. While a selection is being read, a command that takes
+    /// the focus waits, for at most a second. `Quit` only emits `quitRequested()`.
+    void perform(Command command);
+
+    /// Gives up the checklist combination while an application that uses it is in front, and claims it again
+    /// afterwards.
+    void updateChecklistKey(const std::optional<QString> &frontmostBundleID);
+
+    /// Asks the user for permission to read, at most once per run.
+    void askForAccessOnce();
+
+Q_SIGNALS:
+    void quitRequested();
+
+private:
     /// Where the captured text goes.
     enum class Target {
         NewNote,
@@ -64,33 +85,6 @@ public:
         NewChecklist,
     };
 
-    explicit VeskServices(const Needs &needs);
-
-    /// Claims the hot keys, and listens for the double Shift while the user agrees. Must be called once.
-    /// Combinations that are taken do nothing.
-    void start();
-
-    /// Saves what is selected in the frontmost application. Ignored within 2 seconds of the last capture. If
-    /// nothing is selected, or the user has not agreed to reading, opens the quick-note box; if that is open
-    /// already, closes it instead.
-    void capture(Target target);
-
-    /// Adds what is selected as checkboxes to the checklist changed last, or to a new one if there is none.
-    /// Ignored within 2 seconds of the last capture.
-    void addSelectionToChecklist();
-
-    /// Saves what is selected as a prompt. Ignored within 2 seconds of the last prompt. Does nothing if
-    /// nothing is selected.
-    void savePrompt();
-
-    /// Gives up the checklist combination while an application that uses it is in front, and claims it again
-    /// afterwards.
-    void updateChecklistKey(const std::optional<QString> &frontmostBundleID);
-
-    /// Asks the user for permission to read, at most once per run.
-    void askForAccessOnce();
-
-private:
     using Source = std::optional<SelectionReader::SourceAtPress>;
     using Instant = std::optional<std::chrono::microseconds>;
     struct Selection
@@ -108,8 +102,17 @@ private:
         QString remark = {};
     };
 
-    void perform(quint32 id);
-    void performNow(quint32 id);
+    void performNow(Command command);
+    /// Saves what is selected in the frontmost application. Ignored within 2 seconds of the last capture. If
+    /// nothing is selected, or the user has not agreed to reading, opens the quick-note box; if that is open
+    /// already, closes it instead.
+    void capture(Target target);
+    /// Adds what is selected as checkboxes to the checklist changed last, or to a new one if there is none.
+    /// Ignored within 2 seconds of the last capture.
+    void addSelectionToChecklist();
+    /// Saves what is selected as a prompt. Ignored within 2 seconds of the last prompt. Does nothing if
+    /// nothing is selected.
+    void savePrompt();
     /// Marks a reading as under way for the lifetime of the returned object.
     [[nodiscard]] auto beginReading()
     {
@@ -120,7 +123,7 @@ private:
         });
     }
     void endReading();
-    void holdBack(quint32 id);
+    void holdBack(Command command);
     QCoro::Task<> stopHoldingLater();
     void performHeldBack();
     /// Listens for the double Shift if the user has agreed to it and wants it.
@@ -144,7 +147,7 @@ private:
     void saveAndConfirm(const QString &message, const QString &symbol);
     void confirm(const QString &message, const QString &symbol);
     void tellNotSaved();
-    void openQuickNote(Target target, const QString &remark);
+    void openQuickNote(QuickNoteBox::Mode mode, const QString &remark = {});
     void openComposer();
 
     Needs m_needs;
@@ -154,8 +157,8 @@ private:
     Instant m_lastPrompt;
     bool m_hasAskedForAccess = false;
     int m_readings = 0;
-    /// The panel commands that were given during a reading, each once.
-    QList<quint32> m_heldBack;
+    /// What was asked for during a reading and takes the focus, each command once.
+    QList<Command> m_heldBack;
     /// Counts how often commands were held back.
     int m_holds = 0;
 };

@@ -677,6 +677,73 @@ Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevo
     </message>
 </context>
 <context>
+    <name>vesk::Command</name>
+    <message>
+        <source>save the selected text; with nothing selected, write a quick note</source>
+        <translation>den markierten Text speichern; ist nichts markiert, eine Schnellnotiz schreiben</translation>
+    </message>
+    <message>
+        <source>add the selected text to the note changed last</source>
+        <translation>den markierten Text an die zuletzt geänderte Notiz anhängen</translation>
+    </message>
+    <message>
+        <source>open or hide Vesk</source>
+        <translation>Vesk öffnen oder ausblenden</translation>
+    </message>
+    <message>
+        <source>open Vesk to write a new note</source>
+        <translation>Vesk öffnen und eine neue Notiz schreiben</translation>
+    </message>
+    <message>
+        <source>New Note</source>
+        <translation>Neue Notiz</translation>
+    </message>
+    <message>
+        <source>make a checklist of the selected lines, or write one</source>
+        <translation>aus den markierten Zeilen eine Checkliste machen, oder eine schreiben</translation>
+    </message>
+    <message>
+        <source>add the selected lines to the checklist changed last</source>
+        <translation>die markierten Zeilen an die zuletzt geänderte Checkliste anhängen</translation>
+    </message>
+    <message>
+        <source>save the selected text as a prompt</source>
+        <translation>den markierten Text als Prompt speichern</translation>
+    </message>
+    <message>
+        <source>open the box for a quick note</source>
+        <translation>das Feld für eine Schnellnotiz öffnen</translation>
+    </message>
+    <message>
+        <source>Quick Note…</source>
+        <translation>Schnellnotiz …</translation>
+    </message>
+    <message>
+        <source>open the box for a checklist</source>
+        <translation>das Feld für eine Checkliste öffnen</translation>
+    </message>
+    <message>
+        <source>Quick Checklist…</source>
+        <translation>Schnellcheckliste …</translation>
+    </message>
+    <message>
+        <source>open Vesk</source>
+        <translation>Vesk öffnen</translation>
+    </message>
+    <message>
+        <source>Open Vesk</source>
+        <translation>Vesk öffnen</translation>
+    </message>
+    <message>
+        <source>quit Vesk</source>
+        <translation>Vesk beenden</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+</context>
+<context>
     <name>vesk::CommandHints</name>
     <message>
         <source>Save selected text, or write a quick note</source>
@@ -763,42 +830,6 @@ Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevo
 </context>
 <context>
     <name>vesk::CommandLine</name>
-    <message>
-        <source>show or hide the panel</source>
-        <translation>das Panel anzeigen oder ausblenden</translation>
-    </message>
-    <message>
-        <source>show the panel to write a note</source>
-        <translation>das Panel anzeigen, um eine Notiz zu schreiben</translation>
-    </message>
-    <message>
-        <source>keep the selected text as a note</source>
-        <translation>den markierten Text als Notiz speichern</translation>
-    </message>
-    <message>
-        <source>add it to the note changed last</source>
-        <translation>ihn an die zuletzt geänderte Notiz anhängen</translation>
-    </message>
-    <message>
-        <source>keep each selected line as a checkbox</source>
-        <translation>jede markierte Zeile als Kästchen speichern</translation>
-    </message>
-    <message>
-        <source>add the selected lines to the checklist changed last</source>
-        <translation>die markierten Zeilen an die zuletzt geänderte Checkliste anhängen</translation>
-    </message>
-    <message>
-        <source>keep the selected text as a prompt</source>
-        <translation>den markierten Text als Prompt speichern</translation>
-    </message>
-    <message>
-        <source>open the box for a quick note</source>
-        <translation>das Feld für eine Schnellnotiz öffnen</translation>
-    </message>
-    <message>
-        <source>end Vesk</source>
-        <translation>Vesk beenden</translation>
-    </message>
     <message>
         <source>keep TEXT as a note; &quot;vesk add -&quot; takes it from standard input</source>
         <translation>TEXT als Notiz speichern; „vesk add -“ nimmt ihn von der Standardeingabe</translation>
@@ -903,14 +934,6 @@ läuft.</translation>
 </context>
 <context>
     <name>vesk::DesktopMenus</name>
-    <message>
-        <source>Open Vesk</source>
-        <translation>Vesk öffnen</translation>
-    </message>
-    <message>
-        <source>Quit</source>
-        <translation>Beenden</translation>
-    </message>
     <message>
         <source>File</source>
         <translation>Datei</translation>
@@ -1179,34 +1202,6 @@ läuft.</translation>
         <source>none</source>
         <translation>keine</translation>
     </message>
-    <message>
-        <source>save the selected text; with nothing selected, write a quick note</source>
-        <translation>den markierten Text speichern; ist nichts markiert, eine Schnellnotiz schreiben</translation>
-    </message>
-    <message>
-        <source>add the selected text to the note changed last</source>
-        <translation>den markierten Text an die zuletzt geänderte Notiz anhängen</translation>
-    </message>
-    <message>
-        <source>open or hide Vesk</source>
-        <translation>Vesk öffnen oder ausblenden</translation>
-    </message>
-    <message>
-        <source>open Vesk to write a new note</source>
-        <translation>Vesk öffnen und eine neue Notiz schreiben</translation>
-    </message>
-    <message>
-        <source>make a checklist of the selected lines, or write one</source>
-        <translation>aus den markierten Zeilen eine Checkliste machen, oder eine schreiben</translation>
-    </message>
-    <message>
-        <source>add the selected lines to the checklist changed last</source>
-        <translation>die markierten Zeilen an die zuletzt geänderte Checkliste anhängen</translation>
-    </message>
-    <message>
-        <source>save the selected text as a prompt</source>
-        <translation>den markierten Text als Prompt speichern</translation>
-    </message>
 </context>
 <context>
     <name>vesk::Main</name>
@@ -1241,18 +1236,6 @@ läuft.</translation>
 </context>
 <context>
     <name>vesk::MenuCommands</name>
-    <message>
-        <source>New Note</source>
-        <translation>Neue Notiz</translation>
-    </message>
-    <message>
-        <source>Quick Note…</source>
-        <translation>Schnellnotiz …</translation>
-    </message>
-    <message>
-        <source>Quick Checklist…</source>
-        <translation>Schnellcheckliste …</translation>
-    </message>
     <message>
         <source>Checklist</source>
         <translation>Checkliste</translation>

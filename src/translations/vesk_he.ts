@@ -677,6 +677,73 @@ Applications that are open already may have to be started again before Vesk can 
     </message>
 </context>
 <context>
+    <name>vesk::Command</name>
+    <message>
+        <source>save the selected text; with nothing selected, write a quick note</source>
+        <translation>שמירת הטקסט המסומן; כשאין סימון, כתיבת פתק מהיר</translation>
+    </message>
+    <message>
+        <source>add the selected text to the note changed last</source>
+        <translation>הוספת הטקסט המסומן לפתק ששונה אחרון</translation>
+    </message>
+    <message>
+        <source>open or hide Vesk</source>
+        <translation>פתיחה או הסתרה של Vesk</translation>
+    </message>
+    <message>
+        <source>open Vesk to write a new note</source>
+        <translation>פתיחת Vesk לכתיבת פתק חדש</translation>
+    </message>
+    <message>
+        <source>New Note</source>
+        <translation>פתק חדש</translation>
+    </message>
+    <message>
+        <source>make a checklist of the selected lines, or write one</source>
+        <translation>יצירת רשימה מהשורות המסומנות, או כתיבת רשימה</translation>
+    </message>
+    <message>
+        <source>add the selected lines to the checklist changed last</source>
+        <translation>הוספת השורות המסומנות לרשימה ששונתה אחרונה</translation>
+    </message>
+    <message>
+        <source>save the selected text as a prompt</source>
+        <translation>שמירת הטקסט המסומן כהנחיה</translation>
+    </message>
+    <message>
+        <source>open the box for a quick note</source>
+        <translation>פתיחת התיבה לפתק מהיר</translation>
+    </message>
+    <message>
+        <source>Quick Note…</source>
+        <translation>פתק מהיר…</translation>
+    </message>
+    <message>
+        <source>open the box for a checklist</source>
+        <translation>פתיחת התיבה לרשימה</translation>
+    </message>
+    <message>
+        <source>Quick Checklist…</source>
+        <translation>רשימה מהירה…</translation>
+    </message>
+    <message>
+        <source>open Vesk</source>
+        <translation>פתיחת Vesk</translation>
+    </message>
+    <message>
+        <source>Open Vesk</source>
+        <translation>פתיחת Vesk</translation>
+    </message>
+    <message>
+        <source>quit Vesk</source>
+        <translation>יציאה מ־Vesk</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>יציאה</translation>
+    </message>
+</context>
+<context>
     <name>vesk::CommandHints</name>
     <message>
         <source>Save selected text, or write a quick note</source>
@@ -763,42 +830,6 @@ Applications that are open already may have to be started again before Vesk can 
 </context>
 <context>
     <name>vesk::CommandLine</name>
-    <message>
-        <source>show or hide the panel</source>
-        <translation>הצגה או הסתרה של הלוח</translation>
-    </message>
-    <message>
-        <source>show the panel to write a note</source>
-        <translation>הצגת הלוח לכתיבת פתק</translation>
-    </message>
-    <message>
-        <source>keep the selected text as a note</source>
-        <translation>שמירת הטקסט המסומן כפתק</translation>
-    </message>
-    <message>
-        <source>add it to the note changed last</source>
-        <translation>הוספתו לפתק שהשתנה אחרון</translation>
-    </message>
-    <message>
-        <source>keep each selected line as a checkbox</source>
-        <translation>שמירת כל שורה מסומנת כתיבת סימון</translation>
-    </message>
-    <message>
-        <source>add the selected lines to the checklist changed last</source>
-        <translation>הוספת השורות המסומנות לרשימה שהשתנתה אחרונה</translation>
-    </message>
-    <message>
-        <source>keep the selected text as a prompt</source>
-        <translation>שמירת הטקסט המסומן כהנחיה</translation>
-    </message>
-    <message>
-        <source>open the box for a quick note</source>
-        <translation>פתיחת התיבה לפתק מהיר</translation>
-    </message>
-    <message>
-        <source>end Vesk</source>
-        <translation>סיום Vesk</translation>
-    </message>
     <message>
         <source>keep TEXT as a note; &quot;vesk add -&quot; takes it from standard input</source>
         <translation>שמירת TEXT כפתק; ‏&quot;vesk add -&quot; לוקח אותו מהקלט התקני</translation>
@@ -903,14 +934,6 @@ runs.</source>
 </context>
 <context>
     <name>vesk::DesktopMenus</name>
-    <message>
-        <source>Open Vesk</source>
-        <translation>פתיחת Vesk</translation>
-    </message>
-    <message>
-        <source>Quit</source>
-        <translation>יציאה</translation>
-    </message>
     <message>
         <source>File</source>
         <translation>קובץ</translation>
@@ -1179,34 +1202,6 @@ runs.</source>
         <source>none</source>
         <translation>ללא</translation>
     </message>
-    <message>
-        <source>save the selected text; with nothing selected, write a quick note</source>
-        <translation>שמירת הטקסט המסומן; כשאין סימון, כתיבת פתק מהיר</translation>
-    </message>
-    <message>
-        <source>add the selected text to the note changed last</source>
-        <translation>הוספת הטקסט המסומן לפתק ששונה אחרון</translation>
-    </message>
-    <message>
-        <source>open or hide Vesk</source>
-        <translation>פתיחה או הסתרה של Vesk</translation>
-    </message>
-    <message>
-        <source>open Vesk to write a new note</source>
-        <translation>פתיחת Vesk לכתיבת פתק חדש</translation>
-    </message>
-    <message>
-        <source>make a checklist of the selected lines, or write one</source>
-        <translation>יצירת רשימה מהשורות המסומנות, או כתיבת רשימה</translation>
-    </message>
-    <message>
-        <source>add the selected lines to the checklist changed last</source>
-        <translation>הוספת השורות המסומנות לרשימה ששונתה אחרונה</translation>
-    </message>
-    <message>
-        <source>save the selected text as a prompt</source>
-        <translation>שמירת הטקסט המסומן כהנחיה</translation>
-    </message>
 </context>
 <context>
     <name>vesk::Main</name>
@@ -1241,18 +1236,6 @@ runs.</source>
 </context>
 <context>
     <name>vesk::MenuCommands</name>
-    <message>
-        <source>New Note</source>
-        <translation>פתק חדש</translation>
-    </message>
-    <message>
-        <source>Quick Note…</source>
-        <translation>פתק מהיר…</translation>
-    </message>
-    <message>
-        <source>Quick Checklist…</source>
-        <translation>רשימה מהירה…</translation>
-    </message>
     <message>
         <source>Checklist</source>
         <translation>רשימה</translation>

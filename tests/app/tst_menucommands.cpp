@@ -8,8 +8,6 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-using Command = MenuCommands::Command;
-
 /// The commands' keys in the real panel.
 class MenuCommandsTest : public PanelTest
 {
@@ -63,7 +61,7 @@ void MenuCommandsTest::formatNeedsAnOpenNoteInSight()
     openNote();
     model().guide()->show();
     pressAll();
-    commands.perform(Command::Heading);
+    commands.choose(MenuCommands::Item::Heading);
     QCOMPARE(m_note->text(), u"milk"_s);
 }
 
@@ -74,7 +72,7 @@ void MenuCommandsTest::newNoteIsTakenFromAnywhere()
     openNote();
     press(Qt::Key_N, Qt::ControlModifier);
     QCOMPARE(chosen.size(), 1);
-    QCOMPARE(chosen.first().first().value<Command>(), Command::NewNote);
+    QCOMPARE(chosen.first().first().value<Command>(), Command::Write);
     // Another window of the program's.
     QWindow other;
     other.show();

@@ -49,7 +49,7 @@ void TestCommandLine::understands_data()
     row("add --append", Kind::Add); // what is added is never taken for an option
     row("add -", Kind::AddInput);
     row("list --json", Kind::List);
-    row("keys --json", Kind::Keys, "Keys");
+    row("keys --json", Kind::Keys);
     row("access", Kind::Access); // refused by the one that carries it out
     row("capture --help", Kind::Help);
     row("-v", Kind::Version);

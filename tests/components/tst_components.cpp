@@ -175,39 +175,39 @@ void ComponentsTest::themeFollowsTheDesktop()
 
 void ComponentsTest::menuTellsWhichKeysWork_data()
 {
-    using namespace hotkeytable;
     QTest::addColumn<QString>("file");
-    QTest::addColumn<QList<quint32>>("taken");
+    QTest::addColumn<QList<Command>>("taken");
     QTest::addColumn<QStringList>("holders");
     QTest::addColumn<QString>("newNote");
     QTest::addColumn<QString>("takenTitle");
-    using Ids = QList<quint32>;
+    using Ids = QList<Command>;
     const QString newNote = u"New Note (Ctrl+Alt+Super+N)"_s;
     const QString taken = u"New Note (Ctrl+Alt+Super+N, taken)"_s;
     QTest::newRow("all works") << QString() << Ids() << QStringList() << newNote << QString();
     QTest::newRow("own") << u"write=Super+Left"_s << Ids() << QStringList() << u"New Note (Super+Left)"_s
                          << QString();
-    QTest::newRow("off") << u"write=none"_s << Ids{kWrite.id} << QStringList() << u"New Note"_s << QString();
-    QTest::newRow("one, by one") << QString() << Ids{kWrite.id} << QStringList{u"Openbox"_s} << taken
+    QTest::newRow("off") << u"write=none"_s << Ids{Command::Write} << QStringList() << u"New Note"_s
+                         << QString();
+    QTest::newRow("one, by one") << QString() << Ids{Command::Write} << QStringList{u"Openbox"_s} << taken
                                  << u"1 Key(s) Taken by Openbox…"_s;
-    QTest::newRow("two, by nobody knows whom")
-        << QString() << Ids{kWrite.id, kOpen.id} << QStringList() << taken << u"2 Key(s) Taken…"_s;
+    QTest::newRow("two, by nobody knows whom") << QString() << Ids{Command::Write, Command::Toggle}
+                                               << QStringList() << taken << u"2 Key(s) Taken…"_s;
     QTest::newRow("two, by one of two")
-        << QString() << Ids{kAppend.id, kOpen.id} << QStringList{u"Openbox"_s, u"other"_s} << newNote
-        << u"2 Key(s) Taken…"_s;
+        << QString() << Ids{Command::CaptureToLastNote, Command::Toggle}
+        << QStringList{u"Openbox"_s, u"other"_s} << newNote << u"2 Key(s) Taken…"_s;
 }
 
 void ComponentsTest::menuTellsWhichKeysWork()
 {
     QFETCH(const QString, file);
-    QFETCH(const QList<quint32>, taken);
+    QFETCH(const QList<Command>, taken);
     QFETCH(const QStringList, holders);
     const QTemporaryDir folder;
     const QString written = folder.filePath(u"Keys.conf"_s);
     QVERIFY(writeFile(written, file.toUtf8()));
     MemoryHotKeys keyboard;
-    for (const quint32 id : taken)
-        keyboard.setTaken(hotkeytable::kAll.at(id - 1).combination);
+    for (const Command command : taken)
+        keyboard.setTaken(combinationOf(command));
     keyboard.setHolders(holders);
     GlobalKeys keys(keyboard, written);
     const CommandKeys shown(&keys);

@@ -95,12 +95,11 @@ private Q_SLOTS:
 
 void GuideTest::showsTheUsersKeys()
 {
-    using hotkeytable::kAppend;
     const QTemporaryDir folder;
     const QString file = folder.filePath(u"Keys.conf"_s);
     QVERIFY(writeFile(file, "toggle=Super+Ctrl+Home\nwrite=none\nsave-prompt=Super+P\n"));
     MemoryHotKeys hotKeys;
-    hotKeys.setTaken(kAppend.combination);
+    hotKeys.setTaken(combinationOf(Command::CaptureToLastNote));
     hotKeys.setHolders({u"openbox"_s, u"other"_s});
     GlobalKeys keys(hotKeys, file);
     keys.start();
@@ -112,7 +111,7 @@ void GuideTest::showsTheUsersKeys()
          u"Select text and press Super+P to save it"_s,
          u"Add to your last note, Alt, Shift, Super, N, openbox or other uses these keys. Free them there"_s})
         QVERIFY2(all.contains(part), qPrintable(all));
-    hotKeys.setFree(kAppend.combination);
+    hotKeys.setFree(combinationOf(Command::CaptureToLastNote));
     keys.retry();
     const QString free = heard(stage.view);
     QVERIFY2(free.contains(u"Add to your last note, Alt, Shift, Super, N | "_s), qPrintable(free));

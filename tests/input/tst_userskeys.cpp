@@ -10,7 +10,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace vesk;
-using namespace vesk::hotkeytable;
 
 namespace {
 
@@ -29,10 +28,10 @@ const QHash<KeyPosition, QChar> kRussian{{kQ, u'Й'}, {KeyPosition::N, u'Т'}};
 QString choices(const KeySettings &settings, const HotKeys *keyboard)
 {
     QStringList words;
-    for (const HotKeyRow &row : kAll) {
-        const auto &combination = settings.combinations.at(row.id - 1);
+    for (const CommandRow &row : commandsWithKeys()) {
+        const auto &combination = settings.of(row.command);
         if (combination != row.combination)
-            words.append(row.command.toString() + u": "_s
+            words.append(row.words.toString() + u": "_s
                          + (combination ? keynames::written(*combination, keyboard) : u"off"_s));
     }
     return words.join(u", "_s);
@@ -45,7 +44,7 @@ struct World
     QString path = folder.filePath(u"Vesk/Keys.conf"_s);
     MemoryHotKeys keyboard;
     std::unique_ptr<GlobalKeys> keys;
-    QList<quint32> pressed;
+    QList<Command> pressed;
 
     explicit World(const QString &text = {})
     {
@@ -53,7 +52,7 @@ struct World
             write(text);
         keys = std::make_unique<GlobalKeys>(keyboard, path);
         QObject::connect(keys.get(), &GlobalKeys::pressed, keys.get(),
-                         [this](quint32 id) { pressed.append(id); });
+                         [this](Command command) { pressed.append(command); });
         keys->start();
     }
 
@@ -65,13 +64,13 @@ struct World
         QVERIFY(writeFile(draft, text.toUtf8()));
         QVERIFY(std::rename(qPrintable(draft), qPrintable(path)) == 0);
     }
-    [[nodiscard]] QString written(const HotKeyRow &row) const
+    [[nodiscard]] QString written(Command command) const
     {
-        const auto combination = keys->key(row).combination;
+        const auto combination = keys->key(command).combination;
         return combination ? keynames::written(*combination, &keyboard) : u"off"_s;
     }
     /// Presses a combination; what it did.
-    QList<quint32> press(KeyCombination combination)
+    QList<Command> press(KeyCombination combination)
     {
         pressed.clear();
         keyboard.press(combination);
@@ -168,7 +167,7 @@ void TestUsersKeys::layoutDecides()
     keyboard.setLayout(layout);
     const auto settings = readKeySettings(u"toggle=Super+Ctrl+"_s + letter, &keyboard);
     QVERIFY2(settings.problems.isEmpty(), qPrintable(settings.problems.join(u'\n')));
-    const auto toggle = settings.combinations.at(kOpen.id - 1);
+    const auto toggle = settings.of(Command::Toggle);
     QVERIFY(toggle.has_value());
     QTEST(toggle->key, "key");
     QTEST(keynames::nameOf(toggle->key, &keyboard), "shown");
@@ -178,41 +177,41 @@ void TestUsersKeys::layoutDecides()
 void TestUsersKeys::fileIsFollowed()
 {
     World world;
-    QCOMPARE(world.written(kOpen), u"Super+Alt+T"_s);
+    QCOMPARE(world.written(Command::Toggle), u"Super+Alt+T"_s);
     world.write(u"toggle=Super+Q"_s);
-    QTRY_COMPARE(world.written(kOpen), u"Super+Q"_s);
+    QTRY_COMPARE(world.written(Command::Toggle), u"Super+Q"_s);
     world.write(u"toggle=Super+W"_s);
-    QTRY_COMPARE(world.written(kOpen), u"Super+W"_s);
+    QTRY_COMPARE(world.written(Command::Toggle), u"Super+W"_s);
     world.replace(u"toggle=Super+E\nwrite=bad"_s);
-    QTRY_COMPARE(world.written(kOpen), u"Super+E"_s);
+    QTRY_COMPARE(world.written(Command::Toggle), u"Super+E"_s);
     QCOMPARE(world.keys->problems().size(), 1);
     QVERIFY(QFile::remove(world.path));
-    QTRY_COMPARE(world.written(kOpen), u"Super+Alt+T"_s);
+    QTRY_COMPARE(world.written(Command::Toggle), u"Super+Alt+T"_s);
     QVERIFY(world.keys->problems().isEmpty());
-    QCOMPARE(world.press(kOpen.combination), QList{kOpen.id});
+    QCOMPARE(world.press(combinationOf(Command::Toggle)), QList{Command::Toggle});
     world.replace(u"toggle=none"_s);
-    QTRY_COMPARE(world.keys->key(kOpen).state, State::Off);
-    QVERIFY(world.press(kOpen.combination).isEmpty());
+    QTRY_COMPARE(world.keys->key(Command::Toggle).state, State::Off);
+    QVERIFY(world.press(combinationOf(Command::Toggle)).isEmpty());
 }
 
 void TestUsersKeys::changedPlacesWork()
 {
     World world;
     world.replace(u"toggle=Super+Alt+N\ncapture=Super+Alt+T"_s);
-    QTRY_COMPARE(world.press(kOpen.combination), QList{kQuickNote.id});
-    QCOMPARE(world.press(kQuickNote.combination), QList{kOpen.id});
+    QTRY_COMPARE(world.press(combinationOf(Command::Toggle)), QList{Command::Capture});
+    QCOMPARE(world.press(combinationOf(Command::Capture)), QList{Command::Toggle});
 }
 
 void TestUsersKeys::doubleShiftCanBeAnything()
 {
     World world;
-    QCOMPARE(world.keys->key(kSavePrompt).state, State::NoAccess);
+    QCOMPARE(world.keys->key(Command::SavePrompt).state, State::NoAccess);
     world.keys->setShiftHeard(true);
-    QCOMPARE(world.keys->key(kSavePrompt).state, State::Works);
+    QCOMPARE(world.keys->key(Command::SavePrompt).state, State::Works);
     QVERIFY(world.keys->isDoubleShiftWanted());
     world.replace(u"save-prompt=Super+Alt+Q"_s);
     QTRY_VERIFY(!world.keys->isDoubleShiftWanted());
-    QCOMPARE(world.press(kSuperAltQ), QList{kSavePrompt.id});
+    QCOMPARE(world.press(kSuperAltQ), QList{Command::SavePrompt});
     QVERIFY(QFile::remove(world.path));
     QTRY_VERIFY(world.keys->isDoubleShiftWanted());
     QVERIFY(world.press(kSuperAltQ).isEmpty());
@@ -223,10 +222,10 @@ void TestUsersKeys::lettersFollowTheLayout()
     World world(u"toggle=Super+Alt+A"_s);
     QVERIFY(world.press(kSuperAltQ).isEmpty());
     world.keyboard.setLayout(kFrench);
-    QCOMPARE(world.press(kSuperAltQ), QList{kOpen.id});
-    QCOMPARE(world.written(kOpen), u"Super+Alt+A"_s);
+    QCOMPARE(world.press(kSuperAltQ), QList{Command::Toggle});
+    QCOMPARE(world.written(Command::Toggle), u"Super+Alt+A"_s);
     // What the user did not choose stays where it was.
-    QCOMPARE(world.press(kQuickNote.combination), QList{kQuickNote.id});
+    QCOMPARE(world.press(combinationOf(Command::Capture)), QList{Command::Capture});
 }
 
 QTEST_GUILESS_MAIN(TestUsersKeys)

@@ -10,17 +10,6 @@
 
 namespace vesk {
 
-/// One of the hub's commands: a hot key, or the double Shift.
-struct Command
-{
-    const HotKeyRow *key = nullptr;
-};
-constexpr Command kNote{&hotkeytable::kQuickNote};
-constexpr Command kAppend{&hotkeytable::kAppend};
-constexpr Command kChecklist{&hotkeytable::kChecklist};
-constexpr Command kAdd{&hotkeytable::kAddToChecklist};
-constexpr Command kPrompt{};
-
 /// Where a test of the commands keeps its store; it outlives the program.
 struct StoreFolder
 {
@@ -64,13 +53,13 @@ struct ServicesWorld : StoreFolder, ProgramWorld
         services.start();
     }
 
-    void press(const HotKeyRow &row) { QVERIFY(hotKeys.press(row.combination)); }
-    void command(Command command)
+    /// Presses the command's keys.
+    void press(Command command)
     {
-        if (command.key)
-            press(*command.key);
-        else
+        if (command == Command::SavePrompt)
             tapShiftTwice();
+        else
+            QVERIFY(hotKeys.press(combinationOf(command)));
     }
 
     /// The message on the screen; empty if there is none.

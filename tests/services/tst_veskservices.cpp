@@ -44,11 +44,11 @@ private:
 void TestVeskServices::commands()
 {
     QTest::addColumn<Command>("command");
-    QTest::newRow("note") << kNote;
-    QTest::newRow("append") << kAppend;
-    QTest::newRow("checklist") << kChecklist;
-    QTest::newRow("add to checklist") << kAdd;
-    QTest::newRow("prompt") << kPrompt;
+    QTest::newRow("note") << Command::Capture;
+    QTest::newRow("append") << Command::CaptureToLastNote;
+    QTest::newRow("checklist") << Command::CaptureChecklist;
+    QTest::newRow("add to checklist") << Command::AddToChecklist;
+    QTest::newRow("prompt") << Command::SavePrompt;
 }
 
 void TestVeskServices::selectionGoesWhereTheKeySays_data()
@@ -66,22 +66,26 @@ void TestVeskServices::selectionGoesWhereTheKeySays_data()
                         const QString &selection, const QStringList &after, const QString &notice) {
         QTest::newRow(name) << before << command << selection << after << notice;
     };
-    row("same as the newest", {u"b"_s, u"a"_s}, kNote, u"a"_s, {u"a"_s, u"b"_s}, already);
-    row("same as an older one", {u"a"_s, u"b"_s}, kNote, u"a"_s, {u"a"_s, u"b"_s, u"a"_s}, saved);
-    row("half a surrogate, again", {u"a\uFFFD"_s}, kNote, u"a"_s + QChar(0xd800), {u"a\uFFFD"_s}, already);
-    row("append to nothing", {}, kAppend, u"a"_s, {u"a"_s}, saved);
-    row("append", {u"old"_s, u"# List\nmore"_s}, kAppend, u"a"_s, {u"# List\nmore\n\na"_s, u"old"_s},
-        u"Added to “List”"_s);
-    row("append what is there", {u"a"_s}, kAppend, u"a"_s, {u"a\n\na"_s}, u"Added to “a”"_s);
-    row("append to no title", {u""_s}, kAppend, u"a"_s, {u"\n\na"_s}, u"Added to “New Note”"_s);
-    row("checklist", {u"a"_s}, kChecklist, lines, {boxes, u"a"_s}, saved);
-    row("same checklist", {boxes}, kChecklist, lines, {boxes}, already);
-    row("add, newest has boxes", {u"☐ x"_s, u"Shop\n☑ y"_s}, kAdd, lines,
+    row("same as the newest", {u"b"_s, u"a"_s}, Command::Capture, u"a"_s, {u"a"_s, u"b"_s}, already);
+    row("same as an older one", {u"a"_s, u"b"_s}, Command::Capture, u"a"_s, {u"a"_s, u"b"_s, u"a"_s}, saved);
+    row("half a surrogate, again", {u"a\uFFFD"_s}, Command::Capture, u"a"_s + QChar(0xd800), {u"a\uFFFD"_s},
+        already);
+    row("append to nothing", {}, Command::CaptureToLastNote, u"a"_s, {u"a"_s}, saved);
+    row("append", {u"old"_s, u"# List\nmore"_s}, Command::CaptureToLastNote, u"a"_s,
+        {u"# List\nmore\n\na"_s, u"old"_s}, u"Added to “List”"_s);
+    row("append what is there", {u"a"_s}, Command::CaptureToLastNote, u"a"_s, {u"a\n\na"_s},
+        u"Added to “a”"_s);
+    row("append to no title", {u""_s}, Command::CaptureToLastNote, u"a"_s, {u"\n\na"_s},
+        u"Added to “New Note”"_s);
+    row("checklist", {u"a"_s}, Command::CaptureChecklist, lines, {boxes, u"a"_s}, saved);
+    row("same checklist", {boxes}, Command::CaptureChecklist, lines, {boxes}, already);
+    row("add, newest has boxes", {u"☐ x"_s, u"Shop\n☑ y"_s}, Command::AddToChecklist, lines,
         {u"Shop\n☑ y\n☐ milk\n☐ bread"_s, u"☐ x"_s}, u"Added to “Shop”"_s);
-    row("add, an older one has boxes", {u"☐ x"_s, u"☐ y"_s, u"plain"_s}, kAdd, u"z"_s,
+    row("add, an older one has boxes", {u"☐ x"_s, u"☐ y"_s, u"plain"_s}, Command::AddToChecklist, u"z"_s,
         {u"☐ y\n☐ z"_s, u"plain"_s, u"☐ x"_s}, u"Added to “y”"_s);
-    row("add, none has boxes", {u"plain"_s}, kAdd, lines, {boxes, u"plain"_s}, saved);
-    row("add what is there", {boxes}, kAdd, u"milk"_s, {boxes + u"\n☐ milk"_s}, u"Added to “milk”"_s);
+    row("add, none has boxes", {u"plain"_s}, Command::AddToChecklist, lines, {boxes, u"plain"_s}, saved);
+    row("add what is there", {boxes}, Command::AddToChecklist, u"milk"_s, {boxes + u"\n☐ milk"_s},
+        u"Added to “milk”"_s);
 }
 
 void TestVeskServices::selectionGoesWhereTheKeySays()
@@ -97,7 +101,7 @@ void TestVeskServices::selectionGoesWhereTheKeySays()
         world.clock.advance(1s);
     }
     world.select(selection);
-    world.command(command);
+    world.press(command);
     QCOMPARE(world.texts(), after);
     QCOMPARE(ServicesWorld::notice(), notice);
     QVERIFY(!world.store.hasPendingChanges());
@@ -111,16 +115,19 @@ void TestVeskServices::commandsKeepTheirDistance_data()
     QTest::addColumn<Command>("second");
     QTest::addColumn<std::chrono::milliseconds>("distance");
     QTest::addColumn<bool>("isAccepted");
-    QTest::newRow("note, note, too soon") << kNote << kNote << 1999ms << false;
-    QTest::newRow("note, note") << kNote << kNote << 2000ms << true;
-    QTest::newRow("note, append, too soon") << kNote << kAppend << 1999ms << false;
-    QTest::newRow("checklist, add, too soon") << kChecklist << kAdd << 1999ms << false;
-    QTest::newRow("add, note, too soon") << kAdd << kNote << 1999ms << false;
-    QTest::newRow("add, add") << kAdd << kAdd << 2000ms << true;
-    QTest::newRow("note, prompt at once") << kNote << kPrompt << 0ms << true;
-    QTest::newRow("prompt, note at once") << kPrompt << kNote << 0ms << true;
-    QTest::newRow("prompt, prompt, too soon") << kPrompt << kPrompt << 1999ms << false;
-    QTest::newRow("prompt, prompt") << kPrompt << kPrompt << 2000ms << true;
+    QTest::newRow("note, note, too soon") << Command::Capture << Command::Capture << 1999ms << false;
+    QTest::newRow("note, note") << Command::Capture << Command::Capture << 2000ms << true;
+    QTest::newRow("note, append, too soon")
+        << Command::Capture << Command::CaptureToLastNote << 1999ms << false;
+    QTest::newRow("checklist, add, too soon")
+        << Command::CaptureChecklist << Command::AddToChecklist << 1999ms << false;
+    QTest::newRow("add, note, too soon") << Command::AddToChecklist << Command::Capture << 1999ms << false;
+    QTest::newRow("add, add") << Command::AddToChecklist << Command::AddToChecklist << 2000ms << true;
+    QTest::newRow("note, prompt at once") << Command::Capture << Command::SavePrompt << 0ms << true;
+    QTest::newRow("prompt, note at once") << Command::SavePrompt << Command::Capture << 0ms << true;
+    QTest::newRow("prompt, prompt, too soon")
+        << Command::SavePrompt << Command::SavePrompt << 1999ms << false;
+    QTest::newRow("prompt, prompt") << Command::SavePrompt << Command::SavePrompt << 2000ms << true;
 }
 
 void TestVeskServices::commandsKeepTheirDistance()
@@ -131,14 +138,14 @@ void TestVeskServices::commandsKeepTheirDistance()
     QFETCH(const bool, isAccepted);
     ServicesWorld world;
     world.select(u"one"_s);
-    world.command(first);
+    world.press(first);
     // The time of day is none of the keys' business.
     world.clock.setNow(world.clock.now() - 3h);
     world.clock.advance(distance / 2);
-    world.command(first);
+    world.press(first);
     world.clock.advance(distance - distance / 2);
     world.select(u"two"_s);
-    world.command(second);
+    world.press(second);
     const QString all = (world.texts() + world.prompts()).join(u'\n');
     QVERIFY(all.contains(u"one"_s));
     QCOMPARE(all.contains(u"two"_s), isAccepted);
@@ -146,12 +153,12 @@ void TestVeskServices::commandsKeepTheirDistance()
 
 void TestVeskServices::sourceIsOfTheKeyPress()
 {
-    for (const HotKeyRow *key : {&hotkeytable::kQuickNote, &hotkeytable::kAddToChecklist}) {
+    for (const Command key : {Command::Capture, Command::AddToChecklist}) {
         ServicesWorld world;
         world.select(u"text"_s);
         world.accessibility.setFocusedWindowTitle(4711, u"garden.txt"_s);
         world.accessibility.setDelay(50ms);
-        world.press(*key);
+        world.press(key);
         world.bringForward(1, u"Other"_s);
         QVERIFY(world.texts().isEmpty());
         world.clock.advance(200ms);
@@ -168,11 +175,11 @@ void TestVeskServices::tooLongTextIsRefused()
     ServicesWorld world;
     // Two bytes each: the text is over the limit in bytes, not in characters.
     world.select(QString(kMaximumTextBytes / 2 + 1, u'ä'));
-    world.command(command);
+    world.press(command);
     QCOMPARE(ServicesWorld::notice(), u"The selection is too long to keep"_s);
     world.clock.advance(3s);
     world.select(QString(kMaximumTextBytes / 2, u'ä'));
-    world.command(command);
+    world.press(command);
     QCOMPARE(world.texts().size() + world.prompts().size(), 1);
     QVERIFY(ServicesWorld::notice().startsWith(u"Saved to "_s));
 }
@@ -186,7 +193,7 @@ void TestVeskServices::failedSaveIsNotConfirmed()
         // As another program's transaction does.
         SQLite::Database other(world.folder.filePath(u"Notes.store"_s).toStdString(), SQLite::OPEN_READWRITE);
         other.exec("BEGIN IMMEDIATE");
-        world.command(command);
+        world.press(command);
         QCOMPARE(ServicesWorld::notice(), u"Not saved yet, Vesk keeps trying"_s);
         QVERIFY(world.sounds.played().isEmpty());
         QVERIFY(world.store.hasPendingChanges());
@@ -207,16 +214,16 @@ void TestVeskServices::nothingSelected_data()
     const QString refusal = u"Vesk needs Accessibility access"_s;
     const Mode note = QuickNoteBox::Mode::Note;
     const Mode list = QuickNoteBox::Mode::Checklist;
-    QTest::newRow("note") << kNote << true << note << QString();
-    QTest::newRow("append") << kAppend << true << note << QString();
-    QTest::newRow("checklist") << kChecklist << true << list << QString();
-    QTest::newRow("add") << kAdd << true << Mode() << hint;
-    QTest::newRow("prompt") << kPrompt << true << Mode() << QString();
-    QTest::newRow("note, no trust") << kNote << false << note << QString();
-    QTest::newRow("append, no trust") << kAppend << false << note << QString();
-    QTest::newRow("checklist, no trust") << kChecklist << false << list << QString();
-    QTest::newRow("add, no trust") << kAdd << false << Mode() << refusal;
-    QTest::newRow("prompt, no trust") << kPrompt << false << Mode() << QString();
+    QTest::newRow("note") << Command::Capture << true << note << QString();
+    QTest::newRow("append") << Command::CaptureToLastNote << true << note << QString();
+    QTest::newRow("checklist") << Command::CaptureChecklist << true << list << QString();
+    QTest::newRow("add") << Command::AddToChecklist << true << Mode() << hint;
+    QTest::newRow("prompt") << Command::SavePrompt << true << Mode() << QString();
+    QTest::newRow("note, no trust") << Command::Capture << false << note << QString();
+    QTest::newRow("append, no trust") << Command::CaptureToLastNote << false << note << QString();
+    QTest::newRow("checklist, no trust") << Command::CaptureChecklist << false << list << QString();
+    QTest::newRow("add, no trust") << Command::AddToChecklist << false << Mode() << refusal;
+    QTest::newRow("prompt, no trust") << Command::SavePrompt << false << Mode() << QString();
 }
 
 /// Without the user's trust there is no selection, whatever is selected.
@@ -230,14 +237,14 @@ void TestVeskServices::nothingSelected()
     world.accessibility.setTrusted(isTrusted);
     world.select(isTrusted ? QString() : u"private"_s);
     for (int press = 0; press < 2; ++press) {
-        world.command(command);
+        world.press(command);
         QCOMPARE(world.box.mode(), mode);
         QCOMPARE(ServicesWorld::notice(), notice);
         world.box.close();
         world.clock.advance(3s);
     }
     // The key asks, once in a run; Shift does not.
-    const bool isAskedFor = !isTrusted && command.key;
+    const bool isAskedFor = !isTrusted && command != Command::SavePrompt;
     QCOMPARE(world.accessibility.askCount(), isAskedFor ? 1 : 0);
     QVERIFY(world.texts().isEmpty() && world.prompts().isEmpty());
     QVERIFY(world.sounds.played().isEmpty());
@@ -250,19 +257,19 @@ void TestVeskServices::missingTextIsExplained()
     const QString reason = u"Editor did not answer, so Vesk could not read what is selected there."_s;
     ServicesWorld world;
     world.accessibility.setSelectedText({.isClaimed = true, .isSilent = true});
-    world.command(kNote);
+    world.press(Command::Capture);
     world.clock.advance(1s);
     QCOMPARE(world.box.mode(), QuickNoteBox::Mode::Note);
     QCOMPARE(world.box.remark(), reason);
     world.box.close();
     world.clock.advance(3s);
-    world.command(kAdd);
+    world.press(Command::AddToChecklist);
     world.clock.advance(1s);
     QCOMPARE(ServicesWorld::notice(), reason);
     // The next time, nothing is selected.
     world.clock.advance(9s);
     world.select(QString());
-    world.command(kNote);
+    world.press(Command::Capture);
     QCOMPARE(world.box.remark(), QString());
 }
 
@@ -270,19 +277,19 @@ void TestVeskServices::sameKeyClosesTheBox()
 {
     ServicesWorld world;
     world.select(QString());
-    world.press(hotkeytable::kQuickNote);
+    world.press(Command::Capture);
     QVERIFY(world.box.isShowing());
     world.select(u"not to be read"_s);
     world.clock.advance(1s);
-    world.press(hotkeytable::kChecklist);
+    world.press(Command::CaptureChecklist);
     QVERIFY(!world.box.isShowing());
     // Closing counts as a command, so the next press is a slip again.
     world.clock.advance(1999ms);
-    world.press(hotkeytable::kQuickNote);
+    world.press(Command::Capture);
     QVERIFY(world.texts().isEmpty() && !world.box.isShowing());
     // The box does not let this one pass.
     world.box.show(QuickNoteBox::Mode::Note);
-    world.press(hotkeytable::kAddToChecklist);
+    world.press(Command::AddToChecklist);
     QVERIFY(world.texts().isEmpty() && world.box.isShowing());
 }
 
@@ -291,7 +298,7 @@ void TestVeskServices::trustWithdrawnWhileReading()
     ServicesWorld world;
     world.select(u"private"_s);
     world.accessibility.setDelay(50ms);
-    world.press(hotkeytable::kQuickNote);
+    world.press(Command::Capture);
     world.accessibility.setTrusted(false);
     world.clock.advance(1s);
     QVERIFY(world.texts().isEmpty());
@@ -308,7 +315,7 @@ void TestVeskServices::clipboardThatCannotBeKeptIsToldOf()
     world.select(std::nullopt);
     world.pasteboard.setString(u"password"_s);
     world.pasteboard.setSecret(true);
-    world.command(command);
+    world.press(command);
     world.clock.advance(1s);
     QVERIFY(world.poster.posted().isEmpty());
     QCOMPARE(world.box.isShowing() ? world.box.remark() : world.notice(), reason);
@@ -317,7 +324,7 @@ void TestVeskServices::clipboardThatCannotBeKeptIsToldOf()
     world.box.close();
     world.clock.advance(20s);
     QTRY_COMPARE(world.notice(), QString());
-    world.command(command);
+    world.press(command);
     world.clock.advance(2s);
     QVERIFY(world.notice() != reason && world.box.remark() != reason);
 }
@@ -329,21 +336,24 @@ void TestVeskServices::panelKeysWaitForAReadingNoLongerThanASecond()
     ServicesWorld world;
     world.select(std::nullopt);
     world.poster.setDelay(world.clock, 10s);
-    world.press(hotkeytable::kQuickNote);
-    // A second press meanwhile does not close what the first has not opened yet.
-    world.press(hotkeytable::kOpen);
-    world.press(hotkeytable::kOpen);
+    world.press(Command::Capture);
+    // A second press meanwhile does not close what the first has not opened yet. Menus, other programs and a
+    // second start wait as the keys do.
+    world.press(Command::Toggle);
+    world.press(Command::Toggle);
+    world.services.perform(Command::Show);
+    world.services.perform(Command::QuickNote);
     world.clock.advance(999ms);
-    QVERIFY(!world.panelWindow.isShown());
+    QVERIFY(!world.panelWindow.isShown() && !world.box.isShowing());
     world.clock.advance(1ms);
     QVERIFY(world.panelWindow.isShown());
     // A later reading has a second of its own.
     world.application.hide();
     world.clock.advance(20s);
     world.box.close();
-    world.press(hotkeytable::kQuickNote);
+    world.press(Command::Capture);
     world.clock.advance(500ms);
-    world.press(hotkeytable::kWrite);
+    world.press(Command::Write);
     world.clock.advance(999ms);
     QVERIFY(!world.panelWindow.isShown());
     world.clock.advance(1ms);
@@ -389,11 +399,11 @@ void TestVeskServices::checklistKeyIsLeftToItsOwner()
 {
     static constexpr QStringView kOwners[]{u"org.example.Files"};
     ServicesWorld world(kOwners);
-    const KeyCombination key = hotkeytable::kChecklist.combination;
+    const KeyCombination key = combinationOf(Command::CaptureChecklist);
     world.select(u"text"_s);
     world.bringForward(1, u"App"_s, u"org.example.Files"_s);
     QVERIFY(!world.hotKeys.press(key));
-    QVERIFY(world.hotKeys.press(hotkeytable::kAddToChecklist.combination));
+    QVERIFY(world.hotKeys.press(combinationOf(Command::AddToChecklist)));
     world.bringForward(2, u"App"_s);
     QVERIFY(world.hotKeys.press(key));
     world.bringForward(3, u"App"_s, u"org.example.Files"_s);

@@ -262,15 +262,15 @@ void SoakUser::capture()
     m_world->select(text);
     // The last command and the last copy are long ago.
     m_world->clock.advance(10s);
-    const HotKeyRow &row =
-        *oneOf(std::array{&hotkeytable::kQuickNote, &hotkeytable::kAppend, &hotkeytable::kChecklist});
-    note(row.command.toString() + u" of "_s + text.left(12));
+    const Command command =
+        oneOf(std::array{Command::Capture, Command::CaptureToLastNote, Command::CaptureChecklist});
+    note(rowOf(command).words.toString() + u" of "_s + text.left(12));
     const std::optional<RecordId> last = newest([](const Ledger::Entry &each) { return !each.isPrompt; });
     const bool isKept =
         hasSelection && !m_world->box.isShowing() && m_world->accessibility.isProcessTrusted();
-    const QString kept = markup::wellFormed(&row == &hotkeytable::kChecklist ? markup::checklist(text)
-                                                                             : markup::trimmed(text));
-    const bool isAppended = last && &row == &hotkeytable::kAppend;
+    const QString kept = markup::wellFormed(command == Command::CaptureChecklist ? markup::checklist(text)
+                                                                                 : markup::trimmed(text));
+    const bool isAppended = last && command == Command::CaptureToLastNote;
     if (isKept && isAppended) {
         m_effect.changed = last;
         m_effect.isRight = [kept](const QString &before, const QString &after) {
@@ -280,7 +280,7 @@ void SoakUser::capture()
         m_effect.added = kept;
         m_effect.isCaptured = true;
     }
-    m_world->hotKeys.press(row.combination);
+    m_world->hotKeys.press(combinationOf(command));
 }
 
 void SoakUser::addToChecklist()
@@ -301,7 +301,7 @@ void SoakUser::addToChecklist()
             m_effect.isCaptured = true;
         }
     }
-    m_world->hotKeys.press(hotkeytable::kAddToChecklist.combination);
+    m_world->hotKeys.press(combinationOf(Command::AddToChecklist));
 }
 
 void SoakUser::savePrompt()
@@ -321,9 +321,9 @@ void SoakUser::savePrompt()
 
 void SoakUser::useHotKey()
 {
-    const HotKeyRow &row = pick(3) == 0 ? hotkeytable::kWrite : hotkeytable::kOpen;
-    note(row.command.toString());
-    m_world->hotKeys.press(row.combination);
+    const Command command = pick(3) == 0 ? Command::Write : Command::Toggle;
+    note(rowOf(command).words.toString());
+    m_world->hotKeys.press(combinationOf(command));
 }
 
 void SoakUser::passTime()
