@@ -9,6 +9,9 @@
 #include "platform/x11/x11workspace.h"
 #include "platform/x11/xreply.h"
 
+#include <QCoroTimer>
+
+#include <QDeadlineTimer>
 #include <QPointer>
 
 #include <algorithm>
@@ -268,15 +271,22 @@ QCoro::Task<> X11Accessibility::noteOrigin()
     if (!process)
         co_return;
     const QPointer<X11Accessibility> self(this);
-    // Nobody waits for this.
-    const AtSpiQuestion question = m_atSpi.ask({.question = 1s, .call = 500ms});
-    const std::optional<bool> isSecret = co_await m_atSpi.isInPasswordField(question, *process);
-    if (self.isNull() || !isSecret)
-        co_return;
-    if (*isSecret)
-        m_secret = claim.number;
-    else
-        m_harmless = claim.number;
+    // Nobody waits for this. A busy application, or one whose accessibility is just starting, does not answer
+    // at first. Later than this, a password field that has lost the keyboard since is forgotten.
+    const QDeadlineTimer recent(2s);
+    while (!recent.hasExpired() && m_primary.claim().number == claim.number) {
+        const AtSpiQuestion question = m_atSpi.ask({.question = 1s, .call = 500ms});
+        const std::optional<bool> isSecret = co_await m_atSpi.isInPasswordField(question, *process);
+        if (self.isNull())
+            co_return;
+        if (isSecret) {
+            (*isSecret ? m_secret : m_harmless) = claim.number;
+            co_return;
+        }
+        co_await QCoro::sleepFor(100ms);
+        if (self.isNull())
+            co_return;
+    }
 }
 
 } // namespace vesk
