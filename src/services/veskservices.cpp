@@ -117,7 +117,7 @@ void VeskServices::perform(Command command)
 
 void VeskServices::performNow(Command command)
 {
-    qCDebug(commandsLog) << "command" << rowOf(command).method;
+    qCDebug(servicesLog) << "command" << rowOf(command).method;
     switch (command) {
     case Command::Capture:
         return capture(Target::NewNote);
@@ -155,7 +155,7 @@ void VeskServices::holdBack(Command command)
 {
     if (m_heldBack.contains(command))
         return;
-    qCDebug(commandsLog) << "command" << rowOf(command).method << "waits for the reading under way";
+    qCDebug(servicesLog) << "command" << rowOf(command).method << "waits for the reading under way";
     m_heldBack.append(command);
     if (m_heldBack.size() == 1)
         stopHoldingLater();
