@@ -3,7 +3,6 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QElapsedTimer>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -17,15 +16,8 @@ Heartbeat::Heartbeat(const QString &busAddress)
 
 Heartbeat::~Heartbeat()
 {
-    static_cast<void>(longestSilence());
-}
-
-std::chrono::milliseconds Heartbeat::longestSilence()
-{
     m_isEnding = true;
-    if (m_thread.joinable())
-        m_thread.join();
-    return m_longest;
+    m_thread.join();
 }
 
 void Heartbeat::run(const QString &busAddress)
@@ -39,11 +31,8 @@ void Heartbeat::run(const QString &busAddress)
         const QDBusMessage question =
             QDBusMessage::createMethodCall(u"org.vesk.Vesk"_s, u"/org/vesk/Vesk"_s,
                                            u"org.freedesktop.DBus.Introspectable"_s, u"Introspect"_s);
-        QElapsedTimer sinceQuestion;
-        sinceQuestion.start();
         if (bus.call(question, QDBus::Block, kBound).type() == QDBusMessage::ReplyMessage)
-            ++m_beats;
-        m_longest = std::max(m_longest.load(), std::chrono::milliseconds(sinceQuestion.elapsed()));
+            ++m_answers;
         std::this_thread::sleep_for(kPause);
     }
     QDBusConnection::disconnectFromBus(name);

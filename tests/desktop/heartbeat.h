@@ -4,13 +4,12 @@
 #include <QString>
 
 #include <atomic>
-#include <chrono>
 #include <thread>
 
 namespace vesk {
 
-/// Asks Vesk something by the session bus, again and again, which its event loop has to answer, and
-/// knows for how long it did not.
+/// Asks Vesk something by the session bus, which its event loop must answer, and asks again after each
+/// answer.
 class Heartbeat final
 {
 public:
@@ -18,17 +17,14 @@ public:
     ~Heartbeat();
     Q_DISABLE_COPY_MOVE(Heartbeat)
 
-    /// Ends the asking. The longest time from a question to its answer.
-    [[nodiscard]] std::chrono::milliseconds longestSilence();
     /// How many answers have come.
-    [[nodiscard]] int beats() const { return m_beats; }
+    [[nodiscard]] int answers() const { return m_answers; }
 
 private:
     void run(const QString &busAddress);
 
     std::atomic_bool m_isEnding = false;
-    std::atomic_int m_beats = 0;
-    std::atomic<std::chrono::milliseconds> m_longest{};
+    std::atomic_int m_answers = 0;
     std::thread m_thread;
 };
 

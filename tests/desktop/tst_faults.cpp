@@ -15,19 +15,16 @@ using namespace vesk;
 
 namespace {
 
-/// The longest that a capture may take, whatever else hangs, beyond what an ordinary one takes on this
-/// machine at this hour.
-constexpr auto kLongest = 1000ms;
-/// The shortest of Vesk's own deadlines is as long; an event loop that stands still for one wait stands
-/// still for longer than that.
-constexpr auto kStandstill = 100ms;
+/// How many answers Vesk gives during a capture at the least if its event loop runs while it waits. Without a
+/// wait, up to five come before the box is open; with one, about a hundred.
+constexpr int kAnswers = 10;
 
 const ClipboardHolder::Forms kCopied{{"UTF8_STRING", "copied before"}, {"text/html", "<i>copied</i> before"}};
 
 } // namespace
 
-/// Captures while something else on the desktop is broken: they end in time, with the note or the way to
-/// write one, Vesk stays awake throughout, and the clipboard is as it was.
+/// Captures while something else on the desktop is broken: they end with the note or the way to write one,
+/// Vesk answers meanwhile, and the clipboard is as it was.
 class TestFaults : public VeskTest
 {
     Q_OBJECT
@@ -55,10 +52,13 @@ private:
     };
 
     [[nodiscard]] QString setUp(const VirtualDesktop::Lacks &lacks = {});
-    /// Presses the key for a capture, does `meanwhile`, and measures what follows.
+    /// Presses the key for a capture, does `meanwhile`, and waits for what follows.
     [[nodiscard]] Outcome capture(const std::function<void()> &meanwhile = {});
-    /// What was wrong with the last capture's time, and with the clipboard now; empty for nothing.
+    /// What is wrong with Vesk or the clipboard after a capture; empty for nothing.
     [[nodiscard]] QString complaint();
+    /// Whether Vesk answers while it waits in a capture that ends with the box, which is open and stays open.
+    /// On a machine on which the asking comes too seldom, it is tried again.
+    [[nodiscard]] bool answersMeanwhile();
     [[nodiscard]] std::optional<Window> veskWindow() const;
     void dismissFallback();
 
@@ -66,11 +66,8 @@ private:
     std::unique_ptr<ClipboardHolder> m_clipboard;
     std::unique_ptr<TextEditor> m_editor;
     QElapsedTimer m_sinceCapture;
-    /// How long a capture takes with nothing broken.
-    std::chrono::milliseconds m_ordinary{};
-    std::chrono::milliseconds m_took{};
-    std::chrono::milliseconds m_silence{};
-    int m_beats = 0;
+    /// Vesk's answers from the last capture's key to its end.
+    int m_answers = 0;
 };
 
 QString TestFaults::setUp(const VirtualDesktop::Lacks &lacks)
@@ -87,7 +84,6 @@ QString TestFaults::setUp(const VirtualDesktop::Lacks &lacks)
         return u"Vesk or the editor did not start."_s;
     if (!m_editor->selectLine(0) || capture() != Outcome::Note)
         return u"Not even an ordinary capture works."_s;
-    m_ordinary = m_took;
     return {};
 }
 
@@ -115,6 +111,7 @@ TestFaults::Outcome TestFaults::capture(const std::function<void()> &meanwhile)
     Outcome outcome = Outcome::None;
     press({XK_n});
     m_sinceCapture.start();
+    const int answersBefore = heartbeat.answers();
     if (meanwhile)
         meanwhile();
     static_cast<void>(m_desktop->display().waitUntil(kBound, [&] {
@@ -124,23 +121,28 @@ TestFaults::Outcome TestFaults::capture(const std::function<void()> &meanwhile)
             outcome = Outcome::Note;
         return outcome != Outcome::None;
     }));
-    m_took = std::chrono::milliseconds(m_sinceCapture.elapsed());
-    m_silence = heartbeat.longestSilence();
-    m_beats = heartbeat.beats();
+    m_answers = heartbeat.answers() - answersBefore;
     return outcome;
 }
 
 QString TestFaults::complaint()
 {
-    if (m_took > kLongest + m_ordinary)
-        return u"It took %1 ms, an ordinary capture %2."_s.arg(m_took.count()).arg(m_ordinary.count());
-    if (m_beats == 0 || m_silence > kStandstill + m_ordinary)
-        return u"Vesk slept for %1 ms."_s.arg(m_silence.count());
     for (const auto &[form, bytes] : kCopied.asKeyValueRange()) {
-        if (m_desktop->display().readForm("CLIPBOARD", form.constData(), 1s) != bytes)
+        if (m_desktop->display().readForm("CLIPBOARD", form.constData(), kBound) != bytes)
             return u"%1 is no longer on the clipboard."_s.arg(QString::fromLatin1(form));
     }
     return m_vesk->isRunning() ? QString() : u"Vesk has ended."_s;
+}
+
+bool TestFaults::answersMeanwhile()
+{
+    constexpr int kAttempts = 10;
+    for (int attempt = 0; attempt < kAttempts && m_answers < kAnswers; ++attempt) {
+        dismissFallback();
+        if (capture() != Outcome::Fallback)
+            return false;
+    }
+    return m_answers >= kAnswers;
 }
 
 void TestFaults::dismissFallback()
@@ -172,6 +174,7 @@ void TestFaults::applicationHangsAndGoesOnLater()
     QCOMPARE(capture([this] { press({XK_n}); }), Outcome::Fallback);
     QCOMPARE(complaint(), QString());
     VERIFY_ON(*m_desktop, veskWindow());
+    VERIFY_ON(*m_desktop, answersMeanwhile());
     dismissFallback();
 
     // The user copies something else, and then the application goes on and does all that it was told.
@@ -182,7 +185,7 @@ void TestFaults::applicationHangsAndGoesOnLater()
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
     QCOMPARE(m_editor->text(), m_lines.join(u'\n') + u'\n');
     QTest::qWait(300); // For an undoing, which takes a moment.
-    QCOMPARE(m_desktop->display().readSelection("CLIPBOARD", 1s), u"copied meanwhile"_s);
+    QCOMPARE(m_desktop->display().readSelection("CLIPBOARD", kBound), u"copied meanwhile"_s);
 }
 
 void TestFaults::applicationEndsWhileItIsRead_data()
@@ -313,7 +316,7 @@ void TestFaults::textOutlivesVesk()
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kPanel, kBound));
     m_desktop->keyboard().tap({XK_Down}, kFinger);
     m_desktop->keyboard().tap({XK_Control_L, XK_Return}, kFinger);
-    const auto clipboard = [this] { return m_desktop->display().readSelection("CLIPBOARD", 1s); };
+    const auto clipboard = [this] { return m_desktop->display().readSelection("CLIPBOARD", kBound); };
     VERIFY_ON(*m_desktop,
               m_desktop->display().waitUntil(kBound, [&] { return clipboard() == m_lines.at(0); }));
 

@@ -244,7 +244,7 @@ void TestSentKeys::keysGoToTheWindowOfThePressOnly()
         keyboard.press(key);
     // Vesk has heard of the key once it gives the keyboard back.
     if (!change.endsWith("at once"_L1)) {
-        VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(500ms, [&] { return other->grabKeyboard(); }));
+        VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] { return other->grabKeyboard(); }));
         if (change != "keyboard grabbed"_L1)
             other->ungrabKeyboard();
     }
