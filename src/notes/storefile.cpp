@@ -39,8 +39,16 @@ namespace {
         return true;
     if (errno != EINVAL && errno != ENOSYS)
         return false;
-    // Network file systems do not know that, but have hard links.
-    return ::link(from.constData(), to) == 0;
+    // Network file systems do not know that, but most have hard links.
+    if (::link(from.constData(), to) == 0)
+        return true;
+    if (errno != EPERM && errno != ENOSYS && errno != EOPNOTSUPP)
+        return false;
+    if (::access(to, F_OK) == 0) {
+        errno = EEXIST;
+        return false;
+    }
+    return ::rename(from.constData(), to) == 0;
 }
 
 /// No database is smaller.
