@@ -221,19 +221,8 @@ FocusScope {
         ground: root.ground
     }
 
-    // Where in a long text the view is. Beside the text, in the host's margin.
-    Rectangle {
-        readonly property real way: parent.height - height
-
-        x: Theme.isMirrored ? -width - 4 : parent.width + 4
-        y: Math.round(way * flickable.contentY / Math.max(1, flickable.contentHeight - flickable.height))
-        width: 4
-        height: Math.round(Math.max(28, flickable.visibleArea.heightRatio * parent.height))
-        visible: flickable.contentHeight > flickable.height + 1
-        radius: 2
-        antialiasing: true
-        color: Theme.quaternary
-        Accessible.ignored: true
+    ScrollMark {
+        flickable: flickable
     }
 
     AutoScroll {
@@ -242,20 +231,10 @@ FocusScope {
         onScrolled: point => root.followMouse(point)
     }
 
-    // Made when it is needed for the first time: most notes are edited without it.
-    Loader {
+    EditMenuHost {
         id: menu
 
-        readonly property bool isOpen: menu.item ? (menu.item as EditMenu).isOpen : false
-
-        function show(point: point) {
-            if (!item)
-                setSource("EditMenu.qml", {
-                        "view": view
-                    });
-            const opened = item as EditMenu;
-            opened.hasSelection = edit.selectedText.length > 0;
-            opened.openAt(edit, point.x, point.y);
-        }
+        view: view
+        edit: edit
     }
 }

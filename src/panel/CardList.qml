@@ -176,33 +176,11 @@ FocusScope {
         Accessible.name: root.name
         onMovementStarted: scroll.stop()
 
-        add: Transition {
+        add: RowAppearing {
             enabled: root.isAnimated
-
-            Spring {
-                property: "opacity"
-                from: 0
-                to: 1
-            }
-            Spring {
-                property: "scale"
-                from: 0.97
-                to: 1
-            }
         }
-        remove: Transition {
+        remove: RowLeaving {
             enabled: root.isAnimated
-
-            Spring {
-                property: "opacity"
-                to: 0
-                duration: Theme.motion.press
-            }
-            Spring {
-                property: "scale"
-                to: 0.97
-                duration: Theme.motion.press
-            }
         }
         move: shift
         displaced: shift
@@ -217,23 +195,10 @@ FocusScope {
         onTapped: root.panel.openNote.close()
     }
 
-    // A card that is displaced while it still appears ends up whole as well.
-    Transition {
+    RowShifting {
         id: shift
 
         enabled: root.isAnimated
-
-        Spring {
-            property: "y"
-        }
-        Spring {
-            property: "opacity"
-            to: 1
-        }
-        Spring {
-            property: "scale"
-            to: 1
-        }
     }
 
     EdgeFade {
