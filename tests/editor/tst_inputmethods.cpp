@@ -24,7 +24,6 @@ private Q_SLOTS:
     void surrogatePairIsNeverTornApart();
     void replacedTextIsOneStep_data();
     void replacedTextIsOneStep();
-    void closingKeepsWhatIsComposed();
 
 private:
     static void undo(EditorFixture &fixture) { fixture.press(Qt::Key_Z, Qt::ControlModifier); }
@@ -238,23 +237,6 @@ void InputMethodsTest::replacedTextIsOneStep()
     QCOMPARE(fixture.caret(), caret);
     redo(fixture);
     QTEST(fixture.text(), "after");
-}
-
-void InputMethodsTest::closingKeepsWhatIsComposed()
-{
-    EditorFixture fixture;
-    QSignalSpy edits(fixture.editor, SIGNAL(edited(QString)));
-    fixture.type(u"a"_s);
-    fixture.compose(u"ni"_s);
-    edits.clear();
-    // The input method of this test does not answer when it is asked to commit.
-    fixture.editor->setEnabled(false);
-    QCOMPARE(fixture.text(), u"ani"_s);
-    QCOMPARE(edits.count(), 1);
-    QCOMPARE(edits.constFirst().constFirst().toString(), u"ani"_s);
-    fixture.editor->setEnabled(true);
-    QCOMPARE(fixture.text(), u"ani"_s);
-    QCOMPARE(fixture.edit->property("preeditText").toString(), QString());
 }
 
 QTEST_MAIN(InputMethodsTest)
