@@ -270,17 +270,17 @@ void TestStoreFile::refuses_data()
     row("an identity twice", u"is damaged"_s, [=](const StoreFixture &fixture) {
         execute(fixture, "UPDATE Note SET id = (SELECT upper(id) FROM Note WHERE rowid = 8) WHERE rowid = 7");
     });
-    row("another program's database", u"is a database of another program"_s, makeOther);
-    row("another program's database after a crash", u"is a database of another program"_s,
+    row("another program's database", u"database of another program"_s, makeOther);
+    row("another program's database after a crash", u"database of another program"_s,
         [=](const StoreFixture &fixture) {
             makeOther(fixture);
             copyCrashed(fixture.path(), [](SQLite::Database &connection) {
                 connection.exec("UPDATE Note SET text = 'theirs still'");
             });
         });
-    row("a newer store", u"version 2 of the store; this one knows version 1"_s,
+    row("a newer store", u"store version 2; this Vesk supports version 1"_s,
         [=](const StoreFixture &fixture) { execute(fixture, "PRAGMA user_version = 2"); });
-    row("a newer store whose version is in the journal", u"version 3 of the store"_s,
+    row("a newer store whose version is in the journal", u"store version 3"_s,
         [](const StoreFixture &fixture) {
             copyCrashed(fixture.path(),
                         [](SQLite::Database &connection) { connection.exec("PRAGMA user_version = 3"); });
