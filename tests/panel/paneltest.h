@@ -52,6 +52,34 @@ protected:
         return found;
     }
 
+    /// The one button with this name; null if it is not shown.
+    [[nodiscard]] QQuickItem *button(const QString &name) const
+    {
+        for (const char *type : {"SymbolButton", "CopyButton", "TabButton", "PanelMenuButton", "PressButton",
+                                 "ChecklistRow", "SourceButton"}) {
+            for (QQuickItem *item : shown(type)) {
+                if (item->property("name").toString() == name)
+                    return item;
+            }
+        }
+        return nullptr;
+    }
+    [[nodiscard]] bool hasEditor() const { return !shown("NoteEditor").isEmpty(); }
+    /// The text of the selected note; empty if none is selected.
+    [[nodiscard]] QString focusedText() const
+    {
+        const std::optional<RecordId> &id = model().selection()->selected();
+        return id ? store().findNote(*id)->text() : QString();
+    }
+    /// Adds the notes "one", "two" and "three", and shows the panel.
+    void addThree()
+    {
+        for (const char *text : {"one", "two", "three"})
+            addNote(QString::fromLatin1(text));
+        show();
+        QTRY_COMPARE(shown("NoteCard").size(), 3);
+    }
+
     std::unique_ptr<PanelFixture> m_fixture;
 
 protected Q_SLOTS:

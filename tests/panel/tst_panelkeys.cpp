@@ -24,7 +24,6 @@ private Q_SLOTS:
     void composerCommits();
     void shortcutsFromAnyField();
     void controlTabGoesRoundTheTabs();
-    void pasteGoesIntoTheFieldThatHasTheKeyboard();
     void keysAfterALatePasteComeAfterIt();
     void controlReturnPastesTheSelectedNote();
     void locksAndNumberPadDoNotCount();
@@ -32,65 +31,12 @@ private Q_SLOTS:
     void composingKeepsItsKeys();
     void typingBeginsASearch();
     void sourceIsBehindTheText();
-    void keysLeaveUnseenCardsAlone_data();
-    void keysLeaveUnseenCardsAlone();
-    void typingBringsTheOpenNoteBack();
-    void buttonOutOfSightIsNotPressed_data();
-    void buttonOutOfSightIsNotPressed();
-    void heldKeysActOnce_data();
-    void heldKeysActOnce();
-    void heldReturnOpensANoteAndTypesNothing();
-    void heldReturnTicksAPromptOnce();
-    void heldArrowGoesOn();
-
-private:
-    [[nodiscard]] QString focusedText() const
-    {
-        const std::optional<RecordId> &id = model().selection()->selected();
-        return id ? store().findNote(*id)->text() : QString();
-    }
-    /// Presses a key and keeps it down until it has repeated three times.
-    void hold(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString &text = {})
-    {
-        QTest::keyPress(&window(), key, modifiers);
-        for (int i = 0; i < 3; ++i) {
-            QKeyEvent repeat(QEvent::KeyPress, key, modifiers, text, true);
-            QCoreApplication::sendEvent(&window(), &repeat);
-        }
-        QTest::keyRelease(&window(), key, modifiers);
-    }
-    /// Everything that the keys can do to records, as one text to compare.
-    [[nodiscard]] QString state() const
-    {
-        const QString open = model().openNote()->cardId();
-        return u"%1 notes, %2 prompts, %3 done, open: %4"_s.arg(store().notes().count())
-            .arg(store().prompts().count())
-            .arg(store().donePrompts().size())
-            .arg(open.isEmpty() ? u"none"_s : open);
-    }
-    /// The row at the top of what can be seen of the list.
-    [[nodiscard]] int topRow() const
-    {
-        for (const QQuickItem *row : shown("NoteRow")) {
-            if (row->mapToScene(QPointF(0, row->height())).y() > 120)
-                return row->property("index").toInt();
-        }
-        return -1;
-    }
-    void scrollToEnd()
-    {
-        QWheelEvent wheel(QPointF(220, 300), window().mapToGlobal(QPointF(220, 300)), {}, QPoint(0, -12000),
-                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(&window(), &wheel);
-    }
 };
 
 void PanelKeysTest::init()
 {
     PanelTest::init();
-    for (const QString &text : {u"one"_s, u"two"_s, u"three"_s})
-        addNote(text);
-    show();
+    addThree();
     QCOMPARE(model().keyboard()->activeField(), Field::None);
 }
 
@@ -246,22 +192,6 @@ void PanelKeysTest::controlTabGoesRoundTheTabs()
     QVERIFY(!focusedText().isEmpty());
 }
 
-void PanelKeysTest::pasteGoesIntoTheFieldThatHasTheKeyboard()
-{
-    m_fixture->pasteboard.setString(u"one\n two"_s);
-    press(Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(model().draft() + model().search(), QString());
-    press(Qt::Key_N, Qt::ControlModifier);
-    model().setDraft(u"instead of this"_s);
-    press(Qt::Key_A, Qt::ControlModifier);
-    press(Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(model().draft(), u"one\n two"_s);
-    press(Qt::Key_F, Qt::ControlModifier);
-    press(Qt::Key_Insert, Qt::ShiftModifier);
-    QCOMPARE(model().search(), u"one two"_s);
-    QCOMPARE(model().draft(), u"one\n two"_s);
-}
-
 /// The owner of the text takes a moment, and the user goes on at once.
 void PanelKeysTest::keysAfterALatePasteComeAfterIt()
 {
@@ -275,13 +205,6 @@ void PanelKeysTest::keysAfterALatePasteComeAfterIt()
     m_fixture->clock.advance(500ms);
     QCOMPARE(store().notes().count(), count + 1);
     QCOMPARE(store().notes().first()->text(), u"later"_s);
-    // The keyboard moves on to another field before the text is there.
-    press(Qt::Key_V, Qt::ControlModifier);
-    model().requestField(PanelModel::Field::Search);
-    type(u"s"_s);
-    m_fixture->clock.advance(500ms);
-    QCOMPARE(model().draft(), u"late"_s);
-    QCOMPARE(model().search(), u"s"_s);
 }
 
 void PanelKeysTest::controlReturnPastesTheSelectedNote()
@@ -375,180 +298,6 @@ void PanelKeysTest::sourceIsBehindTheText()
     QCOMPARE(window().activeFocusItem(), shown("SourceButton").value(0));
     press(Qt::Key_Tab);
     QVERIFY(model().keyboard()->isEditing());
-}
-
-void PanelKeysTest::keysLeaveUnseenCardsAlone_data()
-{
-    QTest::addColumn<QString>("hiding");
-    QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-
-    for (const QString &hiding : {u"tab"_s, u"fold"_s, u"search"_s, u"wheel"_s}) {
-        const QByteArray name = hiding.toLatin1();
-        QTest::addRow("%s, delete", name.constData())
-            << hiding << Qt::Key_Backspace << Qt::KeyboardModifiers(Qt::ControlModifier);
-        QTest::addRow("%s, open", name.constData())
-            << hiding << Qt::Key_Return << Qt::KeyboardModifiers(Qt::NoModifier);
-        QTest::addRow("%s, paste", name.constData())
-            << hiding << Qt::Key_Return << Qt::KeyboardModifiers(Qt::ControlModifier);
-    }
-}
-
-void PanelKeysTest::keysLeaveUnseenCardsAlone()
-{
-    QFETCH(QString, hiding);
-    QFETCH(Qt::Key, key);
-    QFETCH(Qt::KeyboardModifiers, modifiers);
-    for (int i = 0; i < 40; ++i)
-        addNote(u"note %1"_s.arg(i));
-    m_fixture->addPrompt(u"why?"_s);
-    QSignalSpy pastes(model().cards(), &CardActions::pasteRequested);
-    press(Qt::Key_Down);
-    QCOMPARE(focusedText(), u"note 39"_s);
-    QTRY_COMPARE(shown("NoteCard").constFirst()->hasActiveFocus(), true);
-    if (hiding == u"tab") {
-        model().setTab(PanelModel::Tab::Prompts);
-    } else if (hiding == u"fold") {
-        model().notes()->toggleSection(0);
-    } else if (hiding == u"search") {
-        model().setSearch(u"two"_s);
-    } else {
-        scrollToEnd();
-        QTRY_VERIFY(topRow() > 20);
-    }
-    const QString before = state();
-    press(key, modifiers);
-    QCOMPARE(state(), before);
-    QVERIFY(pastes.isEmpty());
-
-    // What was only scrolled away is brought back, and the key then does what it says.
-    if (hiding == u"wheel") {
-        QTRY_VERIFY(topRow() < 2);
-        press(key, modifiers);
-        QVERIFY(state() != before || !pastes.isEmpty());
-    }
-}
-
-void PanelKeysTest::typingBringsTheOpenNoteBack()
-{
-    for (int i = 0; i < 40; ++i)
-        addNote(u"note %1"_s.arg(i));
-    press(Qt::Key_Down);
-    press(Qt::Key_Return);
-    QTRY_VERIFY(model().keyboard()->isEditing());
-    // The list comes to rest when the card is fully open.
-    QTest::qWait(500);
-    scrollToEnd();
-    QTRY_VERIFY(topRow() > 20);
-    type(u"!"_s);
-    QTRY_VERIFY(topRow() < 2);
-    QVERIFY(store().notes().first()->text().contains(u'!'));
-}
-
-void PanelKeysTest::buttonOutOfSightIsNotPressed_data()
-{
-    QTest::addColumn<Qt::Key>("key");
-    QTest::newRow("return") << Qt::Key_Return;
-    QTest::newRow("space") << Qt::Key_Space;
-}
-
-void PanelKeysTest::buttonOutOfSightIsNotPressed()
-{
-    QFETCH(Qt::Key, key);
-    for (int i = 0; i < 40; ++i)
-        addNote(u"note %1"_s.arg(i));
-    press(Qt::Key_Down);
-    QTRY_VERIFY(shown("NoteCard").constFirst()->hasActiveFocus());
-    // Past the buttons that pin, copy and paste.
-    for (int i = 0; i < 4; ++i)
-        press(Qt::Key_Tab);
-    QVERIFY(window().activeFocusItem()->property("name").toString().startsWith(u"Delete"));
-    QVERIFY(model().keyboard()->isOnControl());
-    const qsizetype count = store().notes().count();
-    scrollToEnd();
-    QTRY_VERIFY(topRow() > 20);
-    press(key);
-    QCOMPARE(store().notes().count(), count);
-    QTRY_VERIFY(topRow() < 2);
-    press(key);
-    QCOMPARE(store().notes().count(), count - 1);
-}
-
-void PanelKeysTest::heldKeysActOnce_data()
-{
-    QTest::addColumn<QString>("draft");
-    QTest::addColumn<Field>("field");
-    QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("pastes");
-
-    const Qt::KeyboardModifiers none = Qt::NoModifier;
-    const Qt::KeyboardModifiers control = Qt::ControlModifier;
-    QTest::newRow("delete") << QString() << Field::None << Qt::Key_Backspace << control << 2 << 0;
-    QTest::newRow("paste") << QString() << Field::None << Qt::Key_Return << control << 3 << 1;
-    QTest::newRow("write") << u"four"_s << Field::Composer << Qt::Key_Return << none << 4 << 0;
-    QTest::newRow("escape") << QString() << Field::Composer << Qt::Key_Escape << none << 3 << 0;
-}
-
-void PanelKeysTest::heldKeysActOnce()
-{
-    QFETCH(QString, draft);
-    QFETCH(Field, field);
-    QFETCH(Qt::Key, key);
-    QFETCH(Qt::KeyboardModifiers, modifiers);
-    QSignalSpy pastes(model().cards(), &CardActions::pasteRequested);
-    press(Qt::Key_Down);
-    model().setDraft(draft);
-    model().requestField(field);
-    hold(key, modifiers);
-    QTEST(static_cast<int>(store().notes().count()), "count");
-    QTEST(static_cast<int>(pastes.count()), "pastes");
-    QVERIFY(panel().isShown());
-}
-
-void PanelKeysTest::heldReturnOpensANoteAndTypesNothing()
-{
-    press(Qt::Key_Down);
-    hold(Qt::Key_Return, Qt::NoModifier, u"\r"_s);
-    QVERIFY(model().openNote()->id());
-    QCOMPARE(store().notes().first()->text(), u"three"_s);
-    QTRY_VERIFY(model().keyboard()->isEditing());
-    // From the text it closes the note, and pastes nothing.
-    QSignalSpy pastes(model().cards(), &CardActions::pasteRequested);
-    hold(Qt::Key_Return, Qt::ControlModifier, u"\r"_s);
-    QVERIFY(!model().openNote()->id() && pastes.isEmpty());
-    // The same from a search, whose field gives the keyboard to the text.
-    press(Qt::Key_F, Qt::ControlModifier);
-    type(u"tw"_s);
-    hold(Qt::Key_Return, Qt::NoModifier, u"\r"_s);
-    QCOMPARE(store().notes().at(1).text(), u"two"_s);
-    // Pressed once more it is the text's, and goes on as in any text.
-    hold(Qt::Key_Return, Qt::NoModifier, u"\r"_s);
-    QCOMPARE(store().findNote(*model().openNote()->id())->text(), u"two\n\n\n\n"_s);
-}
-
-void PanelKeysTest::heldReturnTicksAPromptOnce()
-{
-    const Prompt &prompt = m_fixture->addPrompt(u"why?"_s);
-    model().setTab(PanelModel::Tab::Prompts);
-    press(Qt::Key_Down);
-    hold(Qt::Key_Return);
-    QVERIFY(prompt.isDone());
-    // By its box as well.
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
-        const bool wasDone = prompt.isDone();
-        QTRY_VERIFY(!shown("CheckCircle").isEmpty());
-        shown("CheckCircle").constFirst()->parentItem()->forceActiveFocus();
-        hold(key);
-        QCOMPARE(prompt.isDone(), !wasDone);
-    }
-}
-
-void PanelKeysTest::heldArrowGoesOn()
-{
-    hold(Qt::Key_Down);
-    QCOMPARE(focusedText(), u"one"_s);
 }
 
 QTEST_MAIN(PanelKeysTest)

@@ -40,10 +40,7 @@ private:
 void PanelMenusTest::init()
 {
     PanelTest::init();
-    for (const QString &text : {u"one"_s, u"two"_s, u"three"_s})
-        addNote(text);
-    show();
-    QTRY_COMPARE(shown("NoteCard").size(), 3);
+    addThree();
 }
 
 QStringList PanelMenusTest::offered() const
