@@ -10,12 +10,12 @@ namespace vesk {
 /// Where a captured text came from.
 struct CaptureSource
 {
-    /// Display name of the application.
+    /// The application's display name.
     QString app;
     std::optional<QString> bundleID;
-    /// Title of the window.
+    /// The window's title.
     std::optional<QString> title;
-    /// Address of the page, from a browser; text, not parsed.
+    /// The address of the page if the application is a browser; not parsed or validated.
     std::optional<QString> url;
 
     friend bool operator==(const CaptureSource &, const CaptureSource &) = default;

@@ -23,7 +23,7 @@ CompactText CompactText::fromUtf8(QByteArrayView utf8)
 QString CompactText::decoded(QByteArrayView utf8)
 {
     QString result = QString::fromUtf8(utf8);
-    // Qt takes U+FEFF at the start for a byte order mark and drops it.
+    // Qt treats a leading U+FEFF as a byte order mark and drops it.
     if (utf8.startsWith("\xEF\xBB\xBF"))
         result.prepend(QChar(QChar::ByteOrderMark));
     return result;

@@ -6,8 +6,8 @@
 
 namespace vesk {
 
-/// A text of a record as it waits in memory: in UTF-8, which takes half the room of a QString in most
-/// languages. Always well formed.
+/// A record's text as it is kept in memory: UTF-8, which takes half the space of a QString in most languages.
+/// Always well formed.
 class CompactText final
 {
 public:
@@ -15,7 +15,7 @@ public:
     /// Lone surrogates become U+FFFD.
     CompactText(const QString &text); // NOLINT(google-explicit-constructor): the same text.
 
-    /// What is no UTF-8 becomes U+FFFD.
+    /// Invalid UTF-8 becomes U+FFFD.
     [[nodiscard]] static CompactText fromUtf8(QByteArrayView utf8);
 
     /// Converted on every call.

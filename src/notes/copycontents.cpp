@@ -19,7 +19,7 @@ CopyContents CopyContents::read(const QString &path)
         return trouble.kind == StoreTrouble::Kind::Damaged
                || trouble.kind == StoreTrouble::Kind::NotADatabase;
     };
-    // Nobody writes to a finished copy, and a reader is to leave no file beside it.
+    // Immutable: nobody writes to a finished copy, and reading it must not leave companion files beside it.
     const QByteArray address = QUrl::fromLocalFile(path).toEncoded() + "?immutable=1";
     try {
         SQLite::Database connection(address.constData(), SQLite::OPEN_READONLY | SQLite::OPEN_URI);

@@ -19,10 +19,10 @@ namespace vesk {
 
 namespace {
 
-/// How long another program's lock is waited for. The user waits as long.
+/// How long to wait for another program's lock. The user waits just as long.
 constexpr int kBusyTimeoutMilliseconds = 250;
 
-/// Whether every record has an identity, and none has another's.
+/// Whether every record has an identity and no two share one.
 [[nodiscard]] bool haveIdentities(const Database::OpenResult &contents)
 {
     QSet<RecordId> ids;
@@ -54,7 +54,7 @@ Database::OpenResult Database::open(const QString &path, StoreLock::Use use,
         return result;
     }
     try {
-        // Only now: another process may have made the file while the lock was waited for.
+        // Checked only now, because another process may have created the file while we waited for the lock.
         result.error = file.isEmpty() ? file.create() : file.contentsObstacle();
     } catch (const SQLite::Exception &error) {
         result.error = file.describe(StoreTrouble::of(error.getExtendedErrorCode(),
@@ -66,7 +66,7 @@ Database::OpenResult Database::open(const QString &path, StoreLock::Use use,
         storefolder::isOnNetwork(file.folder()) ? Journal::Rollback : Journal::WriteAheadLog;
     StoreTrouble trouble;
     result.database = tryOpening(file, locked.lock, journal, result, trouble);
-    // The file system may not offer shared memory, which has no error of its own.
+    // The file system may not support shared memory. SQLite has no error code for that.
     if (!result.database && locked.lock && journal == Journal::WriteAheadLog
         && trouble.kind == StoreTrouble::Kind::Other)
         result.database = tryOpening(file, locked.lock, Journal::Rollback, result, trouble);
@@ -84,7 +84,7 @@ std::unique_ptr<Database> Database::tryOpening(const StoreFile &file, std::uniqu
     try {
         database.reset(new Database(file, journal));
         result.error = database->load(file, journal, result);
-        // The reason is not one of SQLite's, which another journal could change.
+        // SQLite did not report this one, so another journal mode would not help.
         trouble.kind = StoreTrouble::Kind::Damaged;
     } catch (const SQLite::Exception &error) {
         trouble = database ? database->troubleOf(error)
@@ -104,31 +104,31 @@ Database::Database(const StoreFile &file, storejournal::Kind journal)
     , m_connection(file.nativePath(), SQLite::OPEN_READWRITE, kBusyTimeoutMilliseconds)
     , m_place(file.path())
 {
-    // Until the file is accepted. Without a journal there is nothing to move, and closing tidies up
-    // the empty companions that opening has made.
+    // Until the file is accepted. Without a journal there is nothing to move, and closing removes the empty
+    // companion files that opening created.
     setCheckpointOnClose(!file.hasJournal());
     storejournal::prepare(m_connection, journal);
-    // What is deleted is overwritten, however the library was built.
+    // Overwrite what is deleted, whatever the library's default is.
     m_connection.exec("PRAGMA secure_delete = ON");
 }
 
 StoreError Database::load(const StoreFile &file, storejournal::Kind journal, OpenResult &result)
 {
     const bool hadJournal = file.hasJournal();
-    // SQLite falls back to reading alone without a word.
+    // SQLite falls back to read-only without reporting it.
     if (sqlite3_db_readonly(m_connection.getHandle(), "main") != 0)
         return file.describe(StoreTrouble::of(
             SQLITE_READONLY, QString::fromUtf8(sqlite3_errstr(SQLITE_READONLY)), 0, m_file.folder()));
     {
         SQLite::Transaction transaction(m_connection, SQLite::TransactionBehavior::IMMEDIATE);
-        // Looked at again, with the journal now.
+        // Checked again, because the journal counts now.
         const int version = schema::version(m_connection);
         if (version > schema::kVersion)
             return file.newerVersion(version);
         if (schema::applicationId(m_connection) != schema::kApplicationId)
             return file.damaged();
-        // Damage that reading meets by itself is found below; this finds it in the indexes, too, where
-        // it would make later saves fail, or write a note a second time.
+        // Reading the tables reports their damage below. This check also finds damaged indexes, which would
+        // make later saves fail or store a note twice.
         const std::string report = m_connection.execAndGet("PRAGMA integrity_check(1)").getString();
         if (report != "ok")
             return file.describe(StoreTrouble::ofCheck(QString::fromStdString(report), m_file.folder()));
@@ -142,12 +142,12 @@ StoreError Database::load(const StoreFile &file, storejournal::Kind journal, Ope
         transaction.commit();
     }
     storejournal::settle(m_connection, journal);
-    // What a crash has left may be there for reading and yet not on the disk: after a sync that failed,
-    // Linux takes the pages for clean, and no later sync of the journal writes them. So they are written
-    // once more, into the file, before anything is added to them. A failure leaves all as it was.
+    // After a crash, pages may be readable and yet not on the disk: when a sync fails, Linux marks the pages
+    // as clean, and no later sync of the journal writes them. So write them once more, into the file, before
+    // adding to them. If that fails, nothing is changed.
     if (hadJournal)
         static_cast<void>(m_connection.tryExec("PRAGMA wal_checkpoint(TRUNCATE)"));
-    // Everything is in memory already; the pages that were read need not be kept as well.
+    // Everything is in memory already, so do not keep the pages as well.
     m_connection.exec("PRAGMA cache_size = -512");
     m_connection.exec("PRAGMA shrink_memory");
     file.restrictAccess();
@@ -159,7 +159,7 @@ StoreError Database::load(const StoreFile &file, storejournal::Kind journal, Ope
 Database::Written Database::write(const std::vector<Change> &changes)
 {
     Written written;
-    // Otherwise SQLite would write into a file that is not found again, or beside another writer.
+    // Otherwise SQLite would write into a file that nobody will find again, or alongside another writer.
     if (m_place.look() == StorePlace::Finding::Unreachable)
         written.trouble = {.kind = StoreTrouble::Kind::Unreachable, .detail = u"its folder is not there"_s};
     else
@@ -182,8 +182,8 @@ Database::Written Database::writeInOneTransaction(const std::vector<Change> &cha
     try {
         SQLite::Transaction transaction(m_connection, SQLite::TransactionBehavior::IMMEDIATE);
         makeAll(changes, isApart, written);
-        // A transaction that changes nothing would leave the failed one in the journal, from where a
-        // crash brings it back.
+        // A transaction that changes nothing would leave the failed one in the journal, and a crash would
+        // bring it back.
         if (m_hasFailed)
             schema::touch(m_connection);
         transaction.commit();
@@ -207,7 +207,7 @@ void Database::makeAll(const std::vector<Change> &changes, bool isApart, Written
             makeOne();
         } catch (const SQLite::Exception &error) {
             const StoreTrouble trouble = troubleOf(error);
-            // Whatever else failed concerns all of them, and SQLite may have ended the transaction.
+            // Any other failure affects all of them, and SQLite may have ended the transaction.
             if (trouble.kind != StoreTrouble::Kind::RecordRefused)
                 throw;
             written.trouble = trouble;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How the notes get into a new file when that of a running Vesk is lost.
+// Moves the notes to a new file when a running Vesk loses its store.
 #include "notes/database.h"
 #include "notes/rescuedstores.h"
 
@@ -36,8 +36,8 @@ std::optional<StoreTrouble> Database::renewLock()
 
 void Database::rememberFile()
 {
-    // Only with a write-ahead log does nobody else write into the file, and a network file system may tell of
-    // this program's own changes late.
+    // Only a write-ahead log keeps everybody else from writing into the file, and a network file system may
+    // report our own changes late.
     if (m_journal != storejournal::Kind::WriteAheadLog)
         return;
     m_place.remember();
@@ -50,16 +50,16 @@ std::optional<StoreTrouble> Database::emptyJournal(Finding finding)
 {
     if (finding == Finding::Overwritten) {
         setCheckpointOnClose(false);
-        // It may have been copied along, and then belongs to the other file.
+        // The journal may have been copied along with the other file, and then belongs to it.
         if (m_journalPlace && m_journalPlace->look() == Finding::There)
             static_cast<void>(QFile::resize(StoreFile::journalOf(m_file.path()), 0));
         return std::nullopt;
     }
-    // Closing would remove a journal by its name, which may be another store's by now.
+    // Closing removes the journal by name, and another store may own that name by now.
     setCheckpointOnClose(false);
     try {
-        // A journal that stays behind would be taken for that of the next file of the name. What was moved
-        // away becomes whole by this.
+        // A journal left behind would be applied to the next file of this name. This also completes a file
+        // that was moved away.
         SQLite::Statement checkpoint(m_connection, "PRAGMA wal_checkpoint(TRUNCATE)");
         if (checkpoint.executeStep() && checkpoint.getColumn(0).getInt() != 0)
             return StoreTrouble{.kind = StoreTrouble::Kind::InUse, .detail = u"the journal is being read"_s};
@@ -73,7 +73,7 @@ Database::Anew Database::writeAnew(const std::vector<Change> &records)
 {
     const Finding finding = m_place.look();
     const bool isReplaced = finding == Finding::Replaced || finding == Finding::Overwritten;
-    // Found out before the journal goes, and where that leads nowhere.
+    // Looked up before the journal is removed, and needed even if that fails.
     const QString movedTo = finding == Finding::MovedAway ? m_place.currentPath() : QString();
     const StoreFile file(isReplaced ? rescuedstores::nextPath(m_lock->store()) : m_file.path());
     file.makeFolder();
@@ -87,7 +87,7 @@ Database::Anew Database::writeAnew(const std::vector<Change> &records)
         result.trouble = *trouble;
         return result;
     }
-    // Two connections must not share what has the same name and belongs to two files.
+    // Two connections must not share a name that belongs to two different files.
     if (!isReplaced)
         StoreFile::removeCompanions(file.path());
     OpenResult opened;
@@ -126,7 +126,7 @@ std::optional<StoreTrouble> Database::fill(const StoreFile &file, const std::vec
     } catch (const SQLite::Exception &error) {
         const StoreTrouble trouble =
             StoreTrouble::of(error.getExtendedErrorCode(), QString::fromUtf8(error.what()), 0, file.folder());
-        // That one record alone cannot be written is not an answer here.
+        // Here all records are written, so a single refused record counts as a general failure.
         if (trouble.kind == StoreTrouble::Kind::RecordRefused)
             return StoreTrouble{.kind = StoreTrouble::Kind::Lost, .detail = trouble.detail};
         return trouble;

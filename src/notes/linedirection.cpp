@@ -21,7 +21,7 @@ char32_t codePointAt(QStringView text, qsizetype position)
 
 std::optional<Qt::LayoutDirection> lineDirection(QStringView line)
 {
-    // What an isolate encloses does not count. One that is not closed lasts until the end of the line.
+    // Text inside an isolate does not count. An unclosed isolate lasts until the end of the line.
     int isolates = 0;
     for (qsizetype i = 0; i < line.size(); ++i) {
         const char32_t character = codePointAt(line, i);

@@ -11,8 +11,8 @@
 
 namespace vesk {
 
-/// The signals of a live query. A position is an index into the list; each signal tells of a list
-/// that already has the change.
+/// The signals of a live query. Positions are indexes into the list; when a signal is emitted, the list
+/// already contains the change.
 class LiveQueryBase : public QObject
 {
     Q_OBJECT
@@ -22,17 +22,17 @@ public:
 
 Q_SIGNALS:
     void inserted(qsizetype index);
-    /// The record is still alive while this is heard, and deleted after it.
+    /// The record is still alive during this signal and is deleted afterwards.
     void removed(qsizetype index, const vesk::RecordId &id);
-    /// The record that was at `from` is at `to` now, and has changed as well.
+    /// The record has moved from index `from` to index `to`, and has changed as well.
     void moved(qsizetype from, qsizetype to);
-    /// The record at this place has changed and has kept its place.
+    /// The record at this index has changed and kept its position.
     void changed(qsizetype index);
 };
 
-/// All records of one type in the store's order, newest first, kept up to date as they change.
-/// Records of the same date are ordered by identity, so that the order never depends on history.
-/// Places are found by binary search: a change costs O(log n) comparisons and one shift of pointers.
+/// All records of one type in the store's order, newest first, kept up to date as they change. Records with
+/// the same date are ordered by identity, so the order never depends on history. Positions are found by
+/// binary search: a change costs O(log n) comparisons and one shift of pointers.
 template <typename Record>
 class LiveQuery final : public LiveQueryBase
 {
@@ -48,14 +48,14 @@ public:
 
     [[nodiscard]] qsizetype count() const { return static_cast<qsizetype>(m_entries.size()); }
     [[nodiscard]] bool isEmpty() const { return m_entries.empty(); }
-    /// `index` is at least 0 and less than `count`.
+    /// `index` must be at least 0 and less than `count`.
     [[nodiscard]] Record &at(qsizetype index) const { return *m_entries[static_cast<size_t>(index)].record; }
     /// The newest record; null if there is none.
     [[nodiscard]] Record *first() const { return isEmpty() ? nullptr : &at(0); }
 
     // Called by the store only.
 
-    /// Takes over many records at once, without signals; for the start.
+    /// Takes over many records at once without signals, when the store is opened.
     void load(const std::vector<Record *> &records)
     {
         m_entries.reserve(records.size());

@@ -11,8 +11,8 @@ namespace {
 
 [[nodiscard]] QString displayed(QStringView line)
 {
-    // Each marker is looked for in what the one before it has left, so the order matters: "• # a"
-    // loses both, "☐ • a" keeps the bullet.
+    // Each marker is looked for in what the previous one has left, so the order matters: "• # a" loses both,
+    // "☐ • a" keeps the bullet.
     for (const QStringView marker : {kBullet, kUnticked, kTicked, kHeading}) {
         if (line.startsWith(marker))
             line = line.sliced(marker.size());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The rules of the markup that make a new text of an old one.
+// The markup rules that rewrite a text.
 #include "notes/markup.h"
 
 #include "notes/textlines.h"
@@ -8,8 +8,7 @@ namespace vesk::markup {
 
 namespace {
 
-/// Adds a line to a text that is built line by line; `isFirst` tells of the first one, which may be
-/// empty.
+/// Adds a line to a text that is built line by line. `isFirst` marks the first line, which may be empty.
 void addLine(QString &text, QStringView line, bool isFirst)
 {
     if (!isFirst)
@@ -56,7 +55,7 @@ QString expandMarkup(const QString &text)
 
 QString cleanChecklist(const QString &text)
 {
-    // The marker's space is at the end of such a line and so has been trimmed away.
+    // On such a line the marker's space is at the end, so it has been trimmed away.
     constexpr QStringView kEmptyUnticked = kUnticked.first(1);
     constexpr QStringView kEmptyTicked = kTicked.first(1);
     QString result;
@@ -78,7 +77,7 @@ QString toggledItem(const QString &text, qsizetype line)
             return text;
     } while (lines.number() < line);
 
-    // Only spaces and tabs are an indentation here, unlike where lines are trimmed.
+    // Unlike in trimming, only spaces and tabs count as indentation here.
     qsizetype box = lines.start();
     while (box < lines.end() && (text[box] == u' ' || text[box] == u'\t'))
         ++box;

@@ -13,12 +13,12 @@
 
 namespace vesk {
 
-/// One note. Made by its writer, then owned by the store that it is inserted into; equal to another
-/// exactly if the identity is the same.
+/// One note. Created by its writer, then owned by the store that it is inserted into. Two notes are equal
+/// exactly if their identities are.
 class Note final
 {
 public:
-    /// Every stored field, for making a note again as it was.
+    /// Every stored field, to recreate a note exactly.
     struct Fields
     {
         RecordId id;
@@ -32,20 +32,20 @@ public:
         std::optional<QString> sourceURL;
     };
 
-    /// A new note, made now, with an identity of its own. Takes the text as it is, but for lone
-    /// surrogates, which become U+FFFD here and in every other text that it is given.
+    /// A new note, created now, with a new identity. Keeps the text unchanged except for lone surrogates,
+    /// which become U+FFFD here and in every text that is set later.
     Note(const Clock &clock, const QString &text, const std::optional<CaptureSource> &source = std::nullopt);
     /// A note as it was stored.
     Note(const Clock &clock, Fields fields);
     Note(const Note &) = delete;
     Note &operator=(const Note &) = delete;
 
-    /// What the user has written. Sets `updatedAt` to now, also if the text is the same.
+    /// The text as the user wrote it. Sets `updatedAt` to now even if the text is unchanged.
     void setText(const QString &text);
-    /// Leaves `updatedAt` alone.
+    /// Does not change `updatedAt`.
     void setPinned(bool isPinned);
-    /// Ticks or unticks the checkbox of a line; leaves `updatedAt` alone. Does nothing if the line
-    /// has no box or does not exist.
+    /// Toggles the checkbox of a line without changing `updatedAt`. Does nothing if the line has no checkbox
+    /// or does not exist.
     void toggleItem(qsizetype line);
     /// Adds every line of `text` as a checkbox after the last one; sets `updatedAt` to now.
     void addChecklistItems(const QString &text);
@@ -71,7 +71,7 @@ public:
     [[nodiscard]] std::optional<Progress> progress() const { return markup::progress(text()); }
     [[nodiscard]] bool isBlank() const { return markup::isBlank(text()); }
 
-    /// The one who hears of changes; none before the note is inserted. Set by the store.
+    /// Receives this note's changes; null until the note is inserted. Set by the store.
     void setObserver(RecordObserver *observer) { m_observer = observer; }
 
     friend bool operator==(const Note &a, const Note &b) { return a.id() == b.id(); }

@@ -16,11 +16,11 @@ namespace vesk {
 
 namespace {
 
-/// How long a moment in which the file is locked, at the start or end of a writer, is waited out.
+/// How long to wait while a writer that is starting or ending has the file locked.
 constexpr int kBusyTimeoutMilliseconds = 1000;
 
 enum class Way {
-    /// Beside whoever writes. The first to open a store makes its journal, which takes space.
+    /// Alongside the writer. The first connection to a store creates its journal, which takes disk space.
     Shared,
     /// With the journal's index in memory. Fails if the store is open elsewhere.
     Alone,
@@ -33,13 +33,14 @@ NotesReading tryReading(const StoreFile &file, Way way)
     NotesReading reading;
     try {
         const bool isFileOnly = way == Way::FileOnly;
-        // Not read-only: the last to close a journalled file tidies its companions away, and may be this.
+        // Not read-only: the last connection to close a file with a journal removes its companion files, and
+        // that may be this one.
         SQLite::Database connection(isFileOnly ? file.immutableAddress() : file.nativePath(),
                                     isFileOnly ? SQLite::OPEN_READONLY | SQLite::OPEN_URI
                                                : SQLite::OPEN_READWRITE,
                                     kBusyTimeoutMilliseconds);
-        // Moving the journal into the file is left to the writer. If there was none, closing removes the
-        // empty one that opening makes.
+        // The writer moves the journal into the file. If there was no journal, closing removes the empty one
+        // that opening creates.
         sqlite3_db_config(connection.getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, file.hasJournal() ? 1 : 0,
                           nullptr);
         connection.exec("PRAGMA query_only = ON");
@@ -72,7 +73,7 @@ NotesReading readNotes(const QString &path)
     reading = tryReading(file, Way::Shared);
     if (reading.error.isEmpty() || reading.error.fault != StoreFault::Other)
         return reading;
-    // The disk may be full or read-only, and what is on it can be read all the same.
+    // The disk may be full or read-only, but its contents can still be read.
     NotesReading other = tryReading(file, file.isUnsettled() ? Way::Alone : Way::FileOnly);
     return other.error.isEmpty() ? std::move(other) : std::move(reading);
 }

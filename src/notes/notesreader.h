@@ -8,16 +8,16 @@
 
 namespace vesk {
 
-/// The notes of a store's file in no order, or why there are none. A file that was never there holds no
-/// notes, which is not an error; one that is missing although there are copies of it is.
+/// The notes of a store's file in no particular order, or why they cannot be read. A file that never existed
+/// holds no notes, which is not an error; a file that is missing although copies of it exist is one.
 struct NotesReading
 {
     std::vector<Note::Fields> notes = {};
     StoreError error = {};
 };
 
-/// Reads what is saved, for a program beside the one that has the store open: neither disturbs the
-/// other. Changes nothing in the file, and needs no space on the disk.
+/// Reads the saved notes while another program may have the store open; neither disturbs the other. Does not
+/// change the file and needs no disk space.
 [[nodiscard]] NotesReading readNotes(const QString &path);
 
 } // namespace vesk

@@ -19,7 +19,8 @@ namespace vesk {
 
 namespace {
 
-/// How long after a failed save the store tries again; doubled each time, up to the longest.
+/// How long after a failed save the store tries again. The delay doubles with each attempt, up to the
+/// longest.
 constexpr std::chrono::milliseconds kFirstRetryDelay = 5s;
 constexpr std::chrono::milliseconds kLongestRetryDelay = 60s;
 
@@ -57,7 +58,7 @@ NotesStore::NotesStore(std::unique_ptr<Database> database, Clock &clock)
 
 NotesStore::~NotesStore()
 {
-    // Nobody is left to be told of a failure; it has been logged.
+    // Nobody is left to report a failure to; it has been logged.
     if (hasPendingChanges() || m_database->isLost())
         static_cast<void>(write());
 }
@@ -127,7 +128,7 @@ NotesStore::Held<Record> NotesStore::take(Shelf<Record> &shelf, Record &record)
 {
     auto node = shelf.extract(record.id());
     Q_ASSERT(!node.empty() && node.mapped().record.get() == &record);
-    // What listeners still do to a record that is on its way out is of no concern here.
+    // Changes that listeners make to a record that is being removed no longer matter.
     record.setObserver(nullptr);
     return std::move(node.mapped());
 }
@@ -152,7 +153,7 @@ bool NotesStore::save()
         startRetrying();
     } else {
         m_isRetrying = false;
-        // What could not be written may have been removed instead.
+        // A record that could not be written may have been removed since.
         setProblem({});
     }
     Q_EMIT saveTried();
@@ -215,7 +216,7 @@ bool NotesStore::writeAnew()
     records.reserve(m_heldNotes.size() + m_heldPrompts.size());
     for (const auto &[id, held] : m_heldNotes) {
         records.emplace_back(held.record.get());
-        // As long as there is no new file, none may have it.
+        // Until there is a new file, none of the records may count as stored.
         m_pending.addChanged(RecordKind::Note, id);
     }
     for (const auto &[id, held] : m_heldPrompts) {
@@ -259,10 +260,10 @@ QCoro::Task<> NotesStore::retry(QPointer<NotesStore> store, Clock *clock, quint6
     std::chrono::milliseconds delay = kFirstRetryDelay;
     while (true) {
         co_await clock->sleep(delay);
-        // A save from elsewhere that has succeeded ends the round; a failure after it began another.
+        // A successful save from elsewhere ends the round; a later failure starts another one.
         if (!store || !store->m_isRetrying || store->m_retryRound != round)
             co_return;
-        // What this achieves shows in what is pending.
+        // The pending changes show whether this succeeded.
         static_cast<void>(store->save());
         if (!store || !store->hasPendingChanges())
             co_return;

@@ -23,14 +23,14 @@ namespace vesk {
 
 class Database;
 
-/// All notes and prompts: in memory, one object per identity, and in a file. Changes are taken at
-/// once and written by the next `save`.
+/// All notes and prompts: in memory, one object per identity, and in a file. Changes take effect at once and
+/// are written by the next `save`.
 class NotesStore final : public QObject, private RecordObserver
 {
     Q_OBJECT
 
 public:
-    /// Either a store or the reason why there is none.
+    /// Either a store or the reason why it could not be opened.
     struct OpenResult
     {
         std::unique_ptr<NotesStore> store;
@@ -38,7 +38,7 @@ public:
         StoreFault fault = StoreFault::None;
     };
 
-    /// For how long a store is opened.
+    /// How long the store will stay open.
     enum class Use {
         /// Until the user quits.
         Session,
@@ -46,60 +46,61 @@ public:
         Command,
     };
 
-    /// Where a user's store is: `Vesk/Notes.store` in the user's data folder.
+    /// The location of a user's store: `Vesk/Notes.store` in the user's data folder.
     [[nodiscard]] static QString standardPath();
 
-    /// Opens the store's file, or makes it and its folder if it is missing, readable by its user
-    /// only. A file that cannot be used (not a store, damaged, of a newer version, not writable,
-    /// locked) is left as it was, and one that is missing or empty although there are copies of it is not
-    /// made anew. While the store is open no other process can open it; one that has it open at the moment
-    /// is waited for up to `patience`. `clock` must outlive the store.
+    /// Opens the store's file. If it is missing, creates it and its folder, readable only by the user. A file
+    /// that cannot be used (not a store, damaged, of a newer version, not writable, locked) is left
+    /// unchanged, and one that is missing or empty although copies of it exist is not created anew. While the
+    /// store is open no other process can open it; if another process has it open now, waits for up to
+    /// `patience`. `clock` must outlive the store.
     [[nodiscard]] static OpenResult open(const QString &path, Clock &clock, Use use = Use::Session,
                                          std::chrono::milliseconds patience = {});
-    /// Tries once more to write what is pending.
+    /// Tries once more to write pending changes.
     ~NotesStore() override;
 
-    /// Takes a new record over; it is durable only after `save`.
+    /// Takes over a new record; it is durable only after `save`.
     Note &insert(std::unique_ptr<Note> note);
     Prompt &insert(std::unique_ptr<Prompt> prompt);
-    /// Takes the record out and deletes it. Live queries tell of it before it is gone.
+    /// Removes the record and deletes it. Live queries report it before it is deleted.
     void remove(Note &note);
     void remove(Prompt &prompt);
 
-    /// Writes everything pending, and returns once it is on the disk. False if a change since the last
-    /// save is not: nothing is lost, it stays pending in its order, `problem` says why, and the store tries
-    /// again by itself. A record that cannot be written does not keep the others from it. If the file was
-    /// lost meanwhile, everything is written to a new one, and `incident` says so.
+    /// Writes all pending changes and returns once they are on the disk. Returns false if any change since
+    /// the last save is not on the disk: nothing is lost, the changes stay pending in order, `problem` says
+    /// why, and the store retries on its own. A record that cannot be written does not hold up the others. If
+    /// the file has been lost meanwhile, everything is written to a new one, and `incident` says so.
     [[nodiscard]] bool save();
     [[nodiscard]] bool hasPendingChanges() const;
-    /// The texts that the file has not got as they are now, in the order in which they changed first.
+    /// The texts whose current state is not in the file, in the order in which they first changed.
     [[nodiscard]] QStringList unwrittenTexts() const;
-    /// Why something is not written, in one sentence for the user; empty if the last attempt succeeded.
+    /// Why something could not be written, as one sentence for the user; empty if the last attempt succeeded.
     [[nodiscard]] const QString &problem() const { return m_problem; }
-    /// What has happened to the file that the user should know although all is written, in a sentence or two:
-    /// it was lost while it was open, or notes from such a time lie beside it. Empty if nothing has.
+    /// What happened to the file that the user should know even though everything is written, in a sentence
+    /// or two: the file was lost while it was open, or notes from such an incident lie beside it. Empty if
+    /// nothing happened.
     [[nodiscard]] const QString &incident() const { return m_incident; }
 
     /// Null if there is no record of that kind with this identity.
     [[nodiscard]] Note *findNote(const RecordId &id) const;
     [[nodiscard]] Prompt *findPrompt(const RecordId &id) const;
 
-    /// By `updatedAt`, newest first.
+    /// Ordered by `updatedAt`, newest first.
     [[nodiscard]] LiveQuery<Note> &notes() { return m_notes; }
-    /// By `createdAt`, newest first.
+    /// Ordered by `createdAt`, newest first.
     [[nodiscard]] LiveQuery<Prompt> &prompts() { return m_prompts; }
 
-    /// Prompts that are done, in no order.
+    /// The prompts that are done, in no particular order.
     [[nodiscard]] QList<Prompt *> donePrompts() const;
 
 Q_SIGNALS:
     /// `problem` or `incident` has changed.
     void problemChanged();
-    /// An attempt to save has ended, by whomever it was made and however it went.
+    /// An attempt to save has ended, whoever made it and whether or not it succeeded.
     void saveTried();
 
 private:
-    /// A record with the date under which the live query has it.
+    /// A record with the date by which the live query currently sorts it.
     template <typename Record>
     struct Held
     {
@@ -115,21 +116,21 @@ private:
     void promptChanged(Prompt &prompt) override;
 
     void load(std::vector<Note::Fields> notes, std::vector<Prompt::Fields> prompts);
-    /// Puts a record on its shelf; `key` is the date that its live query goes by.
+    /// Adds a record to its shelf; `key` is the date that its live query sorts by.
     template <typename Record>
     Record &hold(Shelf<Record> &shelf, std::unique_ptr<Record> record, Date (Record::*key)() const);
-    /// Takes it down again.
+    /// Removes it from its shelf.
     template <typename Record>
     [[nodiscard]] Held<Record> take(Shelf<Record> &shelf, Record &record);
 
     /// Tries once; see `save`.
     [[nodiscard]] bool write();
-    /// Tries once to bring everything into a new file, after the file was lost.
+    /// Tries once to write everything to a new file after the file was lost.
     [[nodiscard]] bool writeAnew();
     void setProblem(const QString &problem);
-    /// Begins to try again by itself, unless it already does.
+    /// Starts retrying, unless it is already doing so.
     void startRetrying();
-    /// Tries until nothing is pending or `round` is no longer the current one. The store may die
+    /// Retries until nothing is pending or `round` is no longer current. The store may be destroyed
     /// meanwhile.
     static QCoro::Task<> retry(QPointer<NotesStore> store, Clock *clock, quint64 round);
 

@@ -58,7 +58,7 @@ void NoteTable::write(const Note &note)
     sqlvalues::bind(m_write, 9, note.sourceURL());
     m_write.exec();
     m_write.reset();
-    // The copy of a text of megabytes is not kept until the next write.
+    // Do not keep a copy of a possibly huge text until the next write.
     m_write.clearBindings();
 }
 

@@ -9,15 +9,15 @@
 
 namespace vesk {
 
-/// The store's table of notes, with its statements kept prepared. Owned by the database; throws what
-/// SQLiteCpp throws.
+/// The store's table of notes, with its prepared statements. Owned by the database; throws whatever SQLiteCpp
+/// throws.
 class NoteTable final
 {
 public:
     explicit NoteTable(SQLite::Database &connection);
 
     [[nodiscard]] std::vector<Note::Fields> load();
-    /// Adds the note, or replaces what is stored under its identity.
+    /// Adds the note or replaces the stored one with the same identity.
     void write(const Note &note);
     void remove(const RecordId &id);
 

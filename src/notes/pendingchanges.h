@@ -15,8 +15,8 @@ enum class RecordKind {
     Prompt,
 };
 
-/// Which records differ from the store's file, in the order of the first change of each. What has to
-/// be done about one follows from whether it still exists. Owned by the store.
+/// Which records differ from the store's file, in the order of each one's first change. Whether a record
+/// still exists decides whether it is to be written or removed. Owned by the store.
 class PendingChanges final
 {
 public:
@@ -24,9 +24,9 @@ public:
     {
         RecordKind kind;
         RecordId id;
-        /// Whether the file has this record, or may have it.
+        /// Whether the file contains this record, or may contain it.
         bool isStored;
-        /// Whether this change, as it is, could not be written while others could.
+        /// Whether the change in its present form could not be written while others could.
         bool isRefused = false;
     };
 
@@ -35,23 +35,23 @@ public:
         add({.kind = kind, .id = id, .isStored = false});
     }
     void addChanged(RecordKind kind, const RecordId &id) { add({.kind = kind, .id = id, .isStored = true}); }
-    /// A record that never came into the file is forgotten.
+    /// A record that never reached the file is forgotten.
     void addRemoved(RecordKind kind, const RecordId &id);
-    /// To be called when a save has failed: a crash may yet bring to light what it wrote, so that from
-    /// now on a removal has to be written as well.
+    /// Call this when a save has failed: after a crash, its records may turn up in the file all the same, so
+    /// from now on a removal must be written as well.
     void setMaybeStored();
-    /// To be called when the changes are in the file, but for those with the numbers in `refused`. Returns
-    /// whether all of these had been refused before, and not changed since.
+    /// Call this when the changes are in the file, except for those with the numbers in `refused`. Returns
+    /// whether all of these had been refused before and have not changed since.
     [[nodiscard]] bool settle(const QSet<quint64> &refused);
 
     void clear();
 
     [[nodiscard]] bool isEmpty() const { return m_changes.empty(); }
-    /// By a number that grows; the numbers have gaps.
+    /// Keyed by an increasing number; there are gaps.
     [[nodiscard]] const std::map<quint64, Change> &changes() const { return m_changes; }
 
 private:
-    /// If the record has changed before, its place stays, and what the file has.
+    /// If the record has changed before, it keeps its place and its `isStored`.
     void add(const Change &change);
 
     std::map<quint64, Change> m_changes;

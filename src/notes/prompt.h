@@ -8,8 +8,8 @@
 
 namespace vesk {
 
-/// A text for an AI chat, kept until it is used. Owned by the store that it is inserted into; equal
-/// to another exactly if the identity is the same.
+/// A text for an AI chat, kept until it is used. Owned by the store that it is inserted into. Two prompts are
+/// equal exactly if their identities are.
 class Prompt final
 {
 public:
@@ -20,7 +20,7 @@ public:
         Captured,
     };
 
-    /// Every stored field, for making a prompt again as it was.
+    /// Every stored field, to recreate a prompt exactly.
     struct Fields
     {
         RecordId id;
@@ -30,7 +30,7 @@ public:
         bool isCaptured = false;
     };
 
-    /// A new prompt, made now and not done. Lone surrogates of the text become U+FFFD.
+    /// A new prompt, created now and not done. Lone surrogates in the text become U+FFFD.
     Prompt(const Clock &clock, const QString &text, Origin origin);
     /// A prompt as it was stored.
     explicit Prompt(Fields fields);
@@ -45,7 +45,7 @@ public:
     [[nodiscard]] Date createdAt() const { return m_fields.createdAt; }
     [[nodiscard]] bool isCaptured() const { return m_fields.isCaptured; }
 
-    /// The one who hears of changes; none before the prompt is inserted. Set by the store.
+    /// Receives this prompt's changes; null until the prompt is inserted. Set by the store.
     void setObserver(RecordObserver *observer) { m_observer = observer; }
 
     friend bool operator==(const Prompt &a, const Prompt &b) { return a.id() == b.id(); }

@@ -9,15 +9,15 @@
 
 namespace vesk {
 
-/// The store's table of prompts, with its statements kept prepared. Owned by the database; throws
-/// what SQLiteCpp throws.
+/// The store's table of prompts, with its prepared statements. Owned by the database; throws whatever
+/// SQLiteCpp throws.
 class PromptTable final
 {
 public:
     explicit PromptTable(SQLite::Database &connection);
 
     [[nodiscard]] std::vector<Prompt::Fields> load();
-    /// Adds the prompt, or replaces what is stored under its identity.
+    /// Adds the prompt or replaces the stored one with the same identity.
     void write(const Prompt &prompt);
     void remove(const RecordId &id);
 

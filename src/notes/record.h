@@ -5,7 +5,7 @@
 
 namespace vesk {
 
-/// The stable identity of a note or prompt; the two share one space of identities.
+/// The stable identity of a note or prompt. Both share one identity space.
 using RecordId = QUuid;
 
 struct RecordIdHash
@@ -16,7 +16,7 @@ struct RecordIdHash
 class Note;
 class Prompt;
 
-/// Hears of every change of a record that it holds. Implemented by the store.
+/// Receives every change of the records that it holds. Implemented by the store.
 class RecordObserver
 {
 public:

@@ -16,7 +16,8 @@ namespace {
 }
 
 /// Its arguments are the folder, the names of the store and the copy, and a name for this occasion. The
-/// folder for what is set aside gets its final name last, which is how a second run knows.
+/// folder for the old files gets its final name last, which tells a second run that there is nothing left to
+/// do.
 constexpr auto kScript = R"(cd "$1"; [ -e "damaged/$4" ] && exit; )"
                          R"(cp "$3" "$2.restored" || { rm -f "$2.restored"; exit 1; }; )"
                          R"(sync "$2.restored"; mkdir -p "damaged/$4.part"; )"
@@ -31,7 +32,7 @@ QString restoringCommand(const QString &store, const QString &copy, Date now)
     const QFileInfo file(store);
     const auto milliseconds = std::chrono::floor<std::chrono::milliseconds>(now.time_since_epoch());
     const QString time = QDateTime::fromMSecsSinceEpoch(milliseconds.count()).toString(u"yyyyMMdd-hhmmss"_s);
-    // By sh, whichever shell the user pastes it into.
+    // Run by sh, whichever shell the user pastes it into.
     return u"sh -ec '%1' sh %2 %3 %4 %5"_s.arg(QLatin1StringView(kScript), quoted(file.path()),
                                                quoted(file.fileName()), quoted(QFileInfo(copy).fileName()),
                                                time);

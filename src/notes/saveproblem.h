@@ -7,8 +7,8 @@ namespace vesk {
 
 struct StoreTrouble;
 
-/// One sentence for the user about changes that could not be written because of `trouble`. `refused` is
-/// how many records are left out while the others are written; 0 if none is written.
+/// One sentence for the user about changes that could not be written because of `trouble`. `refused` is the
+/// number of records left out while the others are written; 0 if none is written.
 [[nodiscard]] QString describeSaveProblem(const StoreTrouble &trouble, qsizetype refused);
 
 } // namespace vesk

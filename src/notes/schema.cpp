@@ -11,7 +11,7 @@ namespace vesk::schema {
 
 namespace {
 
-/// Step n leads from version n to version n + 1. A step that was released is never changed.
+/// Step n migrates from version n to version n + 1. Never change a step that has been released.
 constexpr std::array<const char *, kVersion> kSteps{
     // Dates are microseconds since 1970 UTC; an id is a UUID without braces.
     R"(

@@ -7,11 +7,11 @@ namespace SQLite {
 class Database;
 }
 
-/// The tables of the store's file, their version, and the way from an older version to this one.
-/// Internal to this layer; everything here throws what SQLiteCpp throws.
+/// The tables of the store's file, their version, and the migration from older versions. Internal to this
+/// layer; everything here throws whatever SQLiteCpp throws.
 namespace vesk::schema {
 
-/// Marks a file as a store of Vesk, whatever it is called: "Vesk" in ASCII.
+/// Marks a file as a Vesk store, whatever its name: "Vesk" in ASCII.
 inline constexpr int kApplicationId = 0x5665736B;
 /// The version that this program reads and writes.
 inline constexpr int kVersion = 1;
@@ -21,13 +21,13 @@ inline constexpr int kVersion = 1;
 /// 0 for a file without tables.
 [[nodiscard]] int version(SQLite::Database &connection);
 
-/// Brings a file of an older version to `kVersion`, step by step. Has to be called in a transaction.
+/// Migrates a file of an older version to `kVersion`, step by step. Must be called within a transaction.
 void migrate(SQLite::Database &connection);
 
-/// How many notes and prompts there are.
+/// The number of notes and prompts.
 [[nodiscard]] int64_t countRecords(SQLite::Database &connection);
 
-/// Has the transaction write a page, and changes nothing.
+/// Makes the transaction write a page without changing anything.
 void touch(SQLite::Database &connection);
 
 } // namespace vesk::schema

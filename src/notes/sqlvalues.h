@@ -12,12 +12,12 @@
 
 #include <optional>
 
-/// How the values of records stand in the columns of the store. Internal to this layer.
+/// How the values of records are stored in columns. Internal to this layer.
 namespace vesk::sqlvalues {
 
 inline void bind(SQLite::Statement &statement, int index, const QString &text)
 {
-    // By its length, so that a NUL does not end it.
+    // With an explicit length, so that a NUL does not end the text.
     statement.bind(index, text.toStdString());
 }
 
@@ -65,7 +65,7 @@ inline void bind(SQLite::Statement &statement, int index, bool value)
     return column.isNull() ? std::nullopt : std::optional(text(column));
 }
 
-/// A null identity if the column holds none.
+/// A null identity if the column does not hold one.
 [[nodiscard]] inline RecordId id(const SQLite::Column &column)
 {
     return QUuid::fromString(QLatin1String(column.getText(), column.getBytes()));

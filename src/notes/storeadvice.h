@@ -9,18 +9,19 @@
 
 namespace vesk {
 
-/// What a user can do about a store that is damaged or gone, if there is a copy of it.
+/// What a user can do about a store that is damaged or missing, if there is a copy of it.
 struct StoreAdvice
 {
     Q_DECLARE_TR_FUNCTIONS(vesk::StoreAdvice)
 
 public:
-    /// Names the copy and says how to begin anew instead; empty if no copy helps against this fault.
+    /// Names the copy and explains how to start over instead; empty if a copy does not help against this
+    /// fault.
     QString message = {};
-    /// For a shell: puts the newest sound copy in the store's place. Empty if there is none.
+    /// A shell command that puts the newest sound copy in the store's place; empty if there is none.
     QString command = {};
 
-    /// Reads the copies, which takes its time. `now` becomes part of the command.
+    /// Reads the copies, which can take a while. `now` becomes part of the command.
     [[nodiscard]] static StoreAdvice on(const QString &store, StoreFault fault, Date now);
 };
 

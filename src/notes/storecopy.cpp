@@ -30,12 +30,12 @@ namespace vesk {
 namespace {
 
 constexpr auto kInterval = 24h;
-/// How long nobody has to have written anything.
+/// How long the store must have been left alone.
 constexpr auto kQuiet = 10min;
-/// After so long without a copy the user has to know.
+/// After this long without a copy, the user must be told.
 constexpr auto kOverdue = 72h;
 constexpr int kBusyTimeoutMilliseconds = 1000;
-/// The last space on a disk belongs to the notes.
+/// The last of the disk space is reserved for the notes.
 constexpr qint64 kSpaceLeft = qint64{64} << 20;
 
 [[nodiscard]] Date changedAt(const QString &path)
@@ -86,7 +86,7 @@ std::optional<Date> StoreCopy::madeAt() const
 bool StoreCopy::isDue(Date now) const
 {
     const Date written = std::max(changedAt(m_store), changedAt(StoreFile::journalOf(m_store)));
-    // A date far to come is left by a clock that was wrong, and says nothing.
+    // A date in the future comes from a clock that was wrong, so ignore it.
     const bool isQuiet = written != kDistantPast && std::chrono::abs(now - written) >= kQuiet;
     const std::optional<Date> made = madeAt();
     return isQuiet && (!made || *made > now || (now - *made >= kInterval && written > *made));
@@ -123,7 +123,7 @@ StoreCopy::Outcome StoreCopy::make() const
     }
     if (!StoreFile::sync(unfinished) || !StoreGenerations(m_store).add(unfinished, records))
         return outcomeOf(StoreTrouble::of(SQLITE_IOERR, {}, errno, file.path()));
-    // Not every file system can; then the earlier copy may come back with the power.
+    // Not every file system can do this; the earlier copy may then reappear after a power failure.
     static_cast<void>(StoreFile::sync(file.path()));
     return Outcome::Made;
 }
@@ -132,12 +132,12 @@ StoreCopy::Outcome StoreCopy::copyTo(const QString &unfinished, qint64 &records)
 {
     SQLite::Database source(StoreFile(m_store).nativePath(), SQLite::OPEN_READWRITE,
                             kBusyTimeoutMilliseconds);
-    // Moving the journal into the file is left to the store.
+    // The store moves its journal into the file itself.
     sqlite3_db_config(source.getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
     source.exec("PRAGMA query_only = ON");
     SQLite::Database copy(QFile::encodeName(unfinished).toStdString(), SQLite::OPEN_READWRITE);
     {
-        // All of the copy is of one moment, whatever is saved meanwhile.
+        // A consistent snapshot, whatever is saved meanwhile.
         const SQLite::Transaction snapshot(source, SQLite::TransactionBehavior::DEFERRED);
         if (schema::applicationId(source) != schema::kApplicationId
             || schema::version(source) != schema::kVersion)
@@ -147,7 +147,7 @@ StoreCopy::Outcome StoreCopy::copyTo(const QString &unfinished, qint64 &records)
         if (step != SQLITE_DONE)
             return outcomeOf(StoreTrouble::of(step, {}, 0, QFileInfo(m_store).path()));
     }
-    // One file, that can be moved alone.
+    // A single file that can be moved on its own.
     copy.exec("PRAGMA journal_mode = DELETE");
     const std::string report = copy.execAndGet("PRAGMA integrity_check(1)").getString();
     if (report != "ok")

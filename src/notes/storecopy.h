@@ -10,45 +10,46 @@
 
 namespace vesk {
 
-/// The copies of the store that lie beside it for the day on which the store is damaged or gone:
-/// `Notes.copy` and the generations before it, each an ordinary store in one file.
+/// The copies of the store that lie beside it in case the store is damaged or lost: `Notes.copy` and the
+/// generations before it, each an ordinary store in a single file.
 class StoreCopy final
 {
 public:
-    /// How an attempt to make one ended. Also the exit status of the process that makes it.
+    /// The result of an attempt to make a copy. Also the exit status of the process that makes it.
     enum class Outcome {
         Made = 0,
         Failed = 1,
-        /// The store has no records, or is not there.
+        /// The store has no records or does not exist.
         NothingToCopy = 3,
         DiskTooFull = 4,
         StoreDamaged = 5,
         NotAllowed = 6,
     };
-    /// The bytes that may still be written in a folder; nullopt if nobody knows.
+    /// How many bytes can still be written in a folder; nullopt if unknown.
     using FreeSpace = std::function<std::optional<qint64>(const QString &folder)>;
 
-    /// `store` is the path of the store that is copied.
+    /// `store` is the path of the store to copy.
     explicit StoreCopy(const QString &store);
     StoreCopy(const QString &store, FreeSpace freeSpace);
 
-    /// The path of the newest copy, whether or not it is there.
+    /// The path of the newest copy, whether or not it exists.
     [[nodiscard]] const QString &path() const { return m_path; }
     /// When the newest copy was made; nullopt if there is none.
     [[nodiscard]] std::optional<Date> madeAt() const;
 
-    /// Whether the newest copy is a day old, and the store is newer and has been left alone for a while.
+    /// Whether the newest copy is at least a day old, and the store is newer and has been left alone for a
+    /// while.
     [[nodiscard]] bool isDue(Date now) const;
-    /// Whether so long has passed without a copy that the user has to know. `now` is when an attempt has
+    /// Whether it has been so long since the last copy that the user must be told. `now` is when an attempt
     /// failed.
     [[nodiscard]] bool isOverdue(Date now) const;
 
-    /// Adds a copy of the store as it is. `Made` once it is on the disk, complete. Otherwise the earlier
-    /// copies are as they were. Reads and writes all of the store, which takes its time.
+    /// Adds a copy of the store's current state. Returns `Made` once the copy is complete and on the disk;
+    /// otherwise the earlier copies are unchanged. Reads and writes the whole store, which can take a while.
     [[nodiscard]] Outcome make() const;
 
 private:
-    /// Makes `unfinished` a sound copy. Throws what SQLiteCpp throws.
+    /// Turns `unfinished` into a sound copy. Throws whatever SQLiteCpp throws.
     [[nodiscard]] Outcome copyTo(const QString &unfinished, qint64 &records) const;
 
     QString m_store;

@@ -5,16 +5,17 @@
 
 namespace vesk {
 
-/// What kind of trouble keeps a store from being opened.
+/// The kinds of reasons why a store cannot be opened.
 enum class StoreFault {
     None,
-    /// SQLite calls the file corrupt or not a database, or a table is missing: only a copy of it helps.
+    /// SQLite says that the file is corrupt or not a database, or a table is missing: only a copy of the
+    /// store helps.
     Damaged,
-    /// The file is missing or empty although it was there once.
+    /// The file is missing or empty although it existed before.
     Missing,
     /// Another process has the store open.
     HeldElsewhere,
-    /// Anything else, such as a full disk or missing rights. The notes in the file are sound.
+    /// Anything else, such as a full disk or missing permissions. The notes in the file are sound.
     Other,
 };
 

@@ -32,14 +32,14 @@ namespace {
     return path + u"-shm"_s;
 }
 
-/// Renames a file unless there is one of the new name; false with `errno` set.
+/// Renames a file unless the new name is taken. Returns false, with `errno` set, on failure.
 [[nodiscard]] bool renameToFree(const QByteArray &from, const char *to)
 {
     if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to, RENAME_NOREPLACE) == 0)
         return true;
     if (errno != EINVAL && errno != ENOSYS)
         return false;
-    // Network file systems do not know that, but most have hard links.
+    // Network file systems do not support the flag, but most have hard links.
     if (::link(from.constData(), to) == 0)
         return true;
     if (errno != EPERM && errno != ENOSYS && errno != EOPNOTSUPP)
@@ -51,7 +51,7 @@ namespace {
     return ::rename(from.constData(), to) == 0;
 }
 
-/// No database is smaller.
+/// The smallest page size, so no database is smaller.
 constexpr qint64 kSmallestPage = 512;
 
 } // namespace
@@ -108,7 +108,7 @@ bool StoreFile::makePrivate(const QString &path)
         ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (descriptor < 0)
         return false;
-    // Whatever the process's mask has taken away.
+    // Whatever the process's umask has removed.
     ::fchmod(descriptor, S_IRUSR | S_IWUSR);
     ::close(descriptor);
     return true;
@@ -134,8 +134,8 @@ StoreError StoreFile::obstacle(Access access) const
             return {.text = tr("The file “%1” is a folder.").arg(m_path)};
         if (!file.isFile())
             return {.text = tr("The file “%1” is not an ordinary file.").arg(m_path)};
-        // Asked with the effective user, as SQLite will open it. File systems that are mounted read-only
-        // answer here as well.
+        // Checks the effective user, as SQLite will open the file with. File systems that are mounted
+        // read-only are detected here too.
         if (::faccessat(AT_FDCWD, nativePath().c_str(), R_OK, AT_EACCESS) != 0)
             return {.text = tr("The file “%1” cannot be read (%2).").arg(m_path, qt_error_string(errno))};
         if (access == Access::ReadAndWrite
@@ -144,14 +144,14 @@ StoreError StoreFile::obstacle(Access access) const
     }
     if (!isEmpty())
         return {};
-    // SQLite would throw the journal away, and with it the last thing that is left of the notes.
+    // SQLite would discard the journal, and with it the last trace of the notes.
     for (const QString &journal : {journalOf(m_path), rollbackJournalOf(m_path)}) {
         if (QFileInfo(journal).size() > 0)
             return {.text = tr("The file “%1” is missing or empty, but its journal “%2” is not.")
                                 .arg(m_path, journal),
                     .fault = StoreFault::Missing};
     }
-    // It was there once. Beginning anew would look as if all notes had been deleted, and the next copy
+    // The store existed before. Starting over would look as if all notes had been deleted, and the next copy
     // would be one of the new file.
     if (!StoreGenerations(m_path).found().isEmpty())
         return {.text = file.exists()
@@ -222,7 +222,7 @@ StoreError StoreFile::create() const
     if (!makeUnfinished(unfinished, fillNothing)
         || ::rename(QFile::encodeName(unfinished).constData(), nativePath().c_str()) != 0)
         return {.text = tr("The file “%1” cannot be created (%2).").arg(m_path, qt_error_string(errno))};
-    // The entry of a renamed file is to survive a power failure too. Not every file system can.
+    // The entry of the renamed file must survive a power failure too. Not every file system can do this.
     static_cast<void>(sync(folder()));
     return {};
 }

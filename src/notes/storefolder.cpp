@@ -16,7 +16,8 @@ namespace vesk::storefolder {
 
 namespace {
 
-/// Of statfs(2). FUSE is here because sshfs and its like are FUSE; local ones only lose a little speed.
+/// Magic numbers from statfs(2). FUSE is listed because sshfs and the like use it; local FUSE file systems
+/// only lose a little speed.
 constexpr std::array<quint32, 16> kNetworkFileSystems{
     0x6969,     // NFS
     0x517B,     // SMB
@@ -36,7 +37,7 @@ constexpr std::array<quint32, 16> kNetworkFileSystems{
     0xBACBACBC, // VMware's shared folders
 };
 
-/// A file without a name, or one that loses its name at once where the file system does not know that.
+/// A file without a name; where the file system does not support that, a file whose name is removed at once.
 int openNameless(const QByteArray &folder)
 {
     const int descriptor = ::open(folder.constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
@@ -61,14 +62,14 @@ std::optional<qint64> freeBytes(const QString &folder)
 
 int tryWriting(const QString &folder)
 {
-    // More than what a file system may keep in the inode itself.
+    // Larger than what a file system may store in the inode itself.
     static constexpr std::array<char, 65'536> kBytes{};
     const int descriptor = openNameless(QFile::encodeName(folder));
     if (descriptor < 0)
         return errno;
     int error = 0;
     const ssize_t written = ::write(descriptor, kBytes.data(), kBytes.size());
-    // Some file systems find out only when they sync.
+    // Some file systems report errors only on sync.
     if (written < 0 || ::fsync(descriptor) != 0)
         error = errno;
     else if (static_cast<size_t>(written) < kBytes.size())

@@ -18,7 +18,7 @@ namespace {
 
 [[nodiscard]] bool rename(const QString &from, const QString &to)
 {
-    // Unlike Qt's, this replaces what is there.
+    // Unlike QFile::rename, this replaces an existing file.
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
 }
 
@@ -69,7 +69,7 @@ QList<QString> StoreGenerations::found() const
 QList<int> StoreGenerations::superfluous(const QList<int> &numbers, qint64 records) const
 {
     QList<int> result;
-    // The new one is the first.
+    // Counts the new copy.
     qsizetype kept = 1;
     for (const int number : numbers) {
         const CopyContents contents = CopyContents::read(nameOf(number));
@@ -92,7 +92,7 @@ bool StoreGenerations::add(const QString &path, qint64 records) const
     int free = 0;
     while (present.contains(free))
         ++free;
-    // Each goes one place on, into the free one; what is to be removed there is overwritten.
+    // Each copy moves up one number, into the gap; a copy that is to be removed there is overwritten.
     for (int number = free; number > 0; --number) {
         if (!rename(nameOf(number - 1), nameOf(number)))
             return false;

@@ -12,7 +12,7 @@ namespace vesk::storejournal {
 
 void prepare(SQLite::Database &connection, Kind kind)
 {
-    // For itself alone, a connection has the log's index in its own memory.
+    // With exclusive locking, a connection keeps the log's index in its own memory.
     if (kind == Kind::Rollback)
         connection.exec("PRAGMA locking_mode = EXCLUSIVE");
 }
@@ -22,15 +22,15 @@ void settle(SQLite::Database &connection, Kind kind)
     if (kind == Kind::WriteAheadLog
         && connection.execAndGet("PRAGMA journal_mode = WAL").getString() == "wal") {
         connection.exec("PRAGMA synchronous = FULL");
-        // The first access is what needs the shared memory.
+        // The first access is what needs shared memory.
         static_cast<void>(schema::version(connection));
         return;
     }
     connection.exec("PRAGMA journal_mode = DELETE");
-    // Also syncs the folder, which has to forget the journal before a power cut.
+    // EXTRA also syncs the folder: the journal's removal must survive a power failure.
     connection.exec("PRAGMA synchronous = EXTRA");
     connection.exec("PRAGMA locking_mode = NORMAL");
-    // The lock is given up with the next access, so that others can read beside this program.
+    // The lock is released with the next access, so that others can read alongside this program.
     static_cast<void>(schema::version(connection));
 }
 

@@ -5,24 +5,25 @@ namespace SQLite {
 class Database;
 }
 
-/// How SQLite keeps a change safe until it is in the file. Internal to this layer; everything here throws
-/// what SQLiteCpp throws.
+/// How SQLite protects a change until it is in the file. Internal to this layer; everything here throws
+/// whatever SQLiteCpp throws.
 namespace vesk::storejournal {
 
 enum class Kind {
-    /// A write-ahead log: one sync a change, and readers beside the writer. Its index is memory that all
-    /// processes share, which not every file system offers and none shares between machines.
+    /// A write-ahead log: one sync per change, and readers can work alongside the writer. Its index is in
+    /// memory shared by all processes, which not every file system supports and which never works across
+    /// machines.
     WriteAheadLog,
-    /// A rollback journal: slower, and good for every file system.
+    /// A rollback journal: slower, but works on every file system.
     Rollback,
 };
 
-/// Has to be called before anything is read. A file that was last used with a write-ahead log is then
-/// read without shared memory if `kind` is not that.
+/// Must be called before anything is read. Unless `kind` is a write-ahead log, a file last used with one is
+/// then read without shared memory.
 void prepare(SQLite::Database &connection, Kind kind);
 
-/// Has the connection use `kind` from now on, or a rollback journal where SQLite answers that it cannot.
-/// Every transaction is on the disk once it is committed.
+/// Makes the connection use `kind` from now on, or a rollback journal if SQLite answers that it cannot. Every
+/// transaction is on the disk once it is committed.
 void settle(SQLite::Database &connection, Kind kind);
 
 } // namespace vesk::storejournal

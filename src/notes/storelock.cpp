@@ -21,7 +21,7 @@ namespace vesk {
 namespace {
 
 constexpr auto kPause = 20ms;
-/// How long a session that has just been told to quit, or was killed, may still have the lock.
+/// How long a session that has just been told to quit, or was killed, may still hold the lock.
 constexpr std::chrono::milliseconds kEnding = 2s;
 constexpr auto kSession = "session"_L1;
 constexpr auto kCommand = "command"_L1;
@@ -82,7 +82,7 @@ int StoreLock::openFile(const QString &path)
     const int made = ::open(name.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (made < 0)
         return errno == EEXIST ? ::open(name.constData(), O_RDWR | O_CLOEXEC) : -1;
-    // The process's mask may have taken that away.
+    // The process's umask may have removed these permissions.
     ::fchmod(made, S_IRUSR | S_IWUSR);
     return made;
 }
@@ -92,10 +92,10 @@ bool StoreLock::tryLocking(int descriptor)
     struct flock whole = {};
     whole.l_type = F_WRLCK;
     whole.l_whence = SEEK_SET;
-    // A lock of the open file, not of the process: closing another descriptor of it does not end it.
+    // This lock belongs to the open file, not to the process: closing another descriptor does not release it.
     if (::fcntl(descriptor, F_OFD_SETLK, &whole) == 0)
         return true;
-    // Some kernels that stand in for Linux only know locks of a process.
+    // Some kernels that emulate Linux only support process locks.
     return errno == EINVAL && ::fcntl(descriptor, F_SETLK, &whole) == 0;
 }
 
@@ -121,7 +121,7 @@ void StoreLock::writeHolder() const
         u"%1 %2 %3\n"_s.arg(::getpid())
             .arg(host.isEmpty() ? u"localhost"_s : host, m_use == Use::Session ? kSession : kCommand)
             .toUtf8();
-    // On a full disk nobody learns who has the lock, but it binds all the same.
+    // On a full disk nobody can see who holds the lock, but it still works.
     if (::ftruncate(m_descriptor, 0) == 0)
         static_cast<void>(!::pwrite(m_descriptor, line.constData(), static_cast<size_t>(line.size()), 0));
 }

@@ -13,9 +13,9 @@
 
 namespace vesk {
 
-/// Who may write the store: a lock on the file `Notes.lock` beside it, held as long as this object lives.
-/// A process that dies gives it up, and a lock on a network file system binds other machines too. The
-/// file stays; it says who had the lock last.
+/// The right to write the store: a lock on the file `Notes.lock` beside it, held as long as this object
+/// lives. It is released when the process dies, and on a network file system it excludes other machines too.
+/// The file stays; it says who held the lock last.
 class StoreLock final
 {
     Q_DECLARE_TR_FUNCTIONS(vesk::StoreLock)
@@ -24,25 +24,25 @@ public:
     enum class Use {
         /// Held until the user quits.
         Session,
-        /// Held for the moment in which a command adds something.
+        /// Held briefly while a command adds something.
         Command,
     };
     struct Result
     {
         std::unique_ptr<StoreLock> lock;
-        /// Why there is no lock.
+        /// Why the lock could not be acquired.
         StoreError error = {};
     };
 
-    /// Waits up to `patience` for another process to give the lock up; for one that holds it for a session
-    /// no longer than it may take to end.
+    /// Waits up to `patience` for another process to release the lock. If that process holds it for a
+    /// session, waits no longer than the session may take to end.
     [[nodiscard]] static Result acquire(const QString &store, Use use, std::chrono::milliseconds patience);
     ~StoreLock();
     Q_DISABLE_COPY_MOVE(StoreLock)
 
-    /// Whether the file that is locked is still there under its name.
+    /// Whether the locked file still exists under its name.
     [[nodiscard]] bool isInPlace() const;
-    /// The path of the store that it was acquired for.
+    /// The path of the store that the lock was acquired for.
     [[nodiscard]] const QString &store() const { return m_store; }
     [[nodiscard]] Use use() const { return m_use; }
 
@@ -62,9 +62,9 @@ private:
     }
 
     [[nodiscard]] static QString pathFor(const QString &store);
-    /// Makes the file if it is missing; -1, with `errno` set, if that fails.
+    /// Creates the file if it is missing. Returns -1, with `errno` set, on failure.
     [[nodiscard]] static int openFile(const QString &path);
-    /// True, or false with `errno` set.
+    /// Returns false, with `errno` set, on failure.
     [[nodiscard]] static bool tryLocking(int descriptor);
     [[nodiscard]] static std::optional<Holder> readHolder(int descriptor);
     [[nodiscard]] static StoreError describe(const QString &path, const std::optional<Holder> &holder);

@@ -17,7 +17,7 @@ namespace vesk {
 
 namespace {
 
-/// The device of the innermost folder of `path` that exists.
+/// The device of the innermost existing folder of `path`.
 std::optional<dev_t> deviceAt(const QString &path)
 {
     QString folder = path;

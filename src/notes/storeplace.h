@@ -10,7 +10,8 @@
 
 namespace vesk {
 
-/// Knows the store's file for what it is, not by its name, while the file is open. Internal to this layer.
+/// Identifies the store's file by device and inode rather than by name while it is open. Internal to this
+/// layer.
 class StorePlace final
 {
 public:
@@ -19,31 +20,31 @@ public:
         There,
         /// It no longer has a name anywhere.
         Deleted,
-        /// It has another name now.
+        /// It has a different name now.
         MovedAway,
         /// Another file has its name.
         Replaced,
-        /// Somebody else has written into it since `remember`, as by copying another file over it.
+        /// Somebody else has written into it since `remember`, for example by copying another file over it.
         Overwritten,
-        /// The folder cannot be looked at, or its file system is no longer there.
+        /// The folder cannot be read, or its file system is gone.
         Unreachable,
     };
 
-    /// `path` must name the file, and all links in it must have been followed.
+    /// `path` must name the file, with all links already followed.
     explicit StorePlace(const QString &path);
     ~StorePlace();
     Q_DISABLE_COPY_MOVE(StorePlace)
 
-    /// To be called when the file is as this program has left it, if nobody else may write into it.
+    /// Call this when the file is as this program left it, if nobody else may write into it.
     void remember();
 
     [[nodiscard]] Finding look() const;
-    /// Where a file that was moved away is; empty if the system does not say.
+    /// The current path of a file that was moved away; empty if the system does not say.
     [[nodiscard]] QString currentPath() const;
 
 private:
     QString m_path;
-    // Opened for its identity alone: closing it leaves SQLite's locks alone. -1 if that failed.
+    // Used only to identify the file: closing it does not release SQLite's locks. -1 if opening it failed.
     int m_descriptor;
     dev_t m_device = 0;
     ino_t m_inode = 0;

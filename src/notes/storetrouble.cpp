@@ -38,7 +38,7 @@ Kind kindOf(int systemError)
 StoreTrouble ofSystem(int systemError, Kind otherwise, const QString &message, const QString &folder)
 {
     int error = systemError;
-    // SQLite does not always keep what the system said, least of all about its shared memory.
+    // SQLite does not always keep the system's error, especially for its shared memory.
     if (kindOf(error) == Kind::Other) {
         const int tried = storefolder::tryWriting(folder);
         error = tried != 0 ? tried : error;
@@ -61,7 +61,7 @@ StoreTrouble StoreTrouble::of(int code, const QString &message, int systemError,
     case SQLITE_CORRUPT:
         return {.kind = Kind::Damaged, .detail = message};
     case SQLITE_ERROR:
-        // A table or a column is missing.
+        // A table or column is missing.
         if (message.startsWith("no such "_L1) || message.contains("has no column"_L1))
             return {.kind = Kind::Damaged, .detail = message};
         return {.kind = Kind::Other, .detail = message};

@@ -5,7 +5,7 @@
 
 namespace vesk {
 
-/// What went wrong when the store's file was opened or written, by its name.
+/// What went wrong when the store's file was opened or written.
 struct StoreTrouble
 {
     enum class Kind {
@@ -18,7 +18,7 @@ struct StoreTrouble
         NotAllowed,
         /// The file is not in its place, and no new one could be put there.
         Lost,
-        /// The folder of the file, or its file system, is not there.
+        /// The file's folder, or its file system, does not exist.
         Unreachable,
         /// One record cannot be written; the others can.
         RecordRefused,
@@ -26,14 +26,14 @@ struct StoreTrouble
     };
 
     Kind kind = Kind::Other;
-    /// What the system calls it, for a user who asks others about it.
+    /// The system's own term for it, so that the user can ask others about it.
     QString detail = {};
 
-    /// From SQLite's extended result code, its message and the `errno` that it met, 0 if it does not
-    /// know. Where these leave open what is wrong, a trial file is written in `folder`.
+    /// Classifies SQLite's extended result code, its message and the `errno` that it saw (0 if unknown). If
+    /// these are not conclusive, tries to write a file in `folder`.
     [[nodiscard]] static StoreTrouble of(int code, const QString &message, int systemError,
                                          const QString &folder);
-    /// From what integrity_check has reported, which is not "ok". That it could not read is not damage.
+    /// Classifies a report of integrity_check other than "ok". Being unable to read the file is not damage.
     [[nodiscard]] static StoreTrouble ofCheck(const QString &report, const QString &folder);
 
     friend bool operator==(const StoreTrouble &, const StoreTrouble &) = default;

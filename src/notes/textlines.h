@@ -7,7 +7,7 @@
 
 namespace vesk {
 
-// What the markup takes for white space and for a line. Internal to this layer.
+// What counts as white space and as a line in the markup. Internal to this layer.
 
 /// Space, tab and Unicode's other space separators.
 [[nodiscard]] inline bool isHorizontalSpace(QChar c)
@@ -15,7 +15,7 @@ namespace vesk {
     return c == u' ' || c == u'\t' || (c.unicode() >= 0xA0 && c.category() == QChar::Separator_Space);
 }
 
-/// Ends a line on the screen. Of these only the line feed separates raw lines.
+/// Whether the character breaks a line on the screen. Only the line feed separates raw lines.
 [[nodiscard]] inline bool isLineBreak(QChar c)
 {
     return (c >= u'\n' && c <= u'\r') || c == u'\u0085' || c == u'\u2028' || c == u'\u2029';
@@ -26,7 +26,7 @@ namespace vesk {
     return isHorizontalSpace(c) || isLineBreak(c);
 }
 
-/// `text` without what `isDropped` says at both ends.
+/// `text` without the characters at both ends that `isDropped` accepts.
 template <typename Predicate>
 [[nodiscard]] QStringView trimmedView(QStringView text, Predicate isDropped)
 {
@@ -42,8 +42,8 @@ template <typename Predicate>
     return line.startsWith(markup::kUnticked) || line.startsWith(markup::kTicked);
 }
 
-/// Walks over the raw lines of a text, which line feeds separate, without copying any: one for an
-/// empty text, and an empty last one after a final line feed. The text has to outlive the walk.
+/// Iterates over the raw lines of a text, which are separated by line feeds, without copying any. An empty
+/// text has one line, and a final line feed is followed by an empty line. The text must outlive this object.
 class RawLines final
 {
 public:
@@ -52,7 +52,7 @@ public:
     {
     }
 
-    /// Goes to the next line. False, once, when there is none left.
+    /// Advances to the next line. Returns false, once, at the end.
     bool next()
     {
         if (m_nextStart > m_text.size())
