@@ -21,7 +21,7 @@ namespace {
 constexpr std::chrono::milliseconds kDeadline{300};
 constexpr int kMaximumDepth = 40;
 
-/// What the search and the deadline race for: the first that settles it lets the caller go on.
+/// The search and the deadline race for this; whichever settles it first lets the caller continue.
 struct Answer
 {
     bool isSettled = false;
@@ -77,7 +77,7 @@ QCoro::Task<> searchShown(Accessibility *accessibility, qint64 processIdentifier
 
 QCoro::Task<> search(Accessibility *accessibility, qint64 processIdentifier, std::shared_ptr<Answer> answer)
 {
-    // The outermost web area is the page; one inside it is a frame, whose address nobody knows.
+    // The outermost web area is the page. One inside it is a frame, whose address the user does not know.
     std::optional<AccessibleElement> page;
     std::optional<AccessibleElement> element =
         co_await accessibility->copyElement(Accessibility::applicationElement(processIdentifier),
@@ -106,7 +106,7 @@ QCoro::Task<std::optional<QString>> settled(Clock *clock, std::shared_ptr<Answer
     co_return std::as_const(answer->address);
 }
 
-/// Whether a text can be an address without its scheme. Most texts are not, and cost no search.
+/// Whether a text could be an address without its scheme. Most texts could not, and need no search.
 bool isPerhapsAddress(const QString &text)
 {
     const bool isWord = std::ranges::none_of(text, [](QChar unit) { return unit.isSpace(); });
@@ -130,7 +130,7 @@ QCoro::Task<std::optional<QString>> wholeAddress(Accessibility *accessibility, C
 {
     if (!isPerhapsAddress(text))
         co_return std::nullopt;
-    // Within a page, such a text is a text like any other.
+    // Inside a page, such a text is ordinary text.
     if (co_await readPageAddress(accessibility, clock, processIdentifier))
         co_return std::nullopt;
     const auto answer = std::make_shared<Answer>();

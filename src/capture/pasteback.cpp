@@ -22,7 +22,7 @@ namespace {
 
 constexpr auto kAwayPeriod = 25ms;
 constexpr int kAwayWaits = 40;
-/// An application that has just come forward needs a moment until it takes keys.
+/// An application that has just come to the front needs a moment before it accepts keys.
 constexpr auto kSettling = 60ms;
 
 } // namespace
@@ -72,8 +72,8 @@ QCoro::Task<> PasteBack::pasteWhenAway()
 
 bool PasteBack::isWanted(int paste, bool isBack) const
 {
-    // The user may come to Vesk again, or go elsewhere from where the text was to go. Pasted into Vesk itself
-    // it would change a note.
+    // The user may have returned to Vesk, or left the window that the text was meant for. Pasting into Vesk
+    // itself would change a note.
     return m_paste == paste && !m_needs.application.isPreviousWindowClosed()
            && (isBack ? isAway() : !isFrontmost());
 }

@@ -66,9 +66,9 @@ void PasteboardWatcher::markRestored(const Standing &standing)
 
 QCoro::Task<std::optional<QString>> PasteboardWatcher::recentCopy(std::chrono::milliseconds maximumAge)
 {
-    // Content that was not seen yet is newer than the last look.
+    // Make sure that contents that have just arrived are recorded first.
     look();
-    // The time that the owner takes to answer does not count.
+    // Measured before asking, so that a slow owner does not make the contents look older.
     const std::chrono::microseconds asked = m_clock.monotonic();
     const auto isRecent = [this, asked, maximumAge] {
         return !holdsOwn() && m_changedAt && asked - *m_changedAt <= maximumAge;
@@ -83,7 +83,8 @@ QCoro::Task<std::optional<QString>> PasteboardWatcher::recentCopy(std::chrono::m
     look();
     if (m_changeCount == count)
         compareWithPrevious(*string);
-    // This program may have written while the owner was asked, or the content turns out to be older.
+    // This program may have written to the pasteboard while the owner was asked, or the contents may turn out
+    // to be older than they looked.
     if (!isRecent())
         co_return std::nullopt;
     const QString text = markup::trimmed(*string);
@@ -97,7 +98,7 @@ void PasteboardWatcher::look()
     const qint64 count = m_pasteboard.changeCount();
     if (count == m_changeCount)
         return;
-    // An owner that goes leaves nothing behind; the next one may bring the same content again.
+    // An owner that exits leaves the pasteboard empty; its successor may offer the same contents again.
     if (m_hasContents)
         m_previous = current();
     m_changeCount = count;
@@ -122,13 +123,14 @@ QCoro::Task<> PasteboardWatcher::recognise()
 void PasteboardWatcher::compareWithPrevious(const QString &text)
 {
     using Claim = Pasteboard::Claim;
-    // Some clipboard managers leave out white space at the ends.
+    // Some clipboard managers drop white space at the ends.
     m_fingerprint = qHash(markup::trimmed(text), static_cast<size_t>(QHashSeed::globalSeed()));
     if (!m_previous)
         return;
     const Claim claim = m_pasteboard.origin().claim;
     const bool isSame = m_previous->fingerprint == m_fingerprint;
-    // An owner that goes before its text was known is followed by a manager at once, by users later.
+    // When an owner exits before its text was read, a clipboard manager takes over at once; a user copies
+    // later.
     const bool isPerhapsSame = claim == Claim::AfterLoss && !m_previous->fingerprint;
     if (claim == Claim::Ordinary || !(isSame || isPerhapsSame))
         return;

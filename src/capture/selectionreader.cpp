@@ -18,17 +18,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A text copied longer ago than this was not meant for the command of now.
+/// A text copied longer ago than this was not meant for the current command.
 constexpr std::chrono::seconds kRecentCopyAge{8};
 
-/// The text without white space at its ends; none if that leaves nothing.
+/// The text trimmed of white space; nullopt if nothing is left.
 std::optional<QString> nonBlank(const std::optional<QString> &text)
 {
     const QString trimmed = text ? markup::trimmed(*text) : QString();
     return trimmed.isEmpty() ? std::nullopt : std::optional(trimmed);
 }
 
-/// Whether a text is one line with its line break.
+/// Whether the text is a single line that ends in a line break.
 bool isWholeLine(const QString &text)
 {
     const qsizetype end = text.endsWith("\r\n"_L1) ? text.size() - 2 : text.size() - 1;
@@ -86,7 +86,7 @@ QCoro::Task<SelectionReader::Reading> SelectionReader::readSelection()
     const EventPoster::Target target = m_needs.poster.target();
     m_wasPasteboardInTheWay = false;
     const SelectedText selected = co_await m_needs.accessibility.selectedText();
-    // The user may have withdrawn the trust meanwhile.
+    // The user may have withdrawn permission meanwhile.
     if (self.isNull() || !m_needs.accessibility.isProcessTrusted())
         co_return Reading();
     std::optional<QString> text = co_await readSelected(target, selected);
@@ -115,14 +115,13 @@ QCoro::Task<std::optional<QString>> SelectionReader::readSelected(EventPoster::T
             co_await wholeAddress(&m_needs.accessibility, &m_needs.clock, process, *text);
         co_return address ? address : text;
     }
-    // An application that says that nothing is selected is not made to copy: it might copy the line
-    // that the caret is in.
+    // Do not make an application copy if it reports that nothing is selected: it might copy the caret's line.
     if (selected.finding == SelectedText::Finding::Nothing)
         co_return std::nullopt;
     const std::optional<QString> copied = co_await m_copy.copySelection(target);
     if (!self.isNull())
         m_wasPasteboardInTheWay = m_copy.wasPasteboardInTheWay();
-    // Some editors copy the caret's line where nothing is selected.
+    // Some editors copy the caret's line when nothing is selected.
     if (!copied || (isWholeLine(*copied) && !selected.isClaimed))
         co_return std::nullopt;
     co_return nonBlank(copied);

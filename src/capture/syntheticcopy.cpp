@@ -20,13 +20,13 @@ namespace {
 
 constexpr auto kCopyPeriod = 25ms;
 constexpr int kCopyWaits = 20;
-/// How long after the keys were sent an application may say that it was told to copy; they are in its
-/// queue at once.
+/// How long after the keys were sent an application may report that it was told to copy; they reach its queue
+/// at once.
 constexpr auto kAsked = 100ms;
-/// An application that hung when it was asked to copy does so when it goes on. Within this time, if the
-/// user does nothing, a copy that tells nothing of itself is taken for that.
+/// An application that hangs when it is told to copy does so once it recovers. Within this time, if the user
+/// does nothing, a copy of unknown origin is taken to be that one.
 constexpr auto kLateCopy = 10s;
-/// What is saved may be large.
+/// Do not keep saved contents forever: they may be large.
 constexpr auto kForgotten = 5min;
 
 } // namespace
@@ -38,7 +38,7 @@ SyntheticCopy::SyntheticCopy(const Needs &needs)
     connect(&needs.tap, &EventTap::keyDown, this, &SyntheticCopy::setUserBusy);
     connect(&needs.workspace, &Workspace::didActivateApplication, this,
             [this](const RunningApplication &application) {
-                // Vesk comes forward by itself where nothing was selected.
+                // When nothing was selected, Vesk comes to the front by itself.
                 if (application.processIdentifier != QCoreApplication::applicationPid())
                     setUserBusy();
             });
@@ -46,7 +46,7 @@ SyntheticCopy::SyntheticCopy(const Needs &needs)
 
 QCoro::Task<std::optional<QString>> SyntheticCopy::copySelection(EventPoster::Target target)
 {
-    // Two at once would take each other's copies for the user's.
+    // Two at once would mistake each other's copies for the user's.
     if (m_isCopying)
         co_return std::nullopt;
     m_isCopying = true;
@@ -75,8 +75,8 @@ QCoro::Task<std::optional<QString>> SyntheticCopy::copyAndRestore(EventPoster::T
         m_wasPasteboardInTheWay = pasteboard.changeCount() == before && pasteboard.hasContents();
         co_return std::nullopt;
     }
-    // While a key is still held the user may copy something, by the mouse or elsewhere. That is newer
-    // than what was selected, and the application's copy would take it away.
+    // While a key is still held the user may copy something with the mouse or elsewhere. That copy is newer
+    // than the selection, and the application's copy would overwrite it.
     const std::function<bool()> isWanted = [self, before] {
         return !self.isNull() && self->m_needs.pasteboard.changeCount() == before;
     };
@@ -98,7 +98,7 @@ QCoro::Task<std::optional<QString>> SyntheticCopy::takeAnswer(Request request, S
         if (pasteboard.changeCount() != seen && authorOf(request) != Author::Another)
             co_return co_await takeCopy(saved);
         if (pasteboard.changeCount() != seen) {
-            // The user's own copy from elsewhere; it is what the user has now.
+            // The user copied something elsewhere; that is now the contents to restore.
             seen = pasteboard.changeCount();
             const std::optional<Saved> newer = co_await save();
             if (self.isNull())
@@ -120,13 +120,13 @@ QCoro::Task<std::optional<QString>> SyntheticCopy::takeCopy(Saved saved)
 {
     const QPointer<SyntheticCopy> self(this);
     Pasteboard &pasteboard = m_needs.pasteboard;
-    // Some applications (LibreOffice Writer) announce one copy twice, within a moment.
+    // Some applications (LibreOffice Writer) announce one copy twice in quick succession.
     co_await m_needs.clock.sleep(kCopyPeriod);
     if (self.isNull())
         co_return std::nullopt;
     const qint64 made = pasteboard.changeCount();
     const std::optional<QString> text = co_await pasteboard.string();
-    // What the user has copied meanwhile stays.
+    // Keep what the user has copied meanwhile.
     if (self.isNull() || pasteboard.changeCount() != made)
         co_return text;
     restore(saved);
@@ -139,10 +139,10 @@ QCoro::Task<std::optional<SyntheticCopy::Saved>> SyntheticCopy::save()
     Pasteboard &pasteboard = m_needs.pasteboard;
     Saved saved{.items = {}, .standing = m_needs.watcher.standing(), .changeCount = pasteboard.changeCount()};
     saved.items = co_await pasteboard.pasteboardItems();
-    // Someone copies at this very moment; what is saved is of no use, and that copy is the newest.
+    // Someone is copying at this very moment: the saved contents are useless, and that copy is the newest.
     if (self.isNull() || pasteboard.changeCount() != saved.changeCount)
         co_return std::nullopt;
-    // A password, or the content of an application that hangs, could not be put back.
+    // A password, or the contents of an application that hangs, could not be restored.
     if (saved.items.isEmpty() && pasteboard.hasContents())
         co_return std::nullopt;
     co_return std::move(saved);
@@ -166,8 +166,7 @@ SyntheticCopy::Author SyntheticCopy::authorOf(const Request &request) const
 
 void SyntheticCopy::awaitLateCopy(const Late &late)
 {
-    // Where keys are not heard, a late copy cannot be told from the user's own, which must not be
-    // undone.
+    // If keys cannot be observed, a late copy looks like the user's own, which must not be undone.
     if (!m_needs.tap.start())
         return;
     m_late = late;
@@ -185,7 +184,7 @@ void SyntheticCopy::onChanged()
     }
     const Late late = *m_late;
     m_late.reset();
-    // A change after something that the user did may be a copy of the user's own.
+    // A change that follows user input may be the user's own copy.
     if (author == Author::Asked || !late.isUserBusy)
         undoLateCopy(late);
 }
@@ -215,7 +214,7 @@ QCoro::Task<> SyntheticCopy::saveAgain()
     const QPointer<SyntheticCopy> self(this);
     const int wait = m_lateWait;
     const qint64 changeCount = m_needs.pasteboard.changeCount();
-    // Time for whoever has written to say that it was Vesk.
+    // If Vesk itself wrote this, leave the writer time to mark it as Vesk's own.
     co_await m_needs.clock.sleep(kCopyPeriod);
     if (self.isNull())
         co_return;
@@ -225,13 +224,14 @@ QCoro::Task<> SyntheticCopy::saveAgain()
     if (newer)
         m_late->saved = *newer;
     else if (m_needs.pasteboard.changeCount() == changeCount)
-        m_late.reset(); // What cannot be saved cannot be put back.
+        m_late.reset(); // Contents that cannot be saved cannot be restored.
 }
 
 QCoro::Task<> SyntheticCopy::undoLateCopy(Late late)
 {
     const QPointer<SyntheticCopy> self(this);
-    // Time for whoever has written to say that it was Vesk, and for a second announcement.
+    // If Vesk itself wrote this, leave the writer time to mark it as Vesk's own. An application may announce
+    // its copy twice.
     co_await m_needs.clock.sleep(kCopyPeriod);
     if (self.isNull() || m_isCopying || m_needs.watcher.standing().isOwn
         || authorOf(late.request) == Author::Another)

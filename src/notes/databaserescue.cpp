@@ -73,7 +73,7 @@ Database::Anew Database::writeAnew(const std::vector<Change> &records)
 {
     const Finding finding = m_place.look();
     const bool isReplaced = finding == Finding::Replaced || finding == Finding::Overwritten;
-    // Looked up before the journal is removed, and needed even if that fails.
+    // Looked up before anything is changed.
     const QString movedTo = finding == Finding::MovedAway ? m_place.currentPath() : QString();
     const StoreFile file(isReplaced ? rescuedstores::nextPath(m_lock->store()) : m_file.path());
     file.makeFolder();
