@@ -19,7 +19,7 @@ DoubleShiftMonitor::DoubleShiftMonitor(EventTap &tap)
 
 void DoubleShiftMonitor::start()
 {
-    // Without the platform's leave there is no double tap; all else is at hand by hot key.
+    // Without the platform's permission there is no double tap; everything else can be reached by hot key.
     if (m_isListening || !m_tap.start())
         return;
     m_isListening = true;
@@ -38,7 +38,7 @@ void DoubleShiftMonitor::stop()
 
 void DoubleShiftMonitor::setFlags(const ModifierChange &change)
 {
-    // With Caps Lock on, Shift writes small letters: it is not the Shift that is tapped.
+    // With Caps Lock on, Shift types lower-case letters, so it is not being tapped.
     const bool isShift = change.held == Qt::ShiftModifier && !change.isCapsLocked;
     const bool isNothing = change.held == Qt::NoModifier && !change.isCapsLocked;
     const bool isTap = isNothing && m_shiftIsDown && !m_isUsed;
@@ -58,7 +58,8 @@ void DoubleShiftMonitor::setFlags(const ModifierChange &change)
 void DoubleShiftMonitor::onOtherInput()
 {
     m_lastTap.reset();
-    // A Shift that something was typed or clicked with is no tap, even if it goes up alone.
+    // If something was typed or clicked while Shift was held, this is not a tap, even if Shift is released
+    // alone.
     m_isUsed = m_isAnyHeld;
 }
 

@@ -61,7 +61,7 @@ bool GlobalKeys::isDoubleShiftWanted() const
 void GlobalKeys::followChange()
 {
     apply();
-    // What is printed on the keys may have changed even where nothing else has.
+    // The labels printed on the keys may have changed even if the combinations have not.
     Q_EMIT changed();
 }
 
@@ -70,7 +70,7 @@ bool GlobalKeys::apply()
     const std::vector<Key> oldKeys = m_keys;
     const QStringList oldHolders = m_holders;
     KeySettings settings = readKeySettings(m_file.text(), &m_hotKeys);
-    // What goes is given up before anything is claimed: two combinations may have changed places.
+    // Release old combinations before claiming any: two commands may have swapped theirs.
     for (size_t i = 0; i < m_keys.size(); ++i) {
         if (m_keys.at(i).combination != settings.combinations.at(i) || m_isLeft.at(i))
             m_claims.at(i)->unregisterKey();

@@ -12,12 +12,12 @@ namespace vesk::keynames {
 
 namespace {
 
-/// A key that is called by a name.
+/// A key that has a name.
 struct Named
 {
     quint8 key;
     QStringView name;
-    /// In the notation of Vesk's texts; empty where the name is.
+    /// In the notation of Vesk's texts; empty if the name is used there.
     QStringView glyph = {};
 };
 
@@ -56,7 +56,7 @@ constexpr std::array kNamed{
     Named{.key = 127, .name = u"Menu"},
 };
 
-/// Keys side by side on an ANSI keyboard.
+/// Neighbouring keys on an ANSI keyboard.
 struct Row
 {
     quint8 first;
@@ -84,7 +84,7 @@ constexpr std::array kWrittenOrder{
     Modifier{.modifier = Qt::ShiftModifier, .name = u"Shift", .glyph = u"\u21E7"},
 };
 
-/// The order in which Vesk's texts have the modifiers, by their places above.
+/// The order in which Vesk's texts show the modifiers, as indexes into the table above.
 constexpr std::array<size_t, 4> kShownOrder{2, 1, 3, 0};
 
 const Named *findNamed(KeyPosition key)
@@ -125,7 +125,7 @@ std::optional<KeyPosition> findKey(QStringView name, const HotKeys *keyboard)
     if (name.size() != 1)
         return std::nullopt;
     const std::optional<KeyPosition> found = keyboard ? keyboard->findKey(name.front()) : std::nullopt;
-    // A letter that the layout lacks, as one without Latin letters does, is where it usually is.
+    // If the layout lacks the letter, as non-Latin layouts do, use its usual place.
     return found ? found : findOnAnsi(name.front());
 }
 
@@ -135,7 +135,7 @@ QString nameOf(KeyPosition key, const HotKeys *keyboard)
         return named->name.toString();
     const QChar printed = keyboard ? keyboard->characterOn(key) : QChar();
     const QChar usual = characterOnAnsi(key);
-    // Keyboards of other scripts have the Latin letters as well.
+    // Keyboards for other scripts have the Latin letters as well.
     const bool isOtherScript = usual.isLetter() && printed.script() != QChar::Script_Latin
                                && printed.script() != QChar::Script_Common;
     const QChar shown = printed.isNull() || isOtherScript ? usual : printed;

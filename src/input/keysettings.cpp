@@ -14,7 +14,7 @@ namespace vesk {
 
 namespace {
 
-/// What is said about a file of keys.
+/// Messages about the file of keys.
 struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(vesk::KeySettings)
@@ -46,7 +46,7 @@ std::optional<Qt::KeyboardModifier> findModifier(QStringView name)
     return found == kModifierNames.end() ? std::nullopt : std::optional(found->modifier);
 }
 
-/// A combination, or, in one sentence, why it is none.
+/// A combination, or one sentence that says why the text is not one.
 struct ParsedCombination
 {
     Choice combination;
@@ -57,7 +57,7 @@ QStringList wordsOf(const QString &text)
 {
     static const QRegularExpression separators(u"[+\\s]+"_s);
     QStringList words = text.split(separators, Qt::SkipEmptyParts);
-    // The key that has the separator on it.
+    // The separator itself is the key.
     if (text.endsWith("++"_L1) || text.endsWith("+ +"_L1))
         words.append(u"+"_s);
     return words;
@@ -94,7 +94,7 @@ ParsedCombination parseCombination(const QString &text, const HotKeys *keyboard)
     return {.combination = combination, .problem = {}};
 }
 
-/// Puts a file's lines together to settings, one line after the other.
+/// Turns the lines of a file into settings, one line after the other.
 class Reader
 {
 public:
@@ -171,8 +171,9 @@ private:
             choice(row) = parsed.combination;
     }
 
-    /// Of two commands with one combination, a line of the user's loses, the later of two. False if there
-    /// are none. Ends, as the combinations by default are all different.
+    /// If two commands share a combination, drops the user's setting for one of them, the later line if both
+    /// were set. Returns false if there is no clash. Repeating this terminates because the default
+    /// combinations all differ.
     [[nodiscard]] bool undoOneClash()
     {
         for (const CommandRow &first : commandsWithKeys()) {
@@ -196,7 +197,7 @@ private:
 
     const HotKeys *m_keyboard;
     KeySettings m_settings;
-    /// The line that sets each command; 0 for none.
+    /// The line number that sets each command; 0 for none.
     std::array<int, kCommandsWithKeys> m_lines{};
 };
 

@@ -12,10 +12,10 @@ namespace vesk {
 
 namespace {
 
-/// How long nothing has to happen to the file for a change to be over.
+/// A change is complete when nothing has happened to the file for this long.
 constexpr std::chrono::milliseconds kSettlingTime{150};
 
-/// Far more than there is to say about keys.
+/// Far larger than any real file of keys.
 constexpr qint64 kMaximumSize = qint64{64} << 10;
 
 } // namespace
@@ -39,7 +39,7 @@ KeysFile::KeysFile(QString path)
     m_settling.setSingleShot(true);
     m_settling.setInterval(kSettlingTime);
     connect(&m_settling, &QTimer::timeout, this, &KeysFile::reload);
-    // The folder tells of a file that comes and goes, the file of what is written into it.
+    // The folder reports that the file appears or disappears, the file reports writes.
     const auto settle = [this] {
         watch();
         m_settling.start();
