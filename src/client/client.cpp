@@ -32,7 +32,7 @@ namespace {
 
 constexpr int kDone = 0;
 constexpr int kFailed = 1;
-/// How long other commands that add a note, one after another, are waited for.
+/// How long to wait for other commands that add notes one after another.
 constexpr std::chrono::milliseconds kTurnDeadline = 30s;
 
 QString noBus()
@@ -62,7 +62,7 @@ int print(const QByteArray &text)
     return isWritten ? kDone : kFailed;
 }
 
-/// Says why the store cannot be used, and how to go on with a copy where only that helps.
+/// Reports why the store cannot be used, and how to continue with a copy if only that helps.
 void sayStoreError(const QString &error, StoreFault fault)
 {
     sayError(error);
@@ -145,7 +145,7 @@ int Client::call(const QString &method)
 
 int Client::quit(const QString &method)
 {
-    // That none runs is what was wanted.
+    // Not running is what the user wanted.
     if (!m_remote.isRunning())
         return kDone;
     const Remote::Answer answer = m_remote.call(method);
@@ -177,7 +177,7 @@ int Client::addInput()
         sayError(tr("Could not read standard input."));
         return kFailed;
     }
-    // A pipe gives what it has at the moment, so it is read until it gives nothing.
+    // A read from a pipe returns what is available, so read until there is nothing left.
     constexpr qint64 kPart = qint64{1} << 16;
     QByteArray bytes;
     for (QByteArray part = input.read(kPart); !part.isEmpty(); part = input.read(kPart)) {
@@ -211,8 +211,8 @@ int Client::add(const QString &text)
         sayError(noBus());
         return kFailed;
     }
-    // A running Vesk has all notes in memory, so it alone may write. Who has the name is the one writer of
-    // this session.
+    // A running Vesk has all notes in memory, so only Vesk may write then. Whoever owns the bus name is this
+    // session's only writer.
     for (const QDeadlineTimer deadline(kTurnDeadline); !deadline.hasExpired(); Remote::pause()) {
         if (m_remote.takeName())
             return addToStore(trimmed);
@@ -244,7 +244,7 @@ int Client::addToStore(const QString &text)
 
 int Client::becomeApp(const QStringList &arguments)
 {
-    // The application goes by the same name as this program, in the process list and to X11.
+    // The application has the same name as this program, in the process list and for X11.
     QList<QByteArray> words{"vesk"};
     for (const QString &argument : arguments)
         words.append(QFile::encodeName(argument));
@@ -253,7 +253,7 @@ int Client::becomeApp(const QStringList &arguments)
         pointers.push_back(word.data());
     pointers.push_back(nullptr);
     const QByteArray app = QFile::encodeName(m_app);
-    // It forbids dumps by itself, and gives its own children what it was started with.
+    // The application disables core dumps itself, and starts its own children with the original limit.
     restoreCoreDumps();
     execv(app.constData(), pointers.data());
     sayError(tr("%1 could not be started: %2.").arg(m_app, qt_error_string(errno)));

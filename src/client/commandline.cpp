@@ -17,26 +17,26 @@ namespace {
 
 using Kind = CommandLine::Kind;
 
-/// One way to call the program beside the commands for the running Vesk.
+/// One way to call the program, besides the commands for a running Vesk.
 struct Form
 {
     QLatin1StringView words;
     Kind kind;
 };
 
-// The usages below, the completions and the manual page list the same.
+// Keep in step with the usages below, the completions and the manual page.
 constexpr std::array kForms{
     Form{"list"_L1, Kind::List},        Form{"list --json"_L1, Kind::List}, Form{"keys"_L1, Kind::Keys},
     Form{"keys --json"_L1, Kind::Keys}, Form{"help"_L1, Kind::Help},
 };
 
-/// What is said here.
+/// The messages of this file.
 struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(vesk::CommandLine)
 };
 
-/// How the program is called, and what that does.
+/// A way to call the program, and what it does.
 struct Usage
 {
     const char *call;
@@ -67,7 +67,7 @@ QString line(const QString &call, const QString &effect)
     return u"  "_s + call.leftJustified(kColumn) + effect + u'\n';
 }
 
-/// A heading, and a line for each of `usages`.
+/// A heading followed by a line for each of `usages`.
 QString section(const QString &heading, std::span<const Usage> usages)
 {
     QString text = heading + u'\n';

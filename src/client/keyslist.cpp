@@ -15,7 +15,7 @@ namespace vesk {
 
 namespace {
 
-/// What is said here.
+/// The messages of this file.
 struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(vesk::KeysReport)

@@ -27,8 +27,8 @@ int main(int argc, char *argv[])
     }
     const QString app = QCoreApplication::applicationDirPath() + u'/' + QStringLiteral(VESK_APP_FROM_BIN);
     const int status = vesk::Client(QDir::cleanPath(app)).run(*parsed.command);
-    // Without the destructors of what is static: Qt's thread for the bus may still be at a message, the
-    // types of which are gone by then, and would complain of it on the terminal.
+    // Exit without destroying static objects: Qt's bus thread may still be handling a message, whose types
+    // would be gone by then, and it would print warnings on the terminal.
     std::fflush(nullptr);
     std::_Exit(status);
 }

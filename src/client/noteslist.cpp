@@ -57,7 +57,7 @@ QByteArray notesAsLines(std::vector<Note::Fields> notes)
     QByteArray lines;
     for (const Note::Fields &note : notes) {
         const QString time = timeOf(note.updatedAt).toLocalTime().toString(u"yyyy-MM-dd HH:mm"_s);
-        // A title is one line already; other controls, which could steer a terminal, are left out.
+        // A title is a single line already. Drop other control characters, which could control the terminal.
         QString title = markup::title(note.text.toString());
         title.removeIf([](QChar character) { return character.category() == QChar::Other_Control; });
         lines += time.toUtf8() + '\t' + title.toUtf8() + '\n';

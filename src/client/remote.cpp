@@ -44,11 +44,11 @@ QString contentsOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).trimmed() : QString();
 }
 
-/// Also true of a process whose parent has yet to be told of its end.
+/// Also true of a zombie, whose parent has not collected it yet.
 bool hasEnded(qint64 process)
 {
     const QString status = contentsOf(u"/proc/%1/stat"_s.arg(process));
-    // The name stands in brackets and may hold anything; what follows it is the state.
+    // The name is in parentheses and may contain anything; the state follows it.
     return status.isEmpty() || status.mid(status.lastIndexOf(u')')).startsWith(u") Z");
 }
 
@@ -81,7 +81,7 @@ Remote::Owner Remote::owner() const
     case QDBusError::Disconnected:
         return Owner::Command;
     case QDBusError::NoReply:
-        // Before its time is up, this says that the owner has left the bus: a command that has ended.
+        // A NoReply before the deadline means that the owner has left the bus: a command that has finished.
         return deadline.hasExpired() ? Owner::Vesk : Owner::Command;
     default:
         return Owner::Vesk;
@@ -110,8 +110,8 @@ Remote::Answer Remote::call(const QString &method, const QVariantList &arguments
 
 Remote::Answer Remote::start(const QString &program)
 {
-    // What it says until it is up is the reason if it does not come up. The file has no name afterwards:
-    // a pipe that nobody reads would end the program at its first word.
+    // If the program fails to start, its standard error up to that point is the reason we show. A file that
+    // is unlinked afterwards, because writing to a pipe that nobody reads would kill the program.
     QTemporaryFile words(QDir::tempPath() + u"/vesk-start-XXXXXX"_s);
     if (!words.open())
         return failed(tr("Could not create a temporary file in %1.").arg(QDir::tempPath()));
@@ -126,7 +126,7 @@ Remote::Answer Remote::start(const QString &program)
     if (!process.startDetached(&pid))
         return failed(tr("%1 could not be started.").arg(program));
     for (QDeadlineTimer deadline(kStartDeadline); !deadline.hasExpired();) {
-        // It has the name before it has opened the notes, and only answers after that.
+        // Vesk takes the name before it opens the notes, and only answers after that.
         if (m_bus.interface()->isServiceRegistered(kService) && owner() == Owner::Vesk)
             return done();
         if (hasEnded(pid)) {
