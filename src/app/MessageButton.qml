@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// A button of a message window.
+// A button in a message window.
 PressButton {
     id: root
 

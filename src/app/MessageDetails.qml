@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// A longer text of a message window, to be looked through and copied from.
+// A longer text in a message window that the user can scroll and copy from.
 Rectangle {
     id: root
 

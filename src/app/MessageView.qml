@@ -6,9 +6,9 @@ import QtQuick
 import Vesk.App
 import Vesk.Components
 
-// What a message window shows. The safe button has the keyboard at first, or none where the window comes up
-// by itself: a Return must not answer a question that was not read. A text that is longer than the window
-// scrolls; the buttons stay.
+// The content of a message window. The safe button has the focus at first, or no button if the window opens
+// unasked: Return must not answer a question that the user has not read. A text that is taller than the
+// window scrolls; the buttons stay in place.
 Rectangle {
     id: root
 
@@ -22,7 +22,7 @@ Rectangle {
 
     property real maximumWidth: 440
     property real maximumHeight: 600
-    // Whether a button has the keyboard at first.
+    // Whether a button has the focus at first.
     property bool hasDefaultButton: true
     readonly property real margin: 24
 
@@ -105,7 +105,7 @@ Rectangle {
         }
     }
 
-    // Says that there is more of the text, and how much.
+    // Shows that there is more text, and how much.
     Rectangle {
         visible: flickable.contentHeight > flickable.height
         x: root.width - width - 6

@@ -34,7 +34,7 @@ AccessWindow::AccessWindow(QQmlEngine &engine, Consent &consent, Questions &ques
         m_questions.hide(m_window);
     });
     connect(&m_window, &MessageWindow::rejected, this, [this, &consent](MessageWindow::Rejection how) {
-        // Whoever only closes the window has not changed their mind.
+        // A user who merely closes the window has not changed their mind.
         if (how == MessageWindow::Rejection::ByButton)
             consent.setGiven(false);
         m_questions.hide(m_window);

@@ -11,13 +11,13 @@ namespace vesk {
 
 namespace {
 
-/// The desktop entries of applications that install updates: of GNOME, KDE Plasma, Ubuntu, Linux Mint,
-/// elementary OS, and of PackageKit itself.
+/// Desktop entries of applications that install updates: GNOME, KDE Plasma, Ubuntu, Linux Mint, elementary
+/// OS, and PackageKit itself.
 const QStringList kUpdaters{u"org.gnome.Software"_s,      u"org.kde.discover"_s,
                             u"update-manager"_s,          u"mintupdate"_s,
                             u"io.elementary.appcenter"_s, u"org.gnome.PackageUpdater"_s};
 
-/// Empty if there is none.
+/// Empty if none is installed.
 QString findUpdater(const Workspace &workspace)
 {
     const auto found = std::ranges::find_if(
@@ -84,7 +84,7 @@ void AppUpdater::show(const Updates::Result &result)
             m_workspace.openApplication(updater);
     });
     connect(m_window.get(), &MessageWindow::rejected, this, [this] { m_questions.hide(*m_window); });
-    // The user may have gone on typing since asking.
+    // The user may have continued typing since asking.
     m_questions.showUnasked(*m_window);
 }
 

@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// How often it is looked whether a copy is due; also how long one may take.
+/// How often to check whether a copy is due; also how long making one may take.
 constexpr auto kPause = 10min;
 
 } // namespace
@@ -37,7 +37,7 @@ DailyCopy::DailyCopy(const QString &store, QString program, Clock &clock)
     m_process.setStandardOutputFile(QProcess::nullDevice());
     m_process.setStandardErrorFile(QProcess::nullDevice());
     m_process.setChildProcessModifier([] {
-        // Whatever else the machine does comes first.
+        // The lowest priority: everything else on the machine comes first.
         constexpr int kNice = 19;
         ::setpriority(PRIO_PROCESS, 0, kNice);
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -47,7 +47,7 @@ DailyCopy::DailyCopy(const QString &store, QString program, Clock &clock)
 
 DailyCopy::~DailyCopy()
 {
-    // One that is being made ends with this object, and is not a failure.
+    // Destroying this object ends a copy in progress, which is not a failure.
     m_process.disconnect(this);
 }
 
@@ -64,7 +64,7 @@ void DailyCopy::onFinished(int exitCode, QProcess::ExitStatus status)
     using Outcome = StoreCopy::Outcome;
     const auto outcome = status == QProcess::NormalExit ? static_cast<Outcome>(exitCode) : Outcome::Failed;
     const bool isWell = outcome == Outcome::Made || outcome == Outcome::NothingToCopy;
-    // The next look tries again, so that a failure counts only once it has lasted. Damage does at once.
+    // The next check tries again, so a failure is reported only if it persists. Damage is reported at once.
     const bool isTold = outcome == Outcome::StoreDamaged || m_copy.isOverdue(m_clock.now());
     if (isWell)
         setProblem({});

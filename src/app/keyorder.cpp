@@ -30,7 +30,7 @@ KeyOrder::KeyOrder(QWindow &window)
 
 void KeyOrder::run(const Command &command)
 {
-    // The command's own key is not delivered.
+    // The key that triggers a command is not delivered.
     m_isCommandHeld = true;
     m_keysUnderWay = std::max(0, m_keysUnderWay - 1);
     if (m_keysUnderWay == 0)
@@ -41,7 +41,7 @@ void KeyOrder::run(const Command &command)
 
 bool KeyOrder::eventFilter(QObject *watched, QEvent *event)
 {
-    // The window is asked about each key as it is pressed, whoever is shown it then.
+    // The window receives this event as soon as a key is pressed, whichever item gets the key afterwards.
     if (event->type() == QEvent::ShortcutOverride)
         countPressed(static_cast<QKeyEvent *>(event)->isAutoRepeat());
     else if (event->type() == QEvent::KeyPress)
@@ -52,14 +52,14 @@ bool KeyOrder::eventFilter(QObject *watched, QEvent *event)
 void KeyOrder::countPressed(bool isRepeated)
 {
     m_isCommandHeld = m_isCommandHeld && isRepeated;
-    // The repetitions of a command's key are delivered to nobody.
+    // Repeats of a command's key are not delivered.
     if (!m_isCommandHeld)
         ++m_keysUnderWay;
 }
 
 void KeyOrder::countDelivered()
 {
-    // What the key before this one made due comes first.
+    // Commands that were waiting for the previous key come first.
     runDue();
     m_keysUnderWay = std::max(0, m_keysUnderWay - 1);
     for (Waiting &waiting : m_waiting)

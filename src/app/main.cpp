@@ -37,10 +37,10 @@ namespace {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-/// How long a command that is writing a note, or a Vesk that is just ending, is waited for.
+/// How long to wait for a command that is writing a note, or for a Vesk that is just quitting.
 constexpr std::chrono::milliseconds kLockPatience = 5s;
 
-/// The texts of this file are few, and of no class.
+/// Translation context for the few texts in this file.
 struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(vesk::Main)
@@ -58,13 +58,13 @@ void say(const vesk::MessageWindow::Content &content)
         say(content.details);
 }
 
-/// Tells the user, on standard error and in a window, why Vesk does not start; returns when the user
-/// has closed it.
+/// Tells the user, on standard error and in a window, why Vesk does not start. Returns when the user has
+/// closed the window.
 void showFatal(vesk::Desktop &desktop, vesk::ApplicationService &service,
                const vesk::MessageWindow::Content &content)
 {
     say(content);
-    // Whoever calls meanwhile gets an answer.
+    // Answers callers meanwhile.
     vesk::RemoteControl remoteControl(service, {.quit = [] { QCoreApplication::exit(0); }});
     remoteControl.refuseCommands(Texts::tr("Vesk could not open the notes store and is about to quit."));
     QQmlEngine engine;
@@ -88,7 +88,7 @@ int runUntilQuit(vesk::Desktop &desktop, std::unique_ptr<vesk::GlobalKeys> keys,
     return QCoreApplication::exec();
 }
 
-/// Offers the texts that could not be written; returns when the user is done with them, or they are
+/// Offers the texts that could not be written. Returns when the user is done with them, or when they could be
 /// written after all.
 void showUnwritten(vesk::Desktop &desktop, vesk::ApplicationService &service, const vesk::NotesStore &store)
 {
@@ -99,7 +99,7 @@ void showUnwritten(vesk::Desktop &desktop, vesk::ApplicationService &service, co
     vesk::lendToEditors(engine, desktop.pasteboard, &desktop.primary, &desktop.dragged);
     vesk::UnwrittenWindow window(engine, store, desktop.pasteboard);
     QObject::connect(&window, &vesk::UnwrittenWindow::quitRequested, qApp, [] { QCoreApplication::exit(0); });
-    // Whoever starts Vesk again sees why it has not ended.
+    // Show a user who starts Vesk again why it has not quit yet.
     QObject::connect(&service, &vesk::ApplicationService::activated, &window, &vesk::UnwrittenWindow::show);
     QObject::connect(&service, &vesk::ApplicationService::actionActivated, &window,
                      &vesk::UnwrittenWindow::show);
@@ -129,7 +129,7 @@ int runVesk(bool isInBackground)
         return 1;
     }
     vesk::Desktop desktop(std::move(x11.connection), service);
-    // Before the notes are read: a key that is pressed meanwhile waits in the queue.
+    // Before the notes are read, so that a key pressed meanwhile waits in the queue.
     auto keys = std::make_unique<vesk::GlobalKeys>(desktop.hotKeys, vesk::KeysFile::standardPath());
     keys->start();
     const QString path = vesk::NotesStore::standardPath();
@@ -138,7 +138,7 @@ int runVesk(bool isInBackground)
     if (!opened.store) {
         keys.reset();
         const auto content = vesk::describeStoreFailure(opened, path, desktop.clock.now());
-        // At the start of a session nobody has asked for Vesk, and there is nothing to decide.
+        // When started with the session, the user has not asked for Vesk and has nothing to decide.
         if (opened.fault == vesk::StoreFault::HeldElsewhere && isInBackground) {
             say(content);
             vesk::notifyUser(content.heading, content.message);
@@ -152,18 +152,18 @@ int runVesk(bool isInBackground)
     const vesk::StoreWatch storeWatch(*opened.store, desktop.clock);
     const int result =
         runUntilQuit(desktop, std::move(keys), *opened.store, service, dailyCopy, isInBackground);
-    // What this does not write is offered to the user.
+    // Texts that this does not write are offered to the user.
     static_cast<void>(opened.store->save());
     // Any other result means that there is no display left to ask on.
     if (result == 0)
         showUnwritten(desktop, service, *opened.store);
-    // A text that was just pasted, or that is the user's own, is not to go with Vesk.
+    // A text that was just pasted, or that the user copied, must not disappear with Vesk.
     QCoro::waitFor(desktop.pasteboard.handOver());
     return result;
 }
 
-/// Says that there is no X server where the user looks: on standard error and, for a start from a menu,
-/// which has none to look at, in a notification of the desktop's.
+/// Reports a missing X server where the user looks: on standard error and, for a start from a menu, where
+/// nobody sees that, in a desktop notification.
 int refuseWithoutServer(int argc, char *argv[])
 {
     const QCoreApplication program(argc, argv);
@@ -204,29 +204,30 @@ int main(int argc, char *argv[])
     if (words.size() > 1 && QByteArrayView(words[1]) == QByteArrayView(vesk::DailyCopy::kWord))
         return static_cast<int>(vesk::StoreCopy(vesk::NotesStore::standardPath()).make());
 
-    // The windows are X11's, also where a Wayland compositor offers both.
+    // Use X11 windows even if a Wayland compositor offers both.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "xcb");
     if (!vesk::X11Connection::hasServer())
         return refuseWithoutServer(argc, argv);
-    // The words have been checked by the command that starts this program.
+    // The command that starts this program has already checked the arguments.
     const auto has = [&words](QByteArrayView option) {
         return std::ranges::any_of(words, [option](const char *word) { return word == option; });
     };
-    // A panel of this kind is up sooner, and takes half the memory, without the GPU.
+    // Software rendering shows a panel like this sooner and takes half the memory.
     if (!has("--gpu"))
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     const QGuiApplication program(argc, argv);
     const vesk::Translation translation;
     QGuiApplication::setLayoutDirection(translation.language().textDirection());
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    // Qt's text fields read the clipboard whenever it changes, and Qt waits for its owner: for seconds if
-    // that one hangs, or is Vesk itself. They are not told of changes, and never copy or paste by it.
+    // Qt's text fields read the clipboard whenever it changes, and Qt waits for its owner: for seconds if the
+    // owner hangs or is Vesk itself. So they are not notified of changes; they never use Qt's clipboard to
+    // copy or paste.
     QGuiApplication::clipboard()->blockSignals(true);
     QGuiApplication::setDesktopFileName(u"org.vesk.Vesk"_s);
     QGuiApplication::setWindowIcon(QIcon(u":/vesk/icon/org.vesk.Vesk.svg"_s));
 
-    // Where the size of files is limited, a write is to fail as on a full disk, and not to end Vesk.
+    // If the file size is limited, a write must fail as on a full disk instead of killing Vesk.
     static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
     const vesk::QuitSignals quitSignals;
     return runVesk(has("--background"));

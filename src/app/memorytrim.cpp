@@ -11,7 +11,7 @@ namespace vesk {
 
 MemoryTrim::MemoryTrim(Application &application)
 {
-    // Not between two presses of the key.
+    // Long enough not to trim between two presses of the key.
     constexpr std::chrono::seconds kQuiet{3};
     m_quiet.setSingleShot(true);
     m_quiet.setInterval(kQuiet);

@@ -21,12 +21,12 @@ using Item = MenuCommands::Item;
 struct Entry
 {
     Item item;
-    /// Nullopt in the Format menu.
+    /// nullopt in the Format menu.
     std::optional<Command> command = {};
-    /// Null if the command has one.
+    /// Null if the command has its own title.
     const char *title = nullptr;
     const char *keys = "";
-    /// What an item of the Format menu puts before a line.
+    /// The marker that an item of the Format menu inserts at the start of a line.
     QStringView marker = {};
 };
 
@@ -86,7 +86,7 @@ QKeySequence MenuCommands::keys(Item item)
 void MenuCommands::choose(Item item)
 {
     const Entry &entry = entryOf(item);
-    // A note that something lies over is not to be changed unseen.
+    // Do not change a note that is covered by something else.
     const NoteTextView *text = m_editor.textView();
     if (entry.command)
         Q_EMIT chosen(*entry.command);

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// For the window manager's title bar and borders; points.
+/// Room for the window manager's title bar and borders, in points.
 constexpr QMargins kFrame(12, 40, 12, 12);
 
 } // namespace
@@ -23,7 +23,7 @@ MessageWindow::MessageWindow(QQmlEngine &engine, const Content &content)
     , m_isRejectCostly(content.isRejectCostly)
 {
     m_view.setTitle(tr("Vesk: %1").arg(content.heading));
-    // The panel and the quick-note box are above other windows as well, and the question above these.
+    // The panel and the quick-note box stay above other windows, and the question must stay above those.
     m_view.setFlags(Qt::Dialog | Qt::WindowStaysOnTopHint);
     m_view.setResizeMode(QQuickView::SizeViewToRootObject);
     m_view.setInitialProperties({{u"heading"_s, content.heading},
@@ -42,7 +42,7 @@ MessageWindow::MessageWindow(QQmlEngine &engine, const Content &content)
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *window) {
         if (window && window != &m_view && m_view.isVisible())
             m_view.raise();
-        // On a busy machine the first keys come long after the window was shown.
+        // On a busy machine the first keys arrive long after the window was shown.
         if (window == &m_view && m_isUnasked)
             m_guard.start();
     });
@@ -116,7 +116,7 @@ bool MessageWindow::isSwallowed(const QKeyEvent &event)
             m_guard.start();
         return true;
     }
-    // A key that is held was pressed for what the user did before.
+    // A key that is still held was pressed for what the user was doing before.
     const QList<int> answers{Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Escape};
     return event.isAutoRepeat() && answers.contains(event.key());
 }

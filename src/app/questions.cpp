@@ -11,7 +11,7 @@ namespace vesk {
 
 namespace {
 
-/// Often enough to see every key: no finger is up again sooner.
+/// Often enough to see every key press: nobody releases a key sooner.
 constexpr auto kLook = 20ms;
 constexpr auto kQuiet = 700ms;
 constexpr auto kPatience = 10s;
@@ -38,7 +38,7 @@ void Questions::pause()
 void Questions::resume()
 {
     m_isPaused = false;
-    // The whole program may be about to be hidden; only then is there a place for a question.
+    // If the whole program is about to be hidden, wait until it is before showing the question.
     QTimer::singleShot(0, this, &Questions::showWaiting);
 }
 
@@ -90,7 +90,7 @@ void Questions::lookForQuiet()
         return;
     m_look.stop();
     m_shown = m_waiting.takeFirst();
-    // Whoever had to wait for it no longer expects it.
+    // The user has waited and no longer expects it.
     m_shown->show(MessageWindow::Arrival::Unasked);
     m_application.activate(m_shown->window());
 }

@@ -15,7 +15,7 @@ namespace {
 
 int g_descriptor = -1;
 
-// A signal comes in the middle of anything, on any thread; only a write is safe there.
+// A signal can arrive at any moment on any thread; only a write is safe here.
 void onSignal(int /*signal*/)
 {
     const uint64_t once = 1;
@@ -28,13 +28,13 @@ QuitSignals::QuitSignals()
 {
     g_descriptor = eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC);
     if (g_descriptor < 0)
-        return; // The signals end the program as they are: nothing that was saved is lost.
+        return; // The default action ends the program: nothing that was saved is lost.
     m_notifier = std::make_unique<QSocketNotifier>(g_descriptor, QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, [] {
-        // Read, so that the next signal ends what is asked of the user at the end.
+        // Reset the counter: a second signal must end the question that is shown at exit.
         uint64_t count = 0;
         static_cast<void>(!read(g_descriptor, &count, sizeof count));
-        // Not quit(), which asks the windows, and the panel answers that it only hides.
+        // Not quit(), which asks the windows to close; the panel would refuse and merely hide.
         QCoreApplication::exit(0);
     });
     struct sigaction action

@@ -58,7 +58,7 @@ void RemoteControl::AddNote(const QString &text, const QDBusMessage &message) co
     }
     const QString problem = m_doors.addNote(trimmed);
     qCDebug(appLog) << "bus call" << message.member() << "saved:" << problem.isEmpty();
-    // The store holds on to it and writes it when the disk lets it.
+    // The store keeps it and writes it when the disk allows.
     if (!problem.isEmpty())
         refuse(message, QDBusError::Failed,
                tr("The note was added but is not on the disk yet. Do not add it again. %1").arg(problem));

@@ -13,7 +13,7 @@ NotesStore *g_store = nullptr;
 
 void saveNow()
 {
-    // Nobody is left to be told of a failure, which is on standard error.
+    // Nobody is left to report a failure to; it is on standard error.
     if (g_store)
         static_cast<void>(g_store->save());
 }
@@ -23,7 +23,7 @@ void saveNow()
 SaveAtExit::SaveAtExit(NotesStore &store)
 {
     g_store = &store;
-    // Without it, what was typed in the last half second would be lost, as in a power cut.
+    // Otherwise the last half second of typing would be lost, as in a power failure.
     static_cast<void>(std::atexit(saveNow));
 }
 

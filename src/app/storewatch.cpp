@@ -20,7 +20,7 @@ QCoro::Task<> StoreWatch::watch(QPointer<StoreWatch> self, Clock *clock)
         co_await clock->sleep(1min);
         if (!self)
             co_return;
-        // A failure is shown in the panel, and the store tries again.
+        // The panel shows a failure, and the store tries again.
         static_cast<void>(self->m_store.save());
     }
 }

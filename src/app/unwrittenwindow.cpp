@@ -49,7 +49,7 @@ void UnwrittenWindow::update()
         return;
     }
     m_window.setDetails(texts());
-    // What has been copied may not be all any more.
+    // There may be more now than the user has copied.
     m_window.setAcceptLabel(tr("Copy"));
 }
 

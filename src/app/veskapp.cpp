@@ -82,7 +82,7 @@ VeskApp::VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, Applicat
     connect(&m_quickNote, &QuickNotePanel::aboutToOpen, &m_questions, &Questions::pause);
     connect(&m_quickNote, &QuickNotePanel::closed, &m_questions, &Questions::resume);
     connect(&desktop.accessibility, &X11Accessibility::trustAsked, this, [this] {
-        // In the panel the user has pressed a button for it; elsewhere a key, for something else.
+        // In the panel the user has pressed a button for this; elsewhere, a key for something else.
         if (m_panelWindow.window().isActive())
             m_accessWindow.show();
         else
@@ -106,7 +106,7 @@ VeskApp::VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, Applicat
     connect(m_panel.menu(), &PanelMenu::quickNoteRequested, this, performing(Command::QuickNote));
     connect(m_panel.menu(), &PanelMenu::quickChecklistRequested, this, performing(Command::QuickChecklist));
     connect(m_panel.menu(), &PanelMenu::quitRequested, this, performing(Command::Quit));
-    // Not quit(), which asks the windows, and the panel answers that it only hides.
+    // Not quit(), which asks the windows to close; the panel would refuse and merely hide.
     connect(&m_services, &VeskServices::quitRequested, this, [] { QCoreApplication::exit(0); });
     connect(m_panel.menu(), &PanelMenu::updateCheckRequested, &m_updater, &AppUpdater::checkForUpdates);
     const auto followUpdater = [this] { m_panel.menu()->setCanCheckForUpdates(m_updater.canCheck()); };
@@ -116,7 +116,7 @@ VeskApp::VeskApp(Desktop &desktop, GlobalKeys &keys, NotesStore &store, Applicat
     connect(&m_keys, &GlobalKeys::problemsChanged, this, &VeskApp::tellOfKeys);
     tellOfKeys();
     m_services.start();
-    // Whoever looks up a key that did nothing may have freed it. The panel is shown first.
+    // A user who looks up a key that did nothing may have freed it. Show the panel first, then retry.
     connect(&m_panelWindow.window(), &QWindow::visibleChanged, this, [this](bool isVisible) {
         if (isVisible)
             QTimer::singleShot(0, this, [this] { m_keys.retry(); });
@@ -137,7 +137,7 @@ VeskApp::~VeskApp()
 void VeskApp::offerCommands(Desktop &desktop, NotesStore &store, ApplicationService &service)
 {
     connect(&service, &ApplicationService::actionActivated, this, &VeskApp::onAction);
-    // The service has them, and may be called until it ends, after this object.
+    // The service holds this callback and may call it after this object is destroyed.
     const QPointer<VeskApp> self(this);
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the service owns it.
     m_remoteControl =
@@ -157,7 +157,7 @@ void VeskApp::offerCommands(Desktop &desktop, NotesStore &store, ApplicationServ
                                            [self] {
                                                if (self.isNull())
                                                    return KeysReport();
-                                               // Who asks may just have freed a combination.
+                                               // The caller may just have freed a combination.
                                                self->m_keys.retry();
                                                return KeysReport::of(self->m_keys);
                                            },
