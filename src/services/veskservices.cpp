@@ -23,10 +23,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A second press within this time is a slip of the finger.
+/// A second press within this time is accidental.
 constexpr std::chrono::seconds kCommandGap{2};
-/// The longest time that a command waits for a reading. An application that answers slowly must not keep the
-/// user from the notes.
+/// The longest time that a command waits for a reading. A slow application must not keep the user from the
+/// notes.
 constexpr std::chrono::seconds kLongestHold{1};
 
 const QString kDone = notices::kSaved.symbol.toString();
@@ -34,7 +34,7 @@ const QString kTrouble = notices::kNotSaved.symbol.toString();
 
 bool isTooLong(const QString &text)
 {
-    // Three bytes is the most that one unit takes, so most texts need not be converted.
+    // A UTF-16 unit takes at most three bytes, so most texts need not be converted.
     return text.size() > kMaximumTextBytes / 3 && text.toUtf8().size() > kMaximumTextBytes;
 }
 
@@ -43,8 +43,8 @@ QString addedTo(const QString &title, const QString &untitled)
     return VeskServices::tr("Added to “%1”").arg(title.isEmpty() ? untitled : title);
 }
 
-/// Why there is no text although something may be selected in this application; empty if nothing is to be
-/// said.
+/// Why there is no text although something may be selected in this application; empty if there is nothing to
+/// say.
 QString remarkOn(SelectionReader::Reading::Lack lack, const QString &application)
 {
     using Lack = SelectionReader::Reading::Lack;
@@ -64,7 +64,7 @@ QString remarkOn(SelectionReader::Reading::Lack lack, const QString &application
     return {};
 }
 
-/// The note changed last among those that have checkboxes; null if none has.
+/// The most recently changed note that has checkboxes; null if there is none.
 Note *findLastChecklist(NotesStore &store)
 {
     for (qsizetype i = 0; i < store.notes().count(); ++i) {
@@ -87,8 +87,8 @@ void VeskServices::start()
     connect(&m_needs.keys, &GlobalKeys::pressed, this, &VeskServices::perform);
     connect(&m_needs.keys, &GlobalKeys::changed, this, &VeskServices::followTrust);
     connect(&m_doubleShift, &DoubleShiftMonitor::doubleShift, this, [this] {
-        // Shift is heard in front of a locked screen too, where nothing is to be read, and the keys of a
-        // copy would go to the lock. The combinations are not heard then.
+        // Shift can be heard even when the screen is locked. Nothing may be read then, and the copy keys
+        // would go to the lock screen. Hot keys are not delivered then.
         if (!m_needs.tap.isKeyboardTaken())
             perform(Command::SavePrompt);
     });
@@ -108,7 +108,7 @@ void VeskServices::start()
 
 void VeskServices::perform(Command command)
 {
-    // With the focus, a window of Vesk would take away the selection that is being read.
+    // A Vesk window that takes the focus would take away the selection that is being read.
     if (m_readings > 0 && rowOf(command).takesFocus)
         holdBack(command);
     else
@@ -166,7 +166,7 @@ QCoro::Task<> VeskServices::stopHoldingLater()
     const QPointer<VeskServices> self(this);
     const int hold = ++m_holds;
     co_await m_needs.clock.sleep(kLongestHold);
-    // The reading may have ended, and another one may hold keys by now.
+    // This reading may have ended, and another one may be holding commands back.
     if (!self.isNull() && m_holds == hold)
         performHeldBack();
 }
@@ -197,7 +197,7 @@ void VeskServices::updateChecklistKey(const std::optional<QString> &frontmostBun
 
 bool VeskServices::isWithinGap(Instant &last) const
 {
-    // Not the time of day: a clock that is set back must not lock the key.
+    // Not the wall clock: setting it back must not block the key.
     const std::chrono::microseconds now = m_needs.clock.monotonic();
     if (last && now - *last < kCommandGap)
         return true;
@@ -215,7 +215,7 @@ void VeskServices::capture(Target target)
     }
     if (isWithinGap(m_lastCapture))
         return;
-    // First of all: who writes a quick note does not wait for the box.
+    // Before anything else: a user who writes a quick note does not wait for the box.
     if (m_needs.accessibility.isProcessTrusted())
         m_needs.quickNote.expect();
     captureSelection(target, m_needs.reader.readSource());
@@ -238,7 +238,7 @@ QCoro::Task<> VeskServices::captureSelection(Target target, Source press)
     }
     openQuickNote(target == Target::NewChecklist ? QuickNoteBox::Mode::Checklist : QuickNoteBox::Mode::Note,
                   read.remark);
-    // The question comes up over the box. The trust may have been withdrawn while the text was read.
+    // The question appears above the box. Permission may have been withdrawn while the text was read.
     if (!m_needs.accessibility.isProcessTrusted())
         askForAccessOnce();
 }
@@ -284,7 +284,7 @@ QCoro::Task<> VeskServices::savePromptSelection()
     const SelectionReader::Reading read = co_await m_needs.reader.readSelection();
     if (self.isNull())
         co_return;
-    // Two taps of Shift mean nothing else where nothing is selected, so nothing is said then.
+    // The user may tap Shift twice for no reason, so say nothing if nothing is selected.
     if (read.text)
         keepPrompt(*read.text);
     else if (press && read.lack == SelectionReader::Reading::Lack::PasteboardInTheWay)
@@ -294,7 +294,7 @@ QCoro::Task<> VeskServices::savePromptSelection()
 QCoro::Task<VeskServices::Reading> VeskServices::readSelection(Source press)
 {
     const QPointer<VeskServices> self(this);
-    // Asked for first and waited for last, so that the two answers come side by side.
+    // Requested first and awaited last, so that both answers are fetched at the same time.
     const auto address = m_needs.reader.readPageAddress(press ? press->processIdentifier : 0);
     const SelectionReader::Reading read = co_await m_needs.reader.readSelection();
     if (self.isNull())
@@ -322,7 +322,7 @@ void VeskServices::keep(const Selection &selection, Target target)
         saveAndConfirm(addedTo(title, tr("New Note")), u"text.append"_s);
         return;
     }
-    // Stored texts are well-formed, so the new one is compared as it would be stored.
+    // Stored texts are well formed, so compare the new text in the form in which it would be stored.
     if (newest && newest->text() == markup::wellFormed(text)) {
         saveAndConfirm(tr("Already in Vesk"), kDone);
         return;
@@ -391,7 +391,7 @@ void VeskServices::confirm(const QString &message, const QString &symbol)
 
 void VeskServices::tellNotSaved()
 {
-    // The store holds on to the change and writes it when the disk lets it.
+    // The store keeps the change and writes it when the disk allows.
     m_needs.toast.show(notices::kNotSaved);
 }
 

@@ -76,10 +76,10 @@ Q_SIGNALS:
     void quitRequested();
 
 private:
-    /// Where the captured text goes.
+    /// Where captured text goes.
     enum class Target {
         NewNote,
-        /// The note changed last, or a new note if there is none.
+        /// The most recently changed note, or a new note if there is none.
         LastNote,
         /// A new note with a checkbox for each line.
         NewChecklist,
@@ -92,26 +92,26 @@ private:
         QString text;
         std::optional<CaptureSource> source;
     };
-    /// The result of asking for the selection.
+    /// The result of reading the selection.
     struct Reading
     {
-        /// Nullopt if there is none.
+        /// nullopt if there is none.
         std::optional<Selection> selection = {};
-        /// Tells the user why there is none although something may be selected. Empty if there is nothing to
-        /// say.
+        /// Tells the user why there is no selection although something may be selected; empty if there is
+        /// nothing to say.
         QString remark = {};
     };
 
     void performNow(Command command);
-    /// Saves what is selected in the frontmost application. Ignored within 2 seconds of the last capture. If
+    /// Saves the selection of the frontmost application. Ignored within 2 seconds of the last capture. If
     /// nothing is selected, or the user has not agreed to reading, opens the quick-note box; if that is open
     /// already, closes it instead.
     void capture(Target target);
-    /// Adds what is selected as checkboxes to the checklist changed last, or to a new one if there is none.
-    /// Ignored within 2 seconds of the last capture.
+    /// Adds the selection as checkboxes to the most recently changed checklist, or to a new one if there is
+    /// none. Ignored within 2 seconds of the last capture.
     void addSelectionToChecklist();
-    /// Saves what is selected as a prompt. Ignored within 2 seconds of the last prompt. Does nothing if
-    /// nothing is selected.
+    /// Saves the selection as a prompt. Ignored within 2 seconds of the last prompt. Does nothing if nothing
+    /// is selected.
     void savePrompt();
     /// Marks a reading as under way for the lifetime of the returned object.
     [[nodiscard]] auto beginReading()
@@ -134,7 +134,7 @@ private:
     QCoro::Task<> captureSelection(Target target, Source press);
     QCoro::Task<> addToChecklist(Source press);
     QCoro::Task<> savePromptSelection();
-    /// Reads what is selected, with the address of the page in its source.
+    /// Reads the selection. Its source includes the address of the page.
     QCoro::Task<Reading> readSelection(Source press);
 
     void keep(const Selection &selection, Target target);
@@ -157,7 +157,7 @@ private:
     Instant m_lastPrompt;
     bool m_hasAskedForAccess = false;
     int m_readings = 0;
-    /// What was asked for during a reading and takes the focus, each command once.
+    /// Commands that take the focus and were requested during a reading, each only once.
     QList<Command> m_heldBack;
     /// Counts how often commands were held back.
     int m_holds = 0;
