@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// A button with a text on a capsule; the main one of a view stands out in the accent colour.
+// A capsule-shaped button with a text. A view's main button is in the accent colour.
 PressButton {
     id: root
 

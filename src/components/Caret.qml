@@ -3,17 +3,17 @@ import QtQuick
 
 import Vesk.Components
 
-// The caret of a text item, in the accent colour, over the gap between two letters. Blinks as the desktop
-// has it, and stays after a move.
+// The caret of a text item, in the accent colour, centred on the gap between two letters. Blinks at the
+// desktop's rate, and stays visible after a move.
 Item {
     id: root
 
-    // Whether the text item has its caret shown, and where.
+    // Whether the text item shows its caret, and where.
     required property bool isWanted
     required property rect place
-    // In milliseconds; 0 for a caret that does not blink.
+    // In milliseconds; 0 if the caret does not blink.
     property int flashTime: Application.styleHints.cursorFlashTime
-    // As high as the placeholder while that stands beside it.
+    // At least as high as the placeholder while that is shown beside the caret.
     property real leastHeight: 0
 
     width: 2
@@ -25,8 +25,8 @@ Item {
             blink.restart();
     }
 
-    // On whole points, and round: around an edged one between two pixels the software renderer leaves a
-    // hole, through which the desktop is seen.
+    // On whole points, and round: the software renderer leaves a transparent gap around a rectangle that lies
+    // between two pixels.
     Rectangle {
         x: Math.round(root.x) - root.x - 1
         y: Math.round(root.y) - root.y

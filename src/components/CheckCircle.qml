@@ -3,13 +3,13 @@ import QtQuick
 
 import Vesk.Components
 
-// A round check mark of `size` by `size`, larger where texts are.
+// A round check mark of `size` by `size`, scaled with the text size.
 Item {
     id: root
 
     required property bool isDone
     property real size: 16
-    // Whether it changes without a motion.
+    // Whether changes are shown without animation.
     property bool isStill: false
 
     implicitWidth: Math.round(root.size * Theme.fonts.scale)

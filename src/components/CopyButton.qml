@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// The button that copies a text; says for a moment that it has, once it is told by `confirm`.
+// Copies a text. After `confirm` it shows for a moment that the text was copied.
 SymbolButton {
     id: root
 

@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// A number that takes the same room whatever its digits are, so that what stands beside it keeps its place.
+// A number that takes the same width whatever its digits are, so that its neighbours do not move.
 Text {
     id: root
 

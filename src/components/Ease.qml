@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// The short ease-out of hover and focus.
+// The short ease-out animation for hover and focus.
 ColorAnimation {
     duration: Theme.motion.ease
     easing.type: Easing.OutQuad

@@ -3,11 +3,11 @@ import QtQuick
 
 import Vesk.Components
 
-// What scrolls passes under an edge softly, not as if cut.
+// Fades scrolling content out at an edge instead of cutting it off.
 Rectangle {
     id: root
 
-    // What it passes into.
+    // The colour that the content fades into.
     property color ground: Theme.background
 
     anchors.left: parent?.left

@@ -3,14 +3,15 @@ import QtQuick
 
 import Vesk.Components
 
-// A line of help at an item, wholly inside the item's window: below it, or above where there is no room.
+// A line of help for an item, entirely within the item's window: below the item, or above it if there is no
+// room.
 Rectangle {
     id: root
 
     required property Item target
     required property string text
     readonly property Item ground: root.target.Window.contentItem
-    // The target may leave the window sooner.
+    // The target may be removed from its window before the bubble is.
     readonly property size room: root.ground ? Qt.size(root.ground.width, root.ground.height) : Qt.size(0, 0)
     readonly property point corner: root.target.mapToItem(root.ground, 0, 0)
     readonly property real below: root.corner.y + root.target.height + 6

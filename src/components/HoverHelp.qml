@@ -3,8 +3,8 @@ import QtQuick
 
 import Vesk.Components
 
-// What a control is for, in a bubble below it once the pointer has rested on it for a while. Lies in the
-// control; the bubble itself is made only while it is up, over everything else in the window.
+// Explains a control in a bubble below it once the pointer has rested on it for a while. Place it inside the
+// control; the bubble itself exists only while it is shown, on top of everything else in the window.
 Item {
     id: root
 

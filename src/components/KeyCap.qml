@@ -3,13 +3,13 @@ import QtQuick
 
 import Vesk.Components
 
-// One key as it is printed on the keyboard. `glyph` is the key in the notation of Vesk's texts.
+// A key as it is printed on the keyboard. `glyph` is the key in the notation of Vesk's texts.
 Rectangle {
     id: root
 
     required property string glyph
     property int place: KeyLabels.Window
-    // Pressing it does nothing now.
+    // Whether pressing the key currently does nothing.
     property bool isIdle: false
 
     implicitWidth: Math.max(implicitHeight, Math.ceil(label.implicitWidth) + 2 * Math.round((label.text.length > 1 ? 4 : 2) * Theme.fonts.scale))

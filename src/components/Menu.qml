@@ -5,14 +5,14 @@ import QtQuick
 
 import Vesk.Components
 
-// A menu over the content of a window: `openBelow` for the one of a button, `openAt` for the one of what
-// the pointer is on. Takes all keys and clicks until it closes.
+// A menu on top of a window's content: use `openBelow` for a button's menu, `openAt` for a context menu.
+// Takes all keys and clicks until it closes.
 Item {
     id: root
 
     default property alias entries: control.entries
     property string name: ""
-    // Where the combinations of keys in the entries' texts work.
+    // Where the key combinations in the entries' texts work.
     property int place: KeyLabels.Window
     readonly property alias isOpen: control.isOpen
     property point corner
@@ -27,7 +27,7 @@ Item {
         control.open(item);
     }
 
-    // For a menu that a key has opened.
+    // For a menu that was opened with a key.
     function selectFirst() {
         control.selectFirst();
     }
@@ -59,7 +59,7 @@ Item {
         }
     }
 
-    // A soft shadow, dense at the edge.
+    // A soft shadow, darkest at the edge.
     Repeater {
         model: 6
 
@@ -106,7 +106,7 @@ Item {
 
                     entry: modelData
                     place: root.place
-                    // Among large texts a long entry takes more than one line.
+                    // With large text a long entry takes more than one line.
                     width: Math.min(Math.max(implicitWidth, rows.implicitWidth), root.width - 2 * 8 - 10)
                     isCurrent: control.current === index
                     onPointedAt: control.current = index

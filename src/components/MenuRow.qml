@@ -25,7 +25,7 @@ Rectangle {
     Accessible.name: label.text
     Accessible.focusable: root.entry.isEnabled && !root.entry.isDivider
     Accessible.onPressAction: root.clicked()
-    // The keyboard goes along, for a screen reader to say where it is.
+    // Move the focus along so that a screen reader announces the entry.
     onIsCurrentChanged: {
         if (isCurrent)
             forceActiveFocus();

@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// A rounded field on a window's ground: a faint fill with a hair line inside its edge.
+// A rounded area on a window's background: a faint fill with a hairline inside its edge.
 Rectangle {
     radius: Theme.plateRadius
     color: Theme.fill

@@ -3,8 +3,8 @@ import QtQuick
 
 import Vesk.Components
 
-// A button without chrome of its own: whatever is put into it shrinks while it is pressed. `name` is
-// what a screen reader says, `help` what comes up under a pointer that rests.
+// A button without decoration: its content shrinks while it is pressed. A screen reader says `name`; `help`
+// appears when the pointer rests on it.
 Item {
     id: root
 
@@ -17,7 +17,7 @@ Item {
 
     signal clicked
 
-    // Once a press: a key that is held must not press again and again, perhaps something else by then.
+    // Once per press: a held key must not press repeatedly, perhaps triggering something else by then.
     function pressByKey(event: KeyEvent) {
         if (!event.isAutoRepeat)
             root.clicked();

@@ -3,13 +3,13 @@ import QtQuick
 
 import Vesk.Components
 
-// How far a checklist is, as a ring and in words.
+// The progress of a checklist, as a ring and in words.
 Row {
     id: root
 
     required property int done
     required property int total
-    // Whether the ring turns without a motion.
+    // Whether the ring changes without animation.
     property bool isStill: false
 
     spacing: Math.round(5 * Theme.fonts.scale)

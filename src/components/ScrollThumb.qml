@@ -3,9 +3,9 @@ import QtQuick
 
 import Vesk.Components
 
-// Shows where in a long list the view is, while it moves or the pointer is near, and moves it when
-// dragged. Goes by rows, whose number is known, not by the list's height, which is a guess until all rows
-// have been seen.
+// Shows the position in a long list while it scrolls or the pointer is near, and scrolls it when dragged.
+// Calculates with rows, whose number is known, rather than with the list's height, which is an estimate until
+// all rows have been seen.
 Item {
     id: root
 
@@ -15,7 +15,7 @@ Item {
     readonly property real shown: Math.max(0.001, Math.min(1, root.end - root.start))
     readonly property bool isDragged: grip.drag.active
 
-    // How many rows stand above a height of the content, the last one in part.
+    // How many rows lie above a content position; the last may be partial.
     function rowsAbove(y: real): real {
         const index = list.indexAt(list.width / 2, y);
         const item = index < 0 ? null : list.itemAtIndex(index);
@@ -29,7 +29,7 @@ Item {
         end = until < 0 ? 1 : until / list.count;
     }
 
-    // Moves the list so that as much of its rows is above the view as this part of the way says.
+    // Scrolls so that this fraction of the scrollable rows is above the view.
     function moveTo(part: real) {
         if (part >= 1)
             return list.positionViewAtEnd();
@@ -91,7 +91,7 @@ Item {
         }
     }
 
-    // What the hand holds is not the thumb itself, which follows the list.
+    // The user drags this invisible item; the thumb itself follows the list.
     Item {
         id: handle
 

@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// The line over a section of a list; a click asks to fold the section away or to bring it back.
+// The line above a section of a list. A click asks to collapse or expand the section.
 PressButton {
     id: root
 
@@ -63,7 +63,7 @@ PressButton {
 
     Rectangle {
         anchors.verticalCenter: parent.verticalCenter
-        // On whole points, so that it ends where the cards below do.
+        // On whole points, so that the line ends exactly where the cards below do.
         x: Theme.isMirrored ? 0 : Math.round(number.x + number.width) + Theme.tightSpace
         width: Theme.isMirrored ? Math.round(number.x) - Theme.tightSpace : parent.width - x
         height: 1

@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// The spring of every animated change; none where the user wants no motion.
+// The spring of every animated change; has no duration if the user wants no motion.
 NumberAnimation {
     duration: Theme.motion.spring
     easing.type: Easing.BezierSpline

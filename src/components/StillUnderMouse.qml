@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 
-// Keeps what scrolls from being dragged by the mouse as if it were a touch screen: a press that moves a
-// little would be lost as a click. Fingers, the wheel and scroll thumbs still move it. Lies above
-// `flickable`, since a handler below is not told of a press that something in there takes.
+// Keeps the mouse from dragging scrollable content as on a touch screen, where a press that moves slightly
+// would not count as a click. Fingers, the wheel and scroll thumbs still scroll it. Place this above
+// `flickable`: a handler below it does not see presses that are accepted inside.
 Item {
     id: root
 

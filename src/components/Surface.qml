@@ -3,9 +3,9 @@ import QtQuick
 
 import Vesk.Components
 
-// The ground of a window: rounded, with a hair line inside its edge. Where nothing blends windows the
-// window itself is cut to shape, and what lies between the curve and the cut has the line's colour, so
-// that no dark pixel shows.
+// The background of a window: rounded, with a hairline inside its edge. Without a compositor the window
+// itself is cut to shape, and the area between the curve and the cut has the line's colour so that no dark
+// pixels show.
 Rectangle {
     id: root
 

@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// A button that is a symbol, with a faint ground under the pointer.
+// A button that shows a symbol, with a faint background under the pointer.
 PressButton {
     id: root
 

@@ -20,7 +20,7 @@ void AppIcon::paint(QPainter *painter)
     const QIcon icon = engine && !m_bundleId.isEmpty() ? Surroundings::of(*engine).icon(m_bundleId) : QIcon();
     painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     if (!icon.isNull()) {
-        // With as many pixels as the screen has; the painter's own device does not say.
+        // Use the screen's pixel density, which the painter's device does not report.
         const qreal density = window() ? window()->effectiveDevicePixelRatio() : 1;
         const QPixmap pixmap = icon.pixmap(boundingRect().size().toSize(), density);
         QRectF place(QPointF(), QSizeF(pixmap.size()).scaled(boundingRect().size(), Qt::KeepAspectRatio));

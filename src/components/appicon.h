@@ -5,7 +5,7 @@
 
 namespace vesk {
 
-/// The icon of an application of the desktop; a neutral tile where there is none.
+/// The icon of a desktop application; a neutral tile if it has none.
 class AppIcon : public QQuickPaintedItem
 {
     Q_OBJECT

@@ -8,7 +8,7 @@ namespace vesk {
 
 namespace {
 
-/// The side of the square that the mark is designed in.
+/// The side of the square that the mark was designed for.
 constexpr qreal kSide = 17;
 
 } // namespace

@@ -6,7 +6,7 @@
 
 namespace vesk {
 
-/// The picture of a checkbox: a ring, or a filled circle as large with a tick.
+/// The picture of a checkbox: a ring, or a filled circle of the same size with a tick.
 class BoxMark : public QQuickPaintedItem
 {
     Q_OBJECT

@@ -17,7 +17,7 @@ namespace {
 
 using State = GlobalKeys::State;
 
-/// Where an engine keeps what was lent to it.
+/// The engine property that holds the keys.
 constexpr const char *kProperty = "veskGlobalKeys";
 
 } // namespace
@@ -90,7 +90,7 @@ QString CommandKeys::takenTitle() const
     const int count = static_cast<int>(taken);
     if (count == 0)
         return {};
-    // More than one name would not fit into the panel; the guide has them all.
+    // More than one name would not fit into the panel; the guide lists them all.
     return m_keys->holders().size() == 1 ? tr("%n Key(s) Taken by %1…", "", count).arg(holders())
                                          : tr("%n Key(s) Taken…", "", count);
 }

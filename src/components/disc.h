@@ -6,17 +6,17 @@
 
 namespace vesk {
 
-/// A circle, a ring or a part of a ring. The scene graph's rectangles of full radius come out
-/// flattened without a GPU; this one is round.
+/// A circle, a ring or an arc. Without a GPU, the scene graph's fully rounded rectangles come out flattened;
+/// this is truly round.
 class Disc : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY changed)
     Q_PROPERTY(QColor borderColor READ borderColor WRITE setBorderColor NOTIFY changed)
-    /// Width of the line, which lies inside the circle's edge; 0 for none.
+    /// Width of the line, drawn inside the circle's edge; 0 for no line.
     Q_PROPERTY(qreal borderWidth READ borderWidth WRITE setBorderWidth NOTIFY changed)
-    /// How much of the line is drawn, from the top and clockwise; 1 is the whole ring.
+    /// How much of the line is drawn, clockwise from the top; 1 is the whole ring.
     Q_PROPERTY(qreal fraction READ fraction WRITE setFraction NOTIFY changed)
 
 public:

@@ -31,7 +31,7 @@ constexpr std::array kEntries{
     Entry{.glyph = u"\u2191", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Up")},
     Entry{.glyph = u"\u2193", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Down")},
     Entry{.glyph = u"esc", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Esc")},
-    // These have no glyph, and go by the names that Keys.conf has for them.
+    // These have no glyph and use their names from Keys.conf.
     Entry{.glyph = u"Print", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Print")},
     Entry{.glyph = u"Home", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Home")},
     Entry{.glyph = u"End", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "End")},
@@ -45,7 +45,7 @@ constexpr std::array kEntries{
     Entry{.glyph = u"Menu", .global = QT_TRANSLATE_NOOP("vesk::KeyLabels", "Menu")},
 };
 
-/// None for what is no glyph of a key.
+/// nullopt if this is not the glyph of a key.
 std::optional<QString> find(QStringView glyph, KeyLabels::Place place)
 {
     const auto *const entry =
@@ -74,7 +74,7 @@ QString KeyLabels::spelt(const QString &text, Place place)
         }
         result += *key;
         const QStringView next = QStringView(text).mid(i + 1, 1);
-        // The key that follows belongs to the same combination.
+        // The next key belongs to the same combination.
         if (!next.isEmpty() && (next.front().isLetterOrNumber() || find(next, place)))
             result += u'+';
     }

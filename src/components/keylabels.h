@@ -6,8 +6,8 @@
 
 namespace vesk {
 
-/// What is printed on this desktop's keyboards for the key glyphs that Vesk's texts are written in,
-/// and for the keys that have a name instead.
+/// The labels that this desktop's keyboards have for the key glyphs used in Vesk's texts, and for keys that
+/// have a name instead.
 class KeyLabels : public QObject
 {
     Q_OBJECT
@@ -15,17 +15,17 @@ class KeyLabels : public QObject
     QML_SINGLETON
 
 public:
-    /// Where the keys are pressed: Command is another key in a combination that works everywhere
-    /// than in one of Vesk's own windows.
+    /// Where the keys are pressed: Command stands for a different key in global combinations than in Vesk's
+    /// own windows.
     enum Place {
         Global,
         Window,
     };
     Q_ENUM(Place)
 
-    /// The label of one key; whatever is neither is its own label.
+    /// The label of a key; anything that is neither a glyph nor a name is returned unchanged.
     [[nodiscard]] Q_INVOKABLE static QString label(const QString &glyph, vesk::KeyLabels::Place place);
-    /// A text with its combinations, as in "Delete (⌘⌫)", spelt in labels: "Delete (Ctrl+Backspace)".
+    /// A text with its combinations, as in "Delete (⌘⌫)", spelt out in labels: "Delete (Ctrl+Backspace)".
     [[nodiscard]] Q_INVOKABLE static QString spelt(const QString &text, vesk::KeyLabels::Place place);
 };
 

@@ -13,7 +13,7 @@ void MenuControl::open(QQuickItem *item)
         return;
     m_window = window;
     m_formerFocus = window->activeFocusItem();
-    // The filter that was installed last is asked first: before the window's own keys.
+    // Event filters installed last run first: before the window's own keys.
     window->installEventFilter(this);
     Q_EMIT isOpenChanged();
 }
@@ -64,7 +64,7 @@ bool MenuControl::eventFilter(QObject *watched, QEvent *event)
         handleKey(*static_cast<QKeyEvent *>(event));
         return true;
     case QEvent::ShortcutOverride:
-        // Keeps the key from the program's own shortcuts.
+        // Keep the key from triggering the program's shortcuts.
         event->accept();
         return true;
     case QEvent::KeyRelease:
@@ -80,7 +80,7 @@ bool MenuControl::eventFilter(QObject *watched, QEvent *event)
 
 void MenuControl::handleKey(const QKeyEvent &event)
 {
-    // Only the arrows go on while they are held: the key that opened the menu must not choose, too.
+    // Only the arrows repeat while held: the key that opened the menu must not also choose an entry.
     if (event.isAutoRepeat() && event.key() != Qt::Key_Down && event.key() != Qt::Key_Up)
         return;
     const int last = static_cast<int>(m_entries.size()) - 1;

@@ -11,32 +11,32 @@ class QKeyEvent;
 
 namespace vesk {
 
-/// What a menu does: which of its entries is the current one, and every key while it is open. No key
-/// reaches the window below before it has closed.
+/// The behaviour of a menu: which entry is current, and all key handling while it is open. No key reaches the
+/// window below until the menu has closed.
 class MenuControl : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QQmlListProperty<vesk::MenuEntry> entries READ entries CONSTANT)
-    /// Index of the entry that Return would choose; -1 for none.
+    /// Index of the entry that Return would choose; -1 if there is none.
     Q_PROPERTY(int current READ current WRITE setCurrent NOTIFY currentChanged)
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged)
 
 public:
     using QObject::QObject;
 
-    /// Opens in the window of `item`. Nothing if it is open already, or the item is in no window.
+    /// Opens in the window of `item`. Does nothing if it is open already or `item` is not in a window.
     Q_INVOKABLE void open(QQuickItem *item);
     Q_INVOKABLE void close();
-    /// Closes, gives the keyboard back and then triggers the entry. Nothing if it cannot be chosen.
+    /// Closes, returns the focus and then triggers the entry. Does nothing if the entry cannot be chosen.
     Q_INVOKABLE void choose(int index);
 
-    /// Makes the first entry that can be chosen the current one, as for a menu that a key has opened.
+    /// Makes the first selectable entry current, for a menu that was opened with a key.
     Q_INVOKABLE void selectFirst();
 
     [[nodiscard]] QQmlListProperty<MenuEntry> entries() { return {this, &m_entries}; }
     [[nodiscard]] int current() const { return m_current; }
-    /// An entry that cannot be chosen does not become the current one; none does then.
+    /// If the entry cannot be chosen, no entry becomes current.
     void setCurrent(int index);
     [[nodiscard]] bool isOpen() const { return !m_window.isNull(); }
 
@@ -49,9 +49,10 @@ protected:
 
 private:
     void handleKey(const QKeyEvent &event);
-    /// The next entry from `start` on in steps of `step` that can be chosen, around the end; else -1.
+    /// The next selectable entry from `start` in steps of `step`, wrapping around; -1 if there is none.
     [[nodiscard]] int findChoosable(int start, int step) const;
-    /// The next entry after the current one whose text begins so; the current one if none does.
+    /// The next entry after the current one whose text starts with `letter`; the current one if there is
+    /// none.
     [[nodiscard]] int findByLetter(const QString &letter) const;
 
     QList<MenuEntry *> m_entries;

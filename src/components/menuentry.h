@@ -6,14 +6,14 @@
 
 namespace vesk {
 
-/// One line of a menu: something to do, or, without a text, a line that divides.
+/// An entry of a menu: an action, or a separator if it has no text.
 class MenuEntry : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY changed)
     Q_PROPERTY(bool isEnabled READ isEnabled WRITE setEnabled NOTIFY changed)
-    /// Whether there is such a line now.
+    /// Whether the menu currently shows the entry.
     Q_PROPERTY(bool isVisible READ isVisible WRITE setVisible NOTIFY changed)
     Q_PROPERTY(bool isDivider READ isDivider NOTIFY changed)
 
@@ -30,7 +30,7 @@ public:
     [[nodiscard]] bool canBeChosen() const { return m_isEnabled && m_isVisible && !isDivider(); }
 
 Q_SIGNALS:
-    /// The user has chosen the entry; its menu has gone.
+    /// The user has chosen the entry, and its menu has closed.
     void triggered();
     void changed();
 

@@ -7,15 +7,16 @@ namespace vesk {
 
 namespace {
 
-/// What makes symbols and bold labels readable; smaller text is never in the accent colour.
+/// The contrast at which symbols and bold labels are readable; smaller text never uses the accent colour.
 constexpr qreal kReadableContrast = 3.5;
-/// The same for those who need more of it.
+/// The same for users who need high contrast.
 constexpr qreal kHighContrast = 7;
-/// What makes white on a fill readable.
+/// The contrast at which white on a fill is readable.
 constexpr qreal kContrastOnFill = 4;
-/// An accent colour with less of it than this has dark texts on it, however dark it could be made.
+/// If white has less contrast than this on an accent colour, texts on it are dark, however much the colour
+/// could be darkened.
 constexpr qreal kContrastForWhite = 2.6;
-/// Lightness goes in steps of this.
+/// The step by which lightness is changed.
 constexpr float kStep = 0.02F;
 
 QColor withOpacity(QColor color, float opacity)
@@ -26,14 +27,14 @@ QColor withOpacity(QColor color, float opacity)
 
 qreal luminance(const QColor &color)
 {
-    // The weights of the sRGB primaries, after undoing their gamma.
+    // The luminance weights of the sRGB primaries, after undoing their gamma.
     const auto linear = [](float channel) {
         return channel <= 0.04045F ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
     };
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-/// The same hue, lighter or darker until it stands out from another colour.
+/// The same hue, made lighter or darker until it contrasts sufficiently with `other`.
 QColor apartFrom(const QColor &other, QColor color, qreal wanted, float step)
 {
     while (contrast(color, other) < wanted) {
@@ -52,7 +53,7 @@ QColor apartFrom(const QColor &other, QColor color, qreal wanted, float step)
 void chooseFill(Palette &made, const ColorChoice &choice)
 {
     made.accentFill = made.accent;
-    // The background's colour stands out from the accent as strongly as the accent from the background.
+    // Contrast is symmetric: the background colour is readable on the accent colour, too.
     if (choice.hasHighContrast)
         made.onAccent = made.background;
     else if (contrast(made.accent, Qt::white) < kContrastForWhite)

@@ -7,46 +7,46 @@
 
 namespace vesk {
 
-/// The colours that all others are made of, for one colour scheme.
+/// The colours that all others derive from, for one colour scheme.
 struct Palette
 {
     QColor background;
-    /// Text and, at low opacity, every line and fill.
+    /// Text; at low opacity, every line and fill.
     QColor primary;
     QColor secondary;
     QColor tertiary;
     QColor quaternary;
-    /// Of symbols, lines and small fills.
+    /// Symbols, lines and small fills.
     QColor accent;
-    /// Of what has a text or a symbol on it: as the accent colour, or darker.
+    /// Fills behind a text or symbol: the accent colour, or a darker shade.
     QColor accentFill;
-    /// Text and symbols on a fill of the accent colour.
+    /// Text and symbols on `accentFill`.
     QColor onAccent;
-    /// Something needs the user's attention.
+    /// Something that needs the user's attention.
     QColor attention;
     /// The same for small text.
     QColor attentionText;
-    /// All is well; small text too.
+    /// Confirmation that all is well; also for small text.
     QColor success;
-    /// By how much the opacity of lines grows where they have to stand out.
+    /// The factor by which lines become more opaque when they must stand out.
     float lineStrength = 1;
 };
 
-/// What the user has chosen of a desktop's colours.
+/// The user's colour preferences.
 struct ColorChoice
 {
     bool isDark = false;
     /// Black on white, or white on black, with strong lines.
     bool hasHighContrast = false;
-    /// None for Vesk's own blue.
+    /// nullopt for Vesk's own blue.
     std::optional<QColor> accent = std::nullopt;
 };
 
-/// How strongly two opaque colours differ for the eye, from 1 (not at all) to 21 (black and white).
+/// The contrast ratio of two opaque colours, from 1 (none) to 21 (black and white).
 [[nodiscard]] qreal contrast(const QColor &a, const QColor &b);
 
-/// The palette of a choice. The user's accent colour keeps its hue and is made lighter or darker
-/// until it can be read on the background.
+/// The palette for the given preferences. The user's accent colour keeps its hue and is made lighter or
+/// darker until it is readable on the background.
 [[nodiscard]] Palette palette(const ColorChoice &choice);
 
 } // namespace vesk

@@ -5,7 +5,7 @@
 
 namespace vesk {
 
-/// Vesk's own icon, at the size of the item.
+/// Vesk's own icon, scaled to the item.
 class ProductMark : public QQuickPaintedItem
 {
     Q_OBJECT

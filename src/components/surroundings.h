@@ -13,7 +13,7 @@ class Appearance;
 class Windows;
 class Workspace;
 
-/// What the views of one QML engine may know of the desktop around them. Owned by the engine.
+/// What the views of a QML engine may know about the desktop. Owned by the engine.
 class Surroundings final : public QObject
 {
     Q_OBJECT
@@ -21,13 +21,13 @@ class Surroundings final : public QObject
 public:
     Surroundings(Appearance &appearance, Workspace &workspace, Windows &windows, QQmlEngine &engine);
 
-    /// What was lent to this engine; `lendToEngine` has to come before every view.
+    /// The surroundings of this engine; call `lendToEngine` before creating any view.
     [[nodiscard]] static Surroundings &of(const QQmlEngine &engine);
 
     [[nodiscard]] Appearance &appearance() const { return m_appearance; }
     [[nodiscard]] Windows &windows() const { return m_windows; }
 
-    /// An application's icon, looked up once for the rest of the run; null if there is none.
+    /// An application's icon, looked up once and cached; null if there is none.
     [[nodiscard]] QIcon icon(const QString &bundleIdentifier);
 
 private:
@@ -37,7 +37,7 @@ private:
     QHash<QString, QIcon> m_icons;
 };
 
-/// Readies an engine for Vesk's views. The three have to outlive the engine.
+/// Prepares an engine for Vesk's views. The three arguments must outlive the engine.
 void lendToEngine(QQmlEngine &engine, Appearance &appearance, Workspace &workspace, Windows &windows);
 
 } // namespace vesk

@@ -15,7 +15,7 @@ namespace {
 
 const auto kSlash = u".slash"_s;
 
-/// A line through a picture, with room around it, as the struck form of a symbol has.
+/// Draws the diagonal line, with a gap around it, of a symbol's struck-through form.
 void strike(QPainter &painter, const QRectF &area)
 {
     const qreal unit = area.width() / 16;
@@ -44,7 +44,7 @@ void Symbol::paint(QPainter *painter)
     const std::optional<QString> picture = symboltable::findPicture(name);
     if (!picture)
         return;
-    // The pictures are black; the colour goes over whatever they cover.
+    // The pictures are black; this paints the colour over whatever they cover.
     QSvgRenderer renderer(*picture);
     const QRectF area = boundingRect();
     if (symboltable::isDirectional(name) && QGuiApplication::isRightToLeft())

@@ -6,7 +6,7 @@
 
 namespace vesk {
 
-/// A small picture in one colour, by the name of a system symbol.
+/// A small single-colour picture, identified by the name of a system symbol.
 class Symbol : public QQuickPaintedItem
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     void paint(QPainter *painter) override;
 
     [[nodiscard]] const QString &name() const { return m_name; }
-    /// A name without a picture draws nothing; ".slash" after a name strikes its picture through.
+    /// An unknown name draws nothing; the suffix ".slash" strikes the picture through.
     void setName(const QString &name);
     [[nodiscard]] const QColor &color() const { return m_color; }
     void setColor(const QColor &color);

@@ -14,12 +14,12 @@ struct Entry
 {
     const char *symbol;
     const char *icon;
-    /// Points, or has lines that begin, where texts do not begin: turned over for a language that is read
-    /// from right to left.
+    /// Points in the reading direction, or shows lines that start at the text's side: mirrored for
+    /// right-to-left languages.
     bool isDirectional = false;
 };
 
-// The build reads the icon names from these lines and embeds those pictures, no others.
+// The build reads the icon names from these lines and embeds only those pictures.
 constexpr std::array kEntries{
     Entry{.symbol = "arrow.up.and.down", .icon = "arrow-down-up"},
     Entry{.symbol = "arrow.up.forward.app", .icon = "box-arrow-up-right", .isDirectional = true},

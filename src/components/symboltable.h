@@ -8,10 +8,10 @@
 
 namespace vesk::symboltable {
 
-/// Where the picture of a symbol is, as a resource path; none if there is no such symbol.
+/// The resource path of a symbol's picture; nullopt if there is no such symbol.
 [[nodiscard]] std::optional<QString> findPicture(const QString &symbol);
 
-/// Whether the picture is turned over where a language is read from right to left.
+/// Whether the picture is mirrored for right-to-left languages.
 [[nodiscard]] bool isDirectional(const QString &symbol);
 
 /// The names of all symbols.

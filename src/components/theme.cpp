@@ -116,7 +116,7 @@ QColor Theme::strongEdge() const
 
 QColor Theme::track() const
 {
-    // As strong as a line, it would not be told from the part that is filled.
+    // If it were as strong as a line, it would look like the filled part.
     return primaryAt(m_colors.hasHighContrast ? 0.22F : 0.12F);
 }
 

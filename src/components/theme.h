@@ -12,18 +12,18 @@ namespace vesk {
 
 class Surroundings;
 
-/// The one source of colours, fonts, spaces and motion for every view of an engine. Follows the
-/// user's choices for the desktop.
+/// The only source of colours, fonts, spacing and motion for every view of an engine. Follows the user's
+/// desktop preferences.
 class Theme final : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    /// Whether lines and texts have to stand out strongly.
+    /// Whether lines and texts must stand out strongly.
     Q_PROPERTY(bool hasHighContrast READ hasHighContrast NOTIFY changed)
-    /// Whether windows are blended by the desktop, so that one may be translucent.
+    /// Whether a compositor is running, so that windows may be translucent.
     Q_PROPERTY(bool isComposited READ isComposited NOTIFY compositedChanged)
-    /// Whether the language is read from right to left, so that all begins at the right.
+    /// Whether the layout is mirrored for a right-to-left language.
     Q_PROPERTY(bool isMirrored READ isMirrored NOTIFY mirroredChanged)
 
     Q_PROPERTY(QColor background READ background NOTIFY changed)
@@ -32,33 +32,33 @@ class Theme final : public QObject
     Q_PROPERTY(QColor tertiary READ tertiary NOTIFY changed)
     Q_PROPERTY(QColor quaternary READ quaternary NOTIFY changed)
     Q_PROPERTY(QColor accent READ accent NOTIFY changed)
-    /// The accent colour under a text or a symbol, which is in the next one.
+    /// The accent colour as a background for text and symbols, which use `onAccent`.
     Q_PROPERTY(QColor accentFill READ accentFill NOTIFY changed)
     Q_PROPERTY(QColor onAccent READ onAccent NOTIFY changed)
     Q_PROPERTY(QColor attention READ attention NOTIFY changed)
     Q_PROPERTY(QColor attentionText READ attentionText NOTIFY changed)
-    /// All is well; dark or light enough for small text.
+    /// Confirmation that all is well; readable as small text.
     Q_PROPERTY(QColor success READ success NOTIFY changed)
-    /// The primary colour at the opacities that fills and lines have.
+    /// The primary colour at the opacities used for fills and lines.
     Q_PROPERTY(QColor faintFill READ faintFill NOTIFY changed)
     Q_PROPERTY(QColor fill READ fill NOTIFY changed)
     Q_PROPERTY(QColor capFill READ capFill NOTIFY changed)
     Q_PROPERTY(QColor capEdge READ capEdge NOTIFY changed)
-    /// The ground of what lies over a window's content: a menu, a line of help.
+    /// The background of what covers a window's content, such as a menu or a line of help.
     Q_PROPERTY(QColor raised READ raised NOTIFY changed)
     Q_PROPERTY(QColor edge READ edge NOTIFY changed)
     Q_PROPERTY(QColor strongEdge READ strongEdge NOTIFY changed)
-    /// What a part of is filled in the accent colour.
+    /// The unfilled part of a gauge; the filled part is in the accent colour.
     Q_PROPERTY(QColor track READ track NOTIFY changed)
     Q_PROPERTY(QColor neutralTile READ neutralTile NOTIFY changed)
-    /// The ground of a symbol in the accent colour.
+    /// The background of a symbol in the accent colour.
     Q_PROPERTY(QColor accentTile READ accentTile NOTIFY changed)
     Q_PROPERTY(QColor selectionFill READ selectionFill NOTIFY changed)
-    /// How a selected card's fill looks on the background.
+    /// The opaque equivalent of a selected card's fill on the background.
     Q_PROPERTY(QColor selectionGround READ selectionGround NOTIFY changed)
     Q_PROPERTY(QColor textSelection READ textSelection NOTIFY changed)
     Q_PROPERTY(QColor matchFill READ matchFill NOTIFY changed)
-    /// A window's edge where nothing shines through.
+    /// The edge of a window that is not translucent.
     Q_PROPERTY(QColor opaqueEdge READ opaqueEdge NOTIFY changed)
 
     Q_PROPERTY(vesk::ThemeFonts *fonts READ fonts CONSTANT)

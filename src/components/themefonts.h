@@ -9,14 +9,14 @@
 
 namespace vesk {
 
-/// The fonts of every view, as the user wants texts. Owned by the theme.
+/// The fonts of every view, following the user's text size. Owned by the theme.
 class ThemeFonts final : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of the theme.")
 
-    /// How large the user wants texts; what holds one line of text grows by this.
+    /// The user's text scale; whatever holds one line of text grows with it.
     Q_PROPERTY(qreal scale READ scale NOTIFY changed)
 
     Q_PROPERTY(QFont welcome READ welcome NOTIFY changed)
@@ -40,7 +40,7 @@ public:
 
     void setTextFont(const Appearance::TextFont &textFont);
 
-    /// How much room `count` digits of a font need, whichever they are.
+    /// The width of `count` digits in a font, whichever digits they are.
     [[nodiscard]] Q_INVOKABLE static qreal digitsWidth(const QFont &font, int count);
 
     [[nodiscard]] qreal scale() const { return m_textFont.scale; }
@@ -64,7 +64,7 @@ Q_SIGNALS:
     void changed();
 
 private:
-    /// Sizes are pixels, so that the proportions of a view hold whatever resolution the desktop reports.
+    /// Sizes are in pixels, so that a view keeps its proportions whatever resolution the desktop reports.
     [[nodiscard]] QFont font(qreal pixels, QFont::Weight weight = QFont::Normal) const;
 
     Appearance::TextFont m_textFont;

@@ -18,8 +18,8 @@ void ThemeMotion::setAllowed(bool isAllowed)
 
 QVariantList ThemeMotion::springCurve()
 {
-    // Follows 1 - (1 + wt) * exp(-wt) with w = 2 pi / 0.35 s over the spring's duration, in which it
-    // comes to rest.
+    // Approximates 1 - (1 + wt) * exp(-wt) with w = 2 pi / 0.35 s over the spring's duration, by the end of
+    // which it is at rest.
     return {0.33, 0.684, 0.127, 1, 1, 1};
 }
 

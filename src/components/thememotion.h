@@ -7,26 +7,26 @@
 
 namespace vesk {
 
-/// How long things move, and how, as the user wants motion. All durations are in milliseconds. Owned by
-/// the theme.
+/// The durations and curves of animations, following the user's motion preference. All durations are in
+/// milliseconds. Owned by the theme.
 class ThemeMotion final : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of the theme.")
 
-    /// False if the user wants no animation; then whatever moves takes 0.
+    /// False if the user wants no animation; all durations are then 0.
     Q_PROPERTY(bool isAllowed READ isAllowed NOTIFY changed)
     /// The spring of every animated change: critically damped, response 0.35 s.
     Q_PROPERTY(int spring READ spring NOTIFY changed)
-    /// The same for a button under the finger: response 0.25 s.
+    /// The spring of a button being pressed: response 0.25 s.
     Q_PROPERTY(int press READ press NOTIFY changed)
     Q_PROPERTY(QVariantList springCurve READ springCurve CONSTANT)
-    /// The ease-out of focus and hover.
+    /// The ease-out animation of focus and hover.
     Q_PROPERTY(int ease READ ease NOTIFY changed)
-    /// How long a control says that it has done what it was asked for.
+    /// How long a control shows that it has done what was asked.
     Q_PROPERTY(int feedback READ feedback CONSTANT)
-    /// How long the pointer rests on a control until its help comes up.
+    /// How long the pointer must rest on a control before its help appears.
     Q_PROPERTY(int helpDelay READ helpDelay CONSTANT)
 
 public:
