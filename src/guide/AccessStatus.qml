@@ -5,7 +5,7 @@ import QtQuick
 
 import Vesk.Components
 
-// Whether the user lets Vesk read other applications, and the way to allow it.
+// Whether Vesk may read other applications, with a link to allow it.
 Flow {
     id: root
 
@@ -13,7 +13,7 @@ Flow {
     readonly property color color: root.isTrusted ? Theme.success : Theme.attentionText
 
     signal settingsRequested
-    // The link has got the keyboard.
+    // The link has received the focus.
     signal keyboardCame
 
     spacing: Theme.space

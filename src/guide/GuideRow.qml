@@ -5,8 +5,8 @@ import QtQuick
 
 import Vesk.Components
 
-// One topic of the guide: a symbol, a title with its keys, the explanation, and below it, where the topic
-// needs it, whether Vesk may read other applications.
+// One topic of the guide: a symbol, a title with its keys, the explanation and, if the topic needs it,
+// whether Vesk may read other applications.
 Item {
     id: root
 
@@ -23,7 +23,7 @@ Item {
     property bool isTrusted: false
 
     signal settingsRequested
-    // A control of the row has got the keyboard.
+    // A control in the row has received the focus.
     signal keyboardCame
 
     implicitHeight: Math.max(tile.height, column.implicitHeight)
@@ -57,7 +57,7 @@ Item {
         anchors.right: parent.right
         spacing: Theme.tightSpace
 
-        // Breaks before the keys where large texts leave them no room.
+        // Wraps before the keys if large text leaves them no room.
         Flow {
             width: parent.width
             spacing: Theme.space
@@ -79,7 +79,7 @@ Item {
 
                 visible: root.keys.length > 0
                 spacing: 3
-                // Keys are named in the order in which they are pressed, whatever the language.
+                // Keys are listed in the order in which they are pressed, in every language.
                 LayoutMirroring.enabled: false
 
                 Repeater {

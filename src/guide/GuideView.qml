@@ -6,9 +6,9 @@ import QtQuick
 import Vesk.Components
 import Vesk.Guide
 
-// What Vesk does, and by which keys. Scrolls by the arrows and the page keys; Escape and the button
-// dismiss it. The scrolling part has the keyboard at first, so that no key that was meant for something
-// else dismisses the guide.
+// What Vesk does, and with which keys. Scrolls with the arrows and the page keys; Escape and the button
+// dismiss it. The scrolling part has the focus at first, so that a key meant for something else does not
+// dismiss the guide.
 FocusScope {
     id: root
 
@@ -44,7 +44,7 @@ FocusScope {
             contentY = Math.max(0, Math.min(end, y));
         }
 
-        // Brings an item of the content into view.
+        // Scrolls an item of the content into view.
         function reveal(item: Item) {
             const top = item.mapToItem(contentItem, 0, 0).y;
             moveTo(Math.min(top - Theme.margin, Math.max(contentY, top + item.height + Theme.margin - height)));

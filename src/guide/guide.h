@@ -9,8 +9,8 @@ namespace vesk {
 class Accessibility;
 class Defaults;
 
-/// Whether the guide is up, and what it shows of the user's consent. Owned by the host, whose view
-/// shows a GuideView while `isShown`.
+/// Whether the guide is shown, and the user's consent as shown in it. Owned by the host, whose view shows a
+/// GuideView while `isShown`.
 class Guide final : public QObject
 {
     Q_OBJECT
@@ -21,18 +21,18 @@ class Guide final : public QObject
     Q_PROPERTY(bool isTrusted READ isTrusted NOTIFY isTrustedChanged)
 
 public:
-    /// Both have to outlive the guide.
+    /// Both must outlive the guide.
     Guide(Accessibility &accessibility, Defaults &defaults, QObject *parent = nullptr);
 
-    /// Shows the guide by itself, unless the user has dismissed it before, in this run or an earlier one.
+    /// Shows the guide unprompted, unless the user has dismissed it in this or an earlier run.
     void greet();
     void show() { setShown(true); }
-    /// Hides the guide for good: it does not come up by itself any more. Does nothing if it is hidden.
+    /// Hides the guide for good: it no longer appears unprompted. Does nothing if it is hidden.
     Q_INVOKABLE void dismiss();
-    /// Hides the guide for something more urgent. If it was never dismissed, the next greeting shows it
+    /// Hides the guide for something more urgent. If it has never been dismissed, the next greeting shows it
     /// again.
     void setAside() { setShown(false); }
-    /// Has the user asked for the consent; the answer, if it comes, changes `isTrusted`.
+    /// Asks the user for consent; an answer changes `isTrusted`.
     Q_INVOKABLE void askForTrust();
 
     [[nodiscard]] bool isShown() const { return m_isShown; }

@@ -15,16 +15,16 @@ struct Topic
 {
     const char *symbol;
     const char *title;
-    /// Shown by its keys. Nullopt if the topic is about keys of Vesk's own windows.
+    /// The command whose keys are shown; nullopt if the topic is about keys in Vesk's own windows.
     std::optional<Command> command = {};
-    /// Those keys, separated by spaces.
+    /// The keys in Vesk's own windows, separated by spaces.
     QStringView keys = {};
     const char *text;
     bool showsAccess = false;
 };
 
-// Combinations within a text are all for Vesk's own
-// windows. The combination for checklists has no exception here: no file manager of this desktop has it.
+// All combinations within a text are for Vesk's own windows. The checklist combination has no exception here,
+// because no file manager of this desktop uses it.
 constexpr std::array kTopics{
     Topic{.symbol = "keyboard",
           .title = QT_TRANSLATE_NOOP("vesk::GuideTopics", "Open Vesk anywhere"),

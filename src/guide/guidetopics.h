@@ -10,12 +10,12 @@
 
 namespace vesk {
 
-/// What the guide tells of, one row a topic: only what is true on this desktop.
+/// The topics of the guide, one per row: only what is true on this desktop.
 class GuideTopics : public QAbstractListModel
 {
     Q_OBJECT
     QML_ELEMENT
-    /// Without them the topics show none of the keys that work everywhere.
+    /// If null, the topics do not show global keys.
     Q_PROPERTY(vesk::CommandKeys *commandKeys READ commandKeys WRITE setCommandKeys NOTIFY commandKeysChanged)
 
 public:
@@ -24,11 +24,11 @@ public:
         TitleRole,                     ///< QString
         KeysRole,                      ///< QStringList, in the notation of Vesk's texts; may be empty
         PlaceRole,                     ///< KeyLabels::Place in which those keys are pressed
-        TextRole,                      ///< QString, with keys spelt as this desktop's keyboard has them
-        SpokenRole,                    ///< QString, title and keys as a screen reader says them
-        ShowsAccessRole,               ///< bool, whether what it tells of needs access to other applications
+        TextRole,                      ///< QString, with keys spelt as on this desktop's keyboard
+        SpokenRole,                    ///< QString, title and keys in a screen reader's words
+        ShowsAccessRole,               ///< bool, whether the topic needs access to other applications
         NoticeRole,                    ///< QString, why the keys do not work; empty if they do
-        IsTakenRole,                   ///< bool, whether that is as another program has them
+        IsTakenRole, ///< bool, whether the keys do not work because another program has taken them
     };
 
     [[nodiscard]] CommandKeys *commandKeys() const { return m_keys; }
@@ -42,7 +42,7 @@ Q_SIGNALS:
     void commandKeysChanged();
 
 private:
-    // Of the topic at this place of the table.
+    // The keys of the topic at this index of the table.
     [[nodiscard]] QStringList keysOf(size_t place) const;
     [[nodiscard]] QString textOf(size_t place) const;
     [[nodiscard]] QString noticeOf(size_t place) const;
