@@ -5,7 +5,7 @@ import QtQuick
 
 import Vesk.Components
 
-// What some keys do. `keys` are in the notation of Vesk's texts.
+// What a key or combination does. `keys` are in the notation of Vesk's texts.
 Row {
     id: root
 

@@ -3,14 +3,14 @@ import QtQuick
 
 import Vesk.Components
 
-// A notice: a symbol and one line of text on a capsule.
+// A notice: a symbol and a line of text on a capsule.
 Surface {
     id: root
 
     required property string message
     required property string symbol
 
-    // Counted here, not by a positioner, which knows its size only when the next frame is drawn.
+    // Computed here because a positioner knows its size only when the next frame is drawn.
     implicitWidth: icon.size + Theme.space + label.implicitWidth + 2 * 18
     implicitHeight: Math.ceil(label.implicitHeight) + 2 * 11
     cornerRadius: height / 2

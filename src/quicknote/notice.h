@@ -6,26 +6,26 @@
 
 namespace vesk {
 
-/// What a notice says, and its symbol.
+/// A notice's message and symbol.
 struct Notice
 {
     const char *message;
     QStringView symbol;
 
-    /// What it says, in the user's language.
+    /// The message in the user's language.
     [[nodiscard]] QString text() const { return QCoreApplication::translate("vesk::Notice", message); }
 };
 
 namespace notices {
 
-/// Said once a new note is on the disk, not before.
+/// Shown only once a new note is on the disk.
 inline constexpr Notice kSaved{.message = QT_TRANSLATE_NOOP("vesk::Notice", "Saved to Vesk"),
                                .symbol = u"checkmark.circle.fill"};
-/// The store holds on to the note and writes it when the disk lets it.
+/// The store keeps the note and writes it when the disk allows.
 inline constexpr Notice kNotSaved{.message =
                                       QT_TRANSLATE_NOOP("vesk::Notice", "Not saved yet, Vesk keeps trying"),
                                   .symbol = u"exclamationmark.triangle.fill"};
-/// A text that was to be pasted is on the clipboard only.
+/// A text that was to be pasted is only on the clipboard.
 inline constexpr Notice kCopiedWindowClosed{
     .message = QT_TRANSLATE_NOOP("vesk::Notice", "Copied. The window you came from has closed"),
     .symbol = u"doc.on.doc"};

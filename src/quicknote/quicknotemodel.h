@@ -9,14 +9,14 @@
 
 namespace vesk {
 
-/// What is being written in the quick-note box. Each mode has a draft of its own; the one that is not
-/// shown is parked. Drafts live as long as the program.
+/// The drafts in the quick-note box, one per mode. The hidden one is set aside. Drafts live as long as the
+/// program.
 class QuickNoteModel : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The box has the one.")
-    /// The draft of the current mode, in the notes' markup.
+    /// The draft of the current mode, in the markup of notes.
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
     Q_PROPERTY(bool isChecklist READ isChecklist NOTIFY modeChanged)
     Q_PROPERTY(QString title READ title NOTIFY modeChanged)
@@ -25,10 +25,10 @@ class QuickNoteModel : public QObject
     Q_PROPERTY(QString remark READ remark NOTIFY remarkChanged)
 
 public:
-    /// Takes the mode's own draft up; a checklist begins with a box.
+    /// Switches to the mode and its draft; a new checklist begins with a checkbox.
     void begin(QuickNoteBox::Mode mode);
 
-    /// What the draft is as a note; empty if there is nothing to keep.
+    /// The draft as a note; empty if there is nothing to keep.
     [[nodiscard]] QString body() const;
     /// Drops the draft of the current mode.
     void clear() { setText({}); }
@@ -46,10 +46,10 @@ Q_SIGNALS:
     void modeChanged();
     void remarkChanged();
 
-    // What the view asks of the box.
+    // Requests from the view to the box.
     void saveRequested();
     void closeRequested();
-    /// The user has begun to drag the box by its ground.
+    /// The user has started to drag the box by its background.
     void moveRequested();
 
 private:

@@ -24,7 +24,7 @@ constexpr QSizeF kSize(580, 236);
 constexpr qreal kCornerRadius = 26;
 constexpr auto kFadeIn = 140ms;
 constexpr auto kFadeOut = 120ms;
-/// How much of the screen's visible frame lies above the box.
+/// The share of the screen's visible area above the box.
 constexpr qreal kShareAbove = 0.26;
 
 } // namespace
@@ -50,7 +50,7 @@ void QuickNotePanel::makeWindow()
     m_view = std::make_unique<QQuickView>(&m_needs.engine, nullptr);
     m_view->setTitle(tr("Quick Note"));
     m_view->setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    // Also asks for a window that can be translucent, should a compositor be there or come.
+    // Also requests a window that can be translucent, in case a compositor is running or starts later.
     m_view->setColor(Qt::transparent);
     m_view->setResizeMode(QQuickView::SizeRootObjectToView);
     m_view->setInitialProperties({{u"model"_s, QVariant::fromValue(&m_model)},
@@ -64,7 +64,7 @@ void QuickNotePanel::makeWindow()
             setShowing(false); // The whole program was hidden.
     });
 
-    // The shape is cut in the screen's own pixels.
+    // The shape is cut in screen pixels.
     connect(m_view.get(), &QWindow::screenChanged, this, &QuickNotePanel::shape);
 
     m_fade = std::make_unique<WindowFade>(*m_view, Surroundings::of(m_needs.engine));
@@ -83,10 +83,10 @@ void QuickNotePanel::expectNothing()
 
 void QuickNotePanel::show(Mode mode, const QString &remark)
 {
-    // What makes room for the box does so before: window managers give the keyboard to yet another window
-    // when one goes.
+    // Whatever makes room for the box does so before it opens, because window managers move the focus to yet
+    // another window when one closes.
     Q_EMIT aboutToOpen();
-    // What the user types from here on is meant for the box.
+    // From here on, what the user types is meant for the box.
     m_needs.application.holdKeys();
     m_controller.finishComposing();
     m_model.begin(mode);
@@ -103,7 +103,7 @@ void QuickNotePanel::show(Mode mode, const QString &remark)
     m_view->raise();
     setShowing(true);
     m_needs.application.activate(*m_view);
-    // At once, not a little later: by then the user may have put the caret elsewhere.
+    // At once rather than a little later: by then the user may have moved the caret.
     m_controller.forceFocus();
     m_controller.moveCaretToEnd();
 }
@@ -113,7 +113,7 @@ void QuickNotePanel::close()
     if (!m_isShowing)
         return;
     m_controller.finishComposing();
-    // Before the fading: what is typed now is for the application below.
+    // Before the fade-out: what is typed now is for the application below.
     m_needs.application.giveKeyboardBack(*m_view);
     m_fade->fadeOut(kFadeOut);
     setShowing(false);
@@ -137,7 +137,7 @@ void QuickNotePanel::save()
         return;
     m_needs.store.insert(std::make_unique<Note>(m_needs.clock, body));
     const bool isSaved = m_needs.store.save();
-    // The store has the note, whether it is written or still to be.
+    // The store has the note, whether or not it is written yet.
     m_model.clear();
     close();
     m_needs.toast.show(isSaved ? notices::kSaved : notices::kNotSaved);
@@ -154,11 +154,11 @@ void QuickNotePanel::place()
         return;
     }
     const QRectF &visible = screen->visibleFrame;
-    // With y upwards a rectangle's bottom() is its top edge.
+    // With y pointing up, a rectangle's bottom() is its top edge.
     const QPointF corner(visible.center().x() - size.width() / 2,
                          visible.bottom() - kShareAbove * visible.height() - size.height());
     m_isPlaceable = m_needs.windows.setFrame(*m_view, QRectF(corner, size));
-    // Where the desktop places windows by itself, the size at least is the box's own.
+    // If the desktop places windows itself, at least set the size.
     if (!m_isPlaceable)
         m_view->resize(size.toSize());
 }
@@ -172,9 +172,9 @@ void QuickNotePanel::shape()
 void QuickNotePanel::onFocusWindowChanged(const QWindow *window)
 {
     m_hadKeyboard = m_hadKeyboard || (window && window == m_view.get());
-    // None means that the keyboard is on its way, or that another program has grabbed it for a moment.
-    // A question of Vesk's own that comes up over the box does not end it, nor does a window that gets the
-    // keyboard on the box's way to it.
+    // Null means that the focus is still arriving, or that another program has grabbed it briefly. The box
+    // stays open when a question of Vesk appears above it, or when another window gets the focus on its way
+    // to the box.
     if (!window || window == m_view.get() || window->type() == Qt::Dialog || !m_hadKeyboard)
         return;
     close();
@@ -182,14 +182,14 @@ void QuickNotePanel::onFocusWindowChanged(const QWindow *window)
 
 void QuickNotePanel::beginMove()
 {
-    // A window manager that is asked to move the window has the keyboard meanwhile, and some of them go
-    // on after the button is up.
+    // A window manager that moves the window has the focus meanwhile, and some keep it after the button is
+    // released.
     if (!m_isPlaceable) {
         m_view->startSystemMove();
         return;
     }
     m_isMoving = true;
-    // The pointer has gone some way until this counted as dragging, on a busy machine all the way.
+    // The pointer had already moved when this was recognised as dragging; on a busy machine, all the way.
     moveTo(m_pointer);
 }
 

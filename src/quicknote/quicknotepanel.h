@@ -23,15 +23,15 @@ class Sounds;
 class Toast;
 class Windows;
 
-/// The box in which a note or a checklist is written without the panel. Its window is made when it is
-/// first shown, and kept. It goes away, with its draft kept, when the keyboard does.
+/// The box for writing a note or a checklist without the panel. Its window is created when first shown, and
+/// kept. It closes, keeping its draft, when it loses the focus.
 class QuickNotePanel final : public QObject, public QuickNoteBox
 {
     Q_OBJECT
 
 public:
-    /// What the box works with; all of it outlives the box. The engine has to be lent its surroundings
-    /// and its pasteboards before.
+    /// The dependencies of the box, all of which must outlive it. The engine must have been lent its
+    /// surroundings and pasteboards before.
     struct Needs
     {
         QQmlEngine &engine;
@@ -53,18 +53,18 @@ public:
     void show(Mode mode, const QString &remark) override;
     void close() override;
     [[nodiscard]] bool isShowing() const override { return m_isShowing; }
-    /// Keeps the draft as a new note, closes the box and says so. Does nothing while there is nothing
-    /// to keep.
+    /// Keeps the draft as a new note, closes the box and shows a notice. Does nothing if there is nothing to
+    /// keep.
     void save();
 
     [[nodiscard]] QuickNoteModel &model() { return m_model; }
-    /// Null before the box was first shown.
+    /// Null until the box is first shown.
     [[nodiscard]] QQuickView *window() const { return m_view.get(); }
 
 Q_SIGNALS:
-    /// The box is about to come up, or to change its mode.
+    /// The box is about to open or to change its mode.
     void aboutToOpen();
-    /// The box has gone, for whatever reason.
+    /// The box has closed, for whatever reason.
     void closed();
 
 protected:
@@ -76,9 +76,9 @@ private:
     void place();
     /// Gives the window its round corners.
     void shape();
-    /// Has the window follow the pointer while the button is down.
+    /// Makes the window follow the pointer while the button is down.
     void beginMove();
-    /// Moves the window so that the pointer keeps its hold of it.
+    /// Moves the window so that the pointer stays on the same point of it.
     void moveTo(QPoint pointer);
     void onFocusWindowChanged(const QWindow *window);
 
@@ -88,12 +88,12 @@ private:
     std::unique_ptr<QQuickView> m_view;
     std::unique_ptr<WindowFade> m_fade;
     bool m_isShowing = false;
-    /// Whether the box has had the keyboard since it came up.
+    /// Whether the box has had the focus since it opened.
     bool m_hadKeyboard = false;
-    /// Whether the desktop lets the box choose its place.
+    /// Whether the desktop lets the box choose its position.
     bool m_isPlaceable = false;
     bool m_isMoving = false;
-    /// Where the pointer has hold of the window, from its corner.
+    /// The point of the window that the pointer holds, relative to its corner.
     QPoint m_grip;
     QPoint m_pointer;
 };

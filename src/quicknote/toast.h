@@ -18,20 +18,19 @@ class Clock;
 class Screens;
 class Windows;
 
-/// The short notice at the bottom of the screen that confirms what was done. One window serves all
-/// notices; it takes neither the keyboard nor a click.
+/// The short notice at the bottom of the screen that confirms what was done. All notices share one window,
+/// which takes neither the focus nor clicks.
 class Toast final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// All of these have to outlive the notice, and the engine has to be lent its surroundings before.
-    /// The window readies itself as soon as the event loop has nothing else to do.
+    /// The arguments must outlive the notice, and the engine must have been lent its surroundings before. The
+    /// window prepares itself as soon as the event loop is idle.
     Toast(QQmlEngine &engine, Screens &screens, Windows &windows, Clock &clock);
     ~Toast() override;
 
-    /// Shows a message with a symbol, in place of the one before, for its full time: 1.4 seconds and
-    /// the fading.
+    /// Shows a message with a symbol for its full time (1.4 seconds plus fading), replacing the previous one.
     void show(const QString &message, const QString &symbol);
     void show(const Notice &notice) { show(notice.text(), notice.symbol.toString()); }
 
@@ -43,7 +42,7 @@ private:
     void prepareAhead();
     void setContent(const QString &message, const QString &symbol);
     void place();
-    /// Has a screen reader read the notice out.
+    /// Makes a screen reader read the notice.
     void announce() const;
 
     Screens &m_screens;
@@ -51,7 +50,7 @@ private:
     Clock &m_clock;
     QQuickView m_view;
     WindowFade m_fade;
-    /// Counts the notices, so that one that was replaced does not take the next one away.
+    /// Counts the notices, so that a replaced one does not hide its successor.
     quint64 m_notice = 0;
 };
 

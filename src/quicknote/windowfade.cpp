@@ -15,7 +15,7 @@ WindowFade::WindowFade(QWindow &window, Surroundings &surroundings)
     , m_animation(&window, "opacity")
 {
     connect(&m_animation, &QPropertyAnimation::finished, this, &WindowFade::onFinished);
-    // A compositor that goes in the middle would leave the window as faint as it was.
+    // If the compositor exits during a fade, the window would stay faint.
     connect(&surroundings.windows(), &Windows::compositedChanged, this, [this] {
         if (m_animation.state() != QPropertyAnimation::Running)
             return;

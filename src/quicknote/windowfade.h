@@ -12,20 +12,20 @@ namespace vesk {
 
 class Surroundings;
 
-/// Fades a window in and out, where the desktop blends windows and the user wants motion; elsewhere it
-/// is there, or gone, at once.
+/// Fades a window in and out if a compositor is running and the user wants motion; otherwise shows or hides
+/// it at once.
 class WindowFade final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Both have to outlive it.
+    /// Both must outlive this object.
     WindowFade(QWindow &window, Surroundings &surroundings);
 
-    /// To be called before the window is shown.
+    /// Must be called before the window is shown.
     void fadeIn(std::chrono::milliseconds duration);
-    /// `gone` follows, at once if nothing fades, unless the window is faded in again before. The window
-    /// is to be hidden then.
+    /// Emits `gone` at the end, at once if nothing fades, unless the window is faded in again first. Hide the
+    /// window then.
     void fadeOut(std::chrono::milliseconds duration);
 
 Q_SIGNALS:
