@@ -41,7 +41,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Puts the desktop's own icons at the place of the applications that the sample notes name.
+/// Installs the desktop's own icons for the applications that the sample notes name.
 void installApplications(vesk::MemoryWorkspace &workspace)
 {
     workspace.install(u"firefox-esr"_s, QIcon::fromTheme(u"firefox-esr"_s));
@@ -64,7 +64,7 @@ vesk::PanelModel::Tab tabNamed(const QString &name)
     return name == u"prompts" ? Tab::Prompts : name == u"checklists" ? Tab::Checklists : Tab::Notes;
 }
 
-/// The card with this number on the tab that is shown, from 1; none for 0 and what is beyond the last.
+/// The card with this number on the current tab, counted from 1; nullopt for 0 and beyond the last.
 std::optional<vesk::RecordId> cardAt(vesk::PanelModel &model, int number)
 {
     const bool isOnPrompts = model.tab() == vesk::PanelModel::Tab::Prompts;
@@ -74,7 +74,7 @@ std::optional<vesk::RecordId> cardAt(vesk::PanelModel &model, int number)
                                                       : std::optional(list.visibleAt(number - 1));
 }
 
-/// Moves the pointer of this window alone, once all has settled, and clicks there if asked to.
+/// Moves the pointer within this window only, once everything has settled, and clicks if asked to.
 void point(QQuickWindow &window, const QString &place, bool clicks)
 {
     const QPointF at(place.section(u',', 0, 0).toDouble(), place.section(u',', 1, 1).toDouble());
@@ -103,7 +103,7 @@ int main(int argc, char *argv[])
 {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QGuiApplication program(argc, argv);
-    // Without a desktop's settings the font is whatever comes first; this one is like a desktop's.
+    // Without desktop settings the font is arbitrary; this one is typical of a desktop.
     if (QFontDatabase::hasFamily(u"Inter"_s))
         QGuiApplication::setFont(QFont(u"Inter"_s));
     QCommandLineParser options;
@@ -145,7 +145,7 @@ int main(int argc, char *argv[])
     options.process(program);
     const vesk::Translation translation({options.value(language)});
     QGuiApplication::setLayoutDirection(translation.language().textDirection());
-    // A caret that blinks would be in some of the pictures only.
+    // A blinking caret would be in only some of the pictures.
     if (options.isSet(screenshot))
         QGuiApplication::styleHints()->setCursorFlashTime(0);
 
@@ -221,7 +221,7 @@ int main(int argc, char *argv[])
     model.setTab(tabNamed(options.value(tab)));
     model.setSearch(options.value(search));
     model.setDraft(options.value(draft));
-    // The list has its size by then, and the box its text.
+    // By then the list has its size and the box its text.
     QTimer::singleShot(200, &program, [&] {
         if (const auto id = cardAt(model, options.value(select).toInt()))
             model.selection()->select(id);
@@ -238,7 +238,7 @@ int main(int argc, char *argv[])
         toast.show(options.value(notice), u"checkmark.circle.fill"_s);
     QObject::connect(&application, &vesk::Application::didHide, &program, &QGuiApplication::quit);
     if (options.isSet(screenshot)) {
-        // The real pointer would be in the picture by what it hovers.
+        // The real pointer would show in the picture by hovering something.
         QCursor::setPos(QPoint());
         QTimer::singleShot(1200, &program, [&] {
             const bool isWritten = shown.grabWindow().save(options.value(screenshot));

@@ -8,7 +8,7 @@ class QQuickWindow;
 
 namespace vesk::sampleeditor {
 
-/// A window with a note in the editor that has one of everything that is styled.
+/// A window with a note in the editor that contains an example of every style.
 [[nodiscard]] std::unique_ptr<QQuickWindow> show(QQmlEngine &engine);
 
 } // namespace vesk::sampleeditor

@@ -25,7 +25,7 @@ struct Sample
     QStringView url = {};
 };
 
-/// What people keep every day.
+/// Everyday notes.
 constexpr std::array kEveryday{
     Sample{.age = 2min * 24 * 60,
            .text = u"Launch checklist\n☑ Write the release notes\n☑ Tag the build\n☐ Update the website\n"
@@ -65,7 +65,7 @@ constexpr std::array kEveryday{
     Sample{.age = 70min * 24 * 60, .text = u"Passport expires in November"},
 };
 
-/// Written from right to left, wholly or in part.
+/// Text that is written from right to left, entirely or in part.
 constexpr std::array kRightToLeft{
     Sample{.age = 2min,
            .text = u"قائمة التسوق\n☑ خبز وزيتون\n☐ تمر من السوق القديم\n☐ شاي بالنعناع",
@@ -85,7 +85,7 @@ constexpr std::array kRightToLeft{
            .text = u"Tea with the neighbours\nשלום means hello, and سلام nearly the same."},
 };
 
-/// Words that no line can hold, as addresses and hashes are.
+/// Words that are too long for a line, such as addresses and hashes.
 constexpr std::array kLongWords{
     Sample{.age = 1min,
            .text = u"Donaudampfschifffahrtselektrizitätenhauptbetriebswerkbauunterbeamtengesellschaft\n"
@@ -109,7 +109,7 @@ constexpr std::array kLongWords{
                    u"κοσσυφο"},
 };
 
-/// Letters that are not Latin, that are put together, or that are pictures.
+/// Non-Latin letters, combined characters and emoji.
 constexpr std::array kScripts{
     Sample{.age = 1min,
            .text = u"👩‍👩‍👧‍👦 家族会議 🎌 が金曜日にあります\n☑ "
@@ -158,7 +158,7 @@ constexpr std::array kPrompts{
     SamplePrompt{.age = 2min * 24 * 60, .text = u"Which of these names is taken?", .isDone = true},
 };
 
-/// What is long in other ways: a note of many lines, a checklist of many rows, the title of a page.
+/// Samples that are long in other ways: a note of many lines, a checklist of many rows, a long page title.
 std::span<const Sample> longOnes()
 {
     static const QString kLines = [] {
@@ -221,7 +221,7 @@ void fill(NotesStore &store, MemoryClock &clock, int count, const QString &kind)
                                                                 .sourceTitle = text(sample.title),
                                                                 .sourceURL = text(sample.url)}));
     }
-    // The file of the samples is thrown away.
+    // The samples' file is temporary.
     static_cast<void>(store.save());
 }
 
@@ -234,7 +234,7 @@ void fillPrompts(NotesStore &store, const MemoryClock &clock)
                                                              .createdAt = clock.now() - sample.age,
                                                              .isCaptured = sample.isCaptured}));
     }
-    // The file of the samples is thrown away.
+    // The samples' file is temporary.
     static_cast<void>(store.save());
 }
 

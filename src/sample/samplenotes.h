@@ -10,8 +10,8 @@ class NotesStore;
 
 namespace samplenotes {
 
-/// Fills a store with notes of the last days, up to the clock's time, which ends where it was. Their
-/// texts are of this kind: "right-to-left", "long-words", "long", "scripts", or everyday ones.
+/// Fills a store with notes of the last few days up to the clock's time, which is unchanged afterwards.
+/// `kind` selects their texts: "right-to-left", "long-words", "long", "scripts", or everyday ones.
 void fill(NotesStore &store, MemoryClock &clock, int count, const QString &kind);
 /// Adds prompts of every kind.
 void fillPrompts(NotesStore &store, const MemoryClock &clock);

@@ -17,7 +17,7 @@ SampleWindows::SampleWindows(const Screens &screens, bool isComposited)
 
 void SampleWindows::prepare(QWindow &window, Kind kind)
 {
-    // What the windows' own flags say is enough here.
+    // The window's own flags are enough here.
     Q_UNUSED(window)
     Q_UNUSED(kind)
 }

@@ -7,7 +7,7 @@ namespace vesk {
 
 class Screens;
 
-/// Places windows by Qt alone, as well as that goes on any desktop.
+/// Places windows using Qt alone, as well as that works on any desktop.
 class SampleWindows final : public Windows
 {
     Q_OBJECT
