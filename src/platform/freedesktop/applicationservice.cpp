@@ -26,7 +26,7 @@ ApplicationService::Claim ApplicationService::claim(IfTaken ifTaken)
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return Claim::NoBus;
-    // The object has to stand before the name does: a second start calls as soon as it sees the name.
+    // Register the object before the name: a second instance calls as soon as it sees the name.
     bus.registerObject(kPath, this, QDBusConnection::ExportAllSlots | QDBusConnection::ExportAdaptors);
     for (QDeadlineTimer deadline(kForwardDeadline); !deadline.hasExpired();) {
         if (bus.registerService(kService))
@@ -64,7 +64,7 @@ void ApplicationService::Activate(const QVariantMap &platformData)
 
 void ApplicationService::Open(const QStringList &uris, const QVariantMap &platformData)
 {
-    // Vesk opens no files; being asked to is a wish to see it.
+    // Vesk opens no files; being asked to means that the user wants to see it.
     Q_UNUSED(uris)
     Activate(platformData);
 }

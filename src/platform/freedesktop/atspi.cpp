@@ -19,7 +19,7 @@ namespace {
 
 const QString kAccessible = QStringLiteral("org.a11y.atspi.Accessible");
 
-/// An application that was woken or got the keyboard back a moment ago may not show it yet.
+/// An application that has only just been woken or focused may not report it yet.
 constexpr auto kRetryPeriod = 25ms;
 constexpr int kMaximumRetries = 2;
 
@@ -33,8 +33,8 @@ AccessibleElement elementOf(qint64 processIdentifier, const AtSpiReference &refe
     return {.processIdentifier = processIdentifier, .address = reference.service + u' ' + reference.path};
 }
 
-/// The roots of the applications on the bus that this process has; toolkits of one process may each
-/// have their own. Nullopt if not everybody answered: the one that was asked for may be among the rest.
+/// The root objects that this process has on the bus; each toolkit in a process may have its own. nullopt if
+/// anything did not answer, because the requested process may be among those.
 QCoro::Task<std::optional<QList<AtSpiReference>>> applicationsOf(AtSpiQuestion question,
                                                                  qint64 processIdentifier)
 {
@@ -55,7 +55,7 @@ QCoro::Task<std::optional<QList<AtSpiReference>>> applicationsOf(AtSpiQuestion q
     co_return own;
 }
 
-/// How an object stands that has said that it has the keyboard; without an object if it is gone.
+/// The current state of an object that announced the focus; no object if it is gone.
 QCoro::Task<AtSpiFocus> verify(AtSpiQuestion question, AtSpiReference object)
 {
     AtSpiFocus focus;
@@ -165,7 +165,7 @@ QCoro::Task<std::optional<bool>> AtSpi::isInPasswordField(AtSpiQuestion question
     const std::optional<AccessibleElement> element = co_await focusedElement(question, processIdentifier);
     if (self.isNull())
         co_return std::nullopt;
-    // Whatever the application announced before its answers has arrived by now.
+    // By now, whatever the application announced before its answers has arrived.
     past.unite(recentlyFocused());
     bool isKnown = element && !element->address.isEmpty();
     if (isKnown)
@@ -193,7 +193,7 @@ QCoro::Task<std::optional<bool>> AtSpi::isEditable(AtSpiQuestion question, Acces
 
 QCoro::Task<std::optional<QString>> AtSpi::documentUrl(AtSpiQuestion question, AccessibleElement element)
 {
-    // Firefox knows its page's address by the one name, Chromium by the other.
+    // Firefox uses the first name for its page's address, Chromium the second.
     const QString names[] = {u"DocURL"_s, u"URI"_s};
     const AtSpiReference document = referenceOf(element);
     for (const QString &name : names) {
@@ -209,8 +209,8 @@ QCoro::Task<std::optional<QString>> AtSpi::documentUrl(AtSpiQuestion question, A
 
 void AtSpi::onFocusEvent(const AtSpiReference &object, bool isFocused)
 {
-    // Events of the element that loses the focus may come after those of the one that gets it, so
-    // a loss only clears the element itself.
+    // Events of the element that loses the focus may arrive after those of the one that gains it, so a loss
+    // only clears the element itself.
     const auto last = m_focused.constFind(object.service);
     const bool isLast = last != m_focused.cend() && *last == object;
     if (isFocused == isLast)
@@ -225,9 +225,9 @@ void AtSpi::onFocusEvent(const AtSpiReference &object, bool isFocused)
 
 void AtSpi::rememberPast(const AtSpiReference &object)
 {
-    // Longer than a claim of PRIMARY, or the news of it, takes on a busy machine.
+    // Longer than claiming PRIMARY, or hearing of the claim, takes on a busy machine.
     constexpr auto kRecent = 3s;
-    // A page may move the keyboard about as often as it likes.
+    // A page can move the focus as often as it likes.
     constexpr qsizetype kMaximum = 50;
     m_pastFocus.removeIf(
         [&object](const PastFocus &past) { return past.object == object || past.forgottenAt.hasExpired(); });
@@ -251,7 +251,7 @@ void AtSpi::wake(const AtSpiReference &application)
     if (m_woken.contains(application.service))
         return;
     m_woken.insert(application.service);
-    // What it answers is of no interest.
+    // The answer does not matter.
     ask().call(application, kAccessible, u"GetAttributes"_s);
 }
 
@@ -272,7 +272,7 @@ QCoro::Task<AtSpiFocus> AtSpi::focusOf(AtSpiQuestion question, AtSpiReference ap
     AtSpiFocus focus;
     AtSpiFocus announced;
     for (int retries = 0;; ++retries) {
-        // An announcement can be out of date, since not every focus is announced, and can be of a
+        // An announcement can be out of date, since not every focus change is announced, and it can be for a
         // container.
         const std::optional<AtSpiReference> object = m_focused.contains(application.service)
                                                          ? std::optional(m_focused.value(application.service))

@@ -24,8 +24,8 @@ const QString kRegistryService = QStringLiteral("org.a11y.atspi.Registry");
 const QString kRootPath = QStringLiteral("/org/a11y/atspi/accessible/root");
 const QString kObjectEvents = QStringLiteral("org.a11y.atspi.Event.Object");
 
-/// A bus that does not come back is asked for a few times, each wait twice as long as the last, and
-/// then no more: its launcher says when it is there.
+/// A bus that does not come back is tried a few times, waiting twice as long each time, and then no more: its
+/// launcher announces when it is there.
 constexpr auto kFirstRetry = 500ms;
 constexpr int kMaximumFailures = 6;
 
@@ -118,11 +118,11 @@ QCoro::Task<> AtSpiBus::connectToBus()
     QDBusMessage enable = QDBusMessage::createMethodCall(kLauncherService, kLauncherPath,
                                                          u"org.freedesktop.DBus.Properties"_s, u"Set"_s);
     enable << u"org.a11y.Status"_s << u"IsEnabled"_s << QVariant::fromValue(QDBusVariant(true));
-    // A desktop without accessibility says no; the texts then come by the other routes.
+    // A desktop without accessibility refuses; texts are then read in other ways.
     QDBusConnection::sessionBus().asyncCall(enable);
     const QDBusMessage ask =
         QDBusMessage::createMethodCall(kLauncherService, kLauncherPath, kLauncherService, u"GetAddress"_s);
-    // The launcher may have to start the bus first, so this one answer is given more time.
+    // The launcher may have to start the bus first, so this answer gets more time.
     constexpr int kStartDeadline = 10'000; // milliseconds
     const QDBusPendingCall pending = QDBusConnection::sessionBus().asyncCall(ask, kStartDeadline);
     const QDBusMessage reply = co_await pending;
@@ -175,13 +175,13 @@ void AtSpiBus::listen(QDBusConnection bus)
 {
     bus.connect(QString(), u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s,
                 u"Disconnected"_s, this, SLOT(onDisconnected()));
-    // Only these of the many changes that applications announce once anyone listens to them.
+    // Of the many events that applications send once somebody listens, only these.
     const QStringList focused(u"focused"_s);
     bus.connect(QString(), QString(), kObjectEvents, u"StateChanged"_s, focused, QString(), this,
                 SLOT(onStateChanged(QDBusMessage)));
     bus.connect(kRegistryService, kRootPath, kObjectEvents, u"ChildrenChanged"_s, this,
                 SLOT(onChildrenChanged(QDBusMessage)));
-    // A registry that is started anew knows nothing of its former listeners.
+    // A restarted registry has forgotten its listeners.
     m_registryWatcher = std::make_unique<QDBusServiceWatcher>(kRegistryService, bus,
                                                               QDBusServiceWatcher::WatchForRegistration);
     connect(m_registryWatcher.get(), &QDBusServiceWatcher::serviceRegistered, this,

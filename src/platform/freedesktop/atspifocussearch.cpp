@@ -15,8 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What Collection.GetMatches looks for: objects in all of these states, of all of these interfaces, and of
-/// one of these roles. An empty list stands for any.
+/// The criteria of Collection.GetMatches: objects in all of these states, with all of these interfaces and
+/// with one of these roles. An empty list matches everything.
 struct MatchRule
 {
     QList<int> states;
@@ -38,7 +38,7 @@ QDBusArgument &operator<<(QDBusArgument &argument, const MatchRule &rule)
 
 const QDBusArgument &operator>>(const QDBusArgument &argument, MatchRule &rule)
 {
-    // Rules are only ever sent; Qt wants both directions.
+    // Rules are only ever sent, but Qt requires both directions.
     Q_UNUSED(rule)
     return argument;
 }
@@ -54,10 +54,10 @@ namespace {
 
 using StringMap = QMap<QString, QString>;
 
-/// The walk asks this many objects at once: enough to keep the application busy, few enough that
-/// the last of them is answered in time.
+/// How many objects the walk asks at once: enough to keep the application busy, few enough that the last of
+/// them is answered in time.
 constexpr qsizetype kPipelined = 32;
-/// An application with more objects than this is not walked through to the end.
+/// The walk stops after this many objects of an application.
 constexpr qsizetype kMaximumObjects = 3000;
 
 AtSpiQuestion::Reply findMatches(const AtSpiQuestion &question, const AtSpiReference &frame,
@@ -84,7 +84,7 @@ struct Frames
     QList<AtSpiReference> others;
 };
 
-/// The windows of an application; none if it does not answer.
+/// The windows of an application; nullopt if it does not answer.
 QCoro::Task<std::optional<Frames>> findFrames(AtSpiQuestion question, AtSpiReference application)
 {
     const std::optional<QList<AtSpiReference>> all = co_await question.children(application);
@@ -102,7 +102,7 @@ QCoro::Task<std::optional<Frames>> findFrames(AtSpiQuestion question, AtSpiRefer
     co_return frames;
 }
 
-/// Asks the toolkit's own search; none if it has none.
+/// Uses the toolkit's own search; nullopt if it has none.
 QCoro::Task<std::optional<AtSpiFocus>> askCollection(AtSpiQuestion question, QList<AtSpiReference> frames)
 {
     AtSpiFocus focus{.object = std::nullopt, .isText = true, .isComplete = true};
@@ -127,7 +127,7 @@ QCoro::Task<std::optional<AtSpiFocus>> askCollection(AtSpiQuestion question, QLi
     for (const AtSpiReference &frame : frames) {
         const std::optional<QVariantList> reply = co_await findFocused(question, frame, anyInterface);
         const QList<AtSpiReference> matches = AtSpiReference::readList(reply ? reply->value(0) : QVariant());
-        // The innermost of those that contain each other comes last.
+        // If matches contain each other, the innermost comes last.
         if (!matches.isEmpty()) {
             focus.object = matches.last();
             break;
@@ -136,7 +136,7 @@ QCoro::Task<std::optional<AtSpiFocus>> askCollection(AtSpiQuestion question, QLi
     co_return focus;
 }
 
-/// One step of the walk: what claims the keyboard, and what is to be looked at next.
+/// One step of the walk: an object that claims the focus, and the objects to visit next.
 struct Step
 {
     bool isAnswered = false;
@@ -159,8 +159,8 @@ QCoro::Task<Step> lookAt(AtSpiQuestion question, QList<AtSpiReference> objects)
         const AtSpiReference &object = objects.at(static_cast<qsizetype>(index));
         if (state->test(atspistate::kFocused))
             step.focused.append(object);
-        // Closed menus and hidden pages have no part in this; GTK 4 says "showing" of few objects,
-        // but "visible" of all that are. The rows of long lists would be made only to be looked at.
+        // Skip closed menus and hidden pages; GTK 4 reports "showing" for few objects, but "visible" for all
+        // that are. Skip the rows of long lists, which would be created only to be visited.
         if (state->test(atspistate::kVisible) && !state->test(atspistate::kManagesDescendants))
             children.push_back(question.children(object));
     }
@@ -185,7 +185,7 @@ QCoro::Task<std::optional<AtSpiReference>> firstText(AtSpiQuestion question, QLi
     co_return text;
 }
 
-/// Looks at object after object, level by level, since what has the keyboard is seldom deep.
+/// Walks the objects level by level, since the focused one is seldom deep.
 QCoro::Task<AtSpiFocus> walk(AtSpiQuestion question, QList<AtSpiReference> frames)
 {
     AtSpiFocus focus;
@@ -230,7 +230,7 @@ QCoro::Task<AtSpiFocus> search(AtSpiQuestion question, QList<AtSpiReference> fra
 
 QCoro::Task<std::optional<AtSpiReference>> searchShownPage(AtSpiQuestion question, AtSpiReference application)
 {
-    // Roles, too, are bits by their numbers: this is "document web", the 95th.
+    // Roles are bits too, by number: this is "document web", the 95th.
     const QList<int> pageRole{0, 0, std::numeric_limits<int>::min()};
     const MatchRule rule{.states = {1 << atspistate::kShowing, 0}, .interfaces = {}, .roles = pageRole};
     const std::optional<Frames> frames = co_await findFrames(question, application);
@@ -249,8 +249,8 @@ QCoro::Task<AtSpiFocus> searchFocus(AtSpiQuestion question, AtSpiReference appli
     const std::optional<Frames> frames = co_await findFrames(question, application);
     if (!frames)
         co_return AtSpiFocus();
-    // Windows that are not active may have an object of their own that claims the keyboard. While a
-    // key is grabbed, though, and in a Chromium that was woken late, no window is active.
+    // An inactive window may have an object that claims the focus. However, while a key is grabbed, and in a
+    // Chromium that was woken late, no window is active.
     AtSpiFocus focus{.object = std::nullopt, .isText = false, .isComplete = true};
     if (!frames->active.isEmpty())
         focus = co_await search(question, frames->active);

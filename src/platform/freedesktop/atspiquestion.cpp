@@ -20,14 +20,14 @@ const QString kAccessible = QStringLiteral("org.a11y.atspi.Accessible");
 const QString kProperties = QStringLiteral("org.freedesktop.DBus.Properties");
 const QString kDaemon = QStringLiteral("org.freedesktop.DBus");
 
-/// Suspends until a call is answered or the bus is left: Qt does not end the calls of a connection
-/// that is closed.
+/// Suspends until a call is answered or the bus is closed: Qt does not finish the calls of a closed
+/// connection.
 class Answer final
 {
 public:
     Answer(AtSpiBus &bus, const QDBusPendingCall &call)
         : m_bus(&bus)
-        // It may be telling that it has finished when it is no longer needed.
+        // deleteLater, because the watcher may be emitting `finished` when it is no longer needed.
         , m_watcher(new QDBusPendingCallWatcher(call), [](QObject *watcher) { watcher->deleteLater(); })
     {
     }
@@ -53,14 +53,15 @@ private:
     std::shared_ptr<QDBusPendingCallWatcher> m_watcher;
 };
 
-/// Whether this error was not sent by anybody, but stands for an answer that did not come.
+/// Whether nobody sent this error: it stands for an answer that did not arrive.
 bool isTimeout(const QDBusMessage &reply)
 {
     const QDBusError::ErrorType error = QDBusError(reply).type();
     return error == QDBusError::NoReply || error == QDBusError::Timeout || error == QDBusError::TimedOut;
 }
 
-// The arguments of an answer, each by its own coroutine, so that the call itself is under way.
+// The arguments of an answer are each read by a separate coroutine, so that the call itself is already under
+// way.
 
 QCoro::Task<std::optional<QList<AtSpiReference>>> readReferences(AtSpiQuestion::Reply pending)
 {
@@ -193,7 +194,7 @@ AtSpiQuestion::Reply AtSpiQuestion::send(AtSpiQuestion question, QDBusMessage me
     const QDBusMessage reply = co_await answer;
     if (reply.type() == QDBusMessage::InvalidMessage || isTimeout(reply))
         *question.m_isSilent = true;
-    // An answer that comes after the user has withdrawn the consent is not looked at.
+    // Ignore an answer that arrives after the user has withdrawn consent.
     if (question.m_bus.isNull() || question.m_bus->generation() != question.m_generation
         || reply.type() != QDBusMessage::ReplyMessage)
         co_return std::nullopt;

@@ -26,7 +26,7 @@ bool isParagraph(const QString &role)
     return roles.contains(role);
 }
 
-/// The page that an object is in; null if it is in none.
+/// The page that contains an object; null if none does.
 QCoro::Task<AtSpiReference> pageAround(AtSpiQuestion question, AtSpiReference object)
 {
     std::optional<AtSpiReference> ancestor = object;
@@ -39,12 +39,12 @@ QCoro::Task<AtSpiReference> pageAround(AtSpiQuestion question, AtSpiReference ob
     co_return AtSpiReference();
 }
 
-/// Whether the selection may go on where no paragraph is to be seen: Writer has only those on the
+/// Whether the selection may continue beyond the visible paragraphs, since Writer only exposes those on the
 /// screen. `selected` has the ranges of each paragraph.
 QCoro::Task<bool> goesOutOfSight(AtSpiQuestion question, AtSpiReference last,
                                  QList<QList<AtSpiRange>> selected)
 {
-    // One paragraph alone is no document that was scrolled.
+    // A single paragraph is not a scrolled document.
     if (selected.size() < 2)
         co_return false;
     if (!selected.first().isEmpty() && selected.first().first().start == 0)
@@ -57,7 +57,7 @@ QCoro::Task<bool> goesOutOfSight(AtSpiQuestion question, AtSpiReference last,
     co_return !count.isValid() || selected.last().last().end >= count.toInt();
 }
 
-/// What is selected in the paragraphs of a document, each on a line of its own.
+/// The selected text in the paragraphs of a document, one line each.
 QCoro::Task<std::optional<AtSpiSelection>> readParagraphs(AtSpiQuestion question,
                                                           QList<AtSpiReference> paragraphs)
 {
@@ -67,8 +67,8 @@ QCoro::Task<std::optional<AtSpiSelection>> readParagraphs(AtSpiQuestion question
     for (const AtSpiReference &paragraph : paragraphs)
         pending.push_back(readAtSpiRanges(question, paragraph));
     QStringList lines;
-    // What has no selection belongs to it if more of it follows: an empty line, or a picture or a table,
-    // whose text would be missing.
+    // A paragraph without a selection is part of the selection if more of it follows: an empty line, or a
+    // picture or table, whose text would be missing.
     QStringList between;
     bool isHole = false;
     QList<QList<AtSpiRange>> selected;
@@ -99,7 +99,7 @@ QCoro::Task<std::optional<AtSpiSelection>> readParagraphs(AtSpiQuestion question
 QCoro::Task<std::optional<AtSpiSelection>> readPage(AtSpiQuestion question, AtSpiReference page)
 {
     const std::optional<QList<AtSpiRange>> ranges = co_await readAtSpiRanges(question, page);
-    // Browsers say of a page that nothing is selected although all of it is.
+    // Browsers report that nothing is selected in a page although all of it is.
     if (!ranges || ranges->isEmpty())
         co_return std::nullopt;
     const std::optional<QString> text = co_await readAtSpiText(question, page, *ranges);
@@ -130,8 +130,7 @@ QCoro::Task<std::optional<AtSpiSelection>> readAtSpiSelection(AtSpiQuestion ques
     const std::optional<QString> role = co_await askRole;
     if (!states || !role)
         co_return std::nullopt;
-    // A link that has the keyboard knows its part of what is selected in the page, if any. A field
-    // has a selection of its own.
+    // A focused link knows its share of the page's selection, if any. A field has a separate selection.
     if (!states->test(atspistate::kEditable) && role != "terminal"_L1) {
         const AtSpiReference page = co_await pageAround(question, object);
         if (!page.isNull())
@@ -139,7 +138,7 @@ QCoro::Task<std::optional<AtSpiSelection>> readAtSpiSelection(AtSpiQuestion ques
     }
     if (!ranges || question.isOver())
         co_return std::nullopt;
-    // Writer has its paragraphs side by side, and only one of them has the keyboard.
+    // Writer's paragraphs are siblings, and only one of them has the focus.
     if (isParagraph(*role))
         co_return co_await readParagraphsAround(question, object);
     const std::optional<QString> text = co_await readAtSpiText(question, object, *ranges);

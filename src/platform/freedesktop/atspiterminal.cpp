@@ -19,11 +19,11 @@ struct Mark
 };
 
 constexpr Mark kMarks[] = {
-    // xterm.js, which most terminals in pages and in Electron applications are made with.
+    // xterm.js, which most terminals in web pages and Electron applications use.
     {.attribute = "class"_L1, .part = "xterm"_L1},
     // hterm.
     {.attribute = "tag"_L1, .part = "x-screen"_L1},
-    // noVNC and Guacamole show another machine.
+    // noVNC and Guacamole show another machine's screen.
     {.attribute = "id"_L1, .part = "noVNC"_L1},
     {.attribute = "class"_L1, .part = "input-sink"_L1},
 };

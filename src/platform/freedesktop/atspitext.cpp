@@ -19,17 +19,17 @@ namespace {
 const QString kText = QStringLiteral("org.a11y.atspi.Text");
 const QString kHypertext = QStringLiteral("org.a11y.atspi.Hypertext");
 
-/// Stands in a text for an object embedded in it.
+/// Stands in a text for an embedded object.
 constexpr QChar kEmbedded = QChar::ObjectReplacementCharacter;
 constexpr int kMaximumDepth = 30;
-/// This many embedded objects are read at once.
+/// How many embedded objects are read at once.
 constexpr qsizetype kPipelined = 16;
 
-/// One reading with all that it descends into.
+/// The state of one reading, shared by everything that it descends into.
 struct Reading
 {
     AtSpiQuestion question;
-    /// What it may still take in.
+    /// How many more objects it may read.
     int objects = 2000;
     qsizetype bytes = kMaximumTextBytes;
 };
@@ -41,11 +41,11 @@ using References = QList<AtSpiReference>;
 /// How much of an embedded object is selected.
 enum class Coverage {
     Whole,
-    /// The selection may begin or end within it.
+    /// The selection may begin or end inside the object.
     Partial,
 };
 
-/// Roles whose objects have a selection of their own or none: a page's does not reach into them.
+/// Roles whose objects have a selection of their own, or none: a page's selection does not extend into them.
 bool isApart(const QString &role)
 {
     static const QSet<QString> roles{u"password text"_s,  u"entry"_s,         u"spin button"_s,
@@ -54,7 +54,7 @@ bool isApart(const QString &role)
     return roles.contains(role);
 }
 
-/// Places are in characters.
+/// Offsets are in characters.
 qsizetype charactersIn(QStringView text)
 {
     return text.size() - std::ranges::count_if(text, [](QChar unit) { return unit.isLowSurrogate(); });
@@ -69,7 +69,7 @@ QCoro::Task<std::optional<QString>> readPlain(AtSpiQuestion question, AtSpiRefer
     if (!reply)
         co_return std::nullopt;
     QString text = reply->value(0).toString();
-    // QtDBus takes a U+FEFF at the beginning of a string for a byte order mark, and drops it.
+    // QtDBus takes a leading U+FEFF for a byte order mark and drops it.
     if (charactersIn(text) == range.end - range.start - 1) {
         const QVariantList first(1, range.start);
         const std::optional<QVariantList> character =
@@ -80,7 +80,8 @@ QCoro::Task<std::optional<QString>> readPlain(AtSpiQuestion question, AtSpiRefer
     co_return std::move(text);
 }
 
-/// What stands in the text of `object` at this place, by way of its links; null if it knows none.
+/// The object that is embedded in the text of `object` at this offset, according to its links; null if it has
+/// none there.
 QCoro::Task<AtSpiReference> linkedAt(AtSpiQuestion question, AtSpiReference object, int place)
 {
     const QVariantList at(1, place);
@@ -98,8 +99,8 @@ QCoro::Task<AtSpiReference> linkedAt(AtSpiQuestion question, AtSpiReference obje
     co_return AtSpiReference::read(shown ? shown->value(0) : QVariant());
 }
 
-/// The objects embedded in a text from `start` on, as its children in their order; none if there are
-/// not as many.
+/// The objects embedded in a text from `start` on, taken from its children in order; nullopt if there are too
+/// few.
 QCoro::Task<std::optional<References>> childrenFrom(AtSpiQuestion question, AtSpiReference object, int start)
 {
     const std::optional<References> children = co_await question.children(object);
@@ -112,8 +113,8 @@ QCoro::Task<std::optional<References>> childrenFrom(AtSpiQuestion question, AtSp
     co_return children->sliced(std::min(skipped->count(kEmbedded), children->size()));
 }
 
-/// The objects that `text`, which stands in `object` from `start` on, has placeholders for; none if
-/// they cannot all be told.
+/// The objects that the placeholders in `text`, which starts at `start` in `object`, stand for; nullopt if
+/// not all can be determined.
 QCoro::Task<std::optional<References>> embeddedIn(Shared reading, AtSpiReference object, int start,
                                                   QString text)
 {
@@ -144,7 +145,7 @@ QCoro::Task<std::optional<References>> embeddedIn(Shared reading, AtSpiReference
 QCoro::Task<std::optional<Piece>> readObject(Shared reading, AtSpiReference object, Coverage coverage,
                                              int depth);
 
-/// The pieces of several objects one after the other.
+/// The pieces of several objects in sequence.
 QCoro::Task<std::optional<QList<Piece>>> readObjects(Shared reading, References objects,
                                                      QList<Coverage> coverages, int depth)
 {
@@ -182,7 +183,7 @@ QCoro::Task<std::optional<QString>> readRange(Shared reading, AtSpiReference obj
     const std::optional<References> embedded = co_await embeddedIn(reading, object, range.start, *plain);
     if (!embedded)
         co_return std::nullopt;
-    // Only at its ends can the selection lie partly within an object.
+    // The selection can cover an object partially only at its ends.
     QList<Coverage> coverages(count, Coverage::Whole);
     if (plain->front() == kEmbedded)
         coverages.first() = coverage;
@@ -214,7 +215,7 @@ QCoro::Task<std::optional<QString>> readRanges(Shared reading, AtSpiReference ob
     co_return parts.join(u'\n');
 }
 
-/// An object without a text of its own, such as a table, is its children.
+/// An object without a text of its own, such as a table, is read as its children.
 QCoro::Task<std::optional<QString>> readChildren(Shared reading, AtSpiReference object, Coverage coverage,
                                                  int depth)
 {
@@ -273,7 +274,7 @@ QCoro::Task<std::optional<QList<AtSpiRange>>> readAtSpiRanges(AtSpiQuestion ques
         co_return std::nullopt;
     constexpr int kMaximumRanges = 100;
     const int selections = count->first().toInt();
-    // GTK 3 says -1 of its lists: they have a text, but no way of telling what is selected in it.
+    // GTK 3 returns -1 for its lists: they have a text, but cannot say what is selected in it.
     if (selections < 0 || selections > kMaximumRanges)
         co_return std::nullopt;
     QList<AtSpiRange> ranges;

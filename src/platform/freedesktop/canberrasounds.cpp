@@ -38,22 +38,22 @@ CanberraSounds::~CanberraSounds() = default;
 void CanberraSounds::play(Sound sound)
 {
     Q_ASSERT(sound == Sound::Tink);
-    // A sound that has to wait for the one before would only come late.
+    // A sound that has to wait for the previous one would be too late.
     if (!m_player || m_player->isBusy.exchange(true))
         return;
     const QString description = QCoreApplication::translate("vesk::CanberraSounds", "Saved to Vesk");
     const auto play = [player = m_player, description = description.toUtf8()] {
-        // The name for "something is done" in the sound naming rules of the free desktops.
+        // The name for "complete" in the freedesktop.org sound naming specification.
         ca_context_play(player->context.get(), 0, CA_PROP_EVENT_ID, "complete", CA_PROP_EVENT_DESCRIPTION,
                         description.constData(), CA_PROP_MEDIA_ROLE, "event", CA_PROP_CANBERRA_CACHE_CONTROL,
                         "permanent", nullptr);
         player->isBusy = false;
     };
     try {
-        // A thread that somebody waits for would hold up the program's end while the server hangs.
+        // Detached: joining the thread would hold up the program's exit while the server hangs.
         std::thread(play).detach();
     } catch (const std::system_error &) {
-        // No thread is left. The note is kept, and the notice says so.
+        // No thread could be created. The note is kept, and the notice confirms it.
         m_player->isBusy = false;
     }
 }

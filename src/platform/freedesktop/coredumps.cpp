@@ -16,12 +16,12 @@ namespace {
 
 constexpr auto kFilter = "/proc/self/coredump_filter";
 
-/// What the process was started with, in a form that a child can set between fork and exec, where nothing
-/// may be allocated.
+/// The settings that the process was started with, in a form that a child can restore between fork and exec,
+/// where allocating is not allowed.
 struct Before
 {
     std::optional<rlimit> limit;
-    /// As the kernel has it: a hexadecimal number, which it takes back after "0x".
+    /// In the kernel's format: a hexadecimal number, which must be written back with "0x".
     std::array<char, 32> filter{'0', 'x'};
     size_t filterLength = 0;
 };
@@ -52,19 +52,19 @@ void writeFilter(const char *text, size_t length)
 
 void forbidCoreDumps()
 {
-    // Not by making the process undumpable: then its folder in /proc belongs to root, and desktop portals,
-    // which look there for who calls them, refuse every call.
+    // Do not make the process undumpable: its folder in /proc would then belong to root, and desktop portals,
+    // which look there to identify their callers, would refuse every call.
     rlimit limit{};
     if (::getrlimit(RLIMIT_CORE, &limit) == 0) {
         g_before.limit = limit;
-        // Where dumps go to a program (core_pattern begins with a pipe), the kernel does not look at the
-        // size, but for the one value 1, which it takes for a program of that kind that has crashed itself,
-        // and refuses. One byte is too little for a file, too.
+        // If dumps go to a program (core_pattern begins with a pipe), the kernel ignores the limit unless it
+        // is 1, which means that such a program has itself crashed, and then refuses to dump. One byte is
+        // also too little for a dump to a file.
         limit.rlim_cur = std::min(rlim_t{1}, limit.rlim_max);
         static_cast<void>(::setrlimit(RLIMIT_CORE, &limit));
     }
-    // Leaves everything that is in memory out of a dump, for where the limit does not help: a hard limit of
-    // 0 cannot be raised to 1.
+    // Exclude all memory from a dump in case the limit does not help: a hard limit of 0 cannot be raised to
+    // 1.
     readFilter();
     writeFilter("0", 1);
     static_cast<void>(::pthread_atfork(nullptr, nullptr, restoreCoreDumps));

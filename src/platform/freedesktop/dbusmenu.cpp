@@ -12,7 +12,7 @@ namespace {
 
 constexpr uint kRevision = 1;
 
-/// Combinations in the names of the protocol: one list of keys for each.
+/// Key combinations in the protocol's notation: one list of keys for each.
 QList<QStringList> shortcuts(const QKeySequence &keys)
 {
     QStringList names = keys.toString(QKeySequence::PortableText).split(u'+');
@@ -104,7 +104,7 @@ QVariantMap DBusMenu::properties(int id, const QStringList &names) const
         all.insert(u"children-display"_s, u"submenu"_s);
     else if (entry.label.isEmpty())
         all.insert(u"type"_s, u"separator"_s);
-    // In the protocol a single underscore marks the key to choose the line by.
+    // In this protocol a single underscore marks the entry's mnemonic.
     if (!entry.label.isEmpty())
         all.insert(u"label"_s, QString(entry.label).replace(u'_', u"__"_s));
     if (!entry.keys.isEmpty())
@@ -138,7 +138,7 @@ QList<DBusMenuItem> DBusMenu::GetGroupProperties(const QList<int> &ids,
                                                  const QStringList &propertyNames) const
 {
     QList<DBusMenuItem> items;
-    // No identifiers ask for all items.
+    // An empty list of identifiers requests all items.
     for (int id = 0; id <= m_lines.size(); ++id) {
         if (ids.isEmpty() || ids.contains(id))
             items.append({.id = id, .properties = properties(id, propertyNames)});
@@ -149,7 +149,7 @@ QList<DBusMenuItem> DBusMenu::GetGroupProperties(const QList<int> &ids,
 QDBusVariant DBusMenu::GetProperty(int id, const QString &name) const
 {
     const QVariantMap all = id == 0 || hasLine(id) ? properties(id, {}) : QVariantMap();
-    // What is not set has no type that could be sent; an empty text is what it would be shown as.
+    // An unset property has no type to send; an empty text displays the same.
     return QDBusVariant(all.value(name, QString()));
 }
 
@@ -159,7 +159,7 @@ void DBusMenu::Event(int id, const QString &eventId, const QDBusVariant &data, u
     Q_UNUSED(timestamp);
     if (eventId != "clicked"_L1 || !hasLine(id) || !m_lines.at(id - 1).entry.action)
         return;
-    // The desktop waits for the answer with its menu open.
+    // The desktop keeps its menu open until it has the answer.
     QMetaObject::invokeMethod(this, m_lines.at(id - 1).entry.action, Qt::QueuedConnection);
 }
 

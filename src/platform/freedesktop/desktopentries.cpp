@@ -15,7 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Of several that fit: the one that is named like the class, then one that menus show, then by name.
+/// Among several matches, prefers the one named like the class, then one shown in menus, then the first by
+/// name.
 bool isBetter(const DesktopEntry &a, const DesktopEntry &b, const QString &windowClass)
 {
     const bool aHasName = a.id.compare(windowClass, Qt::CaseInsensitive) == 0;
@@ -61,7 +62,7 @@ const DesktopEntry *DesktopEntries::find(const QString &id) const
 const DesktopEntry *DesktopEntries::match(const WindowIdentity &window) const
 {
     load();
-    // An application may set a GTK identifier for which no file exists; it counts only if one does.
+    // An application may set a GTK identifier that no file exists for; only use it if one does.
     if (const DesktopEntry *entry = find(window.gtkApplicationId))
         return entry;
     const QString names[] = {window.className, window.instanceName};

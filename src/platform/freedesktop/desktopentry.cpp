@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The keys of the main group; later groups are the entry's actions.
+/// The keys of the main group; later groups describe the entry's actions.
 QHash<QString, QString> readMainGroup(QIODevice &file)
 {
     QHash<QString, QString> keys;
@@ -32,7 +32,7 @@ QHash<QString, QString> readMainGroup(QIODevice &file)
     return keys;
 }
 
-/// The most special translation that fits the user's language: de_AT before de before none.
+/// The most specific translation for the user's language: de_AT, then de, then the untranslated text.
 QString localized(const QHash<QString, QString> &keys, const QString &key)
 {
     const QString language = QLocale().name();
@@ -79,7 +79,7 @@ QStringList DesktopEntry::command() const
     QStringList words;
     const QStringList split = QProcess::splitCommand(exec);
     for (const QString &word : split) {
-        // A field code stands for files or addresses, of which there are none here.
+        // Field codes stand for files or addresses; there are none here.
         if (word.size() == 2 && word.startsWith(u'%') && word != "%%"_L1)
             continue;
         words.append(QString(word).replace("%%"_L1, "%"_L1));

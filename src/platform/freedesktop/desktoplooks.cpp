@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The words that may stand between a family and its size.
+/// Words that may appear between a family and its size.
 constexpr std::array kStyles{
     "thin"_L1,   "ultra-light"_L1, "extra-light"_L1, "light"_L1,         "semi-light"_L1, "demi-light"_L1,
     "book"_L1,   "regular"_L1,     "normal"_L1,      "medium"_L1,        "semi-bold"_L1,  "demi-bold"_L1,
@@ -25,7 +25,7 @@ bool isStyle(const QString &word)
         kStyles, [&word](QLatin1StringView style) { return word.compare(style, Qt::CaseInsensitive) == 0; });
 }
 
-/// Desktops come with 10 or 11 points; only beyond those has somebody chosen a size.
+/// Desktops default to 10 or 11 points; only other sizes have been chosen by somebody.
 qreal scaleOf(qreal points)
 {
     constexpr qreal kSmallest = 10;
@@ -49,7 +49,7 @@ std::optional<Appearance::TextFont> textFontFrom(const QString &description)
     while (words.size() > 1 && isStyle(words.last()))
         words.removeLast();
     QString family = words.join(u' ');
-    // A list of families ends in a comma.
+    // Use the first of a comma-separated list; a single family may end in a comma, too.
     family = family.section(u',', 0, 0);
     return Appearance::TextFont{.family = family, .scale = scaleOf(points)};
 }

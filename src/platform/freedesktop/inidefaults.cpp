@@ -26,7 +26,7 @@ IniDefaults::IniDefaults(QString path)
     , m_values(readFile())
 {
     watch();
-    // The file is replaced, not written in place, so the folder tells what the file cannot.
+    // The file is replaced rather than written in place, so watch the folder too.
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &IniDefaults::reload);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &IniDefaults::reload);
 }
@@ -55,11 +55,11 @@ void IniDefaults::setInt(int value, const QString &key)
 
 void IniDefaults::set(const QString &value, const QString &key)
 {
-    // A key that was never set is written even if it is false: that the user has decided is a fact.
+    // Write a key that was never set even if the value is false: it records that the user has decided.
     if (m_values.contains(key) && m_values.value(key) == value)
         return;
     m_values.insert(key, value);
-    // QSettings leaves the rights of a file that is there as they are.
+    // QSettings does not change the permissions of an existing file.
     QFile file(m_path);
     if (file.open(QIODevice::NewOnly | QIODevice::WriteOnly, kForItsUser))
         file.setPermissions(kForItsUser);
@@ -87,7 +87,7 @@ void IniDefaults::watch()
     const QString folder = QFileInfo(m_path).path();
     if (!QFileInfo::exists(folder)) {
         QDir().mkpath(QFileInfo(folder).path());
-        // Twice, because the process's mask takes away from what is asked for at first.
+        // Set twice, because the process's umask removes some of the permissions at first.
         constexpr auto kRights = kForItsUser | QFile::ExeOwner;
         if (QDir().mkdir(folder, kRights))
             QFile::setPermissions(folder, kRights);
@@ -101,7 +101,7 @@ void IniDefaults::watch()
 void IniDefaults::reload()
 {
     watch();
-    // A file that has just gone is about to be replaced; what it said holds until then.
+    // A file that has just disappeared is about to be replaced; its values stay valid until then.
     if (!QFile::exists(m_path))
         return;
     Values values = readFile();

@@ -33,7 +33,7 @@ void MenuBar::registerWindow()
     QDBusMessage call =
         QDBusMessage::createMethodCall(kRegistrar, kRegistrarPath, kRegistrar, u"RegisterWindow"_s);
     call.setArguments({m_window, QVariant::fromValue(QDBusObjectPath(kMenuPath))});
-    // A desktop without such a bar is not to be given one.
+    // Do not start a menu bar on a desktop that has none.
     call.setAutoStartService(false);
     m_bus.asyncCall(call);
 }

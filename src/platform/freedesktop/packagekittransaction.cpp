@@ -41,7 +41,7 @@ void PackageKitTransaction::run(const QString &method, const QVariantList &argum
     call.setArguments(arguments);
     auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call, int(limit.count())), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-        // That the work was taken says nothing yet; that it was not says all.
+        // Success only means that the work was accepted; an error is final.
         if (QDBusPendingReply<>(*watcher).isError())
             end(false);
     });
@@ -50,7 +50,7 @@ void PackageKitTransaction::run(const QString &method, const QVariantList &argum
 void PackageKitTransaction::onPackage(uint info, const QString &packageId, const QString &summary)
 {
     Q_UNUSED(summary)
-    // "name;version;architecture;where from"
+    // "name;version;architecture;origin"
     const QStringList parts = packageId.split(u';');
     if (parts.size() >= 2)
         m_packages.append({.info = info, .name = parts.at(0), .version = parts.at(1)});

@@ -74,7 +74,7 @@ void PackageKitUpdates::onRegistered()
 
 void PackageKitUpdates::onUnregistered()
 {
-    // It ends by itself when there is nothing to do, and the bus starts it again.
+    // The daemon exits when idle, and the bus starts it again.
     m_isRunning = false;
     m_isBusy = false;
     update();
@@ -103,7 +103,7 @@ QCoro::Task<> PackageKitUpdates::lookForService()
     co_await running;
     if (self.isNull())
         co_return;
-    // It may have come since, which this answer does not know.
+    // It may have started since this answer was sent.
     if (!m_isRunning && !running.isError() && running.value().contains(kService))
         onRegistered();
     co_await activatable;
@@ -149,7 +149,7 @@ QCoro::Task<Updates::Result> PackageKitUpdates::findResult(QDBusConnection bus, 
     const std::optional<Package> ours = findOurs(*installed);
     if (!ours)
         co_return Result{.outcome = Outcome::NotInstalled, .version = {}};
-    // Without the network, or the right to it, what was fetched last has to do.
+    // Without the network, or permission to use it, use what was fetched last.
     const QVariantList ifOld{false};
     co_await ask(bus, u"RefreshCache"_s, ifOld, limits.call, limits.refresh);
     const QVariantList all{kNoFilter};
@@ -173,7 +173,7 @@ QCoro::Task<PackageKitUpdates::Packages> PackageKitUpdates::ask(QDBusConnection 
     co_await path;
     if (path.isError())
         co_return std::nullopt;
-    // It ends within a signal of its own, and so must outlive this function by a moment.
+    // It finishes during a signal of its own, so it must outlive this function briefly.
     const QScopedPointer<PackageKitTransaction, QScopedPointerDeleteLater> transaction(
         new PackageKitTransaction(bus, path.value().path()));
     transaction->run(method, arguments, limit);

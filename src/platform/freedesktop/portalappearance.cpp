@@ -21,7 +21,7 @@ const QString kAppearance = u"org.freedesktop.appearance"_s;
 const QString kGnome = u"org.gnome.desktop.interface"_s;
 const QString kGnomeAccess = u"org.gnome.desktop.a11y.interface"_s;
 
-/// Three fractions of red, green and blue; outside 0 to 1 they mean that there is no accent.
+/// Red, green and blue from 0 to 1; values outside mean that there is no accent colour.
 std::optional<QColor> accentFrom(const QVariant &value)
 {
     if (!value.canConvert<QDBusArgument>())
@@ -41,7 +41,7 @@ std::optional<QColor> accentFrom(const QVariant &value)
     return QColor::fromRgbF(static_cast<float>(red), static_cast<float>(green), static_cast<float>(blue));
 }
 
-/// A statement of what the user prefers, where 0 is the absence of one.
+/// A preference of the user, where 0 means that there is none.
 std::optional<bool> preference(const QVariant &value)
 {
     return value.toUInt() == 1 ? std::optional(true) : std::nullopt;
@@ -66,7 +66,7 @@ struct Setting
     void (*take)(DesktopLooks &looks, const QVariant &value);
 };
 
-/// Every setting that matters here, and what it says.
+/// Every setting that is used here, and how to interpret it.
 const QList<Setting> &settings()
 {
     static const QList<Setting> all{
@@ -117,11 +117,11 @@ void PortalAppearance::ask(const QString &group, const QString &key)
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, group, key] {
         watcher->deleteLater();
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
-        // No portal, or one that does not know the key: that one says nothing.
+        // There is no portal, or it does not know the key: leave the setting unset.
         if (reply.isError())
             return;
         QVariant value = reply.value().variant();
-        // Read wraps the value twice, for a reason of its own history.
+        // Read wraps the value twice, for historical reasons.
         if (value.canConvert<QDBusVariant>())
             value = value.value<QDBusVariant>().variant();
         take(group, key, value);

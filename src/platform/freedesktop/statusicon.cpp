@@ -12,10 +12,10 @@ namespace vesk {
 
 namespace {
 
-// The names that the protocol is in use under.
+// The protocol is in use under these names.
 const QString kWatcher = u"org.kde.StatusNotifierWatcher"_s;
 const QString kWatcherPath = u"/StatusNotifierWatcher"_s;
-// Where the desktop looks for an item of which it knows only the name on the bus.
+// Where the desktop looks for an item of which it only knows the bus name.
 const QString kItemPath = u"/StatusNotifierItem"_s;
 const QString kMenuPath = u"/StatusNotifierItem/Menu"_s;
 
@@ -44,9 +44,9 @@ void StatusIcon::registerItem()
     QDBusMessage call =
         QDBusMessage::createMethodCall(kWatcher, kWatcherPath, kWatcher, u"RegisterStatusNotifierItem"_s);
     call.setArguments({m_bus.baseService()});
-    // A desktop without a place for icons is not to be given one.
+    // Do not start a tray on a desktop that has none.
     call.setAutoStartService(false);
-    // An error means that there is nobody to show the icon; whoever comes is noticed.
+    // An error means that nobody shows icons; if that changes, we are notified.
     m_bus.asyncCall(call);
 }
 

@@ -7,7 +7,7 @@ void StatusItem::Activate(int x, int y)
 {
     Q_UNUSED(x);
     Q_UNUSED(y);
-    // The desktop gets its answer first.
+    // Answer the desktop first.
     QMetaObject::invokeMethod(this, m_activated, Qt::QueuedConnection);
 }
 

@@ -8,23 +8,23 @@ namespace vesk::contentforms {
 
 namespace {
 
-/// TEXT is whichever encoding the owner likes, which only it can tell.
+/// TEXT stands for an encoding of the owner's choice, so only the owner can provide it.
 constexpr std::array<QByteArrayView, 8> kProtocolTargets{
     "TARGETS", "TIMESTAMP",        "MULTIPLE",        "SAVE_TARGETS",
     "DELETE",  "INSERT_SELECTION", "INSERT_PROPERTY", "TEXT",
 };
 
-/// Unicode texts. Each of them holds whatever a plain text in any other encoding does.
+/// Unicode texts. Each can hold whatever plain text in any other encoding does.
 constexpr std::array<QByteArrayView, 3> kUnicodeTexts{"UTF8_STRING", "text/plain;charset=utf-8",
                                                       "text/plain;charset=UTF-8"};
-/// What can be made of them, besides plain text in other encodings. The last one is good within its own
-/// program only.
+/// Targets that can be made from those, besides plain text in other encodings. The last one is useful only
+/// within its own program.
 constexpr std::array<QByteArrayView, 4> kMadeOfUnicode{"STRING", "COMPOUND_TEXT", "C_STRING",
                                                        "GTK_TEXT_BUFFER_CONTENTS"};
 
 constexpr QByteArrayView kPicture = "image/png";
-/// What the toolkits convert pictures into besides. Formats that can move (GIF, WebP, AVIF), that hold
-/// outlines (SVG) or layers are not among them: such a picture is more than its PNG.
+/// The formats that toolkits convert pictures into in addition. Formats that may contain animations (GIF,
+/// WebP, AVIF), outlines (SVG) or layers are not listed: such a picture is more than its PNG.
 constexpr std::array<QByteArrayView, 25> kMadeOfPicture{
     "image/bmp",
     "image/x-bmp",
@@ -75,7 +75,7 @@ QByteArray sourceOf(const QByteArray &target, const QList<QByteArray> &offered)
         return {};
     const auto *const best =
         std::ranges::find_if(kUnicodeTexts, [&](QByteArrayView name) { return offered.contains(name); });
-    // The best of them is made of nothing else.
+    // The best of them is not made from any other.
     return best == kUnicodeTexts.end() || *best == target ? QByteArray() : best->toByteArray();
 }
 

@@ -13,10 +13,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// How long a comparison may take, and how often to look.
+/// How long a comparison may take, and how often to check.
 constexpr auto kComparison = 500ms;
 constexpr auto kLook = 10ms;
-/// By then Emacs has claimed PRIMARY if a press leaves it a region; in milliseconds of the server.
+/// By then Emacs has claimed PRIMARY if the press leaves a region; in server milliseconds.
 constexpr unsigned int kClaimed = 150;
 
 } // namespace
@@ -52,7 +52,8 @@ QCoro::Task<> EmacsSelection::addClaim()
     if (self.isNull())
         co_return;
     if (!fingerprint) {
-        // Claimed again already, or Emacs is busy. The next claim has nothing to be compared with.
+        // PRIMARY has been claimed again already, or Emacs is busy. The next claim cannot be compared with
+        // this one.
         m_isLastMissed = true;
         co_return;
     }
@@ -83,15 +84,15 @@ QCoro::Task<bool> EmacsSelection::hasRegion()
     }
     if (m_compared != number || m_primary.claim().number != number)
         co_return false;
-    // Some commands, like Control-G, end the region without a claim.
+    // Some commands, such as Control-G, end the region without a claim.
     const bool isLatest = m_press.time == 0 || isAtOrAfter(m_primary.claim().time, m_press.time);
     co_return isLatest &&m_hasRegion;
 }
 
 bool EmacsSelection::isFromDeselecting() const
 {
-    // A new region may have the same text as the last one. But the mouse makes several claims with one press,
-    // and a command that left no region before made none.
+    // A new region may have the same text as the previous one. But the mouse makes several claims with one
+    // press, and a command that had left no region made none.
     if (m_press.claims > 1)
         return false;
     const bool wasGone =

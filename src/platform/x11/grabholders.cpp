@@ -17,10 +17,10 @@ namespace vesk {
 
 namespace {
 
-/// With more names than these none of them is a hint.
+/// More names than this would not help the user.
 constexpr qsizetype kMostHolders = 3;
 
-/// The numbers from which clients that have a passive grab count their resources.
+/// The resource bases of the clients that have a passive grab.
 QList<uint32_t> clientsWithGrabs(const X11Connection &connection)
 {
     xcb_connection_t *xcb = connection.xcb();
@@ -52,7 +52,7 @@ QList<uint32_t> clientsWithGrabs(const X11Connection &connection)
     return holders;
 }
 
-/// Empty if there is no window manager, or it does not say its name.
+/// Empty if there is no window manager, or it does not report its name.
 QString windowManagerName(const X11Connection &connection, xcb_window_t window)
 {
     return QString::fromUtf8(connection.property(window, connection.atom("_NET_WM_NAME")));
@@ -63,7 +63,8 @@ QString programName(qint64 process)
     QFile file(u"/proc/%1/comm"_s.arg(process));
     const QString name =
         file.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(file.readAll()).trimmed() : QString();
-    // The kernel cuts names short; that of the program's file is whole, but for a script its interpreter's.
+    // The kernel truncates process names; the executable's name is complete, but for a script it is the
+    // interpreter's.
     const QString program = QFileInfo(QFileInfo(u"/proc/%1/exe"_s.arg(process)).symLinkTarget()).fileName();
     return program.startsWith(name) ? program : name;
 }
@@ -82,7 +83,7 @@ QStringList grabHolders(const X11Connection &connection)
         const std::optional<qint64> process = connection.clientProcess(client);
         if (process == QCoreApplication::applicationPid())
             continue;
-        // One that does not tell who it is, as from another machine, may be the one.
+        // A client that cannot be identified, for example on another machine, may be the holder.
         if (!process)
             return {};
         QString name = process == manager ? windowManagerName(connection, *managerWindow) : QString();

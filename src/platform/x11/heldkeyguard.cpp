@@ -19,7 +19,7 @@ KeyStates repeatedKeys(const X11Connection &connection)
     return keys;
 }
 
-/// The modifiers and locks of now, as bits.
+/// The current modifiers and locks, as a bit mask.
 unsigned heldModifiers(const X11Connection &connection)
 {
     const auto cookie = xcb_query_pointer(connection.xcb(), connection.root());
@@ -58,15 +58,15 @@ void HeldKeyGuard::begin()
     m_guarded |= held;
     m_looksWithout = 0;
     m_watch.start();
-    // The server has them before anything else is asked of it by another connection.
+    // Wait until the server has processed the grabs before another connection asks it for anything.
     const XReply<xcb_get_input_focus_reply_t> answer(
         xcb_get_input_focus_reply(m_grabs, xcb_get_input_focus(m_grabs), nullptr));
 }
 
 void HeldKeyGuard::grab(xcb_keycode_t key, unsigned modifiers)
 {
-    // The modifiers may be let go of before the key. A grab for any modifiers at all would fail where the
-    // desktop or Vesk itself has the key with just one of them.
+    // The modifiers may be released before the key. A grab for AnyModifier would fail if the desktop or Vesk
+    // itself has grabbed the key with any one combination.
     for (unsigned subset = modifiers;; subset = (subset - 1) & modifiers) {
         xcb_grab_key(m_grabs, 0, m_connection.root(), static_cast<uint16_t>(subset), key, XCB_GRAB_MODE_ASYNC,
                      XCB_GRAB_MODE_ASYNC);
@@ -77,10 +77,10 @@ void HeldKeyGuard::grab(xcb_keycode_t key, unsigned modifiers)
 
 void HeldKeyGuard::lookForReleases()
 {
-    // The repetitions, and the errors for what others have.
+    // Drain the repeats, and the errors for combinations that others have grabbed.
     while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_grabs)}) {
     }
-    // Nested and remote servers send the repetitions of a held key as releases and presses.
+    // Nested and remote servers send repeats of a held key as releases and presses.
     constexpr int kUpFor = 3;
     const bool isAnyDown = (m_guarded & keysDown(m_connection)).any();
     m_looksWithout = isAnyDown ? 0 : m_looksWithout + 1;

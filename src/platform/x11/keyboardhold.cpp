@@ -15,7 +15,7 @@ KeyboardHold::KeyboardHold(X11Connection &connection, const RawInput &input)
     m_limit.setSingleShot(true);
     m_limit.setInterval(kLimit);
     connect(&m_limit, &QTimer::timeout, this, &KeyboardHold::end);
-    // Longer than it takes to ask the application in front, unless that does not answer.
+    // Longer than asking the frontmost application takes, unless it does not answer.
     constexpr std::chrono::milliseconds kQuietLimit{700};
     m_quietLimit.setSingleShot(true);
     m_quietLimit.setInterval(kQuietLimit);
@@ -30,7 +30,7 @@ void KeyboardHold::beginQuietly()
 {
     if (m_isQuiet || m_isHolding)
         return;
-    // A grab of the pointer may freeze the keyboard too, and no window hears of a change of focus.
+    // A pointer grab can freeze the keyboard too, and no window is notified of a focus change.
     const auto cookie =
         xcb_grab_pointer(m_connection.xcb(), 0, m_connection.root(), 0, XCB_GRAB_MODE_SYNC,
                          XCB_GRAB_MODE_SYNC, XCB_WINDOW_NONE, XCB_CURSOR_NONE, XCB_CURRENT_TIME);
@@ -44,7 +44,8 @@ void KeyboardHold::beginQuietly()
 
 bool KeyboardHold::keepsPress() const
 {
-    // A press that turned out to be the desktop's is taken back, and the one before it is the last again.
+    // A press that turns out to belong to the desktop is taken back, and the previous press counts as the
+    // last one again.
     return m_isQuiet && m_input.lastPress() != m_pressBefore
            && isAtOrAfter(m_input.lastPress(), m_pressBefore);
 }
@@ -63,7 +64,7 @@ bool KeyboardHold::begin()
 {
     if (m_isHolding)
         return true;
-    // In the synchronous mode the server keeps the keys until the grab goes.
+    // In synchronous mode the server holds the keys back until the grab ends.
     const auto cookie = xcb_grab_keyboard(m_connection.xcb(), 0, m_connection.root(), XCB_CURRENT_TIME,
                                           XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_SYNC);
     const XReply<xcb_grab_keyboard_reply_t> reply(
@@ -71,7 +72,7 @@ bool KeyboardHold::begin()
     m_isHolding = reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
     if (m_isHolding)
         m_limit.start();
-    // Not before: no key may pass between the two.
+    // Only now: no key may slip through between the two.
     endQuiet();
     return m_isHolding;
 }
@@ -108,7 +109,7 @@ void KeyboardHold::lookForRelease()
         m_releaseWatch.start();
         return;
     }
-    // The grab that ended would have told of it.
+    // The grab that has just ended would have reported the release.
     xcb_key_release_event_t release{};
     release.response_type = XCB_KEY_RELEASE;
     release.detail = m_pressedKey;

@@ -9,7 +9,7 @@ namespace vesk {
 
 namespace {
 
-/// Keys of the number block are beside the letters, and have the same characters as the digits' row.
+/// The keys of the numeric keypad have the same characters as the row of digits.
 constexpr bool isOnNumberBlock(xcb_keysym_t keysym)
 {
     constexpr xcb_keysym_t kFirst = 0xff80; // XK_KP_Space
@@ -17,7 +17,7 @@ constexpr bool isOnNumberBlock(xcb_keysym_t keysym)
     return keysym >= kFirst && keysym <= kLast;
 }
 
-/// Null for what is no visible character, or none that fits into one unit.
+/// Null if this is not a visible character, or does not fit into one UTF-16 unit.
 QChar characterOf(xcb_keysym_t keysym)
 {
     const uint32_t character = isOnNumberBlock(keysym) ? 0 : xkb_keysym_to_utf32(keysym);
@@ -80,13 +80,14 @@ void KeyLetters::read() const
 
 void KeyLetters::readKey(KeyPosition key, std::span<const xcb_keysym_t> keysyms) const
 {
-    // The first two are the first layout's, without and with Shift; the next two the second one's.
+    // The first two belong to the first layout, without and with Shift, and the next two to the second
+    // layout.
     for (size_t i = 0; i < std::min<size_t>(keysyms.size(), 4); ++i) {
         const QChar character = characterOf(keysyms[i]);
         if (character.isNull())
             continue;
         QHash<QChar, KeyPosition> &keys = i % 2 == 0 ? m_plain : m_shifted;
-        // A character that two keys have is on the one that comes first on the keyboard.
+        // If two keys have the same character, use the first.
         if (!keys.contains(character))
             keys.insert(character, key);
         QChar &printed = m_printed[key];

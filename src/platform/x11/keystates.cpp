@@ -22,7 +22,7 @@ KeyStates statesIn(const uint8_t *bytes)
     return states;
 }
 
-/// The keyboard that keys sent by XTEST go to.
+/// The keyboard that receives keys sent with XTEST.
 xcb_input_device_id_t masterKeyboard(const X11Connection &connection,
                                      const xcb_input_xi_query_device_reply_t *devices)
 {
@@ -39,7 +39,7 @@ xcb_input_device_id_t masterKeyboard(const X11Connection &connection,
 
 KeyStates statesIn(const xcb_input_query_device_state_reply_t *reply)
 {
-    // Each class of input, of which keys are one, begins with its number and its length.
+    // Each input class, such as the keys, begins with its number and its length.
     const auto *bytes = reinterpret_cast<const uint8_t *>(reply + 1);
     const uint8_t *const end = bytes + size_t{reply->length} * 4;
     for (int i = 0; i < reply->num_classes && bytes + 2 <= end && bytes[1] != 0; ++i, bytes += bytes[1]) {

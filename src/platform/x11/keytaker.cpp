@@ -14,7 +14,7 @@ constexpr uint32_t kControl = 0xffe3; // XK_Control_L
 constexpr uint32_t kShift = 0xffe1;   // XK_Shift_L
 
 /// Names of programs: the class or instance of their windows, their executable, or the last part of their
-/// application ID, in any case. A star at the end stands for any rest.
+/// application ID, case-insensitive. A trailing star matches any ending.
 struct Row
 {
     QLatin1StringView name;
@@ -177,17 +177,17 @@ constexpr std::array kPrograms{
     Row{"zed-editor"_L1, KeyTaker::Uncertain},
 };
 
-/// What the categories of a desktop entry say of programs that are not in the table.
+/// What a desktop entry's categories say about programs that are not in the table.
 constexpr std::array kCategories{
     Row{"TerminalEmulator"_L1, KeyTaker::Terminal},
     Row{"RemoteAccess"_L1, KeyTaker::OtherMachine},
     Row{"Emulator"_L1, KeyTaker::OtherMachine},
-    // Development environments have a terminal inside.
+    // Development environments contain a terminal.
     Row{"IDE"_L1, KeyTaker::Uncertain},
 };
 
-/// What the object with the keyboard is, by the names of the accessibility bus. An object that only draws may
-/// be the screen of another machine.
+/// What the focused object is, by its role on the accessibility bus. An object that only draws may show
+/// another machine's screen.
 constexpr std::array kRoles{
     Row{"terminal"_L1, KeyTaker::Terminal},
     Row{"drawing area"_L1, KeyTaker::Uncertain},

@@ -10,7 +10,7 @@ namespace vesk {
 
 namespace {
 
-// Keysyms, as <X11/keysymdef.h> numbers them.
+// Keysyms from <X11/keysymdef.h>.
 constexpr xcb_keysym_t kModeSwitch = 0xff7e;
 constexpr xcb_keysym_t kNumLock = 0xff7f;
 constexpr xcb_keysym_t kScrollLock = 0xff14;
@@ -24,7 +24,7 @@ constexpr xcb_keysym_t kAltRight = 0xffea;
 constexpr xcb_keysym_t kSuperLeft = 0xffeb;
 constexpr xcb_keysym_t kSuperRight = 0xffec;
 
-/// Shift, Lock and Control are what they are, whatever stands on their keys.
+/// Shift, Lock and Control have fixed bits, whatever their keys are.
 constexpr unsigned kFixedBits = XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_LOCK | XCB_MOD_MASK_CONTROL;
 
 uint8_t lowestBit(unsigned bits)
@@ -78,7 +78,7 @@ void ModifierMap::onEvent(const xcb_generic_event_t *event)
 {
     if ((event->response_type & 0x7f) != XCB_MAPPING_NOTIFY || m_isStale)
         return;
-    // A new layout is told in a dozen events; it is read once, after the last that is there.
+    // A new layout is announced in a dozen events; read it once, after the last of them.
     m_isStale = true;
     QMetaObject::invokeMethod(this, &ModifierMap::update, Qt::QueuedConnection);
 }
@@ -109,7 +109,7 @@ void ModifierMap::read()
         return;
     m_masks.clear();
     const xcb_keycode_t *keys = xcb_get_modifier_mapping_keycodes(modifiers.get());
-    // As many keys for each modifier, Shift first, in the order of the modifiers' bits.
+    // Each modifier has the same number of keys; Shift comes first, in the order of the modifier bits.
     const int perModifier = modifiers->keycodes_per_modifier;
     for (int i = 0; i < xcb_get_modifier_mapping_keycodes_length(modifiers.get()); ++i) {
         if (keys[i] != 0)
@@ -146,8 +146,8 @@ ModifierMap::Bits ModifierMap::findBits(const Masks &masks,
         }
         return bits;
     };
-    // A keyboard without such a key may still get the modifier from a macro key or another client, on
-    // the bit that it usually has.
+    // A keyboard without such a key may still get the modifier from a macro key or another client, on its
+    // usual bit.
     const auto orElse = [](unsigned bits, unsigned usual) { return lowestBit(bits != 0 ? bits : usual); };
     Bits bits;
     bits.super = orElse(bitsWith({kSuperLeft, kSuperRight}), XCB_MOD_MASK_4);

@@ -70,8 +70,8 @@ void setShape(QWindow &window, const QList<xcb_rectangle_t> &rectangles)
 
 void requestActivation(xcb_window_t window, xcb_timestamp_t time)
 {
-    // Source 2 marks a request that the user made by a tool of the desktop, which a hot key is;
-    // requests of ordinary applications are refused by some window managers.
+    // Source 2 marks a request that the user made with a desktop tool, such as a hot key; some window
+    // managers refuse requests from ordinary applications.
     constexpr uint32_t kFromUser = 2;
     xcb_client_message_event_t message{};
     message.response_type = XCB_CLIENT_MESSAGE;

@@ -17,7 +17,7 @@ namespace vesk {
 namespace {
 
 constexpr qsizetype kSmall = 1 << 16; // bytes
-/// For what nobody waits for.
+/// For requests that nobody waits for.
 constexpr std::chrono::seconds kPatience{1};
 
 } // namespace
@@ -43,8 +43,8 @@ QCoro::Task<std::optional<QString>> PrimarySelection::text()
     const QPointer<PrimarySelection> self(this);
     const Claim asked = m_claim;
     const std::optional<QString> text = co_await selectioncontent::text(m_connection, XCB_ATOM_PRIMARY);
-    // What was read may be the next owner's, and what was asked about it, such as whether it is secret, the
-    // first one's.
+    // The contents may be the next owner's, while what was asked about them, such as whether they are secret,
+    // came from the first.
     if (self.isNull() || m_claim.number != asked.number)
         co_return std::nullopt;
     co_return text;
@@ -69,7 +69,7 @@ void PrimarySelection::onEvent(const xcb_generic_event_t *event)
     if ((event->response_type & 0x7f) != m_connection.xfixesEvent() + XCB_XFIXES_SELECTION_NOTIFY)
         return;
     const auto *notify = reinterpret_cast<const xcb_xfixes_selection_notify_event_t *>(event);
-    // The pasteboard of this selection has each claim reported to a window of its own as well.
+    // The pasteboard for this selection has each claim reported to a window of its own.
     if (notify->selection != XCB_ATOM_PRIMARY || notify->window != m_connection.window())
         return;
     m_claim = {.owner = notify->owner, .time = notify->selection_timestamp, .number = m_claim.number + 1};
@@ -83,7 +83,7 @@ QCoro::Task<> PrimarySelection::askTime()
     const xcb_atom_t target = m_connection.atom("TIMESTAMP");
     const SelectionTransfer::Data data =
         co_await SelectionTransfer::read(m_connection, XCB_ATOM_PRIMARY, target, kSmall);
-    // If the owner has changed meanwhile, the new one's time is known already.
+    // If the owner has changed meanwhile, the new owner's time is already known.
     if (self.isNull() || m_claim.number != asked.number
         || data.outcome != SelectionTransfer::Outcome::Complete
         || data.bytes.size() < qsizetype{sizeof m_claim.time})

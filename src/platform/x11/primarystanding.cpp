@@ -11,7 +11,7 @@ namespace vesk {
 
 namespace {
 
-/// Windows within windows, of which there are few.
+/// Windows are rarely nested deeply.
 constexpr int kMaximumDepth = 20;
 
 } // namespace
@@ -31,10 +31,10 @@ bool PrimaryStanding::isFresh(xcb_window_t window) const
 {
     const PrimarySelection::Claim &claim = m_needs.primary.claim();
     const xcb_timestamp_t lastPress = m_needs.input.lastPress();
-    // Before the first press that was heard there may have been others, by which it was deselected.
+    // There may have been earlier presses, before we listened, that deselected it.
     if (claim.time == 0 || lastPress == 0 || !isOfApplication(window))
         return false;
-    // A window that had the keyboard before Vesk started had it before the first press.
+    // A window that already had the focus when Vesk started had it before the first press.
     const xcb_timestamp_t activation = m_needs.workspace.activationTime();
     return isAtOrAfter(claim.time, lastPress) && (activation == 0 || isAtOrAfter(claim.time, activation));
 }
@@ -68,7 +68,7 @@ void PrimaryStanding::onButton()
     const PrimarySelection::Claim &claim = m_needs.primary.claim();
     if (claim.owner == XCB_WINDOW_NONE || windowUnderPointer() != claim.owner)
         return;
-    // A click where the text is selects something else or nothing. Only what it selects is claimed again.
+    // A click in the text selects something else or nothing. Only a new selection is claimed again.
     m_clicked = claim.number;
     if (!m_emacsWindows.isEmpty())
         m_emacs.addPress(m_needs.input.lastPress());
@@ -78,7 +78,7 @@ void PrimaryStanding::onKey(xcb_keycode_t /*key*/, xcb_timestamp_t time)
 {
     const std::optional<xcb_window_t> active = m_needs.workspace.reportedWindow();
     const bool isForEmacs = active && m_emacsWindows.contains(*active);
-    // Modifiers and the keys of the desktop are no presses that count.
+    // Modifiers and the desktop's keys do not count as presses.
     if (isForEmacs && m_needs.input.lastPress() == time)
         m_emacs.addPress(time);
 }
@@ -107,11 +107,11 @@ bool PrimaryStanding::isOfApplication(xcb_window_t window) const
     const xcb_window_t owner = m_needs.primary.claim().owner;
     if (owner == XCB_WINDOW_NONE)
         return false;
-    // The number of a window begins with that of the connection that made it.
+    // A window's number begins with that of the connection that created it.
     const uint32_t own = xcb_get_setup(m_needs.connection.xcb())->resource_id_mask;
     if ((owner & ~own) == (window & ~own))
         return true;
-    // All that comes from another machine by one tunnel has the tunnel's process.
+    // Everything that comes from another machine through one tunnel has the tunnel's process.
     const std::optional<qint64> process = m_needs.connection.clientProcess(window);
     return process && !m_needs.workspace.isOfAnotherMachine(window)
            && m_needs.connection.clientProcess(owner) == process;

@@ -51,7 +51,7 @@ bool RawInput::isCapsLocked() const
 
 bool RawInput::isKeyboardTaken() const
 {
-    // Asked for with a window that is not shown, the keyboard is never given, so nobody loses the focus.
+    // The server never grants a grab for an unmapped window, so nobody loses the focus.
     const auto cookie = xcb_grab_keyboard(m_connection.xcb(), 0, m_connection.window(), XCB_CURRENT_TIME,
                                           XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
     const XReply<xcb_grab_keyboard_reply_t> reply(
@@ -74,8 +74,8 @@ void RawInput::onEvent(const xcb_generic_event_t *event)
         return;
     const auto &raw = *reinterpret_cast<const xcb_input_raw_key_press_event_t *>(event);
     const auto &focus = *reinterpret_cast<const xcb_input_focus_in_event_t *>(event);
-    // The keyboards and mice themselves are heard: the master device that unites them reports nothing while
-    // it is held.
+    // Listen to the keyboards and mice themselves: the master device that unites them reports nothing while
+    // it is grabbed.
     const bool isOfMaster = raw.deviceid != raw.sourceid;
     switch (generic->event_type) {
     case XCB_INPUT_RAW_BUTTON_PRESS:
@@ -114,7 +114,7 @@ void RawInput::onKey(bool isPress, xcb_keycode_t key, xcb_timestamp_t time)
 {
     m_down.set(key, isPress);
     m_beforeKey.reset();
-    // A grab that ends while the root window itself has the focus is not reported.
+    // The end of a grab is not reported while the root window itself has the focus.
     m_isRootGrabbed = m_isRootGrabbed && isKeyboardTaken();
     if (!isPress) {
         Q_EMIT keyReleased(key, time);
@@ -135,7 +135,7 @@ void RawInput::onRootFocus(bool isIn, uint8_t mode)
     if (!isGrab && !isUngrab)
         return;
     m_isRootGrabbed = isGrab && isIn;
-    // The server reports the press first, and then the grab that the press has set off.
+    // The server reports the press first, and then the grab that the press has activated.
     if (m_isRootGrabbed && m_beforeKey)
         m_lastPress = *m_beforeKey;
     m_beforeKey.reset();
@@ -143,7 +143,7 @@ void RawInput::onRootFocus(bool isIn, uint8_t mode)
 
 bool RawInput::isOwn(const xcb_input_raw_key_press_event_t &event)
 {
-    // An event carries the number of the request of ours that the server served last. They wrap.
+    // An event carries the number of our request that the server processed last. The numbers wrap.
     m_ownRequests.removeIf(
         [&event](const Requests &each) { return !isAtOrAfter(each.last, event.full_sequence); });
     return std::ranges::any_of(m_ownRequests, [&event](const Requests &each) {

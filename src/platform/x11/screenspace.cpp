@@ -8,7 +8,7 @@ namespace vesk {
 
 namespace {
 
-/// Pixels of a desktop fit into this, whatever a dock claims.
+/// No desktop is larger than this, whatever a dock claims.
 int bounded(quint32 value)
 {
     constexpr quint32 kMost = std::numeric_limits<quint16>::max();
@@ -49,7 +49,7 @@ QRect spaceOn(const QRect &screen, QSize desktop, const QList<Strut> &struts)
         if (!bottom.isEmpty() && bottom.height() < screen.height())
             space.setBottom(std::min(space.bottom(), bottom.top() - 1));
     }
-    // Docks that leave nothing cannot be right.
+    // Docks that leave no space must be wrong.
     return space.isEmpty() ? screen : space;
 }
 

@@ -9,8 +9,8 @@ namespace vesk {
 
 namespace {
 
-/// A reader that is stopped in a debugger is not worth keeping the data for, nor is one that takes a piece
-/// now and then. A slow line to another machine manages this rate, in bytes a second.
+/// Do not keep the data for a reader that is stopped in a debugger, or that takes a piece only now and then.
+/// The rate is in bytes per second; even a slow line to another machine manages it.
 constexpr std::chrono::milliseconds kPatience{10'000};
 constexpr qsizetype kSlowestRate = qsizetype{64} * 1024;
 
@@ -55,7 +55,7 @@ void SelectionSender::sendPiece()
 {
     if (m_isFinished)
         return;
-    // The last piece is an empty one, which says that this was all.
+    // An empty last piece marks the end.
     const qsizetype length = std::min(kPiece, m_bytes.size() - m_sent);
     xcb_change_property(m_connection.xcb(), XCB_PROP_MODE_REPLACE, m_request.requestor, m_request.property,
                         m_type, 8, static_cast<uint32_t>(length), m_bytes.constData() + m_sent);

@@ -39,7 +39,7 @@ void SelectionServer::offer(const PasteboardItem &item)
         if (target != XCB_ATOM_NONE && !findRepresentation(target))
             m_representations.append({.target = target, .type = target, .bytes = data.data});
     }
-    // The answer to TEXT says by its type which encoding it has chosen.
+    // The type of the answer to TEXT says which encoding was chosen.
     const xcb_atom_t text = m_connection.atom("TEXT");
     for (const xcb_atom_t encoding : {m_connection.atom("UTF8_STRING"), xcb_atom_t{XCB_ATOM_STRING}}) {
         const Representation *encoded = findRepresentation(encoding);
@@ -48,8 +48,8 @@ void SelectionServer::offer(const PasteboardItem &item)
             m_representations.append(copy);
         }
     }
-    // A time of our own would be refused, without a word, if another application had claimed the
-    // selection after it. The server puts its own time in, and tells it with the change.
+    // If we sent a time of our own, the server would silently refuse it if another application had claimed
+    // the selection after that time. The server uses its own time and reports it with the change.
     const auto cookie = xcb_set_selection_owner(m_connection.xcb(), m_window, m_selection, XCB_CURRENT_TIME);
     m_claim = cookie.sequence;
     m_isOwner = true;
@@ -58,7 +58,7 @@ void SelectionServer::offer(const PasteboardItem &item)
 
 bool SelectionServer::isOlderThanOffer(const xcb_generic_event_t *event) const
 {
-    // An event bears the number of the last of our requests that the server had done by then.
+    // An event carries the number of our last request that the server had processed by then.
     return m_claim && !isAtOrAfter(event->full_sequence, *m_claim);
 }
 
@@ -71,7 +71,7 @@ void SelectionServer::onEvent(const xcb_generic_event_t *event)
             onRequest(*request);
     } else if (type == XCB_SELECTION_CLEAR) {
         const auto *clear = reinterpret_cast<const xcb_selection_clear_event_t *>(event);
-        // News of a loss before the last offer takes nothing from that offer.
+        // Ignore the loss of an offer that has been replaced.
         if (clear->owner == m_window && clear->selection == m_selection && !isOlderThanOffer(event)) {
             m_isOwner = false;
             m_representations.clear();
@@ -85,7 +85,7 @@ void SelectionServer::onEvent(const xcb_generic_event_t *event)
 
 void SelectionServer::onRequest(const xcb_selection_request_event_t &request)
 {
-    // Old programs name no property and expect the target's name to be taken.
+    // Obsolete clients name no property and expect the target's name to be used.
     const xcb_atom_t property = request.property == XCB_ATOM_NONE ? request.target : request.property;
     const SelectionSender::Request answer{.requestor = request.requestor, .property = property};
     bool isGiven = false;
@@ -93,7 +93,7 @@ void SelectionServer::onRequest(const xcb_selection_request_event_t &request)
         const bool isMultiple = request.target == m_connection.atom("MULTIPLE");
         isGiven = isMultiple ? convertMultiple(answer) : convert(answer, request.target);
     }
-    // Sent events have the size of the wire, which the type may fall short of.
+    // Sent events have the size of the wire format, which the type may be smaller than.
     union {
         xcb_selection_notify_event_t notify;
         char bytes[32];
@@ -139,7 +139,7 @@ bool SelectionServer::convertMultiple(SelectionSender::Request request)
     std::memcpy(pairs.data(), bytes.constData(), static_cast<size_t>(pairs.size()) * sizeof(Pair));
     for (Pair &pair : pairs) {
         const SelectionSender::Request single{.requestor = request.requestor, .property = pair.property};
-        // What cannot be given is struck from the list.
+        // Targets that cannot be converted are removed from the list.
         if (pair.property == XCB_ATOM_NONE || !convert(single, pair.target))
             pair.target = XCB_ATOM_NONE;
     }
@@ -171,11 +171,11 @@ bool SelectionServer::put(SelectionSender::Request request, const Representation
 
 bool SelectionServer::sendInPieces(SelectionSender::Request request, const Representation &representation)
 {
-    // A reader that uses a property again has given up what it had asked for there.
+    // A reader that reuses a property has given up its earlier request.
     std::erase_if(m_senders, [&](const auto &sender) { return sender->request() == request; });
     if (m_senders.size() >= kMaximumSenders)
         return false;
-    // The window can be one of which Vesk hears other things, the root above all.
+    // Vesk may listen for other events of this window, especially of the root window.
     if (!m_heardEvents.contains(request.requestor)) {
         constexpr uint32_t kEvents = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
         m_heardEvents.insert(request.requestor, m_connection.addEvents(request.requestor, kEvents));

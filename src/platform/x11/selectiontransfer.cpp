@@ -15,10 +15,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// How long an owner that is left halfway may go on sending, by its longest silence and in all.
+/// How long an owner whose transfer was abandoned may continue sending: its longest pause, and in total.
 constexpr auto kLingeringSilence = 10s;
 constexpr auto kLingering = 30s;
-/// What is asked of the server in one piece, in its units of 4 bytes.
+/// The largest piece requested from the server at once, in units of 4 bytes.
 constexpr uint32_t kPieceWords = 1 << 18;
 
 } // namespace
@@ -61,12 +61,12 @@ SelectionTransfer::SelectionTransfer(X11Connection &connection, xcb_atom_t selec
     m_stall.setInterval(allowance.silence());
     connect(&m_stall, &QTimer::timeout, this, [this] { finish(Outcome::Stalled); });
     connect(&connection, &X11Connection::eventReceived, this, &SelectionTransfer::onEvent);
-    // Nothing comes any more then, and whoever waits may not outlive the event loop.
+    // Nothing arrives after that, and no waiting coroutine may outlive the event loop.
     connect(&connection, &QObject::destroyed, this, [this] { finish(Outcome::Refused); });
     const uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_create_window(connection.xcb(), XCB_COPY_FROM_PARENT, m_window, connection.root(), -1, -1, 1, 1, 0,
                       XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
-    // The time of the hot key would be refused by owners that claim a selection a little after it.
+    // Owners that claim a selection slightly after the hot key would refuse the hot key's time.
     xcb_convert_selection(connection.xcb(), m_window, selection, target, m_property, XCB_CURRENT_TIME);
     connection.flush();
     m_stall.start();
@@ -138,8 +138,8 @@ SelectionTransfer::Data SelectionTransfer::takeProperty(qsizetype limit)
     Data data;
     xcb_connection_t *xcb = m_connection->xcb();
     for (uint32_t rest = 1; rest > 0;) {
-        // A property can be as long as the server's memory, so it is fetched piece by piece. The piece that
-        // is the last one deletes it.
+        // A property can be as long as the server's memory allows, so fetch it in pieces. Fetching the last
+        // piece deletes it.
         const auto offset = static_cast<uint32_t>(data.bytes.size() / 4);
         const auto words =
             static_cast<uint32_t>(std::min<qsizetype>(kPieceWords, (limit - data.bytes.size()) / 4 + 1));

@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::chrono::milliseconds kLook{20};
 
-/// Which keysyms stand on which key.
+/// Which keys have which keysyms.
 class KeyboardMapping final
 {
 public:
@@ -36,7 +36,7 @@ public:
     /// 0 if the keyboard has no such key.
     [[nodiscard]] xcb_keycode_t keyOf(uint32_t keysym) const
     {
-        // The first column first: a layout may have the letter a second time behind a level.
+        // Search the first column first: a layout may have the letter again on a higher level.
         for (size_t column = 0; column < width(); ++column) {
             for (size_t at = column; at < m_keysyms.size(); at += width()) {
                 if (m_keysyms[at] == keysym)
@@ -46,7 +46,7 @@ public:
         return 0;
     }
 
-    /// A key on which nothing stands; 0 if there is none.
+    /// A key without a keysym; 0 if there is none.
     [[nodiscard]] xcb_keycode_t meaninglessKey() const
     {
         for (size_t at = 0; at < m_keysyms.size(); at += width()) {
@@ -86,7 +86,7 @@ SyntheticKeys::SyntheticKeys(X11Connection &connection, RawInput &input)
 
 SyntheticKeys::~SyntheticKeys()
 {
-    // The device of XTEST would keep them down for good.
+    // XTEST's device would hold them down forever.
     for (const xcb_keycode_t key : keysIn(m_lent))
         send(XCB_KEY_RELEASE, key);
     m_connection.flush();
@@ -115,8 +115,8 @@ bool SyntheticKeys::play(const QList<uint32_t> &keysyms, const std::function<voi
     const std::optional<Keys> codes = codesOf(keysyms, down);
     if (!codes)
         return false;
-    // Any further modifier would make another command of it. A lock that is pressed again would be another
-    // state of the lock.
+    // Any additional modifier would turn it into another command. Pressing a lock key again would toggle the
+    // lock.
     Keys lifted = keysIn(down);
     lifted.removeIf([&](xcb_keycode_t key) { return !modifiers.isModifier(key) || modifiers.isLock(key); });
     const xcb_keycode_t filler = KeyboardMapping(m_connection).meaninglessKey();
@@ -137,12 +137,12 @@ bool SyntheticKeys::play(const QList<uint32_t> &keysyms, const std::function<voi
         isAnyBack = true;
         m_lent.set(key, !byOthers.test(key));
     }
-    // Desktops and menu bars open something when Super or Alt goes down and up with no key between.
+    // Desktops and menu bars react when Super or Alt is pressed and released with no key in between.
     if (isAnyBack && filler != 0) {
         send(XCB_KEY_PRESS, filler);
         send(XCB_KEY_RELEASE, filler);
     }
-    // The user may have let go between the question and the answer.
+    // The user may have released a key between the query and its answer.
     returnLent();
     return true;
 }
@@ -151,7 +151,7 @@ void SyntheticKeys::lookAtLent()
 {
     if ((m_lent & ~heldKeys(m_connection).byUser).none())
         return;
-    // Without other programs' keys between ours.
+    // So that no other program's keys come between ours.
     const ServerGrab grab(m_connection);
     returnLent();
 }
@@ -180,7 +180,7 @@ std::optional<SyntheticKeys::Keys> SyntheticKeys::codesOf(const QList<uint32_t> 
     Keys codes;
     for (const uint32_t keysym : keysyms) {
         xcb_keycode_t code = mapping.keyOf(keysym);
-        // The keysyms of the modifiers come in pairs, the left one first.
+        // The modifiers' keysyms come in pairs, left before right.
         if (down.test(code) && m_input.isModifier(code)) {
             const xcb_keycode_t other = mapping.keyOf(keysym + 1);
             const bool isSame =

@@ -9,10 +9,10 @@ namespace vesk {
 
 namespace {
 
-/// Whether an answer to others than the window manager can be expected.
+/// Whether the window answers pings from clients other than the window manager.
 bool takesPings(const X11Connection &connection, xcb_window_t window)
 {
-    // Qt tells its answer to the window manager alone; GTK tells it to all.
+    // Qt answers only the window manager; GTK answers everyone.
     if (connection.property(window, connection.atom("_GTK_APPLICATION_ID")).isEmpty())
         return false;
     const QByteArray bytes = connection.property(window, connection.atom("WM_PROTOCOLS"));
@@ -64,8 +64,8 @@ void WindowPing::ask()
 
 void WindowPing::listenToAnswers(bool isListening)
 {
-    // Applications answer to the root, as they do to the window manager. All windows that come and go
-    // are told of there too, so nobody listens for longer than it takes.
+    // Applications send the answer to the root window, as they do for the window manager. All windows that
+    // appear and disappear are reported there too, so listen no longer than necessary.
     const uint32_t events =
         XCB_EVENT_MASK_PROPERTY_CHANGE | (isListening ? uint32_t{XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY} : 0U);
     xcb_change_window_attributes(m_connection->xcb(), m_connection->root(), XCB_CW_EVENT_MASK, &events);

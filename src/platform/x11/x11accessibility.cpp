@@ -25,13 +25,13 @@ namespace {
 
 const QString kTerminalRole = u"terminal"_s;
 
-/// Whether a copy is never asked of such an application, so that PRIMARY is all there is.
+/// Whether such an application is never asked to copy, so that only PRIMARY is left.
 bool hasOnlyPrimary(KeyTaker taker)
 {
     return taker == KeyTaker::Terminal || taker == KeyTaker::OwnKeys || taker == KeyTaker::Emacs;
 }
 
-/// The text without white space and without what stands for embedded objects.
+/// The text without white space and without placeholders for embedded objects.
 QString inkOf(const QString &text)
 {
     QString ink;
@@ -43,14 +43,14 @@ QString inkOf(const QString &text)
     return ink;
 }
 
-/// Whether PRIMARY is what an application says is selected, as far as it says so.
+/// Whether PRIMARY agrees with what the application reports as selected, as far as it reports it.
 bool isConfirmed(const QString &primary, const AtSpiSelection &own)
 {
     return own.isPart ? inkOf(primary).contains(inkOf(own.text))
                       : primary == own.text || inkOf(primary) == inkOf(own.text);
 }
 
-/// Whether a text is what toolkits show in place of a password's letters.
+/// Whether a text is what toolkits show instead of a password's letters.
 bool isMask(const QString &text)
 {
     static const QString masks = u"\u2022\u25cf\u26ab\u2217*"_s;
@@ -145,10 +145,10 @@ QCoro::Task<SelectedText> X11Accessibility::selectedText()
     const KeyTaker taker = m_workspace.keyTakerOf(*window);
     if (taker == KeyTaker::PasswordPrompt)
         co_return SelectedText{.finding = Finding::Nothing};
-    // Before any wait, in which the user may press something.
+    // Before any wait, during which the user may press something.
     bool isClaimed = m_standing.isFresh(*window);
     SelectedText unknown;
-    // Where something was selected a moment ago, an answer is worth a longer wait.
+    // If something was selected a moment ago, an answer is worth a longer wait.
     AtSpiQuestion::Deadlines deadlines = m_deadlines;
     if (isClaimed)
         deadlines = {.question = 2 * m_deadlines.question, .call = 3 * m_deadlines.call};
@@ -158,7 +158,7 @@ QCoro::Task<SelectedText> X11Accessibility::selectedText()
         focused = co_await m_atSpi.focusedElement(search, *process);
     if (self.isNull())
         co_return SelectedText();
-    // A busy application claims what was selected before the key only by the time that it answers.
+    // A busy application may claim what was selected before the key only by the time it answers.
     isClaimed = isClaimed || m_standing.isFresh(*window);
     unknown.isClaimed = isClaimed && !isPrimarySecret();
     const AtSpiQuestion question = m_atSpi.ask(deadlines);
@@ -204,9 +204,10 @@ QCoro::Task<SelectedText> X11Accessibility::terminalText(xcb_window_t window,
 {
     using Finding = SelectedText::Finding;
     const QPointer<X11Accessibility> self(this);
-    // Of a long selection the bus knows only what is in sight.
+    // For a long selection, the bus only knows the visible part.
     const bool isSelected = own && !own->text.isEmpty() && m_standing.isOfApplication(window);
-    // What did not say what has the keyboard may have a password field, but not where it draws its text.
+    // An application that does not report its focused object may show a password field, but not where it
+    // draws its text.
     bool isHighlighted = isSelected;
     if (!isHighlighted && (!isSilent || m_standing.isInside(window)))
         isHighlighted = co_await m_standing.stands(window);
@@ -220,7 +221,7 @@ QCoro::Task<SelectedText> X11Accessibility::terminalText(xcb_window_t window,
     }
     if (own && !own->text.isEmpty())
         co_return SelectedText{.finding = Finding::Selected, .text = own->text};
-    // What stands is highlighted, and its owner did not give it.
+    // If `stands`, something is highlighted, but its owner did not provide it.
     co_return SelectedText{.finding = own && !stands ? Finding::Nothing : Finding::Unknown,
                            .isClaimed = stands};
 }
@@ -233,14 +234,14 @@ QCoro::Task<SelectedText> X11Accessibility::confirmedText(AtSpiSelection own, bo
     const SelectedText itself{.finding = Finding::Selected, .text = own.text, .isClaimed = isUsable};
     if (own.text.isEmpty())
         co_return isUsable ? unknown : SelectedText{.finding = Finding::Nothing};
-    // A field that shows bullets may be a password field that does not say so, and a page that is selected as
-    // a whole has them in PRIMARY too. Whatever else looks like this can be copied.
+    // A field that shows bullets may be a password field that does not say so, and PRIMARY has them too if
+    // the whole page is selected. Anything else that looks like this can be copied.
     if (isMask(own.text.trimmed()))
         co_return unknown;
     std::optional<QString> primary;
     if (isUsable)
         primary = co_await m_primary.text();
-    // The application's own text is the better one: the bus leaves out or adds white space.
+    // The application's own text is better: the bus drops or adds white space.
     if (primary && isConfirmed(*primary, own))
         co_return SelectedText{.finding = Finding::Selected, .text = *primary, .isClaimed = true};
     const bool isDoubtful = own.isPart || (own.isAssembled && primary);
@@ -251,12 +252,12 @@ QCoro::Task<std::optional<QString>> X11Accessibility::harmlessText(AtSpiQuestion
                                                                    AccessibleElement element)
 {
     const QPointer<X11Accessibility> self(this);
-    // A field knows its selection better: PRIMARY may be from the page around it.
+    // A field knows its selection better: PRIMARY may come from the surrounding page.
     const std::optional<bool> isEditable = co_await AtSpi::isEditable(question, element);
     if (self.isNull() || isEditable.value_or(true))
         co_return std::nullopt;
     const std::optional<QString> text = co_await m_primary.text();
-    // A page that is selected as a whole has a password field's bullets in it.
+    // If the whole page is selected, PRIMARY has a password field's bullets in it.
     if (self.isNull() || !isProcessTrusted() || (text && isMask(text->trimmed())))
         co_return std::nullopt;
     co_return text;
@@ -272,7 +273,7 @@ QCoro::Task<> X11Accessibility::noteOrigin()
         co_return;
     const QPointer<X11Accessibility> self(this);
     // Nobody waits for this. A busy application, or one whose accessibility is just starting, does not answer
-    // at first. Later than this, a password field that has lost the keyboard since is forgotten.
+    // at first. After this time, a password field that has since lost the focus is forgotten.
     const QDeadlineTimer recent(2s);
     while (!recent.hasExpired() && m_primary.claim().number == claim.number) {
         const AtSpiQuestion question = m_atSpi.ask({.question = 1s, .call = 500ms});

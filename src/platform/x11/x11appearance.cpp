@@ -27,7 +27,7 @@ std::optional<QColor> X11Appearance::accentColor() const
 
 bool X11Appearance::shouldReduceMotion() const
 {
-    // A portal that was never told otherwise says that all may move.
+    // A portal without a setting reports that animations are allowed.
     return m_portal.looks().reducesMotion.value_or(false) || m_settings.looks().reducesMotion.value_or(false);
 }
 

@@ -26,18 +26,18 @@ X11Application::X11Application(X11Connection &connection, X11Workspace &workspac
     , m_lastForeign(foreignActiveWindow())
     , m_workspaceInUse(workspaceInUse())
 {
-    // Long enough for the window manager to do all that it was asked to, too short to be seen when the
-    // user turns elsewhere.
+    // Long enough for the window manager to finish what it was asked to do, short enough that the user does
+    // not notice it when turning elsewhere.
     constexpr std::chrono::milliseconds kSettled{100};
     m_elsewhere.setSingleShot(true);
     m_elsewhere.setInterval(kSettled);
     connect(&m_elsewhere, &QTimer::timeout, this, [this] {
-        // News of an earlier switch may be all that was heard so far.
+        // So far we may only have been told about an earlier switch.
         if (isOwnWindowActive())
             return;
         if (!foreignActiveWindow())
-            m_lastForeign.reset(); // The user works in no window.
-        // The keyboard may have come and gone before either was read.
+            m_lastForeign.reset(); // The user is not working in any window.
+        // The focus may have arrived and gone before either was read.
         if (m_activation.isActive() && hasUserTurnedElsewhere()) {
             m_activation.stop();
             m_isActive = true;
@@ -52,15 +52,15 @@ X11Application::X11Application(X11Connection &connection, X11Workspace &workspac
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *window) {
         if (!window)
             return;
-        // Window managers may give the keyboard to another, of ours too, once more before they are done.
+        // Window managers may give the focus to another window, even one of ours, before they are done.
         if (isOwnWindowActive() && isActivationDone()) {
             m_activation.stop();
             m_hold.end();
         }
-        // News of what was active before may be all that was heard so far; the time begins anew.
+        // So far we may only have been told what was active before; restart the timer.
         if (m_elsewhere.isActive())
             m_elsewhere.start();
-        // The active window may be another again before its change to ours was read.
+        // The active window may have changed again before its change to ours was read.
         setActive(true);
     });
     connect(&service, &ApplicationService::activated, this, &Application::reopened);
@@ -81,7 +81,7 @@ void X11Application::hide()
         if (!(window->flags() & Qt::WindowDoesNotAcceptFocus))
             window->hide();
     }
-    // Window managers differ in whom they give the keyboard to when a window goes, so it is said.
+    // Window managers differ in which window gets the focus when one closes, so request it.
     m_returnedTo = hadKeyboard ? m_previousWindow : std::nullopt;
     if (hadKeyboard)
         activatePrevious();
@@ -121,7 +121,7 @@ void X11Application::expectNoKeys()
 bool X11Application::holdKeys()
 {
     remember();
-    // Qt lets go of a window that is hidden only when the server says so.
+    // Qt forgets a hidden window only when the server reports it.
     const QWindow *window = QGuiApplication::focusWindow();
     if (!(window && window->isVisible()))
         return m_hold.begin();
@@ -171,7 +171,7 @@ void X11Application::onWorkspaceChanged()
     if (now == m_workspaceInUse)
         return;
     m_workspaceInUse = now;
-    // Neither the keyboard nor a paste goes back to where the user has left.
+    // Neither the focus nor a paste returns to a place that the user has left.
     m_lastForeign = foreignActiveWindow();
     m_previousWindow.reset();
     m_taken.clear();
@@ -197,7 +197,7 @@ void X11Application::remember()
 void X11Application::rememberOwn(QWindow &window)
 {
     QWindow *own = foreignActiveWindow() ? nullptr : QGuiApplication::focusWindow();
-    // Asked for again while it has the keyboard, it still has it from the same.
+    // If the window has the focus already, what had it before stays the same.
     if (own == &window)
         return;
     m_taken.removeIf([&window](const Taken &each) { return each.window.isNull() || each.window == &window; });
@@ -207,7 +207,7 @@ void X11Application::rememberOwn(QWindow &window)
 
 QWindow *X11Application::ownBefore(const QWindow &window) const
 {
-    // One that has gone in the meantime may have taken it from yet another.
+    // A window that has closed in the meantime may have taken the focus from yet another.
     const QWindow *taker = &window;
     for (qsizetype step = 0; step < m_taken.size(); ++step) {
         const auto found =
@@ -254,8 +254,8 @@ void X11Application::onActiveWindowChanged()
         }
         setActive(true);
     } else if (!m_elsewhere.isActive()) {
-        // A switch passes through other windows, or none: after a quick hide and show the news of the
-        // hide comes when the panel is up again.
+        // A switch passes through other windows, or none: after quickly hiding and showing the panel, the
+        // report that it was hidden arrives when it is shown again.
         m_elsewhere.start();
     }
 }
@@ -300,8 +300,8 @@ std::optional<X11Application::ForeignWindow> X11Application::foreignActiveWindow
 
 bool X11Application::isOpen(const ForeignWindow &window) const
 {
-    // Programs may keep a window that they have closed; the window manager says then that it is withdrawn,
-    // or nothing any more.
+    // Programs may keep a window that they have closed; the window manager then marks it as withdrawn, or
+    // drops its state.
     constexpr quint32 kWithdrawn = 0;
     const quint32 state =
         m_connection.property32(window.id, m_connection.atom("WM_STATE")).value_or(kWithdrawn);

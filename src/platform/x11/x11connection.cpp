@@ -42,7 +42,7 @@ X11Connection::OpenResult X11Connection::open()
 {
     int screenNumber = 0;
     xcb_connection_t *connection = xcb_connect(nullptr, &screenNumber);
-    // Owned from here on: even a connection that failed has to be given back.
+    // Owned from here on: even a failed connection must be freed.
     std::unique_ptr<X11Connection> opened(new X11Connection(connection, screenNumber));
     if (xcb_connection_has_error(connection) != 0)
         return {.connection = nullptr, .error = tr("The X server cannot be reached.")};
@@ -179,7 +179,7 @@ QString X11Connection::setUpExtensions()
     m_randrEvent = findExtension(m_connection, xcb_randr_id)->first_event;
     m_inputOpcode = findExtension(m_connection, xcb_input_id)->major_opcode;
 
-    // Each extension wants to hear which version its client speaks before it serves it.
+    // A client must tell each extension its version before the extension serves it.
     const auto xfixes = xcb_xfixes_query_version(m_connection, 5, 0);
     const auto input = xcb_input_xi_query_version(m_connection, 2, 2);
     const auto res = xcb_res_query_version(m_connection, 1, 2);
@@ -210,7 +210,7 @@ void X11Connection::listen()
     m_notifier =
         std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(m_connection), QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, &X11Connection::readEvents);
-    // A reply that is waited for brings events along, of which the socket then tells no more.
+    // Waiting for a reply also reads events, which the socket then no longer announces.
     const QAbstractEventDispatcher *dispatcher = QCoreApplication::eventDispatcher();
     connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, &X11Connection::readEvents);
 }

@@ -24,13 +24,13 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 constexpr auto kLook = 10ms;
-/// Nested and remote servers send a held key's repetitions as releases and presses, so a key counts as
-/// up only after it was up for so long.
+/// Nested and remote servers send repeats of a held key as releases and presses, so a key counts as up only
+/// after being up for this long.
 constexpr auto kUpFor = 50ms;
 constexpr auto kCopyPatience = 700ms;
-/// Nothing but the user waits for pasting.
+/// Only the user waits for a paste.
 constexpr auto kPastePatience = 2s;
-/// An application that takes longer to say that it is there hangs.
+/// An application that takes longer to answer a ping is hanging.
 constexpr auto kAnswer = 200ms;
 
 } // namespace
@@ -51,7 +51,7 @@ QCoro::Task<bool> X11EventPoster::post(Command command, Target target, std::func
     const QPointer<X11EventPoster> self(this);
     const Needs needs = m_needs;
     const auto window = static_cast<xcb_window_t>(target);
-    // 0 for a program of another machine whose process here cannot be told.
+    // 0 for a program on another machine whose process here is unknown.
     const qint64 process = needs.workspace.processOf(window).value_or(0);
     if (target == Target::None || process == QCoreApplication::applicationPid())
         co_return false;
@@ -60,12 +60,12 @@ QCoro::Task<bool> X11EventPoster::post(Command command, Target target, std::func
         const DesktopEntry *entry = needs.workspace.entries().match(identity);
         return keysFor(command, keyTakerOf(identity, entry, role));
     };
-    // Programs that no answer could make ordinary need not be asked.
+    // No answer could make these programs ordinary, so do not ask them.
     if (keysyms(u"text"_s).isEmpty() && keysyms(u"terminal"_s).isEmpty())
         co_return false;
     std::optional<WindowPing> ping;
-    // An application that hangs would copy at any later time, over what the user has copied by then. To
-    // paste late is what the user wants.
+    // A hanging application would copy at some later time, over whatever the user has copied by then. A late
+    // paste, on the other hand, is what the user wants.
     if (command == Command::Copy)
         ping.emplace(needs.connection, window);
     const Instant end =
@@ -78,8 +78,8 @@ QCoro::Task<bool> X11EventPoster::post(Command command, Target target, std::func
         }
         if (self.isNull())
             co_return false;
-        // Asked last: the user may go from one part of the window to another at any time, but not without
-        // a key or a button.
+        // Asked last: the user may move to another part of the window at any time, but not without pressing a
+        // key or a button.
         const xcb_timestamp_t lastPress = needs.input.lastPress();
         const std::optional<QString> role = co_await focusedRole(process);
         if (self.isNull() || !isWanted())
@@ -98,8 +98,8 @@ QCoro::Task<bool> X11EventPoster::waitForLetters(Instant end)
 {
     const QPointer<X11EventPoster> self(this);
     Clock &clock = m_needs.clock;
-    // Modifiers that are let go of while a letter is still down would leave the letter alone, to be
-    // typed over the selection.
+    // If the modifiers are released while a letter is still down, the letter alone would be typed over the
+    // selection.
     auto upSince = clock.monotonic();
     while (clock.monotonic() < end && !keepsPress()) {
         if (hasLetterDown())
@@ -152,7 +152,7 @@ bool X11EventPoster::keepsPress() const
 
 bool X11EventPoster::hasLetterDown() const
 {
-    // What applications see stands still while the keyboard is held.
+    // While the keyboard is held, the state that applications see is frozen.
     const KeyStates states = isHolding() ? heldKeys(m_needs.connection).all() : keysDown(m_needs.connection);
     for (size_t key = 0; key < states.size(); ++key) {
         if (states.test(key) && !m_needs.input.isModifier(static_cast<xcb_keycode_t>(key)))
@@ -190,8 +190,7 @@ bool X11EventPoster::hasInputFocus(xcb_window_t window) const
 X11EventPoster::Attempt X11EventPoster::tryToPost(const QList<uint32_t> &keysyms, xcb_window_t window,
                                                   xcb_timestamp_t lastPress)
 {
-    // Keys that were meant for one window must not reach another, so nobody may change anything between
-    // the look and the keys.
+    // Keys meant for one window must not reach another, so nothing may change between the check and the keys.
     const ServerGrab grab(m_needs.connection);
     if (keysyms.isEmpty() || m_needs.workspace.isOvertaken(window)
         || m_needs.workspace.activeWindow() != window || !hasInputFocus(window))
@@ -199,7 +198,8 @@ X11EventPoster::Attempt X11EventPoster::tryToPost(const QList<uint32_t> &keysyms
     if (hasLetterDown() || m_needs.input.lastPress() != lastPress || m_needs.input.isKeyboardTaken()
         || !m_keys.canPlay())
         return Attempt::Early;
-    // Whoever goes on typing writes a note. Let go of now, the letters would replace what is selected.
+    // A user who continues typing is writing a note. If those letters were released now, they would replace
+    // the selection.
     if (keepsPress())
         return Attempt::Refused;
     const bool isHeld = isHolding();
@@ -207,7 +207,7 @@ X11EventPoster::Attempt X11EventPoster::tryToPost(const QList<uint32_t> &keysyms
         if (m_needs.hold)
             m_needs.hold->end();
     });
-    // Until it is known what the keys have brought. Whoever still has a hand on the modifiers types nothing.
+    // Hold the keys until the effect of ours is known. A user who still holds modifiers is not typing.
     if (isHeld && isPlayed && !hasCommandModifierDown())
         m_needs.hold->beginQuietly();
     return isPlayed ? Attempt::Posted : Attempt::Refused;

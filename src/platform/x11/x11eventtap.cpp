@@ -41,7 +41,7 @@ void X11EventTap::onKeyPressed(xcb_keycode_t key, xcb_timestamp_t time)
 
 void X11EventTap::onKeyReleased(xcb_keycode_t key, xcb_timestamp_t time)
 {
-    // Releases without a press come from tools that want to be sure, and mean nothing.
+    // Some tools send releases without a press as a precaution; ignore them.
     if (m_held.remove(key))
         tellFlags(time);
 }

@@ -13,8 +13,8 @@ namespace vesk {
 
 namespace {
 
-/// A key that is down again so soon was held: the server repeats a grabbed key, and nested servers any
-/// key, as going up and down at one and the same time. No finger is that fast.
+/// A key that is down again this soon was held: the server repeats a grabbed key, and nested servers repeat
+/// any key, as a release and a press at the same time. No finger is that fast.
 constexpr int kRepetitionMilliseconds = 2;
 
 /// X reserves the first 8 key codes.
@@ -23,7 +23,7 @@ xcb_keycode_t keyCodeOf(KeyPosition key)
     return static_cast<xcb_keycode_t>(static_cast<unsigned>(key) + 8);
 }
 
-/// Every choice of some of these bits, none and all of them included.
+/// Every subset of these bits, including the empty one and all of them.
 QList<uint8_t> subsetsOf(uint8_t bits)
 {
     QList<uint8_t> subsets;
@@ -47,12 +47,12 @@ X11HotKeys::X11HotKeys(X11Connection &connection, RawInput &input)
     connect(&connection, &X11Connection::eventReceived, this, &X11HotKeys::onEvent);
     connect(&input, &RawInput::keyReleased, this, &X11HotKeys::onKeyReleased);
     connect(&input.modifiers(), &ModifierMap::changed, this, &X11HotKeys::renewGrabs);
-    // After the grabs: they are made by what the modifiers are now.
+    // Reported only once the grabs have been renewed for the current modifiers.
     connect(&input.modifiers(), &ModifierMap::keyboardChanged, this, [this] {
         m_letters.forget();
         Q_EMIT layoutChanged();
     });
-    // That a key goes up may not be heard any more.
+    // The release of a key may no longer be reported.
     connect(&input, &RawInput::listeningChanged, this, [this] {
         endGuard();
         m_held = {};
@@ -114,7 +114,7 @@ std::optional<X11HotKeys::Grab> X11HotKeys::tryGrab(Grab grab)
     }
     if (isFree)
         return grab;
-    // Some of the lock states may have been free; a key that works only at times is worse than none.
+    // Some lock states may have been free, but a key that works only sometimes is worse than none.
     ungrab(grab);
     return std::nullopt;
 }
@@ -129,8 +129,8 @@ void X11HotKeys::ungrab(Grab grab)
 void X11HotKeys::renewGrabs()
 {
     endGuard();
-    // A grab that can stay stays, so that no press at this moment is missed. The others are given up before
-    // the first is taken again: two may have changed places.
+    // Keep grabs that do not change, so that no press is missed now. Release the others before grabbing any
+    // again: two may have swapped places.
     const bool areLocksMoved = m_lockBits != m_input.modifiers().lockBits();
     for (Registration &each : m_registrations) {
         if (each.grab && (areLocksMoved || each.grab != grabFor(each.combination))) {
@@ -161,7 +161,8 @@ void X11HotKeys::onEvent(const xcb_generic_event_t *event)
         onPress(key);
     } else if (type == XCB_KEY_RELEASE && key.detail == m_held.key) {
         m_releaseTime = key.time;
-        // A repeated key only seems to go up; this one may do so in earnest before the grab is given back.
+        // A repeated key only appears to be released; this one may really be released before the grab is
+        // given back.
         if (!m_guards.isEmpty() && !keysDown(m_connection).test(m_held.key))
             endGuard();
     }
@@ -170,8 +171,8 @@ void X11HotKeys::onEvent(const xcb_generic_event_t *event)
 void X11HotKeys::onPress(const xcb_key_press_event_t &press)
 {
     if (m_input.isListening()) {
-        // While the grab holds, toolkits believe that they have lost the focus and hide their selection
-        // from the accessibility bus.
+        // While the grab lasts, toolkits believe that they have lost the focus and hide their selection from
+        // the accessibility bus.
         xcb_ungrab_keyboard(m_connection.xcb(), press.time);
         m_connection.flush();
     }
@@ -180,12 +181,12 @@ void X11HotKeys::onPress(const xcb_key_press_event_t &press)
         && (!m_releaseTime || !isAtOrAfter(press.time, *m_releaseTime + kRepetitionMilliseconds));
     m_releaseTime.reset();
     if (isRepetition) {
-        // Held for that long, the key may well outlast its modifiers, and the next repetition may come
-        // before anybody hears that one of them went up.
+        // A key held this long may well outlast its modifiers, and the next repeat may arrive before we learn
+        // that one of them was released.
         guardHeldKey();
         return;
     }
-    // The upper half of the state tells of the mouse and of the layout in use.
+    // The upper half of the state describes the mouse buttons and the active layout.
     const Grab pressedGrab{.key = press.detail,
                            .modifiers = static_cast<uint8_t>(press.state & 0xffU & ~unsigned{m_lockBits})};
     endGuard();
@@ -216,12 +217,12 @@ void X11HotKeys::onKeyReleased(xcb_keycode_t key, xcb_timestamp_t time)
 
 void X11HotKeys::guardHeldKey()
 {
-    // The grab that was not given back holds until the key is up.
+    // The grab that was not given back lasts until the key is released.
     if (!m_input.isListening() || !m_guards.isEmpty())
         return;
-    // Fingers leave the modifiers as often first as last, and the server repeats the letter meanwhile: it
-    // would be typed over the selection. Not from the press on: the letter alone is the application's as
-    // soon as it is up. Combinations that others have are theirs.
+    // Users release the modifiers first as often as last, and the server repeats the letter meanwhile: it
+    // would be typed over the selection. This is not done from the press on, because the letter alone belongs
+    // to the application as soon as it is up. Combinations that others have grabbed stay theirs.
     for (const uint8_t modifiers : subsetsOf(m_held.modifiers)) {
         const Grab guard{.key = m_held.key, .modifiers = modifiers};
         const bool isOwn = std::ranges::any_of(

@@ -16,11 +16,11 @@ namespace vesk {
 
 namespace {
 
-/// A reading during which the owner changed may have mixed two contents, or have read a text whose
-/// secrecy was asked of another owner, so it is done again; some applications claim twice for one copy.
+/// If the owner changed during a reading, the result may mix two contents, or be a text whose secrecy was
+/// checked with another owner, so the reading is repeated; some applications claim twice for one copy.
 constexpr int kAttempts = 3;
 
-/// How soon a clipboard manager claims what it has kept of an owner that went, in the server's time.
+/// How soon a clipboard manager claims what it kept of an owner that exited, in server time.
 constexpr xcb_timestamp_t kTakeoverMilliseconds = 2000;
 
 xcb_atom_t selectionOf(const X11Connection &connection, X11Pasteboard::Kind kind)
@@ -112,8 +112,8 @@ QCoro::Task<std::optional<QString>> X11Pasteboard::string(Patience patience)
 
 void X11Pasteboard::clearContents()
 {
-    // Owned with nothing in it rather than by nobody: where nobody owns the selection, some clipboard
-    // managers bring back what was there before.
+    // Own the selection with empty contents rather than leave it unowned: some clipboard managers then
+    // restore the previous contents.
     writeObjects({});
 }
 
@@ -142,8 +142,8 @@ QCoro::Task<> X11Pasteboard::handOver()
     const xcb_atom_t manager = m_connection.atom("CLIPBOARD_MANAGER");
     if (!m_server.isOwner() || !m_server.hasOffer() || !hasOwner(manager))
         co_return;
-    // The manager reads all that we offer before it answers. The answer itself says nothing; whatever
-    // went wrong, there is nobody else to give it to.
+    // The manager reads everything that we offer before it answers. The answer itself does not matter; if
+    // anything failed, there is nobody else to hand the contents to.
     constexpr std::chrono::seconds kPatience{1};
     constexpr qsizetype kNothing = 16;
     co_await SelectionTransfer::read(m_connection, manager, m_connection.atom("SAVE_TARGETS"), kNothing,
@@ -155,15 +155,15 @@ void X11Pasteboard::onEvent(const xcb_generic_event_t *event)
     if ((event->response_type & 0x7f) != m_connection.xfixesEvent() + XCB_XFIXES_SELECTION_NOTIFY)
         return;
     const auto *notify = reinterpret_cast<const xcb_xfixes_selection_notify_event_t *>(event);
-    // Whoever else hears this selection has each change reported to a window of its own as well.
+    // Other listeners for this selection have each change reported to windows of their own.
     if (notify->window != m_server.window())
         return;
-    // Our own writes have been counted when they were made, and what was there before a write of ours
-    // is gone already: counted now, it would look like a change after the write.
+    // Our own writes were counted when they were made, and contents from before a write of ours are gone
+    // already: counted now, they would look like a change after the write.
     const bool isCounted = notify->owner == m_server.window() || m_server.isOlderThanOffer(event);
     if (notify->selection != m_selection || isCounted)
         return;
-    // Most applications claim a selection with the time of the key that the user copied by.
+    // Most applications claim a selection with the time of the key that the user pressed to copy.
     const auto late = static_cast<int32_t>(notify->timestamp - notify->selection_timestamp);
     m_origin = {.processIdentifier = m_connection.clientProcess(notify->owner),
                 .delay = std::chrono::milliseconds{std::max(late, int32_t{0})},

@@ -15,7 +15,7 @@ namespace vesk {
 
 namespace {
 
-/// A screen in the server's pixels: Qt scales its size, and leaves its place.
+/// A screen in server pixels: Qt scales its size but not its position.
 QRect pixelsOf(const QScreen &screen)
 {
     const QRect geometry = screen.geometry();
@@ -88,7 +88,7 @@ X11Screens::X11Screens(X11Connection &connection)
 
 QList<Screen> X11Screens::screens() const
 {
-    // Qt keeps the primary screen first.
+    // Qt lists the primary screen first.
     QList<Screen> screens;
     const QList<QScreen *> all = QGuiApplication::screens();
     for (const QScreen *screen : all)
@@ -166,10 +166,10 @@ void X11Screens::readStruts()
 {
     xcb_connection_t *xcb = m_connection.xcb();
     const QList<xcb_window_t> windows = candidates();
-    // All questions go out before the first answer is waited for.
+    // Send all requests before waiting for the first answer.
     QList<std::array<xcb_get_property_cookie_t, 2>> questions;
     for (const xcb_window_t window : windows) {
-        // A dock may take more room, or less, at any time.
+        // A dock may take up more or less space at any time.
         const uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
         xcb_change_window_attributes(xcb, window, XCB_CW_EVENT_MASK, &events);
         questions.append(
@@ -199,7 +199,7 @@ QList<xcb_window_t> X11Screens::candidates() const
         numbersOf(m_connection.property(m_connection.root(), m_connection.atom("_NET_CLIENT_LIST")));
     if (!m_workArea.isEmpty())
         return windows;
-    // A window manager that does not say what is free may not list the docks either.
+    // A window manager that does not report the work area may not list the docks either.
     QList<xcb_window_t> parents{m_connection.root()};
     constexpr int kDepth = 2;
     for (int depth = 0; depth < kDepth; ++depth) {
@@ -229,7 +229,7 @@ QRectF X11Screens::visibleFrame(const QScreen &screen) const
 {
     const QRect pixels = pixelsOf(screen);
     QRect space = spaceOn(pixels, m_desktop, m_struts);
-    // Some window managers draw their own panels, of which no window tells.
+    // Some window managers draw their own panels, which have no windows to inspect.
     for (const QRect &area : m_monitorAreas) {
         if (!(area & space).isEmpty())
             space &= area;

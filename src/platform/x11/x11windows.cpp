@@ -16,10 +16,10 @@ namespace vesk {
 
 namespace {
 
-/// Whoever owns this selection blends the windows of the first screen.
+/// The owner of this selection composites the windows of the first screen.
 constexpr const char *kCompositor = "_NET_WM_CM_S0";
 
-/// A rectangle with round corners, by rows of pixels.
+/// A rounded rectangle as rows of pixels.
 QList<xcb_rectangle_t> roundedRows(QSize size, qreal radius)
 {
     QList<xcb_rectangle_t> rectangles;
@@ -64,7 +64,7 @@ void X11Windows::prepare(QWindow &window, Kind kind)
 {
     window.create();
     if (kind == Kind::Notice)
-        return; // Not managed, so there is nobody to tell.
+        return; // Not managed, so there is nobody to notify.
     constexpr quint32 kEveryDesktop = 0xFFFFFFFF;
     ownwindows::setCardinal(window, "_NET_WM_DESKTOP", kEveryDesktop);
     ownwindows::addStates(window, {"_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"});
@@ -82,8 +82,8 @@ bool X11Windows::setFrame(QWindow &window, const QRectF &frame)
 
 void X11Windows::lookAgain()
 {
-    // Some window managers put the title bar that a window is not to have where the window is to be, and
-    // the window below it. Asked again once it is shown, they put the window there.
+    // Some window managers reserve room for a title bar that the window is not to have, which pushes the
+    // window down. If asked again once the window is shown, they place it correctly.
     constexpr int kLooks = 100;
     constexpr int kLooksAtShown = 10;
     for (Placing &each : m_placings) {
@@ -104,7 +104,7 @@ void X11Windows::lookAgain()
 
 void X11Windows::setCornerRadius(QWindow &window, qreal radius)
 {
-    // In the server's pixels: Qt would cut by whole points, which shows on a scaled screen.
+    // In server pixels: Qt would cut along whole points, which is visible on a scaled screen.
     const qreal ratio = window.devicePixelRatio();
     const QSize size = QSizeF(window.size() * ratio).toSize();
     ownwindows::setShape(window,

@@ -62,8 +62,8 @@ std::optional<xcb_window_t> X11Workspace::activeWindow() const
 
 std::optional<xcb_window_t> X11Workspace::windowOfEvent()
 {
-    // A report says only that the active window has changed, not which it was: on a busy machine it may have
-    // changed once more. What comes before the answer to a request carries the request's number at most.
+    // A notification only says that the active window has changed, not to which one: on a busy machine it may
+    // have changed again. Events that precede the answer to a request carry at most the request's number.
     const auto cookie = xcb_get_input_focus(m_connection.xcb());
     const XReply<xcb_get_input_focus_reply_t> answer(
         xcb_get_input_focus_reply(m_connection.xcb(), cookie, nullptr));
@@ -114,7 +114,7 @@ void X11Workspace::onEvent(const xcb_generic_event_t *event)
     const auto *notify = reinterpret_cast<const xcb_property_notify_event_t *>(event);
     if (notify->window != m_connection.root() || notify->atom != m_connection.atom("_NET_ACTIVE_WINDOW"))
         return;
-    // A switch passes through "no window" for about a millisecond; that is no activation.
+    // A switch passes through "no window" for about a millisecond; that is not an activation.
     const std::optional<xcb_window_t> window = activeWindow();
     m_reportedWindow = window;
     if (m_askedWindow && isAtOrAfter(m_askedAt, event->full_sequence))
@@ -125,7 +125,7 @@ void X11Workspace::onEvent(const xcb_generic_event_t *event)
         m_activationTime = notify->time;
         const qint64 process = processOf(*window).value_or(0);
         const RunningApplication application = applicationOf(*window, process);
-        // Programs without a process here cannot be told from each other.
+        // Programs without a local process cannot be told apart.
         const bool isOther = process == 0 ? !application.localizedName.isEmpty() : process != m_lastProcess;
         if (isOther) {
             m_lastProcess = process;

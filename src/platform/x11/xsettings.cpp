@@ -10,7 +10,7 @@ namespace vesk {
 
 namespace {
 
-/// Who owns this selection manages the settings of the first screen, in the property below.
+/// The owner of this selection manages the settings of the first screen, in the property below.
 constexpr const char *kManager = "_XSETTINGS_S0";
 constexpr const char *kSettings = "_XSETTINGS_SETTINGS";
 
@@ -57,7 +57,7 @@ void XSettings::follow()
 
 void XSettings::read()
 {
-    // Without a manager, as while one makes room for the next, what was said last still holds.
+    // Without a manager, for example while one is replaced by another, the last settings stay valid.
     if (m_owner == XCB_WINDOW_NONE)
         return;
     const DesktopLooks looks =

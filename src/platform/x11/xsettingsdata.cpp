@@ -47,11 +47,11 @@ QVariant valueOf(QDataStream &stream, quint8 type)
         return QString::fromUtf8(padded(stream, size));
     }
     case Color:
-        // No colour is of use here.
+        // Colours are not used.
         stream.skipRawData(kColorSize);
         return {};
     default:
-        // Its length is not known, so nothing that follows can be found.
+        // Its length is unknown, so nothing after it can be parsed.
         stream.setStatus(QDataStream::ReadCorruptData);
         return {};
     }
