@@ -15,16 +15,17 @@ struct AtSpiSelection
 {
     /// Empty if nothing is selected.
     QString text;
-    /// Whether the text was put together from a page or from several paragraphs: it may differ from what
+    /// Whether the text was assembled from a page or from several paragraphs, so that it may differ from what
     /// the application itself would copy.
     bool isAssembled = false;
-    /// Whether it may be only a part of what is selected: the application has the rest out of sight.
+    /// Whether this may be only part of the selection, because the application does not expose what is off
+    /// screen.
     bool isPart = false;
 };
 
-/// The text that is selected where this object is: in the object itself, or in the page or the row of
-/// paragraphs that it is a part of. Nullopt if the object is not a text, cannot tell, or the selection could
-/// not be read whole.
+/// The text selected at this object: in the object itself, or in the page or the sequence of paragraphs that
+/// contains it. nullopt if the object is not a text, cannot tell, or the selection could not be read
+/// completely.
 QCoro::Task<std::optional<AtSpiSelection>> readAtSpiSelection(AtSpiQuestion question, AtSpiReference object);
 
 } // namespace vesk

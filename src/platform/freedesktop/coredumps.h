@@ -3,13 +3,13 @@
 
 namespace vesk {
 
-/// Keeps this process's memory, in which all notes are, out of what the system may write or hand to another
-/// program after a crash. To be called before anything is read. The programs that Vesk forks off get back
-/// what this process was started with: their dumps are their own affair.
+/// Keeps this process's memory, which contains all notes, out of core dumps that the system may write or hand
+/// to another program after a crash. Must be called before any note is read. Programs that Vesk forks get the
+/// original settings back: their dumps are their own business.
 void forbidCoreDumps();
 
-/// Gives this process back what it had before `forbidCoreDumps`, for the program that it is about to become.
-/// Does nothing without a `forbidCoreDumps`.
+/// Restores the settings from before `forbidCoreDumps`, for a program that this process is about to exec.
+/// Does nothing if `forbidCoreDumps` was not called.
 void restoreCoreDumps();
 
 } // namespace vesk

@@ -11,35 +11,36 @@ namespace vesk {
 class RawInput;
 class X11Connection;
 
-/// Keeps what is typed while one of Vesk's windows comes up for that window: the server delivers no key
-/// until the window has the keyboard, and then all of them, in order. Ends by itself after a moment, in
-/// case the window manager gives the keyboard to nobody.
+/// Holds back what is typed while one of Vesk's windows opens, for that window: the server delivers no keys
+/// until the window has the focus, and then delivers them all in order. Ends on its own after a moment, in
+/// case the window manager does not focus any window.
 class KeyboardHold final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Both must outlive it.
+    /// Both must outlive this object.
     KeyboardHold(X11Connection &connection, const RawInput &input);
 
-    /// Holds the keys in a way that no application notices: without a grab of the keyboard, of which
-    /// toolkits think that it takes the focus away. The pointer's clicks are kept as well. Does nothing
-    /// while another application has the pointer to itself, as with a menu open.
+    /// Holds the keys without any application noticing: toolkits take a grab of the keyboard for a loss of
+    /// focus, so this does not use one. Mouse clicks are held back as well. Does nothing while another
+    /// application has grabbed the pointer, for example with a menu open.
     void beginQuietly();
     /// Ends what `beginQuietly` began.
     void endQuiet();
     [[nodiscard]] bool isQuiet() const { return m_isQuiet; }
-    /// Whether the user has pressed a key or a button that `beginQuietly` keeps from the application in
-    /// front. False where the user's keys are not listened to.
+    /// Whether the user has pressed a key or button that `beginQuietly` holds back from the frontmost
+    /// application. False if the user's keys are not being listened to.
     [[nodiscard]] bool keepsPress() const;
-    /// Whether it holds now: not if another application has the keyboard to itself.
+    /// Returns whether the keys are held now: they are not if another application has grabbed the keyboard.
     bool begin();
-    /// Lets all keys go to the window that has the keyboard now.
+    /// Delivers all held keys to the window that has the focus now.
     void end();
 
 private:
     void onEvent(const xcb_generic_event_t *event);
-    /// Whether a key that went down as a hot key is up again; then says so on the connection.
+    /// Checks whether a key that was pressed as a hot key has been released, and if so reports that on the
+    /// connection.
     void lookForRelease();
 
     X11Connection &m_connection;
@@ -50,7 +51,7 @@ private:
     bool m_isQuiet = false;
     xcb_timestamp_t m_pressBefore = 0;
     bool m_isHolding = false;
-    /// The hot key whose release the hold keeps from those who wait for it; 0 for none.
+    /// The hot key whose release its listeners do not get because of the hold; 0 for none.
     xcb_keycode_t m_pressedKey = 0;
 };
 

@@ -12,24 +12,24 @@ class X11Connection;
 /// Which keys are down, by their key codes.
 using KeyStates = std::bitset<256>;
 
-/// The keys that are down as applications see them, asked for and waited for; none if the server does not
-/// answer. The last device that pressed or released a key decides.
+/// The keys that are down as applications see them; waits for the server. Empty if the server does not
+/// answer. The device that last pressed or released a key decides.
 [[nodiscard]] KeyStates keysDown(const X11Connection &connection);
 
-/// The keys that are down on the devices behind the keyboard, whatever applications were told since.
+/// The keys that are down on the devices behind the keyboard, regardless of what applications have been told.
 struct HeldKeys
 {
-    /// On the keyboards themselves: under a finger of the user's.
+    /// On the keyboards themselves: held by the user.
     KeyStates byUser;
-    /// On the device of the XTEST extension: pressed by a program, Vesk or another.
+    /// On the XTEST device: pressed by a program, whether Vesk or another.
     KeyStates byPrograms;
-    /// That device.
+    /// The XTEST device.
     xcb_input_device_id_t programsDevice = 0;
 
     [[nodiscard]] KeyStates all() const { return byUser | byPrograms; }
 };
 
-/// Asked for and waited for. Empty if the server does not answer.
+/// Waits for the server. Empty if it does not answer.
 [[nodiscard]] HeldKeys heldKeys(const X11Connection &connection);
 
 } // namespace vesk

@@ -15,7 +15,7 @@ namespace vesk {
 
 class X11Connection;
 
-/// The keys and buttons of the user's devices, heard also while another application has grabbed them.
+/// The keys and buttons of the user's devices, observed even while another application has grabbed them.
 class RawInput final : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     /// Does not listen yet.
     explicit RawInput(X11Connection &connection);
 
-    /// Begins or ends to listen. What was heard before is forgotten at the end.
+    /// Starts or stops listening. Stopping forgets what was observed.
     void setListening(bool isListening);
     [[nodiscard]] bool isListening() const { return m_isListening; }
 
@@ -39,8 +39,8 @@ public:
     /// - keys that Vesk itself has sent.
     [[nodiscard]] xcb_timestamp_t lastPress() const { return m_lastPress; }
 
-    /// Ignores the keys that came from a device as a consequence of these requests to the server, from the
-    /// first to the last. Must be called before the events are read.
+    /// Ignores the keys from a device that result from these requests to the server, from the first to the
+    /// last. Must be called before their events are read.
     void ignoreRequests(xcb_input_device_id_t device, uint32_t first, uint32_t last);
 
     [[nodiscard]] const ModifierMap &modifiers() const { return m_modifiers; }
@@ -51,13 +51,13 @@ public:
     [[nodiscard]] bool isKeyboardTaken() const;
 
 Q_SIGNALS:
-    /// A key went down, at the server's time; not repeated while it is held.
+    /// A key was pressed, at the server's time; not repeated while it is held.
     void keyPressed(xcb_keycode_t key, xcb_timestamp_t time);
     void keyReleased(xcb_keycode_t key, xcb_timestamp_t time);
-    /// A mouse button went down; not the wheel.
+    /// A mouse button was pressed; not emitted for the wheel.
     void buttonPressed();
     void wheelTurned();
-    /// Listening has begun or ended; what was down or up before is not known.
+    /// Listening has started or stopped. Which keys were down before is unknown.
     void listeningChanged();
 
 private:
@@ -79,14 +79,14 @@ private:
     X11Connection &m_connection;
     ModifierMap m_modifiers;
     bool m_isListening = false;
-    /// The requests of ours whose keys are not all heard yet.
+    /// Our requests whose keys have not all been received yet.
     QList<Requests> m_ownRequests;
-    /// The keys that are down, as far as they were heard.
+    /// The keys that are down, as far as they were observed.
     KeyStates m_down;
     xcb_timestamp_t m_lastPress = 0;
-    /// What `m_lastPress` was before the key that was heard last; nullopt if that was no press of a key.
+    /// The value of `m_lastPress` before the most recent key; nullopt if that was not a key press.
     std::optional<xcb_timestamp_t> m_beforeKey;
-    /// Whether a grab on the root window takes the keys.
+    /// Whether a grab on the root window receives the keys.
     bool m_isRootGrabbed = false;
 };
 

@@ -17,9 +17,9 @@ namespace vesk {
 class RawInput;
 class X11Connection;
 
-/// Plays a key combination by XTEST while the user's own modifiers are lifted, and puts these back: what the
-/// user types next comes with them. Applications cannot tell the keys from the user's; `RawInput` can, and
-/// does not report them.
+/// Sends a key combination with XTEST. Meanwhile it releases the user's modifiers, and presses them again
+/// afterwards, so that they apply to what the user types next. Applications cannot tell these keys from the
+/// user's; `RawInput` can, and does not report them.
 class SyntheticKeys final : public QObject
 {
     Q_OBJECT
@@ -28,8 +28,8 @@ public:
     SyntheticKeys(X11Connection &connection, RawInput &input);
     ~SyntheticKeys() override;
 
-    /// Whether the modifiers that are held can be put back with no further effect. Those that switch the
-    /// keyboard's layout when they are held together would switch it once more.
+    /// Whether the held modifiers can be pressed again without side effects. Modifiers that switch the
+    /// keyboard layout when held together would switch it again.
     [[nodiscard]] bool canPlay() const;
 
     /// Plays the keys with these keysyms, modifiers first. The server must be grabbed. Keys that are held
@@ -42,21 +42,22 @@ public:
 private:
     using Keys = QList<xcb_keycode_t>;
 
-    /// The codes of the keysyms; nullopt if one is missing. A modifier of which another key is held gets a
-    /// key that nobody holds, if there is one: the user may let go at any moment.
+    /// The key codes of the keysyms; nullopt if one is missing. If the user holds one of a modifier's keys,
+    /// uses another of its keys that is not held, if there is one, because the user may release the first at
+    /// any moment.
     [[nodiscard]] std::optional<Keys> codesOf(const QList<uint32_t> &keysyms, const KeyStates &down) const;
     void send(uint8_t type, xcb_keycode_t key);
     void lookAtLent();
-    /// Ends what is lent of keys that the user has let go of, and reports what was sent as our own.
+    /// Releases lent keys that the user has released, and reports what was sent as our own.
     void returnLent();
 
     X11Connection &m_connection;
     RawInput &m_input;
-    /// Keys that XTEST holds for the user, who holds them too.
+    /// Keys that XTEST holds down on the user's behalf while the user holds them too.
     KeyStates m_lent;
-    /// Runs while a key is lent: the release of the user's own key does not end what XTEST holds.
+    /// Runs while a key is lent, because the release of the user's own key does not release XTEST's.
     QTimer m_watch;
-    /// The first and last request of those that were sent together; nullopt if none was.
+    /// The first and last request of a group sent together; nullopt if nothing was sent.
     std::optional<uint32_t> m_firstRequest;
     uint32_t m_lastRequest = 0;
 };

@@ -19,7 +19,7 @@ class KeyboardHold;
 class X11Connection;
 class X11Workspace;
 
-/// Vesk among the desktop's applications: active while one of its windows is the active window.
+/// Vesk as one of the desktop's applications: active while one of its windows is the active window.
 class X11Application final : public Application
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
     X11Application(X11Connection &connection, X11Workspace &workspace, KeyboardHold &hold,
                    ApplicationService &service);
 
-    /// Also true while the window manager has yet to do what `activate` asked for.
+    /// Also true while the window manager has not yet done what `activate` requested.
     [[nodiscard]] bool isActive() const override { return m_isActive || m_activation.isActive(); }
     [[nodiscard]] bool isHidden() const override { return m_isHidden; }
     void hide() override;
@@ -47,11 +47,11 @@ private:
     struct ForeignWindow
     {
         xcb_window_t id = XCB_WINDOW_NONE;
-        /// The server gives the numbers of closed windows to new ones of other programs.
+        /// The server reuses the numbers of closed windows, even for other programs.
         qint64 process = 0;
     };
 
-    /// One of our windows that took the keyboard from another of ours; null where that has gone.
+    /// A window of ours that took the focus from another of ours; null if the latter is gone.
     struct Taken
     {
         QPointer<QWindow> window;
@@ -60,45 +60,45 @@ private:
 
     void onEvent(const xcb_generic_event_t *event);
     void onActiveWindowChanged();
-    /// The user has gone to another workspace: what was on the screen stays behind.
+    /// The user has switched to another workspace, leaving behind what was on the screen.
     void onWorkspaceChanged();
-    /// Reads which window of another application has the keyboard, to give it back later.
+    /// Records which window of another application has the focus, to return it later.
     void remember();
     void rememberOwn(QWindow &window);
-    /// The window of ours from which this one took the keyboard, if it is shown; else null.
+    /// The window of ours from which this one took the focus, if it is still shown; otherwise null.
     [[nodiscard]] QWindow *ownBefore(const QWindow &window) const;
-    /// Gives the keyboard to the other application's window that had it. Does nothing if there is none, or
+    /// Returns the focus to the other application's window that had it. Does nothing if there is none, or if
     /// it is on another workspace, where the user would have to follow.
     void activatePrevious();
     [[nodiscard]] bool isOnThisWorkspace(xcb_window_t window) const;
     [[nodiscard]] quint32 workspaceInUse() const;
     void setActive(bool isActive);
-    /// Whether the window manager has done what `activate` asked for last, or had its time.
+    /// Whether the window manager has done what the last `activate` requested, or has run out of time for it.
     [[nodiscard]] bool isActivationDone() const;
     [[nodiscard]] bool isOwnWindowActive() const;
-    /// Whether a window is active that is neither ours nor the one that had the keyboard before.
+    /// Whether the active window is neither ours nor the one that had the focus before.
     [[nodiscard]] bool hasUserTurnedElsewhere() const;
-    /// The active window, if it is another application's.
+    /// The active window if it belongs to another application.
     [[nodiscard]] std::optional<ForeignWindow> foreignActiveWindow() const;
-    /// Whether a window is still there for the user: shown, minimised or on another desktop.
+    /// Whether a window is still available to the user: shown, minimised or on another workspace.
     [[nodiscard]] bool isOpen(const ForeignWindow &window) const;
 
     X11Connection &m_connection;
     X11Workspace &m_workspace;
     KeyboardHold &m_hold;
     HeldKeyGuard m_heldKeys;
-    /// Runs while another window, or none, is active; only once that lasts has the user turned elsewhere.
+    /// Runs while another window, or none, is active. Only when that lasts has the user turned elsewhere.
     QTimer m_elsewhere;
-    /// Runs from `activate` until the window manager has followed, or will not.
+    /// Runs from `activate` until the window manager has responded or will not.
     QTimer m_activation;
-    /// Another application's window that had the keyboard last. Window managers may give it to ours as
-    /// soon as that is shown, so it has to be known before.
+    /// The window of another application that had the focus last. Window managers may focus ours as soon as
+    /// it is shown, so this must be known beforehand.
     std::optional<ForeignWindow> m_lastForeign;
-    /// The one that had it when ours took it.
+    /// The window that had the focus when ours took it.
     std::optional<ForeignWindow> m_previousWindow;
     QList<Taken> m_taken;
     QPointer<QWindow> m_activatedWindow;
-    /// The window that was to be given the keyboard back last, even if it was closed by then.
+    /// The window that the focus was last to be returned to, even if it was closed by then.
     std::optional<ForeignWindow> m_returnedTo;
     quint32 m_workspaceInUse = 0;
     bool m_isActive = false;

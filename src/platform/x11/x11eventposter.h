@@ -23,13 +23,13 @@ class WindowPing;
 class X11Connection;
 class X11Workspace;
 
-/// Keys by XTEST, which applications cannot tell from the user's.
+/// Sends keys with XTEST, which applications cannot tell from the user's.
 class X11EventPoster final : public QObject, public EventPoster
 {
     Q_OBJECT
 
 public:
-    /// All must outlive it. `hold` is null where nobody holds the user's keys.
+    /// All must outlive this object. `hold` is null if the user's keys are not held.
     struct Needs
     {
         X11Connection &connection;
@@ -46,28 +46,28 @@ public:
     QCoro::Task<bool> post(Command command, Target target, std::function<bool()> isWanted) override;
 
 private:
-    /// By the monotonic clock.
+    /// On the monotonic clock.
     using Instant = std::chrono::microseconds;
     enum class Attempt {
         Posted,
-        /// Something that passes is in the way.
+        /// A temporary obstacle.
         Early,
         Refused,
     };
 
-    /// Waits until no key but modifiers has been down for a while; false if one stays down.
+    /// Waits until no key except modifiers has been down for a while; returns false if one stays down.
     QCoro::Task<bool> waitForLetters(Instant end);
-    /// Whether the window's application takes events.
+    /// Whether the window's application is processing events.
     QCoro::Task<bool> waitForAnswer(WindowPing &ping);
-    /// Role of what has the keyboard in an application; nullopt if that could not be asked.
+    /// The role of the focused element in an application; nullopt if it could not be determined.
     QCoro::Task<std::optional<QString>> focusedRole(qint64 processIdentifier);
     /// Whether the user's keys are held back, and whether there are any yet.
     [[nodiscard]] bool isHolding() const;
     [[nodiscard]] bool keepsPress() const;
     [[nodiscard]] bool hasLetterDown() const;
-    /// Whether a modifier is down with which letters are commands.
+    /// Whether a modifier is down that turns letters into commands.
     [[nodiscard]] bool hasCommandModifierDown() const;
-    /// Whether the server gives the keys to the window or to one inside it.
+    /// Whether the server delivers keys to the window or to one inside it.
     [[nodiscard]] bool hasInputFocus(xcb_window_t window) const;
     [[nodiscard]] Attempt tryToPost(const QList<uint32_t> &keysyms, xcb_window_t window,
                                     xcb_timestamp_t lastPress);
