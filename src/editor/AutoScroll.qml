@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
 
-// Scrolls while the mouse, its button held, is above or below what can be seen. `scrolled` tells where
-// the mouse is, so that what it does goes on.
+// Scrolls while the mouse, with its button held, is above or below the visible part. `scrolled` reports where
+// the mouse is, so that dragging or selecting can continue.
 Item {
     id: root
 
     required property Flickable flickable
-    // How far beyond the edge the mouse is; negative above.
+    // How far the mouse is beyond the edge; negative above.
     readonly property real beyond: {
         const y = press.point.position.y;
         return !press.active ? 0 : y < 0 ? y : Math.max(0, y - root.height);

@@ -4,7 +4,7 @@ import QtQuick
 import Vesk.Components
 import Vesk.Editor
 
-// The menu of a text.
+// A text's context menu.
 Menu {
     id: root
 

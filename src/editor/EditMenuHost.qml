@@ -3,8 +3,7 @@ import QtQuick
 
 import Vesk.Editor
 
-// Shows the menu of a note editor, which is made when it is needed for the first time: most notes are edited
-// without it.
+// Shows the menu of a note editor. The menu is created when first needed: most notes are edited without it.
 Loader {
     id: root
 
@@ -12,7 +11,7 @@ Loader {
     required property TextEdit edit
     readonly property bool isOpen: root.item ? (root.item as EditMenu).isOpen : false
 
-    // At a point of the text item.
+    // `point` is in the text item's coordinates.
     function show(point: point) {
         if (!root.item)
             root.setSource("EditMenu.qml", {

@@ -4,7 +4,7 @@ import QtQuick
 import Vesk.Components
 import Vesk.Editor
 
-// The menu of a text field.
+// A text field's context menu.
 Menu {
     id: root
 

@@ -3,16 +3,16 @@ import QtQuick
 
 import Vesk.Editor
 
-// Shows a text field's menu, which is made anew each time.
+// Shows a text field's menu, which is created each time.
 Loader {
     id: root
 
     required property Item field
-    // True before the menu takes the keyboard from the field, too.
+    // True already before the menu takes the focus from the field.
     readonly property bool isOpen: root.isOpening || (root.item ? (root.item as FieldMenu).isOpen : false)
     property bool isOpening: false
 
-    // At a point of the field.
+    // `point` is in the field's coordinates.
     function show(point: point, isByKey: bool) {
         const transfer = root.field.FieldTransfer;
         root.setSource("FieldMenu.qml", {

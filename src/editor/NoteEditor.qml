@@ -6,32 +6,32 @@ import QtQuick
 import Vesk.Components
 import Vesk.Editor
 
-// Where a note's text is edited: plain text in the notes' markup, shown as what it means. Scrolls when
-// it is less high than its text.
+// Edits a note's text: plain text in the markup of notes, styled according to its meaning. Scrolls when it is
+// not tall enough for its text.
 FocusScope {
     id: root
 
-    // Set by the host to load a text; read back it is the text as edited.
+    // Set by the host to load a text; reading it returns the edited text.
     property alias text: view.text
     property string placeholder: qsTr("Start typing…")
-    // What a screen reader calls the text, and says about its keys.
+    // What a screen reader calls the text, and what it says about its keys.
     property string name: root.placeholder
     property string help: ""
     property real fontSize: 14
     property bool firstLineIsTitle: false
-    // In points, on top of the font's size.
+    // In points, added to the font's size.
     property real titleBoost: 7
     property int titleWeight: Font.Bold
     property alias controller: view.controller
-    // Takes the keyboard when it is shown.
+    // Whether it takes the focus when it is shown.
     property bool autofocus: false
-    // Whether the host wants the key instead of what it does in a text.
+    // Whether the host wants this key instead of its effect in a text.
     property bool takesReturn: false
     property bool takesCommandReturn: false
     property bool takesEmptyItemReturn: false
     property bool takesEscape: false
     property bool takesTabbing: false
-    // What lies under the text.
+    // The background colour.
     property color ground: Theme.background
     readonly property bool hasFocus: edit.activeFocus || menu.isOpen
     readonly property real inset: 4
@@ -49,7 +49,7 @@ FocusScope {
         view.forceFocus();
     }
 
-    // Keeps the caret in sight while there is more text than fits.
+    // Keeps the caret visible when the text does not fit.
     function followCaret() {
         const caret = edit.cursorRectangle;
         const top = caret.y + edit.y;
@@ -59,7 +59,7 @@ FocusScope {
             flickable.contentY = top + caret.height + root.inset - flickable.height;
     }
 
-    // The mouse goes on with what it does while it has the text scrolled.
+    // Continues what the mouse is doing after it has scrolled the text.
     function followMouse(point: point) {
         const position = edit.positionAt(point.x, point.y + flickable.contentY - edit.y);
         if (view.dropPosition >= 0)
@@ -124,7 +124,7 @@ FocusScope {
             height: Math.max(implicitHeight, flickable.height - 2 * root.inset)
             focus: true
             wrapMode: TextEdit.Wrap
-            // Room for the caret of a line that begins at the right.
+            // Room for the caret of a right-to-left line.
             rightPadding: 2
             textFormat: TextEdit.PlainText
             font.family: Theme.fonts.field.family
@@ -164,7 +164,7 @@ FocusScope {
                 Accessible.ignored: true
             }
 
-            // Where a dragged text would be put.
+            // Where a dragged text would be inserted.
             Rectangle {
                 readonly property rect place: edit.positionToRectangle(Math.max(0, view.dropPosition))
 
@@ -186,7 +186,7 @@ FocusScope {
                 onPositionChanged: drag => view.dropPosition = edit.positionAt(drag.x, drag.y)
                 onExited: view.dropPosition = -1
                 onDropped: drop => {
-                    // Not the text of the event: that would wait for the program that it comes from.
+                    // Do not use the event's text: that would wait for the source program.
                     view.drop();
                     drop.accept(Qt.CopyAction);
                 }

@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// Where in a long text the view is. Beside the text, in the host's margin.
+// Shows the scroll position in a long text, in the host's margin beside it.
 Rectangle {
     id: root
 

@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// A checkbox of a text: its picture, and what a screen reader knows of it. Clicks are the text's.
+// A checkbox in a text: its picture, and what a screen reader knows about it. The text handles clicks.
 BoxMark {
     id: root
 

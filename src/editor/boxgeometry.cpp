@@ -16,12 +16,12 @@ namespace vesk::boxgeometry {
 namespace {
 
 constexpr qreal kSize = 17;
-/// Beside and above the glyph a click still counts.
+/// How far beside and above the glyph a click still counts.
 constexpr qreal kBeside = 4;
 constexpr qreal kAbove = 3;
 
-/// The last paragraph that begins at this height or above, else the first. Asked of the layout's own
-/// search, a long text would be gone through paragraph by paragraph.
+/// The last paragraph that begins at or above this height, otherwise the first. A binary search: the layout's
+/// own search would scan a long text paragraph by paragraph.
 QTextBlock blockAt(const NoteText &text, qreal y)
 {
     const QTextDocument &document = text.document();
@@ -49,7 +49,7 @@ QRectF glyphRectangle(const QTextBlock &block)
 {
     const QTextLine line = block.layout()->lineAt(0);
     const QPointF origin = block.layout()->position();
-    // The glyph's first edge is its right one where the paragraph is read from right to left.
+    // In a right-to-left paragraph the glyph's leading edge is its right one.
     const qreal first = line.cursorToX(0);
     const qreal second = line.cursorToX(0, QTextLine::Trailing);
     return {origin.x() + std::min(first, second), origin.y() + line.y(), std::abs(second - first),
@@ -60,7 +60,7 @@ Box box(const NoteText &text, const QTextBlock &block, qreal size)
 {
     const QRectF glyph = glyphRectangle(block);
     const QStringView line = text.line(block);
-    // Near the paragraph's edge; what remains of the glyph's width keeps the text away.
+    // Close to the paragraph's edge; the rest of the glyph's width is the distance to the text.
     const qreal left = isRightToLeft(block) ? glyph.right() - 1 - size : glyph.x() + 1;
     return {.position = block.position(),
             .square = QRectF(left, glyph.y() + (glyph.height() - size) / 2, size, size),

@@ -14,12 +14,12 @@ class NoteText;
 /// A checkbox at the start of a line.
 struct Box
 {
-    /// Of its glyph in the text, in UTF-16 units.
+    /// The position of its glyph in the text, in UTF-16 units.
     qsizetype position = 0;
     /// Where the circle is drawn, in the document's coordinates.
     QRectF square;
     bool isTicked = false;
-    /// What the line says after its box.
+    /// The line's text after its checkbox.
     QString label;
 
     friend bool operator==(const Box &, const Box &) = default;
@@ -27,10 +27,10 @@ struct Box
 
 namespace boxgeometry {
 
-/// The boxes of the lines between two heights of the document, in order, as large as texts of this scale
-/// want them. The layout has to be done.
+/// The checkboxes of the lines between two heights of the document, in order, sized for this text scale. The
+/// layout must be up to date.
 [[nodiscard]] QList<Box> boxesBetween(const NoteText &text, qreal top, qreal bottom, qreal scale);
-/// Position of the box that a click at this point of the document is meant for.
+/// The position of the checkbox that a click at this point of the document is meant for.
 [[nodiscard]] std::optional<qsizetype> findBox(const NoteText &text, const QPointF &point);
 
 } // namespace boxgeometry

@@ -5,7 +5,7 @@
 
 namespace vesk {
 
-/// A text that an item shows and lets the user edit. Positions are UTF-16 units.
+/// A text that an item displays and lets the user edit. Positions are in UTF-16 units.
 class EditedText
 {
 public:
@@ -13,9 +13,9 @@ public:
     virtual ~EditedText() = default;
     Q_DISABLE_COPY_MOVE(EditedText)
 
-    /// Without what an input method is composing.
+    /// Excludes text that an input method is still composing.
     [[nodiscard]] virtual const QString &text() const = 0;
-    /// Puts `text` in place of `length` units at `position`.
+    /// Replaces `length` units at `position` with `text`.
     virtual void replace(qsizetype position, qsizetype length, const QString &text) = 0;
 };
 

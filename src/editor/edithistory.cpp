@@ -25,7 +25,7 @@ bool isInsertedAfter(const Splice &change, const Splice &last)
     return change.removed.isEmpty() && !last.inserted.isEmpty() && change.position == endOf(last);
 }
 
-/// Some programs send the halves of a surrogate pair one by one.
+/// Some programs send the halves of a surrogate pair separately.
 bool completesCharacter(const Splice &change, const Splice &last)
 {
     return isInsertedAfter(change, last) && last.inserted.back().isHighSurrogate()
@@ -39,8 +39,8 @@ bool isRemovedBeside(const Splice &change, const Splice &last)
            && (isBackwards || change.position == last.position);
 }
 
-/// Whether a text takes the place of what was selected when its composition began, and maybe, as a marker
-/// does, of what stood before that.
+/// Whether a text replaces what was selected when its composition began and perhaps, as a marker does, text
+/// before that.
 bool replacesRemoved(const Splice &change, const Splice &last)
 {
     return last.inserted.isEmpty() && change.position + change.removed.size() == last.position;
@@ -58,7 +58,7 @@ void EditHistory::record(const Step &step, Kind kind, quint64 time)
     const Splice &last = m_steps.constLast().change;
     m_open.reset();
     if (last.removed == last.inserted)
-        m_steps.removeLast(); // What was selected was written again.
+        m_steps.removeLast(); // The same text that was selected has been written again.
     else if (kind == Kind::Typing || (kind == Kind::Composing && last.inserted.isEmpty()))
         m_open = kind;
     m_done = m_steps.size();

@@ -30,7 +30,7 @@ Selection EditItem::selection() const
 
 void EditItem::select(const Selection &selection) const
 {
-    // Also where the item says that it is so: what it says can be older than the last change.
+    // Do not check the item's selection first: it may be older than the last change.
     QMetaObject::invokeMethod(m_item, "select", Q_ARG(int, static_cast<int>(selection.anchor)),
                               Q_ARG(int, static_cast<int>(selection.caret)));
 }
@@ -60,13 +60,12 @@ void EditItem::endComposing() const
 {
     if (!isComposing())
         return;
-    // The toolkit asks on behalf of whatever has the keyboard, and has done so already for an item that has
-    // lost it.
+    // The toolkit asks for whatever item has the focus, and has already asked for an item that has lost it.
     if (m_item->hasActiveFocus())
         QGuiApplication::inputMethod()->commit();
     if (!isComposing())
         return;
-    // The input method does not know of it, or has gone.
+    // The input method does not know about this composition, or is gone.
     QInputMethodEvent commit;
     commit.setCommitString(m_item->property("preeditText").toString());
     QCoreApplication::sendEvent(m_item, &commit);

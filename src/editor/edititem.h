@@ -11,7 +11,7 @@ class QTextDocument;
 
 namespace vesk {
 
-/// The toolkit's text editing item, whose class is not public, by its properties.
+/// The toolkit's text editing item, accessed through its properties because its class is private.
 class EditItem final
 {
 public:
@@ -22,18 +22,18 @@ public:
     }
 
     [[nodiscard]] QQuickItem *item() const { return m_item; }
-    /// Null for an item of a single line.
+    /// Null for a single-line item.
     [[nodiscard]] QTextDocument *document() const;
-    /// While the text is changing the ends of the selection can be those of before, but not the caret.
+    /// While the text is changing, the ends of the selection may be outdated, but not the caret.
     [[nodiscard]] Selection selection() const;
     [[nodiscard]] qsizetype caret() const;
     void select(const Selection &selection) const;
-    /// The position nearest to a point of the item, and the place of a position.
+    /// The position nearest to a point of the item, and the rectangle of a position.
     [[nodiscard]] qsizetype positionAt(const QPointF &point) const;
     [[nodiscard]] QRectF rectangleOf(qsizetype position) const;
     /// Whether an input method is composing a text in it.
     [[nodiscard]] bool isComposing() const;
-    /// Writes what is being composed into the text, where the input method does not do so when it is asked.
+    /// Commits the composed text if the input method does not do so when asked.
     void endComposing() const;
 
 private:

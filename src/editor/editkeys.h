@@ -9,18 +9,18 @@ class EditSteps;
 class EditedText;
 } // namespace vesk
 
-/// The keys that do the same in note editors and in text fields. The locks and the number pad do not count.
+/// The keys that do the same in note editors and in text fields. Locks and the keypad modifier are ignored.
 namespace vesk::editkeys {
 
-/// Whether the key writes a character. Joiners and marks of direction are not printed, but are typed.
+/// Whether the key writes a character. Joiners and direction marks are not printable, but can be typed.
 [[nodiscard]] bool isCharacter(const QKeyEvent &event);
-/// Some desktops, and terminals, paste plain text by Control-Shift-V.
+/// Some desktops and terminals paste plain text with Control-Shift-V.
 [[nodiscard]] bool isPaste(const QKeyEvent &event);
 [[nodiscard]] bool isRedo(const QKeyEvent &event);
 
-/// To be asked of each key first. An input method lets through what it has no use for: a character follows
-/// what was composed so far, so composing ends. Returns true for any other key, which is to be dropped, as it
-/// would tear apart what is composed.
+/// Must be called first for each key. An input method passes on keys that it does not use: a character
+/// follows the composed text, so composing ends. Returns true for any other key, which must be dropped
+/// because it would tear the composed text apart.
 [[nodiscard]] bool isLostInComposing(const QKeyEvent &event, const EditItem &edit);
 
 /// Undoes, redoes or erases. Ends the current step at a key that does not type. Returns false if the key is

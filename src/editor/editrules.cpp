@@ -7,7 +7,7 @@ namespace vesk::editrules {
 
 namespace {
 
-/// The first of the markers that the line begins with; empty for none.
+/// The first of the markers that the line begins with; empty if there is none.
 template <typename... Markers>
 QStringView markerOf(QStringView line, Markers... markers)
 {
@@ -20,7 +20,7 @@ QStringView markerOf(QStringView line, Markers... markers)
 
 QStringView withoutReturns(QStringView line)
 {
-    // Lines of other systems end in a carriage return, which is no content.
+    // Lines from other systems end in a carriage return, which does not count as content.
     while (line.endsWith(u'\r'))
         line.chop(1);
     return line;

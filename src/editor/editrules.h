@@ -9,26 +9,26 @@
 
 namespace vesk::editrules {
 
-/// What ends a line in the editor: the line feed and its Unicode kin. A carriage return is a part of
-/// its line, as in the rest of the markup.
+/// Whether the character ends a line in the editor: the line feed and its Unicode relatives. As in the rest
+/// of the markup, a carriage return is part of its line.
 [[nodiscard]] bool isLineBreak(QChar character);
 
 /// Whether a position is between the two halves of a surrogate pair.
 [[nodiscard]] bool isInsidePair(QStringView text, qsizetype position);
 
-/// What an input method replaces, counted from the caret.
+/// What an input method replaces, relative to the caret.
 struct Replacement
 {
     int start = 0;
     int length = 0;
 };
-/// Input methods that count characters, not UTF-16 units, ask for half an emoji to be replaced. Returns what
-/// is to be replaced so that nothing is left of a character; nullopt if `asked` cuts none. The item removes
-/// what is selected first, and counts from there.
+/// Input methods that count characters rather than UTF-16 units may ask to replace half an emoji. Returns a
+/// range that includes whole characters; nullopt if `asked` does not split any. The item removes the
+/// selection first, and counts from there.
 [[nodiscard]] std::optional<Replacement> wholeCharacters(QString text, const Selection &selected,
                                                          Replacement asked);
 
-/// Makes of the first `length` characters of a line the `marker`, which is empty to remove them.
+/// Replaces the first `length` characters of the line with `marker`. An empty marker removes them.
 struct MarkerChange
 {
     qsizetype length = 0;
@@ -37,18 +37,19 @@ struct MarkerChange
     friend bool operator==(const MarkerChange &, const MarkerChange &) = default;
 };
 
-/// What a typed space makes of the line that is `before` the caret; none where it is just a space.
+/// What a typed space does to a line whose text up to the caret is `before`; nullopt if it is an ordinary
+/// space.
 [[nodiscard]] std::optional<MarkerChange> typedSpace(QStringView before);
 
-/// What a line break typed in a line does.
+/// What a typed line break does in a line.
 struct LineBreak
 {
     enum class Kind {
         /// A line feed and nothing else.
         Plain,
-        /// The item has nothing but `marker`, which goes: the list ends here.
+        /// The item contains only `marker`, which is removed: the list ends here.
         EmptyItem,
-        /// A line feed, and `marker` for the next item.
+        /// A line feed, then `marker` for the next item.
         NextItem,
     };
     Kind kind = Kind::Plain;
@@ -58,12 +59,12 @@ struct LineBreak
 };
 [[nodiscard]] LineBreak typedLineBreak(QStringView line);
 
-/// What a command for `marker` does to a line: gives it the marker in place of another, or takes it away.
+/// What a command for `marker` does to a line: adds the marker, replacing any other, or removes it.
 [[nodiscard]] MarkerChange toggledPrefix(QStringView line, QStringView marker);
 
-/// Whether the line begins with a box, ticked or not, and whatever follows.
+/// Whether the line begins with a checkbox, ticked or not.
 [[nodiscard]] bool startsWithBox(QStringView line);
-/// The box that a click makes of this one.
+/// The checkbox that a click turns this one into.
 [[nodiscard]] QStringView toggledBox(QChar box);
 
 } // namespace vesk::editrules

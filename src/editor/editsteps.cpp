@@ -10,8 +10,8 @@ namespace vesk {
 
 namespace {
 
-/// The same change as one that ends at the caret, where the text allows it. An "a" that an input method
-/// commits before another one is reported as if it had come after that.
+/// The same change expressed as one that ends at the caret, if the text allows that. For example, an "a" that
+/// an input method commits before another "a" is reported as if it had come after it.
 Splice endingAt(qsizetype caret, const Splice &change, const QString &text)
 {
     const qsizetype length = change.inserted.size();

@@ -10,35 +10,34 @@ namespace vesk {
 class EditItem;
 class EditedText;
 
-/// Changes a text step by step, and undoes the steps. What the item changes by itself, as the user types, is
-/// recorded too.
+/// Changes a text in steps, and undoes them. Also records what the item changes itself as the user types.
 class EditSteps final
 {
 public:
-    /// Both must outlive this.
+    /// Both must outlive this object.
     EditSteps(const EditItem &edit, EditedText &text);
 
-    /// Changes the text as one step to take back.
+    /// Makes a change that is undone as one step.
     void edit(qsizetype position, qsizetype length, const QString &text, const Selection &after);
-    /// Removes a text as typing does: what is erased key by key is one step.
+    /// Removes text as typing does: consecutive erasing is one step.
     void erase(qsizetype position, qsizetype length);
-    /// Puts a text in place of the selection; an empty one changes nothing.
+    /// Replaces the selection; does nothing if `text` is empty.
     void replaceSelection(const QString &text);
-    // Neither does anything while an input method is composing.
+    // Both do nothing while an input method is composing.
     void undo();
     void redo();
     [[nodiscard]] bool canUndo() const { return m_history.canUndo(); }
     [[nodiscard]] bool canRedo() const { return m_history.canRedo(); }
 
-    // To be called before the item sees what may change the text: a key, with its time in milliseconds, or
-    // the event of an input method.
+    // Must be called before the item sees an event that may change the text: a key, with its time in
+    // milliseconds, or an input method event.
     void beforeKey(quint64 time);
     void beforeInputMethod();
-    /// To be called after each change, whoever made it.
+    /// Must be called after each change, whoever made it.
     void record(const Splice &change);
-    /// The next change begins a step, whatever it is.
+    /// The next change begins a new step, whatever it is.
     void endStep() { m_history.endStep(); }
-    /// Another text was loaded: nothing is left to take back.
+    /// Another text was loaded: there is nothing left to undo.
     void clear() { m_history.clear(); }
 
 private:
@@ -47,8 +46,8 @@ private:
     const EditItem &m_edit;
     EditedText &m_text;
     EditHistory m_history;
-    /// What the next change starts from, how it joins the last one, and what it leaves selected if that
-    /// is not up to the item.
+    /// The selection before the next change, how that change joins the last step, and the selection that it
+    /// leaves if the item does not decide that.
     Selection m_before;
     EditHistory::Kind m_kind = EditHistory::Kind::Typing;
     std::optional<Selection> m_after;

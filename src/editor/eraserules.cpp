@@ -17,7 +17,7 @@ struct CloseBreaks
 };
 using Breaks = std::unique_ptr<UBreakIterator, CloseBreaks>;
 
-/// The boundaries of the text's grapheme clusters. Null if ICU has no data for them.
+/// The grapheme cluster boundaries of the text. Null if ICU has no data for them.
 Breaks graphemes(QStringView text)
 {
     UErrorCode error = U_ZERO_ERROR;

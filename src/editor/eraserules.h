@@ -17,9 +17,9 @@
 ///   Hangul jamo can be corrected without its base.
 namespace vesk::eraserules {
 
-/// Where the text begins that Backspace removes at `caret`. Equal to `caret` at the start of the text.
+/// The start of the text that Backspace removes at `caret`. Equal to `caret` at the start of the text.
 [[nodiscard]] qsizetype backspaceStart(QStringView text, qsizetype caret);
-/// Where the text ends that Delete removes at `caret`. Equal to `caret` at the end of the text.
+/// The end of the text that Delete removes at `caret`. Equal to `caret` at the end of the text.
 [[nodiscard]] qsizetype deleteEnd(QStringView text, qsizetype caret);
 
 } // namespace vesk::eraserules

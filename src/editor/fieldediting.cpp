@@ -43,7 +43,7 @@ bool FieldEditing::isReadOnly() const
 
 bool FieldEditing::handleShortcut(QKeyEvent &event) const
 {
-    // What is accepted here comes as a key press instead of triggering a shortcut of the window.
+    // A key that is accepted here arrives as a key press instead of triggering a shortcut of the window.
     const bool isOurs = !isReadOnly() && (m_edit.isComposing() || editkeys::isRedo(event));
     if (isOurs)
         event.accept();

@@ -15,22 +15,22 @@ class QKeyEvent;
 
 namespace vesk {
 
-/// Has a text field erase and undo as note editors do, and gives each paragraph of it its own direction.
-/// Owned by its item. `FieldGuard` shows it the events before the item sees them.
+/// Makes a text field erase and undo like note editors, and gives each of its paragraphs its own direction.
+/// Owned by its item. `FieldGuard` passes it the events before the item sees them.
 class FieldEditing final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What belongs to this item; made at the first call.
+    /// The object that belongs to this item, created on the first call.
     [[nodiscard]] static FieldEditing &of(QQuickItem &item);
 
-    // True if the event was dealt with here, false if it is for the item.
+    // Returns true if the event was handled here, false if it is for the item.
     bool handleShortcut(QKeyEvent &event) const;
     bool handleKey(QKeyEvent &event);
     bool handleInputMethod(const QInputMethodEvent &event);
 
-    /// The changes made by these are undone like all others.
+    /// Changes made through these are undone like all others.
     [[nodiscard]] EditSteps &steps() { return m_steps; }
 
 private:

@@ -42,7 +42,7 @@ bool handleMouse(FieldTransfer &transfer, QMouseEvent &mouse)
     return true;
 }
 
-/// The item sees what ends the selecting after this.
+/// Later, because the item sees the event that ends the selecting only after this.
 void publishLater(FieldTransfer &transfer)
 {
     QMetaObject::invokeMethod(&transfer, &FieldTransfer::publishSelection, Qt::QueuedConnection);

@@ -10,8 +10,8 @@ class QQuickItem;
 namespace vesk {
 
 /// Watches all text items of a QML engine except note editors. None of them uses the toolkit's own clipboard:
-/// keys and clicks that copy, cut and paste go to `FieldTransfer`, whichever item they are for. The other
-/// keys, and input methods, go to `FieldEditing`. Owned by the engine.
+/// keys and clicks that copy, cut and paste go to `FieldTransfer`, whichever item they are for. Other keys,
+/// and input methods, go to `FieldEditing`. Owned by the engine.
 class FieldGuard final : public QObject
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ class FieldGuard final : public QObject
 public:
     explicit FieldGuard(QQmlEngine &engine);
 
-    /// Leaves an item to whoever copies and pastes for it, as note editors do.
+    /// Excludes an item that something else copies and pastes for, such as a note editor.
     static void leaveAlone(QQuickItem &item);
 
 protected:

@@ -14,7 +14,7 @@ FieldText::FieldText(const EditItem &edit)
     : m_edit(edit)
     , m_text(shown())
 {
-    // The second of these, where the item has it, comes first, and not when the program sets the text.
+    // If the item has the second signal, it is emitted first, and not when the program sets the text.
     connect(edit.item(), SIGNAL(textChanged()), this, SLOT(onTextChanged()));
     if (!edit.document())
         connect(edit.item(), SIGNAL(textEdited()), this, SLOT(onEdited()));
@@ -22,7 +22,7 @@ FieldText::FieldText(const EditItem &edit)
 
 QString FieldText::shown() const
 {
-    // As its text the item of several lines gives ordinary spaces for those that do not break.
+    // The multi-line item's text property has ordinary spaces instead of no-break spaces.
     if (const QTextDocument *document = m_edit.document())
         return document->toRawText().replace(QChar::ParagraphSeparator, u'\n');
     return m_edit.item()->property("text").toString();
@@ -60,8 +60,8 @@ void FieldText::onTextChanged()
 {
     if (m_isReplacing)
         return;
-    // An item of several lines does not say who has changed its text, but forgets its own steps when it is
-    // set.
+    // A multi-line item does not report who changed its text, but discards its own undo steps when the text
+    // is set.
     if (m_edit.document() && m_edit.item()->property("canUndo").toBool())
         onEdited();
     else if (!follow().isEmpty())

@@ -9,13 +9,13 @@
 
 namespace vesk {
 
-/// The text of a text field. Follows what the toolkit's item makes of it.
+/// The text of a text field. Follows the toolkit's item.
 class FieldText final : public QObject, public EditedText
 {
     Q_OBJECT
 
 public:
-    /// The item must outlive this.
+    /// The item must outlive this object.
     explicit FieldText(const EditItem &edit);
 
     [[nodiscard]] const QString &text() const override { return m_text; }
@@ -24,7 +24,7 @@ public:
 Q_SIGNALS:
     /// The user, or `replace`, has changed the text.
     void changed(const vesk::Splice &change);
-    /// The program has set another text.
+    /// The program has set a different text.
     void loaded();
 
 private Q_SLOTS:
@@ -33,7 +33,7 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] QString shown() const;
-    /// Takes over the text that is shown. Returns how it differs from the one before.
+    /// Takes over the displayed text. Returns how it differs from the previous one.
     Splice follow();
 
     EditItem m_edit;

@@ -31,7 +31,7 @@ QString asOneLine(QString text)
     return text.remove(kAtTheEnds).replace(kWithin, u" "_s);
 }
 
-/// The line breaks of other systems as the item would write them anyway.
+/// Converts the line breaks of other systems, as the item itself would.
 QString withOwnLineBreaks(QString text)
 {
     return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').replace(QChar::ParagraphSeparator, u'\n');
@@ -47,7 +47,7 @@ FieldTransfer *FieldTransfer::qmlAttachedProperties(QObject *item)
 
 FieldTransfer &FieldTransfer::of(QQuickItem &item)
 {
-    // Not by QML, which knows attached types of imported modules only.
+    // Not with qmlAttachedPropertiesObject, which only knows attached types of imported modules.
     if (auto *known = item.findChild<FieldTransfer *>(QString(), Qt::FindDirectChildrenOnly))
         return *known;
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the item owns it.
@@ -77,7 +77,7 @@ QString FieldTransfer::selectedText() const
     QTextDocument *document = m_edit.document();
     if (!document)
         return item().property("selectedText").toString();
-    // The item itself would make ordinary spaces of those that do not break.
+    // The item itself would replace no-break spaces with ordinary ones.
     QTextCursor cursor(document);
     cursor.setPosition(static_cast<int>(m_edit.selection().start()));
     cursor.setPosition(static_cast<int>(m_edit.selection().end()), QTextCursor::KeepAnchor);
@@ -139,7 +139,7 @@ void FieldTransfer::pasteSelected(const QPointF &point)
         return;
     m_edit.endComposing();
     item().forceActiveFocus(Qt::MouseFocusReason);
-    // A single line cannot be asked for this from C++.
+    // A single-line item does not offer this in C++.
     QQmlExpression position(qmlContext(&item()), &item(),
                             u"positionAt(%1, %2)"_s.arg(point.x()).arg(point.y()));
     const int clicked = position.evaluate().toInt();
@@ -150,7 +150,7 @@ void FieldTransfer::pasteSelected(const QPointF &point)
 void FieldTransfer::publishSelection()
 {
     LentPasteboards *pasteboards = lent();
-    // Only a selection that was made just now: another program may have selected something since.
+    // Only publish a new selection: another program may have selected something since.
     if (!m_isSelectionNew || !pasteboards || !pasteboards->primary() || m_edit.selection().isEmpty())
         return;
     m_isSelectionNew = false;
@@ -165,9 +165,9 @@ EditSteps &FieldTransfer::steps() const
 QCoro::Task<> FieldTransfer::insertFrom(Pasteboard &pasteboard, Selection place)
 {
     const QPointer<FieldTransfer> self(this);
-    // Sends on what it holds when this ends, after the text.
+    // Sends the held input on when it is destroyed, after the text was inserted.
     HeldInput held(item());
-    // The item's child, so that it goes with it.
+    // A child of the item, so that it is destroyed with it.
     const QPointer<TrackedSpan> span = new TrackedSpan(item(), place.start(), place.end());
     span->setParent(this);
     const std::optional<QString> text = co_await pasteboard.string(Pasteboard::Patience::Long);
@@ -182,8 +182,8 @@ QCoro::Task<> FieldTransfer::insertFrom(Pasteboard &pasteboard, Selection place)
     const QString pasted = m_edit.document() ? withOwnLineBreaks(*text) : asOneLine(*text);
     const qsizetype length = now.length();
     Selection after = m_edit.selection();
-    // Where the user has put the caret meanwhile, it stays. What is held back was typed here before the
-    // keyboard moved on, and follows the text.
+    // If the user has moved the caret meanwhile, it stays there. The held input was typed here before the
+    // focus moved on, and follows the text.
     if (item().hasActiveFocus())
         after = {.anchor = moved(after.anchor, now.start(), length, pasted.size()),
                  .caret = moved(after.caret, now.start(), length, pasted.size())};

@@ -15,10 +15,10 @@ class EditSteps;
 class LentPasteboards;
 class Pasteboard;
 
-/// Copies from and pastes into one of the toolkit's text items by the pasteboards that were lent to its
-/// engine; attached to the item. The toolkit's own copying and pasting waits for whoever owns the
-/// clipboard, for seconds if that program hangs. `FieldGuard` calls this for keys and the mouse, menus
-/// call it themselves. Without pasteboards nothing is copied, cut or pasted.
+/// Copies from and pastes into one of the toolkit's text items, using the pasteboards that were lent to its
+/// engine; attached to the item. The toolkit's own copying and pasting waits for the clipboard's owner, for
+/// seconds if that program hangs. `FieldGuard` calls this for keys and the mouse; menus call it themselves.
+/// Without pasteboards nothing is copied, cut or pasted.
 class FieldTransfer : public QObject
 {
     Q_OBJECT
@@ -28,26 +28,26 @@ class FieldTransfer : public QObject
 
 public:
     static FieldTransfer *qmlAttachedProperties(QObject *item);
-    /// What belongs to this item; made at the first call.
+    /// The object that belongs to this item, created on the first call.
     [[nodiscard]] static FieldTransfer &of(QQuickItem &item);
 
     Q_INVOKABLE void copy();
     Q_INVOKABLE void cut();
-    /// Puts the pasteboard's text in place of the selection. What is typed meanwhile comes after it. The
-    /// text goes where it was asked for, even if the keyboard has moved on by the time it comes.
+    /// Replaces the selection with the pasteboard's text. What is typed meanwhile follows it. The text goes
+    /// to where it was requested, even if the focus has moved on by the time it arrives.
     Q_INVOKABLE void paste();
-    /// Deletes what is selected.
+    /// Deletes the selection.
     Q_INVOKABLE void removeSelection();
     Q_INVOKABLE void selectAll();
-    /// Writes a text in place of what is selected.
+    /// Replaces the selection with a text.
     Q_INVOKABLE void replaceSelection(const QString &text);
     [[nodiscard]] Q_INVOKABLE bool hasSelection() const { return !m_edit.selection().isEmpty(); }
     [[nodiscard]] Q_INVOKABLE bool hasText() const;
-    /// Puts what was last selected, anywhere, at a point of the item.
+    /// Inserts what was last selected in any program at a point of the item.
     void pasteSelected(const QPointF &point);
-    /// Offers a new selection for the middle mouse button, here and elsewhere.
+    /// Offers a new selection to the middle mouse button, here and in other programs.
     void publishSelection();
-    /// Writes what an input method is composing into the text.
+    /// Commits what an input method is composing.
     void endComposing() { m_edit.endComposing(); }
 
     [[nodiscard]] bool isReadOnly() const;

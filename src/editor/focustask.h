@@ -8,23 +8,23 @@ class QQuickItem;
 
 namespace vesk {
 
-/// Waits for the moment at which an item can take the keyboard: until it has a window, for 0.2 s at
-/// most; then for 60 ms; then until that window is active, for 0.3 s at most. Owned by the item's view.
+/// Waits until an item can take the focus: for at most 0.2 s until it has a window, then for 60 ms, then for
+/// at most 0.3 s until that window is active. Owned by the item's view.
 class FocusTask final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The item has to outlive the task.
+    /// The item must outlive the task.
     explicit FocusTask(const QQuickItem &item, QObject *parent = nullptr);
 
-    /// Begins to wait, anew if it waits already.
+    /// Starts waiting, or restarts if it is already waiting.
     void start();
-    /// Ends the wait at once; whether there was one.
+    /// Ends the wait at once; returns whether there was one.
     bool finish();
 
 Q_SIGNALS:
-    /// The wait is over, once for each start; the item may still be without a window.
+    /// The wait is over. Emitted once for each start; the item may still have no window.
     void ended();
 
 private:

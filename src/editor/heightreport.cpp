@@ -7,7 +7,7 @@ namespace vesk {
 
 namespace {
 
-/// Below this the text has no real width yet.
+/// Below this the text does not have its real width yet.
 constexpr qreal kLeastWidth = 20;
 constexpr qreal kLeastChange = 0.5;
 

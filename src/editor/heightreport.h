@@ -6,8 +6,8 @@
 
 namespace vesk {
 
-/// Tells a host how high an editor's content is: after the layout that changed it, and only for a
-/// change that can be seen.
+/// Reports the height of an editor's content to its host: after the layout that changed it, and only if the
+/// change is visible.
 class HeightReport : public QObject
 {
     Q_OBJECT

@@ -17,7 +17,7 @@ HeldInput::~HeldInput()
 {
     qApp->removeEventFilter(this);
     for (const std::unique_ptr<QEvent> &event : m_events) {
-        // Each one may close the window or move the keyboard.
+        // Each event may close the window or move the focus.
         if (m_item.isNull())
             break;
         QQuickWindow *window = m_item->window();
@@ -51,7 +51,7 @@ bool HeldInput::isMeantForItem(const QObject *watched, const QEvent &event) cons
     switch (event.type()) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-        // At the window, which may have a use of its own for the key.
+        // Filter at the window, which may have its own use for the key.
         return !m_item.isNull() && watched == m_item->window() && m_item->hasActiveFocus();
     case QEvent::InputMethod:
         return watched == m_item;

@@ -12,21 +12,21 @@ class QEvent;
 
 namespace vesk {
 
-/// Holds back what the user types into a text item while something that was asked for before is still
-/// on its way there, so that both arrive in the order in which they were asked for. Owned by whoever
-/// waits, and only for as long as the wait.
+/// Holds back what the user types into a text item while something requested earlier is still on its way
+/// there, so that both arrive in the order in which they were requested. Owned by the code that waits, and
+/// only for the duration of the wait.
 class HeldInput final : public QObject
 {
     Q_OBJECT
 
 public:
     explicit HeldInput(QQuickItem &item);
-    /// Sends on what was held back: through the window while the item still has the keyboard, otherwise
-    /// to the item itself. If the item is gone, so is what was typed into it.
+    /// Sends on what was held back: through the window if the item still has the focus, otherwise to the item
+    /// itself. If the item is gone, its input is dropped.
     ~HeldInput() override;
 
-    /// Drops the keys among those held back that would paste again. For when there was no answer: the user
-    /// would wait once more for each of them.
+    /// Drops the held keys that would paste again. Use this when there was no answer: the user would have to
+    /// wait again for each of them.
     void dropPastes();
 
 protected:

@@ -17,7 +17,7 @@ void addBoldSpans(QList<StyledPart> &parts, QStringView line)
         const qsizetype open = line.indexOf(markup::kBold, from);
         if (open < 0)
             return;
-        // There is at least one character between the marks, so of five asterisks the third is bold.
+        // The marks enclose at least one character, so of five asterisks the third is bold.
         const qsizetype close = line.indexOf(markup::kBold, open + mark + 1);
         if (close < 0)
             return;

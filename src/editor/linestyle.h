@@ -6,14 +6,14 @@
 
 namespace vesk {
 
-/// How a part of a line is shown where it is not plain text.
+/// How a part of a line is shown if it is not plain text.
 enum class TextStyle {
     Title,
     Heading,
     HeadingMarker,
     Bullet,
     TitleBullet,
-    /// A glyph that is not seen: it keeps the room for the circle that is drawn there.
+    /// An invisible glyph that reserves the space for the circle drawn there.
     Box,
     Done,
     Bold,
@@ -21,8 +21,8 @@ enum class TextStyle {
 };
 inline constexpr int kTextStyles = 9;
 
-/// A part of a line, in UTF-16 units from its start. Where parts overlap, the later one adds to or
-/// overrides the earlier one.
+/// A part of a line, in UTF-16 units from its start. Where parts overlap, the later one adds to or overrides
+/// the earlier one.
 struct StyledPart
 {
     qsizetype start = 0;
@@ -32,10 +32,10 @@ struct StyledPart
     friend bool operator==(const StyledPart &, const StyledPart &) = default;
 };
 
-/// The parts of a line that are not plain. `line` comes without its line break.
+/// The parts of a line that are not plain. `line` must not include its line break.
 [[nodiscard]] QList<StyledPart> styledParts(QStringView line, bool isTitle);
 
-/// Whether a line can be the title: whether there is anything but white space in it.
+/// Whether a line can be the title: whether it contains anything but white space.
 [[nodiscard]] bool hasContent(QStringView line);
 
 } // namespace vesk

@@ -9,8 +9,8 @@ namespace vesk {
 
 class NoteTextView;
 
-/// A host's handle on the live text of an editor, for its menus. The host owns it, and the editor that
-/// it is given to points it at its own text. Without a living editor every operation does nothing.
+/// A host's handle on the live text of an editor, for its menus. Owned by the host, which passes it to the
+/// editor; the editor points it at its text. Without a live editor every operation does nothing.
 class NoteEditorController : public QObject
 {
     Q_OBJECT
@@ -19,20 +19,19 @@ class NoteEditorController : public QObject
 public:
     explicit NoteEditorController(QObject *parent = nullptr);
 
-    /// Null when no editor is alive.
+    /// Null if there is no live editor.
     [[nodiscard]] NoteTextView *textView() const;
     void setTextView(NoteTextView *textView);
 
-    /// Gives the line at the start of the selection this marker (with its space), or takes it away.
+    /// Adds this marker (including its space) to the line at the start of the selection, or removes it.
     void toggleLinePrefix(const QString &marker);
     void moveCaretToEnd();
-    /// Gives the text the keyboard.
+    /// Gives the text the focus.
     void forceFocus();
-    /// Writes what an input method is composing into the text. To be called before the text is saved or its
-    /// editor goes.
+    /// Commits what an input method is composing. Call this before the text is saved or its editor closes.
     void finishComposing();
-    /// Gives the text the keyboard now if it waits for it, as it does when it has just come up; whether it
-    /// did.
+    /// Gives the text the focus now if it is waiting for it, as it does right after it is shown; returns
+    /// whether it did.
     bool focusIfAwaited();
 
 private:

@@ -16,7 +16,7 @@ namespace vesk {
 
 namespace {
 
-/// Nothing is seen of it, and it is as long as what it stands for.
+/// Invisible, and as long as the character that it stands for.
 constexpr QChar kInvisible(u'\u200b');
 
 QChar shown(QChar character)
@@ -41,7 +41,7 @@ QString shown(const QString &text)
     return made;
 }
 
-/// What has got into the document by its own editing; a paragraph's end is a line feed.
+/// The text that editing has put into the document; a paragraph's end becomes a line feed.
 QString typed(QString slice)
 {
     return slice.replace(QChar::ParagraphSeparator, u'\n');
@@ -54,7 +54,7 @@ NoteText::NoteText(QTextDocument &document, QTextBlockFormat paragraph, QObject 
     , m_document(document)
     , m_paragraph(std::move(paragraph))
 {
-    // What the user may take back is kept elsewhere.
+    // Undo steps are kept elsewhere.
     document.setUndoRedoEnabled(false);
     connect(&document, &QTextDocument::contentsChange, this, &NoteText::onContentsChange);
     connect(&document, &QTextDocument::contentsChanged, this, &NoteText::onContentsChanged);
@@ -83,7 +83,7 @@ void NoteText::load(const QString &text)
     cursor.beginEditBlock();
     cursor.select(QTextCursor::Document);
     cursor.removeSelectedText();
-    // A paragraph inherits this from the one that it is split from.
+    // A new paragraph inherits this from the one that it was split from.
     cursor.setBlockFormat(m_paragraph);
     cursor.insertText(shown(text));
     cursor.endEditBlock();
@@ -105,7 +105,7 @@ void NoteText::replace(qsizetype position, qsizetype length, const QString &text
 
 void NoteText::onContentsChange(int position, int removed, int added)
 {
-    // The last paragraph's end is sometimes counted.
+    // Sometimes the end of the last paragraph is counted too.
     const int size = m_document.characterCount() - 1;
     const int length = std::clamp(added, 0, std::max(size - position, 0));
     if (m_isFollowing)
@@ -116,8 +116,8 @@ void NoteText::onContentsChange(int position, int removed, int added)
 
 void NoteText::follow(qsizetype position, qsizetype removed, qsizetype added)
 {
-    // The document reports whole paragraphs where an input method was at work, so what stayed the same
-    // is left out; it may stand for something else.
+    // After an input method, the document reports whole paragraphs, so leave out what is unchanged; it may
+    // stand for other characters.
     const QString before = shown(m_text.mid(position, removed));
     const QString after = shownSlice(position, added);
     const Splice change = difference(before, after);

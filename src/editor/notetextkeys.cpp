@@ -13,12 +13,12 @@ namespace vesk {
 
 namespace {
 
-/// Command, inside Vesk's own windows.
+/// Command in Vesk's own windows.
 constexpr Qt::KeyboardModifiers kCommand = Qt::ControlModifier;
 constexpr Qt::KeyboardModifiers kCounted =
     Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
 
-/// The locks and the number pad do not count.
+/// Without locks and the keypad modifier.
 Qt::KeyboardModifiers modifiersOf(const QKeyEvent &event)
 {
     return event.modifiers() & kCounted;
@@ -40,7 +40,7 @@ bool isMenuKey(const QKeyEvent &event)
            || (event.key() == Qt::Key_F10 && modifiersOf(event) == Qt::ShiftModifier);
 }
 
-/// A tab belongs to the text.
+/// A Tab without modifiers belongs to the text.
 bool isTabbingAway(const QKeyEvent &event)
 {
     return (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab)
@@ -69,7 +69,7 @@ void NoteTextKeys::start(const NoteText &text, EditSteps &steps)
 
 bool NoteTextKeys::handleShortcut(QKeyEvent &event) const
 {
-    // What is accepted here comes as a key press instead of setting off a shortcut of the window.
+    // A key that is accepted here arrives as a key press instead of triggering a shortcut of the window.
     const bool isOurs = m_edit.isComposing() || editkeys::isRedo(event) || isChecklist(event)
                         || (m_takesEscape && event.key() == Qt::Key_Escape)
                         || (m_takesCommandReturn && isReturn(event) && modifiersOf(event) == kCommand);
@@ -142,8 +142,8 @@ bool NoteTextKeys::handleReturn(const QKeyEvent &event)
     const bool isItemForHost = m_takesEmptyItemReturn && m_markup->isInEmptyItem();
     const bool isTyped = !isForHost && !isPlainForHost && !isItemForHost;
     if (event.isAutoRepeat()) {
-        // A repeat goes on with line breaks. It never begins anything, also when a modifier is released, or
-        // when the key was pressed for another window.
+        // A repeat continues with line breaks. It never starts anything, even if a modifier is released or
+        // the key was pressed for another window.
         if (isTyped && m_repeatsLineBreak)
             typeLineBreak();
         return true;

@@ -17,38 +17,38 @@ class EditSteps;
 class NoteText;
 class NoteTextView;
 
-/// The key map of a note's editor: what keys do there. Keys that mean something to the host act once, however
-/// long they are held. Owned by the editor's view.
+/// The key map of a note's editor. Keys that mean something to the host act once, however long they are held.
+/// Owned by the editor's view.
 class NoteTextKeys final : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The editor's view has the one.")
-    // Whether the host wants the key instead of what it does in a text.
+    // Whether the host wants this key instead of its effect in a text.
     Q_PROPERTY(bool takesReturn MEMBER m_takesReturn NOTIFY takesChanged)
     Q_PROPERTY(bool takesCommandReturn MEMBER m_takesCommandReturn NOTIFY takesChanged)
     Q_PROPERTY(bool takesEmptyItemReturn MEMBER m_takesEmptyItemReturn NOTIFY takesChanged)
     Q_PROPERTY(bool takesEscape MEMBER m_takesEscape NOTIFY takesChanged)
-    /// Control-Tab, with or without Shift; else it goes to the next control.
+    /// Control-Tab, with or without Shift; otherwise it moves to the next control.
     Q_PROPERTY(bool takesTabbing MEMBER m_takesTabbing NOTIFY takesChanged)
 
 public:
-    /// Both have to outlive this.
+    /// Both must outlive this object.
     NoteTextKeys(NoteTextView &view, const EditItem &edit);
 
-    /// Tells what the keys work on, before the first of them comes.
+    /// Sets what the keys work on; must be called before the first key arrives.
     void start(const NoteText &text, EditSteps &steps);
 
-    // True if the event was for the rules, not for the item.
+    // Returns true if the event was handled by the rules, false if it is for the item.
     bool handleShortcut(QKeyEvent &event) const;
     bool handleKey(QKeyEvent &event);
-    /// The text gets the keyboard. A Return that is still held from before does nothing in it.
+    /// The text has received the focus. A Return that is still held from before does nothing in it.
     void enter() { m_repeatsLineBreak = false; }
 
-    /// A line break as the Return key types it; in an empty item it may be for the host.
+    /// Types a line break as the Return key does; in an empty item the key may be for the host.
     void typeLineBreak();
-    /// Turns what stands before the caret into a marker. Returns false, and changes nothing, where a space is
-    /// just a space.
+    /// Turns the text before the caret into a marker. Returns false, with nothing changed, if a space is just
+    /// a space there.
     bool typeSpace() { return m_markup->typeSpace(); }
 
 Q_SIGNALS:
@@ -75,7 +75,7 @@ private:
     bool m_takesEmptyItemReturn = false;
     bool m_takesEscape = false;
     bool m_takesTabbing = false;
-    /// Whether the Return key that is held has typed a line break, which its repeats do too.
+    /// Whether the held Return key has typed a line break, as its repeats will.
     bool m_repeatsLineBreak = false;
 };
 

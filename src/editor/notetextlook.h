@@ -16,8 +16,8 @@ namespace vesk {
 
 class NoteText;
 
-/// How a note's text looks in an editor: as its host wants it, in the colours and the size of the
-/// desktop. Owned by the editor's view.
+/// The appearance of a note's text in an editor: as set by its host, in the desktop's colours and text size.
+/// Owned by the editor's view.
 class NoteTextLook : public QObject
 {
     Q_OBJECT
@@ -25,15 +25,15 @@ class NoteTextLook : public QObject
     QML_UNCREATABLE("The editor's view has the one.")
     Q_PROPERTY(qreal fontSize MEMBER m_fontSize NOTIFY changed)
     Q_PROPERTY(bool firstLineIsTitle MEMBER m_firstLineIsTitle NOTIFY changed)
-    /// In points, on top of the font's size.
+    /// In points, added to the font's size.
     Q_PROPERTY(qreal titleBoost MEMBER m_titleBoost NOTIFY changed)
     Q_PROPERTY(int titleWeight MEMBER m_titleWeight NOTIFY changed)
 
 public:
-    /// Styles the text from now on. It has to outlive this.
+    /// Styles the text from now on. The text must outlive this object.
     void start(const NoteText &text, Theme &theme);
 
-    /// How large the user wants texts; 1 before the start.
+    /// The user's text scale; 1 before the start.
     [[nodiscard]] qreal scale() const { return m_theme ? m_theme->fonts()->scale() : 1; }
 
 Q_SIGNALS:

@@ -25,7 +25,7 @@ NoteTextView::NoteTextView(QQuickItem *parent)
 {
     connect(this, &NoteTextView::visiblePartChanged, this, &NoteTextView::polish);
     connect(&m_focusTask, &FocusTask::ended, this, [this] {
-        // An editor that has been closed meanwhile leaves the keyboard where it is.
+        // An editor that has been closed meanwhile leaves the focus where it is.
         if (!window() || !isEnabled())
             return;
         forceFocus();
@@ -47,8 +47,8 @@ void NoteTextView::componentComplete()
     QQuickItem::componentComplete();
     QQuickItem *target = m_edit.item();
     QQmlEngine *engine = qmlEngine(this);
-    // Only what can be seen is drawn anew with each change; by itself the item does that for nothing
-    // but long texts that are set at once.
+    // Redraw only the visible part with each change; by default the item does that only for long texts that
+    // are set at once.
     target->setFlag(QQuickItem::ItemObservesViewport);
     QTextDocument *document = m_edit.document();
     m_text = std::make_unique<NoteText>(*document, TextFormats::paragraph(QGuiApplication::layoutDirection()),
@@ -74,10 +74,10 @@ void NoteTextView::componentComplete()
 void NoteTextView::itemChange(ItemChange change, const ItemChangeData &data)
 {
     if (change == ItemEnabledHasChanged) {
-        // Opened again before it was gone; another may have had the commands meanwhile.
+        // Reopened before it was gone; another editor may have taken the commands meanwhile.
         if (data.boolValue && m_controller)
             m_controller->setTextView(this);
-        // The host closes the editor.
+        // The host is closing the editor.
         if (!data.boolValue && m_composition)
             finishComposing();
     }
@@ -214,7 +214,7 @@ void NoteTextView::toggleLinePrefix(const QString &marker)
     const QTextBlock block = m_text->document().findBlock(static_cast<int>(selection.start()));
     const editrules::MarkerChange change = editrules::toggledPrefix(m_text->line(block), marker);
     const qsizetype start = block.position();
-    // What was selected stays so; what was in the marker comes after the new one.
+    // The selection is kept; positions inside the old marker move to the end of the new one.
     const auto moved = [&](qsizetype position) {
         return std::max(position, start + change.length) - change.length + change.marker.size();
     };
@@ -248,13 +248,13 @@ void NoteTextView::focusWhenShown()
 
 void NoteTextView::publishSelection()
 {
-    // The item sees what ends the selecting after this.
+    // Later, because the item sees the event that ends the selecting only after this.
     QMetaObject::invokeMethod(m_transfer.get(), &TextTransfer::publishSelection, Qt::QueuedConnection);
 }
 
 bool NoteTextView::handleMouse(const QMouseEvent &event)
 {
-    // By itself the item would paste from the toolkit's clipboard.
+    // The item itself would paste from the toolkit's clipboard.
     if (event.button() == Qt::MiddleButton)
         m_edit.endComposing();
     return !m_edit.isComposing() && m_mouse->handle(event);

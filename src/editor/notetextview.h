@@ -23,8 +23,8 @@ class TextComposition;
 class TextMouse;
 class TextTransfer;
 
-/// The rules of a note's editor: makes the toolkit's text item, its target, edit a note's text. Sees
-/// the item's events before the item does, and decides what becomes of them.
+/// The behaviour of a note's editor: makes the toolkit's text item, its target, edit a note's text. Sees the
+/// item's events before the item does, and decides what happens to them.
 class NoteTextView : public QQuickItem
 {
     Q_OBJECT
@@ -35,22 +35,22 @@ class NoteTextView : public QQuickItem
         vesk::NoteEditorController *controller READ controller WRITE setController NOTIFY controllerChanged)
     Q_PROPERTY(vesk::NoteTextKeys *keys READ keys CONSTANT)
     Q_PROPERTY(vesk::NoteTextLook *look READ look CONSTANT)
-    /// Top and height of what can be seen of the target, in its coordinates.
+    /// Top and height of the target's visible part, in the target's coordinates.
     Q_PROPERTY(qreal visibleTop MEMBER m_visibleTop NOTIFY visiblePartChanged)
     Q_PROPERTY(qreal visibleHeight MEMBER m_visibleHeight NOTIFY visiblePartChanged)
     Q_PROPERTY(QAbstractItemModel *boxes READ boxes CONSTANT)
-    /// In milliseconds; 0 if the caret shall not blink.
+    /// In milliseconds; 0 if the caret must not blink.
     Q_PROPERTY(int caretFlashTime READ caretFlashTime CONSTANT)
     Q_PROPERTY(bool canUndo READ canUndo NOTIFY textChanged)
     Q_PROPERTY(bool canRedo READ canRedo NOTIFY textChanged)
-    /// Where a text that is being dragged would be put; negative for nowhere.
+    /// Where a dragged text would be inserted; negative if nowhere.
     Q_PROPERTY(int dropPosition READ dropPosition WRITE setDropPosition NOTIFY dropPositionChanged)
 
 public:
     explicit NoteTextView(QQuickItem *parent = nullptr);
     ~NoteTextView() override;
 
-    // What menus and the host do; each change of the text is one step to take back.
+    // Actions of menus and the host; each change of the text is undone as one step.
     Q_INVOKABLE void undo();
     Q_INVOKABLE void redo();
     Q_INVOKABLE void cut();
@@ -59,18 +59,18 @@ public:
     Q_INVOKABLE void removeSelection();
     Q_INVOKABLE void selectAll();
     void toggleLinePrefix(const QString &marker);
-    /// Ticks or unticks the box at this position; the selection stays.
+    /// Toggles the checkbox at this position; the selection is kept.
     Q_INVOKABLE void toggleBox(int position);
     void moveCaretToEnd();
     Q_INVOKABLE void forceFocus();
-    /// Writes what is being composed into the text.
+    /// Commits the text being composed.
     void finishComposing() { m_edit.endComposing(); }
-    /// Gives the text the keyboard as soon as its window can have it, or after half a second.
+    /// Gives the text the focus as soon as its window can have it, or after half a second.
     Q_INVOKABLE void focusWhenShown();
-    /// Gives it the keyboard now if it waits for it; whether it did.
+    /// Gives it the focus now if it is waiting for it; returns whether it did.
     bool focusIfAwaited() { return m_focusTask.finish(); }
-    /// Puts the text that is dropped where it is dropped. To be called while the drop is being handled: its
-    /// source offers the text no longer than that.
+    /// Inserts a dropped text where it is dropped. Must be called while the drop is being handled, because
+    /// its source does not offer the text for longer.
     Q_INVOKABLE void drop();
 
     [[nodiscard]] QQuickItem *target() const { return m_edit.item(); }
@@ -90,21 +90,21 @@ public:
     void setDropPosition(int position);
 
 public Q_SLOTS:
-    /// Keeps the caret out of the two characters of a line break that another system wrote.
+    /// Moves the caret out of a two-character line break from another system.
     void passLineBreak();
 
 Q_SIGNALS:
     void targetChanged();
-    /// After each change, whoever made it.
+    /// Emitted after each change, whoever made it.
     void textChanged();
-    /// After each change by the user.
+    /// Emitted after each change by the user.
     void edited(const QString &text);
     void controllerChanged();
     void visiblePartChanged();
     void dropPositionChanged();
-    /// After a change of the text is laid out, before it is painted.
+    /// Emitted after a change of the text is laid out, before it is painted.
     void laidOut();
-    /// The menu shall be shown at this point of the target.
+    /// The menu must be shown at this point of the target.
     void contextMenuRequested(const QPointF &point);
 
 protected:

@@ -15,7 +15,7 @@ namespace vesk {
 
 namespace {
 
-/// The line with what is being composed in it, as the user sees it.
+/// The line including the text being composed in it, as the user sees it.
 QString composedLine(const QTextBlock &block)
 {
     const QTextLayout &layout = *block.layout();
@@ -58,13 +58,13 @@ void ParagraphDirections::apply()
         const std::optional<Qt::LayoutDirection> own = lineDirection(composedLine(block));
         direction = own.value_or(direction);
         const bool isRight = block.blockFormat().layoutDirection() == direction;
-        // After what was touched, only the lines without a direction of their own can be wrong.
+        // After the touched part, only lines without a direction of their own can be wrong.
         if (block.position() > end && (own || isRight))
             break;
         if (isRight)
             continue;
-        // The end of an edit is reported as a change even if nothing was edited, so one is begun only when
-        // there is something to edit.
+        // Ending an edit is reported as a change even if nothing was edited, so only begin one if there is
+        // something to edit.
         if (!std::exchange(isEditing, true))
             cursor.beginEditBlock();
         setDirection(cursor, block, direction);

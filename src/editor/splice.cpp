@@ -11,7 +11,7 @@ Splice difference(const QString &before, const QString &after)
     qsizetype head = 0;
     while (head < shorter && before.at(head) == after.at(head))
         ++head;
-    // Two emoji often begin with the same half of a surrogate pair, or end in the same one.
+    // Two emoji often share the first or the second half of their surrogate pairs.
     if (editrules::isInsidePair(before, head))
         --head;
     qsizetype tail = 0;

@@ -7,7 +7,7 @@
 
 namespace vesk {
 
-/// A change of a text: at `position`, `inserted` took the place of `removed`. In UTF-16 units.
+/// A change of a text: at `position`, `removed` was replaced by `inserted`. In UTF-16 units.
 struct Splice
 {
     qsizetype position = 0;
@@ -20,11 +20,11 @@ struct Splice
     friend bool operator==(const Splice &, const Splice &) = default;
 };
 
-/// What has become of a text, as one change that tears no surrogate pair of `before` apart.
+/// The difference between two texts as one change that does not split a surrogate pair of `before`.
 [[nodiscard]] Splice difference(const QString &before, const QString &after);
 
-/// Where a position is after `length` units at `start` were replaced by `inserted` units: after them, if it
-/// was in what was replaced or at an end of it.
+/// The new value of a position after `length` units at `start` were replaced by `inserted` units: after them,
+/// if it was inside the replaced part or at either end.
 [[nodiscard]] inline qsizetype moved(qsizetype position, qsizetype start, qsizetype length,
                                      qsizetype inserted)
 {
@@ -33,8 +33,8 @@ struct Splice
     return std::max(position, start + length) - length + inserted;
 }
 
-/// What is selected: the text between `anchor`, where the selection was begun, and `caret`. Nothing is
-/// selected where both are the same. In UTF-16 units.
+/// The selected text: from `anchor`, where the selection began, to `caret`. Nothing is selected if they are
+/// equal. In UTF-16 units.
 struct Selection
 {
     qsizetype anchor = 0;

@@ -12,8 +12,8 @@ namespace vesk {
 
 namespace {
 
-/// Lies in the title and takes note of its end. A block does not tell by itself: one that was removed
-/// still counts as valid, and may be another by then.
+/// Attached to the title's block to notice when the block is destroyed. A QTextBlock cannot tell: a removed
+/// one still counts as valid, and may be another block by then.
 class TitleMark final : public QTextBlockUserData
 {
 public:
@@ -51,7 +51,7 @@ void Styler::setLook(const TextLook &look, bool firstLineIsTitle)
     m_formats = TextFormats(look);
     m_firstLineIsTitle = firstLineIsTitle;
     markTitle(findTitle());
-    // One change for all of it, so that everything is laid out once.
+    // A single edit, so that everything is laid out once.
     QTextCursor cursor(&m_text.document());
     cursor.beginEditBlock();
     for (QTextBlock block = m_text.document().begin(); block.isValid(); block = block.next())
@@ -93,7 +93,7 @@ QList<QTextLayout::FormatRange> Styler::wanted(const QTextBlock &block) const
 void Styler::restyle(const QTextBlock &block) const
 {
     const QList<QTextLayout::FormatRange> ranges = wanted(block);
-    // Setting formats has the paragraph laid out again.
+    // Setting formats makes the paragraph be laid out again.
     if (ranges != block.layout()->formats())
         block.layout()->setFormats(ranges);
 }
@@ -102,7 +102,7 @@ void Styler::markTitle(const QTextBlock &title)
 {
     if (*m_title == title)
         return;
-    // Ends the former mark, which says that there is no title.
+    // Destroys the previous mark, which reports that there is no title.
     if (m_title->isValid())
         QTextBlock(*m_title).setUserData(nullptr);
     if (!title.isValid())

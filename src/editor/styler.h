@@ -11,20 +11,20 @@ namespace vesk {
 
 class NoteText;
 
-/// Keeps the looks of a document as the rules have them for its whole text, by doing only what a
-/// change needs. Looks are formats of the layout, which are no part of the document's content.
+/// Keeps the formatting of a whole document as the rules require, doing only what each change needs. The
+/// formats are those of the layout, which are not part of the document's content.
 class Styler final
 {
 public:
-    /// The text has to outlive the styler.
+    /// The text must outlive the styler.
     explicit Styler(const NoteText &text);
 
-    /// Another look; the whole document gets it.
+    /// Applies a different look to the whole document.
     void setLook(const TextLook &look, bool firstLineIsTitle);
-    /// To be called within a change of the document, for the part that it touched.
+    /// Must be called during a change of the document, for the part that it touched.
     void restyle(int position, int length);
 
-    /// The formats that a paragraph has to have, those of the text being composed in it included.
+    /// The formats that a paragraph must have, including those of the text being composed in it.
     [[nodiscard]] QList<QTextLayout::FormatRange> wanted(const QTextBlock &block) const;
 
 private:
@@ -35,7 +35,7 @@ private:
     const NoteText &m_text;
     TextFormats m_formats{TextLook()};
     bool m_firstLineIsTitle = false;
-    /// The paragraph that is the title, while it is there; not valid for none.
+    /// The paragraph that is the title; invalid if there is none.
     std::shared_ptr<QTextBlock> m_title = std::make_shared<QTextBlock>();
 };
 

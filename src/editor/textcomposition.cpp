@@ -35,7 +35,7 @@ bool TextComposition::commitTyped(const QInputMethodEvent &event)
     const bool isRuled = commit == u" " || commit == u"\n";
     if (!isRuled || event.replacementLength() != 0 || !m_edit.selection().isEmpty())
         return false;
-    // What was being composed goes first, and is replaced by nothing.
+    // Remove the composed text first, without a replacement.
     QInputMethodEvent rest(event.preeditString(), event.attributes());
     deliver(rest);
     if (commit == u"\n")

@@ -11,16 +11,16 @@ class NoteText;
 class NoteTextKeys;
 class NoteTextView;
 
-/// What an input method writes into an editor. Owned by the editor's view, whose event filter shows it every
+/// What an input method writes into an editor. Owned by the editor's view, whose event filter passes it every
 /// event before the text item sees it.
 class TextComposition final
 {
 public:
-    /// All of them must outlive this.
+    /// All must outlive this object.
     TextComposition(NoteTextView &view, const EditItem &edit, const NoteText &text, EditSteps &steps,
                     NoteTextKeys &keys);
 
-    /// True if the event was dealt with here, false if it is for the item.
+    /// Returns true if the event was handled here, false if it is for the item.
     bool handle(const QInputMethodEvent &event);
 
 private:

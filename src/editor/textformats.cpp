@@ -9,9 +9,9 @@ namespace {
 
 constexpr int kOurs = QTextFormat::UserProperty + 1;
 
-/// The family of a font that has nothing but room for the two boxes. With the fonts of the desktop a
-/// box would be as wide and its line as high as the font that happens to have it, and a colour font
-/// would paint it.
+/// The family of a font that contains only blank space for the two checkboxes. With the desktop's fonts, a
+/// checkbox's width and its line's height would depend on which font happens to have the glyph, and a colour
+/// font would paint it.
 const QString &boxFamily()
 {
     static const QString family = [] {
@@ -26,7 +26,7 @@ QTextCharFormat sized(qreal size, int weight)
 {
     QTextCharFormat made;
     made.setProperty(kOurs, true);
-    // The toolkit draws text of whole pixel sizes only.
+    // The toolkit only draws text of whole pixel sizes.
     made.setProperty(QTextFormat::FontPixelSize, qRound(size));
     made.setFontWeight(weight);
     return made;
@@ -107,8 +107,8 @@ QTextBlockFormat TextFormats::paragraph(Qt::LayoutDirection direction)
     QTextBlockFormat made;
     made.setLineHeight(3, QTextBlockFormat::LineDistanceHeight);
     made.setBottomMargin(5);
-    // The side at which a paragraph's direction begins, whatever the text item takes for the direction of
-    // its whole text.
+    // The side where the paragraph's direction begins, whatever the text item takes for the direction of the
+    // whole text.
     made.setAlignment(Qt::AlignLeft);
     made.setLayoutDirection(direction);
     return made;

@@ -11,7 +11,7 @@
 
 namespace vesk {
 
-/// What the looks of an editor's text are made of. Sizes are pixels, before the user's scale of texts.
+/// The parameters of an editor's appearance. Sizes are in pixels, before the user's text scale.
 struct TextLook
 {
     qreal scale = 1;
@@ -26,8 +26,8 @@ struct TextLook
     friend bool operator==(const TextLook &, const TextLook &) = default;
 };
 
-/// The character formats of the styles. They carry a mark, by which they are told from those that an
-/// input method puts on the text that it composes.
+/// The character formats of the styles. They are marked, to distinguish them from those that an input method
+/// applies to the text it composes.
 class TextFormats final
 {
 public:
@@ -37,11 +37,11 @@ public:
     {
         return m_formats.at(static_cast<size_t>(style));
     }
-    /// The formats of a line in the form in which a layout takes them.
+    /// The formats of a line as a layout expects them.
     [[nodiscard]] QList<QTextLayout::FormatRange> ranges(QStringView line, bool isTitle) const;
 
     [[nodiscard]] static bool isOurs(const QTextCharFormat &format);
-    /// Lines within a paragraph are 3 pixels apart, and paragraphs 5 more.
+    /// Lines within a paragraph are 3 pixels apart, paragraphs 5 pixels more.
     [[nodiscard]] static QTextBlockFormat paragraph(Qt::LayoutDirection direction);
 
 private:

@@ -71,7 +71,7 @@ bool TextMouse::pressLeft(const QMouseEvent &event)
         m_view.toggleBox(static_cast<int>(*box));
         return true;
     }
-    // The second and the third click select a word and a line, also where something is selected.
+    // The second and the third click select a word and a line, even if something is selected.
     const auto interval = static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
     const bool isThird = m_doubleClicked && event.timestamp() < *m_doubleClicked + interval;
     const Selection selection = m_edit.selection();

@@ -16,15 +16,15 @@ class NoteText;
 class NoteTextView;
 class TextTransfer;
 
-/// What the mouse does in an editor beyond placing the caret and selecting: it ticks boxes, drags the
-/// selected text, pastes what is selected elsewhere, and asks for the menu.
+/// What the mouse does in an editor besides placing the caret and selecting: it toggles checkboxes, drags the
+/// selected text, pastes what is selected elsewhere, and opens the menu.
 class TextMouse final
 {
 public:
-    /// All of them have to outlive this.
+    /// All must outlive this object.
     TextMouse(NoteTextView &view, const EditItem &edit, const NoteText &text, TextTransfer &transfer);
 
-    /// True if the event was taken, false if it is for the item.
+    /// Returns true if the event was handled, false if it is for the item.
     bool handle(const QMouseEvent &event);
 
 private:
@@ -37,9 +37,9 @@ private:
     const EditItem &m_edit;
     const NoteText &m_text;
     TextTransfer &m_transfer;
-    /// The button went down on something of ours; what comes until it is up again is ours too.
+    /// The button was pressed on something of ours; events until its release are ours too.
     bool m_isTaken = false;
-    /// Where the selection was pressed that may be dragged.
+    /// Where the selection was pressed, which may start a drag.
     std::optional<QPointF> m_pressed;
     /// Time of the last double click, in milliseconds.
     std::optional<quint64> m_doubleClicked;

@@ -66,9 +66,9 @@ void TextTransfer::dropAt(qsizetype position)
 QCoro::Task<> TextTransfer::insertFrom(Pasteboard &pasteboard, Selection place, Then then)
 {
     const QPointer<TextTransfer> self(this);
-    // Sends on what it holds when this ends, after the text.
+    // Sends the held input on when it is destroyed, after the text was inserted.
     HeldInput held(*m_edit.item());
-    // Follows what else changes before the owner of the text has answered.
+    // Follows other changes that happen before the owner of the text has answered.
     QTextCursor span(&m_text.document());
     span.setPosition(static_cast<int>(place.start()));
     span.setPosition(static_cast<int>(place.end()), QTextCursor::KeepAnchor);
@@ -79,7 +79,7 @@ QCoro::Task<> TextTransfer::insertFrom(Pasteboard &pasteboard, Selection place, 
         co_return;
     const qsizetype start = span.selectionStart();
     const qsizetype end = span.selectionEnd();
-    // Where the user has put the caret meanwhile, it stays.
+    // If the user has moved the caret meanwhile, it stays there.
     const Selection selection = m_edit.selection();
     Selection after{.anchor = moved(selection.anchor, start, end - start, text->size()),
                     .caret = moved(selection.caret, start, end - start, text->size())};
@@ -90,7 +90,7 @@ QCoro::Task<> TextTransfer::insertFrom(Pasteboard &pasteboard, Selection place, 
 
 void TextTransfer::publishSelection()
 {
-    // Only a selection that was made just now: another program may have selected something since.
+    // Only publish a new selection: another program may have selected something since.
     if (!m_isSelectionNew || !m_lent || !m_lent->primary() || m_edit.selection().isEmpty())
         return;
     m_isSelectionNew = false;

@@ -17,28 +17,28 @@ class EditSteps;
 class NoteText;
 class Pasteboard;
 
-/// Moves text into, out of and within an editor: by the pasteboards, and by dragging. The text goes as
-/// it is, which the toolkit's own copying and pasting would not leave it. Without pasteboards nothing is
-/// cut, copied or pasted.
+/// Moves text into, out of and within an editor, using the pasteboards and by dragging. The text is kept
+/// exactly, which the toolkit's own copying and pasting would not do. Without pasteboards nothing is cut,
+/// copied or pasted.
 class TextTransfer final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// All but `lent`, which may be null, must outlive this.
+    /// All but `lent`, which may be null, must outlive this object.
     TextTransfer(EditSteps &steps, const EditItem &edit, const NoteText &text, LentPasteboards *lent);
 
     void cut();
     void copy() const;
-    /// Puts the pasteboard's text in place of the selection of now. What is typed meanwhile comes after it.
+    /// Replaces the current selection with the pasteboard's text. What is typed meanwhile follows it.
     void paste();
-    /// Puts what was last selected, anywhere, at this place.
+    /// Inserts what was last selected in any program at this position.
     void pasteSelected(qsizetype position);
-    /// Puts what was dragged here from elsewhere at this place, and selects it.
+    /// Inserts what was dragged here from elsewhere at this position, and selects it.
     void dropAt(qsizetype position);
-    /// Offers a new selection for the middle mouse button, here and elsewhere.
+    /// Offers a new selection to the middle mouse button, here and in other programs.
     void publishSelection();
-    /// Moves what is selected, or a copy of it, to another place.
+    /// Moves the selection, or a copy of it, to another position.
     void moveSelection(qsizetype position, bool isCopied);
 
 private Q_SLOTS:

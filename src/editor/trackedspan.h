@@ -8,14 +8,14 @@ class QQuickItem;
 
 namespace vesk {
 
-/// A stretch of a text item's text that stays where it is when the text around it changes. If what it
-/// covers is replaced, it becomes empty at that place. In UTF-16 units.
+/// A range of a text item's text that keeps covering the same characters when the text around it changes. If
+/// its content is replaced, it becomes empty at that position. In UTF-16 units.
 class TrackedSpan final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The item must outlive this.
+    /// The item must outlive this object.
     TrackedSpan(QQuickItem &item, qsizetype start, qsizetype end);
 
     [[nodiscard]] qsizetype start() const { return m_start; }

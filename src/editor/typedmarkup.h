@@ -8,17 +8,17 @@ class EditSteps;
 class NoteText;
 
 /// What a typed space and a typed line break do at the caret, whether a key or an input method types them.
-/// Each change is one step to take back.
+/// Each change is undone as one step.
 class TypedMarkup final
 {
 public:
-    /// All of them must outlive this.
+    /// All must outlive this object.
     TypedMarkup(const EditItem &edit, const NoteText &text, EditSteps &steps);
 
-    /// Turns what stands before the caret into a marker. Returns false, and changes nothing, where a space is
-    /// just a space.
+    /// Turns the text before the caret into a marker. Returns false, with nothing changed, if a space is just
+    /// a space there.
     bool typeSpace();
-    /// Whether the caret is in a list item that has nothing but its marker, with nothing selected.
+    /// Whether the caret is in a list item that contains only its marker, with nothing selected.
     [[nodiscard]] bool isInEmptyItem() const;
     /// Breaks the line, continuing a list; in an empty item it ends the list instead.
     void typeLineBreak();

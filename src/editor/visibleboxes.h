@@ -8,8 +8,8 @@
 
 namespace vesk {
 
-/// The checkboxes that can be seen, in order. A box keeps its row while it stays in sight, so that
-/// neither its picture nor a screen reader's hold on it is made anew.
+/// The visible checkboxes, in order. A checkbox keeps its row while it stays visible, so that neither its
+/// picture nor its screen reader object is created anew.
 class VisibleBoxes final : public QAbstractListModel
 {
     Q_OBJECT
@@ -20,9 +20,9 @@ public:
         SquareRole = Qt::UserRole + 1,
         /// bool
         TickedRole,
-        /// QString: what the line says.
+        /// QString: the line's text.
         LabelRole,
-        /// int: position of the box in the text.
+        /// int: position of the checkbox in the text.
         PositionRole,
     };
 
@@ -32,7 +32,8 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    /// Keeps boxes the same ones over a change of the text before them. An `update` has to follow.
+    /// Keeps rows attached to their checkboxes when the text before them changes. Must be followed by an
+    /// `update`.
     void follow(const Splice &change);
     void update(const QList<Box> &boxes);
 
