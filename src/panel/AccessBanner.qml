@@ -5,12 +5,13 @@ import QtQuick
 
 import Vesk.Components
 
-// Asks for the user's consent that Vesk reads the text selected in other applications.
+// Asks for the user's consent to read the text selected in other applications.
 Item {
     id: root
 
     required property bool isShown
-    // Whether the button stands below the message, which beside it would have room for a word or two.
+    // Whether the button is below the message, because beside it the message would have room for only a word
+    // or two.
     readonly property bool isStacked: plate.width - dot.anchors.leftMargin - dot.width - button.width - 3 * Theme.wideSpace < 150 * Theme.fonts.scale
     readonly property real contentHeight: root.isStacked ? message.height + Theme.smallSpace + button.height : Math.max(message.height, button.height)
 
@@ -46,7 +47,7 @@ Item {
 
             anchors.left: parent.left
             anchors.leftMargin: 12
-            // Beside the first line, or in the middle of all.
+            // Beside the first line, or in the middle of the banner.
             y: message.y + Math.round((message.height / (root.isStacked ? message.lineCount : 1) - height) / 2)
             width: Math.round(8 * Theme.fonts.scale)
             height: width

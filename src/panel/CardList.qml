@@ -6,8 +6,8 @@ import QtQuick
 import Vesk.Components
 import Vesk.Panel
 
-// A list of sections and cards. Keeps its place when rows come and go, and brings what is selected into
-// view by the shortest way.
+// A list of sections and cards. Keeps its scroll position when rows come and go, and scrolls the shortest way
+// to the selection.
 FocusScope {
     id: root
 
@@ -17,7 +17,7 @@ FocusScope {
     property alias delegate: list.delegate
     readonly property bool isAnimated: Theme.motion.isAllowed && !root.rows.isSweeping
 
-    // Selects the row of a card, or none, and brings it into view.
+    // Selects the row of a card and scrolls to it; an empty `cardId` selects nothing.
     function select(cardId: string) {
         const row = root.rows.rowOf(cardId);
         list.currentIndex = row;
@@ -44,7 +44,7 @@ FocusScope {
             scrollTo(item.y - (row === 1 ? list.itemAtIndex(0)?.height ?? 0 : 0), item.y + item.height);
     }
 
-    // Scrolls the shortest way to where all between these two heights of the content is in sight.
+    // Scrolls the shortest way until everything between these two content positions is visible.
     function scrollTo(top: real, bottom: real) {
         scroll.stop();
         scroll.to = Math.min(top, Math.max(bottom + list.bottomMargin - list.height, list.contentY));
@@ -52,15 +52,15 @@ FocusScope {
             scroll.start();
     }
 
-    // Whether the user sees enough of a row, or of something in it, to know what a key will do.
+    // Whether enough of a row, or of an item in it, is visible for the user to know what a key will do.
     function isInSight(item: Item): bool {
         const top = item.mapToItem(list, 0, 0).y;
         const seen = Math.min(top + item.height, list.height) - Math.max(top, 0);
         return seen >= Math.min(item.height, list.height) / 2;
     }
 
-    // Whether the selected card is in sight, as far as the user is concerned: what the keys have just
-    // brought the selection to is on its way. If not, scrolls back to it.
+    // Whether the selected card is visible, or on its way because the keys have just moved the selection
+    // there. If not, scrolls back to it.
     function bringCardIntoSight(): bool {
         const row = root.rows.rowOf(root.panel.selection.cardId);
         if (row < 0 || settling.running || scroll.running)
@@ -107,7 +107,7 @@ FocusScope {
         enabled: root.visible
     }
 
-    // What another search finds is looked at from its beginning on.
+    // Show the results of a new search from the beginning.
     Connections {
         function onSearched() {
             scroll.stop();
@@ -120,8 +120,7 @@ FocusScope {
         enabled: root.visible
     }
 
-    // Waits for the end of the change that the selection comes with, since the rows that go or come
-    // count then.
+    // Waits for the end of the change that moved the selection, because only then are all rows in place.
     Timer {
         id: settling
 
@@ -148,7 +147,7 @@ FocusScope {
         property: "contentY"
     }
 
-    // The Tab key comes to what is selected, not to a list where nothing shows it.
+    // The Tab key stops at the selection, not at a list that shows none.
     TabStop {
         activeFocusOnTab: list.count > 0 && !list.activeFocus
         onReached: {

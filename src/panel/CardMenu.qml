@@ -4,7 +4,7 @@ import QtQuick
 import Vesk.Components
 import Vesk.Panel
 
-// The menu of a card: what its buttons and the keys do to it.
+// A card's menu, which offers what its buttons and the keys do.
 Menu {
     id: root
 
@@ -13,7 +13,7 @@ Menu {
     required property bool isPrompt
     required property bool isDone
     required property bool isPinned
-    // Whether the note is open in its editor already.
+    // Whether the note is already open in its editor.
     required property bool isExpanded
 
     name: root.isPrompt ? qsTr("Prompt") : qsTr("Note")

@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Panel
 
-// Shows a card's menu, which is made anew each time: most cards never need it.
+// Shows a card's menu, which is created each time: most cards never need it.
 Loader {
     id: root
 
@@ -16,7 +16,7 @@ Loader {
     property bool isExpanded: false
     readonly property bool isOpen: root.item ? (root.item as CardMenu).isOpen : false
 
-    // At a point of the card.
+    // `x` and `y` are in the card's coordinates.
     function show(x: real, y: real, isByKey: bool) {
         root.setSource("CardMenu.qml", {
                 "panel": root.panel,

@@ -3,8 +3,8 @@ import QtQuick
 
 import Vesk.Components
 
-// The ground of a card: fainter than a field, clearer under the pointer, and in the accent colour while
-// it is selected.
+// The background of a card: fainter than a field's, more visible under the pointer, and in the accent colour
+// while selected.
 Rectangle {
     id: root
 

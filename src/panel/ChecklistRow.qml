@@ -4,7 +4,7 @@ import QtQuick
 import Vesk.Components
 import Vesk.Panel
 
-// One checkbox on a card; a click anywhere on it asks to tick or untick it.
+// A checkbox on a card; clicking it or its text asks to toggle it.
 PressButton {
     id: root
 
@@ -16,7 +16,7 @@ PressButton {
 
     name: root.isDone ? qsTr("Mark “%1” as not done").arg(root.text) : qsTr("Mark “%1” as done").arg(root.text)
     pressedScale: 0.98
-    // The box stands where its line begins, as in the editor.
+    // The checkbox is where its line begins, as in the editor.
     LayoutMirroring.enabled: root.isRightToLeft
     LayoutMirroring.childrenInherit: true
     implicitHeight: Math.max(Math.round(22 * Theme.fonts.scale), label.implicitHeight + 4)

@@ -7,7 +7,7 @@ import Vesk.Components
 import Vesk.Editor
 import Vesk.Panel
 
-// Where a new note is written; grows from one line to five.
+// The field for a new note; grows from one line to five.
 Plate {
     id: root
 
@@ -24,7 +24,7 @@ Plate {
         menu.show(Qt.point(edit.cursorRectangle.x, edit.cursorRectangle.y + edit.cursorRectangle.height), true);
     }
 
-    // Keeps the caret in sight while there are more lines than fit.
+    // Keeps the caret visible when the lines do not fit.
     function followCaret(caret: rect) {
         if (caret.y < flickable.contentY)
             flickable.contentY = caret.y;
@@ -108,7 +108,7 @@ Plate {
         TextEdit {
             id: edit
 
-            // Room for the caret before the first letter, and of a line that begins at the right.
+            // Room for the caret before the first letter and of a right-to-left line.
             x: 1
             width: flickable.width - x
             wrapMode: TextEdit.Wrap
@@ -132,8 +132,8 @@ Plate {
             Accessible.multiLine: true
             Accessible.name: placeholder.text
             onTextChanged: root.model.draft = text
-            // The menu acts on what is selected while it has the keyboard, as does who comes back to the
-            // window.
+            // Keep the selection: the menu acts on it while it has the focus, and so does a user who returns
+            // to the window.
             onActiveFocusChanged: {
                 if (!activeFocus && !menu.isOpen && Window.active)
                     deselect();

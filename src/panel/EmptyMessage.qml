@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// Says why a list is empty though there is something to list.
+// Says why a list is empty although there are records.
 Item {
     id: root
 

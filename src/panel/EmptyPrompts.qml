@@ -5,7 +5,7 @@ import QtQuick
 
 import Vesk.Components
 
-// What the panel shows before there is any prompt: how to get one.
+// Shown as long as there are no prompts: explains how to create one.
 Item {
     id: root
 
@@ -32,7 +32,7 @@ Item {
             Accessible.ignored: true
         }
 
-        // Breaks before the keys where there is no room for them.
+        // Wraps before the keys if they do not fit.
         Grid {
             anchors.horizontalCenter: parent.horizontalCenter
             visible: root.hasKeys

@@ -6,18 +6,18 @@ import QtQuick
 import Vesk.Components
 import Vesk.Panel
 
-// What the panel shows before there is any note: how to make one.
+// Shown as long as there are no notes: explains how to create one.
 Item {
     id: root
 
-    // As the longest combination of keys needs.
+    // The width of the longest key combination.
     property real keysWidth: 136
     readonly property real fullWidth: root.width - 2 * Theme.margin
     readonly property real hintWidth: root.width - root.keysWidth - 3 * Theme.margin
-    // Whether a hint stands below its keys, since words would be broken beside them.
+    // Whether a hint is below its keys, because words would be broken beside them.
     readonly property bool isStacked: root.hintWidth < 110 * Theme.fonts.scale
 
-    // Scrolls where large texts leave no room.
+    // Scrolls if large text leaves too little room.
     Flickable {
         id: scroller
 
@@ -119,7 +119,7 @@ Item {
                         }
                     }
 
-                    // Not the text's own width, which is reckoned anew when it is wrapped.
+                    // Do not use the text's own width, which changes when it is wrapped.
                     TextMetrics {
                         id: measure
 

@@ -4,7 +4,7 @@ import QtQuick
 import Vesk.Components
 import Vesk.Panel
 
-// A text cut off after some lines until it is expanded. It can be selected with the pointer.
+// A text that is truncated after some lines until it is expanded. It can be selected with the pointer.
 Item {
     id: root
 

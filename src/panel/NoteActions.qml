@@ -3,13 +3,13 @@ import QtQuick
 
 import Vesk.Components
 
-// The buttons in the corner of a closed card, there while the pointer is over the card or one of them has
-// the keyboard.
+// The buttons in the corner of a closed card, shown while the pointer is over the card or one of them has the
+// focus.
 Rectangle {
     id: root
 
     required property bool isWanted
-    // Whether the Tab key goes through the buttons.
+    // Whether the Tab key stops at the buttons.
     required property bool canTabIn
     required property bool isPinned
     property bool isMade: false
@@ -19,7 +19,7 @@ Rectangle {
     signal copied
     signal pasted
     signal removed
-    // A press came to where the buttons are, but not up.
+    // The area of the buttons was pressed while they were not shown.
     signal missed
 
     implicitWidth: buttons.width + 4
@@ -31,7 +31,7 @@ Rectangle {
     antialiasing: true
     opacity: root.isMade && root.isUp ? 1 : 0
     enabled: root.isUp || root.canTabIn
-    // The first time too they fade in.
+    // So that they fade in the first time, too.
     Component.onCompleted: root.isMade = true
 
     Behavior on opacity {
@@ -85,7 +85,7 @@ Rectangle {
         }
     }
 
-    // A finger comes without a pointer before it; then what is not seen is not pressed.
+    // On a touch screen no pointer comes first, so do not press a button that is not visible.
     MouseArea {
         anchors.fill: parent
         visible: !root.isUp

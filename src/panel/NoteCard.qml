@@ -6,20 +6,21 @@ import QtQuick
 import Vesk.Components
 import Vesk.Panel
 
-// One note. Closed it is a summary of it; open, its editor.
+// A note: a summary while closed, its editor while open.
 Item {
     id: root
 
     required property NoteRoles row
     readonly property PanelModel panel: root.row.panel
     readonly property string cardId: root.row.cardId
-    // A row that has left the list and fades away has no place in it, and perhaps a successor.
+    // A row that has left the list and is fading out has no place in it, and perhaps already a successor.
     readonly property bool isExpanded: root.row.index >= 0 && root.panel.openNote.cardId === root.cardId
     readonly property bool isSelected: root.panel.selection.cardId === root.cardId
-    // The note that was open here last; while it still fades, a search may bring another one to this row.
+    // The note that was last open here. While it is still fading, a search may bring another note to this
+    // row.
     property string openedId: ""
     property real progress: root.isExpanded ? 1 : 0
-    // How far the card is open, from 0 to 1.
+    // How far the card has opened, from 0 to 1.
     readonly property real openness: root.isExpanded || root.openedId === root.cardId ? root.progress : 0
     property Item form: null
     readonly property bool wantsActions: hover.hovered || root.isSelected
@@ -129,8 +130,7 @@ Item {
             onItemRemoved: root.form = null
 
             NoteForm {
-                // While it fades away, no key and no click may come to a note that is closed, and its row may
-                // be gone.
+                // While it fades out, a closed note must not get keys or clicks, and its row may be gone.
                 enabled: root.isExpanded
                 width: content.width
                 opacity: root.openness
@@ -156,7 +156,7 @@ Item {
         color: Theme.accent
     }
 
-    // Made when they are wanted for the first time, since most cards are never pointed at.
+    // Created when first needed, because most cards are never pointed at.
     Repeater {
         model: root.hasActions ? 1 : 0
         onItemAdded: (index, item) => root.actions = item as NoteActions
@@ -167,7 +167,7 @@ Item {
             anchors.margins: 7
             isWanted: !root.isExpanded && hover.hovered
             canTabIn: !root.isExpanded && root.isSelected
-            // The row of a card that goes is gone before the buttons are.
+            // When a card is removed, its row is gone before the buttons are.
             isPinned: root.row?.isPinned ?? false
             onPinToggled: root.panel.cards.togglePinned(root.row.cardId)
             onCopied: root.panel.cards.copy(root.row.cardId)

@@ -6,7 +6,7 @@ import QtQuick
 import Vesk.Components
 import Vesk.Panel
 
-// The last line of a card: when it was changed, where it comes from, how far its checklist is.
+// The last line of a card: when the note was changed, where it comes from, and the progress of its checklist.
 Item {
     id: root
 

@@ -5,7 +5,7 @@ import Vesk.Components
 import Vesk.Editor
 import Vesk.Panel
 
-// An open card: the editor of its note, and the way back to where the note comes from.
+// An open card: the note's editor, and a button that leads back to the note's source.
 FocusScope {
     id: root
 
@@ -46,7 +46,7 @@ FocusScope {
         autofocus: true
         takesCommandReturn: true
         takesEscape: true
-        // Tab is the text's, so that the way to the source is back.
+        // The text uses Tab, so Shift-Tab leads to the source.
         KeyNavigation.backtab: source.visible ? source : null
         takesTabbing: true
         onEdited: text => root.panel.cards.edit(root.cardId, text)
@@ -100,7 +100,7 @@ FocusScope {
             Accessible.name: KeyLabels.spelt(qsTr("Done (⌘↩)"), KeyLabels.Window)
 
             Text {
-                // Among large texts the keys say it alone, so that the source can be read.
+                // With large text, show only the keys, so that the source stays readable.
                 visible: !source.visible || footer.width > (130 + 105) * Theme.fonts.scale + Theme.margin
                 anchors.verticalCenter: parent.verticalCenter
                 rightPadding: Theme.isMirrored ? 0 : 2

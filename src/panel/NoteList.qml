@@ -6,7 +6,7 @@ import QtQuick
 import Vesk.Components
 import Vesk.Panel
 
-// The notes of the tab for notes or for checklists.
+// The list of the notes tab and of the checklists tab.
 CardList {
     id: root
 

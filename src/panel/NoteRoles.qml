@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Panel
 
-// What the list of notes tells of one of its rows.
+// The data of a row in the list of notes.
 CardRow {
     required property int index
     required property bool isHeader

@@ -6,8 +6,8 @@ import QtQuick
 import Vesk.Components
 import Vesk.Panel
 
-// One row of the list of notes: a section's header or a card. Repeaters of one make whichever it is,
-// since the loader of Qt 6.4 takes no bound component inside a delegate.
+// A row in the list of notes: a section's header or a card. Created by repeaters of one, because the Loader
+// of Qt 6.4 does not accept a bound component inside a delegate.
 NoteRoles {
     id: root
 

@@ -6,8 +6,8 @@ import QtQuick
 import Vesk.Components
 import Vesk.Panel
 
-// What a closed card shows of its note: its title, its first checkboxes or a preview, and where and when
-// it comes from.
+// What a closed card shows: the note's title, its first checkboxes or a preview, and where and when it comes
+// from.
 Column {
     id: root
 
@@ -25,9 +25,9 @@ Column {
     required property string source
     required property string sourceBundle
     required property string query
-    // Whether what is ticked changes without a motion.
+    // Whether checkboxes change without animation.
     required property bool isStill
-    // Whether the Tab key goes through the checkboxes.
+    // Whether the Tab key stops at the checkboxes.
     required property bool canTabIn
 
     signal itemToggled(int line)
@@ -36,7 +36,7 @@ Column {
 
     MatchText {
         anchors.left: parent.left
-        // Leaves the corner to the pin.
+        // Leave the corner to the pin.
         width: parent.width - (root.isPinned ? 26 * Theme.fonts.scale : 0)
         text: root.title
         query: root.query

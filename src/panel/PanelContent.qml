@@ -5,7 +5,7 @@ import QtQuick
 
 import Vesk.Panel
 
-// The list of the tab that is chosen, or why there is none.
+// The list of the current tab, or the reason why it is empty.
 FocusScope {
     id: root
 
@@ -31,7 +31,7 @@ FocusScope {
             notes.showMenu();
     }
 
-    // The list that goes would take the keyboard along.
+    // The hidden list would take the focus with it.
     onIsOnPromptsChanged: {
         if (isOnPrompts)
             wantsPrompts = true;
@@ -49,8 +49,8 @@ FocusScope {
         panel: root.model
     }
 
-    // Made when it is first wanted, and kept. By a repeater, since the loader of Qt 6.4 takes no bound
-    // component.
+    // Created when first needed, and kept. By a repeater, because the Loader of Qt 6.4 does not accept a
+    // bound component.
     Repeater {
         model: root.wantsPrompts ? 1 : 0
         onItemAdded: (index, item) => root.prompts = item

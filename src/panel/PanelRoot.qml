@@ -7,8 +7,8 @@ import Vesk.Components
 import Vesk.Guide
 import Vesk.Panel
 
-// What the panel's window shows: the panel, and over it, while it is up, the guide. Nothing of the panel
-// can be reached below the guide, by no key and no click.
+// The content of the panel's window: the panel, covered by the guide while that is shown. No key or click
+// reaches the panel below the guide.
 FocusScope {
     id: root
 
@@ -33,7 +33,7 @@ FocusScope {
         cornerRadius: root.cornerRadius
     }
 
-    // The upper edge, by which the mouse makes the panel higher or lower.
+    // The upper edge, which the mouse drags to change the panel's height.
     MouseArea {
         id: edge
 
@@ -64,7 +64,7 @@ FocusScope {
         }
     }
 
-    // By a repeater, since the loader of Qt 6.4 takes no bound component.
+    // By a repeater, because the Loader of Qt 6.4 does not accept a bound component.
     Repeater {
         model: root.hasGuide ? 1 : 0
 

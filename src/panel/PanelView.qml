@@ -15,7 +15,7 @@ FocusScope {
     readonly property Item keyboard: Window.activeFocusItem
 
     function giveKeyboard(field: int) {
-        // Whatever covers the panel has it.
+        // Whatever covers the panel has the focus.
         if (!root.enabled)
             return;
         if (field === PanelKeyboard.Field.Search)

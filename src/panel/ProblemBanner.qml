@@ -5,11 +5,11 @@ import QtQuick
 
 import Vesk.Components
 
-// Says, for as long as it lasts, that something could not be saved.
+// Reports that something could not be saved, as long as that is the case.
 Item {
     id: root
 
-    // One sentence; empty while all is well.
+    // One sentence; empty if there is no problem.
     required property string problem
 
     height: root.problem.length > 0 ? plate.height + Theme.space : 0
@@ -51,7 +51,7 @@ Item {
         Text {
             id: message
 
-            // The last problem stays readable while the banner goes.
+            // Keeps the last problem readable while the banner disappears.
             property string shown
 
             anchors.left: dot.right

@@ -6,7 +6,7 @@ import QtQuick
 import Vesk.Components
 import Vesk.Panel
 
-// One prompt: whether it is done, its text, and what can be done with it.
+// A prompt: whether it is done, its text, and its actions.
 Item {
     id: root
 

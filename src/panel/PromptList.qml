@@ -6,7 +6,7 @@ import QtQuick
 import Vesk.Components
 import Vesk.Panel
 
-// The prompts of their tab.
+// The list of the prompts tab.
 CardList {
     id: root
 

@@ -6,7 +6,7 @@ import QtQuick
 import Vesk.Components
 import Vesk.Panel
 
-// One row of the list of prompts: a section's header or a card.
+// A row in the list of prompts: a section's header or a card.
 CardRow {
     id: root
 

@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// How a row comes into the list.
+// The animation of a row that is added to the list.
 Transition {
     Spring {
         property: "opacity"

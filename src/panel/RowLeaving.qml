@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// How a row leaves the list.
+// The animation of a row that is removed from the list.
 Transition {
     Spring {
         property: "opacity"

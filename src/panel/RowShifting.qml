@@ -3,7 +3,8 @@ import QtQuick
 
 import Vesk.Components
 
-// How a row moves to another place in the list. One that is displaced while it still appears ends up whole.
+// The animation of a row that moves. A row that is displaced while it is still appearing ends up fully
+// visible.
 Transition {
     Spring {
         property: "y"

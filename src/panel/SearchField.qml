@@ -7,7 +7,7 @@ import Vesk.Components
 import Vesk.Editor
 import Vesk.Panel
 
-// The capsule that the user searches in.
+// The capsule-shaped search field.
 Plate {
     id: root
 
@@ -78,7 +78,7 @@ Plate {
         anchors.rightMargin: clear.visible ? Theme.space : Theme.margin
         anchors.verticalCenter: parent.verticalCenter
         clip: true
-        // Room for the caret before the first letter, and of a text that begins at the right.
+        // Room for the caret before the first letter and of a right-to-left text.
         leftPadding: 1
         rightPadding: 1
         horizontalAlignment: placeholder.visible ? TextInput.AlignLeft : undefined
@@ -97,7 +97,8 @@ Plate {
         Accessible.searchEdit: true
         Accessible.name: qsTr("Search")
         onTextChanged: root.model.search = text
-        // The menu acts on what is selected while it has the keyboard, as does who comes back to the window.
+        // Keep the selection: the menu acts on it while it has the focus, and so does a user who returns to
+        // the window.
         onActiveFocusChanged: {
             if (!activeFocus && !menu.isOpen && Window.active)
                 deselect();

@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// Leads from an open note back to the page or the application that it comes from.
+// Leads from an open note back to the page or application that it comes from.
 PressButton {
     id: root
 
@@ -56,7 +56,7 @@ PressButton {
         id: arrow
 
         anchors.left: name.right
-        // Close to what is left of a long label.
+        // Close to the rest of a truncated label.
         anchors.leftMargin: 5 - Math.floor(Math.max(0, name.width - name.contentWidth))
         anchors.verticalCenter: parent.verticalCenter
         name: "arrow.up.right"

@@ -3,7 +3,7 @@ import QtQuick
 
 import Vesk.Components
 
-// The application that a note was caught in.
+// The application that a note was captured from.
 Rectangle {
     id: root
 

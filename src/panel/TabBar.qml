@@ -6,15 +6,15 @@ import QtQuick
 import Vesk.Components
 import Vesk.Panel
 
-// Chooses what the list shows. A thumb slides to the tab that is chosen.
+// Selects what the list shows. A thumb slides to the current tab.
 Rectangle {
     id: root
 
     required property PanelModel model
-    // Larger texts take what room there is.
+    // Larger text uses whatever room there is.
     readonly property real tabWidth: Math.min(Math.round(128 * Theme.fonts.scale), Math.floor((root.maximumWidth - 6) / 3))
     property real maximumWidth: 3 * 128 + 6
-    // A long word among large texts is made to fit, and the others like it.
+    // If large text makes one word too long, all labels shrink until it fits.
     readonly property real labelScale: Math.min(notes.fittingScale, checklists.fittingScale, prompts.fittingScale)
 
     implicitWidth: 3 * root.tabWidth + 6

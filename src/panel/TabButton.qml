@@ -4,14 +4,14 @@ import QtQuick
 import Vesk.Components
 import Vesk.Panel
 
-// One tab: its title and, if there is anything in it, how much.
+// A tab: its title and, unless it is empty, the number of records.
 PressButton {
     id: root
 
     required property PanelModel model
     required property int tab
     required property int count
-    // How large the label is, 1 for as large as texts are.
+    // The scale of the label; 1 is the user's text size.
     required property real labelScale
     readonly property real fittingScale: Math.min(1, (root.width - 12) / Math.max(1, label.implicitWidth))
     readonly property bool isChosen: root.model.tab === root.tab

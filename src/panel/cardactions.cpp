@@ -14,7 +14,7 @@ namespace vesk {
 
 namespace {
 
-/// How much of what is typed into a note a power cut can take.
+/// How much typing in a note a power failure can lose.
 constexpr auto kSavesWithin = 500ms;
 
 RecordId idOf(const QString &text)
@@ -22,13 +22,13 @@ RecordId idOf(const QString &text)
     return RecordId::fromString(text);
 }
 
-/// An address that can be handed to a browser; nothing if the text is not a whole address. Browsers keep
-/// some signs of an address as they are that belong there only encoded, such as `|` and spaces.
+/// An address that can be handed to a browser; nullopt if the text is not a complete address. Browsers leave
+/// some characters unencoded that may only appear encoded, such as `|` and spaces.
 std::optional<QUrl> findAddress(const std::optional<QString> &text)
 {
     if (!text)
         return std::nullopt;
-    // On its own a percent sign would make Qt encode every other one as well, once more.
+    // A stray percent sign would make Qt encode all the others again.
     static const QRegularExpression kLonePercent(u"%(?![0-9A-Fa-f]{2})"_s);
     const QUrl url(text->trimmed().replace(kLonePercent, u"%25"_s), QUrl::TolerantMode);
     return url.isValid() && !url.scheme().isEmpty() ? std::optional(url) : std::nullopt;
@@ -66,7 +66,7 @@ QCoro::Task<> CardActions::saveSoon(QPointer<CardActions> self, Clock *clock)
 
 void CardActions::save()
 {
-    // What could not be written stays in the store, which tries again and has the panel say so.
+    // The store keeps what could not be written, tries again, and the panel reports it.
     static_cast<void>(m_store.save());
 }
 
@@ -164,7 +164,7 @@ bool CardActions::pasteBack(const RecordId &id)
     const Prompt *prompt = m_store.findPrompt(id);
     if (!note && !prompt)
         return false;
-    // Read before the note is closed, which removes a blank one.
+    // Read this before closing the note, which removes a blank one.
     const QString text = note ? note->text() : prompt->text();
     if (note)
         m_openNote.close();

@@ -17,9 +17,8 @@ class Clock;
 class NotesStore;
 class OpenNote;
 
-/// What the cards of the panel, and its keys, do to the records. They name their record by its
-/// identity, as the lists tell it; one that is gone is none, and nothing happens. Owned by the panel's
-/// model.
+/// What the panel's cards and keys do to records. Records are named by the identity that the lists give them;
+/// if a record is gone, nothing happens. Owned by the panel's model.
 class CardActions final : public QObject
 {
     Q_OBJECT
@@ -27,7 +26,7 @@ class CardActions final : public QObject
     QML_UNCREATABLE("The panel's model has the one.")
 
 public:
-    /// All of these have to outlive this.
+    /// All must outlive this object.
     CardActions(NotesStore &store, Clock &clock, OpenNote &openNote, CardSelection &selection);
 
     // Of a note.
@@ -35,31 +34,31 @@ public:
     Q_INVOKABLE void edit(const QString &id, const QString &text);
     Q_INVOKABLE void togglePinned(const QString &id);
     Q_INVOKABLE void toggleItem(const QString &id, int line);
-    /// Goes back to the page or the application that the note comes from, if there is one.
+    /// Returns to the page or application that the note comes from, if there is one.
     Q_INVOKABLE void openSource(const QString &id);
 
     Q_INVOKABLE void clearDonePrompts();
 
-    // Of either.
-    /// Opens a note; ticks a prompt as done, or no longer.
+    // For notes and prompts.
+    /// Opens a note; toggles whether a prompt is done.
     Q_INVOKABLE void activate(const QString &id);
-    /// Deletes it; the selection passes on to what takes its place.
+    /// Deletes the record; the selection moves to the card that takes its place.
     Q_INVOKABLE void remove(const QString &id);
     Q_INVOKABLE void copy(const QString &id);
     Q_INVOKABLE void pasteBack(const QString &id);
 
-    // The same for the keys; false if there is no record with this identity.
+    // The same for the keys; returns false if there is no record with this identity.
     bool activate(const RecordId &id);
     bool remove(const RecordId &id);
     bool pasteBack(const RecordId &id);
 
 Q_SIGNALS:
-    /// A text shall go on the pasteboard as Vesk's own.
+    /// The receiver must put the text on the pasteboard as Vesk's own.
     void copyRequested(const QString &text);
-    /// A text shall be pasted into the application that the user came from.
+    /// The receiver must paste the text into the application that the user came from.
     void pasteRequested(const QString &text);
     void urlRequested(const QUrl &url);
-    /// An application shall be launched or brought forward, if it is installed.
+    /// The receiver must launch the application or bring it to the front, if it is installed.
     void applicationRequested(const QString &bundleIdentifier);
 
 private:

@@ -10,7 +10,7 @@ namespace vesk::carddata {
 
 namespace {
 
-/// More than a card's few lines can hold. Keeps a note of one endless line from being laid out.
+/// More than a card's few lines can hold. Avoids laying out all of a huge line.
 constexpr qsizetype kLongestShown = 600;
 
 QList<ChecklistItem> shownItems(const Note &note)
@@ -94,7 +94,7 @@ QString sourceLabel(const Note &note)
     const std::optional<QString> &app = note.sourceApp();
     if (!app)
         return {};
-    // The title of a window may hold line breaks; the label is one line.
+    // A window's title may contain line breaks; the label is a single line.
     const QString title = note.sourceTitle().value_or(QString()).left(kLongestShown).simplified();
     return title.isEmpty() ? QCoreApplication::translate("NoteCard", "from %1").arg(*app) : title;
 }

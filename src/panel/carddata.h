@@ -8,10 +8,10 @@ namespace vesk {
 
 class Note;
 
-/// What a card shows of its note, by the role of the list model that asks.
+/// What a card shows of its note, one function per role of the list model.
 namespace carddata {
 
-/// At most so many checkboxes are shown on a card.
+/// The maximum number of checkboxes shown on a card.
 inline constexpr qsizetype kMaximumItems = 3;
 
 [[nodiscard]] QString title(const Note &note);
@@ -19,21 +19,21 @@ inline constexpr qsizetype kMaximumItems = 3;
 [[nodiscard]] QString preview(const Note &note);
 [[nodiscard]] QStringList itemTexts(const Note &note);
 [[nodiscard]] QList<bool> itemsDone(const Note &note);
-/// Whether each item is read from right to left, as the note's editor shows it.
+/// Whether each item is right-to-left, as in the note's editor.
 [[nodiscard]] QList<bool> itemsRightToLeft(const Note &note);
 /// The line numbers of the items that are shown.
 [[nodiscard]] QList<int> itemLines(const Note &note);
-/// How many checkboxes are not shown.
+/// The number of checkboxes that are not shown.
 [[nodiscard]] int furtherItems(const Note &note);
 
-/// What a closed card says besides the title, for those who do not see it. `time` is how long ago the
-/// note was changed, in words.
+/// What a screen reader says about a closed card besides the title. `time` is how long ago the note was
+/// changed, in words.
 [[nodiscard]] QString spoken(const Note &note, const QString &time);
 
-/// What the button of an open card says that leads back to the note's source: the title of the window,
-/// or the application. Empty for a note without a source.
+/// The label of an open card's button that leads back to the note's source: the window's title, or the
+/// application. Empty for a note without a source.
 [[nodiscard]] QString sourceLabel(const Note &note);
-/// Where that button leads: an address, or the opening of an application.
+/// What that button opens: an address or an application.
 [[nodiscard]] QString sourceTip(const Note &note);
 
 } // namespace carddata

@@ -12,14 +12,14 @@ namespace vesk {
 
 class SectionedListModel;
 
-/// Which card is selected, if any, and how the selection moves in the list that is shown. Owned by the
-/// panel's model.
+/// Which card is selected, if any, and how the selection moves in the current list. Owned by the panel's
+/// model.
 class CardSelection final : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The panel's model has the one.")
-    /// The identity of the selected card's record; empty for none.
+    /// The identity of the selected card's record; empty if there is none.
     Q_PROPERTY(QString cardId READ cardId NOTIFY changed)
 
 public:
@@ -29,38 +29,39 @@ public:
     };
     Q_ENUM(Target)
 
-    /// The list has to outlive this, as has each that takes its place.
+    /// The list must outlive this object, and so must each list that replaces it.
     explicit CardSelection(const SectionedListModel &list);
 
     void setList(const SectionedListModel &list) { m_list = &list; }
 
-    /// The record that keys act on: the selected one while its card is in the list that is shown. A
-    /// card that a search, a folded section or another tab has taken away comes back selected, but
-    /// until then there is none.
+    /// The record that keys act on: the selected one while its card is in the current list. If a search, a
+    /// collapsed section or another tab hides the card, this is nullopt until the card returns, still
+    /// selected.
     [[nodiscard]] std::optional<RecordId> selected() const;
     [[nodiscard]] QString cardId() const;
     void select(const std::optional<RecordId> &id);
-    /// Selects the next card, or with -1 the one before; without a selection the first or the last.
+    /// Selects the next card, or with -1 the previous one; without a selection, the first or the last.
     void move(int delta);
-    /// A record is about to be deleted: what takes its card's place is selected, if that card was.
+    /// Call this when a record is about to be deleted. If its card is selected, selects the one that takes
+    /// its place.
     void leave(const RecordId &id);
-    /// Selects the first card, unless one that is shown is selected. False if there is no card.
+    /// Selects the first card unless a visible one is selected. Returns false if there is no card.
     Q_INVOKABLE bool selectSomething();
 
-    /// Whether the user can see what a key is about to act on: the selected card, or with
-    /// `Target::Control` the button in the list that has the keyboard. If not, for it was scrolled
-    /// away, the view scrolls it back. True if no view is shown.
+    /// Whether the user can see what a key is about to act on: the selected card, or with `Target::Control`
+    /// the focused button in the list. If it has been scrolled away, the view scrolls it back. True if there
+    /// is no view.
     [[nodiscard]] bool isInSight(Target target);
-    /// The view's answer to `sightAsked` if it had to scroll.
+    /// The view calls this in response to `sightAsked` if it had to scroll.
     Q_INVOKABLE void reportOutOfSight() { m_isInSight = false; }
 
 Q_SIGNALS:
     void changed();
-    /// The view that shows the list has to answer before it returns.
+    /// The view that shows the list must answer before this returns.
     void sightAsked(vesk::CardSelection::Target target);
 
 private:
-    /// Where the selected card is among those shown.
+    /// The index of the selected card among those shown.
     [[nodiscard]] std::optional<int> index() const;
 
     const SectionedListModel *m_list;

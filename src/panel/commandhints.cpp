@@ -14,9 +14,9 @@ namespace {
 
 struct Entry
 {
-    /// Nullopt for what is typed.
+    /// nullopt for a hint about typing.
     std::optional<Command> command;
-    /// Separated by spaces, if there is no command.
+    /// Separated by spaces; used if there is no command.
     QStringView keys;
     const char *hint;
 };

@@ -9,20 +9,20 @@
 
 namespace vesk {
 
-/// The global commands that an empty panel tells of, each with its keys.
+/// The global commands that an empty panel explains, each with its keys.
 class CommandHints : public QAbstractListModel
 {
     Q_OBJECT
     QML_ELEMENT
-    /// Without them there are no rows.
+    /// If null, there are no rows.
     Q_PROPERTY(vesk::CommandKeys *commandKeys READ commandKeys WRITE setCommandKeys NOTIFY commandKeysChanged)
 
 public:
     enum Role {
         KeysRole = Qt::UserRole + 1, ///< QStringList, in the notation of Vesk's texts
         HintRole,                    ///< QString
-        IsTakenRole,                 ///< bool, whether another program has the keys
-        SpokenRole,                  ///< QString, the keys and the hint, for those who do not see them
+        IsTakenRole,                 ///< bool, whether the keys are taken by another program
+        SpokenRole,                  ///< QString, the keys and the hint for a screen reader
     };
 
     [[nodiscard]] CommandKeys *commandKeys() const { return m_keys; }
@@ -41,7 +41,7 @@ private:
     [[nodiscard]] QString hintOf(size_t entry) const;
 
     QPointer<CommandKeys> m_keys;
-    /// Numbers of the entries whose keys are not switched off.
+    /// The indexes of the entries whose keys are not switched off.
     QList<size_t> m_shown;
 };
 

@@ -9,7 +9,8 @@ namespace {
 
 constexpr QChar kEllipsis(0x2026);
 
-/// Marks of a pause or an end, in several scripts; not those of a question or a call, which mean something.
+/// Punctuation that marks a pause or an end, in several scripts; not question and exclamation marks, which
+/// carry meaning.
 constexpr QStringView kPauses =
     u".,;:\u2026\u00b7\u2022\u2013\u2014-\u060c\u061b\u06d4\u3001\u3002\uff0c\uff1a\uff1b";
 
@@ -26,7 +27,7 @@ QString cutOff(QStringView line, const QFont &font, qreal width)
 {
     const QString whole = withoutPause(line).toString() + kEllipsis;
     const QString cut = QFontMetricsF(font).elidedText(whole, Qt::ElideRight, width);
-    // Where not even a letter has room, nothing may be left.
+    // If there is no room for even one letter, the result may be empty.
     return cut.endsWith(kEllipsis) ? withoutPause(cut).toString() + kEllipsis : cut;
 }
 

@@ -10,7 +10,7 @@ namespace vesk {
 
 namespace {
 
-/// Stands between a text and its source; in no UTF-8 text, so that nothing is found across it.
+/// Separates a text from its source. Cannot occur in UTF-8, so no match spans it.
 constexpr char kBetween = '\xff';
 
 std::string_view view(const QByteArray &bytes)
@@ -18,7 +18,7 @@ std::string_view view(const QByteArray &bytes)
     return {bytes.constData(), static_cast<size_t>(bytes.size())};
 }
 
-/// Several times as fast as Qt's own search where the query is short, as most are.
+/// Several times as fast as Qt's own search for short queries, which most are.
 bool isIn(std::string_view text, const QByteArray &query)
 {
     return text.find(view(query)) != std::string_view::npos;

@@ -14,21 +14,21 @@ namespace vesk {
 
 class Note;
 
-/// The texts and sources of notes as they are searched, each folded once until its note changes or
-/// all are forgotten.
+/// The searchable form of the notes' texts and sources, each folded once until its note changes or everything
+/// is forgotten.
 class FoldedTexts final
 {
 public:
-    /// Whether a note's text or the name of its source contains a query that was folded by
+    /// Whether a note's text or the name of its source contains a query that was folded with
     /// `searchtext::folded`.
     [[nodiscard]] bool contains(const Note &note, const QByteArray &query);
-    /// The same for a note that was folded before; none if it was not.
+    /// The same for a note that has already been folded; nullopt if it has not.
     [[nodiscard]] std::optional<bool> contains(const RecordId &id, const QByteArray &query) const;
     /// Folds a note ahead of the first search.
     void prepare(const Note &note) { find(note); }
 
     void forget(const RecordId &id) { m_texts.remove(id); }
-    /// Gives all memory back.
+    /// Releases all memory.
     void forgetAll();
 
 private:
@@ -36,9 +36,9 @@ private:
 
     const Text &find(const Note &note);
 
-    /// The texts lie close to each other, so that what they took is whole pages again once they are gone.
+    /// Keeps the texts close together, so that whole pages become free once they are gone.
     std::pmr::unsynchronized_pool_resource m_pool;
-    /// A search looks each note up, in no order that a cache knows: a table without nodes saves it a wait.
+    /// A search looks up each note in random order: a table without nodes avoids a cache miss per note.
     QHash<RecordId, Text> m_texts;
 };
 

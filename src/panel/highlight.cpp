@@ -10,11 +10,11 @@ namespace vesk {
 
 namespace {
 
-/// A text without case and diacritics, and where each of its units comes from.
+/// A text without case and diacritics, and the origin of each of its units.
 struct Folded
 {
     QString text;
-    /// For each unit of `text` the start of its letter in the original; at the end, its length.
+    /// For each unit of `text`, the start of its letter in the original; finally, the original's length.
     QList<qsizetype> origins;
 };
 
@@ -23,7 +23,7 @@ bool isMark(char32_t letter)
     return QChar::category(letter) == QChar::Mark_NonSpacing;
 }
 
-/// Full case folding, by which the German sharp s is two letters; Qt folds letter by letter.
+/// Full case folding, which turns the German sharp s into two letters; Qt folds one letter into one.
 QString withoutCase(const QString &letter)
 {
     std::array<UChar, 8> folded{};
@@ -72,7 +72,7 @@ QList<TextRange> matchRanges(const QString &text, const QString &query)
     qsizetype from = 0;
     while ((from = folded.text.indexOf(wanted, from)) >= 0) {
         const qsizetype start = folded.origins.at(from);
-        // Half of a letter that folds into two (the German sharp s) takes the whole letter.
+        // A match of half a letter that folds into two (the German sharp s) includes the whole letter.
         qsizetype end = from + wanted.size();
         while (end < folded.text.size() && folded.origins.at(end) == folded.origins.at(end - 1))
             ++end;

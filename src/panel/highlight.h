@@ -15,8 +15,8 @@ struct TextRange
     friend bool operator==(const TextRange &, const TextRange &) = default;
 };
 
-/// Where `query` stands in `text`, case and diacritics aside: from the start, each match after the
-/// one before. A match takes the combining marks of its last letter along. Empty for an empty query.
+/// Where `query` occurs in `text`, ignoring case and diacritics: from the start, without overlaps. A match
+/// includes the combining marks of its last letter. Empty for an empty query.
 [[nodiscard]] QList<TextRange> matchRanges(const QString &text, const QString &query);
 
 } // namespace vesk

@@ -11,13 +11,13 @@
 
 namespace vesk {
 
-/// The sections of a list of records and what stands in them, newest first, seen as rows: a header
-/// and, unless the section is collapsed, one row for each card. Owned by the list model, which tells
-/// the views of every change.
+/// The sections of a list of records and their entries, newest first, seen as rows: a header and, unless the
+/// section is collapsed, a row for each card. Owned by the list model, which reports every change to the
+/// views.
 class ListSections final
 {
 public:
-    /// A record and the date by which it is placed.
+    /// A record and the date that it is sorted by.
     struct Entry
     {
         Date date;
@@ -29,7 +29,7 @@ public:
 
     struct Section
     {
-        /// Names the section in the user's defaults.
+        /// The section's name in the user's defaults.
         QString key;
         QString title;
         bool isCollapsed = false;
@@ -37,24 +37,24 @@ public:
         Entries entries = {};
     };
 
-    /// Where a card is, shown or in a collapsed section.
+    /// The position of a card, whether it is shown or in a collapsed section.
     struct CardPlace
     {
         size_t section = 0;
         size_t card = 0;
     };
 
-    /// What a row is: a card, or with no card a section's header.
+    /// What a row is: a card, or a section's header if there is no card.
     struct RowPlace
     {
         size_t section = 0;
         std::optional<size_t> card;
     };
 
-    /// The sections in the order in which they are shown.
+    /// `sections` is in display order.
     explicit ListSections(std::vector<Section> sections);
 
-    /// The order within a section, which is also the store's.
+    /// The sort order within a section, which is also the store's.
     [[nodiscard]] static bool before(const Entry &a, const Entry &b);
 
     [[nodiscard]] size_t count() const { return m_sections.size(); }
@@ -66,15 +66,15 @@ public:
     }
 
     [[nodiscard]] int rowCount() const;
-    /// `row` is at least 0 and less than `rowCount`.
+    /// `row` must be at least 0 and less than `rowCount`.
     [[nodiscard]] RowPlace place(int row) const;
-    /// The row of a section's header, or the one that it would have.
+    /// The row of a section's header, or the row that it would have.
     [[nodiscard]] int headerRow(size_t index) const;
-    /// The row of a card, or the one that a card put there would have; the section is not collapsed.
+    /// The row of a card, or of a card inserted there; the section must not be collapsed.
     [[nodiscard]] int cardRow(const CardPlace &place) const;
-    /// Where an entry stands, or would stand, in a section.
+    /// Where an entry is, or would be inserted, in a section.
     [[nodiscard]] size_t position(size_t index, const Entry &entry) const;
-    /// Where the record with this identity stands, in a collapsed section too.
+    /// Where the record with this identity is, including collapsed sections.
     [[nodiscard]] std::optional<CardPlace> find(const RecordId &id) const;
 
     // The cards of all sections that are not collapsed, in order.

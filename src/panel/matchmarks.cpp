@@ -26,7 +26,7 @@ void MatchMarks::setDocument(QQuickTextDocument *document)
     Q_EMIT changed();
 }
 
-/// Inside a change of the text, which then lays out and paints what has changed here as well.
+/// During a change of the text, after which the marked parts are laid out and painted along with it.
 void MatchMarks::mark()
 {
     if (!m_document || (m_query.isEmpty() && !m_hasMarks))
@@ -44,7 +44,7 @@ void MatchMarks::mark()
         }
         block.layout()->setFormats(formats);
     }
-    // All at once: block by block it would be laid out as often.
+    // All at once: doing it for each block would lay out the text each time.
     text.markContentsDirty(0, text.characterCount());
 }
 
@@ -52,7 +52,7 @@ void MatchMarks::markAnew()
 {
     if (!m_document)
         return;
-    // An empty change, without which the item would not paint itself again.
+    // An empty change, without which the item would not repaint.
     QTextCursor cursor(m_document->textDocument());
     cursor.beginEditBlock();
     mark();

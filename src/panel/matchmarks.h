@@ -9,7 +9,7 @@
 
 namespace vesk {
 
-/// Marks the matches of a search in the text of a text item.
+/// Highlights the matches of a search in a text item.
 class MatchMarks : public QObject
 {
     Q_OBJECT

@@ -75,7 +75,7 @@ MatchText::Lines MatchText::breakLines(const QString &text)
         line.setPosition(QPointF(0, made.height));
         made.height += line.height();
         made.lastStart = line.textStart();
-        // A line that may not wrap holds the whole text, and shows what fits.
+        // A line that must not wrap holds the whole text, and shows what fits.
         const bool isWhole = m_maximumLineCount > 1 || line.naturalTextWidth() <= width();
         made.end = isWhole ? line.textStart() + line.textLength() : line.textStart();
     }

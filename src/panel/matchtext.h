@@ -9,8 +9,8 @@
 
 namespace vesk {
 
-/// A text of a few lines, cut off with an ellipsis, in which the matches of a search are marked. The
-/// text is plain: nothing in it is read as markup.
+/// A text of a few lines, truncated with an ellipsis, in which the matches of a search are highlighted. The
+/// text is plain: nothing in it is interpreted as markup.
 class MatchText : public QQuickPaintedItem
 {
     Q_OBJECT
@@ -21,11 +21,10 @@ class MatchText : public QQuickPaintedItem
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
     Q_PROPERTY(QColor matchColor MEMBER m_matchColor NOTIFY changed)
     Q_PROPERTY(int maximumLineCount MEMBER m_maximumLineCount NOTIFY changed)
-    /// In points, between two lines.
+    /// The space between two lines, in points.
     Q_PROPERTY(qreal lineSpacing MEMBER m_lineSpacing NOTIFY changed)
     Q_PROPERTY(bool strikeOut MEMBER m_strikeOut NOTIFY changed)
-    /// Whether a text in which no character has a direction is read from right to left; by default as the
-    /// interface.
+    /// Whether a text without directional characters is right-to-left; defaults to the interface's direction.
     Q_PROPERTY(bool fallbackIsRightToLeft MEMBER m_fallbackIsRightToLeft NOTIFY changed)
 
 public:
@@ -43,8 +42,8 @@ protected:
 private:
     [[nodiscard]] bool isRightToLeft() const;
     void layOut();
-    /// Breaks `m_layout` into lines; gives where the last line that is shown starts, and whether
-    /// there would be more.
+    /// Breaks `m_layout` into lines; returns where the last displayed line starts, and whether there are
+    /// more.
     struct Lines
     {
         qsizetype lastStart = 0;

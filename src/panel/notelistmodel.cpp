@@ -14,16 +14,16 @@ namespace vesk {
 
 namespace {
 
-// The sections, in the order in which they are shown.
+// The sections in display order.
 constexpr size_t kPinned = 0;
 constexpr size_t kToday = 1;
 constexpr size_t kEarlier = 2;
 constexpr size_t kSectionCount = 3;
 
 constexpr std::chrono::milliseconds kTimesStayFresh = 30s;
-/// So many notes are folded at a time, to leave the event loop its turns.
+/// How many notes are folded at a time, so that the event loop can run in between.
 constexpr qsizetype kFoldedAtATime = 250;
-/// More notes than this moving are set in place all at once.
+/// If more notes than this move, they are rearranged at once instead.
 constexpr size_t kMostMoves = 24;
 
 Date dateOf(const QDateTime &time)
@@ -31,7 +31,7 @@ Date dateOf(const QDateTime &time)
     return Date{std::chrono::milliseconds{time.toMSecsSinceEpoch()}};
 }
 
-/// Most notes hold no box at all, which is told much faster than by reading their lines.
+/// Most notes contain no checkbox, which is found out much faster this way than by reading their lines.
 bool isChecklist(const QString &text)
 {
     return (text.contains(markup::kUnticked.front()) || text.contains(markup::kTicked.front()))
@@ -84,8 +84,8 @@ void NoteListModel::setQuery(const QString &query)
 {
     if (m_query == query)
         return;
-    // What does not contain a text does not contain a longer one either. As they are compared: an accent
-    // that is typed after its letter makes another letter of it.
+    // A text that does not contain a query does not contain a longer one either. Compare the folded forms: an
+    // accent typed after its letter changes the letter.
     QByteArray folded = searchtext::folded(query);
     const bool narrows = folded.contains(m_foldedQuery);
     m_query = query;
@@ -236,7 +236,7 @@ NoteListModel::Grouped NoteListModel::narrowed()
 
 bool NoteListModel::readDay()
 {
-    // The calendar is asked each time, since the user may be in another time zone by now.
+    // Ask for the calendar each time, because the user may have changed time zones.
     const auto now = std::chrono::floor<std::chrono::milliseconds>(m_clock.now()).time_since_epoch();
     const QDate today = QDateTime::fromMSecsSinceEpoch(now.count()).date();
     const Date start = dateOf(today.startOfDay());
@@ -306,7 +306,7 @@ void NoteListModel::follow(const Note &note)
     const bool isWanted = matches(note) || (isOpen && found);
     const size_t section = sectionOf(note);
     if (found && isWanted) {
-        // Of an open note only the editor is shown; the rest is read again when it is closed.
+        // An open note only shows its editor; the other roles are read again when it is closed.
         moveTo(*found, section, sortDate(note), isOpen ? QList<int>{TextRole, PinnedRole} : QList<int>{});
     } else if (found) {
         take(*found);

@@ -19,17 +19,17 @@ class Clock;
 class Note;
 class NotesStore;
 
-/// The notes that the panel lists on its tabs for notes and for checklists: pinned, of today, and
-/// earlier. Follows the store, the search text and the calendar. Owned by the panel's model. The
-/// base is named in full for the tools that read what QML sees.
+/// The notes that the panel lists on its tabs for notes and checklists: pinned, today's, and earlier. Follows
+/// the store, the search text and the calendar. Owned by the panel's model. The base class is fully qualified
+/// for the tools that read what QML sees.
 class NoteListModel final : public vesk::SectionedListModel
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The panel's model has the one list.")
-    /// All notes, whatever is searched for.
+    /// The number of all notes, regardless of the search.
     Q_PROPERTY(int noteCount READ noteCount NOTIFY countsChanged)
-    /// The notes with a checkbox among them.
+    /// The number of notes with a checkbox.
     Q_PROPERTY(int checklistCount READ checklistCount NOTIFY countsChanged)
 
 public:
@@ -39,7 +39,7 @@ public:
         Checklists,
     };
 
-    /// Of a card, besides the roles of every list.
+    /// The roles of a card, besides those of every list.
     enum NoteRole {
         TextRole = FirstCardRole, ///< QString, the whole text
         TitleRole,                ///< QString
@@ -49,15 +49,15 @@ public:
         ItemsDoneRole,            ///< QList<bool>, for each of them
         ItemsRightToLeftRole,     ///< QList<bool>, for each of them
         ItemLinesRole,            ///< QList<int>, for each of them
-        FurtherItemsRole,         ///< int, the checkboxes that are not shown
-        DoneRole,                 ///< int, of all checkboxes
-        TotalRole,                ///< int; 0 if the note is no checklist
+        FurtherItemsRole,         ///< int, the number of checkboxes not shown
+        DoneRole,                 ///< int, counting all checkboxes
+        TotalRole,                ///< int; 0 if the note is not a checklist
         TimeRole,                 ///< QString, how long ago it was changed
         SourceRole,               ///< QString, an application's name; empty if there is none
         SourceBundleRole,         ///< QString; empty if there is none
-        SourceLabelRole,          ///< QString, what leads back to the source; empty if nothing does
-        SourceTipRole,            ///< QString, where that leads
-        PinnedRole,               ///< bool
+        SourceLabelRole, ///< QString, the label of the button to the source; empty if there is no source
+        SourceTipRole,   ///< QString, what that button opens
+        PinnedRole,      ///< bool
     };
 
     NoteListModel(NotesStore &store, Clock &clock, Defaults &defaults, QObject *parent = nullptr);
@@ -65,15 +65,15 @@ public:
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
     void setScope(Scope scope);
-    /// Shows only the notes that contain the query in their text or their source's name.
+    /// Shows only notes that contain the query in their text or in their source's name.
     void setQuery(const QString &query);
-    /// While shown, the times are kept up to date and the day may change.
+    /// While shown, the times are kept up to date and a new day is noticed.
     void setShown(bool isShown);
-    /// While a note is open, every note stays at the place that it had when it was opened, and the open
-    /// one stays in the list whatever is written in it. None for no note.
+    /// While a note is open, every note keeps the position that it had when the note was opened, and the open
+    /// one stays in the list whatever is written in it. nullopt if no note is open.
     void setOpenNote(const std::optional<RecordId> &id);
 
-    /// The date by which a note is placed.
+    /// The date by which a note is sorted.
     [[nodiscard]] Date sortDate(const Note &note) const;
     [[nodiscard]] int noteCount() const;
     [[nodiscard]] int checklistCount() const { return static_cast<int>(m_checklists.size()); }
@@ -88,7 +88,7 @@ private:
     static QCoro::Task<> refreshWhileShown(QPointer<NoteListModel> self, Clock *clock, quint64 show);
 
     [[nodiscard]] bool matches(const Note &note);
-    /// Without looking the note up, if its text was folded before.
+    /// Does not look the note up if its text has already been folded.
     [[nodiscard]] bool matches(const RecordId &id);
     [[nodiscard]] bool isInScope(const RecordId &id) const;
     [[nodiscard]] size_t sectionOf(const Note &note) const;
@@ -97,7 +97,7 @@ private:
     [[nodiscard]] Grouped narrowed();
     bool readDay();
     void refresh();
-    /// Gives the notes that have changed while one was open the places of their dates.
+    /// Moves the notes that have changed while one was open to the positions of their dates.
     void thaw(const RecordId &closed);
     void foldAhead();
 
@@ -115,9 +115,9 @@ private:
     QByteArray m_foldedQuery;
     std::unordered_set<RecordId, RecordIdHash> m_checklists;
     std::optional<RecordId> m_openNote;
-    /// Of all notes that were there when the open one was opened.
+    /// Of all notes that existed when the open one was opened.
     std::unordered_map<RecordId, Date, RecordIdHash> m_frozenDates;
-    /// The user's current day: from its first moment up to the next day's.
+    /// The user's current day: from its first moment up to the start of the next.
     Date m_dayStart{};
     Date m_dayEnd{};
     quint64 m_shows = 0;

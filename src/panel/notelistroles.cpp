@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The part of the list of notes that tells a card what to show.
+// The part of the list of notes that provides the data of cards.
 #include "notes/notesstore.h"
 #include "panel/carddata.h"
 #include "panel/notelistmodel.h"

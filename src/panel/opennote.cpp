@@ -38,7 +38,7 @@ void OpenNote::close()
 {
     if (!m_id)
         return;
-    // Without motion the editor goes at once.
+    // Without animation the editor disappears at once.
     m_needs.editor.finishComposing();
     Note *note = m_needs.store.findNote(*m_id);
     setId(std::nullopt);
@@ -46,7 +46,7 @@ void OpenNote::close()
         m_needs.store.remove(*note);
         m_needs.selection.select(std::nullopt);
     }
-    // What could not be written stays in the store, which tries again and has the panel say so.
+    // The store keeps what could not be written, tries again, and the panel reports it.
     static_cast<void>(m_needs.store.save());
     if (m_needs.keyboard.isEditing() && !m_needs.keyboard.isInField())
         m_needs.keyboard.request(PanelKeyboard::Field::None);
@@ -73,7 +73,7 @@ void OpenNote::setId(const std::optional<RecordId> &id)
     if (id)
         m_needs.notes.setOpenNote(id);
     Q_EMIT changed();
-    // A card closes before its row moves: a view that takes the editor down in the midst of a move falls.
+    // Close a card before its row moves: destroying the editor in the middle of a move crashes the view.
     if (!m_id)
         m_needs.notes.setOpenNote(std::nullopt);
 }

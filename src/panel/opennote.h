@@ -23,11 +23,11 @@ class OpenNote final : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The panel's model has the one.")
-    /// The identity of the open note; empty for none.
+    /// The identity of the open note; empty if none is open.
     Q_PROPERTY(QString cardId READ cardId NOTIFY changed)
 
 public:
-    /// What the note's editor works with. All of these must outlive this.
+    /// The dependencies of the note's editor. All must outlive this object.
     struct Needs
     {
         NotesStore &store;
@@ -39,12 +39,11 @@ public:
 
     explicit OpenNote(const Needs &needs);
 
-    /// Opens a note in its place and selects it, after closing the one that is open.
+    /// Opens a note in place and selects it, after closing any other.
     void open(const Note &note);
-    /// Closes the open note, with what is being composed in it, and saves; a note that was left blank is
-    /// removed.
+    /// Commits what is being composed, closes the open note and saves; removes the note if it is blank.
     Q_INVOKABLE void close();
-    /// Closes the open note, and so removes it, if nothing is in it. Ends composing in any case.
+    /// Closes the open note, and so removes it, if it is blank. Commits what is being composed in any case.
     void closeIfBlank();
 
     [[nodiscard]] const std::optional<RecordId> &id() const { return m_id; }

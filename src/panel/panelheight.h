@@ -8,7 +8,7 @@ namespace vesk {
 
 class Defaults;
 
-/// How high the user wants the panel to be, in points; the screen may have less room. Owned by the
+/// The height that the user wants for the panel, in points; the screen may have less room. Owned by the
 /// panel's model.
 class PanelHeight final : public QObject
 {
@@ -19,15 +19,15 @@ class PanelHeight final : public QObject
 public:
     explicit PanelHeight(Defaults &defaults);
 
-    /// What was remembered last, or the usual height. Never below the panel's minimum.
+    /// The height remembered last, or the default. Never below the panel's minimum.
     [[nodiscard]] qreal wanted() const { return m_wanted; }
-    /// Holds until the program ends, unless `remember` is called.
+    /// Lasts until the program exits, unless `remember` is called.
     void setWanted(qreal height);
-    /// Keeps what is wanted now for later runs, in whole points.
+    /// Stores the wanted height for later runs, rounded to whole points.
     void remember();
 
 Q_SIGNALS:
-    /// The user has pressed the mouse on the upper edge; until its button is released the window follows.
+    /// The user has pressed the mouse on the upper edge; the window follows it until the button is released.
     void edgePressed();
 
 private:

@@ -6,38 +6,37 @@
 
 namespace vesk {
 
-/// Who has the keyboard in the panel, as its views tell, and what is asked of whoever has it. Owned by
-/// the panel's model.
+/// What has the focus in the panel, as its views report, and requests to it. Owned by the panel's model.
 class PanelKeyboard : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The panel's model has the one.")
-    /// The field that has the keyboard. Written by the view.
+    /// The field that has the focus. Written by the view.
     Q_PROPERTY(vesk::PanelKeyboard::Field activeField READ activeField WRITE setActiveField NOTIFY
                    activeFieldChanged)
-    /// The field that the view shall give the keyboard to, each time that `fieldRequest` rises.
+    /// The field that the view must focus each time `fieldRequest` increases.
     Q_PROPERTY(vesk::PanelKeyboard::Field requestedField READ requestedField NOTIFY requestedFieldChanged)
     Q_PROPERTY(qint64 fieldRequest READ fieldRequest NOTIFY fieldRequestChanged)
-    /// Whether a button has the keyboard, which Return presses; the other keys are the panel's. Written
-    /// by the view, like the two below.
+    /// Whether a button has the focus, so that Return presses it; all other keys are the panel's. Written by
+    /// the view, like the next two.
     Q_PROPERTY(bool isOnControl MEMBER m_isOnControl NOTIFY changed)
-    /// The open note's editor has the keyboard; all keys are its own.
+    /// Whether the open note's editor has the focus; it then gets all keys.
     Q_PROPERTY(bool isEditing MEMBER m_isEditing NOTIFY changed)
-    /// An input method is composing a text in a field; then the keys are its own.
+    /// Whether an input method is composing in a field; it then gets all keys.
     Q_PROPERTY(bool isComposing MEMBER m_isComposing NOTIFY changed)
 
 public:
-    /// The text fields that can have the keyboard.
+    /// The text fields that can have the focus.
     enum class Field {
-        /// Neither has it; the keys go to the list.
+        /// No field has the focus; the keys go to the list.
         None,
         Search,
         Composer,
     };
     Q_ENUM(Field)
 
-    /// Asks for a field, or with `None` for neither, to have the keyboard.
+    /// Requests that a field, or with `None` no field, gets the focus.
     void request(Field field);
 
     [[nodiscard]] Field activeField() const { return m_activeField; }
@@ -54,9 +53,9 @@ Q_SIGNALS:
     void requestedFieldChanged();
     void fieldRequestChanged();
     void changed();
-    /// The field that has the keyboard shall show its menu, or if neither has it the selected card.
+    /// The focused field must show its menu, or the selected card if no field has the focus.
     void menuRequested();
-    /// The composer shall break the line where its caret is.
+    /// The composer must insert a line break at its caret.
     void lineBreakRequested();
 
 private:

@@ -9,7 +9,7 @@ namespace vesk {
 
 namespace {
 
-/// The keys that the panel knows.
+/// The keys that the panel distinguishes.
 enum class Key {
     N,
     F,
@@ -27,7 +27,7 @@ enum class Held {
     Command,
     Shift,
     CommandShift,
-    /// These or any others.
+    /// Any key.
     Anything,
 };
 
@@ -49,7 +49,7 @@ struct Rule
     PanelAction action;
 };
 
-/// The first rule that fits decides; where none does, the key is not the panel's.
+/// The first matching rule decides; if none matches, the key is not the panel's.
 constexpr std::array kRules{
     Rule{Key::N, Held::Command, When::Always, PanelAction::WriteNote},
     Rule{Key::F, Held::Command, When::Always, PanelAction::Search},
@@ -106,7 +106,7 @@ std::optional<Key> keyOf(int key)
 
 bool isHeld(Held held, Qt::KeyboardModifiers modifiers)
 {
-    // The locks and the number pad do not count.
+    // Locks and the keypad modifier are ignored.
     constexpr Qt::KeyboardModifiers kCounted =
         Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
     switch (held) {

@@ -7,7 +7,7 @@ namespace vesk {
 
 /// What a key does in the panel.
 enum class PanelAction {
-    /// The key is not the panel's: it goes on to whatever has the keyboard.
+    /// The key is not the panel's: it goes to whatever has the focus.
     Pass,
     WriteNote,
     Search,
@@ -24,7 +24,7 @@ enum class PanelAction {
     PasteSelected,
     NextTab,
     PreviousTab,
-    /// The menu of the field that has the keyboard, or else of the selected card.
+    /// Shows the menu of the focused field, otherwise of the selected card.
     ShowMenu,
 };
 
@@ -36,13 +36,13 @@ struct PanelKeyState
     bool isSearching = false;
 };
 
-/// Whether an action is done again and again while its key is held. The others are done once a press:
-/// a key that is held a moment too long must not delete one note after another.
+/// Whether an action repeats while its key is held. Other actions happen once per press: a key held a moment
+/// too long must not delete one note after another.
 [[nodiscard]] bool repeats(PanelAction action);
-/// Whether an action is done to the selected card.
+/// Whether an action applies to the selected card.
 [[nodiscard]] bool actsOnSelection(PanelAction action);
 
-/// The key map of the panel: what a key does there. `key` is a `Qt::Key`.
+/// The panel's key map: what a key does. `key` is a `Qt::Key`.
 [[nodiscard]] PanelAction panelAction(int key, Qt::KeyboardModifiers modifiers, const PanelKeyState &state);
 
 } // namespace vesk

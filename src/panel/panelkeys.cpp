@@ -14,7 +14,7 @@ namespace vesk {
 
 namespace {
 
-/// Whether a key types something that a search can begin with; a space is for the control under it.
+/// Whether a key types something that a search can begin with; a space is for the focused control.
 bool typesText(const QKeyEvent &event)
 {
     constexpr Qt::KeyboardModifiers kCommands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
@@ -43,11 +43,11 @@ bool PanelKeys::handlePress(const QKeyEvent &event)
     PanelKeyboard &keyboard = *m_panel.keyboard();
     if (m_panel.guide()->isShown())
         return false;
-    // Whoever opens a note and types on writes into it, at its end.
+    // A user who opens a note and continues typing writes at its end.
     if (m_panel.openNote()->id() && m_panel.editor()->focusIfAwaited())
         return false;
     if (keyboard.isEditing()) {
-        // Its text gets the key, but where the user sees what becomes of it.
+        // The note's text gets the key, but only if the user can see the effect.
         if (m_panel.selection()->selected() == m_panel.openNote()->id())
             std::ignore = m_panel.selection()->isInSight(CardSelection::Target::Card);
         return false;
@@ -69,8 +69,8 @@ bool PanelKeys::handlePress(const QKeyEvent &event)
         return true;
     if (action == PanelAction::Pass && typesText(event) && !keyboard.isInField()
         && !m_panel.openNote()->id()) {
-        // Whoever opens the panel and types is looking for something. The field, which has the keyboard
-        // now, is given the key that began it.
+        // A user who opens the panel and types is searching. The field, which now has the focus, also gets
+        // the key that started the search.
         keyboard.request(PanelKeyboard::Field::Search);
     }
     const bool isDone = perform(action, event.key());

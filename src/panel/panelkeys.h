@@ -9,15 +9,14 @@ class Application;
 class PanelModel;
 enum class PanelAction;
 
-/// Does what the keys of the panel mean. What they mean stands in the key map. Owned by the panel's
-/// model.
+/// Carries out the panel's keys according to the key map. Owned by the panel's model.
 class PanelKeys final
 {
 public:
-    /// Both have to outlive this.
+    /// Both must outlive this object.
     PanelKeys(PanelModel &panel, Application &application);
 
-    /// True if the key press was for the panel; else it goes on to whatever has the keyboard.
+    /// Returns true if the key press was for the panel; otherwise it goes to whatever has the focus.
     bool handle(const QKeyEvent &event);
 
 private:
@@ -27,8 +26,8 @@ private:
 
     PanelModel &m_panel;
     Application &m_application;
-    /// The key whose press the panel has acted on, while it is held; 0 for none. What has the keyboard
-    /// by now, such as the note that was opened, must not get its repeats.
+    /// The key whose press the panel has handled, while it is held; 0 if there is none. Whatever has the
+    /// focus by now, such as a note that was opened, must not get its repeats.
     int m_spentKey = 0;
 };
 

@@ -6,13 +6,13 @@
 
 namespace vesk {
 
-/// What the panel's menu asks of the program. Owned by the panel's model; the program listens.
+/// The requests of the panel's menu to the program. Owned by the panel's model.
 class PanelMenu final : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The panel's model has the one.")
-    /// Whether a check for updates can be started now. False until the program says otherwise.
+    /// Whether a check for updates can be started now. Initially false; set by the program.
     Q_PROPERTY(bool canCheckForUpdates READ canCheckForUpdates WRITE setCanCheckForUpdates NOTIFY changed)
 
 public:
@@ -24,7 +24,7 @@ public:
 Q_SIGNALS:
     void changed();
 
-    // Each of these is sent by the menu's item.
+    // Each of these is emitted by a menu item.
     void guideRequested();
     void updateCheckRequested();
     void quickNoteRequested();

@@ -43,11 +43,11 @@ void PanelModel::commitDraft()
         m_store.insert(std::make_unique<Prompt>(m_clock, text, Prompt::Origin::FollowUp));
     } else {
         const Note &note = m_store.insert(std::make_unique<Note>(m_clock, markup::expandMarkup(text)));
-        // The new note is to be seen.
+        // Make sure that the new note is visible.
         if (m_tab == Tab::Checklists && !note.progress())
             setTab(Tab::Notes);
     }
-    // What could not be written stays in the store, which tries again and has the panel say so.
+    // The store keeps what could not be written, tries again, and the panel reports it.
     static_cast<void>(m_store.save());
     setDraft({});
 }
@@ -108,7 +108,7 @@ void PanelModel::becomeInactive()
 {
     m_notes.setShown(false);
     m_openNote.closeIfBlank();
-    // What could not be written stays in the store, which tries again and has the panel say so.
+    // The store keeps what could not be written, tries again, and the panel reports it.
     static_cast<void>(m_store.save());
 }
 
@@ -147,7 +147,7 @@ void PanelModel::setSearch(const QString &search)
 
 void PanelModel::searchCurrentList()
 {
-    // The list that is not shown is searched when its turn comes.
+    // The hidden list is searched when it is shown.
     if (m_tab == Tab::Prompts)
         m_prompts.setQuery(query());
     else

@@ -26,8 +26,8 @@ class Clock;
 class Defaults;
 class NotesStore;
 
-/// The state behind the panel. The views show it and forward to it; it knows no window. Records are
-/// kept by identity only and looked up each time.
+/// The state behind the panel. The views display it and forward input to it; it does not know about windows.
+/// Records are held by identity only and looked up each time.
 class PanelModel final : public QObject
 {
     Q_OBJECT
@@ -42,16 +42,16 @@ class PanelModel final : public QObject
     Q_PROPERTY(vesk::PanelMenu *menu READ menu CONSTANT)
     Q_PROPERTY(vesk::Guide *guide READ guide CONSTANT)
     Q_PROPERTY(vesk::PanelHeight *height READ height CONSTANT)
-    /// A handle on the text of the open note.
+    /// Access to the text of the open note.
     Q_PROPERTY(vesk::NoteEditorController *editor READ editor CONSTANT)
     Q_PROPERTY(vesk::PanelModel::Tab tab READ tab WRITE setTab NOTIFY tabChanged)
     Q_PROPERTY(QString search READ search WRITE setSearch NOTIFY searchChanged)
-    /// The search text as it is compared and highlighted.
+    /// The search text in the form that is compared and highlighted.
     Q_PROPERTY(QString query READ query NOTIFY searchChanged)
     Q_PROPERTY(QString draft READ draft WRITE setDraft NOTIFY draftChanged)
     /// Whether Vesk may read the text selected in other applications.
     Q_PROPERTY(bool isTrusted READ isTrusted NOTIFY isTrustedChanged)
-    /// Why something is not saved, or not copied, in one sentence; empty if all is.
+    /// Why something could not be saved or copied, as one sentence; empty if there is no problem.
     Q_PROPERTY(QString problem READ problem NOTIFY problemChanged)
 
 public:
@@ -64,33 +64,33 @@ public:
 
     using Field = PanelKeyboard::Field;
 
-    /// All of these have to outlive the model.
+    /// All must outlive the model.
     PanelModel(NotesStore &store, Clock &clock, Defaults &defaults, Application &application,
                Accessibility &accessibility);
 
-    /// Takes a key press of the panel's window. True if it was for the panel; else it goes on to
-    /// whatever has the keyboard.
+    /// Handles a key press of the panel's window. Returns true if it was for the panel; otherwise it goes to
+    /// whatever has the focus.
     bool handleKey(const QKeyEvent &event) { return m_keys.handle(event); }
 
-    /// Asks for a field, or with `None` for neither, to have the keyboard; the panel comes up for a field,
+    /// Requests that a field, or with `None` no field, gets the focus. For a field, the panel is shown
     /// without the guide.
     Q_INVOKABLE void requestField(vesk::PanelKeyboard::Field field);
-    /// Turns the draft of the composer into a note, or on their tab into a prompt; a blank one stays as
-    /// it is.
+    /// Turns the composer's draft into a note, or into a prompt on the prompts tab; a blank draft is left
+    /// unchanged.
     void commitDraft();
-    /// Has the user asked whether Vesk may read other applications.
+    /// Asks the user whether Vesk may read other applications.
     Q_INVOKABLE void askForTrust();
-    /// Goes to the next tab, or to the one before, and round at the end.
+    /// Switches to the next or the previous tab, wrapping around.
     Q_INVOKABLE void changeTab(bool isForwards);
 
-    /// To be called before each show: nothing is searched for, the day and times are of now, and a new
-    /// user is shown the guide.
+    /// Must be called before each show: clears the search, updates the day and the times, and shows the guide
+    /// to a new user.
     void prepareToShow();
-    /// To be called when the user has hidden the panel: no note is open, nothing is selected and no field
-    /// has the keyboard.
+    /// Must be called when the user has hidden the panel: closes any note, clears the selection and takes the
+    /// focus from all fields.
     void becomeHidden();
-    /// To be called when the panel has gone because the user turned to another application. What was open
-    /// or selected, and the field that was written in, are found again; what was typed is saved.
+    /// Must be called when the panel has disappeared because the user turned to another application. What was
+    /// open or selected, and the field that had the focus, are restored later; what was typed is saved.
     void becomeInactive();
 
     [[nodiscard]] NoteListModel *notes() { return &m_notes; }
@@ -104,7 +104,7 @@ public:
     [[nodiscard]] PanelHeight *height() { return &m_height; }
     [[nodiscard]] NoteEditorController *editor() { return &m_editor; }
     [[nodiscard]] Tab tab() const { return m_tab; }
-    /// Closes the open note if the tab is another one.
+    /// Closes the open note if this changes the tab.
     void setTab(Tab tab);
     [[nodiscard]] const QString &search() const { return m_search; }
     void setSearch(const QString &search);
@@ -113,7 +113,8 @@ public:
     void setDraft(const QString &draft);
     [[nodiscard]] bool isTrusted() const;
     [[nodiscard]] QString problem() const;
-    /// Why there is no recent copy of the store; empty if there is one. Any trouble with the store comes first.
+    /// Why there is no recent copy of the store; empty if there is one. Problems with the store itself take
+    /// precedence.
     void setCopyProblem(const QString &problem);
 
 Q_SIGNALS:
@@ -122,8 +123,8 @@ Q_SIGNALS:
     void draftChanged();
     void isTrustedChanged();
     void problemChanged();
-    /// A field was asked for, so the panel has to be up and have the keyboard. The receiver shows it
-    /// before it returns.
+    /// A field was requested, so the panel must be shown with the focus. The receiver shows it before this
+    /// returns.
     void showRequested();
 
 private:

@@ -20,22 +20,22 @@ class Surroundings;
 class Windows;
 struct Screen;
 
-/// The panel's window: made once, hidden, and from then on shown and hidden. It stands at the bottom
-/// right of the screen under the pointer and goes away when the user turns to another application.
+/// The panel's window: created hidden, once, and from then on shown and hidden. It is at the bottom right of
+/// the screen under the pointer and disappears when the user turns to another application.
 class PanelWindow final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// All of these have to outlive the window, and the engine has to be lent its surroundings before.
-    /// The window readies itself to be shown fast as soon as the event loop has nothing else to do.
+    /// All must outlive the window, and the engine must have been lent its surroundings before. The window
+    /// prepares itself for a fast first show as soon as the event loop is idle.
     PanelWindow(QQmlEngine &engine, PanelModel &model, Application &application, Screens &screens,
                 Windows &windows);
     ~PanelWindow() override;
 
-    /// Brings the panel up with the keyboard, on the screen under the pointer, with nothing searched for.
+    /// Shows the panel with the focus and an empty search, on the screen under the pointer.
     void showPanel();
-    /// Hides the program if the panel is up and has the keyboard; else brings the panel up.
+    /// Hides the program if the panel is shown with the focus; otherwise shows the panel.
     void togglePanel();
 
     [[nodiscard]] bool isShown() const { return m_view.isVisible(); }
@@ -47,15 +47,16 @@ protected:
 private:
     void prepareAhead();
     void position(const std::optional<Screen> &screen);
-    /// Puts the window back where it belongs on its own screen, in its shape.
+    /// Moves the window back to its place on its own screen, with its shape.
     void settle();
-    /// Takes a height that the window manager has given the window, as it does when the user resizes it
-    /// by the manager's own means, for what is wanted from now on.
+    /// Adopts a height set by the window manager, for example when the user resizes the window with the
+    /// manager's own means, as the wanted height.
     void adoptHeight();
-    /// Follows the mouse, which holds the upper edge.
+    /// Follows the mouse, which is dragging the upper edge.
     void dragEdge(qreal mouseY);
     void dropEdge();
-    /// The screen that the window's middle is on; else the main screen; none if there is no screen.
+    /// The screen that contains the window's centre; otherwise the main screen; nullopt if there is no
+    /// screen.
     [[nodiscard]] std::optional<Screen> ownScreen() const;
     void handleMouse(const QMouseEvent &event);
     void hideWindow();
@@ -67,13 +68,13 @@ private:
     Surroundings &m_surroundings;
     QQuickView m_view;
     QPropertyAnimation m_fadeIn;
-    /// Waits for the window manager's own answer to a change of screens, or for the end of a resize.
+    /// Waits for the window manager to respond to a change of screens, or for the end of a resize.
     QTimer m_settling;
     /// Runs while window managers may still resize the window because the screens have changed.
     QTimer m_screensSettling;
-    /// The height that was asked for last.
+    /// The height that was requested last.
     qreal m_askedHeight = 0;
-    /// Where the mouse was pressed, down from the window's upper edge.
+    /// Where the mouse was pressed, measured down from the window's upper edge.
     qreal m_grip = 0;
     bool m_isEdgeHeld = false;
 };

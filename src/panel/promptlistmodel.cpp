@@ -12,7 +12,7 @@ namespace vesk {
 
 namespace {
 
-// The sections, in the order in which they are shown.
+// The sections in display order.
 constexpr size_t kFollowUp = 0;
 constexpr size_t kSaved = 1;
 constexpr size_t kDone = 2;
@@ -130,7 +130,7 @@ void PromptListModel::promptRemoved(const RecordId &id)
 
 void PromptListModel::promptChanged(const Prompt &prompt)
 {
-    // A prompt's text never changes, so what is searched for still finds it or still does not.
+    // A prompt's text never changes, so neither does whether it matches the search.
     setSweeping(false);
     if (const std::optional<CardPlace> found = sections().find(prompt.id()))
         moveTo(*found, sectionOf(prompt), prompt.createdAt());

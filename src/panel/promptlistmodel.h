@@ -8,20 +8,20 @@ namespace vesk {
 class NotesStore;
 class Prompt;
 
-/// The prompts that the panel lists: those written in it, those saved from a selection, and those that
-/// are done. Follows the store and the search text. Owned by the panel's model. The
-/// base is named in full for the tools that read what QML sees.
+/// The prompts that the panel lists: those written in it, those saved from a selection, and those that are
+/// done. Follows the store and the search text. Owned by the panel's model. The base class is fully qualified
+/// for the tools that read what QML sees.
 class PromptListModel final : public vesk::SectionedListModel
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The panel's model has the one list.")
-    /// The prompts that are not done, whatever is searched for.
+    /// The number of prompts that are not done, regardless of the search.
     Q_PROPERTY(int openCount READ openCount NOTIFY countsChanged)
     Q_PROPERTY(bool hasDone READ hasDone NOTIFY countsChanged)
 
 public:
-    /// Of a card, besides the roles of every list.
+    /// The roles of a card, besides those of every list.
     enum PromptRole {
         TextRole = FirstCardRole, ///< QString
         DoneRole,                 ///< bool

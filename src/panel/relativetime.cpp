@@ -21,7 +21,7 @@ QDateTime local(Date date)
         std::chrono::floor<std::chrono::milliseconds>(date).time_since_epoch().count());
 }
 
-/// Whole months of the calendar between two points in time.
+/// The number of whole calendar months between two points in time.
 int monthsBetween(Date from, Date to)
 {
     const QDateTime first = local(from);
@@ -37,7 +37,7 @@ struct Distance
     URelativeDateTimeUnit unit;
 };
 
-/// The largest unit of which at least one has passed.
+/// The distance in the largest unit of which at least one has passed.
 Distance distance(Date from, Date to)
 {
     const auto passed = to - from;

@@ -11,15 +11,14 @@ struct URelativeDateTimeFormatter;
 
 namespace vesk {
 
-/// Says how long ago something was, in the user's language and short: "Just now", "3 hr. ago",
-/// "Yesterday".
+/// Says how long ago something was, briefly and in the user's language: "Just now", "3 hr. ago", "Yesterday".
 class RelativeTime final
 {
 public:
     RelativeTime();
     ~RelativeTime();
 
-    /// `date` as seen at `now`. What has yet to come is "Just now".
+    /// `date` relative to `now`. A future date is "Just now".
     [[nodiscard]] QString text(Date date, Date now) const;
 
 private:
@@ -27,7 +26,7 @@ private:
     {
         void operator()(URelativeDateTimeFormatter *formatter) const;
     };
-    /// Null if there is no data for any language; then every text but "Just now" is empty.
+    /// Null if there is no data for any language; then every text except "Just now" is empty.
     std::unique_ptr<URelativeDateTimeFormatter, Close> m_formatter;
 };
 

@@ -9,7 +9,7 @@ namespace vesk::searchtext {
 
 namespace {
 
-/// Turkish and Azerbaijani pair the dotted and the dotless i; everywhere else the common folding holds.
+/// Turkish and Azerbaijani pair the dotted and the dotless i; all other languages use the common folding.
 bool hasDottedPairs(const QLocale &locale)
 {
     return locale.language() == QLocale::Turkish || locale.language() == QLocale::Azerbaijani;
@@ -39,7 +39,7 @@ QByteArray folded(const QString &text)
 
 QByteArray folded(const QByteArray &utf8)
 {
-    // The first search of many notes waits for this, and most texts are nothing but ASCII.
+    // The first search of many notes waits for this, and most texts are pure ASCII.
     if (isAscii(utf8) && !hasDottedPairs(QLocale()))
         return utf8.toLower();
     return folded(QString::fromUtf8(utf8));

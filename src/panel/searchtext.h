@@ -4,16 +4,16 @@
 #include <QByteArray>
 #include <QString>
 
-/// What a search in the panel goes by.
+/// The rules of the panel's search.
 namespace vesk::searchtext {
 
-/// What the user has typed, without spaces and tabs at both ends; line breaks stay.
+/// The query as typed, without spaces and tabs at either end; line breaks are kept.
 [[nodiscard]] QString query(const QString &typed);
 
-/// A text in the form in which one contains another exactly if a search finds it: UTF-8, case aside
-/// by the rules of the user's language, each accented letter in its one form. Accents count.
+/// The form in which one text contains another exactly if a search finds it: UTF-8, case-folded by the rules
+/// of the user's language, with each accented letter in a single form. Accents matter.
 [[nodiscard]] QByteArray folded(const QString &text);
-/// The same of a text in UTF-8.
+/// The same for a text in UTF-8.
 [[nodiscard]] QByteArray folded(const QByteArray &utf8);
 
 } // namespace vesk::searchtext

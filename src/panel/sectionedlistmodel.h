@@ -10,21 +10,21 @@ namespace vesk {
 
 class Defaults;
 
-/// Records in sections, as the rows of one flat list: headers and cards. What is in it changes by the
-/// smallest steps, never by a reset, so that a view keeps its place and the cards that stay.
+/// Records in sections, as the rows of one flat list: headers and cards. Content changes in the smallest
+/// possible steps, never by a reset, so that a view keeps its position and its remaining cards.
 class SectionedListModel : public QAbstractListModel
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The panel's model has the lists.")
-    /// No row at all: there are no records, or none matches.
+    /// True if there are no rows at all: there are no records, or none matches.
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY isEmptyChanged)
-    /// The rows have just been exchanged in bulk, or by a search; a view does not animate that.
+    /// The rows have just been exchanged in bulk, or by a search, which a view does not animate.
     Q_PROPERTY(bool isSweeping READ isSweeping NOTIFY isSweepingChanged)
 
 public:
     enum Role {
-        /// bool: the row is a section's header, else a card.
+        /// bool: whether the row is a section's header rather than a card.
         IsHeaderRole = Qt::UserRole + 1,
         // Of a header.
         SectionTitleRole, ///< QString
@@ -39,7 +39,7 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    /// Folds a section away, or brings it back, and remembers that. `row` is its header's.
+    /// Collapses or expands a section, and remembers that. `row` is its header's.
     Q_INVOKABLE void toggleSection(int row);
     /// The row of a card; -1 if it is not shown.
     [[nodiscard]] Q_INVOKABLE int rowOf(const QString &cardId) const;
@@ -58,7 +58,7 @@ public:
 Q_SIGNALS:
     void isEmptyChanged();
     void isSweepingChanged();
-    /// The rows are those of another search.
+    /// The rows are the results of another search.
     void searched();
 
 protected:
@@ -66,7 +66,7 @@ protected:
     using CardPlace = ListSections::CardPlace;
     /// The entries of each section, in order.
     using Grouped = std::vector<ListSections::Entries>;
-    /// Whether a view may animate what goes and comes. What a search finds is to be there at once.
+    /// Whether a view may animate rows that come and go. Search results must appear at once.
     enum class Regroup {
         InSight,
         AtOnce
@@ -74,22 +74,22 @@ protected:
 
     SectionedListModel(std::vector<ListSections::Section> sections, Defaults &defaults, QObject *parent);
 
-    /// What a card tells by a role from `FirstCardRole` on. Null stands for a header, for which a
-    /// view wants an empty value of the role's type.
+    /// A card's data for a role from `FirstCardRole` on. A null `id` stands for a header, for which views
+    /// expect an empty value of the role's type.
     [[nodiscard]] virtual QVariant cardData(const RecordId *id, int role) const = 0;
 
-    /// Fills the empty list at the start, before anyone looks at it.
+    /// Fills the empty list at the start, before any view uses it.
     void load(Grouped entries);
 
-    // Each of these tells the views of what it does.
+    // Each of these notifies the views of its change.
     void place(size_t section, const Entry &entry);
     void take(const CardPlace &place);
-    /// Moves a card, or leaves it if it stands there already. `roles` are those that may have changed,
-    /// all if there are none.
+    /// Moves a card, or leaves it where it is if the position is the same. `roles` are those that may have
+    /// changed; empty for all.
     void moveTo(const CardPlace &from, size_t section, Date date, const QList<int> &roles = {});
     void regroup(const Grouped &wanted, Regroup how = Regroup::InSight);
-    /// Regroups at once by making rows those of other cards, which spares a view to make cards anew; not
-    /// for cards that have a state of their own in the view.
+    /// Regroups in place: rows are reused for other cards, so the view need not create delegates. Not for
+    /// cards that have state in the view.
     void exchange(const Grouped &wanted);
     void rowsChanged(const QList<int> &roles);
     void setSweeping(bool isSweeping);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The part of a list model that changes rows and tells the views of it.
+// The part of the list model that changes rows and notifies the views.
 #include "panel/sectionedlistmodel.h"
 
 #include <algorithm>
@@ -11,11 +11,11 @@ namespace {
 
 using Entries = ListSections::Entries;
 
-/// More runs of cards than this coming and going are a new list for the eye; then each section is
-/// exchanged as a whole, which is also much faster.
+/// If more runs of cards than this come and go, the list looks entirely new anyway; exchanging each section
+/// as a whole is then much faster.
 constexpr size_t kMostRuns = 24;
 
-/// A run of cards to take out, or to put in, at a place of the list as it is when its turn comes.
+/// A run of cards to remove, or to insert, at a position in the list as it is at that time.
 struct Run
 {
     size_t at = 0;
@@ -23,7 +23,7 @@ struct Run
     Entries inserted = {};
 };
 
-/// How to get from one list to the other, both in the order of `before`.
+/// How to turn one list into the other; both are in the order of `before`.
 std::vector<Run> runs(const Entries &from, const Entries &to)
 {
     std::vector<Run> steps;
@@ -72,7 +72,7 @@ void SectionedListModel::moveTo(const CardPlace &from, size_t section, Date date
     ListSections::Section &source = m_sections.section(from.section);
     ListSections::Section &target = m_sections.section(section);
     const Entry entry{.date = date, .id = source.entries.at(from.card).id};
-    // Where it goes among the others; its own old entry may stand before that place.
+    // Its position among the others; its own old entry may come before that.
     const bool isSameSection = from.section == section;
     CardPlace to{.section = section, .card = m_sections.position(section, entry)};
     if (isSameSection && to.card > from.card)
@@ -86,7 +86,7 @@ void SectionedListModel::moveTo(const CardPlace &from, size_t section, Date date
         source.entries.at(from.card) = entry;
     } else if (!source.isCollapsed && !target.isCollapsed) {
         const int row = m_sections.cardRow(from);
-        // The destination counts with the card still at its old place.
+        // The destination is counted with the card still at its old position.
         const bool isDownwards = isSameSection && to.card > from.card;
         beginMoveRows({}, row, row, {}, m_sections.cardRow(to) + (isDownwards ? 1 : 0));
         store();
@@ -153,7 +153,7 @@ void SectionedListModel::exchangeCards(size_t index, const Entries &wanted)
 {
     ListSections::Section &section = m_sections.section(index);
     Entries &entries = section.entries;
-    // First, since no card may be there twice.
+    // Remove first, because no card may be in the list twice.
     if (entries.size() > wanted.size())
         removeCards({.section = index, .card = wanted.size()}, entries.size() - wanted.size());
     const size_t kept = entries.size();

@@ -12,7 +12,7 @@ TabStop::TabStop(QQuickItem *parent)
 void TabStop::focusInEvent(QFocusEvent *event)
 {
     QQuickItem::focusInEvent(event);
-    // Only after the change of focus, in which another would be lost.
+    // Later, because a focus change during another one would be lost.
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
         QMetaObject::invokeMethod(this, &TabStop::reached, Qt::QueuedConnection);
 }

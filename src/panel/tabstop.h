@@ -5,8 +5,7 @@
 
 namespace vesk {
 
-/// A place in the order of the Tab key that tells when it is reached that way, so that it can pass the
-/// keyboard on.
+/// A stop of the Tab key that reports when it is reached that way, so that it can pass the focus on.
 class TabStop : public QQuickItem
 {
     Q_OBJECT

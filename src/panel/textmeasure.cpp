@@ -9,10 +9,10 @@ namespace vesk {
 
 namespace {
 
-/// More of a text than this is not needed to fill one line; keeps a very long one from being laid out.
+/// More text than this is never needed to fill a line; avoids laying out a very long one.
 constexpr qsizetype kLongestLine = 1000;
 
-/// The same text for a single layout, in which a line feed is no line break.
+/// The same text for a single layout, in which a line feed does not break lines.
 QString forLayout(const QString &text)
 {
     QString result = text;
@@ -41,7 +41,7 @@ void TextMeasure::measure()
     const QString start = m_text.left((m_lineLimit + 1) * kLongestLine);
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    // As the item that shows the text does.
+    // As in the item that shows the text.
     option.setUseDesignMetrics(true);
     QTextLayout layout(forLayout(start), m_font);
     layout.setTextOption(option);

@@ -8,7 +8,7 @@
 
 namespace vesk {
 
-/// Measures whether a text has more lines than may be shown at a width, and cuts it off if so.
+/// Measures whether a text has more lines than allowed at a width, and truncates it if so.
 class TextMeasure : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ class TextMeasure : public QObject, public QQmlParserStatus
     /// In points.
     Q_PROPERTY(qreal width MEMBER m_width NOTIFY inputChanged)
     Q_PROPERTY(int lineLimit MEMBER m_lineLimit NOTIFY inputChanged)
-    /// The text, or as much of it as the lines hold, ended by an ellipsis.
+    /// The text, or as much of it as fits into the lines, followed by an ellipsis.
     Q_PROPERTY(QString shortText READ shortText NOTIFY measured)
     Q_PROPERTY(bool isLong READ isLong NOTIFY measured)
 
