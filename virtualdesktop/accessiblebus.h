@@ -18,12 +18,12 @@ public:
         QString path;
     };
 
-    /// `sessionAddress` is that of the session bus, which knows the accessibility bus.
+    /// `sessionAddress` is that of the session bus, which provides the address of the accessibility bus.
     explicit AccessibleBus(const QString &sessionAddress);
     ~AccessibleBus();
     Q_DISABLE_COPY_MOVE(AccessibleBus)
 
-    /// The answer to a call; without a value for what was not answered.
+    /// The answer to a call; invalid if there was no answer.
     [[nodiscard]] QVariant ask(const Object &object, const QString &interface, const QString &method,
                                const QVariantList &arguments = {}) const;
     [[nodiscard]] QVariant property(const Object &object, const QString &interface,

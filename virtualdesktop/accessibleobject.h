@@ -6,10 +6,10 @@
 
 namespace vesk {
 
-/// What an application tells a screen reader of one thing that it shows.
+/// What an application tells a screen reader about one of its objects.
 struct AccessibleObject
 {
-    /// Those that the tests ask for, with the numbers of the accessibility bus.
+    /// The states that tests use, with their numbers on the accessibility bus.
     enum class State {
         Checked = 4,
         Editable = 7,
@@ -24,9 +24,9 @@ struct AccessibleObject
     QString description;
     QString role;
     quint64 states = 0;
-    /// On the screen.
+    /// In screen coordinates.
     QRect area;
-    /// Of an editable text: its content, and how many characters are in front of the caret; else -1.
+    /// For an editable text: its content, and the number of characters before the caret; otherwise -1.
     QString text{};
     int caret = -1;
 

@@ -10,7 +10,7 @@ namespace vesk {
 
 namespace {
 
-/// More objects than any window of the tests has; a tree that closes on itself ends here.
+/// More objects than any window in the tests has; stops at a tree that contains itself.
 constexpr qsizetype kMostObjects = 2000;
 
 const auto kAccessible = u"org.a11y.atspi.Accessible"_s;

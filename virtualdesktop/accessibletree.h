@@ -10,20 +10,20 @@
 
 namespace vesk {
 
-/// What an application tells a screen reader: everything that it shows.
+/// What an application tells a screen reader about everything that it shows.
 class AccessibleTree final
 {
 public:
-    /// `busAddress` is that of the session bus, which knows the accessibility bus.
+    /// `busAddress` is that of the session bus, which provides the address of the accessibility bus.
     explicit AccessibleTree(const QString &busAddress)
         : m_bus(busAddress)
     {
     }
 
-    /// The names of all objects of a process, in the order of the tree; empty if it tells none.
+    /// The names of all objects of a process, in tree order; empty if it exposes none.
     [[nodiscard]] QStringList names(qint64 pid) const;
 
-    /// All that it tells of them, in the same order.
+    /// Everything that the process exposes about them, in the same order.
     [[nodiscard]] QList<AccessibleObject> objects(qint64 pid) const;
 
 private:

@@ -29,7 +29,7 @@ std::unique_ptr<BusDaemon> BusDaemon::start()
     const QString file = bus->m_folder.filePath(u"bus.conf"_s);
     if (!writeFile(file, kConfiguration))
         return nullptr;
-    // The home of whoever runs this need not be there.
+    // The home folder of the user who runs this may not exist.
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"HOME"_s, bus->m_folder.path());
     bus->m_process =

@@ -7,11 +7,11 @@
 
 namespace vesk {
 
-/// A message bus of the test's own. It ends with this object.
+/// A separate message bus for a test. It ends with this object.
 class BusDaemon final
 {
 public:
-    /// A bus on which nothing is started that is asked for; null if it did not come up.
+    /// A bus that activates no services; null if it did not start.
     [[nodiscard]] static std::unique_ptr<BusDaemon> start();
 
     [[nodiscard]] const QString &address() const { return m_address; }

@@ -19,7 +19,7 @@ std::unique_ptr<ChildProcess> ChildProcess::start(const Command &command)
     child->m_errorFile = command.errorFile;
     QProcess &process = child->m_process;
     process.setProcessEnvironment(command.environment);
-    // What it leaves behind goes with the home folder.
+    // Files that it leaves behind are removed with the home folder.
     process.setWorkingDirectory(command.environment.value(QStringLiteral("HOME")));
     process.setStandardErrorFile(command.errorFile, QIODevice::Append);
     process.setStandardInputFile(QProcess::nullDevice());
@@ -90,7 +90,7 @@ qint64 ChildProcess::pid() const
 
 bool ChildProcess::isRunning()
 {
-    // Looks for the end that may have come meanwhile; no event loop runs that would tell.
+    // Check whether it has exited meanwhile; no event loop is running that would report it.
     if (m_process.state() != QProcess::NotRunning)
         m_process.waitForFinished(0);
     return m_process.state() != QProcess::NotRunning;

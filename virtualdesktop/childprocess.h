@@ -9,8 +9,8 @@
 
 namespace vesk {
 
-/// One program that a virtual desktop runs, in a session of its own. It dies with this object, and
-/// with the test's process.
+/// A program on a virtual desktop, in a separate session. It is killed with this object, and with the test's
+/// process.
 class ChildProcess final
 {
 public:
@@ -19,7 +19,7 @@ public:
         QString program;
         QStringList arguments;
         QProcessEnvironment environment;
-        /// The file that takes what the program prints on standard error.
+        /// The file that receives the program's standard error.
         QString errorFile;
     };
 
@@ -28,28 +28,28 @@ public:
     ~ChildProcess();
     Q_DISABLE_COPY_MOVE(ChildProcess)
 
-    /// The next line of its standard output without the line end; empty if none came within `bound`.
+    /// The next line of its standard output without the line end; empty if none arrived within `bound`.
     [[nodiscard]] QString readLine(std::chrono::milliseconds bound);
 
-    /// What it has printed on standard output and nobody has read.
+    /// What it has printed on standard output that has not been read yet.
     [[nodiscard]] QString output();
 
-    /// True once it has ended. Failure: false after `bound`.
+    /// Returns true once it has exited, false after `bound`.
     [[nodiscard]] bool waitForExit(std::chrono::milliseconds bound);
 
     /// Sends the signal.
     void signal(int number);
 
-    /// Ends it at once, as a power cut would, and returns when it is gone.
+    /// Kills it at once, as a power failure would, and returns when it is gone.
     void kill();
 
-    /// Asks it to quit; kills it if it has not within five seconds. True if it went by itself.
+    /// Asks it to quit; kills it after five seconds. Returns true if it quit by itself.
     bool quit();
 
     [[nodiscard]] qint64 pid() const;
     [[nodiscard]] bool isRunning();
 
-    /// Its exit code after it ended by itself, -1 after it was ended by a signal.
+    /// Its exit code if it exited by itself, -1 if a signal ended it.
     [[nodiscard]] int exitCode() const;
     [[nodiscard]] QString errorOutput() const;
 

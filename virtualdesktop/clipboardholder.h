@@ -8,19 +8,19 @@
 
 namespace vesk {
 
-/// What a user has copied or selected in some other program, which owns the selection and serves it.
+/// What a user has copied or selected in another program, which owns the selection and serves it.
 class ClipboardHolder final
 {
 public:
     using Forms = QMap<QByteArray, QByteArray>;
 
-    /// Owns the selection when this returns. Null if the server did not answer. The silent forms are offered
-    /// too, and whoever asks for one gets no answer.
+    /// The selection is owned when this returns. Null if the server did not answer. The silent forms are
+    /// offered too, but a request for one gets no answer.
     [[nodiscard]] static std::unique_ptr<ClipboardHolder> hold(const QString &displayName, const Forms &forms,
                                                                const char *selection = "CLIPBOARD",
                                                                const QList<QByteArray> &silent = {});
 
-    /// A program that hangs goes on owning the clipboard and answers nobody.
+    /// A program that hangs keeps the clipboard and answers nobody.
     void setHanging(bool isHanging) { m_isHanging = isHanging; }
 
 private:

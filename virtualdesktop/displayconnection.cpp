@@ -52,7 +52,7 @@ bool DisplayConnection::waitUntil(std::chrono::milliseconds bound, const std::fu
     QElapsedTimer timer;
     timer.start();
     for (;;) {
-        // Events are dropped before the question, so that none that comes after it is missed.
+        // Drop events before evaluating the condition, so that none after it is missed.
         while (Reply<xcb_generic_event_t>(xcb_poll_for_event(m_connection))) {
         }
         if (condition())

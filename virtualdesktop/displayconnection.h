@@ -13,34 +13,34 @@
 
 namespace vesk {
 
-/// The test's own connection to the X server, apart from all programs on the desktop.
+/// The test's own connection to the X server, separate from all programs on the desktop.
 class DisplayConnection final
 {
 public:
-    /// Null if the server does not answer. `name` as in ":7".
+    /// `name` is as in ":7". Null if the server does not answer.
     [[nodiscard]] static std::unique_ptr<DisplayConnection> open(const QString &name);
     ~DisplayConnection();
     Q_DISABLE_COPY_MOVE(DisplayConnection)
 
-    /// True as soon as `condition` holds: it is asked again after each event on the root window (a
-    /// window came, went or was activated) and every 5 ms. Failure: false after `bound`.
+    /// Returns true as soon as `condition` holds, false after `bound`. The condition is evaluated after each
+    /// event on the root window (a window appeared, disappeared or was activated) and every 5 ms.
     [[nodiscard]] bool waitUntil(std::chrono::milliseconds bound, const std::function<bool()> &condition);
 
-    /// The text of a selection ("PRIMARY", "CLIPBOARD"); none if it has no owner, or its owner gave
-    /// no text within `bound`.
+    /// The text of a selection ("PRIMARY", "CLIPBOARD"); nullopt if it has no owner, or its owner did not
+    /// provide a text within `bound`.
     [[nodiscard]] std::optional<QString> readSelection(const char *selection,
                                                        std::chrono::milliseconds bound);
 
-    /// One form of a selection as it is ("text/html"); none as above.
+    /// The unconverted contents of one form of a selection ("text/html"); nullopt as above.
     [[nodiscard]] std::optional<QByteArray> readForm(const char *selection, const char *form,
                                                      std::chrono::milliseconds bound);
 
-    /// What the whole screen shows now; null if the server refused.
+    /// The current contents of the whole screen; null if the server refused.
     [[nodiscard]] QImage screenshot() const;
 
     [[nodiscard]] xcb_atom_t atom(const char *name) const;
     [[nodiscard]] xcb_connection_t *xcb() const { return m_connection; }
-    /// A window that is never shown, for owning and asking.
+    /// A window that is never shown, for owning and requesting selections.
     [[nodiscard]] xcb_window_t window() const { return m_window; }
     [[nodiscard]] xcb_window_t root() const { return m_screen->root; }
     [[nodiscard]] QSize size() const { return {m_screen->width_in_pixels, m_screen->height_in_pixels}; }
@@ -55,7 +55,7 @@ private:
     xcb_window_t m_window;
 };
 
-/// A reply or error of xcb, which comes from malloc.
+/// Frees a reply or error of xcb, which is allocated with malloc.
 struct FreeReply
 {
     void operator()(void *reply) const { std::free(reply); }

@@ -7,14 +7,14 @@
 
 namespace vesk {
 
-/// All that stands in a file; empty if it cannot be read.
+/// The contents of a file; empty if it cannot be read.
 [[nodiscard]] inline QByteArray contentsOf(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Writes a file, and makes its folder. Returns whether both succeeded.
+/// Writes a file, creating its folder. Returns whether both succeeded.
 [[nodiscard]] inline bool writeFile(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);

@@ -17,7 +17,7 @@ namespace vesk {
 
 namespace {
 
-/// Parents by process, of all processes that there are.
+/// The parents of all running processes.
 QHash<pid_t, pid_t> processParents()
 {
     QHash<pid_t, pid_t> parents;
@@ -27,7 +27,7 @@ QHash<pid_t, pid_t> processParents()
         const pid_t process = name.toInt(&isProcess);
         if (!isProcess)
             continue;
-        // The program's name stands in brackets and may itself hold anything; count from its end.
+        // The program's name is in parentheses and may contain anything, so parse from its end.
         const QByteArray line = contentsOf(u"/proc/%1/stat"_s.arg(name));
         const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
         if (fields.size() > 1)
@@ -55,7 +55,7 @@ int exitCodeOf(int status)
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
 }
 
-/// Asks the kernel for `signal` when `parent`, our parent, ends; ends at once if it has ended already.
+/// Asks the kernel to send `signal` when `parent`, our parent, exits; exits at once if it already has.
 void endWith(pid_t parent, int signal)
 {
     prctl(PR_SET_PDEATHSIG, signal);
@@ -63,7 +63,7 @@ void endWith(pid_t parent, int signal)
         _exit(1);
 }
 
-/// Waits until the body ends or the runner's process does, then ends all that is left.
+/// Waits until the body or the runner's process exits, then ends everything that is left.
 [[noreturn]] void keepGuard(pid_t body, const sigset_t &signals)
 {
     for (;;) {

@@ -13,10 +13,10 @@ namespace vesk {
 /// the test runner knows is killed, so that a test that ran out of time leaves nothing behind.
 [[nodiscard]] int runGuarded(const std::function<int()> &body);
 
-/// Makes the calling process the one that orphans below it are handed to.
+/// Makes the calling process the new parent of orphans among its descendants.
 void adoptOrphans();
 
-/// Kills every process below the calling one and waits until none is left, for two seconds at most.
+/// Kills all descendants of the calling process and waits for at most two seconds until they are gone.
 void endDescendants();
 
 } // namespace vesk

@@ -124,7 +124,7 @@ void Keyboard::ungrab()
 
 bool Keyboard::isHotKeyTaken(xcb_keysym_t key) const
 {
-    // The server serves nobody else between the trial and its end, so the trial takes the key from no one.
+    // The server is grabbed from the attempt until its end, so it takes the key from nobody.
     xcb_connection_t *xcb = m_display.xcb();
     const xcb_keycode_t code = find(key).code;
     xcb_grab_server(xcb);

@@ -9,12 +9,12 @@
 
 namespace vesk {
 
-/// The user's keyboard: each press and release goes through the X server, as one from hardware does.
+/// The user's keyboard: each press and release goes through the X server as if it came from hardware.
 class Keyboard final
 {
 public:
     enum class Device {
-        /// The one of the XTEST extension, which all programs that send keys share.
+        /// The XTEST device, which all programs that send keys share.
         Programs,
         /// The X server's own keyboard.
         Hardware,
@@ -22,25 +22,25 @@ public:
 
     explicit Keyboard(DisplayConnection &display, Device device = Device::Programs);
 
-    /// Keys are named by their keysym; one that is not on the keyboard is not pressed.
+    /// Keys are identified by keysym; one that is not on the keyboard is not pressed.
     void press(xcb_keysym_t key);
     void release(xcb_keysym_t key);
 
-    /// Presses the keys in this order, the modifiers first, and releases them in the opposite one after
-    /// `hold`, which for a person is never nothing.
+    /// Presses the keys in this order, modifiers first, and releases them in reverse after `hold`, which is
+    /// never zero for a person.
     void tap(const QList<xcb_keysym_t> &keys, std::chrono::milliseconds hold = {});
 
     /// Types letters, digits, spaces and other characters of the keyboard's first two levels.
     void type(const QString &text);
 
-    /// Claims this key together with Super and Alt for this keyboard's connection.
+    /// Grabs this key together with Super and Alt on this keyboard's connection.
     void takeHotKey(xcb_keysym_t key);
 
-    /// Takes all keys from every other client, as an open menu does; false if one has them already.
+    /// Grabs the keyboard, as an open menu does; returns false if another client already has.
     [[nodiscard]] bool grab();
     void ungrab();
 
-    /// Whether another client has claimed this key together with Super and Alt.
+    /// Whether another client has grabbed this key together with Super and Alt.
     [[nodiscard]] bool isHotKeyTaken(xcb_keysym_t key) const;
 
 private:
@@ -55,7 +55,7 @@ private:
     void send(xcb_keysym_t key, quint8 type);
 
     DisplayConnection &m_display;
-    /// 0 for the device of the programs.
+    /// 0 for the XTEST device.
     quint8 m_hardware = 0;
     Reply<xcb_get_keyboard_mapping_reply_t> m_mapping;
 };

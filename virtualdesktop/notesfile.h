@@ -9,7 +9,7 @@
 
 namespace vesk {
 
-/// Vesk's store as it stands in the file, read by another process than Vesk.
+/// Vesk's store as it is in the file, read from outside Vesk.
 class NotesFile final
 {
 public:
@@ -18,7 +18,7 @@ public:
 
     explicit NotesFile(QString path);
 
-    /// All notes, the oldest first. None if the file is not there or cannot be read.
+    /// All notes, oldest first; nullopt if the file does not exist or cannot be read.
     [[nodiscard]] std::optional<QList<Row>> notes() const;
 
     /// All prompts, likewise.
@@ -27,13 +27,14 @@ public:
     /// The notes' texts in the same order; empty if the file cannot be read.
     [[nodiscard]] QStringList texts() const;
 
-    /// The prompts' texts, the oldest first; empty if the file cannot be read.
+    /// The prompts' texts, oldest first; empty if the file cannot be read.
     [[nodiscard]] QStringList promptTexts() const;
 
     /// "ok", or what SQLite found wrong.
     [[nodiscard]] QString integrity() const;
 
-    /// Marks the store as written by a much later Vesk. False if the file cannot be written.
+    /// Marks the store as written by a much later version of Vesk. Returns false if the file cannot be
+    /// written.
     [[nodiscard]] bool raiseSchemaVersion();
 
     [[nodiscard]] const QString &path() const { return m_path; }

@@ -47,7 +47,7 @@ void Pointer::click(QPoint place, int times)
 
 bool Pointer::isTaken() const
 {
-    // Asked for with a window that is not shown, the pointer is never given.
+    // The server never grants a grab for an unmapped window.
     xcb_connection_t *xcb = m_display.xcb();
     const auto cookie =
         xcb_grab_pointer(xcb, 0, m_display.window(), 0, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC,

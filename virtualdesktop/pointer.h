@@ -15,15 +15,16 @@ public:
 
     void moveTo(QPoint place);
 
-    /// Presses the left button at one place, moves through the places between, and lets go at the other.
+    /// Presses the left button at one point, moves through the points in between, and releases it at the
+    /// other.
     void drag(QPoint from, QPoint to);
 
-    /// Clicks the left button `times` times at this place of the screen, as fast as a double click is.
+    /// Clicks the left button `times` times at this point of the screen, at the speed of a double click.
     void click(QPoint place, int times = 1);
 
     void middleClick(QPoint place);
 
-    /// Whether a program has the pointer to itself.
+    /// Whether a program has grabbed the pointer.
     [[nodiscard]] bool isTaken() const;
 
 private:

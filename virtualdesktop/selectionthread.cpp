@@ -15,7 +15,7 @@ std::unique_ptr<SelectionThread> SelectionThread::own(const QString &displayName
         return nullptr;
     const xcb_atom_t atom = display->atom(selection);
     xcb_set_selection_owner(display->xcb(), display->window(), atom, XCB_CURRENT_TIME);
-    // The answer to any question says that the server has done what came before it.
+    // Any answer proves that the server has processed the preceding requests.
     static_cast<void>(display->atom("TARGETS"));
     return std::unique_ptr<SelectionThread>(
         new SelectionThread(std::move(display), atom, std::move(handler)));
@@ -87,7 +87,7 @@ void SelectionThread::notify(DisplayConnection &display, const xcb_selection_req
     answer.selection = request.selection;
     answer.target = request.target;
     answer.property = isGiven ? request.property : xcb_atom_t(XCB_ATOM_NONE);
-    // An event on the wire is longer than this one is.
+    // An event on the wire is larger than this struct.
     std::array<char, 32> bytes{};
     std::memcpy(bytes.data(), &answer, sizeof answer);
     xcb_send_event(display.xcb(), 0, request.requestor, XCB_EVENT_MASK_NO_EVENT, bytes.data());

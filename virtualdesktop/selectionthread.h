@@ -10,34 +10,34 @@
 
 namespace vesk {
 
-/// Owns a selection as a program of its own does: on a thread and a connection of its own, until someone
-/// else takes it or this object goes.
+/// Owns a selection as a separate program would: in a separate thread with a separate connection, until
+/// another client takes it or this object is destroyed.
 class SelectionThread final
 {
 public:
-    /// Is called on the thread for each event that the server sends.
+    /// Called on the thread for each event from the server.
     using Handler = std::function<void(DisplayConnection &display, const xcb_generic_event_t &event)>;
 
-    /// Owns the selection when this returns. Null if the server did not answer.
+    /// The selection is owned when this returns. Null if the server did not answer.
     [[nodiscard]] static std::unique_ptr<SelectionThread> own(const QString &displayName,
                                                               const char *selection, Handler handler);
     ~SelectionThread();
     Q_DISABLE_COPY_MOVE(SelectionThread)
 
-    /// Owns it once more, with a new time.
+    /// Claims the selection again, with a new time.
     void claimAgain();
-    /// The window by which it is owned.
+    /// The window that owns the selection.
     [[nodiscard]] xcb_window_t window() const { return m_display->window(); }
 
-    /// The request in an event; none if it is something else.
+    /// The request in an event; nullopt if it is something else.
     [[nodiscard]] static std::optional<xcb_selection_request_event_t>
     requestIn(const xcb_generic_event_t &event);
-    /// Puts an answer where the asking program wants it: units of `format` bits.
+    /// Writes an answer where the requesting program wants it: units of `format` bits.
     static void write(DisplayConnection &display, const xcb_selection_request_event_t &request,
                       xcb_atom_t type, quint8 format, const QByteArray &bytes);
     static void writeAtoms(DisplayConnection &display, const xcb_selection_request_event_t &request,
                            const QList<xcb_atom_t> &atoms);
-    /// Tells the asking program that the answer is there, or that there is none.
+    /// Tells the requesting program that the answer is there, or that there is none.
     static void notify(DisplayConnection &display, const xcb_selection_request_event_t &request,
                        bool isGiven);
 

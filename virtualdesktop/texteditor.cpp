@@ -14,7 +14,7 @@ namespace {
 
 constexpr auto kStartBound = 15s;
 constexpr auto kAnswerBound = 500ms;
-/// A window that was just mapped may let the first keys go by; then they are typed again.
+/// A window that has just been mapped may miss the first keys; they are then typed again.
 constexpr int kTries = 10;
 
 } // namespace

@@ -5,25 +5,24 @@
 
 namespace vesk {
 
-/// A text editor that people use (Mousepad) with a file open, driven by keys alone.
+/// A popular text editor (Mousepad) with a file open, controlled only by keys.
 class TextEditor final
 {
 public:
-    /// Opens a file of this name with these lines. Null if its window did not come up and take the
-    /// keyboard.
+    /// Opens a file of this name with these lines. Null if its window did not appear with the focus.
     [[nodiscard]] static std::unique_ptr<TextEditor> open(VirtualDesktop &desktop, const QStringList &lines,
                                                           const QString &name = QStringLiteral("sample.txt"));
 
-    /// Selects the whole of the line with this index. False if the editor never said that it has.
+    /// Selects the whole line with this index. Returns false if the editor never reported that.
     [[nodiscard]] bool selectLine(int index);
 
-    /// Puts the cursor at the start with nothing selected. False if the selection stayed.
+    /// Moves the cursor to the start with nothing selected. Returns false if the selection stayed.
     [[nodiscard]] bool deselect();
 
-    /// What stands in the editor now; none if it did not answer.
+    /// The current content of the editor; nullopt if it did not answer.
     [[nodiscard]] std::optional<QString> text();
 
-    /// The same as the editor tells a screen reader: nothing is selected to find out, so a paste may come at
+    /// The content as the editor tells it to a screen reader. This selects nothing, so a paste may arrive at
     /// any time.
     [[nodiscard]] QString shownText() const;
 

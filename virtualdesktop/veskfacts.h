@@ -7,10 +7,10 @@
 
 namespace vesk {
 
-/// The hub takes no second capture for two seconds.
+/// The hub ignores a second capture for two seconds.
 constexpr std::chrono::milliseconds kCaptureGate{2100};
 
-/// The shortest that a finger stays on a key.
+/// The shortest time that a finger stays on a key.
 constexpr std::chrono::milliseconds kFinger{20};
 
 const auto kPanel = QStringLiteral("Vesk");

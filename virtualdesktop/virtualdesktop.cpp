@@ -62,7 +62,7 @@ VirtualDesktop::~VirtualDesktop()
     m_bus.reset();
     m_bareBus.reset();
     m_server.reset();
-    // What the bus had started is still there.
+    // Programs that the bus has started are still running.
     endDescendants();
 }
 
@@ -97,7 +97,7 @@ void VirtualDesktop::prepareEnvironment()
 
 std::unique_ptr<ChildProcess> VirtualDesktop::run(const QString &program, const QStringList &arguments)
 {
-    // One file for each start: a second one must not take the first one's words away.
+    // One file for each start: a second start must not overwrite the first one's output.
     const QString log = m_home.filePath(u"%1-%2.log"_s.arg(QFileInfo(program).fileName()).arg(++m_starts));
     return ChildProcess::start({program, arguments, m_environment, log});
 }
@@ -126,8 +126,8 @@ bool VirtualDesktop::startServer()
 
 bool VirtualDesktop::startBus()
 {
-    // The portal for documents mounts a file system in the home folder, which would stay behind when the
-    // desktop ends. Nothing here needs it.
+    // The document portal mounts a file system in the home folder, which would stay behind when the desktop
+    // ends. Nothing here needs it.
     if (writeFile(u"data/dbus-1/services/org.freedesktop.portal.Documents.service"_s,
                   u"[D-BUS Service]\nName=org.freedesktop.portal.Documents\nExec=/bin/false\n"_s)
             .isEmpty())
@@ -136,7 +136,7 @@ bool VirtualDesktop::startBus()
         m_bareBus = BusDaemon::start();
         m_busAddress = m_bareBus ? m_bareBus->address() : QString();
     } else {
-        // Its socket goes with the home folder.
+        // Its socket is removed with the home folder.
         const QString socket = u"unix:path="_s + m_home.filePath(u"run/bus"_s);
         m_bus = run(u"dbus-daemon"_s,
                     {u"--session"_s, u"--nofork"_s, u"--address"_s, socket, u"--print-address=1"_s});
@@ -181,8 +181,8 @@ bool VirtualDesktop::enableAccessibility()
         return false;
     QDBusConnection bus = QDBusConnection::connectToBus(m_busAddress, kBusConnection);
     const int bound = int(std::chrono::milliseconds(kStartBound).count());
-    // The bus is made when its address is first asked for. Qt's applications look for it once, at their
-    // start, and by what the server says of it.
+    // The bus is started when its address is first requested. Qt applications look for it once, when they
+    // start, using what the server says about it.
     const QDBusMessage call = QDBusMessage::createMethodCall(u"org.a11y.Bus"_s, u"/org/a11y/bus"_s,
                                                              u"org.a11y.Bus"_s, u"GetAddress"_s);
     return bus.call(call, QDBus::Block, bound).type() == QDBusMessage::ReplyMessage
@@ -191,7 +191,7 @@ bool VirtualDesktop::enableAccessibility()
 
 QString VirtualDesktop::veskProgram()
 {
-    // Without a word from outside, the program that was built along with the tests.
+    // By default, the program that was built together with the tests.
     const QString built = QCoreApplication::applicationDirPath() + u"/../bin/vesk"_s;
     return qEnvironmentVariable("VESK_PROGRAM", built);
 }

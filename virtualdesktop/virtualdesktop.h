@@ -13,52 +13,52 @@
 
 namespace vesk {
 
-/// A desktop of its own: an X server without a screen, the chosen window manager, a session bus with the
-/// accessibility bus, and a home folder that starts empty. All of it ends with this object.
+/// A complete desktop: an X server without a screen, the selected window manager, a session bus with the
+/// accessibility bus, and an initially empty home folder. Everything ends with this object.
 class VirtualDesktop final
 {
 public:
-    /// What a desktop may lack.
+    /// What the desktop lacks.
     struct Lacks
     {
-        /// Nobody answers for it, as where it is not installed.
+        /// Nobody provides it, as if it were not installed.
         bool accessibilityBus = false;
         /// An extension of the X server.
         QString extension = {};
-        /// Pixels; most desktops have more.
+        /// In pixels; most desktops have more.
         QSize screen = {1600, 1000};
     };
 
-    /// Null if some part did not come up; `problem` then says which.
+    /// Null if a part did not start; `problem` then says which.
     [[nodiscard]] static std::unique_ptr<VirtualDesktop> start(QString &problem, const Lacks &lacks);
     [[nodiscard]] static std::unique_ptr<VirtualDesktop> start(QString &problem);
     ~VirtualDesktop();
     Q_DISABLE_COPY_MOVE(VirtualDesktop)
 
-    /// Sets a variable for the programs that are started from now on.
+    /// Sets an environment variable for programs that are started from now on.
     void setVariable(const QString &name, const QString &value) { m_environment.insert(name, value); }
 
-    /// Starts a program on this desktop; null if that failed.
+    /// Starts a program on this desktop; null on failure.
     [[nodiscard]] std::unique_ptr<ChildProcess> run(const QString &program,
                                                     const QStringList &arguments = {});
 
-    /// Starts Vesk and waits until its hot keys are its own; null if it ended or never took them.
+    /// Starts Vesk and waits until it has its hot keys; null if it exited or never grabbed them.
     [[nodiscard]] std::unique_ptr<ChildProcess> startVesk();
 
     /// The program under test.
     [[nodiscard]] static QString veskProgram();
 
-    /// Lets Vesk read other applications and takes its guide for seen, as after the first run.
+    /// Lets Vesk read other applications and marks its guide as seen, as after the first run.
     [[nodiscard]] bool prepareUser();
 
-    /// Says to applications that assistive programs are, or are not, in use; many ask only when they start.
-    /// It begins switched on. Failure: false.
+    /// Tells applications whether assistive programs are in use; many only check when they start. Initially
+    /// on. Returns false on failure.
     [[nodiscard]] bool setAccessibility(bool isOn);
 
     /// Writes a file into the home folder, or a folder in it, and returns its path.
     [[nodiscard]] QString writeFile(const QString &name, const QString &text);
 
-    /// What stands in a file of the home folder; empty if there is none.
+    /// The contents of a file in the home folder; empty if there is none.
     [[nodiscard]] QString readFile(const QString &name) const;
 
     [[nodiscard]] DisplayConnection &display() { return *m_display; }
@@ -88,7 +88,7 @@ private:
     NotesFile m_notes;
     std::unique_ptr<ChildProcess> m_server;
     std::unique_ptr<ChildProcess> m_bus;
-    /// Instead of it, where the accessibility bus is missing.
+    /// Used instead if the accessibility bus is missing.
     std::unique_ptr<BusDaemon> m_bareBus;
     std::unique_ptr<ChildProcess> m_windowManager;
     std::unique_ptr<DisplayConnection> m_display;

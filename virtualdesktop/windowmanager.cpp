@@ -11,9 +11,9 @@ namespace vesk {
 
 namespace {
 
-/// Without a file of the user's, i3 asks which keys it should use. The bar is a dock, as most people have.
+/// Without a configuration file, i3 asks which keys to use. The bar is a dock, as most users have.
 const auto kI3Config = u"# i3 config file (v4)\nfont pango:monospace 8\nbar {\n    position bottom\n}\n"_s;
-/// Four workspaces, as the others have. Its compositor needs more than a machine under load has to give.
+/// Four workspaces, as with the others. Its compositor needs more than a busy machine can provide.
 const auto kKWinConfig = u"[Compositing]\nEnabled=false\n\n[Desktops]\nNumber=4\nRows=1\n"_s;
 
 QList<WindowManager> all()

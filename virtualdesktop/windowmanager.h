@@ -14,13 +14,13 @@ namespace vesk {
 struct WindowManager
 {
     QString name;
-    /// The program, and its arguments.
+    /// The program and its arguments.
     QStringList command;
-    /// Files of the home folder that it reads when it starts: path and content.
+    /// Files in the home folder that it reads when it starts: path and content.
     QList<std::pair<QString, QString>> files = {};
 
-    /// The one that `VESK_WINDOW_MANAGER` names, openbox if the variable is not set. Nullopt if the name
-    /// is not known.
+    /// The one named by `VESK_WINDOW_MANAGER`, or openbox if the variable is not set. nullopt if the name is
+    /// unknown.
     [[nodiscard]] static std::optional<WindowManager> chosen();
 
     [[nodiscard]] bool isInstalled() const;

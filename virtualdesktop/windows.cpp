@@ -41,7 +41,7 @@ QList<xcb_window_t> Windows::topWindows() const
 {
     xcb_connection_t *xcb = m_display.xcb();
     QList<xcb_window_t> windows = {m_display.root()};
-    // The window manager puts an application's window into a frame, and icewm that into another one.
+    // The window manager puts an application's window into a frame, and icewm puts that into another one.
     constexpr int kDepth = 3;
     qsizetype level = 0;
     for (int depth = 0; depth < kDepth; ++depth) {
@@ -94,10 +94,10 @@ QList<Window> Windows::all() const
         const Reply<xcb_get_geometry_reply_t> size{xcb_get_geometry_reply(xcb, question.geometry, nullptr)};
         const Reply<xcb_translate_coordinates_reply_t> place{
             xcb_translate_coordinates_reply(xcb, question.place, nullptr)};
-        // A window may go between two questions; then it is as if it had not been seen.
+        // A window may disappear between two requests; then act as if it had not been seen.
         if (!attributes || !size || !place)
             continue;
-        // Xterm tells its title in the old way only.
+        // Xterm only sets its title the old way.
         const QString text = textOf(title.get());
         const Window window = {question.id, text.isEmpty() ? textOf(oldTitle.get()) : text,
                                numberOf(pid.get()),
@@ -263,7 +263,7 @@ bool Windows::isFocusInside(xcb_window_t window) const
     xcb_connection_t *xcb = m_display.xcb();
     const Reply<xcb_get_input_focus_reply_t> focus{
         xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr)};
-    // GTK gives the keyboard to a window of its own inside the one that the window manager knows.
+    // GTK focuses a window of its own inside the one that the window manager knows.
     xcb_window_t candidate = focus ? focus->focus : xcb_window_t(XCB_WINDOW_NONE);
     while (candidate != window && candidate > XCB_INPUT_FOCUS_POINTER_ROOT) {
         const Reply<xcb_query_tree_reply_t> tree{

@@ -8,7 +8,7 @@
 
 namespace vesk {
 
-/// A window as the X server has it; pixels from the top left corner of the screen, without the frame.
+/// A window as the X server reports it; in pixels from the top left corner of the screen, without the frame.
 struct Window
 {
     xcb_window_t id = XCB_WINDOW_NONE;
@@ -18,67 +18,67 @@ struct Window
     bool isViewable = false;
 };
 
-/// The windows of the desktop, managed or not, and which of them has the user's attention.
+/// The windows of the desktop, managed or not, and which of them is active.
 class Windows final
 {
 public:
     explicit Windows(DisplayConnection &display);
 
-    /// All windows that have a title or tell their process.
+    /// All windows that have a title or report their process.
     [[nodiscard]] QList<Window> all() const;
 
     /// The viewable window with exactly this title.
     [[nodiscard]] std::optional<Window> findViewable(const QString &title) const;
 
-    /// The viewable window of a process whose title contains `part`; any of its windows for an empty part.
+    /// The viewable window of a process whose title contains `part`; any of its windows if `part` is empty.
     [[nodiscard]] std::optional<Window> findViewableOf(qint64 pid, const QString &part = {}) const;
 
     /// The viewable window that satisfies `isIt`.
     [[nodiscard]] std::optional<Window> findViewableIf(const std::function<bool(const Window &)> &isIt) const;
 
-    /// Failure: none after `bound`.
+    /// nullopt after `bound`.
     [[nodiscard]] std::optional<Window> waitViewable(const QString &title, std::chrono::milliseconds bound);
     [[nodiscard]] std::optional<Window> waitViewableOf(qint64 pid, const QString &part,
                                                        std::chrono::milliseconds bound);
 
-    /// The window with this title once it is viewable and has the keyboard. Failure: none after `bound`.
+    /// The window with this title once it is viewable and has the focus; nullopt after `bound`.
     [[nodiscard]] std::optional<Window> waitFocused(const QString &title, std::chrono::milliseconds bound);
 
-    /// True once no window of this title is viewable. Failure: false after `bound`.
+    /// Returns true once no window with this title is viewable, false after `bound`.
     [[nodiscard]] bool waitGone(const QString &title, std::chrono::milliseconds bound);
 
-    /// True once the window, or one inside it, has the keyboard. Failure: false after `bound`.
+    /// Returns true once the window, or one inside it, has the focus, false after `bound`.
     [[nodiscard]] bool waitFocused(const Window &window, std::chrono::milliseconds bound);
 
-    /// True once the window manager says that the window is the active one. Failure: false after `bound`.
+    /// Returns true once the window manager reports the window as active, false after `bound`.
     [[nodiscard]] bool waitActive(const Window &window, std::chrono::milliseconds bound);
 
-    /// Whether the window manager says that the window is the active one.
+    /// Whether the window manager reports the window as active.
     [[nodiscard]] bool isActive(const Window &window) const { return activeWindow() == window.id; }
 
     /// Asks the window manager to activate the window, as a pager does.
     void activate(const Window &window);
 
-    /// The managed windows from the lowest to the highest, as the window manager tells them.
+    /// The managed windows from bottom to top, as the window manager reports them.
     [[nodiscard]] QList<xcb_window_t> stack() const;
 
-    /// Whether the window manager says that a window is in this state.
+    /// Whether the window manager reports this state for a window.
     [[nodiscard]] bool hasState(const Window &window, const char *state) const;
 
-    /// Whether parts of the window are cut away.
+    /// Whether the window's shape is cut.
     [[nodiscard]] bool isCut(const Window &window) const;
 
-    /// What the window manager says in a number on the root window; 0 if nothing.
+    /// A number that the window manager has set on the root window; 0 if there is none.
     [[nodiscard]] quint32 rootNumber(const char *property) const;
 
-    /// Asks the window manager to go to this workspace, as a pager does, and waits until it is there.
-    /// Failure: false after `bound`.
+    /// Asks the window manager to switch to this workspace, as a pager does, and waits until it has. Returns
+    /// false after `bound`.
     [[nodiscard]] bool goToWorkspace(quint32 index, std::chrono::milliseconds bound);
 
-    /// The screen without what docks keep for themselves, as the docks or the window manager say.
+    /// The screen without the space that docks reserve, as reported by the docks or the window manager.
     [[nodiscard]] QRect workArea() const;
 
-    /// Titles of all viewable windows, for the message of a test that failed.
+    /// The titles of all viewable windows, for a failing test's message.
     [[nodiscard]] QString describe() const;
 
 private:
