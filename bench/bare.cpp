@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The least that a Qt program does to be there: how long that takes is the floor of any start.
+// The minimal Qt program: the time that it takes to start is the lower bound of any start.
 #include <QGuiApplication>
 
 #include <cstdio>

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int kNoteLength = 488;
 constexpr auto kBound = 10s;
-/// Until the copy of the store is made and the memory of the start is given back.
+/// Until the copy of the store is made and memory from the start is released.
 constexpr unsigned long kQuietSeconds = 5;
 
 } // namespace

@@ -11,7 +11,7 @@ class Database;
 
 namespace vesk {
 
-/// A desktop whose user has so many notes, and where the figures go.
+/// A desktop whose user has a given number of notes, and the table for the results.
 struct Bench
 {
     VirtualDesktop &desktop;
@@ -19,7 +19,7 @@ struct Bench
     int notes = 0;
 };
 
-/// One subject. Starts Vesk itself, and says on standard error what did not come about.
+/// A subject to measure. Starts Vesk itself, and reports on standard error what did not work.
 using Part = void (*)(Bench &bench);
 
 void benchStart(Bench &bench);
@@ -31,24 +31,24 @@ void benchCapture(Bench &bench);
 void benchEditor(Bench &bench);
 void benchMemory(Bench &bench);
 
-/// How often each thing is done at least: 30 times, or as often as VESK_BENCH_RUNS says, for a quick look.
+/// The minimum number of repetitions: 30, or VESK_BENCH_RUNS for a quick look.
 [[nodiscard]] int runs();
 
-/// Writes so many notes into the store that a first start has made, one a minute back from an hour ago.
+/// Writes this many notes into a store that a first start has created, one for each minute up to an hour ago.
 void fillStore(const QString &path, int notes);
 
-/// Writes a note into a store, of the time in microseconds since 1970.
+/// Writes a note into a store; the time is in microseconds since 1970.
 void writeNote(SQLite::Database &store, const QString &text, qint64 time);
 
-/// Vesk, once it has nothing more to do after its start. Null if it did not start.
+/// Starts Vesk and waits until it is idle. Null if it did not start.
 [[nodiscard]] std::unique_ptr<ChildProcess> startQuiet(Bench &bench);
 
-/// Shows the panel; none if it did not come up and take the keyboard.
+/// Shows the panel; nullopt if it did not appear with the focus.
 [[nodiscard]] std::optional<Window> showPanel(Bench &bench);
-/// Presses Escape until the panel is gone. False if it stayed.
+/// Presses Escape until the panel is gone. Returns false if it stayed.
 bool hidePanel(Bench &bench);
 
-/// Says what a part could not do.
+/// Reports what a part could not do.
 void complain(const char *what);
 
 } // namespace vesk

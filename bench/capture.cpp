@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// From the hot key until the note is in the file, for good, and the notice of it on the screen. The notice
-// comes only after the note.
+// Measures from the hot key until the note is durably in the file and the notice is on the screen. The notice
+// only appears after that.
 #include "bench.h"
 #include "stopwatch.h"
 
@@ -22,8 +22,7 @@ namespace {
 
 constexpr auto kBound = 10s;
 
-/// What it takes to write such a note for good, in a file of its own beside the store, and to show a window
-/// thereafter.
+/// Measures durably writing such a note to a separate file beside the store, and then showing a window.
 void measureFloor(Bench &bench, Stopwatch &watch, Table::Row &row)
 {
     row.floorName = u"an SQLite insert, then a bare window"_s;
@@ -56,7 +55,7 @@ void benchCapture(Bench &bench)
     const std::unique_ptr<ChildProcess> vesk = startQuiet(bench);
     if (!vesk)
         return;
-    // One more, for the place of the notice.
+    // One more time, to find the position of the notice.
     QStringList lines;
     for (int i = 0; i <= runs(); ++i)
         lines.append(u"Line %1 that is captured"_s.arg(i));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Runs the program that measures the note editor. How many notes there are does not matter to it.
+// Runs the program that measures the note editor, which does not depend on the number of notes.
 #include "bench.h"
 
 #include <QCoreApplication>

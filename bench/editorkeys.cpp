@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// How long a key in the note editor takes until it is painted, as users have it: in a window of its own,
-// without a GPU. Prints a line for each key: the size of the note and the milliseconds.
+// Measures how long a key in the note editor takes until it is painted, under users' conditions: in a
+// separate window, without a GPU. Prints the size of the note and the milliseconds for each key.
 #include "components/surroundings.h"
 #include "editor/noteeditorcontroller.h"
 #include "editor/notetextview.h"
@@ -56,14 +56,14 @@ QString note(qsizetype size)
     return (u"The title\n"_s + lines.repeated(size / lines.toUtf8().size() + 1)).left(size);
 }
 
-/// An editor in a window, and the time from a key to its painted frame.
+/// An editor in a window; measures from a key press to its painted frame.
 class EditorBench final
 {
 public:
     explicit EditorBench(QQmlEngine &engine);
 
     void load(const QString &text);
-    /// Milliseconds; none if nothing was painted.
+    /// In milliseconds; nullopt if nothing was painted.
     [[nodiscard]] std::optional<double> time(Qt::Key key, const QString &text);
     void moveCaret(qsizetype position);
     [[nodiscard]] NoteEditorController &controller() { return m_controller; }
@@ -121,7 +121,7 @@ void EditorBench::moveCaret(qsizetype position)
 
 std::optional<double> EditorBench::time(Qt::Key key, const QString &text)
 {
-    // What is still to be painted of the last key is not this one's.
+    // Finish painting the previous key first.
     QCoreApplication::processEvents(QEventLoop::AllEvents, 30);
     m_frames = 0;
     QElapsedTimer timer;

@@ -5,7 +5,7 @@
 
 namespace vesk {
 
-/// What one thing took, done again and again; milliseconds, if nothing else is said.
+/// The results of measuring one thing repeatedly, in milliseconds unless stated otherwise.
 class Figures final
 {
 public:
@@ -13,11 +13,11 @@ public:
     void add(const Figures &others) { m_values.append(others.m_values); }
 
     [[nodiscard]] qsizetype count() const { return m_values.size(); }
-    /// The value that this part of all, 0 to 1, does not exceed; 0 if there is none.
+    /// The quantile `part`, from 0 to 1; 0 if there are no values.
     [[nodiscard]] double at(double part) const;
     [[nodiscard]] double median() const { return at(0.5); }
     [[nodiscard]] double p95() const { return at(0.95); }
-    /// How many in a hundred exceed this.
+    /// The percentage of values that exceed `value`.
     [[nodiscard]] double percentAbove(double value) const;
 
 private:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// How fast and how lean Vesk is with few, many and very many notes, on a desktop of its own. Prints one
+// Measures how fast and how lean Vesk is with few, many and very many notes, on a virtual desktop. Prints one
 // table and judges nothing. Machines are noisy: compare with the floors of the same run.
 #include "bench.h"
 
@@ -29,7 +29,7 @@ struct NamedPart
     Part run;
 };
 
-/// In this order: the last ones change the notes.
+/// Ordered, because the last ones change the notes.
 constexpr NamedPart kParts[] = {
     {"start", benchStart},         {"panel", benchPanel},     {"search", benchSearch},
     {"scrolling", benchScrolling}, {"opening", benchOpening}, {"capture", benchCapture},
@@ -49,7 +49,7 @@ QString processor()
     return line == lines.end() ? QString() : QString::fromUtf8(*line).section(u": "_s, 1);
 }
 
-/// One line about where and when.
+/// One line about the machine and the date.
 QString surroundings()
 {
     double load = 0;
@@ -66,12 +66,12 @@ bool isWanted(const NamedPart &part, const QStringList &names)
     return names.isEmpty() || names.contains(QString::fromLatin1(part.name));
 }
 
-/// All wanted parts with so many notes. False if there is no desktop for that.
+/// Runs all requested parts with this number of notes. Returns false if the desktop could not be started.
 bool benchNotes(int notes, const QStringList &names, Table &table)
 {
     QString problem;
     const std::unique_ptr<VirtualDesktop> desktop = VirtualDesktop::start(problem);
-    // The first start makes the store, which is there when it ends.
+    // The first start creates the store, which exists when it ends.
     const std::unique_ptr<ChildProcess> first =
         desktop && desktop->prepareUser() ? desktop->startVesk() : nullptr;
     if (!first || !first->quit()) {

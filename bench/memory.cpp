@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What Vesk holds of the memory, and how often it wakes up, while it is hidden.
+// Measures how much memory Vesk uses, and how often it wakes up, while hidden.
 #include "bench.h"
 
 #include "virtualdesktop/veskfacts.h"
@@ -18,12 +18,12 @@ namespace vesk {
 
 namespace {
 
-/// After it was hidden, Vesk gives back what it can.
+/// Vesk releases what memory it can after it is hidden.
 constexpr unsigned long kQuietSeconds = 5;
 constexpr unsigned long kIdleSeconds = 10;
 constexpr int kCaptures = 1000;
 
-/// Lines of a status file of the system that begin so, as numbers, added up.
+/// The sum of the numbers on all lines of a kernel status file that start with `name`.
 qint64 sumOf(const QString &path, const QByteArray &name)
 {
     QFile status(path);
@@ -38,7 +38,7 @@ qint64 sumOf(const QString &path, const QByteArray &name)
     return sum;
 }
 
-/// Resident memory of a process in MB: "VmRSS:" is all of it, "RssFile:" that of its libraries.
+/// Resident memory of a process in MB: "VmRSS:" is the total, "RssFile:" the share of its libraries.
 double residentMemory(qint64 pid, const QByteArray &kind)
 {
     return static_cast<double>(sumOf(u"/proc/%1/status"_s.arg(pid), kind)) / 1000;
@@ -55,7 +55,7 @@ qint64 wakeUps(qint64 pid)
     return count;
 }
 
-/// Shows the panel again and again, searches, and goes through the list.
+/// Shows the panel repeatedly, searches, and walks through the list.
 void use(Bench &bench)
 {
     constexpr int kTimes = 10;
@@ -81,7 +81,7 @@ void use(Bench &bench)
     QThread::sleep(kQuietSeconds);
 }
 
-/// Has Vesk keep 1,000 texts, one after the other. False if it kept one not.
+/// Makes Vesk keep 1,000 texts, one after the other. Returns false if any of them was not kept.
 bool capture(const Bench &bench, int first)
 {
     const QString name = u"vesk-bench"_s;

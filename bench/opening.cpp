@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Opening a note in the middle of the list by a key, and typing into it.
+// Measures opening a note in the middle of the list with a key, and typing into it.
 #include "bench.h"
 #include "stopwatch.h"
 
@@ -17,7 +17,7 @@ namespace {
 
 constexpr unsigned long kPause = 500;
 
-/// Takes the list by its thumb to its middle, and opens the card there.
+/// Drags the list's thumb to the middle, and opens the card there.
 void openMiddle(Bench &bench, const QRect &panel)
 {
     const int x = panel.right() - 6;
@@ -29,7 +29,7 @@ void openMiddle(Bench &bench, const QRect &panel)
     QThread::msleep(2 * kPause);
 }
 
-/// Adds how long each of these keys takes until the strip looks different.
+/// Measures how long each of these keys takes until the strip changes.
 bool timeKey(Stopwatch &watch, const QRect &strip, xcb_keysym_t key, Figures &figures)
 {
     const QByteArray before = watch.settledPixels(strip);
@@ -52,14 +52,14 @@ void benchOpening(Bench &bench)
     Table::Row &openings = bench.table.row(u"Return → note in the middle of the list begins to open"_s);
     Table::Row &edits = bench.table.row(u"key in that note → painted"_s, {.usual = 16, .most = {}});
     const auto figuresOf = [&](Table::Row &row) -> Figures & {
-        // A list of ten is what the others are compared with.
+        // A list of ten is the reference for the others.
         const bool isTen = bench.notes < *std::begin(Table::kSizes);
         row.floorName = u"in a list of ten"_s;
         return isTen ? row.floors[Table::kUsual] : row.sizes[bench.notes];
     };
     openMiddle(bench, panel->geometry);
     Stopwatch watch(bench.desktop);
-    // Where texts begin.
+    // The left edge of the texts.
     const QRect strip(panel->geometry.topLeft() + QPoint(26, 110), QSize(60, 440));
     for (int i = 0; i < runs(); ++i) {
         bench.desktop.keyboard().tap({XK_Escape}, kFinger);
@@ -69,14 +69,14 @@ void benchOpening(Bench &bench)
         QThread::msleep(kPause);
     }
     const QRect lines(panel->geometry.topLeft() + QPoint(26, 110), QSize(380, 440));
-    // Each key shows the caret anew, so that its blinking does not come in between.
+    // Each key shows the caret again, so its blinking does not interfere.
     bench.desktop.keyboard().tap({XK_Control_L, XK_Home}, kFinger);
     for (int i = 0; i < runs(); ++i) {
         if (!timeKey(watch, lines, XK_a, figuresOf(edits)))
             return complain("a key in the note changed nothing");
     }
     hidePanel(bench);
-    // The note is in the file, which tells that it was it that was typed into.
+    // That the note is in the file proves that the text was typed into it.
     QThread::sleep(2);
     if (!bench.desktop.notes().texts().filter(QString(runs(), u'a')).count())
         complain("the keys did not come into the note");

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// From the hot key until the panel is painted and has the keyboard.
+// Measures from the hot key until the panel is painted and has the focus.
 #include "bench.h"
 #include "stopwatch.h"
 
@@ -21,7 +21,7 @@ void showAgainAndAgain(Bench &bench, Table::Row &row)
     const std::unique_ptr<ChildProcess> vesk = startQuiet(bench);
     if (!vesk)
         return;
-    // What is not warm is not counted.
+    // The first run warms up and is not counted.
     const std::optional<Window> panel = showPanel(bench);
     if (!panel || !hidePanel(bench))
         return;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// How evenly the list, and a long note, move: the time from one picture on the screen to the next one, seen
-// by asking the server for a narrow strip of the panel, twice in a millisecond.
+// Measures how smoothly the list and a long note scroll: the time from one frame on the screen to the next,
+// observed by reading a narrow strip of the panel from the server twice per millisecond.
 #include "bench.h"
 #include "stopwatch.h"
 
@@ -20,7 +20,7 @@ namespace vesk {
 
 namespace {
 
-/// A frame of a screen that shows sixty a second.
+/// A frame at 60 Hz.
 constexpr double kFrame = 16.7;
 constexpr auto kTurn = 33ms;
 constexpr auto kDuration = 5s;
@@ -35,7 +35,7 @@ void turnWheel(DisplayConnection &display, quint8 direction)
     xcb_flush(display.xcb());
 }
 
-/// The times between the pictures while `nudge` is done every 33 ms.
+/// The times between frames while `nudge` is called every 33 ms.
 template <typename Nudge>
 Figures watchMoving(const Stopwatch &watch, const QRect &strip, const Nudge &nudge)
 {
@@ -65,8 +65,8 @@ Figures watchMoving(const Stopwatch &watch, const QRect &strip, const Nudge &nud
     return intervals;
 }
 
-/// A note of 100 KB that is the latest one in the store, as long as this object lives. Vesk must not run when
-/// it begins and ends.
+/// A note of 100 KB that is the latest one in the store as long as this object lives. Vesk must not be
+/// running when it is created or destroyed.
 class LongNote final
 {
 public:
@@ -104,7 +104,7 @@ void enter(Bench &bench, const QString &how, const Figures &intervals)
     bench.table.row(how + u", pictures that come a frame late, %"_s).sizes[bench.notes] = lost;
 }
 
-/// Vesk with its panel open and the mouse over it, and where the panel's texts begin.
+/// Vesk with its panel open and the mouse over it, and the left edge of the panel's texts.
 struct Session
 {
     explicit Session(Bench &bench)
@@ -134,7 +134,7 @@ void scrollList(Bench &bench)
     enter(bench, u"list, wheel turned"_s,
           watchMoving(watch, session.strip, [&] { turnWheel(bench.desktop.display(), kWheelDown); }));
     QThread::msleep(Session::kRest);
-    // The keyboard repeats it.
+    // The keyboard repeats the key.
     bench.desktop.keyboard().press(XK_Down);
     const Figures moved = watchMoving(watch, session.strip, [] {});
     bench.desktop.keyboard().release(XK_Down);
@@ -151,7 +151,7 @@ void scrollNote(Bench &bench)
     bench.desktop.keyboard().tap({XK_Down}, kFinger);
     bench.desktop.keyboard().tap({XK_Return}, kFinger);
     QThread::msleep(Session::kRest);
-    // It opens at its end.
+    // The note opens at its end.
     const Stopwatch watch(bench.desktop);
     enter(bench, u"note of 100 KB, wheel turned"_s,
           watchMoving(watch, session.strip, [&] { turnWheel(bench.desktop.display(), kWheelUp); }));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// From a key in the search field until the list is painted: words that all notes have, and numbers that
-// fewer and fewer have.
+// Measures from a key in the search field until the list is painted: words that all notes contain, and
+// numbers that fewer and fewer contain.
 #include "bench.h"
 #include "stopwatch.h"
 
@@ -21,8 +21,7 @@ namespace {
 
 constexpr Table::Bars kBars{.usual = 16, .most = 50};
 
-/// What looking through all bytes takes that the search looks through, once and in vain, and painting a
-/// window thereafter.
+/// Measures scanning all bytes that the search scans, once and without a match, and then painting a window.
 void measureFloor(Bench &bench, Stopwatch &watch, Table::Row &row)
 {
     constexpr char kNowhere[] = "notes";
@@ -46,13 +45,13 @@ void measureFloor(Bench &bench, Stopwatch &watch, Table::Row &row)
     }
 }
 
-/// Times each key of a word to its last letter, and back. False if a key changed nothing.
+/// Times each key of a word up to its last letter, and back. Returns false if a key changed nothing.
 bool typeWord(Stopwatch &watch, const QRect &list, const QList<xcb_keysym_t> &word, Figures &figures)
 {
     const auto time = [&](xcb_keysym_t key) {
         const QByteArray before = watch.settledPixels(list);
         watch.press({key});
-        // At once, since a key that is held repeats itself.
+        // Release at once, because a held key repeats.
         watch.release();
         const std::optional<double> painted = watch.untilChanged(list, before);
         if (painted)
@@ -68,7 +67,7 @@ bool typeWord(Stopwatch &watch, const QRect &list, const QList<xcb_keysym_t> &wo
 struct Search
 {
     QString what;
-    /// Those that come first are painted otherwise after each key of it.
+    /// The first results are painted differently after each key of the word.
     QList<xcb_keysym_t> word;
 };
 
@@ -94,7 +93,7 @@ void benchSearch(Bench &bench)
     QThread::msleep(500);
     for (int i = 0; i < rounds; ++i) {
         for (const Search &search : searches) {
-            // Without an answer there is nothing more to wait for.
+            // If nothing changed, further keys would only time out.
             if (!typeWord(watch, list, search.word, bench.table.row(search.what).sizes[bench.notes]))
                 return;
         }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// From the start of the program until its hot keys are its own.
+// Measures from the start of the program until it has its hot keys.
 #include "bench.h"
 
 #include <QCoreApplication>

@@ -17,7 +17,7 @@ template <typename Condition>
 std::optional<double> Stopwatch::until(const Condition &condition)
 {
     constexpr qint64 kBound = 5000;
-    // Asking without a pause keeps two processors busy, which are then missing for what is measured.
+    // Polling without a pause would keep two processors busy, which the measured programs need.
     constexpr unsigned long kPause = 200;
     while (!condition()) {
         if (m_timer.hasExpired(kBound))
@@ -97,7 +97,7 @@ std::optional<double> Stopwatch::floor()
     xcb_create_window(x, XCB_COPY_FROM_PARENT, window, m_desktop.display().root(), 0, 0, 100, 100, 0,
                       XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
                       XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT, values);
-    // A key that means nothing to anybody.
+    // A key that has no effect anywhere.
     press({XK_F9});
     xcb_map_window(x, window);
     const std::optional<double> time = until([&] { return !isBlack({50, 50}); });

@@ -9,33 +9,33 @@
 
 namespace vesk {
 
-/// Tells, by asking the X server every 0.2 ms, how long it takes until something is on the screen. The
-/// desktop's background has to be black.
+/// Measures how long it takes until something is on the screen by polling the X server every 0.2 ms. The
+/// desktop's background must be black.
 class Stopwatch final
 {
 public:
     explicit Stopwatch(VirtualDesktop &desktop);
 
-    /// Presses the keys, the last one as the clock starts, and keeps them down.
+    /// Presses the keys and holds them; the clock starts with the last one.
     void press(std::initializer_list<xcb_keysym_t> keys);
-    /// Lets the keys go again, in the opposite order.
+    /// Releases the keys in reverse order.
     void release();
 
-    /// Milliseconds since the press until the window of this title can be seen; none after 5 s.
+    /// Milliseconds from the press until the window with this title is viewable; nullopt after 5 s.
     [[nodiscard]] std::optional<double> untilViewable(const QString &title);
-    /// Milliseconds since the press until the point is no longer black and the window has the keyboard;
-    /// none after 5 s.
+    /// Milliseconds from the press until the point is no longer black and the window has the focus; nullopt
+    /// after 5 s.
     [[nodiscard]] std::optional<double> untilPainted(QPoint point, xcb_window_t window);
-    /// Milliseconds from the last key until this area of the screen looks different than before.
+    /// Milliseconds from the last key until this area of the screen has changed.
     [[nodiscard]] std::optional<double> untilChanged(const QRect &area, const QByteArray &before);
 
-    /// What an area of the screen shows now.
+    /// The current contents of an area of the screen.
     [[nodiscard]] QByteArray pixels(const QRect &area) const;
-    /// What an area of the screen shows once it has stood still for a moment.
+    /// The contents of an area of the screen once it has not changed for a moment.
     [[nodiscard]] QByteArray settledPixels(const QRect &area) const;
 
-    /// Milliseconds from a key press until a window that the bench itself puts into the upper left corner is
-    /// seen: what the server and the asking alone take. None if it stayed.
+    /// Milliseconds from a key press until a window that the benchmark itself puts into the top left corner
+    /// is seen: the share of the server and of the polling. nullopt if the press had no effect.
     [[nodiscard]] std::optional<double> floor();
 
 private:

@@ -20,7 +20,7 @@ QString number(double value)
 {
     if (value == 0)
         return u"0"_s;
-    // What is small shows that it is, what is large needs no fraction.
+    // Enough digits to tell small values apart; large ones need no fraction.
     const int digits = value < 0.1 ? 3 : value < 1 ? 2 : value < 100 ? 1 : 0;
     return QString::number(value, 'f', digits);
 }
@@ -31,7 +31,7 @@ const Figures *find(const std::map<int, Figures> &figures, int size)
     return found == figures.end() || found->second.count() == 0 ? nullptr : &found->second;
 }
 
-/// "median / 95th percentile"; the latter in bold if it misses the bar.
+/// "median / 95th percentile"; the latter in bold if it misses the target.
 QString cell(const Figures *figures, std::optional<double> bar)
 {
     if (!figures)
@@ -49,7 +49,7 @@ QString barOf(const Table::Bars &bars)
                      : QString::number(*bars.usual);
 }
 
-/// How often it was done at least, with any number of notes.
+/// The minimum number of repetitions over all numbers of notes.
 QString runs(const Table::Row &row)
 {
     qsizetype least = 0;
@@ -58,7 +58,7 @@ QString runs(const Table::Row &row)
     return QString::number(least);
 }
 
-/// What every 10,000 notes more add to the median.
+/// How much every additional 10,000 notes add to the median.
 QString growth(const Table::Row &row)
 {
     const int fewest = *std::begin(Table::kSizes);
@@ -68,7 +68,7 @@ QString growth(const Table::Row &row)
     if (!first || !last)
         return kNothing;
     const double each = (last->median() - first->median()) * 10'000 / (most - fewest);
-    // Nothing is no less than nothing.
+    // Avoid a negative zero.
     return std::abs(each) < 0.005 ? u"0"_s : QString::number(each, 'f', 2);
 }
 

@@ -11,20 +11,20 @@
 
 namespace vesk {
 
-/// All that was measured, as one Markdown table.
+/// All results as a Markdown table.
 class Table final
 {
 public:
-    /// How many notes there are, a column each.
+    /// The numbers of notes, one column each.
     static constexpr int kSizes[] = {1'000, 10'000, 100'000};
-    /// The number that the bars, the floors and the ratios to them are for.
+    /// The number of notes that targets, floors and ratios to floors refer to.
     static constexpr int kUsual = kSizes[1];
 
-    /// Bars are for the 95th percentile.
+    /// Targets for the 95th percentile.
     struct Bars
     {
         std::optional<double> usual;
-        /// With the most notes, if a bar is set for those.
+        /// The target for the largest number of notes, if there is one.
         std::optional<double> most;
     };
 
@@ -33,12 +33,12 @@ public:
         QString what;
         Bars bars;
         std::map<int, Figures> sizes;
-        /// The least that this machine can do it in, and how that was found.
+        /// The best that this machine can do, and how that was measured.
         QString floorName;
         std::map<int, Figures> floors;
     };
 
-    /// The row of this name, made at the end if there is none yet. It stays where it is.
+    /// The row with this name, appended if it does not exist yet. References stay valid.
     Row &row(const QString &what, const Bars &bars = {});
 
     void print() const;
