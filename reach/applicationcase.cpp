@@ -14,7 +14,7 @@ const Keys kCopy{{XK_Control_L, XK_c}};
 const Keys kToStart{{XK_Control_L, XK_Home}};
 const Keys kFirstWord{{XK_Control_L, XK_Home}, {XK_Control_L, XK_Shift_L, XK_Right}};
 
-/// The program of a terminal: prints the sample, then keeps what is typed.
+/// Runs in a terminal: prints the sample, then records what is typed.
 const auto kOutput = u"cat sample.txt; exec cat > typed.txt"_s;
 
 ApplicationCase editor(const QString &program, const QStringList &arguments, const QString &name,
@@ -51,7 +51,7 @@ ApplicationCase terminal(const QString &program, const QStringList &arguments, c
             .limits = {}};
 }
 
-/// The cases of a browser; `whole` is one of them with all but the document.
+/// The cases of a browser; `whole` is one of them, complete except for the document.
 QList<ApplicationCase> browser(const ApplicationCase &whole)
 {
     struct Kind

@@ -10,7 +10,7 @@
 
 namespace vesk {
 
-/// What Vesk promises about an application in front of the user.
+/// What Vesk promises for the frontmost application.
 enum class Check {
     Whole,
     Part,
@@ -22,27 +22,27 @@ enum class Check {
     Paste,
 };
 
-/// All of them in their order, and what a reader calls each.
+/// All checks in order, with their titles for readers.
 [[nodiscard]] const QList<std::pair<Check, QString>> &allChecks();
 
-/// What the application shows, made by the test.
+/// The document that the application shows, created by the test.
 enum class Document {
     /// A text file.
     Text,
     Pdf,
-    /// A page from the test's own server with nothing but text.
+    /// A text-only page from the test's own server.
     Page,
     /// The same page from a file.
     FilePage,
-    /// A page with a text field that has the keyboard.
+    /// A page with a focused text field.
     Field,
-    /// A page that is another page's frame, with a text field that has the keyboard.
+    /// A page that contains a frame with a focused text field.
     Frame,
-    /// A page with a password field that has the keyboard.
+    /// A page with a focused password field.
     Password,
-    /// The same, but the page moves the keyboard elsewhere as soon as the password is selected.
+    /// The same, but the page moves the focus elsewhere as soon as the password is selected.
     RestlessPassword,
-    /// What a program has printed on a terminal.
+    /// The output of a program in a terminal.
     Output,
 };
 
@@ -51,10 +51,10 @@ enum class Document {
     return document == Document::Password || document == Document::RestlessPassword;
 }
 
-/// One way of using one application as people do.
+/// A typical way of using an application.
 struct ApplicationCase
 {
-    /// Key combinations, one after the other.
+    /// Key combinations, pressed in sequence.
     using Keys = QList<QList<xcb_keysym_t>>;
 
     QString name;
@@ -62,30 +62,30 @@ struct ApplicationCase
     /// "%1" stands for the document.
     QStringList arguments;
     Document document = Document::Text;
-    /// Whether it is started before anything has switched accessibility on, as on a user's first day.
+    /// Whether the application is started before accessibility is switched on, as on a user's first day.
     bool isStartedFirst = false;
 
-    /// What a note says of where it comes from.
+    /// The application's name in a note's source.
     QString applicationName;
     QString bundleIdentifier;
 
-    /// Selects everything; where there are none, the first line is clicked three times.
+    /// Select everything. If empty, the first line is triple-clicked.
     Keys selectAll;
-    /// Selects the first word.
+    /// Select the first word.
     Keys selectPart;
-    /// Leaves nothing selected; where there are none, the middle of the window is clicked.
+    /// Clear the selection. If empty, the middle of the window is clicked.
     Keys deselect;
     Keys copy;
 
-    /// What such an application has no use for.
+    /// Checks that do not apply to such an application.
     QList<Check> without;
-    /// What is known not to work, and why.
+    /// Checks that are known to fail, and why.
     QMap<Check, QString> limits;
 };
 
-/// Small applications, which every test run can have.
+/// Small applications that every test run can use.
 [[nodiscard]] QList<ApplicationCase> lightApplications();
-/// Browsers, an office and others of that size.
+/// Browsers, an office suite and other large applications.
 [[nodiscard]] QList<ApplicationCase> heavyApplications();
 
 } // namespace vesk

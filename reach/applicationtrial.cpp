@@ -14,14 +14,14 @@ namespace vesk {
 
 namespace {
 
-/// The largest of applications, started for the first time.
+/// Enough for the largest application to start for the first time.
 constexpr auto kStartBound = 60s;
-/// Keys and clicks are in the application's queue at once; this is for doing what they say.
+/// Keys and clicks are queued at once; this is the time to process them.
 constexpr auto kSettling = 400ms;
 constexpr auto kAnswerBound = 1s;
-/// Longer than any way to the text may take.
+/// Longer than any way of reading the text may take.
 constexpr auto kOutcomeBound = 10s;
-/// Long enough for a keyboard to repeat the letter many times.
+/// Long enough for the keyboard to repeat the letter many times.
 constexpr auto kLongHold = 1500ms;
 
 const ClipboardHolder::Forms &copiedBefore()
@@ -36,7 +36,7 @@ const ClipboardHolder::Forms &copiedBefore()
 
 const ApplicationCase::Keys kSelectAll{{XK_Control_L, XK_a}};
 
-/// Applications differ in what they put between two lines.
+/// Applications differ in how they separate lines.
 QString plain(const QString &text)
 {
     return text.simplified();
@@ -58,7 +58,7 @@ ApplicationTrial::ApplicationTrial(ApplicationCase application, QString pictures
 
 ApplicationTrial::~ApplicationTrial()
 {
-    // The programs end before the desktop that they stand on.
+    // The programs must end before their desktop.
     m_vesk.reset();
     m_process.reset();
     m_clipboard.reset();
@@ -119,7 +119,7 @@ QString ApplicationTrial::setUp()
     return bringForward() ? QString() : u"The window does not come forward."_s;
 }
 
-/// A window that was just mapped may let the first keys go by, and a page may still be loading.
+/// A window that has just been mapped may miss the first keys, and a page may still be loading.
 bool ApplicationTrial::isReady()
 {
     constexpr int kTries = 40;
@@ -131,7 +131,7 @@ bool ApplicationTrial::isReady()
         selectAll();
         perform(m_application.copy);
         if (isPassword(m_application.document))
-            return true; // It gives nothing that could be looked at.
+            return true; // There is nothing to check.
         const char *selection = m_application.copy.isEmpty() ? "PRIMARY" : "CLIPBOARD";
         if (plain(m_desktop->display().readSelection(selection, kAnswerBound).value_or(QString()))
             == wholeText())
@@ -142,7 +142,7 @@ bool ApplicationTrial::isReady()
 
 bool ApplicationTrial::bringForward()
 {
-    // Some forget which frame of a page has the keyboard when they are given it a second time.
+    // When focused a second time, some browsers forget which frame of the page had the focus.
     if (!m_desktop->windows().isActive(m_window))
         m_desktop->windows().activate(m_window);
     return m_desktop->windows().waitActive(m_window, kOutcomeBound)
@@ -158,7 +158,7 @@ void ApplicationTrial::perform(const ApplicationCase::Keys &keys)
 
 void ApplicationTrial::selectAll()
 {
-    // The caret somewhere and nothing selected, so that each selection is a new one.
+    // Place the caret somewhere with nothing selected, so that each selection is a new one.
     if (!m_application.deselect.isEmpty() || m_application.selectAll.isEmpty())
         deselect();
     if (m_application.selectAll.isEmpty()) {
@@ -229,7 +229,7 @@ void ApplicationTrial::checkWhole()
     if (m_application.without.contains(Check::Whole))
         return;
     selectAll();
-    // Held so long that a letter that reached the application would be in it many times.
+    // Held so long that a letter that reached the application would appear many times.
     const Outcome outcome = capture(kLongHold);
     const QStringList texts = m_desktop->notes().texts();
     const QString kept = plain(texts.value(0));
@@ -276,7 +276,7 @@ void ApplicationTrial::checkNothing()
 {
     if (!bringForward())
         return judge(Check::Nothing, false, u"the window does not come forward"_s);
-    // All that was selected; many applications go on offering it.
+    // Everything that was selected; many applications continue to offer it.
     selectAll();
     deselect();
     const qsizetype before = m_desktop->notes().texts().size();
@@ -303,7 +303,7 @@ void ApplicationTrial::checkSecret()
         {u"a double Shift"_s, {{XK_Shift_L}, {XK_Shift_L}}},
     };
     const QStringList before = everythingKept();
-    // A page that moves the keyboard has its turn of each way with each selection.
+    // A page that moves the focus uses each of its ways with each selection.
     const int rounds = m_application.document == Document::RestlessPassword ? 3 : 1;
     for (int round = 0; round < rounds; ++round) {
         for (const auto &[selection, selecting] : selections) {
@@ -370,8 +370,8 @@ void ApplicationTrial::checkPaste()
     m_desktop->keyboard().tap({XK_Control_L, XK_Return}, kFinger);
     if (!m_desktop->windows().waitActive(m_window, kOutcomeBound))
         return judge(Check::Paste, false, u"the window does not get the keyboard back"_s);
-    // The document must not be disturbed by looking at it before the paste can have come, and twice is
-    // as wrong as never.
+    // Do not look at the document before the paste can have arrived, because that would disturb it. Pasting
+    // twice is as wrong as not pasting.
     std::this_thread::sleep_for(kCaptureGate);
     const qsizetype after = contents().count(text);
     judge(Check::Paste, after == before + 1,
@@ -381,7 +381,7 @@ void ApplicationTrial::checkPaste()
 QString ApplicationTrial::contents()
 {
     if (m_application.document == Document::Output) {
-        // The terminal hands lines on, not letters.
+        // The terminal passes on whole lines, not letters.
         m_desktop->keyboard().tap({XK_Return}, kFinger);
         std::this_thread::sleep_for(kSettling);
         return plain(m_desktop->readFile(u"typed.txt"_s));

@@ -10,20 +10,20 @@
 
 namespace vesk {
 
-/// Puts one application in front of a user who uses Vesk, on a desktop of its own, and finds out what
-/// of Vesk's promises holds there.
+/// Puts an application in front of a user of Vesk, on a separate desktop, and finds out which of Vesk's
+/// promises hold there.
 class ApplicationTrial final
 {
 public:
-    /// `pictures` is a folder for pictures of what went wrong; none are taken for an empty one.
+    /// `pictures` is a folder for pictures of failures; if empty, none are taken.
     ApplicationTrial(ApplicationCase application, QString pictures);
     ~ApplicationTrial();
 
-    /// What is wrong with each promise, empty for what holds. Those that the application has no use for
-    /// are not in it.
+    /// What is wrong with each promise; empty if it holds. Checks that do not apply to the application are
+    /// missing.
     using Findings = QMap<Check, QString>;
 
-    /// Makes all checks. None if the application could not be used at all; `problem` then says why.
+    /// Runs all checks. nullopt if the application could not be used at all; `problem` then says why.
     [[nodiscard]] std::optional<Findings> run(QString &problem);
 
 private:
@@ -35,14 +35,14 @@ private:
 
     [[nodiscard]] QString setUp();
     [[nodiscard]] bool isReady();
-    /// Runs the command `vesk` to its end; whether it did so with success.
+    /// Runs the command `vesk` until it exits; returns whether it succeeded.
     [[nodiscard]] bool command(const QStringList &words);
     [[nodiscard]] bool bringForward();
     void perform(const ApplicationCase::Keys &keys);
     void selectAll();
     void deselect();
 
-    /// Presses the hot key for as long, and tells what came of it.
+    /// Holds the hot key for this long, and returns the result.
     [[nodiscard]] Outcome capture(std::chrono::milliseconds hold);
     void dismissFallback();
     /// All notes and prompts.
@@ -52,14 +52,14 @@ private:
     void checkWhole();
     void checkPart();
     void checkNothing();
-    /// Selects a password in every way, and has it captured in every way.
+    /// Selects a password in every way, and captures each selection in every way.
     void checkSecret();
     void checkSource();
     void checkClipboard();
     void checkUntouched();
     void checkPaste();
 
-    /// What the user would find in the application's document.
+    /// The content of the application's document as the user would find it.
     [[nodiscard]] QString contents();
     [[nodiscard]] QString wholeText() const;
     void judge(Check check, bool holds, const QString &otherwise);

@@ -11,10 +11,10 @@ namespace {
 constexpr auto kPagePath = "/sample.html";
 constexpr auto kInnerPath = "/inner.html";
 
-/// Wherever the page is clicked, the click is in the password.
+/// Clicking anywhere on the page clicks the password field.
 constexpr auto kPassword = "<input id=password type=password autofocus value='open sesame open sesame'"
                            " style='position: fixed; inset: 0; width: 100%; height: 90%; font-size: 60px'>";
-/// In one of several ways, at once or a moment later. A click brings the keyboard back.
+/// Uses one of several ways, at once or a moment later. A click brings the focus back.
 constexpr auto kRestlessness = R"(
 <input id=other style='position: fixed; bottom: 0; left: 0'>
 <script>
@@ -59,7 +59,7 @@ QByteArray bodyOf(Document kind)
     }
 }
 
-/// The lines on one page in a font that every reader has.
+/// The lines on one page in a font that every PDF reader has.
 QByteArray pdf()
 {
     QByteArray drawing = "BT /F 24 Tf 60 700 Td 36 TL";
@@ -87,7 +87,7 @@ QByteArray pdf()
            + " /Root 1 0 R >>\nstartxref\n" + start + "\n%%EOF\n";
 }
 
-/// Keeps Firefox from greeting its new user.
+/// Keeps Firefox from showing its welcome pages.
 constexpr auto kFirefoxSettings = R"(
 user_pref("browser.aboutwelcome.enabled", false);
 user_pref("browser.preonboarding.enabled", false);

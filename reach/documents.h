@@ -7,7 +7,7 @@
 
 namespace vesk {
 
-/// The document of a case, where an application finds it. It goes with this object.
+/// The document of a case, stored where the application finds it. Removed with this object.
 class SampleDocument final
 {
 public:
@@ -16,10 +16,10 @@ public:
 
     /// What the application is told to open.
     [[nodiscard]] const QString &place() const { return m_place; }
-    /// The page's address as a note has it; empty for what is no page on a server.
+    /// The page's address as a note records it; empty unless it is a page on a server.
     [[nodiscard]] QString address() const { return m_server ? m_place : QString(); }
 
-    /// The lines of text in every document.
+    /// The lines of text that every document contains.
     [[nodiscard]] static const QStringList &lines();
 
 private:

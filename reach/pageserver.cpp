@@ -38,7 +38,7 @@ PageServer::PageServer(int socket, int port, Pages pages)
 
 PageServer::~PageServer()
 {
-    // Wakes the thread, which waits for the next reader.
+    // Wakes the thread, which is waiting for the next client.
     shutdown(m_socket, SHUT_RDWR);
     m_thread.join();
     close(m_socket);
@@ -62,7 +62,7 @@ void PageServer::serve()
 
 void PageServer::answer(int connection) const
 {
-    // Browsers open connections in reserve, on which they ask nothing.
+    // Browsers open spare connections on which they request nothing.
     constexpr int kPatience = 500; // ms
     pollfd descriptor = {connection, POLLIN, 0};
     char request[4096];

@@ -10,14 +10,14 @@
 
 namespace vesk {
 
-/// A web server for pages of the test's own, on the loopback interface and a thread of its own.
+/// A web server for the test's pages, on the loopback interface and in a thread.
 class PageServer final
 {
 public:
-    /// Pages by their path ("/page.html").
+    /// Pages by path ("/page.html").
     using Pages = QMap<QByteArray, QByteArray>;
 
-    /// Null if no port was to be had.
+    /// Null if no port was available.
     [[nodiscard]] static std::unique_ptr<PageServer> start(Pages pages);
     ~PageServer();
     Q_DISABLE_COPY_MOVE(PageServer)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Tries Vesk in front of many real applications and writes down what works in which of them.
+// Tries Vesk with many real applications and records what works in which of them.
 #include "reach/applicationtrial.h"
 #include "virtualdesktop/guard.h"
 
@@ -21,12 +21,12 @@ void say(const QString &line)
     std::fflush(stdout);
 }
 
-/// What came of one application, ready to be written.
+/// The results for one application, ready to be written.
 struct Row
 {
     QString name;
     QStringList cells;
-    /// What has failed, without the known limits of the application.
+    /// What has failed, except for the application's known limits.
     QStringList faults;
     /// Why a cell says no.
     QStringList remarks;
@@ -83,7 +83,8 @@ QString tableOf(const QList<Row> &rows)
     return remarks.isEmpty() ? text : text + u"\n"_s + remarks;
 }
 
-/// Tries the applications whose names contain `part`; all are written down, some are only told of.
+/// Tries the applications whose names contain `part`, and prints what was found. Writes the file only if
+/// `part` is empty.
 int run(const QString &file, const QString &pictures, const QString &part)
 {
     QList<Row> rows;
