@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Shows Vesk at work where no desktop is: text selected in a real editor is captured by a real key press
-// and shown on the panel. Every step is checked; the first that does not happen ends the run.
+// Shows Vesk at work without a desktop: text selected in a real editor is captured with a real key press and
+// shown in the panel. Every step is checked; the run ends at the first that fails.
 #include "virtualdesktop/accessibletree.h"
 #include "virtualdesktop/guard.h"
 #include "virtualdesktop/texteditor.h"
@@ -23,7 +23,7 @@ namespace {
 constexpr auto kBound = 10s;
 /// How long a key is held.
 constexpr auto kFinger = 20ms;
-/// A picture that has not changed for so long is the last of its animation.
+/// A picture that has not changed for this long is the last frame of its animation.
 constexpr auto kStill = 250ms;
 const QStringList kLines = {u"Groceries for Sunday"_s, u"Water the lemon tree on the balcony"_s,
                             u"Ask about the train to Ghent"_s};
@@ -41,14 +41,14 @@ bool fail(const QString &what)
     return false;
 }
 
-/// The parts of the scene, made one after the other.
+/// The parts of the scene, created one after the other.
 struct Scene
 {
     std::unique_ptr<VirtualDesktop> desktop;
     std::unique_ptr<ChildProcess> vesk;
     std::unique_ptr<TextEditor> editor;
 
-    // The programs end before the desktop that they stand on.
+    // The programs must end before their desktop.
     ~Scene()
     {
         editor.reset();
@@ -110,7 +110,7 @@ bool capture(Scene &scene)
     return true;
 }
 
-/// Whether anything stands between the panel's search field and its composer.
+/// Whether there is anything between the panel's search field and its composer.
 bool isListPainted(const QImage &screen, const Window &panel)
 {
     const QRect list = panel.geometry.adjusted(30, 60, -30, -70);
@@ -124,7 +124,7 @@ bool isListPainted(const QImage &screen, const Window &panel)
     return false;
 }
 
-/// The screen once the panel's list is painted and nothing moves any more; null if that never came.
+/// The screen once the panel's list is painted and nothing moves any more; null if that did not happen.
 QImage takePicture(DisplayConnection &display, const Window &panel)
 {
     QImage now;
