@@ -14,7 +14,7 @@ using namespace vesk;
 
 namespace {
 
-/// Every string that the bus lets through is well-formed.
+/// The bus only passes well-formed strings.
 QString anyString(FuzzedDataProvider &data)
 {
     return QString::fromStdString(data.ConsumeRandomLengthString(500));
@@ -35,7 +35,7 @@ int anyId(FuzzedDataProvider &data)
 
 } // namespace
 
-/// What another process may ask of the running Vesk, and what may stand on the command line.
+/// The calls that another process can make to a running Vesk, and the command line.
 int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
 {
     static int argc = 0;

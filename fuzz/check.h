@@ -10,12 +10,12 @@
 #include <cstring>
 #include <source_location>
 
-/// What the fuzzer calls for each input.
+/// The fuzzer calls this for each input.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size);
 
 namespace vesk {
 
-/// Ends the program if not, which is how the fuzzer learns of a fault.
+/// Aborts if `isTrue` is false, which is how the fuzzer detects a fault.
 inline void check(bool isTrue, const std::source_location &place = std::source_location::current())
 {
     if (isTrue)
@@ -29,7 +29,7 @@ inline void check(bool isTrue, const std::source_location &place = std::source_l
     return QByteArray(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
 }
 
-/// Any sequence of UTF-16 units, lone surrogates included.
+/// Arbitrary UTF-16 units, including lone surrogates.
 [[nodiscard]] inline QString unitsOf(const uint8_t *data, size_t size)
 {
     QString units(static_cast<qsizetype>(size / sizeof(char16_t)), Qt::Uninitialized);

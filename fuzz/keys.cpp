@@ -2,7 +2,7 @@
 #include "check.h"
 #include "input/keysettings.h"
 
-/// The file in which the user chooses other combinations.
+/// The file in which the user configures other combinations.
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QString text = QString::fromUtf8(vesk::bytesOf(data, size));

@@ -23,7 +23,7 @@ void tryText(const QString &text, const QString &added)
     }
     check(markup::toggledItem(text, -1) == text && markup::toggledItem(text, lineCount) == text);
 
-    // What is added is there, and what was there stays.
+    // The added text is there, and the previous text is kept.
     check(markup::appended(text, added).contains(markup::trimmed(text)));
     static_cast<void>(markup::withChecklistItems(text, added));
     for (const ChecklistItem &item : markup::checklistItems(markup::checklist(added)))

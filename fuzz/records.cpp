@@ -10,7 +10,7 @@ using namespace vesk;
 
 namespace {
 
-/// Binds what no Vesk would have written: text that is no UTF-8, blobs, any number, nothing.
+/// Binds a value that Vesk would never write: invalid UTF-8, a blob, any number, or NULL.
 void bindOdd(sqlite3_stmt *statement, int index, FuzzedDataProvider &odd)
 {
     const std::string bytes = odd.ConsumeRandomLengthString(200);
@@ -43,14 +43,14 @@ void insertOdd(sqlite3 *connection, FuzzedDataProvider &odd)
     const int columns = isNote ? 9 : 5;
     for (int index = 1; index <= columns; ++index)
         bindOdd(statement, index, odd);
-    // An identity that can be one, mostly.
+    // Usually a valid identity.
     if (odd.ConsumeIntegralInRange(0, 7) > 0) {
         const std::string id = QUuid::createUuidV5(QUuid(), QByteArray::number(odd.ConsumeIntegral<int>()))
                                    .toString(QUuid::WithoutBraces)
                                    .toStdString();
         sqlite3_bind_text(statement, 1, id.data(), static_cast<int>(id.size()), SQLITE_TRANSIENT);
     }
-    // The rest are of the right type, mostly.
+    // The other columns usually have the right type.
     if (odd.ConsumeIntegralInRange(0, 7) > 0) {
         const std::vector<int> numbers = isNote ? std::vector{3, 4, 5} : std::vector{3, 4, 5};
         for (const int index : numbers)
@@ -64,7 +64,7 @@ void insertOdd(sqlite3 *connection, FuzzedDataProvider &odd)
 
 } // namespace
 
-/// A sound file with values in it that no Vesk has written.
+/// A sound file that contains values that Vesk would never write.
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static const StoreFolder folder;

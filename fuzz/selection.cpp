@@ -6,7 +6,8 @@
 
 using namespace vesk;
 
-/// What the owner of a selection answers, and the settings manager, whose property anyone may own.
+/// The answers of a selection's owner, and the property of the settings manager, which any program can
+/// become.
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray bytes = bytesOf(data, size);
@@ -14,7 +15,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         const QString text = selectionbytes::text(bytes, encoding);
         check(text.size() <= bytes.size());
         check(text.isValidUtf16());
-        // The way of a captured text into a note.
+        // What happens to a captured text before it becomes a note.
         const QString trimmed = markup::trimmed(text);
         check(QString::fromUtf8(markup::wellFormed(trimmed).toUtf8()).size() <= trimmed.size());
         static_cast<void>(markup::checklist(trimmed));

@@ -4,7 +4,7 @@
 
 using namespace vesk;
 
-/// Any bytes in the store's place, and in its journal's.
+/// Arbitrary bytes as the store and as its journal.
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static const StoreFolder folder;
@@ -12,7 +12,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     folder.clear();
     if (size < 2)
         return 0;
-    // The first two bytes say how much of it is the journal.
+    // The first two bytes are the length of the journal.
     const QByteArray bytes = bytesOf(data + 2, size - 2);
     const qsizetype journalSize = std::min<qsizetype>(bytes.size(), data[0] * 256 + data[1]);
     const QByteArray store = bytes.chopped(journalSize);
@@ -28,7 +28,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         useStore(folder.path(), std::move(opened), clock);
     } else {
         check(!opened.error.isEmpty());
-        // What is refused is left as it was.
+        // A file that is refused must be unchanged.
         check(StoreFolder::read(folder.path()) == store);
         check(StoreFolder::read(folder.journalPath()) == journal);
     }

@@ -13,7 +13,7 @@
 
 namespace vesk {
 
-/// A folder in memory for the store of each input.
+/// A folder in memory that holds the store of each input.
 class StoreFolder
 {
 public:
@@ -53,7 +53,7 @@ private:
     QString m_folder;
 };
 
-/// Changes and saves an open store, and looks whether it comes back as it was.
+/// Changes and saves an open store, and checks that it reads back the same.
 inline void useStore(const QString &path, NotesStore::OpenResult opened, Clock &clock)
 {
     LiveQuery<Note> &notes = opened.store->notes();
