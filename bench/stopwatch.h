@@ -35,7 +35,7 @@ public:
     [[nodiscard]] QByteArray settledPixels(const QRect &area) const;
 
     /// Milliseconds from a key press until a window that the benchmark itself puts into the top left corner
-    /// is seen: the share of the server and of the polling. nullopt if the press had no effect.
+    /// is seen: the share of the server and of the polling. nullopt if that window could not be removed.
     [[nodiscard]] std::optional<double> floor();
 
 private:
