@@ -13,7 +13,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// What the buttons and keys of the question for consent do.
+/// The buttons and keys of the question for consent.
 class TestAccessWindow : public QObject
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ void TestAccessWindow::answerCountsWhateverWasAnsweredBefore_data()
     QTest::addColumn<bool>("wasGiven");
     QTest::addColumn<Keys>("keys");
     QTest::addColumn<bool>("isGiven");
-    // The safe button has the keyboard; the other one is a Tab away.
+    // The safe button has the focus; the other one is a Tab away.
     const Keys notNow{Qt::Key_Return};
     const Keys allow{Qt::Key_Tab, Qt::Key_Return};
     const Keys close{Qt::Key_Escape};

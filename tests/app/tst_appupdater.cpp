@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 using namespace vesk;
 using Outcome = Updates::Outcome;
 
-/// What the user is told of a check, and what the keys in that window do.
+/// What the user is told about a check for updates, and what the keys in that window do.
 class TestAppUpdater : public QObject
 {
     Q_OBJECT
@@ -72,7 +72,7 @@ void TestAppUpdater::tells()
     QCOMPARE(QGuiApplication::topLevelWindows().size(), 1);
     auto *window = qobject_cast<QQuickView *>(QGuiApplication::topLevelWindows().constFirst());
     QVERIFY(window);
-    // The keyboard is not quiet yet.
+    // The user is still typing.
     QVERIFY(!window->isVisible());
     desktop.application.setAnyKeyDown(true);
     QTest::qWait(1000);
@@ -83,12 +83,12 @@ void TestAppUpdater::tells()
     QVERIFY(window->rootObject()->property("message").toString().contains(version));
     window->requestActivate();
     QVERIFY(QTest::qWaitForWindowActive(window));
-    // The user was typing something else when it came up.
+    // The user was typing something else when the window appeared.
     for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Escape})
         QTest::keyClick(window, key);
     QVERIFY(window->isVisible());
     QTest::qWait(1000);
-    // Nor does a key answer before a button was chosen. The last button is the one that accepts.
+    // No key answers before a button has been chosen. The last button accepts.
     QTest::keyClick(window, Qt::Key_Return);
     QVERIFY(window->isVisible());
     const bool hasTwo = !window->rootObject()->property("rejectLabel").toString().isEmpty();

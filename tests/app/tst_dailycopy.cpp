@@ -15,7 +15,8 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
-/// The program makes the copy when its time comes, and the message of a damaged store leads back to it.
+/// The program makes the copy when it is due, and the message about a damaged store explains how to restore
+/// it.
 class TestDailyCopy : public QObject
 {
     Q_OBJECT
@@ -42,7 +43,7 @@ void TestDailyCopy::leadsBackToTheNotes()
         const DailyCopy dailyCopy(path, QStringLiteral(VESK_APP), clock);
         clock.advance(1min);
         QVERIFY(!copy.madeAt());
-        // The second look, because the store was written just before the first.
+        // Only the second check, because the store was written just before the first.
         clock.advance(20min);
         QTRY_VERIFY_WITH_TIMEOUT(copy.madeAt(), 30'000);
     }
@@ -62,7 +63,7 @@ void TestDailyCopy::leadsBackToTheNotes()
     QVERIFY2(opened.store, qPrintable(opened.error));
     QCOMPARE(opened.store->notes().first()->text(), u"Water the lemon tree"_s);
 
-    // A store that is only in the way of something else is not to be given up for the copy.
+    // A store that merely cannot be opened must not be given up for its copy.
     const NotesStore::OpenResult locked{
         .store = nullptr, .error = u"It is in use."_s, .fault = StoreFault::Other};
     QVERIFY(describeStoreFailure(locked, path, clock.now()).details.isEmpty());
@@ -78,7 +79,7 @@ void TestDailyCopy::saysWhenNoCopyCanBeMade()
     QVERIFY2(opened.store, qPrintable(opened.error));
     opened.store->insert(std::make_unique<Note>(clock, u"Water the lemon tree"_s));
     QVERIFY(opened.store->save());
-    // Where the copy is to be made there is something else.
+    // Something else is in the way of the copy.
     const QString obstacle = StoreCopy(path).path() + u".new"_s;
     QVERIFY(QDir().mkpath(obstacle + u"/full"_s));
 

@@ -8,7 +8,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// The commands' keys in the real panel.
+/// The keys of menu commands in the real panel.
 class MenuCommandsTest : public PanelTest
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ void MenuCommandsTest::formatWorksFromBesideTheText()
 {
     const MenuCommands commands(window(), *model().editor());
     openNote();
-    // Back to a button of the panel; what follows the note is a field, which would close it.
+    // Back to a button of the panel; moving on from the note would reach a field, which closes it.
     press(Qt::Key_Backtab, Qt::ShiftModifier);
     QVERIFY(model().editor()->textView() && !model().keyboard()->isEditing());
     press(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
@@ -73,7 +73,7 @@ void MenuCommandsTest::newNoteIsTakenFromAnywhere()
     press(Qt::Key_N, Qt::ControlModifier);
     QCOMPARE(chosen.size(), 1);
     QCOMPARE(chosen.first().first().value<Command>(), Command::Write);
-    // Another window of the program's.
+    // Another window of the program.
     QWindow other;
     other.show();
     QVERIFY(QTest::qWaitForWindowActive(&other));

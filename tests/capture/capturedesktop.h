@@ -10,15 +10,15 @@
 
 namespace vesk {
 
-/// The desktop of a user who works in an editor, in memory.
+/// The desktop of a user who is working in an editor, in memory.
 struct CaptureDesktop
 {
     static constexpr qint64 kPid = 4711;
 
     CaptureDesktop() { bringForward(kPid, QStringLiteral("Editor"), QStringLiteral("org.example.Editor")); }
 
-    /// Selects a text in the editor. For an empty one nothing is surely selected, and for nullopt it cannot
-    /// be told.
+    /// Selects a text in the editor. If empty, the editor reports that nothing is selected; if nullopt, it
+    /// cannot tell.
     void select(const std::optional<QString> &text)
     {
         using Finding = SelectedText::Finding;

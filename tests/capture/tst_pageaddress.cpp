@@ -15,7 +15,7 @@ namespace {
 
 constexpr qint64 kPid = 4711;
 
-/// A row of elements, each in the next; the keyboard is in the first.
+/// A chain of elements, each containing the previous one; the first has the focus.
 struct World
 {
     MemoryClock clock;
@@ -43,7 +43,7 @@ struct World
 
 } // namespace
 
-/// Which page a selection is said to be from.
+/// Which page is recorded as a selection's source.
 class TestPageAddress : public QObject
 {
     Q_OBJECT
@@ -135,7 +135,7 @@ void TestPageAddress::slowAnswer_data()
 {
     QTest::addColumn<int>("delay");
     QTest::addColumn<bool>("isFound");
-    // Six questions: focus, role, parent, role, parent and the address.
+    // Six requests: focus, role, parent, role, parent and the address.
     QTest::newRow("in time") << 49 << true;
     QTest::newRow("too slow together") << 51 << false;
     QTest::newRow("hung") << 60000 << false;
@@ -158,7 +158,7 @@ void TestPageAddress::slowAnswer()
     world.clock.advance(300ms);
     QVERIFY(isAnswered);
     QCOMPARE(address.has_value(), isFound);
-    // What comes later goes nowhere.
+    // A late answer is ignored.
     world.clock.advance(5min);
     QCOMPARE(world.clock.sleeperCount(), 0);
 }

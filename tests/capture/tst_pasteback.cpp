@@ -40,7 +40,7 @@ struct World : CaptureDesktop
 
 Q_DECLARE_METATYPE(std::function<void(World &)>)
 
-/// When, and into what, a text is pasted.
+/// When and where a text is pasted.
 class TestPasteBack : public QObject
 {
     Q_OBJECT
@@ -83,7 +83,7 @@ void TestPasteBack::pastedTextIsNotARecentCopy()
     QCOMPARE(QCoro::waitFor(world.watcher.recentCopy(8s)), std::optional<QString>());
 }
 
-/// Another window of the desktop may have the keyboard for a moment, or for good.
+/// Another window of the desktop may have the focus for a moment, or for good.
 void TestPasteBack::windowThatTheUserLeftIsWaitedFor()
 {
     for (const bool comes : {true, false}) {

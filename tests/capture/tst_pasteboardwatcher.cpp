@@ -53,7 +53,7 @@ void TestPasteboardWatcher::init()
 void TestPasteboardWatcher::cleanup()
 {
     m_watcher.reset();
-    // Whatever still sleeps has to notice that it is over.
+    // Let sleeping coroutines notice that it is over.
     m_clock->advance(1s);
     QCOMPARE(m_clock->sleeperCount(), 0);
 }
@@ -73,10 +73,10 @@ void TestPasteboardWatcher::ageOfACopy()
     m_watcher->start();
     m_clock->advance(1400ms);
     m_pasteboard->setString(u" word\n"_s);
-    // Seen now, or at the next look in 100 ms.
+    // Noticed now, or at the next look in 100 ms.
     const auto seenAfter = isReported ? 0ms : 100ms;
     m_clock->advance(5s);
-    // The age does not depend on the date that the user sets.
+    // The age must not depend on the system's date.
     m_clock->setNow(m_clock->now() + 1h);
     QCOMPARE(recent(), u"word"_s);
     m_clock->advance(3s + seenAfter);
@@ -163,11 +163,11 @@ void TestPasteboardWatcher::takenOverContentKeepsItsStanding()
         m_pasteboard->clearContents();
     m_pasteboard->setOrigin({.processIdentifier = {}, .delay = {}, .claim = claim});
     m_pasteboard->setString(text);
-    // The copy itself is still fresh, whoever has it now.
+    // The copy itself is still fresh, whoever owns it now.
     QCOMPARE(recent(), text);
     m_clock->advance(2s);
     QTEST(recent(), "expected");
-    // And a manager may claim it again and again.
+    // A manager may claim it repeatedly.
     m_pasteboard->setOrigin({.processIdentifier = {}, .delay = {}, .claim = Pasteboard::Claim::Aside});
     m_clock->advance(7s);
     m_pasteboard->setString(text);

@@ -11,7 +11,7 @@ using namespace vesk;
 
 namespace {
 
-/// Asks what is selected, and keeps the answer.
+/// Reads the selection and keeps the answer.
 struct World : CaptureDesktop
 {
     World() { watcher.start(); }
@@ -36,7 +36,7 @@ struct World : CaptureDesktop
 Q_DECLARE_METATYPE(SelectedText)
 Q_DECLARE_METATYPE(SelectionReader::Reading::Lack)
 
-/// What counts as selected, and what is said of where it was.
+/// What counts as selected, and what is recorded about its source.
 class TestSelectionReader : public QObject
 {
     Q_OBJECT
@@ -127,7 +127,7 @@ void TestSelectionReader::recentCopyIsTheLastResort_data()
     QTest::newRow("5 seconds ago") << false << 5 << std::optional(u"copied"_s);
     QTest::newRow("9 seconds ago") << false << 9 << std::optional<QString>();
     QTest::newRow("5 seconds ago, a picture is selected") << true << 5 << std::optional(u"copied"_s);
-    // Putting the text back does not make it new.
+    // Restoring the text does not make it recent.
     QTest::newRow("9 seconds ago, a picture is selected") << true << 9 << std::optional<QString>();
 }
 
@@ -196,7 +196,7 @@ void TestSelectionReader::missingTextHasAReason()
     QVERIFY(world.isAnswered);
     QVERIFY(!world.answer);
     QTEST(world.lack, "lack");
-    // With a text there is nothing to excuse.
+    // If there is a text, nothing needs explaining.
     world.poster.setResponse([&world](EventPoster::Command) { world.pasteboard.setString(u"text"_s); });
     world.ask();
     world.clock.advance(1s);
@@ -217,7 +217,7 @@ void TestSelectionReader::addressBarGivesTheWholeAddress()
     world.select(u"example.org"_s);
     world.ask();
     QCOMPARE(world.answer, u"example.org"_s);
-    // On the page itself, the words of the page count.
+    // On the page itself, its words take precedence.
     world.accessibility.setFocusedElement(page);
     world.select(u"example.org/a"_s);
     world.ask();

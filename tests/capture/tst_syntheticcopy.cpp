@@ -15,7 +15,7 @@ namespace {
 
 using Command = EventPoster::Command;
 
-/// An application that is asked to copy, and a user who has something on the pasteboard.
+/// An application that is told to copy, and a user who has something on the pasteboard.
 struct World : CaptureDesktop
 {
     std::unique_ptr<SyntheticCopy> synthetic =
@@ -29,7 +29,7 @@ struct World : CaptureDesktop
         PasteboardItem{PasteboardData{.type = u"text/html"_s, .data = "<b>old</b>"},
                        PasteboardData{.type = MemoryPasteboard::kTextType, .data = "old"}},
         PasteboardItem{PasteboardData{.type = u"image/png"_s, .data = "png"}}};
-    /// What the user has to find on the pasteboard in the end.
+    /// What the user must find on the pasteboard at the end.
     QList<PasteboardItem> expected = users;
     bool isAnswered = false;
     std::optional<QString> answer;
@@ -49,13 +49,13 @@ struct World : CaptureDesktop
         });
     }
 
-    /// The application does as it is told.
+    /// Makes the application copy when told to.
     void copyWhenTold()
     {
         poster.setResponse([this](Command) { pasteboard.setString(u"word"_s); });
     }
 
-    /// What the user has on the pasteboard then.
+    /// The user's pasteboard after such a copy.
     QList<PasteboardItem> copy(const QString &text)
     {
         pasteboard.setString(text);
@@ -74,7 +74,7 @@ using Event = std::function<void(World &)>;
 
 Q_DECLARE_METATYPE(Event)
 
-/// What is read by letting the application copy, and what the user finds on the pasteboard after.
+/// What is read by making the application copy, and what the user finds on the pasteboard afterwards.
 class TestSyntheticCopy : public QObject
 {
     Q_OBJECT
@@ -152,14 +152,14 @@ void TestSyntheticCopy::leavesTheUsersContent_data()
         world.poster.setAllowed(false);
         world.ask();
         QVERIFY(world.isAnswered);
-        // No copy was asked for, so this one is the user's.
+        // No copy was requested, so this one is the user's.
         world.expected = world.copy(u"the user's"_s);
     });
     row("user copies before the restore", 1, u"word"_s, [](World &world) {
         world.copyWhenTold();
         world.pasteboard.setDelay(world.clock, 40ms);
         world.ask();
-        // The saving takes 40 ms, then the application copies; reading begins 25 ms later.
+        // Saving takes 40 ms, then the application copies; reading begins 25 ms later.
         world.clock.advance(80ms);
         world.expected = world.copy(u"the user's"_s);
     });
@@ -251,7 +251,7 @@ void TestSyntheticCopy::ignoredKeysLeaveThePasteboardAlone()
     QCOMPARE(world.pasteboard.changeCount(), before);
 }
 
-/// The application hung for long, and the user has gone on in others.
+/// The application hung for a long time, and the user has moved on to others.
 void TestSyntheticCopy::lateCopyBringsBackTheNewest()
 {
     World world;

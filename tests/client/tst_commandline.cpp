@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 using namespace vesk;
 using Kind = CommandLine::Kind;
 
-/// What is understood on the command line, and what the list of notes looks like.
+/// What the command line accepts, and the format of the list of notes.
 class TestCommandLine : public QObject
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ void TestCommandLine::understands_data()
     const auto row = [](const char *words, Kind kind, const char *method = "") {
         QTest::newRow(words) << QString::fromLatin1(words) << kind << QString::fromLatin1(method);
     };
-    // The desktop tests give the commands that are not here.
+    // The desktop tests cover the other commands.
     row("", Kind::Start);
     row("--background", Kind::Start);
     row("--gpu --background", Kind::Start);
@@ -46,11 +46,11 @@ void TestCommandLine::understands_data()
     row("add-to-checklist", Kind::Call, "AddToChecklist");
     row("save-prompt", Kind::Call, "SavePrompt");
     row("quick-note --checklist", Kind::Call, "QuickChecklist");
-    row("add --append", Kind::Add); // what is added is never taken for an option
+    row("add --append", Kind::Add); // text to add is never taken for an option
     row("add -", Kind::AddInput);
     row("list --json", Kind::List);
     row("keys --json", Kind::Keys);
-    row("access", Kind::Access); // refused by the one that carries it out
+    row("access", Kind::Access); // refused by the command itself
     row("capture --help", Kind::Help);
     row("-v", Kind::Version);
 }
@@ -102,12 +102,12 @@ void TestCommandLine::isToldEverywhere_data()
         QTest::newRow(file) << QString::fromLatin1(file);
 }
 
-/// The commands and options of the help stand in the manual page and in the completions too.
+/// The commands and options in the help are also in the manual page and the completions.
 void TestCommandLine::isToldEverywhere()
 {
     QFETCH(QString, file);
     QString text = QString::fromUtf8(contentsOf(QStringLiteral(VESK_PACKAGING "/") + file));
-    // As they are written in a manual page, and for fish.
+    // Convert the spellings of the manual page and of fish.
     text.replace(u"\\-"_s, u"-"_s).replace(u"-l "_s, u"--"_s);
 
     static const QRegularExpression kCall(u"^  \\S.*?  "_s, QRegularExpression::MultilineOption);

@@ -17,7 +17,7 @@
 
 namespace vesk {
 
-/// What a view finds around it on a desktop, in memory, and the engine that has been lent it.
+/// The desktop that a view needs, in memory, and an engine that has been lent it.
 struct MemoryDesktop
 {
     MemoryDesktop() { lendToEngine(engine, appearance, workspace, windows); }

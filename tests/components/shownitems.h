@@ -6,7 +6,7 @@
 
 namespace vesk {
 
-/// All items of the window that are shown, and for which `isWanted` is true.
+/// All visible items of the window that `isWanted` accepts.
 QList<QQuickItem *> shownItems(const QQuickWindow &window, auto isWanted)
 {
     QList<QQuickItem *> found;

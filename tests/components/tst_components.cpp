@@ -25,7 +25,7 @@ using namespace vesk;
 
 namespace {
 
-/// A language in which every word ends differently.
+/// A language that changes every word.
 class OtherLanguage : public QTranslator
 {
 public:
@@ -77,7 +77,7 @@ void ComponentsTest::combinationsInTextsAreSpelt()
     QTEST(KeyLabels::spelt(text, KeyLabels::Window), "window");
 }
 
-/// Keyboards have other words on them in other countries.
+/// Keyboards in other countries have other words on them.
 void ComponentsTest::everyKeyWithANameIsTranslated()
 {
     OtherLanguage language;

@@ -16,7 +16,7 @@ using namespace vesk;
 
 namespace {
 
-/// A window, over the platform in memory, with a piece of QML in it.
+/// A window that contains a piece of QML, over the in-memory platform.
 struct ComponentStage : MemoryDesktop
 {
     explicit ComponentStage(const QByteArray &qml)
@@ -53,7 +53,7 @@ struct ComponentStage : MemoryDesktop
 
 } // namespace
 
-/// The controls under real keys and a real pointer.
+/// The controls, with real keys and a real pointer.
 class ControlsTest : public QObject
 {
     Q_OBJECT
@@ -69,13 +69,13 @@ private Q_SLOTS:
     void headerOffersTheOtherState();
 
 private:
-    /// Loads a page with a field and a menu, and opens the menu where the field is.
+    /// Loads a page with a field and a menu, and opens the menu at this point of the field.
     void openMenu(qreal x = 10, qreal y = 10);
     [[nodiscard]] QStringList chosen() const
     {
         return m_stage->root->property("chosen").toString().split(u' ', Qt::SkipEmptyParts);
     }
-    /// The row of an entry on screen; null if there is none.
+    /// The visible row of an entry; null if there is none.
     [[nodiscard]] QQuickItem *row(const QString &text) const;
 
     std::unique_ptr<ComponentStage> m_stage;
@@ -155,7 +155,7 @@ void ControlsTest::menuIsChosenFromByKeys()
     QTEST(chosen(), "chosen");
     const bool isAnswered = !chosen().isEmpty() || keys.last() == Qt::Key_Escape;
     QCOMPARE(m_stage->item(u"menu"_s)->isVisible(), !isAnswered);
-    // The field has the keyboard again.
+    // The field has the focus again.
     QCOMPARE(m_stage->item(u"field"_s)->hasActiveFocus(), isAnswered);
     QCOMPARE(m_stage->root->property("keys").toInt(), 0);
 }
@@ -174,7 +174,7 @@ void ControlsTest::menuIsChosenFromWithoutKeys()
     QTest::mouseClick(&m_stage->view, Qt::RightButton, {}, QPoint(390, 390));
     QVERIFY(!menu->isVisible());
     QCOMPARE(chosen(), QStringList{u"second"_s});
-    // And as a screen reader does, by the name with the words of the keys.
+    // The same as a screen reader would: by name, with the keys in words.
     QMetaObject::invokeMethod(m_stage->root, "open");
     QAccessibleInterface *first = QAccessible::queryAccessibleInterface(row(u"First (Ctrl+F)"_s));
     first->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
@@ -245,7 +245,7 @@ void ControlsTest::thumbMovesALongList()
     };
     QTRY_VERIFY(stage.item(u"thumb"_s)->isVisible());
     QCOMPARE(firstRow(), 0);
-    // The thumb is 32 high at least, so its way is 368 long.
+    // The thumb is at least 32 high, so its track is 368 long.
     const auto drag = [&stage](int from, int to) {
         QTest::mousePress(&stage.view, Qt::LeftButton, {}, QPoint(392, from));
         for (int step = 1; step <= 8; ++step)

@@ -10,7 +10,7 @@ Announcements::Announcements(const QString &busAddress)
 {
     m_bus.connection().connect({}, {}, u"org.a11y.atspi.Event.Object"_s, u"StateChanged"_s, this,
                                SLOT(onStateChanged(QDBusMessage)));
-    // Toolkits send nothing that nobody has asked for.
+    // Toolkits only send events that somebody has asked for.
     static_cast<void>(m_bus.ask({u"org.a11y.atspi.Registry"_s, u"/org/a11y/atspi/registry"_s},
                                 u"org.a11y.atspi.Registry"_s, u"RegisterEvent"_s,
                                 {u"object:state-changed:showing"_s}));
@@ -18,7 +18,7 @@ Announcements::Announcements(const QString &busAddress)
 
 void Announcements::onStateChanged(const QDBusMessage &message)
 {
-    /// The bus protocol's number for the role of a notification.
+    /// The AT-SPI role of a notification.
     constexpr uint kNotification = 101;
     const QVariantList arguments = message.arguments();
     if (arguments.size() < 2 || arguments.at(0) != u"showing"_s || arguments.at(1).toInt() != 1)

@@ -10,16 +10,16 @@
 
 namespace vesk {
 
-/// What a screen reader would read out by itself: notifications that come on the screen.
+/// What a screen reader would read aloud unprompted: notifications that appear on the screen.
 class Announcements final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `busAddress` is that of the session bus, which knows the accessibility bus.
+    /// `busAddress` is that of the session bus, which provides the address of the accessibility bus.
     explicit Announcements(const QString &busAddress);
 
-    /// Their names, the first one first.
+    /// The names of the notifications, in order.
     [[nodiscard]] const QStringList &heard() const { return m_heard; }
 
 private Q_SLOTS:

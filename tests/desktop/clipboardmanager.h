@@ -5,17 +5,17 @@
 
 namespace vesk {
 
-/// The desktop's clipboard manager: takes over what a program that quits has on the clipboard.
+/// The desktop's clipboard manager: takes over the clipboard of a program that quits.
 class ClipboardManager final
 {
 public:
     enum class Manner {
         Ordinary,
-        /// Is there, and never answers.
+        /// Running, but never answers.
         Hanging,
     };
 
-    /// Is the manager when this returns, unless the server did not answer.
+    /// Has become the manager when this returns, unless the server did not answer.
     ClipboardManager(const QString &displayName, Manner manner);
 
 private:
@@ -23,7 +23,7 @@ private:
 
     const QString m_displayName;
     std::unique_ptr<ClipboardHolder> m_saved;
-    // Ends before what it uses.
+    // Must end before what it uses.
     std::unique_ptr<SelectionThread> m_thread;
 };
 

@@ -7,16 +7,16 @@
 #include <QCoreApplication>
 #include <QTest>
 
-/// Gives up this test function with the titles on the screen, which mostly say what went wrong.
+/// Fails this test function with the window titles on the screen, which usually show what went wrong.
 #define VERIFY_ON(desktop, condition)                                                                        \
     QVERIFY2(condition, qPrintable(QStringLiteral("On the screen: ") + (desktop).windows().describe()))
 
 namespace vesk {
 
-/// How long the slowest of machines may take; nothing here measures speed.
+/// Generous enough for the slowest machine; nothing here measures speed.
 constexpr std::chrono::seconds kBound{10};
 
-/// Runs the test object's functions, each process of them below the guard.
+/// Runs the test object's functions, with all their processes below the guard.
 template <typename Test>
 int runDesktopTest(int argc, char **argv)
 {
@@ -29,7 +29,7 @@ int runDesktopTest(int argc, char **argv)
 
 } // namespace vesk
 
-/// The main function of the program that has this one test.
+/// The main function of a program that contains only this test.
 #define DESKTOP_TEST_MAIN(Test)                                                                              \
     int main(int argc, char **argv)                                                                          \
     {                                                                                                        \

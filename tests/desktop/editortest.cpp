@@ -37,7 +37,7 @@ bool EditorTest::letFocusFollowThePointer()
     const std::unique_ptr<ChildProcess> teller = m_desktop->run(u"openbox"_s, {u"--reconfigure"_s});
     if (!teller || !teller->waitForExit(kBound))
         return false;
-    // Once it has heard, moving the pointer is enough.
+    // Once it has noticed, moving the pointer is enough.
     PlainWindow other(m_desktop->display(), u"Other"_s, QRect(5, 5, 100, 100));
     other.show();
     const auto follows = [this](const Window &window, QPoint place) {

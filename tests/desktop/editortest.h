@@ -14,8 +14,8 @@ class EditorTest : public VeskTest
 protected:
     /// Whether nothing was typed into the editor.
     [[nodiscard]] bool isEditorUntouched();
-    /// Has the window manager give the keyboard to the window under the pointer, and leaves the pointer in
-    /// the editor. False if it never did.
+    /// Makes the window manager focus the window under the pointer, and leaves the pointer in the editor.
+    /// Returns false if it never did.
     [[nodiscard]] bool letFocusFollowThePointer();
 
     const QStringList m_lines = {QStringLiteral("Water the lemon tree on the balcony"),

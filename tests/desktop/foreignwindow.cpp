@@ -35,7 +35,7 @@ void ForeignWindow::serve()
             if ((event->response_type & 0x7f) != XCB_KEY_PRESS)
                 continue;
             const auto &press = reinterpret_cast<const xcb_key_press_event_t &>(*event);
-            // Only with Control alone is a letter a command.
+            // A letter is a command only with Control and no other modifier.
             constexpr quint16 kModifiers =
                 XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_4;
             if ((press.state & kModifiers) != XCB_MOD_MASK_CONTROL)

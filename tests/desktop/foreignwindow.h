@@ -13,12 +13,12 @@
 
 namespace vesk {
 
-/// An application that offers nothing on the accessibility bus, and that copies a text when it gets
-/// Control-C. A password field and a hung application copy none.
+/// An application that exposes nothing on the accessibility bus, and copies a text on Control-C. A password
+/// field and a hung application copy nothing.
 class ForeignWindow final
 {
 public:
-    /// Shows its window. Nullopt for an application that copies nothing.
+    /// Shows its window. With nullopt, the application copies nothing.
     ForeignWindow(const QString &displayName, std::optional<QByteArray> copies);
     ~ForeignWindow();
     Q_DISABLE_COPY_MOVE(ForeignWindow)

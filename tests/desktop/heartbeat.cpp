@@ -27,7 +27,7 @@ void Heartbeat::run(const QString &busAddress)
     const auto name = u"vesk-test-heartbeat"_s;
     QDBusConnection bus = QDBusConnection::connectToBus(busAddress, name);
     while (!m_isEnding) {
-        // The object's own answer comes from the thread that it lives on.
+        // This answer comes from the thread that the object lives in.
         const QDBusMessage question =
             QDBusMessage::createMethodCall(u"org.vesk.Vesk"_s, u"/org/vesk/Vesk"_s,
                                            u"org.freedesktop.DBus.Introspectable"_s, u"Introspect"_s);

@@ -8,8 +8,7 @@
 
 namespace vesk {
 
-/// Asks Vesk something by the session bus, which its event loop must answer, and asks again after each
-/// answer.
+/// Calls Vesk over the session bus, which its event loop must answer, and calls again after each answer.
 class Heartbeat final
 {
 public:
@@ -17,7 +16,7 @@ public:
     ~Heartbeat();
     Q_DISABLE_COPY_MOVE(Heartbeat)
 
-    /// How many answers have come.
+    /// The number of answers so far.
     [[nodiscard]] int answers() const { return m_answers; }
 
 private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Loaded into Vesk before libcanberra: a sound server that never answers.
+// Preloaded into Vesk instead of libcanberra: a sound server that never answers.
 #include <cstdint>
 #include <cstdlib>
 #include <fstream>

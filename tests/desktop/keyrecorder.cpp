@@ -48,7 +48,7 @@ void KeyRecorder::create(const QString &title, const QByteArray &windowClass)
     };
     setText(m_display->atom("_NET_WM_NAME"), m_display->atom("UTF8_STRING"), title.toUtf8());
     setText(XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, windowClass.toLower() + '\0' + windowClass + '\0');
-    // Takes the keyboard when it is given to it.
+    // Accepts the focus when it is given to it.
     constexpr std::array<quint32, 9> hints{1, 1};
     xcb_change_property(xcb, XCB_PROP_MODE_REPLACE, m_window.id, XCB_ATOM_WM_HINTS, XCB_ATOM_WM_HINTS, 32,
                         quint32(hints.size()), hints.data());
@@ -58,7 +58,7 @@ void KeyRecorder::create(const QString &title, const QByteArray &windowClass)
 
 QStringList KeyRecorder::keys()
 {
-    // The answer to any question comes after the events before it.
+    // An answer arrives after all preceding events.
     static_cast<void>(m_display->atom("VESK_TEST"));
     while (const Reply<xcb_generic_event_t> event{xcb_poll_for_event(m_display->xcb())}) {
         if ((event->response_type & 0x7f) == XCB_KEY_PRESS)

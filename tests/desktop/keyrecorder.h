@@ -7,31 +7,30 @@
 
 namespace vesk {
 
-/// A window of a program of its own that writes down which keys reach it. It is not on the accessibility bus
-/// and has nothing selected.
+/// A window of a separate program that records which keys reach it. It is not on the accessibility bus and
+/// has no selection.
 class KeyRecorder final
 {
 public:
-    /// Null if the window did not come up and take the keyboard. `windowClass` is what the window says of its
-    /// program. An empty class makes a window that the window manager leaves alone, and that does not take
-    /// the keyboard by itself.
+    /// Null if the window did not appear with the focus. `windowClass` identifies its program. If empty, the
+    /// window manager ignores the window, which then does not take the focus by itself.
     [[nodiscard]] static std::unique_ptr<KeyRecorder> open(VirtualDesktop &desktop, const QString &title,
                                                            const QByteArray &windowClass = "Recorder");
     ~KeyRecorder();
     Q_DISABLE_COPY_MOVE(KeyRecorder)
 
-    /// The keys that reached the window so far, modifiers left out, each with the modifiers that it came
-    /// with: "x", or "Control+Alt+x".
+    /// The keys that have reached the window so far, except modifiers, each with its modifiers: "x", or
+    /// "Control+Alt+x".
     [[nodiscard]] QStringList keys();
     void forget()
     {
         static_cast<void>(keys());
         m_keys.clear();
     }
-    /// Takes all keys for this window, as a menu does. False if another program has them.
+    /// Grabs the keyboard for this window, as a menu does. Returns false if another program has grabbed it.
     [[nodiscard]] bool grabKeyboard();
     void ungrabKeyboard();
-    /// Waits until a key is the last that reached the window.
+    /// Waits until a key is the last that has reached the window.
     [[nodiscard]] bool waitFor(const QString &key);
 
     [[nodiscard]] const Window &window() const { return m_window; }

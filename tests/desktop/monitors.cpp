@@ -10,7 +10,7 @@ namespace vesk {
 
 namespace {
 
-/// RRSetMonitor as it goes over the wire: xcb's own function for it counts the length wrongly.
+/// RRSetMonitor in its wire format: xcb's own function computes the length wrongly.
 struct MonitorRequest
 {
     quint8 majorOpcode;

@@ -7,13 +7,13 @@
 
 namespace vesk {
 
-/// The desktop's monitors, as a user plugs them in and out: parts of the one big screen of the server.
+/// The desktop's monitors, as a user plugs them in and out: parts of the server's single large screen.
 class Monitors final
 {
 public:
     explicit Monitors(DisplayConnection &display);
 
-    /// Makes these the monitors; the first is the primary one.
+    /// Replaces the monitors with these; the first is the primary one.
     void set(const QList<QRect> &monitors);
 
 private:

@@ -16,7 +16,7 @@ PlainWindow::PlainWindow(DisplayConnection &display, const QString &title, const
     const QByteArray name = title.toUtf8();
     xcb_change_property(xcb, XCB_PROP_MODE_REPLACE, m_id, display.atom("_NET_WM_NAME"),
                         display.atom("UTF8_STRING"), 8, quint32(name.size()), name.constData());
-    // Takes the keyboard when it is given to it.
+    // Accepts the focus when it is given to it.
     constexpr std::array<quint32, 9> hints{1, 1};
     xcb_change_property(xcb, XCB_PROP_MODE_REPLACE, m_id, XCB_ATOM_WM_HINTS, XCB_ATOM_WM_HINTS, 32,
                         quint32(hints.size()), hints.data());

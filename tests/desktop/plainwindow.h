@@ -5,7 +5,7 @@
 
 namespace vesk {
 
-/// A window of the test's own, as simple applications and docks have them.
+/// A window created by the test, like those of simple applications and docks.
 class PlainWindow final
 {
 public:
@@ -13,10 +13,10 @@ public:
     ~PlainWindow();
     Q_DISABLE_COPY_MOVE(PlainWindow)
 
-    /// Has the window keep an edge of the desktop free: left, right, top, bottom, and then for each where
-    /// it begins and ends. Before it is shown, it becomes a dock by this.
+    /// Reserves an edge of the desktop for the window: left, right, top, bottom, and then the start and end
+    /// of each. If called before the window is shown, the window becomes a dock.
     void setStrut(const std::array<quint32, 12> &strut);
-    /// Before it is shown.
+    /// Must be called before the window is shown.
     void setFullScreen();
     void show();
 

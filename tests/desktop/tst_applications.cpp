@@ -5,8 +5,8 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// The promises about applications in front, kept in small ones of each toolkit. `./dev reach` makes the
-/// same trial of large ones.
+/// Vesk's promises about the frontmost application, tested with small applications of each toolkit. `./dev
+/// reach` does the same with large ones.
 class TestApplications : public QObject
 {
     Q_OBJECT

@@ -17,7 +17,7 @@ namespace {
 
 const auto kName = u"org.vesk.Vesk"_s;
 
-/// Each method of the interface in a description, with its arguments, in the order of the names.
+/// Each method in a description of the interface, with its arguments, sorted by name.
 QStringList methodsOf(const QString &description)
 {
     static const QRegularExpression interface(u"<interface name=\"org.vesk.Vesk\">(.*?)</interface>"_s,
@@ -37,7 +37,7 @@ QStringList methodsOf(const QString &description)
 
 } // namespace
 
-/// The command line against the real program and a bus of its own.
+/// The command line with the real program and a separate bus.
 class TestCommands : public VeskTest
 {
     Q_OBJECT
@@ -66,10 +66,10 @@ private:
         QString errors;
     };
 
-    /// Runs `vesk` in a shell, with `line` behind it.
+    /// Runs `vesk` in a shell, followed by `line`.
     Outcome vesk(const QString &line) { return shell(u"\"$VESK\" "_s + line); }
     Outcome shell(const QString &line);
-    /// The words of an outcome, for the message of a test that failed.
+    /// The output of a command, for a failing test's message.
     static QString told(const Outcome &outcome) { return outcome.output + outcome.errors; }
     [[nodiscard]] bool isOnTheBus();
 };
@@ -115,7 +115,7 @@ void TestCommands::addsThroughTheRunningVesk()
 {
     const std::unique_ptr<ChildProcess> running = m_desktop->startVesk();
     QVERIFY(running);
-    // Many at once: each is on the disk when its command ends, and one writer has them all in memory.
+    // Many at once: each note is on the disk when its command ends, and one writer has them all in memory.
     const Outcome outcome =
         shell(u"for i in 1 2 3 4 5; do \"$VESK\" add \"note $i\" || exit 1 & done; wait"_s);
     QVERIFY2(outcome.code == 0 && told(outcome).isEmpty(), qPrintable(told(outcome)));
@@ -135,7 +135,7 @@ void TestCommands::addsTwoAtOnceWithoutARunningVesk()
     QCOMPARE(m_desktop->notes().texts().size(), 2 * kRounds);
 }
 
-/// The command line has a limit of its own, before the bus.
+/// The command line has a limit of its own, lower than the bus's.
 void TestCommands::refusesTooLongATextOverTheBus()
 {
     const std::unique_ptr<ChildProcess> running = m_desktop->startVesk();
@@ -165,7 +165,7 @@ void TestCommands::aLostStoreIsNotBegunAnew()
         QVERIFY2(outcome.code == 1 && outcome.errors.contains(copy), qPrintable(told(outcome)));
     }
     QVERIFY(!QFile::exists(store));
-    // What is printed last can be run as it is.
+    // The last line printed can be run as it is.
     const QStringList lines = outcome.errors.trimmed().split(u'\n');
     outcome = shell(lines.constLast());
     QVERIFY2(outcome.code == 0 && told(outcome).isEmpty(), qPrintable(told(outcome)));
@@ -237,7 +237,7 @@ void TestCommands::commandsStartVeskAndEndIt()
     Outcome outcome = vesk(u"quit"_s);
     QVERIFY2(outcome.code == 0 && told(outcome).isEmpty(), qPrintable(told(outcome)));
 
-    // The pipe would hold the shell up if the Vesk that was started kept the terminal.
+    // The pipe would block the shell if the Vesk that was started kept the terminal.
     outcome = shell(u"\"$VESK\" toggle 2>&1 | cat"_s);
     QVERIFY2(outcome.code == 0 && told(outcome).isEmpty(), qPrintable(told(outcome)));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
@@ -266,7 +266,7 @@ void TestCommands::entryActionsDoWhatTheySay()
         VERIFY_ON(*m_desktop, window);
         VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*window, kBound));
     }
-    // Closed and opened again by the command.
+    // The command closes it and opens it again.
     QCOMPARE(vesk(u"quick-note"_s).code, 0);
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kQuickNote, kBound));
 }

@@ -15,16 +15,16 @@ using namespace vesk;
 
 namespace {
 
-/// How many answers Vesk gives during a capture at the least if its event loop runs while it waits. Without a
-/// wait, up to five come before the box is open; with one, about a hundred.
+/// The minimum number of answers that Vesk gives during a capture if its event loop runs while it waits.
+/// Without a wait, up to five arrive before the box is open; with one, about a hundred.
 constexpr int kAnswers = 10;
 
 const ClipboardHolder::Forms kCopied{{"UTF8_STRING", "copied before"}, {"text/html", "<i>copied</i> before"}};
 
 } // namespace
 
-/// Captures while something else on the desktop is broken: they end with the note or the way to write one,
-/// Vesk answers meanwhile, and the clipboard is as it was.
+/// Captures while something else on the desktop is broken: they end with the note or with the quick-note box,
+/// Vesk stays responsive meanwhile, and the clipboard is unchanged.
 class TestFaults : public VeskTest
 {
     Q_OBJECT
@@ -52,12 +52,12 @@ private:
     };
 
     [[nodiscard]] QString setUp(const VirtualDesktop::Lacks &lacks = {});
-    /// Presses the key for a capture, does `meanwhile`, and waits for what follows.
+    /// Presses the capture key, calls `meanwhile`, and waits for the outcome.
     [[nodiscard]] Outcome capture(const std::function<void()> &meanwhile = {});
-    /// What is wrong with Vesk or the clipboard after a capture; empty for nothing.
+    /// What is wrong with Vesk or the clipboard after a capture; empty if nothing is.
     [[nodiscard]] QString complaint();
     /// Whether Vesk answers while it waits in a capture that ends with the box, which is open and stays open.
-    /// On a machine on which the asking comes too seldom, it is tried again.
+    /// Retried if the machine is too busy to call often enough.
     [[nodiscard]] bool answersMeanwhile();
     [[nodiscard]] std::optional<Window> veskWindow() const;
     void dismissFallback();
@@ -66,7 +66,7 @@ private:
     std::unique_ptr<ClipboardHolder> m_clipboard;
     std::unique_ptr<TextEditor> m_editor;
     QElapsedTimer m_sinceCapture;
-    /// Vesk's answers from the last capture's key to its end.
+    /// Vesk's answers between the key of the last capture and its end.
     int m_answers = 0;
 };
 
@@ -170,21 +170,21 @@ void TestFaults::applicationHangsAndGoesOnLater()
     QCOMPARE(setUp(), QString());
     VERIFY_ON(*m_desktop, m_editor->selectLine(1));
     m_editor->process().signal(SIGSTOP);
-    // An impatient second press is too soon, and does not close what the first one opens.
+    // An impatient second press is ignored, and does not close what the first one opens.
     QCOMPARE(capture([this] { press({XK_n}); }), Outcome::Fallback);
     QCOMPARE(complaint(), QString());
     VERIFY_ON(*m_desktop, veskWindow());
     VERIFY_ON(*m_desktop, answersMeanwhile());
     dismissFallback();
 
-    // The user copies something else, and then the application goes on and does all that it was told.
+    // The user copies something else, and then the application recovers and does everything that it was told.
     const ClipboardHolder::Forms newer{{"UTF8_STRING", "copied meanwhile"}};
     m_clipboard = ClipboardHolder::hold(m_desktop->displayName(), newer);
     m_editor->process().signal(SIGCONT);
     m_desktop->windows().activate(m_editor->window());
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
     QCOMPARE(m_editor->text(), m_lines.join(u'\n') + u'\n');
-    QTest::qWait(300); // For an undoing, which takes a moment.
+    QTest::qWait(300); // Undoing takes a moment.
     QCOMPARE(m_desktop->display().readSelection("CLIPBOARD", kBound), u"copied meanwhile"_s);
 }
 
@@ -236,10 +236,10 @@ void TestFaults::accessibilityBusIsMissing()
     QCOMPARE(complaint(), QString());
 }
 
-/// A lock has all keys to itself, and no more than that: the editor behind it still has its selection.
+/// A lock screen only grabs the keyboard: the editor behind it still has its selection.
 void TestFaults::screenIsLocked()
 {
-    // Told by the accessibility bus, the editor says that it has none while it has no keys.
+    // Over the accessibility bus, the editor reports no selection while the keyboard is grabbed.
     QCOMPARE(setUp({.accessibilityBus = true, .extension = {}}), QString());
     VERIFY_ON(*m_desktop, m_editor->selectLine(0));
     QTest::qWait(int(kCaptureGate.count()));
@@ -250,24 +250,24 @@ void TestFaults::screenIsLocked()
     for (const Keys &keys : {Keys{XK_n}, Keys{XK_t}, Keys{XK_Shift_L, XK_c}})
         press(keys);
     tapShiftTwice();
-    // An answer of Vesk's comes after all of that.
+    // Vesk's answer comes after all of that.
     QVERIFY(runToEnd(VirtualDesktop::veskProgram(), {u"keys"_s}));
     VERIFY_ON(*m_desktop, !veskWindow());
     lockKeyboard.ungrab();
 
-    // Had one of them been heard, these would come too soon after it.
+    // If one of them had been heard, these would follow too soon.
     VERIFY_ON(*m_desktop, m_editor->selectLine(1));
     tapShiftTwice();
     VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(
                               kBound, [this] { return !m_desktop->notes().promptTexts().isEmpty(); }));
     QCOMPARE(m_desktop->notes().promptTexts(), QStringList{m_lines.at(1)});
-    // The notice is a window of Vesk's too.
+    // The notice is a window of Vesk too.
     VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [this] { return !veskWindow(); }));
     QCOMPARE(capture(), Outcome::Note);
     QCOMPARE(m_desktop->notes().texts(), m_lines);
 }
 
-/// Vesk ends all the same, and the next one starts.
+/// Vesk still exits, and can be started again.
 void TestFaults::soundServerHangs()
 {
     startDesktop();

@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
-/// Who has the keyboard, and where Vesk's windows are, under the chosen window manager.
+/// What has the focus, and where Vesk's windows are, under the selected window manager.
 class TestFocus : public VeskTest
 {
     Q_OBJECT
@@ -21,13 +21,13 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] std::unique_ptr<TextEditor> openEditor(const QString &name);
-    /// Gives the window the keyboard as its user does; whether it has it.
+    /// Focuses the window as its user does; returns whether it has the focus.
     [[nodiscard]] bool turnTo(const Window &window);
-    /// Writes a quick note over the window in use.
+    /// Writes a quick note on top of the window in use.
     [[nodiscard]] bool writeQuickNote(const QString &text);
-    /// Goes to the second workspace, where nothing is.
+    /// Switches to the second workspace, which is empty.
     [[nodiscard]] bool goToEmptyWorkspace();
-    /// Whether the window stands where `isThere` wants it; waits for it.
+    /// Waits until `isThere` accepts the window's position; returns whether it did.
     [[nodiscard]] bool waitPlace(const QString &title, const std::function<bool(QRect)> &isThere);
     [[nodiscard]] QString whereIs(const QString &title) const;
 };
@@ -46,7 +46,7 @@ void TestFocus::cleanup()
 std::unique_ptr<TextEditor> TestFocus::openEditor(const QString &name)
 {
     std::unique_ptr<TextEditor> editor = TextEditor::open(*m_desktop, {u"line of "_s + name}, name);
-    // An editor that has just come up drops the first keys.
+    // An editor that has just started drops the first keys.
     return editor && editor->text() && editor->deselect() ? std::move(editor) : nullptr;
 }
 
@@ -60,7 +60,7 @@ bool TestFocus::turnTo(const Window &window)
 bool TestFocus::writeQuickNote(const QString &text)
 {
     capture();
-    // From when Vesk has heard the key on, long before the box is there.
+    // Starts when Vesk has received the key, long before the box is there.
     const bool isHeard = m_desktop->display().waitUntil(kBound, [this] {
         return m_desktop->pointer().isTaken() || m_desktop->windows().findViewable(kQuickNote);
     });
@@ -71,7 +71,7 @@ bool TestFocus::writeQuickNote(const QString &text)
 
 bool TestFocus::goToEmptyWorkspace()
 {
-    // In i3 a workspace comes into being when somebody goes there.
+    // i3 creates a workspace when the user switches to it.
     if (WindowManager::chosen()->name == "i3"_L1 && !runToEnd(u"i3-msg"_s, {u"workspace"_s, u"2"_s}))
         return false;
     return m_desktop->windows().goToWorkspace(1, kBound);
@@ -94,7 +94,7 @@ QString TestFocus::whereIs(const QString &title) const
     return place;
 }
 
-/// The letters come before the box is there.
+/// The letters arrive before the box is there.
 void TestFocus::quickNoteTakesEveryLetter()
 {
     const std::unique_ptr<TextEditor> editor = openEditor(u"first.txt"_s);
@@ -131,7 +131,7 @@ void TestFocus::windowsStandWhole()
              qPrintable(whereIs(kQuickNote)));
 }
 
-/// An earlier quick note over another program does not count.
+/// An earlier quick note over another program does not matter.
 void TestFocus::pasteGoesToTheWindowInUse()
 {
     const std::unique_ptr<TextEditor> first = openEditor(u"first.txt"_s);
@@ -179,7 +179,7 @@ void TestFocus::panelGoesWithItsWorkspace()
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kPanel, kBound));
     VERIFY_ON(*m_desktop, goToEmptyWorkspace());
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
-    // It comes up where the user is, and goes without taking him elsewhere.
+    // It opens where the user is, and closes without taking the user elsewhere.
     togglePanel();
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kPanel, kBound));
     QCOMPARE(m_desktop->windows().rootNumber("_NET_CURRENT_DESKTOP"), 1U);

@@ -13,7 +13,7 @@ const auto kSavedPrompt = u"Saved to Prompts"_s;
 
 } // namespace
 
-/// Every global key, whatever state and layout the keyboard is in.
+/// Every global key, in whatever state and layout the keyboard is.
 class TestGlobalKeys : public EditorTest
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ private Q_SLOTS:
     void whatIsTypedFromThePressOnReachesThePanel();
 
 private:
-    /// The line of `vesk keys` that begins with these keys; empty if there is none.
+    /// The line of `vesk keys` that starts with these keys; empty if there is none.
     [[nodiscard]] QString lineOfKeys(const QString &keys);
 };
 
@@ -100,17 +100,17 @@ void TestGlobalKeys::layouts_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("typedByN");
     QTest::newRow("second of two") << QStringList{u"us,ru"_s, u"-option"_s, u"grp:sclk_toggle"_s} << u"т"_s;
-    // Every letter has another place there.
+    // All letters are on other keys in this layout.
     QTest::newRow("Dvorak") << QStringList{u"us"_s, u"-variant"_s, u"dvorak"_s} << u"b"_s;
 }
 
-/// The layout changes while Vesk runs; the keys stay where they were.
+/// The layout changes while Vesk is running; the keys stay where they were.
 void TestGlobalKeys::layouts()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const QString, typedByN);
     QVERIFY(runToEnd(u"setxkbmap"_s, QStringList{u"-layout"_s} + arguments));
-    // Does nothing where it does not change to the second layout.
+    // Does nothing if it does not switch to the second layout.
     m_desktop->keyboard().tap({XK_Scroll_Lock}, kFinger);
     const QString typed = typedByN + m_lines.join(u'\n') + u'\n';
     VERIFY_ON(*m_desktop, m_editor->deselect());
@@ -135,7 +135,7 @@ void TestGlobalKeys::layouts()
     VERIFY_ON(*m_desktop, waitNotes(expected));
 }
 
-/// Another program comes first, and gives the combination up later.
+/// Another program grabs the combination first, and releases it later.
 void TestGlobalKeys::takenCombinationIsNamedAndTakenBack()
 {
     QVERIFY(m_vesk->quit());
@@ -151,7 +151,7 @@ void TestGlobalKeys::takenCombinationIsNamedAndTakenBack()
     VERIFY_ON(*m_desktop, m_editor->selectLine(1));
     press({XK_n});
     press({XK_Shift_L, XK_n});
-    // Were the taken key Vesk's, this one would come too soon.
+    // If Vesk had the taken key, this press would come too soon.
     VERIFY_ON(*m_desktop, waitNotes({m_lines.at(1)}));
 
     other.reset();
@@ -184,7 +184,7 @@ void TestGlobalKeys::letterHeldLongerThanItsModifiersTypesNothing()
     for (const xcb_keysym_t key : {XK_Super_L, XK_Alt_L, XK_n})
         keyboard.press(key);
     VERIFY_ON(*m_desktop, waitNotice(kSaved));
-    // Held past the gate: a repeated key that counted as a press would find the same text again.
+    // Held longer than the gate: if repeats counted as presses, they would capture the same text again.
     VERIFY_ON(*m_desktop, !m_desktop->windows().waitViewable(kAlready, kCaptureGate + 400ms));
     keyboard.release(XK_Super_L);
     keyboard.release(XK_Alt_L);
@@ -194,7 +194,7 @@ void TestGlobalKeys::letterHeldLongerThanItsModifiersTypesNothing()
     QCOMPARE(m_desktop->notes().texts(), QStringList{m_lines.at(0)});
     QVERIFY(isEditorUntouched());
 
-    // The letter is the editor's again.
+    // The editor gets the letter again.
     keyboard.tap({XK_Control_L, XK_Home}, kFinger);
     keyboard.tap({XK_n}, kFinger);
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(u'*' + m_editor->window().title, kBound));
@@ -211,7 +211,7 @@ void TestGlobalKeys::twoAtOnce_data()
     QTest::newRow("note and panel") << QList<Keys>{with({XK_n, XK_t})} << true;
 }
 
-/// A second capture is too soon after the first, and is kept from the editor all the same.
+/// A second capture right after the first is ignored, but still kept from the editor.
 void TestGlobalKeys::twoAtOnce()
 {
     QFETCH(const QList<Keys>, taps);
@@ -230,7 +230,7 @@ void TestGlobalKeys::twoAtOnce()
     QVERIFY(isEditorUntouched());
 }
 
-/// What is selected in Vesk itself is kept like anything else, also in the very note that it is from.
+/// A selection in Vesk itself is kept like any other, even in the very note that it comes from.
 void TestGlobalKeys::cardThatIsEditedLosesNothing()
 {
     VERIFY_ON(*m_desktop, m_editor->selectLine(0));
@@ -270,7 +270,7 @@ void TestGlobalKeys::cardThatIsEditedLosesNothing()
     QCOMPARE(copied(), note);
 }
 
-/// The first letters come before the panel is on the screen.
+/// The first letters arrive before the panel is on the screen.
 void TestGlobalKeys::whatIsTypedFromThePressOnReachesThePanel()
 {
     constexpr auto kFastTyping = 33ms;

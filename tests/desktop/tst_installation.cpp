@@ -9,7 +9,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// Vesk as it is installed, started the ways in which desktops start it.
+/// Vesk as installed, started in the ways in which desktops start it.
 class TestInstallation : public VeskTest
 {
     Q_OBJECT
@@ -22,9 +22,9 @@ private Q_SLOTS:
     void iconsAreThere();
 
 private:
-    /// Where a path of the installed system is.
+    /// The location of a path of the installed system.
     [[nodiscard]] QString placed(const QString &path) const { return m_folder.path() + path; }
-    /// Starts the program of a desktop entry with the entry's own words.
+    /// Starts the program of a desktop entry with the entry's command line.
     [[nodiscard]] std::unique_ptr<ChildProcess> startEntry(const QString &path);
 
     QTemporaryDir m_folder;
@@ -81,7 +81,7 @@ void TestInstallation::busStartsIt()
     QString text = QString::fromUtf8(
         contentsOf(placed(QStringLiteral(VESK_DATADIR "/dbus-1/services/org.vesk.Vesk.service"))));
     QVERIFY(!text.isEmpty());
-    // Only the place is another one than that for which it was made.
+    // Only the location differs from the one that it was made for.
     text.replace(u"Exec="_s, u"Exec="_s + m_folder.path());
     QVERIFY(!m_desktop->writeFile(u"data/dbus-1/services/org.vesk.Vesk.service"_s, text).isEmpty());
     QVERIFY(runToEnd(u"dbus-send"_s, {u"--session"_s, u"--print-reply"_s, u"--dest=org.vesk.Vesk"_s,

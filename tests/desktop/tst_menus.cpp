@@ -20,7 +20,7 @@ const auto kBus = u"vesk-test-menus"_s;
 
 } // namespace
 
-/// The guide, the menus and their keys, and the icon of the real program.
+/// The guide, the menus and their keys, and the status icon of the real program.
 class MenusTest : public VeskTest
 {
     Q_OBJECT
@@ -36,19 +36,19 @@ private Q_SLOTS:
     void menuBarFormatsTheOpenNote();
 
 private:
-    /// Whether the panel has the keyboard now.
+    /// Whether the panel has the focus now.
     [[nodiscard]] bool openPanel()
     {
         return runToEnd(VirtualDesktop::veskProgram(), {u"toggle"_s})
                && m_desktop->windows().waitFocused(kPanel, kBound);
     }
-    /// Whether Vesk tells a screen reader of this.
+    /// Whether Vesk exposes an object of this name to a screen reader.
     [[nodiscard]] bool tells(const QString &name)
     {
         return AccessibleTree(m_desktop->busAddress()).names(m_vesk->pid()).contains(name);
     }
     [[nodiscard]] bool isGuideShown() { return tells(u"Welcome to Vesk"_s); }
-    /// Chooses a line of a menu as the desktop does.
+    /// Triggers a menu entry as the desktop does.
     [[nodiscard]] static bool choose(const QString &service, const QString &path, int line)
     {
         QDBusMessage call =
@@ -84,7 +84,7 @@ void MenusTest::guideGreetsOnlyOnce()
 
 void MenusTest::guideStaysForTheAnswer()
 {
-    // The application that would get the keyboard when the question has gone.
+    // The application that would get the focus after the question closes.
     const std::unique_ptr<TextEditor> editor = TextEditor::open(*m_desktop, {u"line"_s});
     VERIFY_ON(*m_desktop, editor);
     QVERIFY(startVesk());
@@ -113,14 +113,14 @@ void MenusTest::formatsByTheKeyWhateverTheLayout()
 {
     QFETCH(QString, layout);
     QVERIFY(m_desktop->prepareUser());
-    // The keys that the test presses stay those of the layout before.
+    // The test continues to press the keys of the previous layout.
     QVERIFY(runToEnd(u"setxkbmap"_s, {layout}));
     QVERIFY(runToEnd(VirtualDesktop::veskProgram(), {u"add"_s, u"milk"_s}));
     QVERIFY(startVesk());
     QVERIFY(openPanel());
     const QList<std::pair<xcb_keysym_t, QString>> steps{
         {XK_8, u"\u2022 milk"_s}, {XK_h, u"# milk"_s}, {XK_l, u"\u2610 milk"_s}, {XK_l, u"milk"_s}};
-    // The first keys come all at once: the command must not overtake those that open its note.
+    // Deliver the first keys all at once: the command must not overtake those that open its note.
     m_vesk->signal(SIGSTOP);
     type({XK_Down});
     type({XK_Return});

@@ -30,8 +30,8 @@ QDBusMessage addition(const QString &text)
 
 } // namespace
 
-/// What Vesk keeps of its word when it is killed or cut off, cannot open its store or has much to do, and
-/// when a key is up sooner than it is heard.
+/// Whether Vesk keeps its promises when it is killed or disconnected, cannot open its store, is busy, or when
+/// a key is released before its press is processed.
 class TestMishaps : public VeskTest
 {
     Q_OBJECT
@@ -51,18 +51,18 @@ private Q_SLOTS:
 private:
     [[nodiscard]] static int rounds();
 
-    /// Copies all of the text that has the keyboard, until it is this one.
+    /// Copies the whole text of the focused field until it is this one.
     [[nodiscard]] bool copyUntil(const QString &text);
 
-    /// Has one note after another kept until Vesk is gone, which is after `life`. Returns those that were
-    /// confirmed; `last` is the one that was not.
+    /// Adds one note after another until Vesk is killed, after `life`. Returns the confirmed ones; `last` is
+    /// the unconfirmed one.
     [[nodiscard]] QStringList addUntilKilled(std::chrono::microseconds life, int &number, QString &last);
 
     QStringList m_lines;
     std::unique_ptr<TextEditor> m_editor;
 };
 
-/// VESK_KILL_ROUNDS asks for a longer run than the usual one.
+/// VESK_KILL_ROUNDS requests a longer run.
 int TestMishaps::rounds()
 {
     constexpr int kUsual = 5;
@@ -102,7 +102,7 @@ QStringList TestMishaps::addUntilKilled(std::chrono::microseconds life, int &num
     QStringList confirmed;
     {
         QDBusConnection bus = QDBusConnection::connectToBus(m_desktop->busAddress(), name);
-        // Not from this thread, which waits for the answers.
+        // In another thread, because this one waits for the answers.
         std::thread killer([life, process = pid_t(m_vesk->pid())] {
             std::this_thread::sleep_for(life);
             ::kill(process, SIGKILL);
@@ -125,7 +125,7 @@ void TestMishaps::killedAtAnyMomentLosesNothing()
     QStringList kept;
     int confirmedCount = 0;
     int number = 0;
-    // A machine that is too slow to confirm anything before it kills gives more time.
+    // If the machine is too slow to confirm anything before the kill, allow more time.
     unsigned longest = 300'000;
     for (int round = 0; round < rounds() || confirmedCount == 0; ++round) {
         QVERIFY(startVesk());
@@ -138,7 +138,7 @@ void TestMishaps::killedAtAnyMomentLosesNothing()
         confirmedCount += int(confirmed.size());
         kept += confirmed;
         const QStringList found = m_desktop->notes().texts();
-        // The one that was under way may be there or not, whole.
+        // The note in progress may be missing or present, but complete.
         if (found.size() == kept.size() + 1)
             kept.append(last);
         QCOMPARE(found, kept);
@@ -160,7 +160,7 @@ void TestMishaps::killedAtTheNoticeLosesNothing()
     }
     QCOMPARE(m_desktop->notes().integrity(), u"ok"_s);
 
-    // And the next Vesk takes the file as it is.
+    // The next Vesk accepts the file as it is.
     QVERIFY(startVesk());
     QCOMPARE(m_desktop->notes().texts(), m_lines);
 }
@@ -172,7 +172,7 @@ void TestMishaps::endedWhileTypingLosesNothing_data()
     QTest::newRow("cut off from the display") << true;
 }
 
-/// Far sooner than what is typed into a note is saved by itself.
+/// Much sooner than typing in a note is saved automatically.
 void TestMishaps::endedWhileTypingLosesNothing()
 {
     QFETCH(bool, losesItsDisplay);
@@ -187,7 +187,7 @@ void TestMishaps::endedWhileTypingLosesNothing()
     keyboard.tap({XK_Down}, kFinger);
     keyboard.tap({XK_Return}, kFinger);
     const QString typed = m_lines.at(0) + u" more"_s;
-    // The editor takes the keyboard once it is there.
+    // The editor takes the focus once it is there.
     VERIFY_ON(*m_desktop, copyUntil(m_lines.at(0)));
     keyboard.tap({XK_End}, kFinger);
     keyboard.type(u" more"_s);
@@ -202,7 +202,7 @@ void TestMishaps::endedWhileTypingLosesNothing()
     QCOMPARE(m_desktop->notes().texts(), QStringList{typed});
 }
 
-/// A macro keyboard has the key up again before Vesk hears that it went down.
+/// A macro keyboard releases the key before Vesk learns that it was pressed.
 void TestMishaps::keyUpBeforeItsPressIsHeardFiresAgain()
 {
     QVERIFY(startVesk());
@@ -234,7 +234,8 @@ void TestMishaps::unusableStoreIsSaidAndLeftAlone()
     QCOMPARE(contentsOf(store), rubbish.toUtf8());
 }
 
-/// Fifty notes a second by command, while the panel is open and in use. VESK_LOAD_SECONDS asks for more.
+/// A script adds fifty notes per second while the panel is open and in use. VESK_LOAD_SECONDS requests a
+/// longer run.
 void TestMishaps::scriptAddsWhileTheUserWrites()
 {
     constexpr int kUsualSeconds = 5;
@@ -254,13 +255,13 @@ void TestMishaps::scriptAddsWhileTheUserWrites()
         for (int i = 0; i < kPerSecond; ++i) {
             added.append(u"Note %1"_s.arg(added.size()));
             answers.append(bus.asyncCall(addition(added.constLast())));
-            // The script does not wait for whom it loads.
+            // The script does not wait for the program that it loads.
             std::this_thread::sleep_until(next += std::chrono::milliseconds(1000 / kPerSecond));
         }
         written.append(u"written %1"_s.arg(second));
         m_desktop->keyboard().type(written.constLast());
         m_desktop->keyboard().tap({XK_Return}, kFinger);
-        // The panel answers, whatever else it is told.
+        // The panel responds whatever else is happening.
         VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
             return m_desktop->notes().texts().contains(written.constLast());
         }));
@@ -269,7 +270,7 @@ void TestMishaps::scriptAddsWhileTheUserWrites()
         each.waitForFinished();
         QVERIFY2(!each.isError(), qPrintable(each.error().message()));
     }
-    // All there, and once, those of the script in its order.
+    // Every note exists exactly once, and the script's are in order.
     QStringList found = m_desktop->notes().texts();
     QStringList foundWritten;
     std::ranges::copy_if(found, std::back_inserter(foundWritten),
@@ -282,7 +283,7 @@ void TestMishaps::scriptAddsWhileTheUserWrites()
     QDBusConnection::disconnectFromBus(u"load"_s);
 }
 
-/// A file that may not grow answers as a full disk does.
+/// A file size limit acts like a full disk.
 void TestMishaps::fullDiskIsSaidAndNothingIsLost()
 {
     QVERIFY(startVesk());
@@ -295,7 +296,7 @@ void TestMishaps::fullDiskIsSaidAndNothingIsLost()
     QCOMPARE(::prlimit(process, RLIMIT_FSIZE, &none, nullptr), 0);
     QVERIFY(!runToEnd(program, {u"add"_s, u"while it is full"_s}));
 
-    // What is pending when Vesk is to end is offered in a window. What arrives then is in its list.
+    // When Vesk is told to quit, a window offers what is pending. Its list includes what arrives later.
     m_vesk->signal(SIGTERM);
     const auto isTitled = [](const Window &window) { return window.title.contains(u"not saved"_s); };
     VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
@@ -304,7 +305,7 @@ void TestMishaps::fullDiskIsSaidAndNothingIsLost()
     QVERIFY(!runToEnd(program, {u"add"_s, u"while it ends"_s}));
     QVERIFY(!runToEnd(program, {u"toggle"_s}));
     VERIFY_ON(*m_desktop, !m_desktop->windows().findViewable(kPanel));
-    // Copy has the keyboard, once that was quiet.
+    // Copy has the focus once the keyboard has been quiet.
     const auto window = m_desktop->windows().findViewableIf(isTitled);
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*window, kBound));
     QTest::qWait(1000);
@@ -314,7 +315,7 @@ void TestMishaps::fullDiskIsSaidAndNothingIsLost()
                == u"while it is full\n\nwhile it ends"_s;
     }));
 
-    // Once there is room, the next attempt writes all of it, and Vesk ends.
+    // Once there is space, the next attempt writes everything, and Vesk exits.
     QCOMPARE(::prlimit(process, RLIMIT_FSIZE, &usual, nullptr), 0);
     QVERIFY(runToEnd(program, {u"add"_s, u"last"_s}));
     QVERIFY(m_vesk->waitForExit(kBound));

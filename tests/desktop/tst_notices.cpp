@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
-/// Capturing and its notice leave everything else on the desktop as it was, and are noticed nevertheless.
+/// Capturing and its notice do not disturb anything else on the desktop, and yet are noticeable.
 class TestNotices : public EditorTest
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ private Q_SLOTS:
     void openMenuStaysOpen();
 
 private:
-    /// Whether the window is above all others at its middle.
+    /// Whether the window is above all others at its centre.
     [[nodiscard]] bool isOnTop(const Window &window) const;
 };
 
@@ -32,7 +32,7 @@ bool TestNotices::isOnTop(const Window &window) const
         xcb_query_tree_reply(display.xcb(), xcb_query_tree(display.xcb(), display.root()), nullptr)};
     if (!tree)
         return false;
-    // From the bottom to the top.
+    // From bottom to top.
     const xcb_window_t *all = xcb_query_tree_children(tree.get());
     xcb_window_t top = XCB_WINDOW_NONE;
     for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
@@ -54,7 +54,7 @@ void TestNotices::isReadOut()
     VERIFY_ON(*m_desktop, m_editor->selectLine(0));
     capture();
     QTRY_COMPARE_WITH_TIMEOUT(announcements.heard(), QStringList{kSaved}, int(10'000));
-    // A second one while the first is still there, and later ones, are read as well.
+    // A second notice while the first is still shown, and later ones, are announced too.
     QTest::qWait(int(kCaptureGate.count()));
     capture();
     QTRY_COMPARE_WITH_TIMEOUT(announcements.heard(), (QStringList{kSaved, kAlready}), int(10'000));
@@ -68,7 +68,7 @@ void TestNotices::standsAboveAFullScreenWindow()
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kSaved, kBound));
     QTest::qWait(int(kCaptureGate.count()));
 
-    // Raised after the notice's window was made.
+    // Raised after the notice's window was created.
     m_desktop->keyboard().tap({XK_F11});
     VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
         const std::optional<Window> editor = m_desktop->windows().findViewableOf(m_editor->process().pid());
@@ -84,14 +84,14 @@ void TestNotices::standsAboveAFullScreenWindow()
 
 void TestNotices::letsClicksThrough()
 {
-    // A window of the editor's size, under where the notice comes.
+    // A window of the editor's size, below the position of the notice.
     m_desktop->keyboard().tap({XK_F11});
     VERIFY_ON(*m_desktop, m_editor->selectLine(0));
     capture();
     const std::optional<Window> notice = m_desktop->windows().waitViewable(kSaved, kBound);
     VERIFY_ON(*m_desktop, notice);
     m_desktop->pointer().click(notice->geometry.center());
-    // The click has gone to the text, where it takes the selection away.
+    // The click has reached the text, where it clears the selection.
     VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(
                               kBound, [&] { return !m_desktop->display().readSelection("PRIMARY", 500ms); }));
     QVERIFY(m_desktop->windows().findViewable(kSaved));
@@ -104,7 +104,7 @@ void TestNotices::dialogStaysAsItWas()
         m_desktop->windows().waitViewableOf(m_editor->process().pid(), u"Save As"_s, kBound);
     VERIFY_ON(*m_desktop, dialog);
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(*dialog, kBound));
-    // The name of a file is being changed: a new one is typed and selected.
+    // A file is being renamed: a new name is typed and selected.
     m_desktop->keyboard().tap({XK_Control_L, XK_a});
     m_desktop->keyboard().type(u"pears"_s);
     m_desktop->keyboard().tap({XK_Shift_L, XK_Home});
@@ -119,7 +119,7 @@ void TestNotices::dialogStaysAsItWas()
     QCOMPARE(note.value(u"sourceTitle"_s), dialog->title);
     VERIFY_ON(*m_desktop, m_desktop->windows().isActive(*dialog));
     QCOMPARE(m_desktop->display().readSelection("PRIMARY", kBound), u"pears"_s);
-    // Still being changed, at the same place.
+    // Still being renamed, at the same position.
     m_desktop->keyboard().type(u"figs"_s);
     m_desktop->keyboard().tap({XK_Shift_L, XK_Home});
     VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
@@ -139,7 +139,7 @@ void TestNotices::openMenuStaysOpen()
     VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] { return findMenu().has_value(); }));
     const std::optional<Window> menu = findMenu();
     capture();
-    // Whether or not the key is heard while a menu has the keyboard: the menu is not disturbed.
+    // Whether or not the key is received while a menu has grabbed the keyboard, the menu is not disturbed.
     QTest::qWait(int(kCaptureGate.count()));
     VERIFY_ON(*m_desktop, findMenu() && findMenu()->id == menu->id);
     QVERIFY(!m_desktop->windows().findViewable(kQuickNote));

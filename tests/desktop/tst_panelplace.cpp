@@ -8,7 +8,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// Where the panel's window comes up on a real desktop, what it stands above, and when it goes.
+/// Where the panel opens on a real desktop, what it is above, and when it disappears.
 class TestPanelPlace : public VeskTest
 {
     Q_OBJECT
@@ -30,15 +30,15 @@ private Q_SLOTS:
     void fieldKeepsTheKeyboard();
 
 private:
-    /// Presses the key as a finger does: not again at the very moment at which it is up. Without the right
-    /// to hear of keys, Vesk looks every 20 ms whether it still is down.
+    /// Presses the key as a finger does: not again at the very moment of its release. Without permission to
+    /// observe keys, Vesk checks every 20 ms whether the key is still down.
     void toggle()
     {
         QTest::qWait(static_cast<int>(3 * kFinger.count()));
         m_desktop->keyboard().tap({XK_Super_L, XK_Alt_L, XK_t}, kFinger);
     }
     [[nodiscard]] std::optional<Window> panel() const { return m_desktop->windows().findViewable(kPanel); }
-    /// Whether the panel stands in this corner, 10 points of `ratio` pixels in; waits for it.
+    /// Waits until the panel is in this corner, inset by 10 points of `ratio` pixels; returns whether it is.
     [[nodiscard]] bool waitInCorner(QPoint corner, qreal ratio = 1);
     [[nodiscard]] QString where() const;
 
@@ -91,7 +91,7 @@ void TestPanelPlace::docksKeepTheirRoom()
         toggle();
         QVERIFY2(waitInCorner(QPoint(1600, 960)), qPrintable(where()));
     }
-    // And when it goes, the panel takes its room.
+    // When the dock disappears, the panel uses its space.
     QVERIFY2(waitInCorner(QPoint(1600, 1000)), qPrintable(where()));
 }
 
@@ -116,7 +116,7 @@ void TestPanelPlace::standsInItsCornerAtEveryScale()
     m_vesk.reset();
     m_desktop->setVariable(u"QT_SCREEN_SCALE_FACTORS"_s, factors);
     QVERIFY(startVesk());
-    // To the right, to the left, and to the right again: another scale each time.
+    // To the right, to the left, and to the right again: a different scale each time.
     for (int turn = 0; turn < 3; ++turn) {
         const bool isRight = turn % 2 == 0;
         m_desktop->pointer().moveTo(isRight ? QPoint(1000, 400) : QPoint(100, 400));
@@ -138,8 +138,7 @@ void TestPanelPlace::unpluggedMonitorGivesThePanelBack()
     QVERIFY2(waitInCorner(QPoint(1600, 700)), qPrintable(where()));
     m_monitors->set({left});
     QVERIFY2(waitInCorner(QPoint(800, 1000)), qPrintable(where()));
-    // Plugged in again while the panel is hidden. Nothing tells when Vesk has heard of it, so it is asked
-    // for again.
+    // Plugged in again while the panel is hidden. Nothing shows when Vesk has noticed, so repeat.
     m_desktop->pointer().moveTo(QPoint(1000, 400));
     toggle();
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
@@ -166,7 +165,7 @@ void TestPanelPlace::standsAboveAFullScreenWindow()
     toggle();
     QVERIFY2(waitInCorner(QPoint(1600, 1000)), qPrintable(where()));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel(), kBound));
-    // The stack is told from below to above.
+    // The stack is listed from bottom to top.
     QVERIFY(m_desktop->display().waitUntil(kBound, [&] {
         const QList<xcb_window_t> stack = m_desktop->windows().stack();
         return stack.indexOf(panel()->id) > stack.indexOf(film.window().id);
@@ -207,12 +206,12 @@ void TestPanelPlace::isCutOnlyWithoutACompositor()
     const auto isCut = [this] { return panel() && m_desktop->windows().isCut(*panel()); };
     toggle();
     VERIFY_ON(*m_desktop, display.waitUntil(kBound, isCut));
-    // One comes and goes while the panel is shown.
+    // A compositor starts and exits while the panel is shown.
     compositorIs(display.window());
     VERIFY_ON(*m_desktop, display.waitUntil(kBound, [&] { return panel() && !isCut(); }));
     compositorIs(XCB_WINDOW_NONE);
     VERIFY_ON(*m_desktop, display.waitUntil(kBound, isCut));
-    // And comes while it is hidden.
+    // And starts while it is hidden.
     toggle();
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
     compositorIs(display.window());
@@ -228,7 +227,7 @@ void TestPanelPlace::goesWhenAnotherApplicationIsUsed()
     toggle();
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel(), kBound));
-    // The window manager may do what the panel has asked of it after this, and make it active once more.
+    // The window manager may process the panel's earlier request after this, and activate it once more.
     VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
         m_desktop->windows().activate(other.window());
         return !panel();
@@ -248,7 +247,7 @@ void TestPanelPlace::heightIsDraggedAndRemembered()
     const QPoint edge = panel()->geometry.topLeft() + QPoint(220, 4);
     m_desktop->pointer().drag(edge, edge - QPoint(0, 130));
     QVERIFY2(waitHeight(750) && waitInCorner(QPoint(1600, 1000)), qPrintable(where()));
-    // Hidden and shown, and in the next run.
+    // After hiding and showing it, and in the next run.
     toggle();
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kPanel, kBound));
     toggle();
@@ -275,7 +274,7 @@ void TestPanelPlace::fieldKeepsTheKeyboard()
     m_desktop->keyboard().tap({XK_Control_L, XK_n}, kFinger);
     m_desktop->keyboard().type(u"half a th"_s);
     if (taker == u"a popup") {
-        // As the switcher of a window manager.
+        // Like a window manager's switcher.
         const xcb_window_t popup = xcb_generate_id(display.xcb());
         const uint32_t unmanaged = 1;
         xcb_create_window(display.xcb(), XCB_COPY_FROM_PARENT, popup, display.root(), 10, 10, 100, 100, 0,
@@ -288,8 +287,8 @@ void TestPanelPlace::fieldKeepsTheKeyboard()
         xcb_set_input_focus(display.xcb(), XCB_INPUT_FOCUS_PARENT, panel()->id, XCB_CURRENT_TIME);
         xcb_destroy_window(display.xcb(), popup);
         xcb_flush(display.xcb());
-        // If the popup stayed long enough for the panel to go, it comes back as it was. A second start shows
-        // it whether or not it is up.
+        // If the popup stayed long enough for the panel to hide, the panel reopens as it was. A second start
+        // shows it in either case.
         VERIFY_ON(*m_desktop, display.waitUntil(kBound, [&] {
             const std::optional<Window> found = panel();
             if (!found)

@@ -9,7 +9,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// Gives up this test function with all that the panel tells.
+/// Fails this test function with everything that the panel exposes.
 #define VERIFY_TOLD(condition) QVERIFY2(condition, told().constData())
 
 using State = AccessibleObject::State;
@@ -27,7 +27,7 @@ QByteArray line(const AccessibleObject &object)
 
 } // namespace
 
-/// The panel as a screen reader has it, over the accessibility bus.
+/// The panel as a screen reader sees it over the accessibility bus.
 class TestPanelReader : public VeskTest
 {
     Q_OBJECT
@@ -48,15 +48,15 @@ private:
     [[nodiscard]] bool fillStore();
     void press(const QList<xcb_keysym_t> &keys) { m_desktop->keyboard().tap(keys, kFinger); }
     void click(const QString &role, const QString &name);
-    /// Reads all that the panel tells until this holds for it.
+    /// Reads everything that the panel exposes until this condition holds.
     template <typename Condition>
     [[nodiscard]] bool waitUntil(const Condition &condition);
-    /// Waits for an object of this role whose name begins so, in this state.
+    /// Waits for an object with this role and state whose name begins with this text.
     [[nodiscard]] bool waitFor(const QString &role, const QString &name, State state = State::Showing);
     [[nodiscard]] std::optional<AccessibleObject> find(const QString &role, const QString &name) const;
-    /// What can have the keyboard without saying what it is, one object a line.
+    /// Focusable objects without a name, one per line.
     [[nodiscard]] QByteArray unnamed() const;
-    /// All that is told, one object a line, for the message of a test that failed.
+    /// Everything that is exposed, one object per line, for a failing test's message.
     [[nodiscard]] QByteArray told() const;
 
     std::unique_ptr<AccessibleTree> m_tree;
@@ -67,7 +67,7 @@ void TestPanelReader::init()
 {
     VeskTest::init();
     QVERIFY(m_desktop);
-    // The first start makes the store, which is there when it ends.
+    // The first start creates the store, which exists when it ends.
     const std::unique_ptr<ChildProcess> first = m_desktop->startVesk();
     QVERIFY(first && first->quit());
     QVERIFY(fillStore());
@@ -231,7 +231,7 @@ void TestPanelReader::openNoteIsAnEditableText()
 {
     const auto reads = [this](const QString &text, int caret) {
         const std::optional<AccessibleObject> note = find(u"text"_s, u"Of the train"_s);
-        // The toolkit has its own sign for the end of a paragraph.
+        // The toolkit uses its own character for the end of a paragraph.
         return note && QString(note->text).replace(QChar::ParagraphSeparator, u'\n') == text
                && note->caret == caret;
     };
@@ -281,7 +281,7 @@ void TestPanelReader::nothingThatTakesTheKeyboardIsUnnamed()
 void TestPanelReader::languageIsThatOfTheDesktop()
 {
     m_vesk.reset();
-    // As desktops name it, also where the system has no files of its own for it.
+    // The name that desktops use, even if the system has no locale files for it.
     m_desktop->setVariable(u"LANG"_s, u"de_DE.UTF-8"_s);
     QVERIFY(startVesk());
     togglePanel();

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
-/// Pasting into Vesk from programs that are slow or hang, and what others do to the clipboard.
+/// Pasting into Vesk from programs that are slow or hang, and what other programs do to the clipboard.
 class TestPasting : public EditorTest
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ private Q_SLOTS:
     void takenOverClipboardIsNoFreshCopy();
 
 private:
-    /// Opens the panel with the keyboard in the composer.
+    /// Opens the panel with the focus in the composer.
     [[nodiscard]] bool openComposer();
     void middleClickComposer();
 
@@ -40,7 +40,7 @@ void TestPasting::middleClickComposer()
     m_desktop->pointer().middleClick(QPoint(m_panel.center().x(), m_panel.bottom() - 34));
 }
 
-/// Its selections are asked for by keys and by the middle button, and the user writes on meanwhile.
+/// Its selections are pasted with keys and the middle button, and the user continues typing meanwhile.
 void TestPasting::hungProgramDoesNotStopVesk()
 {
     const auto silence = [](DisplayConnection &, const xcb_generic_event_t &) {};
@@ -73,7 +73,7 @@ void TestPasting::selectionOfVesksOwnIsPasted()
     };
     VERIFY_ON(*m_desktop, waitWord("PRIMARY"));
     m_desktop->keyboard().tap({XK_Control_L, XK_c});
-    // The hot key below goes another way, and could come before this key.
+    // The hot key below takes another path and could overtake this key.
     VERIFY_ON(*m_desktop, waitWord("CLIPBOARD"));
     m_desktop->keyboard().tap({XK_Escape});
     VERIFY_ON(*m_desktop, openComposer());
@@ -107,7 +107,7 @@ void TestPasting::whatIsTypedFollowsASlowPaste()
     VERIFY_ON(*m_desktop, waitNotes({u"pasted and typed"_s}));
 }
 
-/// A clipboard manager claims what the user copied long ago, and again what the user has just copied.
+/// A clipboard manager claims what the user copied long ago, and claims what the user has just copied again.
 void TestPasting::takenOverClipboardIsNoFreshCopy()
 {
     constexpr auto kStale = 9s;

@@ -14,7 +14,7 @@ using namespace vesk;
 
 namespace {
 
-/// The inodes that the process has sockets for.
+/// The inodes of the process's sockets.
 QSet<QString> socketsOf(qint64 process)
 {
     QSet<QString> inodes;
@@ -32,7 +32,7 @@ QSet<QString> socketsOf(qint64 process)
 
 } // namespace
 
-/// Who can learn of a note: its user, and nobody else.
+/// Who can learn about a note: its user, and nobody else.
 class TestPrivacy : public EditorTest
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ private Q_SLOTS:
     void otherUsersAreRefusedByTheBus();
 };
 
-/// As on systems that write dumps, for everything that the test starts.
+/// Enable dumps for everything that the test starts, as on systems that write them.
 void TestPrivacy::initTestCase()
 {
     rlimit limit{};
@@ -55,7 +55,7 @@ void TestPrivacy::initTestCase()
 
 void TestPrivacy::noteStaysBetweenVeskAndItsUser()
 {
-    // With a trace, which users send to others.
+    // With a trace, which users may send to others.
     m_desktop->setVariable(u"QT_LOGGING_RULES"_s, u"vesk.*.debug=true"_s);
     QVERIFY(m_vesk->quit());
     QVERIFY(startVesk());
@@ -74,7 +74,7 @@ void TestPrivacy::noteStaysBetweenVeskAndItsUser()
     m_desktop->keyboard().tap({XK_Control_L, XK_f}, kFinger);
     m_desktop->keyboard().type(u"ladder"_s);
 
-    // Nothing goes over a network: every socket is one of this machine's own.
+    // Nothing goes over a network: every socket is local.
     const QSet<QString> sockets = socketsOf(m_vesk->pid());
     QVERIFY(!sockets.isEmpty());
     const QString own = QString::fromUtf8(contentsOf(u"/proc/net/unix"_s));
@@ -105,10 +105,10 @@ void TestPrivacy::crashLeavesNoMemoryBehindHoweverVeskWasStarted()
         return QString::fromUtf8(contentsOf(folder + u"limits"_s)).contains(limit)
                && contentsOf(folder + u"coredump_filter"_s).trimmed().toULong(nullptr, 16) == 0;
     };
-    // By the command.
+    // When started with the command.
     QVERIFY(isForbidden(m_vesk->pid()));
 
-    // By the session bus, which starts the program behind the command.
+    // When started by the session bus, which runs the program behind the command.
     const QString program = QFile::symLinkTarget(u"/proc/%1/exe"_s.arg(m_vesk->pid()));
     QVERIFY(m_vesk->quit());
     QVERIFY(!m_desktop
@@ -139,7 +139,7 @@ void TestPrivacy::otherUsersAreRefusedByTheBus()
     QVERIFY(runToEnd(call.first(), call.mid(1)));
     if (::geteuid() != 0)
         QSKIP("Only root can be another user.");
-    // The way to the socket must not be what stops him.
+    // Another user must be able to reach the socket, so that something else stops them.
     const QString socket = m_desktop->busAddress().section(u"path="_s, 1).section(u',', 0, 0);
     for (QString folder = QFileInfo(socket).path(); folder.size() > QDir::tempPath().size();
          folder = QFileInfo(folder).path())

@@ -12,7 +12,7 @@ const auto kLine = u"Water the lemon tree"_s;
 
 } // namespace
 
-/// The questions that Vesk asks of a user who has just installed it.
+/// Vesk's questions to a user who has just installed it.
 class TestQuestions : public VeskTest
 {
     Q_OBJECT
@@ -24,9 +24,9 @@ private Q_SLOTS:
     void standsWholeAboveVesksWindows();
 
 private:
-    /// Starts Vesk, which nobody has allowed anything yet, behind an editor.
+    /// Starts Vesk, without any permissions yet, behind an editor.
     void begin(const VirtualDesktop::Lacks &lacks = {}, const QString &scale = u"1"_s);
-    /// Whether this window is above that one; waits for it.
+    /// Waits until the first window is above the second; returns whether it is.
     [[nodiscard]] bool waitAbove(const QString &upper, const QString &lower);
     void tap(const Keys &keys) { m_desktop->keyboard().tap(keys, kFinger); }
 
@@ -63,7 +63,7 @@ bool TestQuestions::waitAbove(const QString &upper, const QString &lower)
     });
 }
 
-/// The box keeps the keyboard, and the question waits for it.
+/// The box keeps the focus, and the question waits for it.
 void TestQuestions::firstNoteIsWrittenWhole()
 {
     begin();
@@ -76,11 +76,11 @@ void TestQuestions::firstNoteIsWrittenWhole()
     VERIFY_ON(*m_desktop, !m_desktop->windows().findViewable(kQuestion));
     tap({XK_Return});
     VERIFY_ON(*m_desktop, waitNotes({note}));
-    // Who goes on where they were is not disturbed before they pause.
+    // A user who continues working is not disturbed until they pause.
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(m_editor->window(), kBound));
     m_desktop->keyboard().type(u"ripe "_s);
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kQuestion, kBound));
-    // What was typed too much answers nothing.
+    // Superfluous typing answers nothing.
     for (const xcb_keysym_t key : {XK_space, XK_Return, XK_Escape, XK_Tab, XK_space})
         tap({key});
     QTest::qWait(1000);
@@ -118,7 +118,7 @@ void TestQuestions::standsWholeAboveVesksWindows()
     togglePanel();
     VERIFY_ON(*m_desktop, waitAbove(kQuestion, kPanel));
     QTest::qWait(int(kCaptureGate.count()));
-    // The box takes its place, and it comes back when that closes.
+    // The box replaces the question, which returns when the box closes.
     capture();
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kQuickNote, kBound));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kQuestion, kBound));
@@ -126,7 +126,7 @@ void TestQuestions::standsWholeAboveVesksWindows()
     tap({XK_Escape});
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kQuestion, kBound));
     VERIFY_ON(*m_desktop, waitAbove(kQuestion, kPanel));
-    // Shown for a look by those who run this.
+    // A picture for whoever runs this test.
     const QString picture = qEnvironmentVariable("VESK_PICTURES");
     if (!picture.isEmpty())
         m_desktop->display().screenshot().save(picture + u'/' + QString::fromLatin1(QTest::currentDataTag())

@@ -32,11 +32,11 @@ private Q_SLOTS:
     void unwrittenNoteIsOfferedAtTheEnd();
 
 private:
-    /// Opens the box with a key and waits until it has the keyboard; none if it does not come.
+    /// Opens the box with a key and waits until it has the focus; nullopt if it does not appear.
     [[nodiscard]] std::optional<Window> openBox();
-    /// Lets Vesk's files grow to this many bytes, and no longer, as a full disk does.
+    /// Limits the size of Vesk's files to this many bytes, which acts like a full disk.
     [[nodiscard]] bool limitFiles(rlim_t bytes) const;
-    /// Whether no program has the keyboard to itself.
+    /// Whether no program has grabbed the keyboard.
     [[nodiscard]] bool isKeyboardFree();
 };
 
@@ -75,7 +75,7 @@ void TestQuickNoteBox::keyOpensItAndReturnKeepsTheNote()
     capture();
     const std::optional<Window> box = m_desktop->windows().waitViewable(kQuickNote, kBound);
     VERIFY_ON(*m_desktop, box);
-    // It may be on the screen without the keyboard yet; nothing that is typed goes elsewhere.
+    // The box may be on the screen before it has the focus; nothing that is typed goes elsewhere.
     constexpr auto kFastTyping = 33ms;
     const QString note = u"Call Ada about the lease"_s;
     for (const QChar letter : note) {
@@ -116,7 +116,7 @@ void TestQuickNoteBox::goesAndKeepsItsDraft()
         m_desktop->pointer().click(m_editor->window().geometry.bottomLeft() + QPoint(40, -40));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitGone(kQuickNote, kBound));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
-    // The editor's window may have the keyboard a moment before its text has.
+    // The editor's window may have the focus a moment before its text does.
     VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [this] { return isEditorUntouched(); }));
     VERIFY_ON(*m_desktop, m_editor->deselect());
 
@@ -136,7 +136,7 @@ void TestQuickNoteBox::checklistKeyBeginsAChecklist()
     m_desktop->keyboard().tap({XK_Return});
     m_desktop->keyboard().type(u"Bread"_s);
     m_desktop->keyboard().tap({XK_Return}, kFinger);
-    // A key that goes down in the millisecond in which it went up repeats, and repeating Return saves
+    // A key pressed in the same millisecond as its release counts as a repeat, and a repeated Return saves
     // nothing.
     QTest::qWait(int(kFinger.count()));
     m_desktop->keyboard().tap({XK_Return}, kFinger);
@@ -154,7 +154,7 @@ void TestQuickNoteBox::draggingItsGroundMovesIt()
         const std::optional<Window> moved = m_desktop->windows().findViewable(kQuickNote);
         return moved && moved->geometry == box->geometry.translated(60, 90);
     }));
-    // Once it is let go of, it stays.
+    // Once released, it stays.
     m_desktop->pointer().moveTo(ground + QPoint(200, 200));
     m_desktop->keyboard().type(u"tea"_s);
     m_desktop->keyboard().tap({XK_Return});
@@ -234,7 +234,7 @@ void TestQuickNoteBox::unwrittenNoteIsOfferedAtTheEnd()
     QTest::qWait(1000);
     QVERIFY(m_vesk->isRunning());
     QVERIFY(m_desktop->display().readSelection("CLIPBOARD", 500ms) != note);
-    // Escape answers nothing, and the first button copies.
+    // Escape answers nothing; the first button copies.
     m_desktop->keyboard().tap({XK_Escape});
     m_desktop->keyboard().tap({XK_Return});
     VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] {
@@ -242,7 +242,7 @@ void TestQuickNoteBox::unwrittenNoteIsOfferedAtTheEnd()
     }));
     QVERIFY(m_vesk->isRunning());
 
-    // With the disk's trouble over, waiting writes it, or quitting does.
+    // When the disk is fine again, waiting or quitting writes it.
     holder.reset();
     if (pages >= 0) {
         QVERIFY(limitFiles(RLIM_INFINITY));

@@ -6,8 +6,8 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
-/// What counts as selected, in an application that tells both the X server and the accessibility bus, and
-/// the way of a text by the clipboard.
+/// What counts as selected in an application that informs both the X server and the accessibility bus, and
+/// reading a text through the clipboard.
 class TestSelection : public EditorTest
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ void TestSelection::primaryOfAForeignApplicationIsConfirmedByACopy_data()
     QTest::newRow("caret's line") << none << Text("line\n") << QStringList();
 }
 
-/// It is not on the accessibility bus, as Chromium is that was started before Vesk.
+/// It is not on the accessibility bus, like a Chromium that was started before Vesk.
 void TestSelection::primaryOfAForeignApplicationIsConfirmedByACopy()
 {
     QFETCH(const std::optional<QByteArray>, offered);
@@ -53,7 +53,7 @@ void TestSelection::primaryOfAForeignApplicationIsConfirmedByACopy()
     const ForeignWindow foreign(m_desktop->displayName(), copied);
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(foreign.window(), kBound));
     m_desktop->keyboard().tap({XK_x}, kFinger);
-    QTest::qWait(100); // What is claimed at the very moment of the key counts as selected by it.
+    QTest::qWait(100); // A claim at the very moment of the key counts as made by it.
     std::unique_ptr<ClipboardHolder> primary;
     if (offered)
         primary = ClipboardHolder::hold(m_desktop->displayName(), {{"UTF8_STRING", *offered}}, "PRIMARY");
@@ -63,7 +63,7 @@ void TestSelection::primaryOfAForeignApplicationIsConfirmedByACopy()
     QCOMPARE(m_desktop->notes().texts(), notes);
 }
 
-/// The X server's selection is older than the turn to the window, so only the bus can vouch for it.
+/// The X server's selection is older than the switch to the window, so only the bus can confirm it.
 void TestSelection::selectionOutlivesATurnToAnotherWindow()
 {
     VERIFY_ON(*m_desktop, m_editor->selectLine(1));
@@ -125,9 +125,9 @@ void TestSelection::noteIsPastedIntoTheEditor()
     m_desktop->keyboard().tap({XK_Control_L, XK_Return}, kFinger);
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
 
-    // The editor marks a document that has changed; until then it must not be disturbed by reading it.
+    // The editor marks a changed document in its title; reading it earlier would disturb it.
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(u'*' + m_editor->window().title, kBound));
-    // At the start of the document, where the caret was, and once.
+    // Once, at the start of the document, where the caret was.
     QCOMPARE(m_editor->text(), m_lines.at(1) + m_lines.join(u'\n') + u'\n');
     QCOMPARE(clipboard(), m_lines.at(1));
 
@@ -136,7 +136,7 @@ void TestSelection::noteIsPastedIntoTheEditor()
     VERIFY_ON(*m_desktop, m_desktop->windows().waitViewable(kPanel, kBound));
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*panel, kBound));
     m_desktop->keyboard().tap({XK_Control_L, XK_v}, kFinger);
-    QTest::qWait(100); // The text comes a moment after the key.
+    QTest::qWait(100); // The text arrives a moment after the key.
     m_desktop->keyboard().type(u" tomorrow"_s);
     m_desktop->keyboard().tap({XK_Return}, kFinger);
     const QStringList expected{m_lines.at(1), m_lines.at(1) + u" tomorrow"_s};
@@ -145,7 +145,7 @@ void TestSelection::noteIsPastedIntoTheEditor()
                               kAtOnce, [&] { return m_desktop->notes().texts() == expected; }));
 }
 
-/// Nothing is selected in the terminal, and it takes Copy for an interrupt.
+/// Nothing is selected in the terminal, which treats Copy as an interrupt.
 void TestSelection::terminalSurvivesAndTheRecentCopyIsKept()
 {
     const std::unique_ptr<ChildProcess> terminal =
@@ -153,12 +153,12 @@ void TestSelection::terminalSurvivesAndTheRecentCopyIsKept()
     QVERIFY(terminal);
     const std::optional<Window> window = m_desktop->windows().waitViewableOf(terminal->pid(), {}, kBound);
     VERIFY_ON(*m_desktop, window);
-    // A terminal that takes the keyboard later takes it from the box, which then goes.
+    // A terminal that takes the focus later takes it from the box, which then closes.
     VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(*window, kBound));
     capture();
     const std::optional<Window> box = m_desktop->windows().waitViewable(kQuickNote, kBound);
     VERIFY_ON(*m_desktop, box);
-    // Only then does the editor, activated next, keep the keyboard.
+    // Only then does the editor, which is activated next, keep the focus.
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(*box, kBound));
     QVERIFY(terminal->isRunning());
     QVERIFY(m_desktop->notes().texts().isEmpty());

@@ -23,7 +23,7 @@ using Keys = QList<xcb_keysym_t>;
 
 Q_DECLARE_METATYPE(Keyboard::Device)
 
-/// Where the keys go that Vesk sends, and what becomes of those that the user presses meanwhile.
+/// Where Vesk's synthetic keys go, and what happens to keys that the user presses meanwhile.
 class TestSentKeys : public VeskTest
 {
     Q_OBJECT
@@ -51,11 +51,11 @@ private:
     {
         return m_desktop->display().readSelection("CLIPBOARD", 1s);
     }
-    /// Whether no key is down and no modifier on.
+    /// Whether no key is down and no modifier is active.
     [[nodiscard]] bool isKeyboardAtRest();
     /// Opens the panel with one note selected.
     [[nodiscard]] bool selectNote(const QString &text);
-    /// Selects a word in a new terminal; null if that failed.
+    /// Selects a word in a new terminal; null on failure.
     [[nodiscard]] std::unique_ptr<ChildProcess> selectInTerminal(const QString &word);
 
     std::unique_ptr<KeyRecorder> m_recorder;
@@ -135,7 +135,7 @@ void TestSentKeys::heldModifiersAreBackAfterACopy_data()
     }
 }
 
-/// What is typed next would replace the selection.
+/// Otherwise, the next typing would replace the selection.
 void TestSentKeys::heldModifiersAreBackAfterACopy()
 {
     QFETCH(const Keyboard::Device, device);
@@ -143,13 +143,13 @@ void TestSentKeys::heldModifiersAreBackAfterACopy()
     QFETCH(const Keys, released);
     QFETCH(const QString, typedThen);
     Keyboard keyboard(m_desktop->display(), device);
-    // What the first round leaves behind would show in the second.
+    // Anything left over from the first round would show in the second.
     for (int round = 0; round < 2; ++round) {
         m_recorder->forget();
         for (const xcb_keysym_t key : keys)
             keyboard.press(key);
         keyboard.tap({XK_n}, kFinger);
-        // The letter is waited for; the modifiers may go before the copy or after.
+        // Vesk waits for the letter; the modifiers may be released before or after the copy.
         for (const xcb_keysym_t key : released)
             keyboard.release(key);
         QVERIFY2(m_recorder->waitFor(kCopy), qPrintable(m_recorder->keys().join(u' ')));
@@ -161,7 +161,7 @@ void TestSentKeys::heldModifiersAreBackAfterACopy()
         QVERIFY2(m_recorder->waitFor(u"y"_s), qPrintable(m_recorder->keys().join(u' ')));
         QCOMPARE(m_recorder->keys(), (QStringList{kCopy, typedThen, u"y"_s}));
         QVERIFY(isKeyboardAtRest());
-        // Nothing was copied, so the box opens, and takes the keyboard.
+        // Nothing was copied, so the box opens and takes the focus.
         VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(kQuickNote, kBound));
         m_desktop->keyboard().tap({XK_Escape}, kFinger);
         VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(m_recorder->window(), kBound));
@@ -195,7 +195,7 @@ void TestSentKeys::lettersTypedAroundACopyGoIntoTheBox_data()
     QTest::newRow("program, after") << Keyboard::Device::Programs << true;
 }
 
-/// In the document they would replace what is selected.
+/// In the document they would replace the selection.
 void TestSentKeys::lettersTypedAroundACopyGoIntoTheBox()
 {
     QFETCH(const Keyboard::Device, device);
@@ -204,7 +204,7 @@ void TestSentKeys::lettersTypedAroundACopyGoIntoTheBox()
     const Keys hotKey{XK_Super_L, XK_Alt_L, XK_n};
     for (const xcb_keysym_t key : hotKey)
         keyboard.press(key);
-    // Nothing is copied before the hot key is up, and Vesk has heard of it by then.
+    // Nothing is copied before the hot key is released, and Vesk has received it by then.
     VERIFY_ON(*m_desktop,
               m_desktop->display().waitUntil(kBound, [this] { return m_desktop->pointer().isTaken(); }));
     for (const xcb_keysym_t key : hotKey | std::views::reverse)
@@ -227,7 +227,7 @@ void TestSentKeys::keysGoToTheWindowOfThePressOnly_data()
         QTest::newRow(change) << QString::fromLatin1(change);
 }
 
-/// Something comes between while the user still holds the key.
+/// Something happens while the user still holds the key.
 void TestSentKeys::keysGoToTheWindowOfThePressOnly()
 {
     QFETCH(const QString, change);
@@ -242,7 +242,7 @@ void TestSentKeys::keysGoToTheWindowOfThePressOnly()
     const Keys keys{XK_Super_L, XK_Alt_L, XK_n};
     for (const xcb_keysym_t key : keys)
         keyboard.press(key);
-    // Vesk has heard of the key once it gives the keyboard back.
+    // Vesk has received the key once it gives the keyboard back.
     if (!change.endsWith("at once"_L1)) {
         VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] { return other->grabKeyboard(); }));
         if (change != "keyboard grabbed"_L1)
@@ -257,8 +257,8 @@ void TestSentKeys::keysGoToTheWindowOfThePressOnly()
         VERIFY_ON(*m_desktop, m_desktop->windows().waitFocused(other->window(), kBound));
     for (const xcb_keysym_t key : keys | std::views::reverse)
         keyboard.release(key);
-    QTest::qWait(1000); // Longer than Vesk waits for the key to be up.
-    // The other window may have had the held key itself.
+    QTest::qWait(1000); // Longer than Vesk waits for the key to be released.
+    // The other window may have received the held key itself.
     QVERIFY2(!m_recorder->keys().contains(kCopy), qPrintable(m_recorder->keys().join(u' ')));
     QVERIFY2(!other->keys().contains(kCopy), qPrintable(other->keys().join(u' ')));
 }
@@ -309,7 +309,7 @@ void TestSentKeys::textThatATerminalCannotTakeIsCopied()
     QCOMPARE(program->keys(), QStringList());
 }
 
-/// The server repeats it for the window that has the keyboard then.
+/// The server repeats it for the window that has the focus then.
 void TestSentKeys::heldReturnReachesNoOtherWindow()
 {
     Keyboard &keyboard = m_desktop->keyboard();

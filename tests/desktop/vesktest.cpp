@@ -36,7 +36,7 @@ void VeskTest::cleanup()
 void VeskTest::press(const Keys &keys)
 {
     m_desktop->keyboard().tap(Keys{XK_Super_L, XK_Alt_L} + keys, kFinger);
-    // Nor is a finger down again at once.
+    // A finger does not press again at once, either.
     QTest::qWait(int(kFinger.count()));
 }
 

@@ -6,7 +6,7 @@
 
 namespace vesk {
 
-/// A test on a desktop of its own, whose user allows Vesk to read; each function has a new one.
+/// A test on a separate desktop, new for each function, whose user has allowed Vesk to read.
 class VeskTest : public QObject
 {
     Q_OBJECT
@@ -14,9 +14,9 @@ class VeskTest : public QObject
 protected:
     using Keys = QList<xcb_keysym_t>;
 
-    /// Makes the desktop alone.
+    /// Starts only the desktop.
     void startDesktop(const VirtualDesktop::Lacks &lacks = {});
-    /// False if it did not come up.
+    /// Returns false if it did not start.
     [[nodiscard]] bool startVesk();
 
     /// Presses keys together with Super and Alt, as a hand does.
@@ -25,10 +25,10 @@ protected:
     void togglePanel() { press({XK_t}); }
     void tapShiftTwice();
 
-    /// Runs a program on the desktop to its end; whether it did so with success.
+    /// Runs a program on the desktop until it exits; returns whether it succeeded.
     [[nodiscard]] bool runToEnd(const QString &program, const QStringList &arguments);
     [[nodiscard]] bool waitNotice(const QString &message);
-    /// Whether the store comes to hold these notes, the oldest first.
+    /// Waits until the store contains exactly these notes, oldest first; returns whether it does.
     [[nodiscard]] bool waitNotes(const QStringList &texts);
 
     std::unique_ptr<VirtualDesktop> m_desktop;
