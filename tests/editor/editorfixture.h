@@ -17,7 +17,7 @@ namespace vesk {
 class EditorFixture final : public MemoryDesktop
 {
 public:
-    /// `properties` are QML, for the editor. The window has the keyboard when this returns.
+    /// `properties` are QML properties of the editor. The window has the focus when this returns.
     explicit EditorFixture(const QString &properties = {}, QSize size = QSize(320, 300));
     ~EditorFixture();
 
@@ -26,24 +26,24 @@ public:
     /// Types key by key: \n is Return, \b Backspace, \x1b Escape, and \x7f Delete.
     void type(const QString &keys, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString &text = {});
-    /// What comes while a key is held, three times.
+    /// Types the three repeats of a held key.
     void hold(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString &text = {});
-    /// What an input method does: shows what is being composed, then writes a text.
+    /// Acts like an input method: shows what is being composed, then commits a text.
     void compose(const QString &preedit) const;
     void commit(const QString &text) const;
-    /// Writes a text in place of another one, whose start is counted from the caret.
+    /// Commits a text that replaces another, whose start is relative to the caret.
     void replace(int start, int length, const QString &text) const;
 
     [[nodiscard]] int caret() const;
     [[nodiscard]] int anchor() const;
     void select(qsizetype anchor, qsizetype caret) const;
     [[nodiscard]] QTextDocument &document() const;
-    /// A point of the window, from one of the text item.
+    /// Converts a point of the text item into one of the window.
     [[nodiscard]] QPoint inWindow(const QPointF &point) const;
     [[nodiscard]] QRectF rectangleOf(int position) const;
-    /// The window as it is painted.
+    /// The window's contents as painted.
     [[nodiscard]] QImage picture() { return window.grabWindow(); }
-    /// Has the window painted, and so everything laid out.
+    /// Paints the window, so that everything is laid out.
     void paint() { static_cast<void>(picture()); }
     [[nodiscard]] QList<QQuickItem *> boxes() const;
 
@@ -51,7 +51,7 @@ public:
     QQuickWindow window;
     QQuickItem *editor = nullptr;
     QQuickItem *edit = nullptr;
-    /// The time of the keys, in milliseconds.
+    /// The time stamp of the keys, in milliseconds.
     quint64 time = 1000;
 
 private:

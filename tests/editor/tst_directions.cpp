@@ -8,7 +8,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// Texts that are read from right to left, alone and among others, in both kinds of interface.
+/// Right-to-left texts, alone and mixed with others, in interfaces of both directions.
 class DirectionsTest : public QObject
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ private Q_SLOTS:
     void emptyEditorBeginsAsTheInterface();
 
 private:
-    /// "R" or "L" for each paragraph, by the side at which it is seen.
+    /// "R" or "L" for each paragraph, according to the side where it is displayed.
     static QString sidesOf(const EditorFixture &fixture)
     {
         QString sides;
@@ -70,7 +70,7 @@ void DirectionsTest::paragraphsBeginAtTheirSide()
     EditorFixture fixture;
     fixture.load(text);
     QTEST(sidesOf(fixture), "sides");
-    // As a host's text that is there before the editor, and as a text that is pasted into another.
+    // As a text that the host sets before the editor exists, and as a text pasted into another.
     fixture.load(u"ab\ncd"_s);
     fixture.press(Qt::Key_A, Qt::ControlModifier);
     fixture.pasteboard.setString(text);
@@ -105,7 +105,7 @@ void DirectionsTest::boxIsSeenAndClickedAtTheRight()
     QCOMPARE(box.size(), QSizeF(17, 17) * scale);
     QVERIFY(box.right() <= fixture.edit->width());
     QVERIFY(box.right() > fixture.edit->width() - 6);
-    // The text stands at its left.
+    // The text is to the left of its box.
     QVERIFY(fixture.rectangleOf(8).x() < box.left());
 
     const QChar before = line.front();
@@ -120,7 +120,7 @@ void DirectionsTest::boxIsSeenAndClickedAtTheRight()
         expected = expected == after ? before : after;
     }
     const QChar last = fixture.text().at(6);
-    // Where the box of a line read from left to right would be.
+    // Where the box of a left-to-right line would be.
     QTest::mouseClick(&fixture.window, Qt::LeftButton, {}, fixture.inWindow({8, box.center().y()}));
     QCOMPARE(fixture.text().at(6), last);
 }
@@ -147,7 +147,7 @@ void DirectionsTest::paragraphTurnsAsItIsTyped()
     while (fixture.text() != u"abc\n☐ ח\n☐ a\n12"_s)
         fixture.press(Qt::Key_Y, Qt::ControlModifier);
     QCOMPARE(sidesOf(fixture), u"LRLL"_s);
-    // Lines that are joined.
+    // Joining lines.
     fixture.select(10, 10);
     fixture.type(u"\b\b\b"_s);
     QCOMPARE(fixture.text(), u"abc\n☐ חa\n12"_s);
@@ -197,7 +197,7 @@ void DirectionsTest::keysAndClicksFollowTheDirection()
     fixture.press(Qt::Key_Home);
     QCOMPARE(fixture.caret(), 8);
     QVERIFY(fixture.edit->property("cursorRectangle").toRectF().x() > width - 5);
-    // Selected from the English line into the Hebrew one, and typed over.
+    // Selected from the English line into the Hebrew one, and replaced by typing.
     fixture.select(4, 15);
     fixture.type(u"x"_s);
     QCOMPARE(fixture.text(), u"abc xעולם\nend"_s);
@@ -205,7 +205,7 @@ void DirectionsTest::keysAndClicksFollowTheDirection()
     QCOMPARE(fixture.text(), u"abc def\n☐ שלום עולם\nend"_s);
     QCOMPARE(fixture.anchor(), 4);
     QCOMPARE(fixture.caret(), 15);
-    // A click in the free space after the end of the line, which is at its left.
+    // A click in the free space beyond the end of the line, which is on its left.
     const qreal middle = fixture.rectangleOf(12).center().y();
     QTest::mouseClick(&fixture.window, Qt::LeftButton, {}, fixture.inWindow({end / 2, middle}));
     QCOMPARE(fixture.caret(), 19);

@@ -21,7 +21,7 @@ constexpr auto kTitled = "firstLineIsTitle: true; titleBoost: 7; titleWeight: Fo
 
 } // namespace
 
-/// What is seen in the editor, what the mouse does in it, and what a screen reader finds.
+/// The editor's appearance, the mouse, and what a screen reader finds.
 class EditorLooksTest : public QObject
 {
     Q_OBJECT
@@ -195,7 +195,7 @@ void EditorLooksTest::placeholderLooksLikeTheTitle()
     QVERIFY(!findPlaceholder());
     fixture.commit(u"T"_s);
     QVERIFY(!findPlaceholder());
-    // Where it was is now what has been typed.
+    // What has been typed is now in its place.
     QCOMPARE(fixture.rectangleOf(0).topLeft(), place);
 }
 
@@ -215,7 +215,7 @@ void EditorLooksTest::hostHearsTheHeight()
     QTRY_COMPARE(heights.count(), 1);
     QVERIFY(heights.constLast().constFirst().toReal() > one + 15);
 
-    // Too narrow to be laid out for good.
+    // Too narrow for its real layout.
     fixture.editor->setSize(QSizeF(20, 100));
     QCoreApplication::processEvents();
     QCOMPARE(heights.count(), 1);
@@ -265,7 +265,7 @@ void EditorLooksTest::selectedTextIsDragged()
     fixture.press(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(fixture.text(), u"one two three"_s);
     QCOMPARE(fixture.caret(), 4);
-    // A click on the selection is just a click.
+    // A click on the selection is an ordinary click.
     const QPoint inside = fixture.inWindow(fixture.rectangleOf(2).center());
     QTest::mouseClick(&fixture.window, Qt::LeftButton, {}, inside);
     QCOMPARE(fixture.anchor(), 2);
@@ -320,7 +320,7 @@ void EditorLooksTest::selectingTheSameTextAgainTakesPrimaryBack()
     fixture.press(Qt::Key_A, Qt::ControlModifier);
     QTRY_VERIFY(!fixture.primary.items().isEmpty() && primary() == "one");
     fixture.primary.setString(u"selected elsewhere"_s);
-    // What is still selected from before is not selected anew.
+    // An existing selection is not published again.
     fixture.press(Qt::Key_Shift);
     QCoreApplication::processEvents();
     QCOMPARE(primary(), "selected elsewhere");
@@ -385,7 +385,7 @@ void EditorLooksTest::screenReaderFindsBoxes()
     QCOMPARE(fixture.text(), u"☑ Buy milk\n☑ Call"_s);
     fixture.paint();
     QVERIFY(box->state().checked);
-    // It stays the same one while the text before it changes.
+    // It stays the same object while the text before it changes.
     fixture.select(0, 0);
     fixture.type(u"x\n"_s);
     fixture.paint();

@@ -6,7 +6,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// How much of a text Backspace and Delete take.
+/// How much of a text Backspace and Delete erase.
 class EraseRulesTest : public QObject
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ private Q_SLOTS:
     void erases();
 };
 
-// "|" is where the caret is. What is left is the text before it for Backspace, and the text after it for
+// "|" marks the caret. The expected rest is the text before it for Backspace, and the text after it for
 // Delete.
 void EraseRulesTest::erases_data()
 {

@@ -9,7 +9,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// What an input method composes, commits and replaces in the editor, and the way back.
+/// What an input method composes, commits and replaces in the editor, and undoing it.
 class InputMethodsTest : public QObject
 {
     Q_OBJECT
@@ -49,7 +49,7 @@ void InputMethodsTest::inputMethodOwnsTheKeysWhileComposing()
     QCOMPARE(fixture.edit->property("preeditText"), u"ni"_s);
     QCOMPARE(returns.count() + escapes.count(), 0);
 
-    // What is composed is as large as the heading that it is in, so little changes as it is written.
+    // Composed text is as large as its heading, so little changes when it is committed.
     const qreal composed = fixture.rectangleOf(0).height();
     fixture.commit(u"你"_s);
     QCOMPARE(fixture.text(), u"# Plans你\n• a"_s);
@@ -138,7 +138,7 @@ void InputMethodsTest::commitOverSelectionIsOneStep()
     QCOMPARE(fixture.caret(), 4);
     redo(fixture);
     QCOMPARE(fixture.text(), u"one 你 three"_s);
-    // The same as what stands after it, and as a marker's end.
+    // Equal to the text after it, and to a marker's end.
     fixture.load(u"xaa"_s);
     fixture.select(0, 1);
     fixture.compose(u"x"_s);
@@ -155,13 +155,13 @@ void InputMethodsTest::commitOverSelectionIsOneStep()
     QCOMPARE(fixture.text(), u"-x"_s);
     redo(fixture);
     QCOMPARE(fixture.text(), u"• "_s);
-    // The same as what was selected: there is nothing to take back.
+    // Equal to the selection: there is nothing to undo.
     fixture.load(u"ab"_s);
     fixture.select(1, 2);
     fixture.compose(u"x"_s);
     fixture.commit(u"b"_s);
     QVERIFY(!fixture.controller.textView()->canUndo());
-    // What was erased by keys before stays a step of its own.
+    // What was previously erased with keys remains a separate step.
     fixture.load(u"ab"_s);
     fixture.controller.moveCaretToEnd();
     fixture.type(u"\b"_s);
@@ -189,7 +189,7 @@ void InputMethodsTest::surrogatePairIsNeverTornApart()
     undo(fixture);
     QCOMPARE(fixture.text(), u"😀"_s);
 
-    // The halves come one by one, here with a word before and a pause between.
+    // The halves arrive separately, with a word before them and a pause in between.
     fixture.load(u"a"_s);
     fixture.controller.moveCaretToEnd();
     fixture.type(u"b"_s);

@@ -9,7 +9,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// The editor's keys, its steps to take back, and its texts, by real keys in a real window.
+/// The editor's keys, undo steps and texts, using real keys in a real window.
 class NoteEditorTest : public QObject
 {
     Q_OBJECT
@@ -42,7 +42,7 @@ private Q_SLOTS:
 
 void NoteEditorTest::typedText_data()
 {
-    // "|" is where the caret is.
+    // "|" marks the caret.
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("keys");
     QTest::addColumn<QString>("after");
@@ -80,7 +80,7 @@ void NoteEditorTest::typedText()
 
 void NoteEditorTest::listKeyTogglesTheLine_data()
 {
-    // "<" is where the selection begins, "|" is where the caret is.
+    // "<" marks the start of the selection, "|" the caret.
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("after");
     QTest::newRow("text") << u"a\nmi<|lk"_s << u"a\n☐ mi<|lk"_s;
@@ -215,7 +215,7 @@ void NoteEditorTest::heldReturnRepeatsLineBreaks()
     EditorFixture fixture(u"takesReturn: true"_s);
     fixture.load(u"• a"_s);
     fixture.controller.moveCaretToEnd();
-    // Held since before the text had the keyboard.
+    // Held since before the text had the focus.
     fixture.hold(Qt::Key_Return, Qt::ShiftModifier, u"\r"_s);
     QCOMPARE(fixture.text(), u"• a"_s);
     fixture.press(Qt::Key_Return, Qt::ShiftModifier, u"\r"_s);
@@ -233,7 +233,7 @@ void NoteEditorTest::stepsToTakeBack_data()
     QTest::addColumn<QStringList>("keys");
     QTest::addColumn<QStringList>("texts");
 
-    // A long pause is between two strings of keys.
+    // There is a long pause between two strings of keys.
     QTest::newRow("words") << QStringList{u"one two"_s} << QStringList{u"one "_s, QString()};
     QTest::newRow("pause") << QStringList{u"on"_s, u"e"_s} << QStringList{u"on"_s, QString()};
     QTest::newRow("erased at once") << QStringList{u"abc\b\b"_s} << QStringList{u"abc"_s, QString()};
@@ -433,7 +433,7 @@ void NoteEditorTest::latePasteComesBeforeWhatIsTypedAfterIt()
     QTRY_COMPARE(fixture.text(), u"lateab\n"_s);
     fixture.press(Qt::Key_Z, Qt::ControlModifier);
     fixture.press(Qt::Key_V, Qt::ControlModifier);
-    // The editor may have gone by the time.
+    // The editor may be gone by then.
     delete fixture.editor;
     clock.advance(std::chrono::seconds(1));
     QCoreApplication::processEvents();
@@ -450,7 +450,7 @@ void NoteEditorTest::latePasteComesWhereItWasAskedFor()
     fixture.pasteboard.setString(u"late"_s);
     fixture.pasteboard.setDelay(clock, std::chrono::seconds(1));
     fixture.press(Qt::Key_V, Qt::ControlModifier);
-    // By the mouse.
+    // With the mouse.
     fixture.select(0, 3);
     clock.advance(std::chrono::seconds(1));
     QTRY_COMPARE(fixture.text(), u"one late"_s);

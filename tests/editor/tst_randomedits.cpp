@@ -16,7 +16,7 @@ using namespace vesk;
 
 namespace {
 
-/// What is in the editor, and what of it is selected.
+/// The editor's text and selection.
 struct State
 {
     QString text;
@@ -27,8 +27,8 @@ struct State
 
 } // namespace
 
-/// Keys and input methods at random in the real editor: what each line looks like, and the way back through
-/// all of it. The texts are read in both directions, and have characters of more than one unit.
+/// Random keys and input methods in the real editor: checks the appearance of each line, and undoing
+/// everything. The texts have both directions, and characters of more than one unit.
 class RandomEditsTest : public QObject
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ private:
     void act(int kind);
     [[nodiscard]] State state() const;
     [[nodiscard]] int pick(qsizetype count) { return m_random.bounded(static_cast<int>(count)); }
-    /// Not between the halves of a character.
+    /// Never between the halves of a character.
     [[nodiscard]] int pickPosition()
     {
         const QString text = m_fixture->text();
@@ -49,7 +49,7 @@ private:
         const bool isInside = position > 0 && position < text.size() && text.at(position).isLowSurrogate();
         return isInside ? position - 1 : position;
     }
-    /// The first paragraph whose formats are not what the whole text asks for; -1 for none.
+    /// The first paragraph whose formats differ from those that the whole text requires; -1 if there is none.
     [[nodiscard]] int findWrongLooks() const;
 
     QRandomGenerator m_random;
@@ -74,7 +74,7 @@ void RandomEditsTest::act(int kind)
     static const QStringList kKeys{u"\n"_s, u" "_s, u"\b"_s, u"\x7f"_s};
     const QString text = m_fixture->text();
     switch (kind) {
-    case 0: { // Moved or selected by the mouse or anything else.
+    case 0: { // Moved or selected with the mouse or something else.
         const int caret = pickPosition();
         m_fixture->select(pick(3) == 0 ? pickPosition() : caret, caret);
         break;
@@ -85,7 +85,7 @@ void RandomEditsTest::act(int kind)
         m_fixture->type(kKeys.at(pick(kKeys.size())));
         break;
     case 4:
-        // The one for checklists has a key in the editor itself.
+        // The command for checklists has a key in the editor itself.
         if (const int marker = pick(3); marker == 0)
             m_fixture->press(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
         else
@@ -104,7 +104,7 @@ void RandomEditsTest::act(int kind)
             m_fixture->compose(u"ש"_s);
         m_fixture->commit(kCommits.at(pick(kCommits.size())));
         break;
-    case 8: { // Also where it cuts an emoji.
+    case 8: { // Even if it splits an emoji.
         const int before = std::min(pick(4), m_fixture->caret());
         const int after = std::min(pick(2), static_cast<int>(text.size()) - m_fixture->caret());
         m_fixture->replace(-before, before + after, pick(2) == 0 ? QString() : u"😂"_s);
@@ -153,7 +153,7 @@ int RandomEditsTest::findWrongLooks() const
 void RandomEditsTest::looksFollowAndAllIsTakenBack_data()
 {
     QTest::addColumn<quint32>("seed");
-    // VESK_EDITOR_SEEDS=400 for the long form.
+    // VESK_EDITOR_SEEDS=400 requests a longer run.
     const int seeds = std::max(12, qEnvironmentVariableIntValue("VESK_EDITOR_SEEDS"));
     for (int seed = 1; seed <= seeds; ++seed)
         QTest::addRow("seed %d", seed) << static_cast<quint32>(seed);
@@ -185,7 +185,7 @@ void RandomEditsTest::looksFollowAndAllIsTakenBack()
         m_fixture->press(Qt::Key_Y, Qt::ControlModifier);
     const QString last = m_fixture->text();
 
-    // Each step that is taken back leads to where some change began, and ends where all began.
+    // Each undo leads back to a state from which a change began, and finally to the first.
     int steps = 0;
     while (m_fixture->controller.textView()->canUndo()) {
         m_fixture->press(Qt::Key_Z, Qt::ControlModifier);

@@ -22,8 +22,8 @@ using namespace vesk;
 
 namespace {
 
-/// A window with two text fields as the views write them, of which the first has the keyboard. The
-/// toolkit's own clipboard holds something else, which must appear nowhere.
+/// A window with two text fields like those in the views; the first has the focus. The toolkit's own
+/// clipboard contains something else, which must not appear anywhere.
 struct Window : MemoryDesktop
 {
     explicit Window(const QString &type)
@@ -73,7 +73,7 @@ struct Window : MemoryDesktop
         QInputMethodEvent event(text, {});
         QCoreApplication::sendEvent(first, &event);
     }
-    /// Writes a text in place of another one, whose start is counted from the caret.
+    /// Commits a text that replaces another, whose start is relative to the caret.
     void commit(const QString &text, int start = 0, int length = 0) const
     {
         QInputMethodEvent event;
@@ -104,7 +104,7 @@ struct Window : MemoryDesktop
 
 } // namespace
 
-/// Copying and pasting in text fields, by Vesk's own pasteboards and in the order of the keys.
+/// Copying and pasting in text fields with Vesk's own pasteboards, in the order of the keys.
 class TextFieldsTest : public QObject
 {
     Q_OBJECT
@@ -183,7 +183,7 @@ void TextFieldsTest::pastesWithoutTheToolkitsClipboard()
         window.press(key, modifiers);
     QCOMPARE(Window::textOf(window.first), u"aX\ufeffYd"_s);
     QCOMPARE(window.first->property("cursorPosition"), 4);
-    // What the owner does not give changes nothing.
+    // If the owner does not provide it, nothing changes.
     window.pasteboard.setSecret(true);
     Window::select(*window.first, 0, 1);
     window.press(Qt::Key_V, Qt::ControlModifier);
@@ -206,7 +206,7 @@ void TextFieldsTest::copiesWithoutTheToolkitsClipboard()
     window.press(Qt::Key_X, Qt::ControlModifier);
     QCOMPARE(Window::stringOn(window.pasteboard), u"one"_s);
     QCOMPARE(Window::textOf(window.first).size(), 4);
-    // Nothing is selected now.
+    // Now nothing is selected.
     window.press(Qt::Key_Insert, Qt::ControlModifier);
     QCOMPARE(Window::stringOn(window.pasteboard), u"one"_s);
     window.first->setProperty("readOnly", true);
@@ -225,7 +225,7 @@ void TextFieldsTest::pastesWhileComposing()
     QCoreApplication::sendEvent(window.first, &compose);
     QVERIFY(window.first->property("inputMethodComposing").toBool());
     window.pasteLater(u"X"_s);
-    // And goes on composing before the text is there.
+    // Continues composing before the text arrives.
     QInputMethodEvent commit;
     commit.setCommitString(u"hao"_s);
     QCoreApplication::sendEvent(window.first, &commit);
@@ -271,7 +271,7 @@ void TextFieldsTest::typedTextFollowsALatePaste()
     QCOMPARE(Window::textOf(window.first), u"aoneconeeb"_s);
 }
 
-/// A program that hangs would be waited for once more for each press.
+/// Otherwise the user would wait again for a hanging program with each press.
 void TextFieldsTest::pasteThatFailsIsNotTriedAgain()
 {
     Window window(u"TextEdit"_s);
@@ -291,10 +291,10 @@ void TextFieldsTest::latePasteStaysInItsField()
     Window::select(*window.first, 2, 2);
     window.pasteLater(u"X"_s);
     window.type(u"y"_s);
-    // By the mouse, say.
+    // For example, with the mouse.
     window.second->forceActiveFocus();
     window.type(u"z"_s);
-    // And something else changes the first field meanwhile.
+    // Meanwhile something else changes the first field.
     window.first->setProperty("text", u"__abcd"_s);
     window.clock.advance(500ms);
     QCOMPARE(Window::textOf(window.second), u"z"_s);
@@ -350,7 +350,7 @@ void TextFieldsTest::lineBreaksInASingleLine()
     QCOMPARE(Window::textOf(window.first), expected);
 }
 
-// "|" is where the caret is.
+// "|" marks the caret.
 void TextFieldsTest::erasesWholeCharacters_data()
 {
     QTest::addColumn<QString>("type");
@@ -394,7 +394,7 @@ void TextFieldsTest::eachCommitIsAStep()
     window.commit(u"你好"_s);
     window.commit(u"世界"_s);
     window.type(u"cd"_s);
-    // In place of what was selected.
+    // Replaces the selection.
     Window::select(*window.first, 0, 2);
     window.compose(u"x"_s);
     window.commit(u"我"_s);
@@ -428,7 +428,7 @@ void TextFieldsTest::undoNeverLeavesHalfACharacter()
     window.commit(u"😂"_s, -2, 2);
     window.undo();
     QCOMPARE(window.text(), u"😀"_s);
-    // The halves come one by one, and half of one is replaced.
+    // The halves arrive separately, and half of one is replaced.
     begin(u"a"_s, 1);
     window.commit(QChar(0xd83d));
     window.commit(QChar(0xde00));
@@ -461,7 +461,7 @@ void TextFieldsTest::undoOfPasteAndCut()
     window.undo();
     QCOMPARE(window.text(), u"one two"_s);
     QCOMPARE(window.first->property("selectedText"), u"two"_s);
-    // Words are steps.
+    // Words are separate steps.
     window.undo();
     QCOMPARE(window.text(), u"one "_s);
     window.press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);

@@ -20,7 +20,7 @@ using namespace vesk;
 
 namespace {
 
-/// The guide in a window of its own, over the platform in memory.
+/// The guide in a separate window, over the in-memory platform.
 struct Stage : MemoryDesktop
 {
     explicit Stage(bool isTrusted, int height = 600, const GlobalKeys *keys = nullptr)
@@ -42,7 +42,7 @@ struct Stage : MemoryDesktop
     {
         QTest::keyClick(&view, key, modifiers);
     }
-    /// What a screen reader says of where the keyboard is.
+    /// What a screen reader says about the focused item.
     [[nodiscard]] QString focus() const
     {
         QAccessibleInterface *shown = QAccessible::queryAccessibleInterface(view.activeFocusItem());
@@ -60,7 +60,7 @@ struct Stage : MemoryDesktop
     QQuickView view{&engine, nullptr};
 };
 
-/// All that a screen reader finds from here on, in order.
+/// Everything that a screen reader finds from here on, in order.
 void collect(QAccessibleInterface *from, QStringList &names)
 {
     for (int i = 0; from && i < from->childCount(); ++i) {
@@ -136,7 +136,7 @@ void GuideTest::keysScroll()
     QCOMPARE(stage.scrolled(), end);
     stage.press(Qt::Key_PageDown);
     QCOMPARE(stage.scrolled(), end);
-    // The last row stands above the button as a whole.
+    // The last row is entirely above the button.
     stage.view.resize(420, 700);
     QTRY_COMPARE(stage.scroller()->property("end").toReal(), end - 300);
     QTRY_COMPARE(stage.scrolled(), end - 300);
@@ -172,7 +172,7 @@ void GuideTest::statusFollowsTheUser()
     stage.accessibility.setTrusted(true);
     QVERIFY(heard(stage.view).contains(u"Accessibility access allowed"_s));
     QVERIFY(!heard(stage.view).contains(u"Open Settings"_s));
-    // The link that had the keyboard has gone; Escape still works.
+    // The link that had the focus is gone; Escape still works.
     stage.press(Qt::Key_Escape);
     QVERIFY(!stage.guide.isShown());
 }
@@ -186,7 +186,7 @@ void GuideTest::isReadAloud()
          {u"Open Vesk anywhere, Alt, Super, T | Press it in any app"_s,
           u"Checkboxes and lists, [, ], Space | Type [ ] and a space for a checkbox"_s, u"Got it"_s})
         QVERIFY2(all.contains(part), qPrintable(all));
-    // What no keyboard of this desktop has on its keys.
+    // Glyphs that no keyboard of this desktop has.
     static const QRegularExpression kGlyphs(u"[\u2318\u2325\u2303\u21E7\u21A9\u232B\u2423]"_s);
     QVERIFY2(!all.contains(kGlyphs), qPrintable(all));
 }

@@ -12,10 +12,10 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
-/// Which keys count as Shift tapped twice. The keys are written as a row of letters: s and S, Shift
-/// down and up; c and C, Shift and Control down, then all up; k, K, Caps Lock goes on and off; l and L,
-/// Shift down and up while it is on; x, a letter or a mouse button; w, the wheel; i, an interruption;
-/// . and _, 100 ms and 1 ms that pass.
+/// Which keys count as Shift tapped twice. The keys are written as a string: s and S, Shift down and up; c
+/// and C, Shift and Control down, then all up; k and K, Caps Lock turned on and off; l and L, Shift down and
+/// up while it is on; x, a letter or a mouse button; w, the wheel; i, an interruption; . and _, a pause of
+/// 100 ms and 1 ms.
 class TestDoubleShiftMonitor : public QObject
 {
     Q_OBJECT

@@ -20,11 +20,11 @@ constexpr KeyPosition kQ{16};
 constexpr KeyPosition kF5{63};
 constexpr KeyCombination kSuperAltQ{.key = kQ, .modifiers = kSuperAlt};
 
-/// The letters that a French keyboard has elsewhere, as far as they matter here.
+/// The letters that are elsewhere on a French keyboard, as far as needed here.
 const QHash<KeyPosition, QChar> kFrench{{kQ, u'A'}, {KeyPosition(30), u'Q'}, {KeyPosition::N, u'N'}};
 const QHash<KeyPosition, QChar> kRussian{{kQ, u'Й'}, {KeyPosition::N, u'Т'}};
 
-/// Each command's combination as it would be written, separated by commas where it is not the default.
+/// Each command's combination in the notation of the file, separated by commas, if it is not the default.
 QString choices(const KeySettings &settings, const HotKeys *keyboard)
 {
     QStringList words;
@@ -37,7 +37,7 @@ QString choices(const KeySettings &settings, const HotKeys *keyboard)
     return words.join(u", "_s);
 }
 
-/// The program's keys over a keyboard and a file in a folder.
+/// The program's keys with an in-memory keyboard and a file in a folder.
 struct World
 {
     QTemporaryDir folder;
@@ -57,7 +57,7 @@ struct World
     }
 
     void write(const QString &text) const { QVERIFY(writeFile(path, text.toUtf8())); }
-    /// As many editors save.
+    /// As many editors save a file.
     void replace(const QString &text) const
     {
         const QString draft = path + u'~';
@@ -69,7 +69,7 @@ struct World
         const auto combination = keys->key(command).combination;
         return combination ? keynames::written(*combination, &keyboard) : u"off"_s;
     }
-    /// Presses a combination; what it did.
+    /// Presses a combination; returns the commands that it triggered.
     QList<Command> press(KeyCombination combination)
     {
         pressed.clear();
@@ -80,7 +80,7 @@ struct World
 
 } // namespace
 
-/// The combinations that the user has chosen, or would have liked to.
+/// The combinations that the user has chosen, validly or not.
 class TestUsersKeys : public QObject
 {
     Q_OBJECT
@@ -100,7 +100,7 @@ void TestUsersKeys::fileIsRead_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("choices");
-    // A part of each problem, in their order, separated by "|".
+    // A part of each problem, in order, separated by "|".
     QTest::addColumn<QString>("problems");
     const auto row = [](const char *name, const QString &text, const QString &choices,
                         const QString &problems = {}) { QTest::newRow(name) << text << choices << problems; };
@@ -126,7 +126,7 @@ void TestUsersKeys::fileIsRead_data()
         u"line 2: Super+Q is already used for “toggle”"_s);
     row("changed places", u"toggle=Super+Alt+N\ncapture=Super+Alt+T"_s,
         u"capture: Super+Alt+T, toggle: Super+Alt+N"_s);
-    // Each falls back for another's sake; in the end all have one.
+    // Each falls back because of another; in the end all have one.
     row("chain", u"capture=Super+Alt+T\ntoggle=Super+Alt+C\nwrite=Super+Alt+C"_s, {},
         u"line 3: |line 2: |line 1: "_s);
     row("double Shift", u"save-prompt=Shift Shift\ncapture=Shift+Shift"_s, {}, u"Only save-prompt"_s);
@@ -173,7 +173,7 @@ void TestUsersKeys::layoutDecides()
     QTEST(keynames::nameOf(toggle->key, &keyboard), "shown");
 }
 
-/// Written in place, replaced, removed, written again; nothing of it was there at the start.
+/// Written in place, replaced, removed and written again; it did not exist at the start.
 void TestUsersKeys::fileIsFollowed()
 {
     World world;
@@ -224,7 +224,7 @@ void TestUsersKeys::lettersFollowTheLayout()
     world.keyboard.setLayout(kFrench);
     QCOMPARE(world.press(kSuperAltQ), QList{Command::Toggle});
     QCOMPARE(world.written(Command::Toggle), u"Super+Alt+A"_s);
-    // What the user did not choose stays where it was.
+    // What the user did not change stays where it was.
     QCOMPARE(world.press(combinationOf(Command::Capture)), QList{Command::Capture});
 }
 

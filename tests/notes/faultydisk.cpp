@@ -87,7 +87,7 @@ void FaultyDisk::forward(sqlite3_io_methods &methods)
 sqlite3_io_methods FaultyDisk::methods()
 {
     using Methods = sqlite3_io_methods;
-    // Version 2: with the shared memory of a journal, without mapping the file itself.
+    // Version 2: supports the shared memory of a journal, but does not map the file itself.
     sqlite3_io_methods methods = {};
     methods.iVersion = 2;
     forward<&Methods::xClose>(methods);
@@ -138,7 +138,7 @@ int FaultyDisk::open(sqlite3_filename name, sqlite3_file *file, int flags, int *
     own->base.pMethods = &m_methods;
     own->disk = this;
     own->inode = name ? inodeOf(name).value_or(0) : 0;
-    // An empty one may have the number of one that is gone.
+    // A new file may have the number of one that is gone.
     const QByteArray contents = name ? contentsOf(QFile::decodeName(name)) : QByteArray();
     if (contents.isEmpty())
         m_media.erase(own->inode);
@@ -196,7 +196,7 @@ int FaultyDisk::sync(sqlite3_file *file, int /*flags*/)
         for (const Change &change : medium.changes)
             apply(medium.durable, change);
     }
-    // After a sync that failed Linux forgets what it was about, and the next one succeeds without it.
+    // After a failed sync Linux forgets the pages, and the next sync succeeds without writing them.
     medium.changes.clear();
     return fails ? SQLITE_IOERR_FSYNC : SQLITE_OK;
 }

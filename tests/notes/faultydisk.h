@@ -13,23 +13,23 @@
 
 namespace vesk {
 
-/// What SQLite takes for the disk while this lives: the real one, but for the faults that a test orders,
-/// and for what a power cut does to writes that were not yet synced. Only for the files of one folder.
+/// What SQLite uses as the disk while this object lives: the real one, except for the faults that a test
+/// orders and for the effects of a power failure on unsynced writes. Only affects the files of one folder.
 class FaultyDisk final
 {
 public:
     static constexpr qint64 kForever = std::numeric_limits<qint64>::max() / 2;
 
-    /// Which steps fail, and how. A step is an opening, a write, a truncation, a sync or a removal.
+    /// Which steps fail, and how. A step is an open, write, truncate, sync or removal.
     struct Plan
     {
         qint64 first = kForever;
         qint64 count = kForever;
         /// For a write or truncation, such as `SQLITE_FULL`.
         int code = SQLITE_IOERR_WRITE;
-        /// Whether a write that fails has written its first half.
+        /// Whether a failing write writes its first half.
         bool tears = false;
-        /// Whether a reading of the file is a step, too.
+        /// Whether reading the file is a step too.
         bool readsToo = false;
     };
 
@@ -44,20 +44,20 @@ public:
     ~FaultyDisk();
     Q_DISABLE_COPY_MOVE(FaultyDisk)
 
-    /// The steps are counted from 0 again.
+    /// Restarts counting steps at 0.
     void follow(const Plan &plan);
-    /// All steps fail from now on.
+    /// Makes all steps fail from now on.
     void die() { follow({.first = 0}); }
     [[nodiscard]] qint64 steps() const { return m_steps; }
 
-    /// Brings the files of the folder into a state in which a power cut may leave them. No connection may
-    /// be open any more.
+    /// Brings the folder's files into a state in which a power failure might leave them. No connection may be
+    /// open.
     void cutPower(const QString &folder, Loss loss, std::mt19937 &random);
 
 private:
     using Inode = quint64;
 
-    /// One that has not been synced; a truncation has no bytes.
+    /// A change that has not been synced; a truncation has no bytes.
     struct Change
     {
         qint64 offset;
@@ -65,11 +65,11 @@ private:
     };
     struct Medium
     {
-        /// What is sure to be there after a power cut.
+        /// What certainly exists after a power failure.
         QByteArray durable;
         std::vector<Change> changes;
     };
-    /// What SQLite knows as an open file; the real one lies behind it.
+    /// What SQLite sees as an open file; the real one is behind it.
     struct File
     {
         sqlite3_file base;
@@ -79,12 +79,12 @@ private:
 
     [[nodiscard]] static sqlite3_file *real(sqlite3_file *file);
     [[nodiscard]] static sqlite3_io_methods methods();
-    /// Lets one of the methods be the real disk's.
+    /// Forwards one of the methods to the real disk's.
     template <auto kMethod>
     static void forward(sqlite3_io_methods &methods);
     static void apply(QByteArray &contents, const Change &change);
 
-    /// Counts one more step; whether it fails.
+    /// Counts a step; returns whether it fails.
     [[nodiscard]] bool isNextFailing();
     [[nodiscard]] int open(sqlite3_filename name, sqlite3_file *file, int flags, int *outFlags);
     [[nodiscard]] int remove(const char *name, int syncsFolder);

@@ -28,7 +28,7 @@ bool enterPrivateMounts()
     const uid_t user = ::geteuid();
     const gid_t group = ::getegid();
     if (user != 0) {
-        // Mounting is allowed only in a user namespace; the user stays who they are.
+        // Mounting requires a user namespace; the user's identity is kept.
         const auto map = [](auto id) { return std::to_string(id) + ' ' + std::to_string(id) + " 1\n"; };
         if (::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0 || !writeFile("/proc/self/setgroups", "deny")
             || !writeFile("/proc/self/uid_map", map(user)) || !writeFile("/proc/self/gid_map", map(group)))

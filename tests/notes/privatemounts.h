@@ -3,11 +3,11 @@
 
 namespace vesk {
 
-/// Gives this process mounts of its own, in which it may mount a tmpfs. To be called before there is a second
-/// thread. False where the system does not allow it.
+/// Gives this process a private mount namespace in which it may mount a tmpfs. Must be called before there is
+/// a second thread. Returns false if the system does not allow it.
 [[nodiscard]] bool enterPrivateMounts();
 
-/// Mounts a tmpfs of `bytes` at `folder`; false with `errno` set if that fails.
+/// Mounts a tmpfs of `bytes` at `folder`; returns false, with `errno` set, on failure.
 [[nodiscard]] bool mountTmpfs(const char *folder, unsigned bytes);
 
 } // namespace vesk

@@ -10,7 +10,7 @@
 
 namespace vesk {
 
-/// A folder with a store in it, and a second connection to look at the file from outside.
+/// A folder with a store in it, and a second connection that looks at the file from outside.
 class StoreFixture
 {
 public:
@@ -18,15 +18,15 @@ public:
     [[nodiscard]] QString journalPath() const;
     [[nodiscard]] std::string nativePath() const { return path().toStdString(); }
 
-    /// Closes the store if it is open, and opens it again; null with `error` set if that fails.
+    /// Closes the store if it is open, and opens it again; returns null, with `error` set, on failure.
     NotesStore *open();
     void close() { store.reset(); }
     Note &addNote(const QString &text);
 
     [[nodiscard]] SQLite::Database outsider(int flags = SQLite::OPEN_READONLY) const;
-    /// The texts of the table's rows as the file has them, in the order in which they were added.
+    /// The texts of the table's rows in the file, in the order in which they were added.
     [[nodiscard]] QStringList rows(const char *table = "Note") const;
-    /// SQLite's own verdict on the file.
+    /// SQLite's verdict on the file.
     [[nodiscard]] QString integrity() const;
 
     QTemporaryDir folder;

@@ -14,14 +14,14 @@ namespace {
 
 using Contents = QMap<RecordId, QString>;
 
-/// Moves the journal into the file every few pages, so that a short run meets that as well.
+/// Moves the journal into the file every few pages, so that a short run covers that too.
 int checkpointOften(sqlite3 *connection, char ** /*error*/, const sqlite3_api_routines * /*routines*/)
 {
     constexpr int kPages = 8;
     return sqlite3_wal_autocheckpoint(connection, kPages);
 }
 
-/// VESK_FAULT_SEEDS asks for a longer run than the usual one: each seed is another history of changes.
+/// VESK_FAULT_SEEDS requests a longer run: each seed is a different history of changes.
 unsigned seeds()
 {
     const int asked = qEnvironmentVariableIntValue("VESK_FAULT_SEEDS");
@@ -30,7 +30,7 @@ unsigned seeds()
 
 } // namespace
 
-/// What the store keeps of its word on a disk that fails at any step, for a while or for good.
+/// Whether the store keeps its promises on a disk that fails at any step, temporarily or permanently.
 class TestDurability : public QObject
 {
     Q_OBJECT
@@ -42,31 +42,31 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] Contents contents() const;
-    /// Makes one change, the kind of which `random` decides.
+    /// Makes one change of a random kind.
     void change(std::mt19937 &random);
-    /// Notes what a save has confirmed, or what it may have written all the same.
+    /// Records what a save has confirmed, or may have written without confirming it.
     void save();
     void close();
-    /// Opens, changes, saves and closes a store; the disk may fail at any step of it.
+    /// Opens, changes, saves and closes a store; the disk may fail at any step.
     void play(unsigned seed);
-    /// Plays with the faults, and looks at what is there after the crash.
+    /// Plays with the faults, and checks what is there after the crash.
     void play(unsigned seed, const FaultyDisk::Plan &plan, FaultyDisk::Loss loss, qint64 &steps);
 
-    /// Outlives every connection to it.
+    /// Must outlive every connection to it.
     std::unique_ptr<FaultyDisk> m_disk;
     std::unique_ptr<StoreFixture> m_fixture;
     /// How often an opening failed because the disk was full.
     int m_fullDisks = 0;
-    /// What the file may hold after a crash: what was confirmed last, and what was tried since.
+    /// The possible contents of the file after a crash: what was last confirmed, and what was tried since.
     QList<Contents> m_possible;
 };
 
 void TestDurability::initTestCase()
 {
-    // What the disk has is known here without asking it to sync thousands of times.
+    // The disk's contents are simulated here, so there is no need for thousands of real syncs.
     if (QFileInfo(u"/dev/shm"_s).isWritable())
         qputenv("TMPDIR", "/dev/shm");
-    // Every fault would be told of.
+    // Every fault would be logged.
     QLoggingCategory::setFilterRules(u"default.warning=false"_s);
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): what SQLite asks for.
     QCOMPARE(sqlite3_auto_extension(reinterpret_cast<void (*)()>(checkpointOften)), SQLITE_OK);
@@ -148,16 +148,16 @@ void TestDurability::play(unsigned seed)
 {
     std::mt19937 random(seed);
     for (int session = 0; session < 2; ++session) {
-        // A disk that fails only for a while lets the second opening succeed, or a later one.
+        // If the disk only fails for a while, the second attempt to open succeeds, or a later one.
         for (int attempt = 0; !m_fixture->open() && attempt < 13; ++attempt) {
-            // Nobody is advised to give up a file that is sound.
+            // Nobody must be advised to give up a sound file.
             QVERIFY2(m_fixture->fault == StoreFault::Other, qPrintable(m_fixture->error));
             if (m_fixture->error.contains(u"disk is full"_s))
                 ++m_fullDisks;
         }
         if (!m_fixture->store)
             return;
-        // What is there now is sure, whichever of the possible states it is.
+        // What is there now is durable, whichever of the possible states it is.
         QVERIFY(m_possible.contains(contents()));
         m_possible = {contents()};
         for (int saving = 0; saving < 4; ++saving) {
@@ -184,7 +184,7 @@ void TestDurability::play(unsigned seed, const FaultyDisk::Plan &plan, FaultyDis
     if (QTest::currentTestFailed())
         return;
     if (plan.count < FaultyDisk::kForever) {
-        // The disk is sound again, and nothing that was ever tried is missing.
+        // The disk works again, and nothing that was ever tried is missing.
         disk.follow({});
         QVERIFY2(m_fixture->open(), qPrintable(m_fixture->error));
         change(random);
@@ -233,7 +233,7 @@ void TestDurability::keepsWhatItConfirmed()
     m_fullDisks = 0;
     for (unsigned seed = 1; seed <= seeds(); ++seed) {
         qint64 steps = 0;
-        // Until the fault would come after all that is done.
+        // Until the fault would come after everything is done.
         for (plan.first = 0; plan.first == 0 || plan.first <= steps; ++plan.first, ++runs) {
             play(seed, plan, loss, steps);
             if (QTest::currentTestFailed()) {

@@ -24,7 +24,7 @@ QString folderOf(const StoreFixture &fixture)
     return QFileInfo(fixture.path()).path();
 }
 
-/// Makes a store that holds one note.
+/// Creates a store that holds one note.
 void putForeignStore(const QString &path, const QString &text)
 {
     MemoryClock clock;
@@ -34,7 +34,7 @@ void putForeignStore(const QString &path, const QString &text)
     QVERIFY(opened.store->save());
 }
 
-/// The texts in the store at `path`, opened as the next Vesk opens it.
+/// The texts in the store at `path`, as the next Vesk reads them.
 QStringList textsIn(const QString &path, QString *incident = nullptr)
 {
     MemoryClock clock;
@@ -54,7 +54,7 @@ bool isMountingAllowed = false;
 
 } // namespace
 
-/// The store's file, or its folder, goes while Vesk is running.
+/// The store's file or its folder disappears while Vesk is running.
 class TestLostStore : public QObject
 {
     Q_OBJECT
@@ -124,19 +124,19 @@ void TestLostStore::isWrittenAnew()
     if (!moved.isEmpty())
         QVERIFY2(incident.contains(m_fixture->folder.filePath(moved)), qPrintable(incident));
 
-    // It goes on with the new file, which one process has to itself, as before.
+    // It continues with the new file, which only one process can have open, as before.
     QCOMPARE(NotesStore::open(m_fixture->path(), m_fixture->clock).fault, StoreFault::HeldElsewhere);
     m_fixture->addNote(u"c"_s);
     QVERIFY(m_fixture->store->save());
     m_fixture->close();
     QCOMPARE(textsIn(m_fixture->path()), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
     QCOMPARE(m_fixture->integrity(), u"ok"_s);
-    // The old one is whole without the journal that it left behind.
+    // The old file is complete without the journal that it left behind.
     if (!moved.isEmpty())
         QCOMPARE(textsIn(m_fixture->folder.filePath(moved)), QStringList{u"a"_s});
 }
 
-/// Nothing has changed since the file went.
+/// Nothing has changed since the file disappeared.
 void TestLostStore::isWrittenAnewByClosing()
 {
     QVERIFY(QFile::remove(m_fixture->path()));
@@ -189,7 +189,7 @@ void TestLostStore::foreignFileIsLeftAlone()
     QVERIFY(m_fixture->store->save());
     m_fixture->close();
     QCOMPARE(contentsOf(m_fixture->path()), bytes);
-    // Neither store has lost anything, and the next start says that there are two.
+    // Neither store has lost anything, and the next start reports that there are two.
     QString next;
     if (isStore) {
         QCOMPARE(textsIn(m_fixture->path(), &next), QStringList{u"foreign"_s});
@@ -200,7 +200,7 @@ void TestLostStore::foreignFileIsLeftAlone()
         QCOMPARE(textsIn(m_fixture->folder.filePath(u"kept"_s)), QStringList{u"a"_s});
 }
 
-/// A store on the disk below would be hidden once the disk is back.
+/// A store on the disk below would be hidden once the other disk is mounted again.
 void TestLostStore::unmountedDiskIsWaitedFor()
 {
     if (!isMountingAllowed)
@@ -251,7 +251,7 @@ void TestLostStore::fullDiskGetsNoHalfStore()
     QVERIFY(!m_fixture->store->save());
     QVERIFY2(m_fixture->store->problem().contains(u"full"_s), qPrintable(m_fixture->store->problem()));
     QCOMPARE(QDir(folderOf(*m_fixture)).entryList(QDir::Files), files);
-    // All of it is offered at the end, for no file has it.
+    // All of it is offered at exit, because it is in no file.
     QCOMPARE(m_fixture->store->unwrittenTexts().size(), 2);
     QVERIFY(filler.remove());
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"deleted"_s));

@@ -123,7 +123,7 @@ void TestMarkup::toggledItem_data()
     QTest::newRow("huge line number") << groceries << kHuge << groceries;
     QTest::newRow("most negative line number") << groceries << -kHuge - 1 << groceries;
     QTest::newRow("empty text") << u""_s << qsizetype{0} << u""_s;
-    // Unlike where items are listed.
+    // Unlike in the list of items.
     QTest::newRow("another space is no indentation") << u"\u00A0☐ a"_s << qsizetype{0} << u"\u00A0☐ a"_s;
     QTest::newRow("box with nothing after it") << u"☐ "_s << qsizetype{0} << u"☑ "_s;
     QTest::newRow("space of the box in the next line") << u"☐\n x"_s << qsizetype{0} << u"☐\n x"_s;

@@ -18,7 +18,7 @@ bool isMountingAllowed = false;
 enum class Writer {
     Closed,
     Running,
-    /// Ended without moving its journal into the file, whose index is gone as after a restart of the machine.
+    /// Ended without moving its journal into the file; the journal's index is gone, as after a reboot.
     Crashed,
 };
 
@@ -39,7 +39,7 @@ QStringList textsOf(const NotesReading &reading)
 
 } // namespace
 
-/// Notes are read beside whoever writes them, and where nothing can be written.
+/// Reads notes alongside a writer, and where nothing can be written.
 class TestNotesReader : public QObject
 {
     Q_OBJECT
@@ -105,7 +105,7 @@ void TestNotesReader::readsWhereNothingCanBeWritten()
     const NotesReading reading = readNotes(fixture.path());
     QVERIFY2(reading.error.isEmpty(), qPrintable(reading.error.text));
     QCOMPARE(textsOf(reading), (QStringList{u"a"_s, u"b"_s}));
-    // An attempt that meets a full disk leaves empty companions, as SQLite does.
+    // Like SQLite, an attempt on a full disk leaves empty companion files.
     if (disk != Disk::Full)
         QCOMPARE(folder.entryList(QDir::Files), files);
 }

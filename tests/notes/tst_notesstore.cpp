@@ -33,7 +33,7 @@ private Q_SLOTS:
     void oneRecordThatIsRefusedHoldsBackNoOther();
 
 private:
-    /// Makes every insertion of a note with this text fail, for a reason that lies in the file.
+    /// Makes every insertion of a note with this text fail, because of something in the file.
     void makeFail(const QString &text);
     void letSucceed();
 
@@ -49,7 +49,7 @@ void TestNotesStore::init()
 void TestNotesStore::cleanup()
 {
     m_fixture->close();
-    // Whoever still sleeps goes on and finds that there is nothing to do.
+    // Let sleeping coroutines notice that there is nothing to do.
     m_fixture->clock.advance(1h);
     QCOMPARE(m_fixture->clock.sleeperCount(), 0);
     QCOMPARE(m_fixture->integrity(), u"ok"_s);
@@ -102,7 +102,7 @@ void TestNotesStore::keepsEveryText()
     QVERIFY(m_fixture->open());
     const Note *found = m_fixture->store->findNote(note);
     QVERIFY(found);
-    // Not QCOMPARE, which would print five megabytes.
+    // QCOMPARE would print five megabytes.
     QVERIFY(found->text() == stored);
     QVERIFY(found->sourceApp() == stored && found->sourceBundleID() == stored);
     QVERIFY(found->sourceTitle() == stored && found->sourceURL() == stored);
@@ -131,12 +131,12 @@ void TestNotesStore::keepsEveryField()
     QCOMPARE(second->text(), u"edited"_s);
     QVERIFY(second->isPinned());
     QVERIFY(second->createdAt() == Date{-1us} && second->updatedAt() == Date{1'700'000'000'123'456us});
-    // An empty title is not an absent one.
+    // An empty title is not the same as none.
     QVERIFY(second->sourceTitle() == QString() && !second->sourceBundleID());
     QVERIFY(second->sourceApp() == u"Firefox"_s && second->sourceURL() == u"about:blank"_s);
 }
 
-/// A row that is there already is written by another statement than a new one.
+/// An existing row is written by a different statement than a new one.
 void TestNotesStore::keepsEveryFieldOfAChange()
 {
     Note &note = m_fixture->addNote(u"☐ a"_s);
@@ -174,7 +174,7 @@ void TestNotesStore::writesWhatIsPendingAndNothingElse()
     QVERIFY(m_fixture->store->save());
     QCOMPARE(m_fixture->rows(), QStringList{u"a"_s});
 
-    // What is not pending is not written: a row changed from outside stays as it is.
+    // Only pending changes are written: a row changed from outside stays as it is.
     m_fixture->outsider(SQLite::OPEN_READWRITE).exec("UPDATE Note SET text = 'outside'");
     QVERIFY(!m_fixture->store->hasPendingChanges());
     QVERIFY(m_fixture->store->save());
@@ -184,7 +184,7 @@ void TestNotesStore::writesWhatIsPendingAndNothingElse()
     QVERIFY(m_fixture->store->save());
     QCOMPARE(m_fixture->rows(), QStringList{u"outside"_s});
 
-    // A note that comes and goes between two saves leaves nothing to do.
+    // A note that is added and removed between two saves leaves nothing to do.
     m_fixture->store->remove(m_fixture->addNote(u"b"_s));
     QVERIFY(!m_fixture->store->hasPendingChanges());
 
@@ -237,7 +237,7 @@ void TestNotesStore::agreesWithTheFileAfterRandomChanges()
     for (int round = 0; round < 60; ++round) {
         LiveQuery<Note> &notes = m_fixture->store->notes();
         for (int step = 0; step < 20; ++step) {
-            // Many are of the same moment.
+            // Many have the same time.
             m_fixture->clock.advance(std::chrono::milliseconds(below(2)));
             const qsizetype choice = notes.isEmpty() ? 0 : below(4);
             if (choice < 2)
@@ -287,7 +287,7 @@ void TestNotesStore::tellsOfARemovalBeforeTheRecordIsGone()
     bool wasHeard = false;
     connect(&m_fixture->store->notes(), &LiveQueryBase::removed, this, [&](qsizetype, const RecordId &id) {
         wasHeard = note.id() == id && note.text() == u"a"_s && !m_fixture->store->findNote(id);
-        // A listener that still writes into it must not bring it back.
+        // A listener that still writes to it must not bring it back.
         note.setText(u"b"_s);
     });
     m_fixture->store->remove(note);
@@ -326,7 +326,7 @@ void TestNotesStore::saveFromElsewhereEndsTheRetries()
     QCOMPARE(m_fixture->clock.sleeperCount(), 1);
     note.setText(u"b"_s);
     QVERIFY(m_fixture->store->save());
-    // A failure after that starts with the short delay again, and the old wait ends when it is over.
+    // A failure after that starts with the short delay again, and the old wait ends without effect.
     m_fixture->addNote(u"a"_s);
     QVERIFY(!m_fixture->store->save());
     QCOMPARE(m_fixture->clock.sleeperCount(), 2);
@@ -370,12 +370,12 @@ void TestNotesStore::oneRecordThatIsRefusedHoldsBackNoOther()
     QCOMPARE(m_fixture->rows(), (QStringList{u"a"_s, u"b"_s}));
     QCOMPARE(store.unwrittenTexts(), QStringList{u"refused"_s});
     QVERIFY2(store.problem().contains(u"(refused)"_s), qPrintable(store.problem()));
-    // What comes after it is saved, and is said to be.
+    // Later changes are saved and confirmed.
     m_fixture->addNote(u"c"_s);
     QVERIFY(store.save());
     QCOMPARE(m_fixture->rows(), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
     QVERIFY(store.hasPendingChanges() && !store.problem().isEmpty());
-    // It is tried again by itself, and the same text entered again is told again.
+    // The store retries, and the same text entered again is reported again.
     m_fixture->clock.advance(5s);
     store.findNote(refused.id())->setText(u"refused"_s);
     QVERIFY(!store.save());

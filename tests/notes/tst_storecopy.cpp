@@ -39,12 +39,12 @@ private Q_SLOTS:
     void itsCommandCanFailAtAnyStep();
 
 private:
-    /// The texts of the newest note in each generation, the newest first.
+    /// The text of the newest note in each generation, newest generation first.
     [[nodiscard]] QStringList generations() const;
     /// Leaves only this many notes in the store.
     void shrinkTo(qsizetype count);
 
-    /// Gives the file this age, and returns whether it could.
+    /// Makes the file this old; returns whether that succeeded.
     [[nodiscard]] static bool setAge(const QString &path, std::chrono::seconds age);
 
     std::unique_ptr<StoreFixture> m_fixture;
@@ -73,7 +73,7 @@ QStringList TestStoreCopy::generations() const
 {
     QStringList texts;
     const QDir folder = QFileInfo(m_copy->path()).dir();
-    // As users see them.
+    // The names as users see them.
     for (const QString &name : folder.entryList({u"Notes.copy*"_s}, QDir::Files, QDir::Name)) {
         SQLite::Database copy(folder.filePath(name).toStdString());
         texts.append(QString::fromStdString(
@@ -104,7 +104,7 @@ void TestStoreCopy::holdsWhatIsSavedWhileTheStoreIsOpen()
     QVERIFY2(opened.store, qPrintable(opened.error));
     QCOMPARE(opened.store->notes().count(), saved.size() - 1);
     opened.store.reset();
-    // And it is replaced by the next.
+    // The next copy replaces it.
     QCOMPARE(m_copy->make(), StoreCopy::Outcome::Made);
 }
 
@@ -156,7 +156,7 @@ void TestStoreCopy::staysAsItIs()
     } else if (kind == u"gone"_s) {
         QVERIFY(QFile::remove(m_fixture->path()));
     } else {
-        // A file that may not grow answers as a full disk does.
+        // A file size limit acts like a full disk.
         ::signal(SIGXFSZ, SIG_IGN);
         const rlimit small{.rlim_cur = rlim_t(good.size() / 2), .rlim_max = limit.rlim_max};
         QCOMPARE(::setrlimit(RLIMIT_FSIZE, &small), 0);
@@ -178,7 +178,7 @@ void TestStoreCopy::leavesTheLastSpaceToTheNotes()
     QCOMPARE(makeWith(size + kLeft - 1), StoreCopy::Outcome::DiskTooFull);
     QVERIFY(!m_copy->madeAt());
     QCOMPARE(makeWith(size + kLeft), StoreCopy::Outcome::Made);
-    // A file system that does not say how much is left is tried.
+    // If the file system does not report its free space, the copy is tried.
     QCOMPARE(makeWith(std::nullopt), StoreCopy::Outcome::Made);
 }
 
@@ -191,7 +191,7 @@ void TestStoreCopy::keepsThreeGenerations()
     }
     QCOMPARE(generations(), (QStringList{u"5th"_s, u"4th"_s, u"3rd"_s}));
 
-    // As a crash between two renames leaves them: the next is offered, and nothing is lost over it.
+    // As after a crash between two renames: the next copy is offered, and nothing is lost.
     QVERIFY(QFile::remove(m_copy->path()));
     QVERIFY(m_copy->madeAt());
     const StoreAdvice advice = StoreAdvice::on(m_fixture->path(), StoreFault::Damaged, Date{});
@@ -199,7 +199,7 @@ void TestStoreCopy::keepsThreeGenerations()
     QCOMPARE(m_copy->make(), StoreCopy::Outcome::Made);
     QCOMPARE(generations(), (QStringList{u"5th"_s, u"4th"_s, u"3rd"_s}));
 
-    // One that is damaged is not offered, and is not kept for the number of its notes.
+    // A damaged copy is not offered, and not kept for the number of its notes.
     QVERIFY(writeFile(m_copy->path(), "damage"));
     QVERIFY(StoreAdvice::on(m_fixture->path(), StoreFault::Damaged, Date{})
                 .command.contains(u"'Notes.copy.1'"_s));
@@ -218,7 +218,7 @@ void TestStoreCopy::isNotReplacedByAStoreThatHasFarFewer()
         QVERIFY(m_fixture->store->save());
         QCOMPARE(m_copy->make(), StoreCopy::Outcome::Made);
     }
-    // The small store has its three, and those with many more notes stay.
+    // The small store has its three copies, and those with many more notes stay.
     QCOMPARE(generations(), (QStringList{u"d"_s, u"c"_s, u"b"_s, u"3rd"_s, u"2nd"_s, u"1st"_s}));
 }
 
@@ -252,7 +252,7 @@ void TestStoreCopy::isDueOnceADayWhenItIsQuiet()
     QVERIFY(m_copy->isDue(now + 11min));
     QCOMPARE(m_copy->make(), StoreCopy::Outcome::Made);
     QFile::remove(m_fixture->journalPath());
-    // Nothing has been written since, whatever the age of the copy.
+    // Nothing has been written since, however old the copy is.
     QVERIFY(!m_copy->isDue(now + 48h));
     QVERIFY(setAge(m_copy->path(), 23h));
     QVERIFY(setAge(m_fixture->path(), 1h));
@@ -261,18 +261,18 @@ void TestStoreCopy::isDueOnceADayWhenItIsQuiet()
     QVERIFY(m_copy->isDue(now));
     QVERIFY(setAge(m_fixture->path(), 5min));
     QVERIFY(!m_copy->isDue(now));
-    // Dates of a clock that went wrong.
+    // Dates from a clock that was wrong.
     QVERIFY(setAge(m_fixture->path(), -48h));
     QVERIFY(setAge(m_copy->path(), -72h));
     QVERIFY(m_copy->isDue(now));
-    // What is not there is not copied.
+    // A missing store is not copied.
     QVERIFY(QFile::remove(m_fixture->path()));
     QVERIFY(!m_copy->isDue(now));
 }
 
 void TestStoreCopy::comesIntoPlaceByItsCommand()
 {
-    // A folder whose name a shell would take for something else.
+    // A folder whose name contains shell syntax.
     const QString folder = m_fixture->folder.filePath(u"it's $HOME `x`"_s);
     const QString path = folder + u"/Notes.store"_s;
     const auto add = [&](const QString &text) {
@@ -291,12 +291,12 @@ void TestStoreCopy::comesIntoPlaceByItsCommand()
         const QString command = StoreAdvice::on(path, refused.fault, m_fixture->clock.now()).command;
         QCOMPARE(QProcess::execute(u"sh"_s, {u"-c"_s, command}), 0);
         add(u"written since"_s);
-        // Pasted a second time by mistake, it leaves alone what has been written since.
+        // Pasted again by mistake, it does not touch what has been written since.
         QCOMPARE(QProcess::execute(u"sh"_s, {u"-c"_s, command}), 0);
         const auto opened = NotesStore::open(path, m_fixture->clock);
         QVERIFY2(opened.store, qPrintable(opened.error));
         QCOMPARE(opened.store->notes().count(), 2);
-        // What was damaged is still there, each time.
+        // Each damaged store is still there.
         const QFileInfoList damaged =
             QDir(folder + u"/damaged"_s).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot);
         QCOMPARE(damaged.size(), round);
@@ -305,13 +305,13 @@ void TestStoreCopy::comesIntoPlaceByItsCommand()
     }
 }
 
-/// Each of the programs that the command runs is made to fail in turn, in its first, second, … call.
+/// Each program that the command runs is made to fail in turn, in its first, second, … call.
 void TestStoreCopy::itsCommandCanFailAtAnyStep()
 {
     const QString path = m_fixture->path();
     QCOMPARE(m_copy->make(), StoreCopy::Outcome::Made);
     m_fixture->close();
-    // Stands before the real programs: counts its calls, and fails in one of them, half done.
+    // Replaces the real programs: counts calls, and fails halfway through one of them.
     const QString bin = m_fixture->folder.filePath(u"bin"_s);
     for (const QString &program : {u"cp"_s, u"mv"_s, u"mkdir"_s, u"sync"_s}) {
         const QString script = u"#!/bin/sh\n"
@@ -343,13 +343,13 @@ void TestStoreCopy::itsCommandCanFailAtAnyStep()
         shell.start(u"sh"_s, {u"-c"_s, command});
         QVERIFY(shell.waitForFinished());
         isDone = shell.exitCode() == 0;
-        // Never a file that is only half there, nor one that would be begun anew.
+        // Never an incomplete file, nor one that would count as a new store.
         const QByteArray there = contentsOf(path);
         QVERIFY(there == damage || there == contentsOf(m_copy->path()) || !QFile::exists(path));
         const StoreFault fault = NotesStore::open(path, m_fixture->clock).fault;
         QVERIFY(there == contentsOf(m_copy->path()) || fault == StoreFault::Damaged
                 || fault == StoreFault::Missing);
-        // And the same command again does the rest.
+        // Running the same command again completes it.
         QCOMPARE(QProcess::execute(u"sh"_s, {u"-c"_s, command}), 0);
         const auto opened = NotesStore::open(path, m_fixture->clock);
         QVERIFY2(opened.store, qPrintable(opened.error));

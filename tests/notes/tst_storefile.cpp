@@ -23,11 +23,11 @@ namespace {
 
 constexpr auto kHoldLock = "--hold-lock";
 constexpr qint64 kPageSize = 4096;
-/// A user without rights.
+/// A user without permissions.
 constexpr uid_t kNobody = 65534;
 
-/// What this program does as the other program that has a database open: locks it until its input
-/// ends. Not in the test's own process, because closing a file there gives up that process's locks.
+/// What this program does when it is run as another program that has a database open: locks it until its
+/// input ends. A separate process, because closing a file in the test would release the test's own locks.
 int holdLock(const char *path, const char *statement)
 {
     SQLite::Database connection(path, SQLite::OPEN_READWRITE);
@@ -61,10 +61,10 @@ void overwritePage(const StoreFixture &fixture, qint64 page)
     QCOMPARE(file.write(QByteArray(kPageSize, 'x')), kPageSize);
 }
 
-/// Leaves the store as a program does that has made `change` and then crashed.
+/// Leaves the store like a program that made `change` and then crashed.
 void copyCrashed(const QString &path, const std::function<void(SQLite::Database &)> &change)
 {
-    // The files as they are while they are open are what a crash leaves.
+    // The files while they are open are what a crash leaves.
     const QString other = path + u".open"_s;
     QVERIFY(QFile::rename(path, other));
     SQLite::Database connection(other.toStdString(), SQLite::OPEN_READWRITE);
@@ -101,7 +101,7 @@ private Q_SLOTS:
     void refusesAPathThatCannotBeMade();
 
 private:
-    /// A closed store with a few notes in it.
+    /// A closed store with a few notes.
     void makeStore();
 
     std::unique_ptr<StoreFixture> m_fixture;
@@ -147,7 +147,7 @@ void TestStoreFile::isForItsUserOnly()
     QCOMPARE(modeOf(QFileInfo(m_fixture->path()).path()), mode_t{0700});
     verifyModes();
 
-    // One that came from elsewhere, such as a backup.
+    // A file from elsewhere, such as a backup.
     m_fixture->close();
     QCOMPARE(::chmod(m_fixture->nativePath().c_str(), 0644), 0);
     QVERIFY(m_fixture->open());
@@ -198,7 +198,7 @@ void TestStoreFile::refuses_data()
     QTest::addColumn<Preparation>("prepare");
     QTest::addColumn<QString>("reason");
 
-    // Only damage is answered with advice to give the file up.
+    // Only for damage does Vesk advise giving the file up.
     const auto row = [](const char *name, const QString &reason, Preparation prepare) {
         QTest::newRow(name) << prepare << reason;
     };
@@ -247,7 +247,7 @@ void TestStoreFile::refuses_data()
             fixture.outsider()
                 .execAndGet("SELECT rootpage FROM sqlite_schema WHERE name = 'sqlite_autoindex_Note_1'")
                 .getString();
-        // A note that comes in while SQLite does not know of the index.
+        // A note that is added while SQLite does not know about the index.
         execute(fixture, "PRAGMA writable_schema = ON;"
                          "UPDATE sqlite_schema SET sql = replace(sql, 'PRIMARY KEY', '') WHERE name = 'Note';"
                          "DELETE FROM sqlite_schema WHERE name = 'sqlite_autoindex_Note_1'");
@@ -357,7 +357,7 @@ void TestStoreFile::isNotBegunAnewBesideACopy()
     QCOMPARE(m_fixture->store->notes().count(), 100);
     m_fixture->close();
 
-    // To begin anew on purpose, the copies are moved away. What only looks like one is not a copy.
+    // To start over on purpose, move the copies away. A similarly named file is not a copy.
     QVERIFY(QFile::remove(m_fixture->path()));
     QVERIFY(QFile::rename(copyPath, copyPath + u".old"_s));
     QVERIFY(writeFile(copyPath, {}));
@@ -370,7 +370,7 @@ void TestStoreFile::refusesWhatItMayNotWrite()
     makeStore();
     QCOMPARE(::chmod(m_fixture->nativePath().c_str(), 0400), 0);
     const std::optional<QByteArray> file = bytesOf(m_fixture->path());
-    // Rights do not bind root, so then the opening is tried as somebody whom they do.
+    // Permissions do not bind root, so try to open the store as another user then.
     const bool isRoot = ::geteuid() == 0;
     if (isRoot) {
         const QString folder = QFileInfo(m_fixture->path()).path();
@@ -395,7 +395,7 @@ void TestStoreFile::refusesWhatItMayNotWrite()
     QVERIFY(!m_fixture->open());
     QVERIFY2(m_fixture->error.contains(u"cannot be read"_s), qPrintable(m_fixture->error));
 
-    // The file alone does not do: the journal has to be made beside it.
+    // A writable file is not enough: the journal must be created beside it.
     QCOMPARE(::chmod(m_fixture->nativePath().c_str(), 0600), 0);
     const QByteArray folder = QFile::encodeName(QFileInfo(m_fixture->path()).path());
     QCOMPARE(::chmod(folder.constData(), 0500), 0);

@@ -17,7 +17,7 @@ using namespace vesk;
 
 namespace {
 
-/// The real disk without memory that processes share, as a network's or a simple file system is.
+/// The real disk without shared memory, like a network or simple file system.
 struct DiskWithoutSharedMemory
 {
     DiskWithoutSharedMemory()
@@ -29,7 +29,7 @@ struct DiskWithoutSharedMemory
             sqlite3_vfs *next = sqlite3_vfs_find("unix");
             const int result = next->xOpen(next, name, file, flags, outFlags);
             if (result == SQLITE_OK && file->pMethods) {
-                // A journal has other methods than a database.
+                // A journal has different methods than a database.
                 static std::map<const sqlite3_io_methods *, sqlite3_io_methods> all;
                 sqlite3_io_methods &methods = all.try_emplace(file->pMethods, *file->pMethods).first->second;
                 methods.xShmMap = [](sqlite3_file *, int, int, int, void volatile **) {
@@ -54,8 +54,8 @@ struct DiskWithoutSharedMemory
 
 } // namespace
 
-/// How changes come into the file where not everything works that a local disk has, and what is made of
-/// SQLite's errors.
+/// How changes reach the file if something that a local disk offers does not work, and how SQLite's errors
+/// are interpreted.
 class TestStoreJournal : public QObject
 {
     Q_OBJECT
@@ -82,7 +82,7 @@ void TestStoreJournal::worksWithoutSharedMemory()
         fixture.addNote(u"written without"_s);
         QVERIFY2(fixture.store->save(), qPrintable(fixture.store->problem()));
         QVERIFY(!QFile::exists(fixture.journalPath()));
-        // Others can read beside it.
+        // Others can read alongside it.
         QCOMPARE(fixture.rows().size(), 2);
         fixture.addNote(u"written after that"_s);
         QVERIFY2(fixture.store->save(), qPrintable(fixture.store->problem()));
@@ -132,7 +132,7 @@ void TestStoreJournal::namesTheTrouble()
     QFETCH(Kind, kind);
     const QTemporaryDir folder;
     QCOMPARE(StoreTrouble::of(code, message, systemError, folder.path()).kind, kind);
-    // What the check of a store reports of a page that it could not read is not damage.
+    // A page that the integrity check could not read does not count as damage.
     if (code == SQLITE_IOERR_READ) {
         for (const QString &report : {u"Tree 2 page 3: unable to get the page. error code=%1"_s.arg(code),
                                       u"On tree page 4 cell 0: failed to get page 14"_s})

@@ -16,7 +16,7 @@ namespace {
 
 constexpr auto kHold = "--hold";
 
-/// This program as the other one that has the store open, until its input ends.
+/// Runs this program as another one that has the store open, until its input ends.
 int hold(const char *path, bool isSession)
 {
     MemoryClock clock;
@@ -31,7 +31,7 @@ int hold(const char *path, bool isSession)
 
 } // namespace
 
-/// One process at a time has the store, whatever bus or machine it runs on.
+/// Only one process at a time has the store, whatever bus or machine it runs on.
 class TestStoreLock : public QObject
 {
     Q_OBJECT
@@ -70,14 +70,14 @@ void TestStoreLock::refusesASecondSession()
                  && m_fixture->error.contains(
                      u"process %1 on %2"_s.arg(m_holder.processId()).arg(QSysInfo::machineHostName())),
              qPrintable(m_fixture->error));
-    // The other has made its own files, and this one none.
+    // The other process has created its own files, and this one none.
     QCOMPARE(folder.entryList(QDir::Files), files);
     QCOMPARE(contentsOf(m_fixture->path()), before);
 
     m_holder.closeWriteChannel();
     QVERIFY(m_holder.waitForFinished());
     QVERIFY2(m_fixture->open(), qPrintable(m_fixture->error));
-    // Nor does the same process open it twice.
+    // The same process cannot open it twice either.
     QCOMPARE(NotesStore::open(m_fixture->path(), m_fixture->clock).fault, StoreFault::HeldElsewhere);
 }
 
@@ -85,14 +85,14 @@ void TestStoreLock::waitsForACommandAndNotForASession()
 {
     constexpr auto kLong = 10min;
     startHolder(false);
-    // Ends while this process waits.
+    // Ends while this process is waiting.
     m_holder.closeWriteChannel();
     const auto opened =
         NotesStore::open(m_fixture->path(), m_fixture->clock, NotesStore::Use::Command, kLong);
     QVERIFY2(opened.store, qPrintable(opened.error));
     QVERIFY(m_holder.waitForFinished());
 
-    // This one would be waited for until the test is ended by force.
+    // Waiting for this one would last until the test is killed.
     const auto second =
         NotesStore::open(m_fixture->path() + u".other"_s, m_fixture->clock, NotesStore::Use::Session);
     QVERIFY(second.store);

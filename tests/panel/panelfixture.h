@@ -11,10 +11,10 @@
 
 namespace vesk {
 
-/// The real panel over the platform in memory and an empty store.
+/// The real panel over the in-memory platform and an empty store.
 struct PanelFixture : MemoryDesktop
 {
-    /// A note of the present moment; the clock then goes on by a second, so that the next is newer.
+    /// Adds a note with the current time, then advances the clock by a second so that the next one is newer.
     Note &addNote(const QString &text, const std::optional<CaptureSource> &source = std::nullopt)
     {
         Note &note = store->insert(std::make_unique<Note>(clock, text, source));

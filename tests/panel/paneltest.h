@@ -10,7 +10,7 @@
 
 namespace vesk {
 
-/// A test in the panel's real window, which each function has anew.
+/// A test in the panel's real window, which is new for each function.
 class PanelTest : public QObject
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ protected:
     {
         return item.mapToScene(item.boundingRect().center()).toPoint();
     }
-    /// All items of a QML type that are shown, in order of their place.
+    /// All visible items of a QML type, ordered by position.
     [[nodiscard]] QList<QQuickItem *> shown(const QByteArray &type) const
     {
         QList<QQuickItem *> found =
@@ -52,7 +52,7 @@ protected:
         return found;
     }
 
-    /// The one button with this name; null if it is not shown.
+    /// The only button with this name; null if it is not shown.
     [[nodiscard]] QQuickItem *button(const QString &name) const
     {
         for (const char *type : {"SymbolButton", "CopyButton", "TabButton", "PanelMenuButton", "PressButton",

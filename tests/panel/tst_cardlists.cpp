@@ -21,7 +21,7 @@ using namespace vesk;
 using Role = NoteListModel::Role;
 using Scope = NoteListModel::Scope;
 
-/// The rows of the notes and of the prompts, whatever happens to them.
+/// The rows of the lists of notes and prompts, whatever happens to the records.
 class CardListsTest : public QObject
 {
     Q_OBJECT
@@ -59,7 +59,7 @@ private:
     std::unique_ptr<PromptListModel> m_prompts;
     QString m_query;
     Scope m_scope = Scope::AllNotes;
-    /// The dates of all notes when one was opened.
+    /// The dates of all notes at the time when one was opened.
     std::optional<QHash<QString, Date>> m_frozen;
 };
 
@@ -123,7 +123,7 @@ QString CardListsTest::shownPrompts() const
     return rows.join(u", "_s);
 }
 
-/// The same from nothing but the store.
+/// The same, computed only from the store.
 QStringList CardListsTest::recomputed() const
 {
     const QDate today = QDateTime::fromMSecsSinceEpoch(m_clock->now().time_since_epoch() / 1ms).date();
@@ -196,7 +196,7 @@ void CardListsTest::changeAnything(QRandomGenerator &random)
         break;
     case 9:
         m_clock->advance(random.bounded(10) == 0 ? 20h : 10min);
-        // The day is read anew when the panel comes up.
+        // The current day is updated when the panel is shown.
         m_list->setShown(false);
         m_list->setShown(true);
         break;
@@ -205,7 +205,7 @@ void CardListsTest::changeAnything(QRandomGenerator &random)
         m_list->setScope(m_scope);
         break;
     case 11:
-        // An identity of no note freezes the order as well, and keeps no note in the list.
+        // The identity of a missing note freezes the order as well, and keeps no note in the list.
         if (m_frozen) {
             m_frozen.reset();
             m_list->setOpenNote(std::nullopt);
@@ -276,7 +276,7 @@ void CardListsTest::largeSearchIsNoReset()
     m_query = u"coffee"_s;
     m_list->setQuery(m_query);
     QCOMPARE(shown(), recomputed());
-    // A view keeps its cards, which are those of other notes now.
+    // A view keeps its cards, which now show other notes.
     QCOMPARE(removed.size(), 1);
     addNote(u"tea"_s);
     QVERIFY(!m_list->isSweeping());
@@ -337,7 +337,7 @@ void CardListsTest::openNoteStaysInItsPlace()
     QSignalSpy changed(m_list.get(), &QAbstractItemModel::dataChanged);
     old.setText(u"old and new"_s);
     QCOMPARE(shown(), before);
-    // Only the editor is told; what a closed card shows is not worked out with every key.
+    // Only the editor is notified; what a closed card shows is not recomputed for every key.
     QCOMPARE(changed.size(), 1);
     QVERIFY(!changed.constFirst().at(2).value<QList<int>>().contains(NoteListModel::PreviewRole));
 
@@ -373,7 +373,7 @@ void CardListsTest::dayEndsWhileShown()
     m_clock->advance(30s);
     QVERIFY(!changed.isEmpty());
     QCOMPARE(at(0, Role::SectionTitleRole).toString(), u"Today"_s);
-    // One second before the last date was, so this is midnight to the moment.
+    // The last date was one second earlier, so this is exactly midnight.
     m_clock->advance(14s);
     QCOMPARE(at(0, Role::SectionTitleRole).toString(), u"Earlier"_s);
 
@@ -401,7 +401,7 @@ void CardListsTest::timeZoneChangesWhileShown()
     m_clock->setNow(noon);
     m_list->setShown(true);
     QCOMPARE(at(0, Role::SectionTitleRole).toString(), u"Today"_s);
-    // In the zone where the user is now it was the evening before.
+    // In the user's current time zone, it was the evening before.
     moveTo("XYZ10");
     m_clock->advance(30s);
     QCOMPARE(at(0, Role::SectionTitleRole).toString(), u"Earlier"_s);
@@ -418,7 +418,7 @@ void CardListsTest::cardShowsThreeItems()
     QCOMPARE(at(1, NoteListModel::DoneRole).toInt(), 1);
     QCOMPARE(at(1, NoteListModel::TotalRole).toInt(), 5);
 
-    // The side at which each item begins in the editor, whatever stands between them.
+    // The side where each item begins in the editor, whatever is between them.
     addNote(u"\u2610 1\nשלום\n\u2610 2\nabc\n\u2610 \u2067ש\u2069 3"_s);
     QCOMPARE(at(1, NoteListModel::ItemsRightToLeftRole).value<QList<bool>>(),
              QList<bool>({false, true, false}));

@@ -9,7 +9,7 @@ using namespace vesk;
 
 using Tab = PanelModel::Tab;
 
-/// A note is opened, edited and closed in the panel's real view.
+/// Opening, editing and closing a note in the panel's real view.
 class PanelEditingTest : public PanelTest
 {
     Q_OBJECT
@@ -45,14 +45,14 @@ void PanelEditingTest::noteIsEditedInPlace()
     press(Qt::Key_End, Qt::ControlModifier);
     type(u" more"_s);
     QCOMPARE(two.text(), u"two more"_s);
-    // It has kept its place between the others.
+    // It has kept its position among the others.
     QCOMPARE(model().notes()->visibleIndex(two.id()), 1);
 
     press(Qt::Key_Return, Qt::ControlModifier);
     QTRY_VERIFY(!hasEditor());
     QCOMPARE(model().notes()->visibleIndex(two.id()), 0);
     QVERIFY(!store().hasPendingChanges());
-    // The keys are the list's again.
+    // The list has the keys again.
     press(Qt::Key_Down);
     QCOMPARE(model().selection()->selected(), store().notes().at(1).id());
 }
@@ -70,7 +70,7 @@ void PanelEditingTest::editorKeepsItsKeys()
     QCOMPARE(model().keyboard()->activeField(), Field::None);
     QCOMPARE(store().notes().first()->text(), u" "_s);
     press(Qt::Key_Escape);
-    // Left blank, the note is gone.
+    // A note left blank is removed.
     QTRY_VERIFY(!hasEditor());
     QCOMPARE(store().notes().count(), 2);
     QVERIFY(!model().selection()->selected() && !store().hasPendingChanges());
@@ -94,7 +94,7 @@ void PanelEditingTest::closingEditorTakesNoKeyboard()
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     QTRY_VERIFY(hasEditor());
-    // Sooner than the editor has come to take the keyboard by itself.
+    // Before the editor takes the focus by itself.
     model().setDraft(u"four"_s);
     model().requestField(Field::Composer);
     QVERIFY(!model().openNote()->id());
@@ -128,7 +128,7 @@ void PanelEditingTest::cardThatLeavesTheListOpensNoMore()
     QTRY_VERIFY(row->opacity() < 1);
     model().notes()->toggleSection(0);
     model().cards()->activate(id);
-    // What opens is the row that has come for it.
+    // The row that has taken its place opens.
     QTRY_VERIFY(model().editor()->textView());
     model().cards()->edit(id, u"changed"_s);
     QCOMPARE(model().editor()->textView()->text(), u"changed"_s);
@@ -146,7 +146,7 @@ void PanelEditingTest::cardOpensAgainWhileItCloses()
     activate(store().notes().at(1));
     model().requestField(Field::Composer);
     activate(first);
-    // The keys are its own again, and so are the commands.
+    // It has the keys again, and so do the commands.
     const QString before = first.text();
     type(u"x"_s);
     QCOMPARE(first.text(), before + u'x');
@@ -158,7 +158,7 @@ void PanelEditingTest::clickBesideTheCardsCloses()
 {
     click(*shown("NoteCard").constFirst());
     QTRY_VERIFY(hasEditor());
-    // A click in the open card is the editor's.
+    // The editor gets a click in the open card.
     click(*shown("NoteForm").constFirst());
     QVERIFY(model().openNote()->id());
     QTest::mouseClick(&window(), Qt::LeftButton, {}, QPoint(220, window().height() - 120));
@@ -184,7 +184,7 @@ void PanelEditingTest::openingMovesNothingElse()
 
 void PanelEditingTest::cardClosesBeforeItsRowMoves()
 {
-    // A view that takes an editor down in the midst of a move may end the program.
+    // A view that destroys an editor in the middle of a move may crash.
     model().openNote()->open(store().notes().at(store().notes().count() - 1));
     QTRY_VERIFY(hasEditor());
     press(Qt::Key_X);

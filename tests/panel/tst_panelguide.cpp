@@ -6,7 +6,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// The guide over the panel's real view, on the first run and later.
+/// The guide above the panel's real view, on the first run and later.
 class PanelGuideTest : public PanelTest
 {
     Q_OBJECT
@@ -62,7 +62,7 @@ void PanelGuideTest::panelIsOutOfReach()
     QCOMPARE(model().openNote()->cardId(), QString());
     QCOMPARE(model().keyboard()->activeField(), Field::None);
     QCOMPARE(store().notes().count(), 1);
-    // Going away and coming back does not change who has the keyboard.
+    // Hiding and showing the panel does not move the focus.
     panel().togglePanel();
     show();
     QVERIFY(guide() && guide()->hasActiveFocus());
@@ -91,7 +91,7 @@ void PanelGuideTest::fieldComesBeforeIt()
     type(u"m"_s);
     QCOMPARE(model().draft(), u"m"_s);
     QVERIFY(!guide());
-    // It was not dismissed.
+    // It has not been dismissed.
     panel().togglePanel();
     show();
     QVERIFY(guide());

@@ -6,7 +6,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// Keys that are held, and keys that are pressed while what they act on is out of sight.
+/// Keys that are held, and keys that are pressed while their target is not visible.
 class PanelHeldKeysTest : public PanelTest
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ private Q_SLOTS:
     void heldArrowGoesOn();
 
 private:
-    /// Presses a key and keeps it down until it has repeated three times.
+    /// Presses a key and holds it until it has repeated three times.
     void hold(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString &text = {})
     {
         QTest::keyPress(&window(), key, modifiers);
@@ -35,7 +35,7 @@ private:
         }
         QTest::keyRelease(&window(), key, modifiers);
     }
-    /// Everything that the keys can do to records, as one text to compare.
+    /// Everything that keys can do to records, as a text for comparison.
     [[nodiscard]] QString state() const
     {
         const QString open = model().openNote()->cardId();
@@ -44,7 +44,7 @@ private:
             .arg(store().donePrompts().size())
             .arg(open.isEmpty() ? u"none"_s : open);
     }
-    /// The row at the top of what can be seen of the list.
+    /// The topmost visible row of the list.
     [[nodiscard]] int topRow() const
     {
         for (const QQuickItem *row : shown("NoteRow")) {
@@ -111,7 +111,7 @@ void PanelHeldKeysTest::keysLeaveUnseenCardsAlone()
     QCOMPARE(state(), before);
     QVERIFY(pastes.isEmpty());
 
-    // What was only scrolled away is brought back, and the key then does what it says.
+    // A card that was only scrolled away is brought back, and the next key then acts.
     if (hiding == u"wheel") {
         QTRY_VERIFY(topRow() < 2);
         press(key, modifiers);
@@ -126,7 +126,7 @@ void PanelHeldKeysTest::typingBringsTheOpenNoteBack()
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     QTRY_VERIFY(model().keyboard()->isEditing());
-    // The list comes to rest when the card is fully open.
+    // The list stops moving when the card is fully open.
     QTest::qWait(500);
     scrollToEnd();
     QTRY_VERIFY(topRow() > 20);
@@ -149,7 +149,7 @@ void PanelHeldKeysTest::buttonOutOfSightIsNotPressed()
         addNote(u"note %1"_s.arg(i));
     press(Qt::Key_Down);
     QTRY_VERIFY(shown("NoteCard").constFirst()->hasActiveFocus());
-    // Past the buttons that pin, copy and paste.
+    // Past the pin, copy and paste buttons.
     for (int i = 0; i < 4; ++i)
         press(Qt::Key_Tab);
     QVERIFY(window().activeFocusItem()->property("name").toString().startsWith(u"Delete"));
@@ -204,16 +204,16 @@ void PanelHeldKeysTest::heldReturnOpensANoteAndTypesNothing()
     QVERIFY(model().openNote()->id());
     QCOMPARE(store().notes().first()->text(), u"three"_s);
     QTRY_VERIFY(model().keyboard()->isEditing());
-    // From the text it closes the note, and pastes nothing.
+    // Pressed in the text, it closes the note and pastes nothing.
     QSignalSpy pastes(model().cards(), &CardActions::pasteRequested);
     hold(Qt::Key_Return, Qt::ControlModifier, u"\r"_s);
     QVERIFY(!model().openNote()->id() && pastes.isEmpty());
-    // The same from a search, whose field gives the keyboard to the text.
+    // The same from a search, whose field passes the focus to the text.
     press(Qt::Key_F, Qt::ControlModifier);
     type(u"tw"_s);
     hold(Qt::Key_Return, Qt::NoModifier, u"\r"_s);
     QCOMPARE(store().notes().at(1).text(), u"two"_s);
-    // Pressed once more it is the text's, and goes on as in any text.
+    // Pressed again, it belongs to the text, and repeats as in any text.
     hold(Qt::Key_Return, Qt::NoModifier, u"\r"_s);
     QCOMPARE(store().findNote(*model().openNote()->id())->text(), u"two\n\n\n\n"_s);
 }
@@ -225,7 +225,7 @@ void PanelHeldKeysTest::heldReturnTicksAPromptOnce()
     press(Qt::Key_Down);
     hold(Qt::Key_Return);
     QVERIFY(prompt.isDone());
-    // By its box as well.
+    // With its checkbox, too.
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
         const bool wasDone = prompt.isDone();
         QTRY_VERIFY(!shown("CheckCircle").isEmpty());

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
-/// Presses real keys on the panel's real window.
+/// Real keys in the panel's real window.
 class PanelKeysTest : public PanelTest
 {
     Q_OBJECT
@@ -54,7 +54,7 @@ void PanelKeysTest::arrowsStopAtTheEnds()
     press(Qt::Key_Up, Qt::ShiftModifier);
     QCOMPARE(focusedText(), u"one"_s);
 
-    // A search takes the selected card away: Up begins at the end again.
+    // A search hides the selected card: Up starts from the end again.
     model().setSearch(u"t"_s);
     press(Qt::Key_Up);
     QCOMPARE(focusedText(), u"two"_s);
@@ -186,13 +186,13 @@ void PanelKeysTest::controlTabGoesRoundTheTabs()
         QVERIFY(!model().openNote()->id());
         QTRY_VERIFY(!model().keyboard()->isEditing());
     }
-    // The keys are those of the list that is shown, as they were.
+    // The keys act on the visible list, as before.
     press(Qt::Key_Tab, Qt::ControlModifier);
     press(Qt::Key_Down);
     QVERIFY(!focusedText().isEmpty());
 }
 
-/// The owner of the text takes a moment, and the user goes on at once.
+/// The text's owner takes a moment, and the user continues at once.
 void PanelKeysTest::keysAfterALatePasteComeAfterIt()
 {
     m_fixture->pasteboard.setString(u"late"_s);
@@ -237,7 +237,7 @@ void PanelKeysTest::sameFieldCanBeAskedForTwice()
 {
     model().requestField(Field::Composer);
     window().rootObject()->forceActiveFocus();
-    // The user has gone elsewhere by the mouse meanwhile.
+    // The user has moved on with the mouse meanwhile.
     model().requestField(Field::Search);
     model().requestField(Field::Composer);
     model().requestField(Field::Composer);
@@ -273,13 +273,13 @@ void PanelKeysTest::typingBeginsASearch()
     press(Qt::Key_Escape);
     press(Qt::Key_Escape);
 
-    // Into the note that was opened by the key before.
+    // Into the note that the previous key opened.
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     type(u"y!"_s);
     QCOMPARE(model().editor()->textView()->text().last(2), u"y!"_s);
 
-    // A letter beside the text of an open note must not close it.
+    // A letter typed beside the text of an open note must not close it.
     press(Qt::Key_Backtab, Qt::ShiftModifier);
     QVERIFY(!model().keyboard()->isEditing());
     type(u"x"_s);

@@ -10,7 +10,7 @@ using namespace vesk;
 
 namespace {
 
-/// Hears of each text that no translation has: it is asked last.
+/// Collects each text that no translation has: it is asked last.
 class Untranslated final : public QTranslator
 {
 public:
@@ -19,7 +19,7 @@ public:
     QString translate(const char *context, const char *source, const char * /*disambiguation*/,
                       int /*number*/) const override
     {
-        // Qt's own texts come with Qt.
+        // Qt's own texts are translated by Qt.
         if (*context != 'Q')
             m_texts.insert(QString::fromUtf8(context) + u": "_s + QString::fromUtf8(source));
         return {};
@@ -33,7 +33,7 @@ private:
 
 } // namespace
 
-/// The panel's real view in other languages than English.
+/// The panel's real view in languages other than English.
 class PanelLanguagesTest : public PanelTest
 {
     Q_OBJECT
@@ -51,7 +51,7 @@ private:
     [[nodiscard]] QByteArray cutOff() const;
     [[nodiscard]] double leftOf(const QQuickItem *item) const { return item->mapToScene({}).x(); }
 
-    // Older than the translation, so that it is asked after it.
+    // Installed before the translation, so that it is asked after it.
     std::unique_ptr<Untranslated> m_untranslated;
     std::unique_ptr<Translation> m_translation;
 };
@@ -65,7 +65,7 @@ void PanelLanguagesTest::everyTextIsTranslatedAndWhole_data()
 
 void PanelLanguagesTest::speak(const QString &language)
 {
-    // The texts of the lists are there from the start.
+    // The texts of the lists exist from the start.
     m_fixture.reset();
     m_untranslated = std::make_unique<Untranslated>();
     m_translation = std::make_unique<Translation>(QStringList(language));
@@ -82,7 +82,7 @@ void PanelLanguagesTest::cleanup()
     QLocale::setDefault(QLocale::c());
 }
 
-/// The shown texts that are not wholly between the window's sides, or end in an ellipsis.
+/// The visible texts that extend beyond the window's sides, or end in an ellipsis.
 QByteArray PanelLanguagesTest::cutOff() const
 {
     QByteArray texts;
@@ -95,7 +95,7 @@ QByteArray PanelLanguagesTest::cutOff() const
     return texts;
 }
 
-/// Brings up what the panel can show, one after the other.
+/// Shows everything that the panel can show, one after the other.
 void PanelLanguagesTest::visitAll(const std::function<void()> &look)
 {
     using Tab = PanelModel::Tab;
@@ -137,7 +137,7 @@ void PanelLanguagesTest::everyTextIsTranslatedAndWhole()
         visitAll([this] { QTRY_VERIFY2(cutOff().isEmpty(), cutOff().constData()); });
         QCOMPARE(m_untranslated->texts(), QSet<QString>());
     }
-    // Somebody has listened.
+    // Proves that missing texts are noticed.
     QCoreApplication::translate("TabBar", "No such text");
     QCOMPARE(m_untranslated->texts().size(), 1);
 }
@@ -152,7 +152,7 @@ void PanelLanguagesTest::layoutIsTurnedOver()
     std::ranges::sort(tabs, std::greater(), [this](const QQuickItem *tab) { return leftOf(tab); });
     QCOMPARE(tabs.size(), 3);
     QCOMPARE(tabs.at(0)->property("tab").toInt(), int(PanelModel::Tab::Notes));
-    // The arrow goes where it points.
+    // The arrow key moves in the direction in which it points.
     tabs.at(0)->forceActiveFocus();
     press(Qt::Key_Left);
     QVERIFY(tabs.at(1)->hasActiveFocus());
@@ -167,7 +167,7 @@ void PanelLanguagesTest::layoutIsTurnedOver()
     const QQuickItem *topic = shown("GuideRow").at(0);
     caps.removeIf([topic](const QQuickItem *cap) { return !topic->isAncestorOf(cap); });
     std::ranges::sort(caps, {}, [this](const QQuickItem *cap) { return leftOf(cap); });
-    // Keys stand in the order of pressing.
+    // Keys are shown in the order in which they are pressed.
     QCOMPARE(caps.size(), 3);
     QCOMPARE(caps.at(2)->property("glyph").toString(), u"T"_s);
 }

@@ -8,7 +8,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// The menus that a right click opens, and the keys that stand for one.
+/// The context menus, opened with a right click or a key.
 class PanelMenusTest : public PanelTest
 {
     Q_OBJECT
@@ -31,9 +31,9 @@ private:
     {
         QTest::mouseClick(&window(), Qt::RightButton, {}, middle(item));
     }
-    /// What the open menu offers; what cannot be chosen in brackets.
+    /// The entries of the open menu; disabled ones are in brackets.
     [[nodiscard]] QStringList offered() const;
-    /// Clicks on the line of the open menu that begins so.
+    /// Clicks the entry of the open menu that begins with this text.
     void choose(const QString &text);
 };
 
@@ -83,7 +83,7 @@ void PanelMenusTest::cardHasAMenu()
             [&](const QString &text) { done += u"copied "_s + text; });
     connect(model().cards(), &CardActions::pasteRequested, this,
             [&](const QString &text) { done += u"pasted "_s + text; });
-    // The click alone does nothing to the card, nor does the one beside the menu that closes it.
+    // The click alone does nothing to the card, and neither does the click beside the menu that closes it.
     rightClick(*shown("NoteCard").constFirst());
     QCOMPARE(offered(), QStringList({u"Open"_s, u"Pin"_s, u"Copy"_s,
                                      u"Paste into the App You Came From (⌘↩)"_s, u"Delete (⌘⌫)"_s}));
@@ -139,18 +139,18 @@ void PanelMenusTest::keysOpenTheMenuOfTheSelectedCard()
     press(Qt::Key_Down);
     press(Qt::Key_Down);
     QTRY_VERIFY(shown("NoteCard").at(1)->hasActiveFocus());
-    // Escape closes the menu alone, and the keys are the card's again.
+    // Escape only closes the menu, and the card has the keys again.
     press(key, modifiers);
     QCOMPARE(offered().value(0), u"Open"_s);
     press(Qt::Key_Escape);
     QVERIFY(offered().isEmpty() && panel().isShown());
     QVERIFY(shown("NoteCard").at(1)->hasActiveFocus());
-    // The first line is chosen already.
+    // The first entry is already current.
     press(key, modifiers);
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     QVERIFY(store().notes().at(1).isPinned());
-    // On their tab, the selected prompt.
+    // On the prompts tab, the selected prompt.
     const Prompt &prompt = m_fixture->addPrompt(u"why?"_s);
     model().setTab(PanelModel::Tab::Prompts);
     QTRY_COMPARE(shown("PromptCard").size(), 1);
@@ -179,7 +179,7 @@ void PanelMenusTest::openNoteHasItsMenus()
     press(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(store().notes().first()->text(), before);
     QVERIFY(model().openNote()->id());
-    // Beside the text it is the card's, which has nothing to open.
+    // Beside the text, the menu is the card's, which has nothing to open.
     const QQuickItem &card = *shown("NoteCard").constFirst();
     const QPoint below = card.mapToScene(QPointF(card.width() / 2, card.height() - 4)).toPoint();
     QTest::mouseClick(&window(), Qt::RightButton, {}, below);
@@ -231,7 +231,7 @@ void PanelMenusTest::fieldHasAMenu()
     QFETCH(Field, field);
     QFETCH(QByteArray, type);
     const auto text = [&] { return field == Field::Search ? model().search() : model().draft(); };
-    // A right click gives the field the keyboard, too.
+    // A right click also focuses the field.
     rightClick(*shown(type).constFirst());
     QCOMPARE(offered(), QStringList({u"[Cut]"_s, u"[Copy]"_s, u"Paste"_s, u"[Delete]"_s, u"[Select All]"_s}));
     m_fixture->pasteboard.setString(u"one two"_s);
@@ -241,7 +241,7 @@ void PanelMenusTest::fieldHasAMenu()
     rightClick(*shown(type).constFirst());
     QCOMPARE(offered(), QStringList({u"[Cut]"_s, u"[Copy]"_s, u"Paste"_s, u"[Delete]"_s, u"Select All"_s}));
     choose(u"Select All"_s);
-    // What is selected stays selected below the menu, by the key as well.
+    // The selection is kept while the menu is open, also when opened with the key.
     press(Qt::Key_F10, Qt::ShiftModifier);
     QCOMPARE(offered(), QStringList({u"Cut"_s, u"Copy"_s, u"Paste"_s, u"Delete"_s, u"Select All"_s}));
     press(Qt::Key_Return);

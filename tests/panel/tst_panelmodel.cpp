@@ -72,7 +72,7 @@ void PanelModelTest::typedTextIsSavedSoon()
     QVERIFY(!m_world->store->hasPendingChanges());
     const Date before = note.updatedAt();
     m_world->clock.advance(1s);
-    // What the editor reports without a change is none.
+    // A report from the editor without a change does not count as one.
     m_world->edit(note, u"xy"_s);
     QCOMPARE(note.updatedAt(), before);
 }
@@ -165,7 +165,7 @@ void PanelModelTest::returnInSearch()
     Note &note = m_world->addNote(u"tea"_s);
     Note &other = m_world->addNote(u"coffee"_s);
     m_world->model.keyboard()->setActiveField(Field::Search);
-    // A selection that the search has taken away is not opened unseen.
+    // A selected card that the search has hidden is not opened.
     m_world->model.selection()->select(other.id());
     m_world->model.setSearch(u"tea"_s);
     QVERIFY(m_world->press(Qt::Key_Return));

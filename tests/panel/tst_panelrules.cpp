@@ -14,7 +14,7 @@ using namespace vesk;
 using Ranges = QList<TextRange>;
 Q_DECLARE_METATYPE(vesk::TextRange)
 
-/// The panel's pure rules: its place, what a search finds and where, how times are said.
+/// The panel's pure rules: its position, what a search finds and where, and how times are worded.
 class PanelRulesTest : public QObject
 {
     Q_OBJECT

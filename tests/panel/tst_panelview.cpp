@@ -12,7 +12,7 @@ using namespace vesk;
 
 using Tab = PanelModel::Tab;
 
-/// Clicks and types in the panel's real view.
+/// Clicking and typing in the panel's real view.
 class PanelViewTest : public PanelTest
 {
     Q_OBJECT
@@ -77,7 +77,7 @@ void PanelViewTest::foundBoxesAreTickedAtOnce()
     model().setSearch(u"tea"_s);
     QCOMPARE(shown("CheckCircle").constFirst(), first);
     QCOMPARE(tickOf(first), 1.0);
-    // By a click it grows.
+    // A click makes it grow.
     click(*shown("ChecklistRow").constFirst());
     QVERIFY(tickOf(first) > 0);
     QTRY_COMPARE(tickOf(first), 0.0);
@@ -126,7 +126,7 @@ void PanelViewTest::tabsChooseTheList()
     click(*button(u"Prompts"_s));
     QTRY_COMPARE(shown("PromptCard").size(), 1);
     QCOMPARE(shown("NoteCard").size(), 0);
-    // The list that has come has the keyboard.
+    // The list that is now shown has the focus.
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     QVERIFY(store().prompts().first()->isDone());
@@ -141,7 +141,7 @@ void PanelViewTest::mouseDoesNotDragTheList()
     QTRY_VERIFY(shown("NoteCard").size() > 4);
     const auto top = [this] { return shown("NoteRow").constFirst()->mapToScene({}).y(); };
     const qreal before = top();
-    // From a card, and from the gap between two.
+    // On a card, and in the gap between two.
     for (const qreal y : {0.5, -0.05}) {
         const QQuickItem &card = *shown("NoteCard").at(3);
         const QPoint from = card.mapToScene(QPointF(card.width() / 2, card.height() * y)).toPoint();
@@ -151,7 +151,7 @@ void PanelViewTest::mouseDoesNotDragTheList()
         QTest::mouseRelease(&window(), Qt::LeftButton, {}, from - QPoint(0, 200));
         QCOMPARE(top(), before);
     }
-    // A finger and the wheel still move it.
+    // A finger and the wheel still scroll it.
     const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
     const QPoint from = middle(*shown("NoteCard").at(3));
     QTest::touchEvent(&window(), screen.get()).press(0, from, &window());
@@ -202,7 +202,7 @@ void PanelViewTest::longPromptIsCutOff()
     QCOMPARE(button(u"Show more"_s) != nullptr, isLong);
     if (!isLong)
         return;
-    // An ellipsis runs into no full stop and no space.
+    // An ellipsis does not follow a full stop or a space.
     const auto texts = body.children();
     const auto edit =
         std::ranges::find_if(texts, [](const QObject *each) { return each->inherits("QQuickTextEdit"); });
@@ -232,7 +232,7 @@ void PanelViewTest::menuClearsDonePrompts()
     QVERIFY(guides.isEmpty());
     click(*button(u"Menu"_s));
     QTRY_COMPARE(shown("MenuRow").size(), 10);
-    // Nothing could answer a check for updates, so the entry does nothing.
+    // Nothing can check for updates, so the entry does nothing.
     click(*shown("MenuRow").at(1));
     press(Qt::Key_Escape);
     click(*button(u"Menu"_s));
@@ -253,7 +253,7 @@ void PanelViewTest::tabKeyGoesAround()
             QTRY_VERIFY(!isPassing());
         } while (window().activeFocusItem() != stops.constFirst() && stops.size() < 40);
         QCOMPARE(model().keyboard()->activeField(), Field::Search);
-        // On its way it has come to the list, which shows that by selecting the first card.
+        // On its way it has reached the list, which shows that by selecting the first card.
         QCOMPARE(model().selection()->selected(), store().notes().first()->id());
         QVERIFY(stops.contains(shown("NoteCard").constFirst()));
         QVERIFY(stops.contains(button(u"Menu"_s)));
@@ -271,7 +271,7 @@ void PanelViewTest::buttonIsPressedByReturn()
     button(u"Notes"_s)->forceActiveFocus();
     press(Qt::Key_Space);
     QCOMPARE(model().tab(), Tab::Notes);
-    // The arrows are the list's, and take the keyboard there.
+    // The arrows belong to the list, and move the focus there.
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     QVERIFY(model().openNote()->id());
@@ -295,13 +295,13 @@ void PanelViewTest::unsavedChangesAreSaidUntilTheyAreSaved()
         return found.isEmpty() ? QString() : found.first()->property("problem").toString();
     };
     QCOMPARE(banner(), QString());
-    // Said in an open note as well. The file is out of the way when it is to be written.
+    // Also reported in an open note. The file is out of the way when it is to be written.
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     QTRY_VERIFY(hasEditor());
     const QString path = m_fixture->folder.filePath(u"Notes.store"_s);
     QVERIFY(QFile::rename(path, path + u".aside"_s));
-    // Nor can a new one be made.
+    // And a new one cannot be created.
     QVERIFY(QDir().mkpath(path + u".new/in the way"_s));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"could not be saved"_s));
     type(u"more"_s);

@@ -4,7 +4,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// The panel's window as the user meets it: where it comes up, in which state, when it goes.
+/// The panel's window as the user sees it: where it opens, in which state, and when it disappears.
 class PanelWindowTest : public PanelTest
 {
     Q_OBJECT
@@ -39,7 +39,7 @@ void PanelWindowTest::comesUpOnTheScreenUnderThePointer()
     QCOMPARE(model().search(), QString());
     QCOMPARE(m_fixture->application.activatedWindow(), &window());
 
-    // A change of the screens leaves it on its own, not on the pointer's.
+    // When the screens change, it stays on its own screen rather than moving to the pointer's.
     m_fixture->screens.setMouseLocation(QPointF(100, 100));
     m_fixture->screens.setScreens(
         {{.frame = first, .visibleFrame = first}, {.frame = second, .visibleFrame = second}});
@@ -60,7 +60,7 @@ void PanelWindowTest::toggles()
     QVERIFY(panel().isShown());
     QVERIFY(QTest::qWaitForWindowActive(&window()));
     QCOMPARE(model().keyboard()->activeField(), Field::None);
-    // What its window manager closes is only hidden.
+    // If the window manager closes it, it is only hidden.
     window().close();
     QVERIFY(m_fixture->application.isHidden());
     panel().showPanel();
@@ -92,7 +92,7 @@ void PanelWindowTest::fadesOnlyWhereThatIsWanted()
 void PanelWindowTest::anotherApplicationTakesNothingAway()
 {
     Note &note = addNote(u"tea"_s);
-    // The field that was written in has the keyboard when the panel comes back.
+    // The field that had the focus has it again when the panel returns.
     show();
     model().requestField(Field::Composer);
     type(u"half a th"_s);
@@ -103,7 +103,7 @@ void PanelWindowTest::anotherApplicationTakesNothingAway()
     type(u"ought"_s);
     QCOMPARE(model().draft(), u"half a thought"_s);
 
-    // And so has the text of the open note.
+    // And so does the text of the open note.
     model().requestField(Field::None);
     press(Qt::Key_Down);
     press(Qt::Key_Return);
@@ -115,7 +115,7 @@ void PanelWindowTest::anotherApplicationTakesNothingAway()
     QTRY_VERIFY(model().keyboard()->isEditing());
     type(u"?"_s);
     QCOMPARE(note.text(), u"tea!?"_s);
-    // Nothing is kept of a note that is left empty.
+    // A note that is left empty is not kept.
     press(Qt::Key_A, Qt::ControlModifier);
     press(Qt::Key_Backspace);
     m_fixture->application.resignActive();
@@ -134,7 +134,7 @@ void PanelWindowTest::dragEdge(int up)
     send(QEvent::MouseMove, up / 2, Qt::NoButton, Qt::LeftButton);
     send(QEvent::MouseMove, up, Qt::NoButton, Qt::LeftButton);
     send(QEvent::MouseButtonRelease, up, Qt::LeftButton, Qt::NoButton);
-    // What comes after is no drag.
+    // Later movement is not part of the drag.
     send(QEvent::MouseMove, up + 50, Qt::NoButton, Qt::NoButton);
 }
 
@@ -170,12 +170,12 @@ void PanelWindowTest::heightIsRemembered()
     show();
     dragEdge(200);
     QCOMPARE(m_fixture->windows.frame().height(), 820.0);
-    // A smaller screen gives it less, and the larger one gives it back.
+    // On a smaller screen it is lower, and on the larger one it has its height again.
     m_fixture->screens.setScreens({{.frame = small, .visibleFrame = small}});
     QCOMPARE(m_fixture->windows.frame(), QRectF(574, 10, 440, 580));
     m_fixture->screens.setScreens({{.frame = large, .visibleFrame = large}});
     QCOMPARE(m_fixture->windows.frame().height(), 820.0);
-    // The next run finds it again.
+    // The next run remembers it.
     PanelModel next(store(), m_fixture->clock, m_fixture->defaults, m_fixture->application,
                     m_fixture->accessibility);
     const PanelWindow again(m_fixture->engine, next, m_fixture->application, m_fixture->screens,

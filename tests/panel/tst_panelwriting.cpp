@@ -8,8 +8,8 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// Writing with an input method in the panel: what is being composed when something else happens, and how it
-/// is erased and undone. The input method of this test does not answer when it is asked to commit.
+/// Writing with an input method in the panel: what happens to text being composed when something else
+/// happens, and how it is erased and undone. This test's input method does not respond to requests to commit.
 class PanelWritingTest : public PanelTest
 {
     Q_OBJECT
@@ -79,7 +79,7 @@ void PanelWritingTest::openNoteKeepsIt()
         compose(u"ni"_s);
         step(*this);
         QCOMPARE(note.text(), before + u"ni"_s);
-        // Nor does it come a second time when the editor goes.
+        // And it does not appear a second time when the editor is destroyed.
         QTest::qWait(0);
         model().openNote()->close();
         model().setTab(PanelModel::Tab::Notes);
@@ -150,7 +150,7 @@ void PanelWritingTest::composerErasesAndUndoesAsTheEditorDoes()
     press(Qt::Key_V, Qt::ControlModifier);
     press(Qt::Key_Backspace);
     QCOMPARE(model().draft(), u"tea "_s);
-    // Each line begins at its own side, and those that the panel writes are undone, too.
+    // Each line begins at its own side, and lines that the panel writes can be undone, too.
     const qreal left = edit.property("cursorRectangle").toRectF().x();
     press(Qt::Key_Return, Qt::ShiftModifier);
     compose(u"שלום"_s);
@@ -163,7 +163,7 @@ void PanelWritingTest::composerErasesAndUndoesAsTheEditorDoes()
         QCOMPARE(model().draft(), state);
         press(Qt::Key_Z, Qt::ControlModifier);
     }
-    // A draft that is kept as a note does not come back.
+    // A draft that has been kept as a note does not reappear.
     type(u"milk"_s);
     press(Qt::Key_Return);
     press(Qt::Key_Z, Qt::ControlModifier);

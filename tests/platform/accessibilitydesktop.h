@@ -11,28 +11,28 @@
 
 namespace vesk {
 
-/// A session bus of the test's own, with an accessibility bus that comes and goes as the test wants.
+/// A session bus for the test, with an accessibility bus that the test can start and stop.
 class AccessibilityDesktop final : public QDBusVirtualObject
 {
     Q_OBJECT
 
 public:
-    /// Makes the session bus that of this process; to be made before anything uses that.
+    /// Becomes this process's session bus; must be created before anything uses that.
     AccessibilityDesktop();
     ~AccessibilityDesktop() override;
     Q_DISABLE_COPY_MOVE(AccessibilityDesktop)
 
-    /// Starts the accessibility bus and its launcher; false if that failed.
+    /// Starts the accessibility bus and its launcher; returns false on failure.
     [[nodiscard]] bool startBus();
     /// Kills both.
     void killBus();
     [[nodiscard]] QString busAddress() const { return m_bus ? m_bus->address() : QString(); }
 
-    /// Puts applications below the registry.
+    /// Adds applications to the registry.
     void setApplications(const QStringList &services) { m_applications = services; }
-    /// Whether the registry leaves all questions without an answer.
+    /// Whether the registry leaves all calls unanswered.
     void setSilent(bool isSilent) { m_isSilent = isSilent; }
-    /// Connection that has asked for events last and is still there; empty if there is none.
+    /// The connection that was the last to request events and still exists; empty if there is none.
     [[nodiscard]] QString listener() const;
 
     QString introspect(const QString & /*path*/) const override { return {}; }

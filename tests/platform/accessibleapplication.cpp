@@ -17,7 +17,7 @@ constexpr QChar kEmbedded = QChar::ObjectReplacementCharacter;
 
 using StringMap = QMap<QString, QString>;
 
-/// What a search asks for.
+/// The criteria of a search.
 struct Wanted
 {
     bool isPage = false;
@@ -79,7 +79,7 @@ bool AccessibleApplication::handleMessage(const QDBusMessage &message, const QDB
         return true;
     }
     const QVariantList arguments = answer(message);
-    // A nameless answer would be none to speak of: what is not known is an error.
+    // Unknown requests are answered with an error.
     connection.send(arguments.isEmpty() ? message.createErrorReply(QDBusError::UnknownMethod, u"Unknown"_s)
                                         : message.createReply(arguments));
     return true;
@@ -128,7 +128,7 @@ QVariantList AccessibleApplication::answer(const QDBusMessage &message)
         return {start, end};
     }
     if (member == "GetText"_L1) {
-        // Places are in characters.
+        // Offsets are in characters.
         const QList<uint> characters = object.text.toUcs4();
         const qsizetype start = asked.value(0).toInt();
         const qsizetype end = asked.value(1).toInt() < 0 ? characters.size() : asked.value(1).toInt();

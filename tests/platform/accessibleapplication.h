@@ -13,13 +13,13 @@
 
 namespace vesk {
 
-/// An application on the accessibility bus, as a test describes it. It belongs to the test's process.
+/// An application on the accessibility bus, as described by a test. It belongs to the test's process.
 class AccessibleApplication final : public QDBusVirtualObject
 {
     Q_OBJECT
 
 public:
-    /// What an object is; its name is the last part of its path. The root is called "root".
+    /// An object of the application; its name is the last part of its path. The root is called "root".
     struct Object
     {
         QString role = QStringLiteral("panel");
@@ -30,21 +30,21 @@ public:
         bool isText = false;
         QString text = {};
         QList<std::pair<int, int>> selections = {};
-        /// Says -1 when it is asked how many selections it has.
+        /// Whether it returns -1 when asked for its number of selections.
         bool hasUnknownSelection = false;
         QStringList children = {};
         QMap<QString, QString> attributes = {};
     };
 
-    /// How it behaves as a whole.
+    /// The behaviour of the application as a whole.
     struct Manner
     {
         bool hasCollection = false;
         bool hasLinks = false;
-        /// Its root has no children before it is asked for its attributes.
+        /// Whether its root has no children until somebody asks for its attributes.
         bool isAsleep = false;
         bool isSilent = false;
-        /// The one object that does not answer.
+        /// The only object that does not answer.
         QString silentObject;
     };
 
@@ -57,10 +57,10 @@ public:
     [[nodiscard]] Object &object(const QString &name) { return m_objects[name]; }
     void removeObject(const QString &name) { m_objects.remove(name); }
     [[nodiscard]] Manner &manner() { return m_manner; }
-    /// How many calls have come, answered or not.
+    /// The number of calls, answered or not.
     [[nodiscard]] int calls() const { return m_calls; }
 
-    /// Says that an object got or lost the keyboard, whatever its state is.
+    /// Announces that an object has gained or lost the focus, whatever its state is.
     void announceFocus(const QString &name, bool isFocused);
 
     QString introspect(const QString & /*path*/) const override { return {}; }
@@ -72,7 +72,7 @@ private:
     [[nodiscard]] QVariant references(const QStringList &names) const;
     [[nodiscard]] QString parentOf(const QString &name) const;
     [[nodiscard]] QStringList focusedBelow(const QString &name, bool isTextWanted) const;
-    /// The web pages that are shown below an object.
+    /// The visible web pages below an object.
     [[nodiscard]] QStringList pagesBelow(const QString &name) const;
     [[nodiscard]] QString embeddedAt(const Object &object, int place) const;
 

@@ -8,7 +8,7 @@
 
 namespace vesk {
 
-/// An object as the accessibility bus writes it: (so).
+/// An object in the accessibility bus's format: (so).
 struct AccessibleReference
 {
     QString service;

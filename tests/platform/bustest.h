@@ -8,7 +8,7 @@
 
 namespace vesk {
 
-/// A test on a bus of its own, with one connection for Vesk and one for whom it talks to.
+/// A test on a separate bus, with one connection for Vesk and one for its counterpart.
 class BusTest : public QObject
 {
     Q_OBJECT

@@ -12,7 +12,7 @@
 
 namespace vesk {
 
-/// A desktop's bar that shows the menus of the active window, on a bus of the test's own.
+/// A desktop's bar that shows the menus of the active window, on the test's bus.
 class FakeMenuRegistrar final : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ public:
     }
     Q_DISABLE_COPY_MOVE(FakeMenuRegistrar)
 
-    /// The registered windows, each with the name on the bus and the path of its menus.
+    /// The registered windows, each with its bus name and the path of its menus.
     [[nodiscard]] const QMap<quint32, std::pair<QString, QString>> &windows() const { return m_windows; }
 
 public Q_SLOTS:

@@ -91,7 +91,7 @@ FakeTransaction::FakeTransaction(FakePackageKit &service, QString path, QString 
 
 void FakeTransaction::Resolve(qulonglong filter, const QStringList &packages)
 {
-    // What is not installed is no answer to whether it is.
+    // Packages that are not installed are left out of the answer with this filter.
     constexpr qulonglong kInstalledFilter = 4;
     if (filter == kInstalledFilter && packages == QStringList{u"vesk"_s})
         take(u"Resolve"_s);

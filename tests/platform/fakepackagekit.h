@@ -9,7 +9,7 @@
 
 namespace vesk {
 
-/// A PackageKit that answers what a test has laid down.
+/// A PackageKit with answers defined by the test.
 class FakePackageKit final : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -21,16 +21,16 @@ public:
         /// Package identifiers.
         QStringList installed;
         QStringList updates;
-        /// The method that does not succeed, and how; empty for none.
+        /// The method that fails, and how; empty if none does.
         QString failing;
         enum class Failure {
-            /// It ends with an error.
+            /// Ends with an error.
             Finishes,
-            /// It never ends.
+            /// Never ends.
             Hangs,
-            /// It is refused at once.
+            /// Is refused at once.
             Refuses,
-            /// The service goes away in the middle.
+            /// The service disappears in the middle.
             Vanishes,
         } failure = Failure::Finishes;
     };
@@ -40,9 +40,9 @@ public:
     void setScript(const Script &script) { m_script = script; }
     void appear();
     void vanish();
-    /// Another program's transactions, or their end.
+    /// Starts or ends other programs' transactions.
     void setOthersAreBusy(bool areBusy);
-    /// The methods that transactions were given, in order.
+    /// The methods called on transactions, in order.
     [[nodiscard]] const QStringList &calls() const { return m_calls; }
     void work(const QString &path, const QString &method);
 
@@ -60,7 +60,7 @@ private:
     int m_count = 0;
 };
 
-/// One of its transactions.
+/// A transaction of the service.
 class FakeTransaction final : public QObject, protected QDBusContext
 {
     Q_OBJECT

@@ -11,7 +11,7 @@
 
 namespace vesk {
 
-/// The place for icons of a desktop's panel, on a bus of the test's own.
+/// A desktop panel's area for icons, on the test's bus.
 class FakeStatusWatcher final : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -30,13 +30,14 @@ public:
     }
     Q_DISABLE_COPY_MOVE(FakeStatusWatcher)
 
-    /// The names by which the registered icons are reached.
+    /// The bus names of the registered icons.
     [[nodiscard]] const QStringList &items() const { return m_items; }
 
 public Q_SLOTS:
     void RegisterStatusNotifierItem(const QString &service)
     {
-        // What a real one does: with a path, the caller is the service, and one that it has is no news.
+        // As a real one does: given a path, the service is the caller, and a known item is not announced
+        // again.
         const QString item = service.startsWith(u'/') ? message().service() : service;
         if (!m_items.contains(item))
             m_items.append(item);

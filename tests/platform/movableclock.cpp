@@ -12,7 +12,7 @@ std::atomic<std::chrono::nanoseconds> g_advanced{};
 
 } // namespace
 
-/// In place of the C library's, for the libraries too.
+/// Replaces the C library's function, for all libraries too.
 extern "C" __attribute__((visibility("default"))) int clock_gettime(clockid_t clock, timespec *time) noexcept
 {
     const long result = ::syscall(SYS_clock_gettime, clock, time);

@@ -5,8 +5,8 @@
 
 namespace vesk {
 
-/// Moves the system's clocks forward for this program alone: for Qt's timers as for everything else that asks
-/// them. Timers whose time has come fire at the event loop's next turn.
+/// Advances the system's clocks for this program only: for Qt's timers and everything else that reads them.
+/// Timers that are due fire at the event loop's next iteration.
 void advanceSystemClock(std::chrono::milliseconds duration);
 
 } // namespace vesk

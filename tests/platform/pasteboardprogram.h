@@ -24,14 +24,14 @@ struct Program
     std::unique_ptr<X11Connection> connection = X11Connection::open().connection;
     X11Pasteboard pasteboard;
 
-    /// The server has done all that was asked of it when this returns.
+    /// Returns when the server has processed all requests.
     void sync() const { std::ignore = connection->property32(connection->root(), XCB_ATOM_WM_NAME); }
 
-    /// What the server has to tell has been heard when this returns.
+    /// Returns when all events from the server have been handled.
     void catchUp() const
     {
         sync();
-        // What came along with a reply is read when the event loop is about to sleep.
+        // Events read along with a reply are handled when the event loop is about to sleep.
         QEventLoop loop;
         QTimer::singleShot(1, &loop, &QEventLoop::quit);
         loop.exec();

@@ -11,29 +11,29 @@ class SelectionOwner final
 public:
     enum class Manner {
         Whole,
-        /// In pieces, as long texts are sent.
+        /// Sends its text in pieces, as long texts are sent.
         Incremental,
-        /// In pieces, of which only the first comes.
+        /// Sends in pieces, but only the first.
         StallsHalfway,
-        /// In pieces of one byte without end.
+        /// Sends endless pieces of one byte.
         Drips,
         /// Lists its targets and then never answers.
         Silent,
         /// Offers no text at all.
         NoText,
-        /// Says that its text is a password.
+        /// Marks its text as a password.
         Secret,
-        /// Lists what says whether its text is a password, and then does not answer that.
+        /// Lists the target that says whether its text is a password, but does not answer it.
         SilentSecret,
-        /// Gives PRIMARY up to another owner, whose text is a password, once it has listed its targets.
+        /// Once it has listed its targets, gives PRIMARY up to another owner, whose text is a password.
         Replaced,
     };
 
     SelectionOwner(QByteArray text, Manner manner, const char *selection = "PRIMARY");
 
-    /// How often its content was asked for.
+    /// How often its content was requested.
     [[nodiscard]] int readings() const { return m_readings; }
-    /// Whether a reader has yet to take pieces.
+    /// Whether a reader has not yet fetched all pieces.
     [[nodiscard]] bool isSending() const { return m_property != XCB_ATOM_NONE; }
 
 private:
@@ -49,11 +49,11 @@ private:
     const QByteArray m_text;
     const Manner m_manner;
     std::atomic_int m_readings = 0;
-    /// The transfer in pieces that runs; no property for none.
+    /// The transfer in progress; no property if there is none.
     xcb_window_t m_requestor = XCB_WINDOW_NONE;
     std::atomic<xcb_atom_t> m_property = XCB_ATOM_NONE;
     qsizetype m_sent = 0;
     std::unique_ptr<SelectionOwner> m_successor;
-    // Ends before what it uses.
+    // Must end before what it uses.
     std::unique_ptr<vesk::SelectionThread> m_thread;
 };

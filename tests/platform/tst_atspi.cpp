@@ -20,7 +20,7 @@ Q_DECLARE_METATYPE(Objects)
 namespace {
 
 constexpr QStringView kNone = u"(none)";
-/// What is not about time may take as long as the machine needs.
+/// Tests that are not about time may take as long as the machine needs.
 constexpr AtSpiQuestion::Deadlines kPatient{.question = kBound, .call = kBound};
 const QString kBoth = u"\ufffc\ufffc"_s;
 
@@ -39,7 +39,7 @@ Objects window(const Object &editor)
 
 } // namespace
 
-/// Reading applications of every manner over the accessibility bus.
+/// Reading all sorts of applications over the accessibility bus.
 class TestAtSpi : public QObject
 {
     Q_OBJECT
@@ -165,7 +165,7 @@ void TestAtSpi::focusIsFoundBySearch()
     QFETCH(const QString, expected);
     show(objects);
     QCOMPARE(focus(), expected);
-    // Toolkits that search by themselves look into closed menus too, but not in circles.
+    // Toolkits that search by themselves look into closed menus too, but not endlessly.
     const QByteArrayView row(QTest::currentDataTag());
     if (row == "closed menu" || row == "closes on itself")
         return;
@@ -181,17 +181,17 @@ void TestAtSpi::announcedFocusIsOnlyTakenWhileItHolds()
     show(objects);
     const auto announce = [this](const QString &name, bool isFocused) {
         m_application->announceFocus(name, isFocused);
-        // The search finds the field; what was announced shows only once it is heard.
+        // The search finds the field; the announcement only takes effect once it has been received.
         m_application->object(name).isFocused = isFocused;
     };
-    // Both claim it, and the announcement decides.
+    // Both claim the focus, and the announcement decides.
     announce(u"editor"_s, true);
     m_application->object(u"frame"_s).children = {u"field"_s, u"editor"_s};
     QTRY_COMPARE(focus(), u"editor"_s);
     // GTK 4 does not announce the first focus of a new widget.
     m_application->object(u"editor"_s).isFocused = false;
     QCOMPARE(focus(), u"field"_s);
-    // The window that it was in is closed.
+    // The window that contained it is closed.
     announce(u"gone"_s, true);
     m_application->object(u"frame"_s).children = {u"field"_s};
     QTRY_COMPARE(focus(), u"field"_s);
@@ -235,7 +235,7 @@ void TestAtSpi::selectedText_data()
     QTest::newRow("no text at all") << window({.isEditable = true}) << kNone.toString();
     QTest::newRow("page that selects nothing is in doubt")
         << window({.role = web, .isText = true, .text = u"x"_s}) << kNone.toString();
-    // Selected from "ne" in the first paragraph to "two" in the link in the second.
+    // Selected from "ne" in the first paragraph to "two" in the second paragraph's link.
     Objects page = window(
         {.role = web, .isText = true, .text = kBoth, .selections = {{0, 2}}, .children = {u"p1"_s, u"p2"_s}});
     page[u"p1"_s] = {.role = u"paragraph"_s, .isText = true, .text = u"one"_s, .selections = {{1, 3}}};
@@ -315,7 +315,7 @@ void TestAtSpi::selectedText()
 
 void TestAtSpi::selectionWithAPartThatDoesNotAnswerIsNone()
 {
-    // One block of many does not answer: the others are not the selection.
+    // One block of many does not answer: the others alone are not the selection.
     const int count = 20;
     Objects page = window({.role = u"document web"_s,
                            .isText = true,
@@ -386,10 +386,10 @@ void TestAtSpi::busDiesAndReturns()
     show(window({.isFocused = true, .isText = true}));
     m_application->manner().isSilent = true;
     const QString lost = m_desktop->listener();
-    // A question is under way when the bus dies.
+    // A question is in progress when the bus dies.
     QTimer::singleShot(0, this, [this] { m_desktop->killBus(); });
     QCOMPARE(selectionOf(u"editor"_s), kNone);
-    // Without a bus nobody knows whether the application is on it.
+    // Without a bus, it is unknown whether the application is on it.
     QTRY_COMPARE(focus(), kNone);
     QVERIFY(m_desktop->startBus());
     QTRY_VERIFY(!m_desktop->listener().isEmpty());
@@ -401,7 +401,7 @@ void TestAtSpi::nothingIsReadOnceStopped()
 {
     show(window(
         {.isFocused = true, .isEditable = true, .isText = true, .text = u"x"_s, .selections = {{0, 1}}}));
-    // The user withdraws the consent while a question is under way.
+    // The user withdraws consent while a question is in progress.
     QTimer::singleShot(0, this, [this] { m_atSpi->stop(); });
     QCOMPARE(selectionOf(u"editor"_s), kNone);
     QTRY_VERIFY(m_desktop->listener().isEmpty());

@@ -9,7 +9,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// Which application a window belongs to, by what real applications set on their windows.
+/// Which application a window belongs to, according to what real applications set on their windows.
 class TestDesktopEntries : public QObject
 {
     Q_OBJECT
@@ -144,7 +144,7 @@ void TestDesktopEntries::write(const QString &folder, const QString &name, const
                       "# A comment first\n[Desktop Entry]\nType=Application\n" + keys));
 }
 
-/// What keeps this process's memory out of core dumps is not for the browser that it opens.
+/// The protection of this process against core dumps must not extend to a browser that it starts.
 void TestDesktopEntries::launchedProgramKeepsItsOwnDumps()
 {
     const QString file = m_folder.filePath(u"dumps"_s);

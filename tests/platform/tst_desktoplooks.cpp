@@ -9,7 +9,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// What is read out of a desktop's settings.
+/// What is read from a desktop's settings.
 class DesktopLooksTest : public QObject
 {
     Q_OBJECT
@@ -116,7 +116,7 @@ void DesktopLooksTest::brokenSettingsGiveWhatIsWhole()
         known = read;
     }
     QCOMPARE(known, 4);
-    // Every length in it may lie.
+    // Every length in it may be wrong.
     for (qsizetype at = 0; at < whole.size(); ++at) {
         QByteArray broken = whole;
         broken[at] = '\xff';

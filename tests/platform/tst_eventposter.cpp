@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
-/// Keys sent to real applications, which must get no key but those, and some none at all.
+/// Sends keys to real applications, which must get exactly those keys, and some none at all.
 class TestEventPoster : public X11Test
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ private Q_SLOTS:
     void hungApplicationIsNotAskedToCopyLater();
 
 private:
-    /// Begins to post a copy to the editor; the answer arrives in `m_isPosted`.
+    /// Begins to send Copy to the editor; the result arrives in `m_isPosted`.
     void postCopy();
     [[nodiscard]] std::optional<QString> clipboard()
     {
@@ -133,7 +133,7 @@ void TestEventPoster::takersAreTold()
 void TestEventPoster::postCopy()
 {
     m_isPosted.reset();
-    // The poster goes by the events that were handled. A loop that never blocks leaves some of them unread.
+    // The poster uses events that have been handled. A loop that never blocks leaves some of them unread.
     QEventLoop loop;
     QTimer::singleShot(50, &loop, &QEventLoop::quit);
     loop.exec();
@@ -219,7 +219,7 @@ void TestEventPoster::hungApplicationIsNotAskedToCopyLater()
     QTRY_VERIFY(m_isPosted);
     m_editor->process().signal(SIGCONT);
     QVERIFY(!*m_isPosted);
-    // It answers again, and has done by then whatever it was told before.
+    // It answers again, and by then has processed everything before that.
     QCOMPARE(m_editor->text(), m_lines.join(u'\n') + u'\n');
     QCOMPARE(clipboard(), m_lines.at(1));
 }

@@ -13,7 +13,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// Shift tapped twice on a real keyboard, in all that may come between.
+/// Tapping Shift twice on a real keyboard, with all sorts of events in between.
 class TestEventTap : public X11Test
 {
     Q_OBJECT
@@ -23,9 +23,10 @@ private Q_SLOTS:
     void keysBecomeTaps();
 };
 
-/// Letters for keys: s S, left Shift down and up; r R, right Shift; T, Shift goes up that was not down;
-/// c C, Control; k, n, Caps Lock and Num Lock tapped; x, a letter; b, a mouse button; w, the wheel; g G,
-/// another client takes the keyboard and gives it back; p P, the user withdraws the consent and gives it.
+/// Letters stand for keys: s and S, left Shift down and up; r and R, right Shift; T, a release of Shift
+/// without a press; c and C, Control; k and n, Caps Lock and Num Lock tapped; x, a letter; b, a mouse button;
+/// w, the wheel; g and G, another client grabs and releases the keyboard; p and P, the user withdraws and
+/// gives consent.
 void TestEventTap::keysBecomeTaps_data()
 {
     QTest::addColumn<QString>("keys");
@@ -69,7 +70,7 @@ void TestEventTap::keysBecomeTaps()
     };
     const auto setListening = [&](bool isListening) {
         input.setListening(isListening);
-        // The keys go another way to the server, which must have heard this first.
+        // The keys reach the server over another connection, so it must have processed this first.
         static_cast<void>(input.isCapsLocked());
     };
     static_cast<void>(input.isCapsLocked());
@@ -93,11 +94,11 @@ void TestEventTap::keysBecomeTaps()
     };
     for (const QChar key : keys) {
         actions.value(key)();
-        // Caps Lock is what it is when a key is heard, so each is heard before the next.
+        // The state of Caps Lock is read when a key is received, so wait for each key before the next.
         static_cast<void>(display.atom("VESK_TEST"));
         QTest::qWait(2);
     }
-    // What comes last is heard last.
+    // The last key is received last.
     const qsizetype before = keyDown.count();
     keyboard.tap({XK_F5});
     QTRY_VERIFY(keyDown.count() > before);

@@ -19,7 +19,7 @@ constexpr KeyCombination kN{.key = KeyPosition::N, .modifiers = kSuperAlt};
 constexpr KeyCombination kShiftN{.key = KeyPosition::N, .modifiers = kSuperAlt | Qt::ShiftModifier};
 constexpr KeyCombination kT{.key = KeyPosition::T, .modifiers = kSuperAlt};
 
-/// One implementation, and the keyboard that belongs to it.
+/// An implementation and the keyboard that belongs to it.
 class Bench
 {
 public:
@@ -27,7 +27,7 @@ public:
     [[nodiscard]] virtual HotKeys &hotKeys() = 0;
     /// Presses and releases a combination.
     virtual void press(KeyCombination combination) = 0;
-    /// Lets another program have a combination.
+    /// Makes another program grab a combination.
     virtual void take(KeyCombination combination) = 0;
 };
 
@@ -68,7 +68,7 @@ public:
         keys.append(combination.key == KeyPosition::N ? XK_n : XK_t);
         for (const xcb_keysym_t key : std::as_const(keys))
             m_keyboard.press(key);
-        // No finger is up again within the same millisecond; a repetition is.
+        // No finger releases a key within the same millisecond; a repeat does.
         QTest::qWait(15);
         for (const xcb_keysym_t key : keys | std::views::reverse)
             m_keyboard.release(key);
@@ -89,7 +89,7 @@ private:
 
 } // namespace
 
-/// What every platform's hot keys do alike.
+/// What the hot keys of all platforms have in common.
 class TestHotKeys : public X11Test
 {
     Q_OBJECT
@@ -114,7 +114,7 @@ private:
     static void benches();
     static void x11Benches();
     [[nodiscard]] std::unique_ptr<Bench> makeBench(const QString &name);
-    /// The identifiers of the keys that fired, once `count` have, in their order.
+    /// The identifiers of the keys that fired, in order, once `count` have.
     [[nodiscard]] static QList<quint32> fired(QSignalSpy &spy, qsizetype count);
 };
 
@@ -134,7 +134,7 @@ std::unique_ptr<Bench> TestHotKeys::makeBench(const QString &name)
 
 QList<quint32> TestHotKeys::fired(QSignalSpy &spy, qsizetype count)
 {
-    // One more turn than needed, so that what should not have fired had its chance.
+    // One more iteration than needed, so that anything that should not have fired would have.
     [&] { QTRY_COMPARE(spy.count(), count); }();
     QTest::qWait(50);
     QList<quint32> ids;
@@ -243,7 +243,7 @@ void TestHotKeys::locksDoNotMatter()
     QCOMPARE(fired(spy, 3).size(), 3);
 }
 
-/// Super goes to a bit of its own, Num Lock to the one that Super had.
+/// Super moves to a separate bit, Num Lock to the bit that Super had.
 void TestHotKeys::keysFollowTheModifiers()
 {
     X11Bench bench(m_desktop->keyboard(), true);
@@ -309,7 +309,7 @@ void TestHotKeys::lettersAreWhereTheLayoutHasThem()
     X11Bench bench(m_desktop->keyboard(), false);
     QSignalSpy changed(&bench.hotKeys(), &HotKeys::layoutChanged);
     static_cast<void>(bench.hotKeys().findKey(character));
-    // The one that is set already is no change.
+    // Setting the current layout again is not a change.
     for (const QString &next : {u"se"_s, layout}) {
         changed.clear();
         const auto setter = m_desktop->run(u"setxkbmap"_s, {next});

@@ -12,7 +12,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// The user's choices across runs, and between two processes at once.
+/// The user's choices across runs, and between two processes at the same time.
 class TestIniDefaults : public QObject
 {
     Q_OBJECT
@@ -65,7 +65,8 @@ void TestIniDefaults::numbersAreKept()
     IniDefaults there(path);
     QCOMPARE(there.intForKey(number), 731);
     QVERIFY(there.boolForKey(choice));
-    // What is no number is none, and a number of another process arrives; one's own is no news.
+    // A value that is not a number reads as none; a number from another process is reported, one's own is
+    // not.
     QVERIFY(!there.intForKey(choice));
     QSignalSpy changes(&here, &IniDefaults::changedOutside);
     there.setInt(502, number);

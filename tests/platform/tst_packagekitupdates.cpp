@@ -12,7 +12,7 @@ using namespace vesk;
 using Outcome = Updates::Outcome;
 using Failure = FakePackageKit::Script::Failure;
 
-/// Updates by a PackageKit on a bus of the test's own.
+/// Updates with a PackageKit on the test's bus.
 class TestPackageKitUpdates : public BusTest
 {
     Q_OBJECT
@@ -85,7 +85,7 @@ void TestPackageKitUpdates::finds()
 
     m_updates->checkForUpdates();
     QVERIFY(!m_updates->canCheckForUpdates());
-    m_updates->checkForUpdates(); // One at a time: this is not a second check.
+    m_updates->checkForUpdates(); // Only one at a time: this does not start a second check.
     QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 20'000);
     const auto result = finished.first().first().value<Updates::Result>();
     QCOMPARE(result.outcome, outcome);
@@ -112,7 +112,7 @@ void TestPackageKitUpdates::canCheckFollowsTheService()
     m_service->vanish();
     QTRY_VERIFY(!m_updates->canCheckForUpdates());
 
-    // Busy already when it is met.
+    // Already busy when first seen.
     m_service->setOthersAreBusy(true);
     m_service->appear();
     m_updates = std::make_unique<PackageKitUpdates>(vesk(), PackageKitUpdates::Limits());
@@ -131,7 +131,7 @@ void TestPackageKitUpdates::mayDieWhileChecking()
     m_updates->checkForUpdates();
     QTRY_VERIFY(m_service->calls().contains(u"RefreshCache"));
     m_updates.reset();
-    // What was waited for ends now, and finds nobody.
+    // The pending transaction now ends, with nobody waiting for it.
     m_service->vanish();
     QTest::qWait(200);
 }

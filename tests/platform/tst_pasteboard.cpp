@@ -21,7 +21,7 @@ using namespace vesk;
 
 namespace {
 
-/// One implementation, and another program's access to the same pasteboard.
+/// An implementation, and another program's access to the same pasteboard.
 class Bench
 {
 public:
@@ -58,7 +58,7 @@ public:
 
 private:
     Program m_own;
-    /// Hears PRIMARY by the same connection, as in Vesk.
+    /// Receives PRIMARY over the same connection, as in Vesk.
     PrimarySelection m_selection{*m_own.connection};
     Program m_other;
 };
@@ -89,7 +89,7 @@ const PasteboardItem &richItem()
 
 } // namespace
 
-/// What every platform's pasteboard does alike, and how the one on X11 stands other programs.
+/// What the pasteboards of all platforms have in common, and how X11's copes with other programs.
 class TestPasteboard : public X11Test
 {
     Q_OBJECT
@@ -187,7 +187,7 @@ void TestPasteboard::countRisesOnceForEachChange()
     pasteboard.setString(u"own"_s);
     const qint64 own = pasteboard.changeCount();
     QCOMPARE(own, start + 1);
-    // What the server tells of the own change has come when the content has been read.
+    // The server's report of our own change has arrived when the contents have been read.
     QVERIFY(QCoro::waitFor(pasteboard.string()) == std::optional(u"own"_s));
     QCOMPARE(pasteboard.changeCount(), own);
     it->copyElsewhere(u"theirs"_s);
@@ -239,7 +239,7 @@ void TestPasteboard::changeBeforeOwnWriteIsNotCountedAfterIt()
     Program vesk;
     Program other;
     other.pasteboard.setString(u"theirs"_s);
-    // Nobody has heard of that copy yet.
+    // Nobody has received that copy yet.
     other.sync();
     vesk.pasteboard.setString(u"own"_s);
     const qint64 own = vesk.pasteboard.changeCount();
@@ -329,7 +329,7 @@ void TestPasteboard::everythingOrNothingIsKept()
     QVERIFY(vesk.pasteboard.hasContents());
 }
 
-/// It would be written back as if it were whole.
+/// It would be restored as if it were complete.
 void TestPasteboard::formThatIsTooLongIsNotCut()
 {
     const QByteArray tooLong(selectioncontent::kMaximumBytes + 1, 'x');
@@ -364,7 +364,7 @@ void TestPasteboard::takenOverByAClipboardManager()
     application->pasteboard.setString(u"theirs"_s);
     application->catchUp();
     QCOMPARE(claim(), Claim::Ordinary);
-    // The only windows of another process are the window manager's.
+    // The window manager's are the only windows of another process.
     const auto other =
         m_connection->property32(m_connection->root(), m_connection->atom("_NET_SUPPORTING_WM_CHECK"));
     QVERIFY(other);

@@ -11,7 +11,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// Reading a selection from owners of every manner.
+/// Reading a selection from all sorts of owners.
 class TestPrimarySelection : public X11Test
 {
     Q_OBJECT
@@ -73,7 +73,7 @@ void TestPrimarySelection::secretIsNotEvenRead()
     QCOMPARE(owner.readings(), 0);
 }
 
-/// The first owner says that its text is no secret, and the text is the next one's.
+/// The first owner says that its text is not secret, but the text is the next owner's.
 void TestPrimarySelection::ownerThatChangesWhileItIsReadGivesNothing()
 {
     const SelectionOwner owner("harmless", SelectionOwner::Manner::Replaced);
@@ -109,7 +109,7 @@ void TestPrimarySelection::readingGivenUpLetsTheOwnerFinish()
     QTRY_VERIFY(!owner.isSending());
 }
 
-/// Each byte comes in time, and the last one never.
+/// Each byte arrives in time, but there is no last one.
 void TestPrimarySelection::ownerThatDripsIsGivenUp()
 {
     const SelectionOwner owner("x", SelectionOwner::Manner::Drips);

@@ -11,7 +11,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// Which keys count as such that may have changed what is selected.
+/// Which keys count as possibly having changed the selection.
 class TestRawInput : public X11Test
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ private Q_SLOTS:
     void ownKeysAreNotReported();
 
 private:
-    /// Has everything heard that was sent.
+    /// Waits until everything that was sent has been received.
     void settle()
     {
         static_cast<void>(m_desktop->display().atom("VESK_TEST"));
@@ -69,17 +69,17 @@ void TestRawInput::pressesThatMayChangeASelection()
                      XCB_GRAB_MODE_ASYNC);
         static_cast<void>(desktop->atom("VESK_TEST"));
     }
-    // Up again before anybody has heard of it.
+    // Released before anybody has received it.
     m_desktop->keyboard().tap(keys);
     settle();
     QCOMPARE(input.lastPress() != before, counts);
-    // The rule is the old one again once the key is up.
+    // The original rule applies again once the key is released.
     m_desktop->keyboard().tap({XK_x}, kFinger);
     settle();
     QVERIFY(input.lastPress() != before);
 }
 
-/// Keys of other programs that go through the same device are.
+/// Other programs' keys that go through the same device are reported.
 void TestRawInput::ownKeysAreNotReported()
 {
     RawInput input(*m_connection);

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
-/// What other programs get that ask for Vesk's selection.
+/// What other programs get when they request Vesk's selection.
 class TestSelectionServer : public X11Test
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ void TestSelectionServer::lostSelectionIsNotServed()
     other.pasteboard.setString(u"theirs"_s);
     other.catchUp();
     QTRY_VERIFY(!server.isOwner());
-    // News of the loss of an offer that has been followed by another is no news.
+    // The loss of an offer that has since been replaced is ignored.
     server.offer({text("ours")});
     other.pasteboard.setString(u"theirs"_s);
     other.sync();
@@ -48,7 +48,7 @@ void TestSelectionServer::lostSelectionIsNotServed()
     QVERIFY(QCoro::waitFor(other.pasteboard.string()) == std::optional(u"ours again"_s));
 }
 
-/// Vesk hears of the active window by the root's properties.
+/// Vesk learns about the active window from the root window's properties.
 void TestSelectionServer::readerThatNamesTheRootLeavesItHeard()
 {
     Program vesk;
@@ -60,7 +60,7 @@ void TestSelectionServer::readerThatNamesTheRootLeavesItHeard()
     xcb_convert_selection(reader.xcb(), reader.root(), reader.atom("CLIPBOARD"), reader.atom("UTF8_STRING"),
                           property, XCB_CURRENT_TIME);
     other.sync();
-    // An empty piece is the last one.
+    // The last piece is empty.
     QTRY_COMPARE(reader.property(reader.root(), property).size(), 4);
     bool isLast = false;
     while (!isLast) {

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
-/// The icon and the menu bar on a bus of their own, as a desktop's panels meet them.
+/// The icon and the menu bar on a separate bus, as a desktop's panels see them.
 class StatusIconTest : public BusTest
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ private:
                                  {},
                                  {.label = u"Quit"_s, .action = [this] { m_done.append(u"quit"_s); }}}});
     }
-    /// The answer to a call of the desktop's; the event loop turns, since both ends live here.
+    /// The answer to a call from the desktop. The event loop runs, because both ends are in this process.
     [[nodiscard]] static QDBusMessage ask(const QString &path, const QString &interface,
                                           const QString &method, const QVariantList &arguments);
     [[nodiscard]] static QDBusMessage askMenu(const QString &method, const QVariantList &arguments)
@@ -76,7 +76,7 @@ void StatusIconTest::followsThePlaceForIcons()
         const FakeStatusWatcher place(other());
         QTRY_COMPARE(place.items(), expected);
     }
-    // There before the icon.
+    // It exists before the icon.
     m_icon.reset();
     const FakeStatusWatcher place(other());
     makeIcon();
@@ -126,7 +126,7 @@ void StatusIconTest::menuIsChosenFrom()
     for (const int id : {-1, 2, 99, 3})
         QCOMPARE(click(id).type(), QDBusMessage::ReplyMessage);
     QTRY_COMPARE(m_done, QStringList{u"quit"_s});
-    // Some desktops send events in groups, those of the pointer too.
+    // Some desktops send events in groups, including pointer events.
     const QList<DBusMenuEvent> events{
         {.id = 1, .name = u"hovered"_s, .data = QDBusVariant(0), .timestamp = 0},
         {.id = 1, .name = u"clicked"_s, .data = QDBusVariant(0), .timestamp = 0},

@@ -14,8 +14,8 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace vesk;
 
-/// Transfers of a selection with a partner that keeps them waiting end at last. The clock is moved; the
-/// machine may take some seconds of its own.
+/// Transfers of a selection with a partner that stalls must end eventually. The clock is advanced; the
+/// machine may take some real seconds as well.
 class TestTransferEnds : public X11Test
 {
     Q_OBJECT
@@ -29,9 +29,9 @@ private Q_SLOTS:
     void slowReaderIsLeftAtLast();
 
 private:
-    /// Lets time pass, and all that it brings about happen.
+    /// Lets time pass and handles everything that this causes.
     void pass(std::chrono::milliseconds duration);
-    /// Reads from `owner`, which cannot end, until that is given up.
+    /// Reads from `owner`, which can never complete, until the reading is given up.
     void giveUp(const SelectionOwner &owner);
     [[nodiscard]] qsizetype lingering() const
     {
@@ -43,7 +43,7 @@ private:
 void TestTransferEnds::pass(std::chrono::milliseconds duration)
 {
     advanceSystemClock(duration);
-    // Objects are deleted a turn after their timer.
+    // Objects are deleted one iteration after their timer.
     settle();
     settle();
 }
@@ -114,7 +114,7 @@ void TestTransferEnds::drippingOwnerIsLeftAtLast()
 
 std::unique_ptr<SelectionSender> TestTransferEnds::sendTo(const X11Connection &reader, qsizetype bytes)
 {
-    // Only now is the window sure to be there.
+    // Only now does the window certainly exist.
     static_cast<void>(reader.property(reader.root(), XCB_ATOM_WM_NAME));
     static_cast<void>(m_connection->addEvents(reader.window(), XCB_EVENT_MASK_PROPERTY_CHANGE));
     auto sender = std::make_unique<SelectionSender>(
@@ -141,7 +141,7 @@ void TestTransferEnds::readerThatTakesNothingIsLeftAtLast()
 void TestTransferEnds::slowReaderIsLeftAtLast()
 {
     const std::unique_ptr<X11Connection> reader = X11Connection::open().connection;
-    // 10 s, and 3 s a piece.
+    // 10 s, plus 3 s for each piece.
     const auto sender = sendTo(*reader, 10 * SelectionSender::kPiece);
     for (auto passed = 0s; passed < 45s; passed += 5s) {
         xcb_delete_property(reader->xcb(), reader->window(), reader->atom("PIECE"));

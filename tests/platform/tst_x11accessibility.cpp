@@ -50,7 +50,7 @@ public:
         m_thread->claimAgain();
     }
 
-    /// Owns it by a part of a window, as terminals do.
+    /// Owns it with a part of a window, as terminals do.
     void moveInto(const PlainWindow &window, DisplayConnection &display) const
     {
         const std::array<quint32, 2> size{300, 300};
@@ -79,7 +79,7 @@ private:
 
     QMutex m_mutex;
     QByteArray m_text;
-    // Ends before what it uses.
+    // Must end before what it uses.
     std::unique_ptr<SelectionThread> m_thread;
 };
 
@@ -102,8 +102,8 @@ Object field(const QString &text, const QList<std::pair<int, int>> &selections)
 
 } // namespace
 
-/// What counts as selected, for applications that tell the X server and the accessibility bus different
-/// things. They all are this process.
+/// What counts as selected for applications that give different information to the X server and to the
+/// accessibility bus. They are all in this process.
 class TestX11Accessibility : public X11Test
 {
     Q_OBJECT
@@ -127,11 +127,11 @@ private Q_SLOTS:
     void selectionFromBeforeTheStartIsNotFresh();
 
 private:
-    /// Shows the application's window, of this class, with the keyboard.
+    /// Shows the application's window, of this class, with the focus.
     void bringForward(const QByteArray &name);
     void startVesk(const AtSpiQuestion::Deadlines &deadlines = {.question = kBound, .call = kBound});
     void showOnBus(const Objects &objects);
-    /// Clicks into the window near its upper left corner, wherever the window manager has put it.
+    /// Clicks the window near its top left corner, wherever the window manager has put it.
     void click(const PlainWindow &window);
     void pressKey() { m_desktop->keyboard().tap({XK_x}); }
     [[nodiscard]] SelectedText read();
@@ -145,7 +145,7 @@ private:
     std::unique_ptr<RawInput> m_input;
     std::unique_ptr<X11Workspace> m_workspace;
     std::unique_ptr<X11Accessibility> m_accessibility;
-    /// Hears of the same claims.
+    /// Receives the same claims.
     std::unique_ptr<X11Pasteboard> m_primary;
 };
 
@@ -189,7 +189,7 @@ void TestX11Accessibility::bringForward(const QByteArray &name)
     xcb_change_property(m_desktop->display().xcb(), XCB_PROP_MODE_REPLACE, m_window->window().id,
                         XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8, quint32(classes.size()), classes.constData());
     m_window->show();
-    // A window manager that has just started may have missed that the window came.
+    // A window manager that has just started may have missed the window.
     QVERIFY(m_desktop->display().waitUntil(kBound, [this] {
         m_desktop->windows().activate(m_window->window());
         return m_desktop->windows().waitActive(m_window->window(), std::chrono::milliseconds{500});
@@ -198,7 +198,7 @@ void TestX11Accessibility::bringForward(const QByteArray &name)
 
 void TestX11Accessibility::startVesk(const AtSpiQuestion::Deadlines &deadlines)
 {
-    // What happened before is not heard by what is made now.
+    // Objects created now must not receive earlier events.
     settle();
     m_input = std::make_unique<RawInput>(*m_connection);
     m_workspace = std::make_unique<X11Workspace>(*m_connection);
@@ -236,7 +236,7 @@ void TestX11Accessibility::primaryNeedsConfirmation_data()
     QTest::addColumn<QString>("text");
     const QByteArray editor = "Editor";
     const QByteArray terminal = "XTerm";
-    // PRIMARY is "open sesame" in all of them.
+    // PRIMARY is "open sesame" in all rows.
     QTest::newRow("off the bus") << editor << Objects() << Finding::Unknown << QString();
     QTest::newRow("terminal off the bus") << terminal << Objects() << Finding::Selected << u"open sesame"_s;
     QTest::newRow("asks for a password") << "Pinentry"_qba << Objects() << Finding::Nothing << QString();
@@ -267,7 +267,7 @@ void TestX11Accessibility::primaryNeedsConfirmation_data()
         << editor << page(u"open \n sesame"_s) << Finding::Selected << u"open sesame"_s;
     QTest::newRow("page with another selection")
         << editor << page(u"another"_s) << Finding::Selected << u"open sesame"_s;
-    // Writer has only the paragraphs that are on the screen.
+    // Writer only exposes the paragraphs on the screen.
     Object paragraph = field(u"sesame"_s, {{0, 6}});
     paragraph.role = u"paragraph"_s;
     Objects scrolled = window(paragraph);
@@ -300,7 +300,7 @@ void TestX11Accessibility::primaryNeedsConfirmation()
     QTRY_COMPARE(read().finding, finding);
     QFETCH(const QString, text);
     QTRY_COMPARE(read().text, text);
-    // The user presses another key, and the application goes on owning PRIMARY.
+    // The user presses another key, and the application still owns PRIMARY.
     pressKey();
     QVERIFY(!read().isClaimed);
 }
@@ -342,7 +342,7 @@ void TestX11Accessibility::passwordStaysSecretWhenTheFocusMoves()
     password.role = u"password text"_s;
     Objects objects = window(password);
     objects[u"frame"_s].children.append(u"terminal"_s);
-    // Where PRIMARY would do.
+    // Where PRIMARY alone would be enough.
     objects[u"terminal"_s] = {.role = u"terminal"_s, .isText = true};
     showOnBus(objects);
     m_application->announceFocus(u"focused"_s, true);
@@ -367,7 +367,7 @@ void TestX11Accessibility::passwordIsSecretWhereThePageMovesTheFocusAtOnce_data(
     QTest::newRow("and removes the field") << true;
 }
 
-/// The bus tells of the focus before the X server tells of the selection.
+/// The bus reports the focus before the X server reports the selection.
 void TestX11Accessibility::passwordIsSecretWhereThePageMovesTheFocusAtOnce()
 {
     QFETCH(const bool, isFieldGone);
@@ -396,7 +396,7 @@ void TestX11Accessibility::passwordIsSecretWhereThePageMovesTheFocusAtOnce()
     QCOMPARE(read().text, QString());
 }
 
-/// As where a page with a password field is selected as a whole.
+/// As in a page that contains a password field and is selected as a whole.
 void TestX11Accessibility::bulletsOfAPageAreNoText()
 {
     const QString bullets(11, QChar(0x2022));
@@ -416,7 +416,7 @@ void TestX11Accessibility::bulletsOfAPageAreNoText()
     QCOMPARE(selected.text, QString());
 }
 
-/// What had the keyboard when PRIMARY was claimed did not say whether it is a password field.
+/// The object that had the focus when PRIMARY was claimed did not say whether it is a password field.
 void TestX11Accessibility::claimFromAnUnknownPlaceNeedsConfirmation()
 {
     bringForward("Editor");
@@ -430,7 +430,7 @@ void TestX11Accessibility::claimFromAnUnknownPlaceNeedsConfirmation()
     pressKey();
     settle();
     const Offer offer("open sesame");
-    // Until the question has been given up.
+    // Until the question has been abandoned.
     QTest::qWait(1500);
     m_application->manner().isSilent = false;
     QTRY_COMPARE(read().finding, Finding::Unknown);
@@ -451,7 +451,7 @@ void TestX11Accessibility::terminalsSelectionEndsByAClickIntoIt()
     settle();
     QTRY_COMPARE(read().text, u"output"_s);
 
-    // A key, a turn to another window and a click there leave it highlighted.
+    // It stays highlighted after a key, a switch to another window and a click there.
     pressKey();
     PlainWindow other(m_desktop->display(), u"Other"_s, QRect(600, 500, 400, 400));
     other.show();
@@ -491,7 +491,7 @@ void TestX11Accessibility::emacsClaimsAgainOnDeselecting()
     QCOMPARE(read().finding, Finding::Unknown);
     act("words");
     QTRY_COMPARE(read().text, u"words"_s);
-    // Control-G ends the region without a claim, and the same text may be selected again after it.
+    // Control-G ends the region without a claim, and the same text may be selected again afterwards.
     pressKey();
     QCOMPARE(read().finding, Finding::Unknown);
     QTest::qWait(300);

@@ -9,7 +9,7 @@
 using namespace Qt::StringLiterals;
 using namespace vesk;
 
-/// What docks leave of the screens of a desktop, and what other programs give for targets.
+/// The space that docks leave on the screens, and the targets that other programs list.
 class X11RulesTest : public QObject
 {
     Q_OBJECT

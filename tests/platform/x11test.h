@@ -10,17 +10,17 @@
 
 namespace vesk {
 
-/// A test of the platform itself on a desktop of its own, the same one for all functions.
+/// A test of the platform itself on a separate desktop, shared by all functions.
 class X11Test : public QObject
 {
     Q_OBJECT
 
 protected:
-    /// Returns once Vesk has heard everything that the server has said.
+    /// Returns once Vesk has received everything that the server has sent.
     void settle()
     {
         static_cast<void>(m_desktop->display().atom("VESK_TEST"));
-        // An answer comes after the events before it; they are read when the loop is about to wait.
+        // An answer arrives after all preceding events; they are handled when the loop is about to wait.
         static_cast<void>(m_connection->property(m_connection->root(), XCB_ATOM_WM_NAME));
         QCoro::waitFor(QCoro::sleepFor(std::chrono::milliseconds{20}));
     }

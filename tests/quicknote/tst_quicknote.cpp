@@ -17,7 +17,7 @@ using Mode = QuickNoteBox::Mode;
 
 namespace {
 
-/// The real box over the platform in memory.
+/// The real box over the in-memory platform.
 struct World : MemoryDesktop
 {
     World()
@@ -35,7 +35,7 @@ struct World : MemoryDesktop
                                                                      .toast = *toast});
     }
 
-    /// Opens the box and waits until it has the keyboard.
+    /// Opens the box and waits until it has the focus.
     [[nodiscard]] bool show(Mode mode) const
     {
         box->show(mode);
@@ -45,7 +45,7 @@ struct World : MemoryDesktop
     {
         QTest::keyClick(box->window(), key, modifiers);
     }
-    /// What comes while the key is held.
+    /// The repeats of a held key.
     void hold(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
     {
         for (const QEvent::Type type :
@@ -73,7 +73,7 @@ struct World : MemoryDesktop
         return all;
     }
     [[nodiscard]] QString draft() const { return box->model().text(); }
-    /// What the notice on the screen says; empty if there is none.
+    /// The text of the visible notice; empty if there is none.
     [[nodiscard]] QString notice() const
     {
         return toast->window().isVisible() ? toast->window().title() : QString();
@@ -87,7 +87,7 @@ struct World : MemoryDesktop
 
 } // namespace
 
-/// The quick-note box as the user meets it, by real keys in the real window.
+/// The quick-note box as the user sees it, with real keys in the real window.
 class QuickNoteTest : public QObject
 {
     Q_OBJECT
@@ -128,7 +128,7 @@ void QuickNoteTest::returnKeepsANote()
     m_world->type(u"Plan"_s);
     m_world->press(Qt::Key_Return, Qt::ShiftModifier);
     m_world->type(u"- pears "_s);
-    // Nothing more than a key of the editor.
+    // Just an ordinary key of the editor.
     m_world->press(Qt::Key_Return, Qt::ControlModifier);
     QVERIFY(m_world->box->isShowing());
     m_world->press(Qt::Key_Return);
@@ -150,14 +150,14 @@ void QuickNoteTest::heldReturnKeepsOneNote()
     QTest::keyPress(m_world->box->window(), Qt::Key_Return);
     m_world->hold(Qt::Key_Return);
     QCOMPARE(m_world->texts(), QStringList{u"tea"_s});
-    // It is held until another draft is there.
+    // Held until another draft is shown.
     QVERIFY(m_world->show(Mode::Note));
     m_world->type(u"milk"_s);
     m_world->hold(Qt::Key_Return);
     QCOMPARE(m_world->texts(), QStringList{u"tea"_s});
     QCOMPARE(m_world->draft(), u"milk"_s);
     QVERIFY(m_world->box->isShowing());
-    // Line breaks repeat, and letting go of Shift does not save them.
+    // Line breaks repeat, and releasing Shift does not turn them into saving.
     QTest::keyPress(m_world->box->window(), Qt::Key_Return, Qt::ShiftModifier);
     m_world->hold(Qt::Key_Return, Qt::ShiftModifier);
     m_world->hold(Qt::Key_Return);
@@ -176,7 +176,7 @@ void QuickNoteTest::heldReturnDoesNotKeepAChecklist()
     QVERIFY(m_world->texts().isEmpty());
     m_world->press(Qt::Key_Return);
     QCOMPARE(m_world->texts(), QStringList{u"\u2610 milk"_s});
-    // A save by Control-Return goes on with nothing, also when Control is let go.
+    // Nothing repeats after saving with Control-Return, even if Control is released.
     QVERIFY(m_world->show(Mode::Checklist));
     m_world->type(u"tea"_s);
     QTest::keyPress(m_world->box->window(), Qt::Key_Return, Qt::ControlModifier);
@@ -236,7 +236,7 @@ void QuickNoteTest::reopenedBoxHasItsDraftWithTheCaretAtTheEnd()
     QVERIFY(m_world->show(Mode::Note));
     m_world->type(u"s"_s);
     QCOMPARE(m_world->draft(), u"teas"_s);
-    // No later step of the coming up moves the caret away from where the user has put it.
+    // No later step of opening moves the caret from where the user has put it.
     m_world->press(Qt::Key_Home);
     QTest::qWait(200);
     m_world->type(u"s"_s);
@@ -268,7 +268,7 @@ void QuickNoteTest::goesWhenTheKeyboardDoes()
     QCOMPARE(m_world->draft(), u"tea"_s);
 }
 
-/// The input method of this test does not answer when it is asked to commit.
+/// This test's input method does not respond to requests to commit.
 void QuickNoteTest::closingAndSavingKeepWhatIsComposed()
 {
     QVERIFY(m_world->show(Mode::Note));
@@ -278,7 +278,7 @@ void QuickNoteTest::closingAndSavingKeepWhatIsComposed()
     QCOMPARE(m_world->draft(), u"ani"_s);
     QVERIFY(m_world->show(Mode::Note));
     m_world->compose(u"hao"_s);
-    // In the other mode the draft is parked with it.
+    // Switching modes sets the draft aside, including the composed text.
     m_world->box->show(Mode::Checklist);
     m_world->box->show(Mode::Note);
     QCOMPARE(m_world->draft(), u"anihao"_s);
@@ -304,7 +304,7 @@ void QuickNoteTest::standsOverTheMiddleOfThePointersScreen_data()
     QTest::addColumn<QPointF>("pointer");
     QTest::addColumn<qreal>("textScale");
     QTest::addColumn<QRectF>("frame");
-    // 26 % of the height that no dock takes lies above it.
+    // 26 % of the height without docks is above it.
     QTest::newRow("first screen") << QPointF(100, 100) << 1.0 << QRectF(510, 504, 580, 236);
     QTest::newRow("second, with a dock") << QPointF(2000, 400) << 1.0 << QRectF(1910, 358.6, 580, 236);
     QTest::newRow("larger texts") << QPointF(100, 100) << 1.5 << QRectF(365, 386, 870, 354);
@@ -330,11 +330,11 @@ void QuickNoteTest::fadesAndIsUsableMeanwhile()
     QVERIFY(m_world->show(Mode::Note));
     QTRY_COMPARE(m_world->box->window()->opacity(), 1.0);
     m_world->press(Qt::Key_Escape);
-    // The keyboard goes at once, the picture a little later.
+    // The focus moves on at once, the picture disappears a little later.
     QVERIFY(!m_world->box->isShowing());
     QVERIFY(!m_world->application.isActive());
     QVERIFY(m_world->box->window()->isVisible());
-    // Opened again before it is gone, it stays.
+    // If it is reopened before it is gone, it stays.
     m_world->box->show(Mode::Note);
     QTRY_COMPARE(m_world->box->window()->opacity(), 1.0);
     QVERIFY(m_world->box->window()->isVisible());

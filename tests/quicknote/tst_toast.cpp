@@ -57,7 +57,7 @@ void ToastTest::standsAboveTheBottom()
     QVERIFY(m_desktop->windows.frame().width() > shortNotice.width());
     QCOMPARE(m_desktop->windows.frame().center().x(), 800);
 
-    // That screen goes, and a smaller one is left.
+    // That screen is removed, and a smaller one is left.
     const QRectF left(0, 0, 800, 600);
     m_desktop->screens.setScreens({{.frame = left, .visibleFrame = left}});
     QCOMPARE(m_desktop->windows.frame().center().x(), 400);

@@ -21,18 +21,18 @@
 
 namespace vesk {
 
-/// The program over the platform in memory and a store in a file, but for its quick-note box and what the
-/// keys do.
+/// The program over the in-memory platform and a store in a file, without its quick-note box and without the
+/// code behind the keys.
 struct ProgramWorld : CaptureDesktop
 {
-    /// The date is now; `path` is that of the store.
+    /// Starts at `now`; `path` is the store's.
     ProgramWorld(const QString &path, Date now)
         : opened((clock.setNow(now), NotesStore::open(path, clock)))
         , keys(hotKeys, path + QStringLiteral(".keys"))
     {
     }
 
-    /// What the services need, with this box; `owners` have the checklist's combination for themselves.
+    /// The dependencies of the services, with this box; `owners` use the checklist combination themselves.
     [[nodiscard]] VeskServices::Needs servicesNeeds(QuickNoteBox &box,
                                                     std::span<const QStringView> owners = {})
     {

@@ -10,13 +10,13 @@
 
 namespace vesk {
 
-/// Where a test of the commands keeps its store; it outlives the program.
+/// Holds the store of a test of the commands; outlives the program.
 struct StoreFolder
 {
     QTemporaryDir folder;
 };
 
-/// The whole program but for its platform and the box.
+/// The whole program except for its platform and the box.
 struct ServicesWorld : StoreFolder, ProgramWorld
 {
     /// The quick-note box, without a window.
@@ -45,7 +45,7 @@ struct ServicesWorld : StoreFolder, ProgramWorld
         bool m_isExpected = false;
     };
 
-    /// `owners` have the checklist's combination for themselves.
+    /// `owners` use the checklist combination themselves.
     explicit ServicesWorld(std::span<const QStringView> owners = {})
         : ProgramWorld(folder.filePath(QStringLiteral("Notes.store")), MemoryClock().now())
         , services(servicesNeeds(box, owners))

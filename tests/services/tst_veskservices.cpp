@@ -11,7 +11,7 @@ using namespace vesk;
 
 Q_DECLARE_METATYPE(Command)
 
-/// What the global keys do.
+/// The effects of the global keys.
 class TestVeskServices : public QObject
 {
     Q_OBJECT
@@ -139,7 +139,7 @@ void TestVeskServices::commandsKeepTheirDistance()
     ServicesWorld world;
     world.select(u"one"_s);
     world.press(first);
-    // The time of day is none of the keys' business.
+    // The wall clock does not matter to the keys.
     world.clock.setNow(world.clock.now() - 3h);
     world.clock.advance(distance / 2);
     world.press(first);
@@ -173,7 +173,7 @@ void TestVeskServices::tooLongTextIsRefused()
 {
     QFETCH(const Command, command);
     ServicesWorld world;
-    // Two bytes each: the text is over the limit in bytes, not in characters.
+    // Two bytes each: the text exceeds the limit in bytes, not in characters.
     world.select(QString(kMaximumTextBytes / 2 + 1, u'ä'));
     world.press(command);
     QCOMPARE(ServicesWorld::notice(), u"The selection is too long to keep"_s);
@@ -190,7 +190,7 @@ void TestVeskServices::failedSaveIsNotConfirmed()
     ServicesWorld world;
     world.select(u"kept in memory"_s);
     {
-        // As another program's transaction does.
+        // Like another program's transaction.
         SQLite::Database other(world.folder.filePath(u"Notes.store"_s).toStdString(), SQLite::OPEN_READWRITE);
         other.exec("BEGIN IMMEDIATE");
         world.press(command);
@@ -226,7 +226,7 @@ void TestVeskServices::nothingSelected_data()
     QTest::newRow("prompt, no trust") << Command::SavePrompt << false << Mode() << QString();
 }
 
-/// Without the user's trust there is no selection, whatever is selected.
+/// Without the user's permission there is no selection, whatever is selected.
 void TestVeskServices::nothingSelected()
 {
     QFETCH(const Command, command);
@@ -243,7 +243,7 @@ void TestVeskServices::nothingSelected()
         world.box.close();
         world.clock.advance(3s);
     }
-    // The key asks, once in a run; Shift does not.
+    // The key asks once per run; Shift does not.
     const bool isAskedFor = !isTrusted && command != Command::SavePrompt;
     QCOMPARE(world.accessibility.askCount(), isAskedFor ? 1 : 0);
     QVERIFY(world.texts().isEmpty() && world.prompts().isEmpty());
@@ -251,7 +251,7 @@ void TestVeskServices::nothingSelected()
     QVERIFY(world.poster.posted().isEmpty());
 }
 
-/// An application that is busy gives no text although something is highlighted in it.
+/// A busy application provides no text although something is highlighted in it.
 void TestVeskServices::missingTextIsExplained()
 {
     const QString reason = u"Editor did not answer, so Vesk could not read what is selected there."_s;
@@ -283,11 +283,11 @@ void TestVeskServices::sameKeyClosesTheBox()
     world.clock.advance(1s);
     world.press(Command::CaptureChecklist);
     QVERIFY(!world.box.isShowing());
-    // Closing counts as a command, so the next press is a slip again.
+    // Closing counts as a command, so another press right after it is ignored.
     world.clock.advance(1999ms);
     world.press(Command::Capture);
     QVERIFY(world.texts().isEmpty() && !world.box.isShowing());
-    // The box does not let this one pass.
+    // The box ignores this press.
     world.box.show(QuickNoteBox::Mode::Note);
     world.press(Command::AddToChecklist);
     QVERIFY(world.texts().isEmpty() && world.box.isShowing());
@@ -319,7 +319,7 @@ void TestVeskServices::clipboardThatCannotBeKeptIsToldOf()
     world.clock.advance(1s);
     QVERIFY(world.poster.posted().isEmpty());
     QCOMPARE(world.box.isShowing() ? world.box.remark() : world.notice(), reason);
-    // The next time nothing is in the way.
+    // The next time, nothing is in the way.
     world.pasteboard.setSecret(false);
     world.box.close();
     world.clock.advance(20s);
@@ -329,8 +329,8 @@ void TestVeskServices::clipboardThatCannotBeKeptIsToldOf()
     QVERIFY(world.notice() != reason && world.box.remark() != reason);
 }
 
-/// The panel would take the keyboard away from the application that is being read, but the user does not
-/// wait for ever.
+/// The panel would take the focus from the application that is being read, but the user does not wait
+/// forever.
 void TestVeskServices::panelKeysWaitForAReadingNoLongerThanASecond()
 {
     ServicesWorld world;
@@ -347,7 +347,7 @@ void TestVeskServices::panelKeysWaitForAReadingNoLongerThanASecond()
     QVERIFY(!world.panelWindow.isShown() && !world.box.isShowing());
     world.clock.advance(1ms);
     QVERIFY(world.panelWindow.isShown());
-    // A later reading has a second of its own.
+    // A later reading has its own second.
     world.application.hide();
     world.clock.advance(20s);
     world.box.close();
@@ -358,7 +358,7 @@ void TestVeskServices::panelKeysWaitForAReadingNoLongerThanASecond()
     QVERIFY(!world.panelWindow.isShown());
     world.clock.advance(1ms);
     QVERIFY(world.panelWindow.isShown());
-    // The poster still waits, and goes before the clock does.
+    // The poster is still waiting, and must end before the clock does.
     world.clock.advance(20s);
 }
 
@@ -374,7 +374,7 @@ void TestVeskServices::doubleShiftIsHeardOnlyWithTrust()
         world.accessibility.setTrusted(isTrusted);
         world.select(text);
         world.tapShiftTwice();
-        // The one before may still be fading.
+        // The previous notice may still be fading.
         if (!notice.isEmpty())
             QCOMPARE(ServicesWorld::notice(), notice);
     }
@@ -383,7 +383,7 @@ void TestVeskServices::doubleShiftIsHeardOnlyWithTrust()
     QCOMPARE(world.sounds.played().size(), 3);
     QVERIFY(world.texts().isEmpty());
 
-    // A tap from before the trust was withdrawn is no half of a later one.
+    // A tap from before the permission was withdrawn does not count as half of a later double tap.
     world.clock.advance(5s);
     world.tap.setFlags({.held = Qt::ShiftModifier, .isCapsLocked = false, .time = {}});
     world.tap.setFlags({});

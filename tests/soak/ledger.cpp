@@ -14,7 +14,7 @@ bool isBox(QChar c)
     return c == u'\u2610' || c == u'\u2611';
 }
 
-/// Whether one box is the other way round, and all else the same.
+/// Whether exactly one checkbox is toggled and everything else is equal.
 bool isOneBoxTurned(const QString &before, const QString &after)
 {
     if (before.size() != after.size())

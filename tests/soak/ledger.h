@@ -11,8 +11,8 @@
 
 namespace vesk {
 
-/// What has to be in the store, kept beside it: each action says what it may do, and whatever else differs
-/// is a fault.
+/// The expected contents of the store, kept separately: each action declares what it may do, and any other
+/// difference is a fault.
 class Ledger final
 {
 public:
@@ -23,7 +23,7 @@ public:
         /// Pinned, or done.
         bool isMarked = false;
         Date createdAt{};
-        /// Of a prompt, that of its creation.
+        /// For a prompt, the date of its creation.
         Date updatedAt{};
         /// Where it was captured; empty if it was written in Vesk.
         QStringList source = {};
@@ -31,32 +31,31 @@ public:
     };
     using Entries = QMap<RecordId, Entry>;
 
-    /// What an action does to the store.
+    /// The effect of an action on the store.
     struct Effect
     {
-        /// Has to be there afterwards, once, and new.
+        /// Must be there afterwards, exactly once, as a new record.
         std::optional<QString> added = {};
-        /// `added` may as well not have happened.
+        /// Whether `added` is certain to happen.
         bool isAddedForSure = true;
         bool isPrompt = false;
         /// Whether `added` comes from another application.
         bool isCaptured = false;
-        /// Has to be gone.
+        /// Must be gone.
         std::optional<RecordId> removed = {};
-        /// Has to have another text, of which this is true.
+        /// Must have a different text that satisfies this.
         std::optional<RecordId> changed = {};
         std::function<bool(const QString &before, const QString &after)> isRight = {};
-        /// One of these may be removed, or one mark or one box of it turn.
+        /// Any one of these may be removed, or have its mark or one of its checkboxes toggled.
         QSet<RecordId> mayTouch = {};
-        /// All prompts that are done may go, together.
+        /// Whether all done prompts may be removed together.
         bool mayClearDone = false;
     };
 
     [[nodiscard]] static Entries read(NotesStore &store);
 
-    /// Compares with the store, which an action has changed, and takes its state over. Returns what is
-    /// wrong; empty if nothing is. A note that was open or is may have another text, if `openText` can
-    /// explain it.
+    /// Compares with the store after an action, and takes over its state. Returns what is wrong; empty if
+    /// nothing is. A note that is or was open may have a different text if `openText` can explain it.
     [[nodiscard]] QString follow(NotesStore &store, const Effect &effect, const QSet<RecordId> &openNotes,
                                  const OpenText &openText);
 

@@ -50,7 +50,7 @@ bool OpenText::explains(const RecordId &id, const QString &before, const QString
         return true;
     const qsizetype removal = std::max(m_selected.size(), m_reach.removal);
     for (const QString &each : m_reach.insertions + QStringList{QString()}) {
-        // A key may go elsewhere than the ones before it.
+        // A key may have a different target than the ones before it.
         const QString letters = lettersOf(each);
         for (qsizetype first = 0; first <= letters.size(); ++first) {
             for (qsizetype size = letters.size() - first; size >= 0; --size) {

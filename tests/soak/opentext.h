@@ -10,27 +10,27 @@
 
 namespace vesk {
 
-/// Which changes of an open note's text an action can explain. Goes by its letters alone: the editor makes
-/// white space and markers of what is typed, by rules that have tests of their own.
+/// Which changes of an open note's text an action can explain. Only compares letters: the editor turns what
+/// is typed into white space and markers by rules that have tests of their own.
 class OpenText final
 {
 public:
-    /// What an action can do to the text that has the keyboard.
+    /// What an action can do to the focused text.
     struct Reach
     {
-        /// Texts of which a part may be inserted.
+        /// Texts of which any part may be inserted.
         QStringList insertions = {};
-        /// How many letters may go in one place, beside those that are selected.
+        /// How many letters may be removed in one place, in addition to the selection.
         qsizetype removal = 0;
-        /// Whether an earlier text may come back, or the selected text go to another place.
+        /// Whether an earlier text may return, or the selected text move elsewhere.
         bool goesBack = false;
         bool moves = false;
     };
 
-    /// To be called before each action. `selected` is what is selected in the editor.
+    /// Must be called before each action. `selected` is the editor's selection.
     void begin(const QString &selected);
     [[nodiscard]] Reach &reach() { return m_reach; }
-    /// To be called after each key: an undoing may lead back to this text.
+    /// Must be called after each key: an undo may return to this text.
     void remember(const RecordId &id, const QString &text) { m_earlier[id].insert(lettersOf(text)); }
 
     [[nodiscard]] bool explains(const RecordId &id, const QString &before, const QString &after) const;

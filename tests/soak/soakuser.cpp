@@ -21,7 +21,7 @@ using Field = PanelModel::Field;
 
 namespace {
 
-/// What a user may have selected somewhere.
+/// Texts that a user may have selected somewhere.
 const QStringList kSelections{u"A line"_s,
                               u"Two\nlines"_s,
                               u"- one\n- two\n\n- three"_s,
@@ -33,7 +33,7 @@ const QStringList kSelections{u"A line"_s,
                               u"word "_s.repeated(40) + u"end"_s,
                               QString(u'\xd800') + u"lone"_s};
 
-/// The card that an item belongs to; null if none.
+/// The card that an item belongs to; null if there is none.
 RecordId cardOf(const QQuickItem *item)
 {
     while (item && !item->property("cardId").isValid())
@@ -41,14 +41,14 @@ RecordId cardOf(const QQuickItem *item)
     return item ? RecordId::fromString(item->property("cardId").toString()) : RecordId();
 }
 
-/// The window that the user's keys go to; null where that is another program's.
+/// The window that the user's keys go to; null if it is another program's.
 QQuickWindow *focusWindow()
 {
     auto *window = qobject_cast<QQuickWindow *>(QGuiApplication::focusWindow());
     return window && window->isVisible() ? window : nullptr;
 }
 
-/// How many letters a key that deletes may take, at most: a sign of several, and a word.
+/// The maximum number of letters that a deleting key may remove: a character of several, and a word.
 constexpr qsizetype kSign = 8;
 constexpr qsizetype kWord = 40;
 
@@ -112,20 +112,20 @@ std::optional<RecordId> SoakUser::newest(auto isWanted) const
     std::optional<RecordId> found;
     const Ledger::Entries &all = *m_entries;
     for (auto it = all.begin(); it != all.end(); ++it) {
-        // The identity decides between two of the same date.
+        // Identity decides between two with the same date.
         if (isWanted(*it) && (!found || it->updatedAt > all.value(*found).updatedAt))
             found = it.key();
     }
     return found;
 }
 
-/// What stands in the composer, or in the quick-note box, becomes a record.
+/// The draft in the composer or in the quick-note box becomes a record.
 void SoakUser::expectDraft(bool isSure)
 {
     PanelModel &panel = m_world->panel;
     QString text;
     if (!isInPanel()) {
-        // A key that was pressed before the box was closed may come while it fades away.
+        // A key pressed before the box was closed may arrive while it fades out.
         text = focusWindow() == m_world->box.window() ? m_world->box.model().body() : QString();
         isSure = isSure && m_world->box.isShowing() && !m_world->box.model().isChecklist();
     } else if (panel.keyboard()->activeField() == Field::Composer) {
@@ -139,15 +139,15 @@ void SoakUser::expectDraft(bool isSure)
     m_effect.isAddedForSure = isSure && !isMenuOpen() && !panel.guide()->isShown();
 }
 
-/// Any key and any click may touch the selected card, and a menu all that is done.
+/// Any key or click may affect the selected card, and a menu all done prompts.
 void SoakUser::expectAnything()
 {
     if (const auto &selected = m_world->panel.selection()->selected())
         m_effect.mayTouch.insert(*selected);
-    // A button in a card keeps the keyboard while another card is selected.
+    // A button in a card keeps the focus while another card is selected.
     if (focusWindow())
         m_effect.mayTouch.insert(cardOf(focusWindow()->activeFocusItem()));
-    // Return in the search takes the first card.
+    // Return in the search field takes the first card.
     PanelModel &panel = m_world->panel;
     const SectionedListModel &list = panel.tab() == PanelModel::Tab::Prompts
                                          ? static_cast<SectionedListModel &>(*panel.prompts())
@@ -196,7 +196,7 @@ void SoakUser::type()
     note(word);
     m_openText.reach().insertions = {word};
     for (const QChar letter : word) {
-        // Where a button has the keyboard, a space presses it.
+        // If a button has the focus, a space presses it.
         expectAnything();
         if (focusWindow())
             QTest::keyClick(focusWindow(), letter.toLatin1());
@@ -260,7 +260,7 @@ void SoakUser::capture()
     const bool hasSelection = pick(5) > 0;
     const QString text = hasSelection ? oneOf(kSelections) : QString();
     m_world->select(text);
-    // The last command and the last copy are long ago.
+    // The last command and the last copy must be long ago.
     m_world->clock.advance(10s);
     const Command command =
         oneOf(std::array{Command::Capture, Command::CaptureToLastNote, Command::CaptureChecklist});

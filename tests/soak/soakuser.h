@@ -12,23 +12,23 @@ namespace vesk {
 
 struct SoakWorld;
 
-/// A user who does anything at all, with the keyboard, the pointer and the desktop around the program.
+/// A user who does random things with the keyboard, the pointer and the desktop around the program.
 class SoakUser final
 {
 public:
-    /// The same seed does the same again, as long as the program does.
+    /// The same seed repeats the same actions, as long as the program behaves the same.
     explicit SoakUser(int seed)
         : m_random(static_cast<quint32>(seed))
     {
     }
 
-    /// Does one thing, and tells what may come of it in a store that holds this.
+    /// Performs one action, and returns its possible effects on a store with these contents.
     [[nodiscard]] Ledger::Effect act(SoakWorld &world, const Ledger::Entries &entries);
 
-    /// What the last thing may have done to a text that is open.
+    /// What the last action may have done to an open text.
     [[nodiscard]] const OpenText &openText() const { return m_openText; }
 
-    /// What was done last, in words.
+    /// A description of the last action.
     [[nodiscard]] const QString &done() const { return m_done; }
 
 private:
@@ -58,12 +58,12 @@ private:
         return list[pick(static_cast<qsizetype>(std::size(list)))];
     }
     [[nodiscard]] bool isInPanel() const;
-    /// The note or prompt with the newest date of those for which `isWanted` is true.
+    /// The newest note or prompt that `isWanted` accepts.
     [[nodiscard]] std::optional<RecordId> newest(auto isWanted) const;
     void note(const QString &what) { m_done += u' ' + what; }
     void expectDraft(bool isSure);
     void expectAnything();
-    /// To be called after each key.
+    /// Must be called after each key.
     void rememberOpenText();
 
     QRandomGenerator m_random;

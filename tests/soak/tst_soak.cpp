@@ -13,7 +13,7 @@
 #include <malloc.h>
 
 #ifdef __SANITIZE_ADDRESS__
-/// Of the sanitizer's own allocator; not every GCC comes with the header.
+/// From the sanitizer's allocator; not every GCC comes with the header.
 extern "C" size_t __sanitizer_get_current_allocated_bytes(); // NOLINT: not our name
 #endif
 
@@ -23,7 +23,7 @@ using namespace vesk;
 
 namespace {
 
-/// How much memory the program has asked for and not given back.
+/// How much memory the program has allocated and not released.
 qint64 heapBytes()
 {
 #ifdef __SANITIZE_ADDRESS__
@@ -44,7 +44,7 @@ bool hasChildren()
     return file.open(QIODevice::ReadOnly) && !file.readAll().trimmed().isEmpty();
 }
 
-/// A number that the environment may set.
+/// A number that an environment variable can set.
 int number(const char *name, int usual)
 {
     const int asked = qEnvironmentVariableIntValue(name);
@@ -53,8 +53,8 @@ int number(const char *name, int usual)
 
 } // namespace
 
-/// A user who does anything at all for a long time, beside what must be in the store then.
-/// VESK_SOAK_ACTIONS asks for a longer run, VESK_SOAK_SEED for another one.
+/// A user who does random things for a long time, compared with what the store must contain.
+/// VESK_SOAK_ACTIONS requests a longer run, VESK_SOAK_SEED a different one.
 class SoakTest : public QObject
 {
     Q_OBJECT
@@ -80,12 +80,12 @@ private:
     std::unique_ptr<SoakWorld> m_world;
     Ledger m_ledger;
     std::chrono::microseconds m_lastEdit{};
-    /// The last things done.
+    /// The most recent actions.
     QStringList m_history;
     int m_actions = 0;
 };
 
-/// The first time, or once more with what is in the file.
+/// Starts the program, the first time or again with what is in the file.
 void SoakTest::start()
 {
     const Date now = m_world ? m_world->clock.now() : Date{std::chrono::years{50}};
@@ -97,7 +97,7 @@ void SoakTest::start()
     m_lastEdit = {};
 }
 
-/// Leaves nothing that the user has made, so that what is held beside it can be compared.
+/// Removes everything that the user has created, so that the remaining memory can be compared.
 void SoakTest::clearAll()
 {
     while (Note *each = m_world->store.notes().first())
@@ -202,7 +202,7 @@ void SoakTest::anythingAtAll()
 {
     QTest::failOnWarning(QRegularExpression(u"Error:|oop detected"_s));
     start();
-    // The first quarter fills what is made once.
+    // During the first quarter, things that are created once are still created.
     std::array<qint64, 4> heap{};
     std::array<qsizetype, 4> descriptors{};
     for (size_t quarter = 0; quarter < heap.size(); ++quarter) {
@@ -218,10 +218,10 @@ void SoakTest::anythingAtAll()
         descriptors.at(quarter) = descriptorCount();
         QCOMPARE(findFaultInFile(), QString());
     }
-    // Not by qInfo, which is silent after so many warnings of the platform that shows nothing.
+    // Not qInfo, which falls silent after too many warnings of the offscreen platform.
     std::printf("Seed %d, %d actions. Heap after each quarter: %lld %lld %lld %lld KiB\n", m_seed, m_actions,
                 heap[0] / 1024, heap[1] / 1024, heap[2] / 1024, heap[3] / 1024);
-    // Caches still fill a little, mostly with fonts; what leaks with each action comes to far more.
+    // Caches still grow a little, mostly those of fonts; a leak with each action would be far more.
     QVERIFY(heap[3] < heap[1] * 5 / 4);
     QVERIFY(!hasChildren());
     QVERIFY(descriptors[3] <= descriptors[1]);

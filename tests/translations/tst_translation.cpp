@@ -13,12 +13,12 @@ namespace vesk {
 
 namespace {
 
-/// One message of a file that translators write.
+/// A message in a translation file.
 struct Message
 {
     QString context;
     QString source = {};
-    /// One, or for a message with a number, one for each plural.
+    /// One, or one for each plural form if the message contains a number.
     QStringList translations = {};
     bool isPlural = false;
     bool isFinished = true;
@@ -62,8 +62,8 @@ QStringList allOf(const QString &text, const QRegularExpression &pattern)
     return found;
 }
 
-/// What a translation has in common with its source: places for values, keys, and the dots of a command
-/// that asks for more.
+/// What a translation must share with its source: placeholders, keys, and the dots of a command that asks for
+/// more.
 QStringList fixedParts(const QString &text)
 {
     static const QRegularExpression pattern(
@@ -73,7 +73,7 @@ QStringList fixedParts(const QString &text)
 
 } // namespace
 
-/// Guards the files of translations, and the choice among them.
+/// Guards the translation files and the choice among them.
 class TranslationTest final : public QObject
 {
     Q_OBJECT
@@ -111,7 +111,7 @@ void TranslationTest::everyMessageIsTranslated()
         QVERIFY2(message.isFinished && !message.translations.isEmpty(), where.constData());
         for (const QString &text : message.translations) {
             QVERIFY2(!text.isEmpty(), where.constData());
-            // "One item" needs no place for the number.
+            // "One item" needs no placeholder for the number.
             const bool mayLackNumber = message.isPlural && text != message.translations.last();
             QStringList expected = fixedParts(message.source);
             if (mayLackNumber && !text.contains("%Ln"_L1) && !text.contains("%n"_L1))
@@ -144,7 +144,7 @@ void TranslationTest::firstLanguageThatThereIsIsTaken()
     QCOMPARE(translation.language().language(), taken);
     const QString quit = QCoreApplication::translate("vesk::DesktopMenus", "Quit");
     QCOMPARE(quit == u"Quit", taken == QLocale::English);
-    // English too has a file, for what is there once.
+    // English has a file too, for the singular forms.
     const QString one = QCoreApplication::translate("SectionHeader", "%Ln items", nullptr, 1);
     QCOMPARE(one == u"1 item", taken == QLocale::English);
 }
