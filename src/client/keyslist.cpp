@@ -21,7 +21,7 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(vesk::KeysReport)
 };
 
-QString spelt(const KeysReport::Key &key)
+QString stateOf(const KeysReport::Key &key)
 {
     if (key.state == "works"_L1)
         return Texts::tr("works");
@@ -35,6 +35,12 @@ QString spelt(const KeysReport::Key &key)
     for (const QString &name : key.takenBy)
         holders = holders.isEmpty() ? name : Texts::tr("%1 or %2").arg(holders, name);
     return holders.isEmpty() ? Texts::tr("taken by another program") : Texts::tr("taken by %1").arg(holders);
+}
+
+QString spelt(const KeysReport::Key &key)
+{
+    const QString state = stateOf(key);
+    return key.notIn.isEmpty() ? state : Texts::tr("%1, not in %2").arg(state, key.notIn.join(u", "_s));
 }
 
 } // namespace
@@ -71,6 +77,8 @@ QByteArray keysAsJson(const KeysReport &report)
         };
         if (key.state == "taken"_L1)
             object.insert(u"takenBy"_s, QJsonArray::fromStringList(key.takenBy));
+        if (!key.notIn.isEmpty())
+            object.insert(u"notIn"_s, QJsonArray::fromStringList(key.notIn));
         array.append(object);
     }
     return QJsonDocument(array).toJson();

@@ -11,7 +11,6 @@ namespace vesk {
 GlobalKeys::GlobalKeys(HotKeys &hotKeys, const QString &path)
     : m_hotKeys(hotKeys)
     , m_file(path)
-    , m_isLeft(kCommandsWithKeys)
 {
     for (const CommandRow &row : commandsWithKeys()) {
         m_keys.push_back({.command = row.command, .combination = row.combination});
@@ -36,13 +35,17 @@ void GlobalKeys::retry()
         Q_EMIT changed();
 }
 
-void GlobalKeys::setLeftToApplications(Command command, bool isLeft)
+void GlobalKeys::setFrontmost(const std::optional<QString> &bundleIdentifier)
 {
-    const auto place = static_cast<size_t>(command);
-    if (m_isLeft.at(place) == isLeft)
-        return;
-    m_isLeft.at(place) = isLeft;
-    retry();
+    m_frontmost = bundleIdentifier.value_or(QString());
+    const auto isLeftOtherwise = [this](const Key &key) { return key.isLeft != isException(key); };
+    if (std::ranges::any_of(m_keys, isLeftOtherwise))
+        retry();
+}
+
+bool GlobalKeys::isException(const Key &key) const
+{
+    return key.exceptions.contains(m_frontmost, Qt::CaseInsensitive);
 }
 
 void GlobalKeys::setShiftHeard(bool isHeard)
@@ -55,7 +58,8 @@ void GlobalKeys::setShiftHeard(bool isHeard)
 
 bool GlobalKeys::isDoubleShiftWanted() const
 {
-    return key(Command::SavePrompt).combination == kDoubleShift;
+    const Key &prompt = key(Command::SavePrompt);
+    return prompt.combination == kDoubleShift && !prompt.isLeft;
 }
 
 void GlobalKeys::followChange()
@@ -72,9 +76,12 @@ bool GlobalKeys::apply()
     KeySettings settings = readKeySettings(m_file.text(), &m_hotKeys);
     // Release old combinations before claiming any: two commands may have swapped theirs.
     for (size_t i = 0; i < m_keys.size(); ++i) {
-        if (m_keys.at(i).combination != settings.combinations.at(i) || m_isLeft.at(i))
+        Key &key = m_keys.at(i);
+        key.exceptions = settings.exceptions.at(i);
+        key.isLeft = isException(key);
+        if (key.combination != settings.combinations.at(i) || key.isLeft)
             m_claims.at(i)->unregisterKey();
-        m_keys.at(i).combination = settings.combinations.at(i);
+        key.combination = settings.combinations.at(i);
     }
     for (size_t i = 0; i < m_keys.size(); ++i) {
         const State state = claim(i);
@@ -98,7 +105,7 @@ GlobalKeys::State GlobalKeys::claim(size_t place)
         return State::Off;
     if (combination == kDoubleShift)
         return m_isShiftHeard ? State::Works : State::NoAccess;
-    if (m_isLeft.at(place))
+    if (m_keys.at(place).isLeft)
         return State::Works;
     return m_claims.at(place)->registerKey(*combination) ? State::Works : State::Taken;
 }

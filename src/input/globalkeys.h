@@ -35,11 +35,13 @@ public:
         /// Nullopt if it is switched off.
         std::optional<KeyCombination> combination;
         State state = State::Off;
+        /// The identifiers of the applications that keep the combination while they are in front, as the user
+        /// wants it.
+        QStringList exceptions = {};
+        /// Whether one of them is in front.
+        bool isLeft = false;
 
-        friend bool operator==(const Key &left, const Key &right)
-        {
-            return left.combination == right.combination && left.state == right.state;
-        }
+        friend bool operator==(const Key &, const Key &) = default;
     };
 
     /// Claims nothing yet. `path` is the user's file, which need not exist.
@@ -50,15 +52,15 @@ public:
     /// Tries again to claim what was taken, in case the other program has given it up.
     void retry();
 
-    /// Leaves a combination to the applications, or claims it again.
-    void setLeftToApplications(Command command, bool isLeft);
+    /// Must be called with the application that has come to the front: some combinations may be its own.
+    void setFrontmost(const std::optional<QString> &bundleIdentifier);
     /// Must be called whenever Vesk starts or stops listening to Shift.
     void setShiftHeard(bool isHeard);
 
     /// In the order of `commandsWithKeys()`.
     [[nodiscard]] const std::vector<Key> &keys() const { return m_keys; }
     [[nodiscard]] const Key &key(Command command) const { return m_keys.at(static_cast<size_t>(command)); }
-    /// Whether the user wants two taps of Shift to save a prompt.
+    /// Whether two taps of Shift save a prompt in the application in front.
     [[nodiscard]] bool isDoubleShiftWanted() const;
     /// The programs one of which has a taken combination; empty if none is taken, or the platform cannot
     /// tell.
@@ -78,6 +80,8 @@ Q_SIGNALS:
 
 private:
     void followChange();
+    /// Whether the application in front keeps this combination.
+    [[nodiscard]] bool isException(const Key &key) const;
     /// Claims what can be claimed. Returns whether anything has changed.
     bool apply();
     [[nodiscard]] State claim(size_t place);
@@ -86,7 +90,7 @@ private:
     KeysFile m_file;
     std::vector<Key> m_keys;
     std::vector<std::unique_ptr<GlobalHotKey>> m_claims;
-    std::vector<bool> m_isLeft;
+    QString m_frontmost;
     QStringList m_holders;
     QStringList m_problems;
     bool m_isStarted = false;

@@ -46,6 +46,18 @@ std::optional<Qt::KeyboardModifier> findModifier(QStringView name)
     return found == kModifierNames.end() ? std::nullopt : std::optional(found->modifier);
 }
 
+/// Identifiers that are separated by commas or spaces; the ending of a desktop entry is left out.
+QStringList applicationsIn(const QString &text)
+{
+    static const QRegularExpression separators(u"[,\\s]+"_s);
+    QStringList applications = text.split(separators, Qt::SkipEmptyParts);
+    for (QString &application : applications) {
+        if (application.endsWith(".desktop"_L1))
+            application.chop(QLatin1StringView(".desktop").size());
+    }
+    return applications;
+}
+
 /// A combination, or one sentence that says why the text is not one.
 struct ParsedCombination
 {
@@ -158,6 +170,16 @@ private:
             return;
         }
         line(row) = number;
+        static const QRegularExpression exceptPattern(u"^(.*?)\\s*,\\s*not in\\s+(.+)$"_s,
+                                                      QRegularExpression::CaseInsensitiveOption);
+        const QRegularExpressionMatch except = exceptPattern.match(value);
+        if (except.hasMatch())
+            m_settings.exceptions.at(static_cast<size_t>(row.command)) = applicationsIn(except.captured(2));
+        setCombination(row, except.hasMatch() ? except.captured(1) : value, number);
+    }
+
+    void setCombination(const CommandRow &row, const QString &value, int number)
+    {
         if (value.isEmpty() || value.compare("none"_L1, Qt::CaseInsensitive) == 0) {
             choice(row).reset();
             return;

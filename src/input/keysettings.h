@@ -15,6 +15,9 @@ struct KeySettings
 {
     /// In the order of `commandsWithKeys()`; nullopt for one that is switched off.
     std::array<std::optional<KeyCombination>, kCommandsWithKeys> combinations;
+    /// In the same order: the identifiers of applications that keep the combination for themselves while they
+    /// are in front.
+    std::array<QStringList, kCommandsWithKeys> exceptions;
     /// The problems in the user's lines, one or two sentences each.
     QStringList problems;
 

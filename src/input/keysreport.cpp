@@ -16,6 +16,7 @@ const QString kKeys = u"keys"_s;
 const QString kPurpose = u"purpose"_s;
 const QString kState = u"state"_s;
 const QString kTakenBy = u"takenBy"_s;
+const QString kNotIn = u"notIn"_s;
 
 QString nameOf(GlobalKeys::State state)
 {
@@ -52,6 +53,7 @@ KeysReport KeysReport::of(const GlobalKeys &keys)
         key.state = nameOf(each.state);
         if (each.state == GlobalKeys::State::Taken)
             key.takenBy = keys.holders();
+        key.notIn = each.exceptions;
         report.keys.append(key);
     }
     return report;
@@ -63,6 +65,7 @@ KeysReport KeysReport::withoutVesk(const QString &fileText)
     KeysReport report{.keys = {}, .problems = settings.problems};
     for (const CommandRow &row : commandsWithKeys()) {
         Key key = keyOf(row.command, settings.of(row.command), nullptr);
+        key.notIn = settings.exceptions.at(static_cast<size_t>(row.command));
         key.state = key.keys.isEmpty() ? nameOf(GlobalKeys::State::Off) : u"unknown"_s;
         report.keys.append(key);
     }
@@ -77,7 +80,8 @@ QList<QVariantMap> KeysReport::toMaps() const
                      {kKeys, key.keys},
                      {kPurpose, key.purpose},
                      {kState, key.state},
-                     {kTakenBy, key.takenBy}});
+                     {kTakenBy, key.takenBy},
+                     {kNotIn, key.notIn}});
     }
     return maps;
 }
@@ -90,7 +94,8 @@ KeysReport KeysReport::fromMaps(const QList<QVariantMap> &maps, const QStringLis
                             .keys = map.value(kKeys).toString(),
                             .purpose = map.value(kPurpose).toString(),
                             .state = map.value(kState).toString(),
-                            .takenBy = map.value(kTakenBy).toStringList()});
+                            .takenBy = map.value(kTakenBy).toStringList(),
+                            .notIn = map.value(kNotIn).toStringList()});
     }
     return report;
 }

@@ -28,6 +28,8 @@ public:
         QString state;
         /// The programs one of which has the combination; empty if it is not taken or nobody can tell.
         QStringList takenBy;
+        /// The identifiers of the applications that keep the combination while they are in front.
+        QStringList notIn = {};
     };
 
     QList<Key> keys;

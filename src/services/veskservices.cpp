@@ -97,10 +97,11 @@ void VeskServices::start()
     m_needs.keys.start();
 
     const std::optional<RunningApplication> frontmost = m_needs.workspace.frontmostApplication();
-    updateChecklistKey(frontmost ? frontmost->bundleIdentifier : std::nullopt);
-    connect(
-        &m_needs.workspace, &Workspace::didActivateApplication, this,
-        [this](const RunningApplication &application) { updateChecklistKey(application.bundleIdentifier); });
+    m_needs.keys.setFrontmost(frontmost ? frontmost->bundleIdentifier : std::nullopt);
+    connect(&m_needs.workspace, &Workspace::didActivateApplication, this,
+            [this](const RunningApplication &application) {
+                m_needs.keys.setFrontmost(application.bundleIdentifier);
+            });
 
     connect(&m_needs.accessibility, &Accessibility::trustChanged, this, &VeskServices::followTrust);
     followTrust();
@@ -185,14 +186,6 @@ void VeskServices::followTrust()
     else
         m_doubleShift.stop();
     m_needs.keys.setShiftHeard(isTrusted);
-}
-
-void VeskServices::updateChecklistKey(const std::optional<QString> &frontmostBundleID)
-{
-    const bool isOwners = frontmostBundleID
-                          && std::ranges::find(m_needs.checklistKeyOwners, *frontmostBundleID)
-                                 != m_needs.checklistKeyOwners.end();
-    m_needs.keys.setLeftToApplications(Command::CaptureChecklist, isOwners);
 }
 
 bool VeskServices::isWithinGap(Instant &last) const

@@ -17,7 +17,6 @@
 
 #include <chrono>
 #include <optional>
-#include <span>
 
 namespace vesk {
 
@@ -51,8 +50,6 @@ public:
         PanelWindow &panelWindow;
         QuickNoteBox &quickNote;
         Toast &toast;
-        /// Identifiers of applications that keep the checklist combination for themselves.
-        std::span<const QStringView> checklistKeyOwners = {};
     };
 
     explicit VeskServices(const Needs &needs);
@@ -64,10 +61,6 @@ public:
     /// Carries out a command, wherever it came from. While a selection is being read, a command that takes
     /// the focus waits, for at most a second. `Quit` only emits `quitRequested()`.
     void perform(Command command);
-
-    /// Gives up the checklist combination while an application that uses it is in front, and claims it again
-    /// afterwards.
-    void updateChecklistKey(const std::optional<QString> &frontmostBundleID);
 
     /// Asks the user for permission to read, at most once per run.
     void askForAccessOnce();

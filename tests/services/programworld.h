@@ -2,7 +2,6 @@
 #pragma once
 
 #include "../capture/capturedesktop.h"
-#include "services/veskservices.h"
 #include "components/surroundings.h"
 #include "editor/lentpasteboards.h"
 #include "input/globalkeys.h"
@@ -16,6 +15,8 @@
 #include "platform/memory/memorysounds.h"
 #include "platform/memory/memorywindows.h"
 #include "quicknote/toast.h"
+#include "services/veskservices.h"
+#include "virtualdesktop/files.h"
 
 #include <QQmlEngine>
 
@@ -25,16 +26,16 @@ namespace vesk {
 /// code behind the keys.
 struct ProgramWorld : CaptureDesktop
 {
-    /// Starts at `now`; `path` is the store's.
-    ProgramWorld(const QString &path, Date now)
+    /// The date is now; `path` is that of the store, `keysFile` the user's choice of keys.
+    ProgramWorld(const QString &path, Date now, const QByteArray &keysFile = {})
         : opened((clock.setNow(now), NotesStore::open(path, clock)))
-        , keys(hotKeys, path + QStringLiteral(".keys"))
+        , keysPath(written(path + QStringLiteral(".keys"), keysFile))
+        , keys(hotKeys, keysPath)
     {
     }
 
-    /// The dependencies of the services, with this box; `owners` use the checklist combination themselves.
-    [[nodiscard]] VeskServices::Needs servicesNeeds(QuickNoteBox &box,
-                                                    std::span<const QStringView> owners = {})
+    /// What the services need, with this box.
+    [[nodiscard]] VeskServices::Needs servicesNeeds(QuickNoteBox &box)
     {
         return {.clock = clock,
                 .keys = keys,
@@ -47,10 +48,13 @@ struct ProgramWorld : CaptureDesktop
                 .panel = panel,
                 .panelWindow = panelWindow,
                 .quickNote = box,
-                .toast = toast,
-                .checklistKeyOwners = owners};
+                .toast = toast};
     }
 
+    [[nodiscard]] static QString written(const QString &path, const QByteArray &text)
+    {
+        return !text.isEmpty() && !writeFile(path, text) ? QString() : path;
+    }
     void tapShiftTwice()
     {
         for (const auto held : {Qt::ShiftModifier, Qt::NoModifier, Qt::ShiftModifier, Qt::NoModifier})
@@ -63,6 +67,7 @@ struct ProgramWorld : CaptureDesktop
     MemoryApplication application;
     MemoryDefaults defaults;
     MemoryHotKeys hotKeys;
+    QString keysPath;
     GlobalKeys keys;
     MemoryPasteboard primary;
     MemoryScreens screens;

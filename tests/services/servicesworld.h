@@ -45,10 +45,10 @@ struct ServicesWorld : StoreFolder, ProgramWorld
         bool m_isExpected = false;
     };
 
-    /// `owners` use the checklist combination themselves.
-    explicit ServicesWorld(std::span<const QStringView> owners = {})
-        : ProgramWorld(folder.filePath(QStringLiteral("Notes.store")), MemoryClock().now())
-        , services(servicesNeeds(box, owners))
+    /// `keysFile` is the user's choice of keys.
+    explicit ServicesWorld(const QByteArray &keysFile = {})
+        : ProgramWorld(folder.filePath(QStringLiteral("Notes.store")), MemoryClock().now(), keysFile)
+        , services(servicesNeeds(box))
     {
         services.start();
     }

@@ -35,7 +35,7 @@ private Q_SLOTS:
     void clipboardThatCannotBeKeptIsToldOf_data() { commands(); }
     void clipboardThatCannotBeKeptIsToldOf();
     void doubleShiftIsHeardOnlyWithTrust();
-    void checklistKeyIsLeftToItsOwner();
+    void keysAreLeftToTheApplicationsThatTheUserNames();
 
 private:
     static void commands();
@@ -173,12 +173,12 @@ void TestVeskServices::tooLongTextIsRefused()
 {
     QFETCH(const Command, command);
     ServicesWorld world;
-    // Two bytes each: the text exceeds the limit in bytes, not in characters.
-    world.select(QString(kMaximumTextBytes / 2 + 1, u'ä'));
+    // Two bytes each: the text is over the limit in bytes, not in characters.
+    world.select(QString(noterules::kMaximumBytes / 2 + 1, u'ä'));
     world.press(command);
     QCOMPARE(ServicesWorld::notice(), u"The selection is too long to keep"_s);
     world.clock.advance(3s);
-    world.select(QString(kMaximumTextBytes / 2, u'ä'));
+    world.select(QString(noterules::kMaximumBytes / 2, u'ä'));
     world.press(command);
     QCOMPARE(world.texts().size() + world.prompts().size(), 1);
     QVERIFY(ServicesWorld::notice().startsWith(u"Saved to "_s));
@@ -395,17 +395,21 @@ void TestVeskServices::doubleShiftIsHeardOnlyWithTrust()
     QCOMPARE(world.prompts().size(), 3);
 }
 
-void TestVeskServices::checklistKeyIsLeftToItsOwner()
+void TestVeskServices::keysAreLeftToTheApplicationsThatTheUserNames()
 {
-    static constexpr QStringView kOwners[]{u"org.example.Files"};
-    ServicesWorld world(kOwners);
+    ServicesWorld world("capture --checklist = Super+Alt+C, not in org.example.Files.desktop other\n"
+                        "save-prompt = Shift Shift, not in org.example.Files\n");
     const KeyCombination key = combinationOf(Command::CaptureChecklist);
     world.select(u"text"_s);
     world.bringForward(1, u"App"_s, u"org.example.Files"_s);
     QVERIFY(!world.hotKeys.press(key));
     QVERIFY(world.hotKeys.press(combinationOf(Command::AddToChecklist)));
+    world.tapShiftTwice();
+    QVERIFY(world.prompts().isEmpty());
     world.bringForward(2, u"App"_s);
     QVERIFY(world.hotKeys.press(key));
+    world.tapShiftTwice();
+    QCOMPARE(world.prompts().size(), 1);
     world.bringForward(3, u"App"_s, u"org.example.Files"_s);
     world.bringForward(4, u"App"_s, u"org.example.files"_s);
     world.bringForward(5, u"App"_s, u"org.example.Editor"_s);
