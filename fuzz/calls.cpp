@@ -44,7 +44,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
     static QString added;
     static const RemoteControl control(service, {.addNote = [](const QString &text) {
                                            added = text;
-                                           return true;
+                                           return noterules::Kept{.outcome = noterules::Outcome::Added};
                                        }});
     static DBusMenu menu({{.label = QStringLiteral("One_"), .action = [] {}}, {}}, &service);
 
@@ -56,7 +56,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
     added.clear();
     const QString text = anyString(data);
     control.AddNote(text, QDBusMessage());
-    check(added == text.trimmed());
+    check(added == text);
 
     service.Activate({{anyString(data), anyString(data)}});
     service.Open(anyStrings(data), {});

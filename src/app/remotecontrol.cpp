@@ -43,25 +43,20 @@ void RemoteControl::Quit(const QDBusMessage &message) const
 
 void RemoteControl::AddNote(const QString &text, const QDBusMessage &message) const
 {
-    const QString trimmed = text.trimmed();
-    if (trimmed.isEmpty()) {
+    using Outcome = noterules::Outcome;
+    if (!m_doors.addNote)
+        return refuse(message, QDBusError::Failed, m_refusal);
+    const noterules::Kept kept = m_doors.addNote(text);
+    qCDebug(appLog) << "bus call" << message.member() << "saved:" << kept.problem.isEmpty();
+    if (kept.outcome == Outcome::Empty)
         refuse(message, QDBusError::InvalidArgs, tr("There is no text to add."));
-        return;
-    }
-    if (trimmed.toUtf8().size() > kMaximumTextBytes) {
+    else if (kept.outcome == Outcome::TooLong)
         refuse(message, QDBusError::LimitsExceeded, tr("The text is too long for a note."));
-        return;
-    }
-    if (!m_doors.addNote) {
-        refuse(message, QDBusError::Failed, m_refusal);
-        return;
-    }
-    const QString problem = m_doors.addNote(trimmed);
-    qCDebug(appLog) << "bus call" << message.member() << "saved:" << problem.isEmpty();
-    // The store keeps it and writes it when the disk allows.
-    if (!problem.isEmpty())
-        refuse(message, QDBusError::Failed,
-               tr("The note was added but is not on the disk yet. Do not add it again. %1").arg(problem));
+    else if (!kept.problem.isEmpty())
+        // The store keeps it and writes it when the disk allows.
+        refuse(
+            message, QDBusError::Failed,
+            tr("The note was added but is not on the disk yet. Do not add it again. %1").arg(kept.problem));
 }
 
 QList<QVariantMap> RemoteControl::Keys(QStringList &problems) const

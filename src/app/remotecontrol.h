@@ -3,6 +3,7 @@
 
 #include "commands/command.h"
 #include "input/keysreport.h"
+#include "notes/noterules.h"
 
 #include <QDBusAbstractAdaptor>
 #include <QDBusContext>
@@ -30,8 +31,8 @@ public:
         std::function<void(Command)> perform = {};
         /// Works from the first moment to the last, as `perform` does not.
         std::function<void()> quit = {};
-        /// Saves the text as a new note. Returns why it is not on the disk yet; empty if it is.
-        std::function<QString(const QString &)> addNote = {};
+        /// Adds a note, by the rules of adding one.
+        std::function<noterules::Kept(const QString &)> addNote = {};
         std::function<KeysReport()> keys = {};
     };
 

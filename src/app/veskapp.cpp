@@ -140,28 +140,25 @@ void VeskApp::offerCommands(Desktop &desktop, NotesStore &store, ApplicationServ
     // The service holds this callback and may call it after this object is destroyed.
     const QPointer<VeskApp> self(this);
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the service owns it.
-    m_remoteControl =
-        new RemoteControl(service, {
-                                       .perform =
-                                           [self](Command command) {
-                                               if (!self.isNull())
-                                                   self->m_services.perform(command);
-                                           },
-                                       .quit = [] { QCoreApplication::exit(0); },
-                                       .addNote =
-                                           [&clock = desktop.clock, &store](const QString &text) {
-                                               store.insert(std::make_unique<Note>(clock, text));
-                                               return store.save() ? QString() : store.problem();
-                                           },
-                                       .keys =
-                                           [self] {
-                                               if (self.isNull())
-                                                   return KeysReport();
-                                               // The caller may just have freed a combination.
-                                               self->m_keys.retry();
-                                               return KeysReport::of(self->m_keys);
-                                           },
-                                   });
+    m_remoteControl = new RemoteControl(
+        service, {
+                     .perform =
+                         [self](Command command) {
+                             if (!self.isNull())
+                                 self->m_services.perform(command);
+                         },
+                     .quit = [] { QCoreApplication::exit(0); },
+                     .addNote = [&clock = desktop.clock,
+                                 &store](const QString &text) { return noterules::add(store, clock, text); },
+                     .keys =
+                         [self] {
+                             if (self.isNull())
+                                 return KeysReport();
+                             // The caller may just have freed a combination.
+                             self->m_keys.retry();
+                             return KeysReport::of(self->m_keys);
+                         },
+                 });
 }
 
 void VeskApp::tellOfKeys() const

@@ -79,7 +79,7 @@ public:
     /// Returns the selected text, or else what the user copied within the last 8 seconds. Returns nothing if
     /// the user has not agreed to reading. If the selection cannot be read, makes the application copy it and
     /// then restores the pasteboard. In a browser's address bar, returns the whole address even if the
-    /// browser shows only part of it. Texts of more than `kMaximumTextBytes` may be cut off beyond that size.
+    /// browser shows only part of it. Texts of more than `kMaximumReadBytes` may be cut off beyond that size.
     QCoro::Task<Reading> readSelection();
 
 private:

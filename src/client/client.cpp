@@ -4,10 +4,10 @@
 #include "client/keyslist.h"
 #include "client/noteslist.h"
 #include "input/keysfile.h"
+#include "notes/noterules.h"
 #include "notes/notesreader.h"
 #include "notes/notesstore.h"
 #include "notes/storeadvice.h"
-#include "platform/accessibility.h"
 #include "platform/freedesktop/coredumps.h"
 #include "platform/freedesktop/systemclock.h"
 
@@ -42,7 +42,8 @@ QString noBus()
 
 QString tooLong()
 {
-    return Client::tr("The text is too long: a note can have up to %1 MB.").arg(kMaximumTextBytes >> 20);
+    return Client::tr("The text is too long: a note can have up to %1 MB.")
+        .arg(noterules::kMaximumBytes >> 20);
 }
 
 int outcome(const Remote::Answer &answer)
@@ -182,7 +183,7 @@ int Client::addInput()
     QByteArray bytes;
     for (QByteArray part = input.read(kPart); !part.isEmpty(); part = input.read(kPart)) {
         bytes += part;
-        if (bytes.size() > kMaximumTextBytes) {
+        if (bytes.size() > noterules::kMaximumBytes) {
             sayError(tooLong());
             return kFailed;
         }
@@ -198,12 +199,12 @@ int Client::addInput()
 
 int Client::add(const QString &text)
 {
-    const QString trimmed = text.trimmed();
+    const QString trimmed = markup::trimmed(text);
     if (trimmed.isEmpty()) {
         sayError(tr("There is no text to add."));
         return kFailed;
     }
-    if (trimmed.toUtf8().size() > kMaximumTextBytes) {
+    if (noterules::isTooLong(trimmed)) {
         sayError(tooLong());
         return kFailed;
     }
@@ -233,10 +234,10 @@ int Client::addToStore(const QString &text)
         sayStoreError(tr("Could not open the notes store: %1").arg(opened.error), opened.fault);
         return kFailed;
     }
-    opened.store->insert(std::make_unique<Note>(clock, text));
-    if (!opened.store->save()) {
+    const noterules::Kept kept = noterules::add(*opened.store, clock, text);
+    if (!kept.problem.isEmpty()) {
         sayError(tr("The note could not be written to %1.").arg(path));
-        sayError(opened.store->problem());
+        sayError(kept.problem);
         return kFailed;
     }
     return kDone;

@@ -5,32 +5,30 @@ namespace vesk::promptrules {
 
 namespace {
 
-/// Whether the prompt is durable. If not, nothing is lost: it stays pending, and the store tries again
-/// by itself.
-bool keep(NotesStore &store, const Clock &clock, const QString &text, Prompt::Origin origin)
+Kept insert(NotesStore &store, const Clock &clock, const QString &text, Prompt::Origin origin)
 {
+    if (text.isEmpty())
+        return {.outcome = Outcome::Empty};
+    if (noterules::isTooLong(text))
+        return {.outcome = Outcome::TooLong};
     store.insert(std::make_unique<Prompt>(clock, text, origin));
-    return store.save();
+    return {.outcome = Outcome::Added, .problem = store.save() ? QString() : store.problem()};
 }
 
 } // namespace
 
-SaveOutcome saveFromSelection(NotesStore &store, const Clock &clock, const QString &text)
+Kept keepSelection(NotesStore &store, const Clock &clock, const QString &text)
 {
     // Stored texts are well-formed, so the new one is compared as it would be stored.
     const Prompt *newest = store.prompts().first();
     if (newest != nullptr && newest->text() == markup::wellFormed(text))
-        return SaveOutcome::AlreadyThere;
-    return keep(store, clock, text, Prompt::Origin::Captured) ? SaveOutcome::Saved : SaveOutcome::Pending;
+        return {.outcome = Outcome::AlreadyThere};
+    return insert(store, clock, text, Prompt::Origin::Captured);
 }
 
-bool saveFollowUp(NotesStore &store, const Clock &clock, const QString &text)
+Kept addTyped(NotesStore &store, const Clock &clock, const QString &text)
 {
-    const QString trimmed = markup::trimmed(text);
-    if (trimmed.isEmpty())
-        return false;
-    keep(store, clock, trimmed, Prompt::Origin::FollowUp);
-    return true;
+    return insert(store, clock, markup::trimmed(text), Prompt::Origin::FollowUp);
 }
 
 void clearDone(NotesStore &store)

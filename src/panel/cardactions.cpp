@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panel/cardactions.h"
 
-#include "notes/notesstore.h"
+#include "notes/promptrules.h"
 #include "panel/cardselection.h"
 #include "panel/opennote.h"
 
@@ -101,10 +101,7 @@ void CardActions::openSource(const QString &id)
 
 void CardActions::clearDonePrompts()
 {
-    const QList<Prompt *> done = m_store.donePrompts();
-    for (Prompt *prompt : done)
-        m_store.remove(*prompt);
-    save();
+    promptrules::clearDone(m_store);
 }
 
 void CardActions::activate(const QString &id)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panel/panelmodel.h"
 
-#include "notes/notesstore.h"
+#include "notes/promptrules.h"
 #include "panel/searchtext.h"
 #include "platform/accessibility.h"
 
@@ -35,20 +35,19 @@ PanelModel::PanelModel(NotesStore &store, Clock &clock, Defaults &defaults, Appl
 
 void PanelModel::commitDraft()
 {
-    const QString text = markup::trimmed(m_draft);
-    if (text.isEmpty())
+    using Outcome = noterules::Outcome;
+    const bool isPrompt = m_tab == Tab::Prompts;
+    const noterules::Kept kept = isPrompt ? promptrules::addTyped(m_store, m_clock, m_draft)
+                                          : noterules::addTyped(m_store, m_clock, m_draft);
+    if (kept.outcome == Outcome::TooLong)
+        setDraftProblem(tr("This text is too long for a note."));
+    // What could not be written stays in the store, which tries again and has the panel say so.
+    if (kept.outcome != Outcome::Added)
         return;
     setSearch({});
-    if (m_tab == Tab::Prompts) {
-        m_store.insert(std::make_unique<Prompt>(m_clock, text, Prompt::Origin::FollowUp));
-    } else {
-        const Note &note = m_store.insert(std::make_unique<Note>(m_clock, markup::expandMarkup(text)));
-        // Make sure that the new note is visible.
-        if (m_tab == Tab::Checklists && !note.progress())
-            setTab(Tab::Notes);
-    }
-    // The store keeps what could not be written, tries again, and the panel reports it.
-    static_cast<void>(m_store.save());
+    // The new note is to be seen.
+    if (m_tab == Tab::Checklists && !m_store.notes().first()->progress())
+        setTab(Tab::Notes);
     setDraft({});
 }
 
@@ -74,7 +73,7 @@ bool PanelModel::isTrusted() const
 
 QString PanelModel::problem() const
 {
-    for (const QString &each : {m_store.problem(), m_store.incident()}) {
+    for (const QString &each : {m_draftProblem, m_store.problem(), m_store.incident()}) {
         if (!each.isEmpty())
             return each;
     }
@@ -165,6 +164,15 @@ void PanelModel::setDraft(const QString &draft)
         return;
     m_draft = draft;
     Q_EMIT draftChanged();
+    setDraftProblem({});
+}
+
+void PanelModel::setDraftProblem(const QString &problem)
+{
+    if (m_draftProblem == problem)
+        return;
+    m_draftProblem = problem;
+    Q_EMIT problemChanged();
 }
 
 } // namespace vesk

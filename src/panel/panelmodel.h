@@ -113,8 +113,8 @@ public:
     void setDraft(const QString &draft);
     [[nodiscard]] bool isTrusted() const;
     [[nodiscard]] QString problem() const;
-    /// Why there is no recent copy of the store; empty if there is one. Problems with the store itself take
-    /// precedence.
+    /// Why there is no recent copy of the store; empty if there is one. Any trouble with the store comes
+    /// first.
     void setCopyProblem(const QString &problem);
 
 Q_SIGNALS:
@@ -128,6 +128,7 @@ Q_SIGNALS:
     void showRequested();
 
 private:
+    void setDraftProblem(const QString &problem);
     void searchCurrentList();
 
     NotesStore &m_store;
@@ -148,6 +149,8 @@ private:
     QString m_search;
     QString m_draft;
     QString m_copyProblem;
+    /// Why the draft was not kept; empty once it is another one.
+    QString m_draftProblem;
 };
 
 } // namespace vesk

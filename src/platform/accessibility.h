@@ -11,7 +11,7 @@
 namespace vesk {
 
 /// The longest text, in UTF-8 bytes, that Vesk takes from another application.
-inline constexpr qsizetype kMaximumTextBytes = qsizetype{16} * 1024 * 1024;
+inline constexpr qsizetype kMaximumReadBytes = qsizetype{16} * 1024 * 1024;
 
 /// Identifies one element of another application's user interface. A value that may outlive the element;
 /// every question about it then returns nullopt.
@@ -39,7 +39,7 @@ struct SelectedText
     };
 
     Finding finding = Finding::Unknown;
-    /// Not trimmed. A text of more than `kMaximumTextBytes` may be cut off anywhere beyond that size; the
+    /// Not trimmed. A text of more than `kMaximumReadBytes` may be cut off anywhere beyond that size; the
     /// caller must refuse it. Empty unless the finding is `Selected`.
     QString text = {};
     /// Whether the application has claimed, since the user last pressed a key or a button, that something is

@@ -2,7 +2,7 @@
 #include "quicknote/quicknotepanel.h"
 
 #include "components/surroundings.h"
-#include "notes/notesstore.h"
+#include "notes/noterules.h"
 #include "platform/appearance.h"
 #include "platform/application.h"
 #include "platform/screens.h"
@@ -132,11 +132,13 @@ void QuickNotePanel::setShowing(bool isShowing)
 void QuickNotePanel::save()
 {
     m_controller.finishComposing();
-    const QString body = m_model.body();
-    if (body.isEmpty())
+    using Outcome = noterules::Outcome;
+    const noterules::Kept kept = noterules::add(m_needs.store, m_needs.clock, m_model.body());
+    if (kept.outcome == Outcome::TooLong)
+        m_model.setRemark(tr("This text is too long for a note."));
+    if (kept.outcome != Outcome::Added)
         return;
-    m_needs.store.insert(std::make_unique<Note>(m_needs.clock, body));
-    const bool isSaved = m_needs.store.save();
+    const bool isSaved = kept.problem.isEmpty();
     // The store has the note, whether or not it is written yet.
     m_model.clear();
     close();

@@ -32,12 +32,6 @@ constexpr std::chrono::seconds kLongestHold{1};
 const QString kDone = notices::kSaved.symbol.toString();
 const QString kTrouble = notices::kNotSaved.symbol.toString();
 
-bool isTooLong(const QString &text)
-{
-    // A UTF-16 unit takes at most three bytes, so most texts need not be converted.
-    return text.size() > kMaximumTextBytes / 3 && text.toUtf8().size() > kMaximumTextBytes;
-}
-
 QString addedTo(const QString &title, const QString &untitled)
 {
     return VeskServices::tr("Added to “%1”").arg(title.isEmpty() ? untitled : title);
@@ -62,16 +56,6 @@ QString remarkOn(SelectionReader::Reading::Lack lack, const QString &application
         break;
     }
     return {};
-}
-
-/// The most recently changed note that has checkboxes; null if there is none.
-Note *findLastChecklist(NotesStore &store)
-{
-    for (qsizetype i = 0; i < store.notes().count(); ++i) {
-        if (store.notes().at(i).progress())
-            return &store.notes().at(i);
-    }
-    return nullptr;
 }
 
 } // namespace
@@ -256,7 +240,7 @@ QCoro::Task<> VeskServices::addToChecklist(Source press)
     if (self.isNull())
         co_return;
     if (read.selection)
-        keepInChecklist(*read.selection);
+        keep(*read.selection, Target::LastChecklist);
     else if (read.remark.isEmpty())
         m_needs.toast.show(tr("Select text to add to your checklist"), u"text.cursor"_s);
     else
@@ -304,80 +288,46 @@ QCoro::Task<VeskServices::Reading> VeskServices::readSelection(Source press)
 
 void VeskServices::keep(const Selection &selection, Target target)
 {
-    if (refuseTooLong(selection.text))
-        return;
-    const bool isChecklist = target == Target::NewChecklist;
-    const QString text = isChecklist ? markup::checklist(selection.text) : selection.text;
-    Note *newest = m_needs.store.notes().first();
-    if (newest && target == Target::LastNote) {
-        const QString title = newest->title();
-        newest->append(text);
-        saveAndConfirm(addedTo(title, tr("New Note")), u"text.append"_s);
-        return;
-    }
-    // Stored texts are well formed, so compare the new text in the form in which it would be stored.
-    if (newest && newest->text() == markup::wellFormed(text)) {
-        saveAndConfirm(tr("Already in Vesk"), kDone);
-        return;
-    }
-    insertNote(text, selection.source);
-}
-
-void VeskServices::keepInChecklist(const Selection &selection)
-{
-    if (refuseTooLong(selection.text))
-        return;
-    Note *checklist = findLastChecklist(m_needs.store);
-    if (!checklist) {
-        insertNote(markup::checklist(selection.text), selection.source);
+    using Outcome = noterules::Outcome;
+    const bool isChecklist = target == Target::LastChecklist;
+    const noterules::Kept kept =
+        noterules::keepSelection(m_needs.store, m_needs.clock, selection.text, selection.source, target);
+    switch (kept.outcome) {
+    case Outcome::Added:
+        return confirm(kept, notices::kSaved.text(), kDone);
+    case Outcome::Appended:
+        return confirm(kept, addedTo(kept.appendedTo, isChecklist ? tr("Checklist") : tr("New Note")),
+                       isChecklist ? u"checklist"_s : u"text.append"_s);
+    case Outcome::AlreadyThere:
+        return confirm(kept, tr("Already in Vesk"), kDone);
+    case Outcome::TooLong:
+        return tellTooLong();
+    case Outcome::Empty:
         return;
     }
-    const QString title = checklist->title();
-    checklist->addChecklistItems(selection.text);
-    saveAndConfirm(addedTo(title, tr("Checklist")), u"checklist"_s);
 }
 
 void VeskServices::keepPrompt(const QString &text)
 {
-    if (refuseTooLong(text))
-        return;
-    switch (promptrules::saveFromSelection(m_needs.store, m_needs.clock, text)) {
-    case promptrules::SaveOutcome::Saved:
-        confirm(tr("Saved to Prompts"), kDone);
-        break;
-    case promptrules::SaveOutcome::Pending:
-        tellNotSaved();
-        break;
-    case promptrules::SaveOutcome::AlreadyThere:
+    using Outcome = promptrules::Outcome;
+    const promptrules::Kept kept = promptrules::keepSelection(m_needs.store, m_needs.clock, text);
+    if (kept.outcome == Outcome::Added)
+        confirm(kept, tr("Saved to Prompts"), kDone);
+    else if (kept.outcome == Outcome::AlreadyThere)
         m_needs.toast.show(tr("Already in Prompts"), kDone);
-        break;
-    }
+    else if (kept.outcome == Outcome::TooLong)
+        tellTooLong();
 }
 
-void VeskServices::insertNote(const QString &text, const std::optional<CaptureSource> &source)
+void VeskServices::tellTooLong()
 {
-    m_needs.store.insert(std::make_unique<Note>(m_needs.clock, text, source));
-    saveAndConfirm(notices::kSaved.text(), kDone);
-}
-
-bool VeskServices::refuseTooLong(const QString &text)
-{
-    if (!isTooLong(text))
-        return false;
     m_needs.toast.show(tr("The selection is too long to keep"), kTrouble);
-    return true;
 }
 
-void VeskServices::saveAndConfirm(const QString &message, const QString &symbol)
+void VeskServices::confirm(const noterules::Kept &kept, const QString &message, const QString &symbol)
 {
-    if (m_needs.store.save())
-        confirm(message, symbol);
-    else
-        tellNotSaved();
-}
-
-void VeskServices::confirm(const QString &message, const QString &symbol)
-{
+    if (!kept.problem.isEmpty())
+        return tellNotSaved();
     m_needs.toast.show(message, symbol);
     m_needs.sounds.play(Sounds::Sound::Tink);
 }

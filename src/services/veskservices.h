@@ -4,7 +4,7 @@
 #include "capture/selectionreader.h"
 #include "commands/command.h"
 #include "input/doubleshiftmonitor.h"
-#include "notes/capturesource.h"
+#include "notes/noterules.h"
 #include "platform/clock.h"
 #include "quicknote/quicknotebox.h"
 
@@ -69,15 +69,7 @@ Q_SIGNALS:
     void quitRequested();
 
 private:
-    /// Where captured text goes.
-    enum class Target {
-        NewNote,
-        /// The most recently changed note, or a new note if there is none.
-        LastNote,
-        /// A new note with a checkbox for each line.
-        NewChecklist,
-    };
-
+    using Target = noterules::Target;
     using Source = std::optional<SelectionReader::SourceAtPress>;
     using Instant = std::optional<std::chrono::microseconds>;
     struct Selection
@@ -131,14 +123,10 @@ private:
     QCoro::Task<Reading> readSelection(Source press);
 
     void keep(const Selection &selection, Target target);
-    void keepInChecklist(const Selection &selection);
     void keepPrompt(const QString &text);
-    void insertNote(const QString &text, const std::optional<CaptureSource> &source);
-    /// Returns true, and tells the user, if a text is too long to keep.
-    [[nodiscard]] bool refuseTooLong(const QString &text);
-    /// Saves, and then tells the user, so that the message is true.
-    void saveAndConfirm(const QString &message, const QString &symbol);
-    void confirm(const QString &message, const QString &symbol);
+    void tellTooLong();
+    /// Says what became of a text that is in the store.
+    void confirm(const noterules::Kept &kept, const QString &message, const QString &symbol);
     void tellNotSaved();
     void openQuickNote(QuickNoteBox::Mode mode, const QString &remark = {});
     void openComposer();

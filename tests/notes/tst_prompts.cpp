@@ -20,15 +20,16 @@ private Q_SLOTS:
     void repeatOfALoneSurrogateIsFound();
     void followUpIsTrimmedAndNeverARepeat();
     void doneIsKept();
+    void tooLongTextIsRefused();
 
 private:
-    promptrules::SaveOutcome save(const QString &text);
+    promptrules::Outcome save(const QString &text);
     QStringList texts() const;
 
     std::unique_ptr<StoreFixture> m_fixture;
 };
 
-using Outcome = promptrules::SaveOutcome;
+using Outcome = promptrules::Outcome;
 
 void TestPrompts::init()
 {
@@ -39,7 +40,7 @@ void TestPrompts::init()
 Outcome TestPrompts::save(const QString &text)
 {
     m_fixture->clock.advance(1s);
-    return promptrules::saveFromSelection(*m_fixture->store, m_fixture->clock, text);
+    return promptrules::keepSelection(*m_fixture->store, m_fixture->clock, text).outcome;
 }
 
 QStringList TestPrompts::texts() const
@@ -61,23 +62,26 @@ void TestPrompts::repeatIsExact_data()
 void TestPrompts::repeatIsExact()
 {
     QFETCH(QString, text);
-    QCOMPARE(save(u"Explain this"_s), Outcome::Saved);
-    QCOMPARE(save(text), Outcome::Saved);
+    QCOMPARE(save(u"Explain this"_s), Outcome::Added);
+    QCOMPARE(save(text), Outcome::Added);
     QCOMPARE(m_fixture->store->prompts().first()->text(), text);
 }
 
 void TestPrompts::repeatOfALoneSurrogateIsFound()
 {
     const QString text = u"cut "_s + QChar(0xD83D);
-    QCOMPARE(save(text), Outcome::Saved);
+    QCOMPARE(save(text), Outcome::Added);
     QCOMPARE(save(text), Outcome::AlreadyThere);
 }
 
 void TestPrompts::followUpIsTrimmedAndNeverARepeat()
 {
-    QVERIFY(promptrules::saveFollowUp(*m_fixture->store, m_fixture->clock, u"\n Again\t\u2028"_s));
-    QVERIFY(promptrules::saveFollowUp(*m_fixture->store, m_fixture->clock, u"Again"_s));
-    QVERIFY(!promptrules::saveFollowUp(*m_fixture->store, m_fixture->clock, u" \n"_s));
+    const auto add = [this](const QString &text) {
+        return promptrules::addTyped(*m_fixture->store, m_fixture->clock, text).outcome;
+    };
+    QCOMPARE(add(u"\n Again\t\u2028"_s), Outcome::Added);
+    QCOMPARE(add(u"Again"_s), Outcome::Added);
+    QCOMPARE(add(u" \n"_s), Outcome::Empty);
     QVERIFY(m_fixture->open());
     QCOMPARE(texts(), (QStringList{u"Again"_s, u"Again"_s}));
     QVERIFY(!m_fixture->store->prompts().first()->isCaptured());
@@ -92,6 +96,22 @@ void TestPrompts::doneIsKept()
     QVERIFY(m_fixture->open());
     QCOMPARE(texts(), (QStringList{u"3"_s, u"2"_s, u"1"_s}));
     QVERIFY(m_fixture->store->prompts().at(1).isDone());
+}
+
+void TestPrompts::tooLongTextIsRefused()
+{
+    NotesStore &store = *m_fixture->store;
+    const auto outcomes = [&](const QString &text) {
+        return QList{noterules::add(store, m_fixture->clock, text).outcome,
+                     noterules::addTyped(store, m_fixture->clock, text).outcome,
+                     promptrules::addTyped(store, m_fixture->clock, text).outcome};
+    };
+    // Two bytes each, and white space that is not kept.
+    QString text(noterules::kMaximumBytes / 2, u'\u00e4');
+    QCOMPARE(outcomes(text + u'\n'), QList(3, Outcome::Added));
+    QCOMPARE(outcomes(text + u'x'), QList(3, Outcome::TooLong));
+    QCOMPARE(store.notes().count(), 2);
+    QCOMPARE(store.prompts().count(), 1);
 }
 
 QTEST_GUILESS_MAIN(TestPrompts)

@@ -87,7 +87,7 @@ void TestPrimarySelection::lateAnswerIsNotTakenForTheNext()
 {
     const xcb_atom_t target = m_connection->atom("UTF8_STRING");
     const auto read = [this, target] {
-        return SelectionTransfer::read(*m_connection, XCB_ATOM_PRIMARY, target, kMaximumTextBytes);
+        return SelectionTransfer::read(*m_connection, XCB_ATOM_PRIMARY, target, kMaximumReadBytes);
     };
     {
         const SelectionOwner halfway(QByteArray(500'000, 'o'), SelectionOwner::Manner::StallsHalfway);

@@ -31,7 +31,7 @@ struct Reading
     AtSpiQuestion question;
     /// How many more objects it may read.
     int objects = 2000;
-    qsizetype bytes = kMaximumTextBytes;
+    qsizetype bytes = kMaximumReadBytes;
 };
 
 using Shared = std::shared_ptr<Reading>;

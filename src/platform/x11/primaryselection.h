@@ -41,7 +41,7 @@ public:
 
     /// Reads the text of the current claim. Nullopt if the owner has no text, marks it as secret or stops
     /// answering, or if the selection is claimed again before everything is read. A text of more than
-    /// `kMaximumTextBytes` is cut off beyond that size.
+    /// `kMaximumReadBytes` is cut off beyond that size.
     QCoro::Task<std::optional<QString>> text();
 
     /// Returns a hash of the text of the current claim; nullopt as above. Reads only the beginning of a long

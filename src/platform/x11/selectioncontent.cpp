@@ -110,7 +110,7 @@ QCoro::Task<std::optional<QString>> text(X11Connection &connection, xcb_atom_t s
         if (!isUnlisted && !targets.contains(atom))
             continue;
         const SelectionTransfer::Data data =
-            co_await SelectionTransfer::read(connection, selection, atom, kMaximumTextBytes, allowance);
+            co_await SelectionTransfer::read(connection, selection, atom, kMaximumReadBytes, allowance);
         // A text that is cut is still longer than any that is kept, so that the user can be told.
         if (data.outcome == Outcome::Complete || data.outcome == Outcome::Cut)
             co_return selectionbytes::text(data.bytes, target.encoding);

@@ -38,7 +38,7 @@ inline constexpr ReadingAllowance::Limits kEverything{.silence = SelectionTransf
                                                       .bytes = kMaximumTotalBytes};
 
 /// Reads the content as text. Nullopt if the owner has no text, marks it as secret, or does not deliver it
-/// within the allowance. A text of more than `kMaximumTextBytes` is cut off beyond that size.
+/// within the allowance. A text of more than `kMaximumReadBytes` is cut off beyond that size.
 [[nodiscard]] QCoro::Task<std::optional<QString>> text(X11Connection &connection, xcb_atom_t selection,
                                                        ReadingAllowance &allowance);
 /// The same with the allowance `kShort`.
