@@ -108,8 +108,8 @@ void TestPrompts::tooLongTextIsRefused()
     };
     // Two bytes each, and white space that is not kept.
     QString text(noterules::kMaximumBytes / 2, u'\u00e4');
-    QCOMPARE(outcomes(text + u'\n'), QList(3, Outcome::Added));
-    QCOMPARE(outcomes(text + u'x'), QList(3, Outcome::TooLong));
+    QCOMPARE(outcomes(text + u'\n'), QList<Outcome>(3, Outcome::Added));
+    QCOMPARE(outcomes(text + u'x'), QList<Outcome>(3, Outcome::TooLong));
     QCOMPARE(store.notes().count(), 2);
     QCOMPARE(store.prompts().count(), 1);
 }
