@@ -21,7 +21,7 @@ class AppUpdater final : public QObject
     Q_OBJECT
 
 public:
-    /// All must outlive it.
+    /// All must outlive this object.
     AppUpdater(QQmlEngine &engine, Updates &updates, Workspace &workspace, Questions &questions);
 
     [[nodiscard]] bool canCheck() const { return m_updates.canCheckForUpdates(); }

@@ -28,7 +28,7 @@ public:
         QString rejectLabel;
         /// A longer text under the message, to read and copy from; empty if there is none.
         QString details = {};
-        /// Whether the second button loses something. If so, the first button has the keyboard at first and
+        /// Whether the second button loses something. If so, the first button has the focus at first and
         /// Escape does nothing.
         bool isRejectCostly = false;
     };
@@ -40,10 +40,10 @@ public:
     };
 
     enum class Arrival {
-        /// The user has asked for the window: the button that loses nothing has the keyboard at first.
+        /// The user has asked for the window: the button that loses nothing has the focus at first.
         Asked,
         /// The window opens by itself, and the keys that the user is typing are not meant for it: keys are
-        /// ignored until the keyboard has been quiet for a moment. No button has the keyboard at first, unless
+        /// ignored until the keyboard has been quiet for a moment. No button has the focus at first, unless
         /// the second one loses something.
         Unasked,
     };

@@ -29,7 +29,7 @@ class ApplicationService;
 class RemoteControl;
 struct Desktop;
 
-/// The running program: the one instance of everything that the layers share.
+/// The running program: the single instance of everything that the layers share.
 class VeskApp final : public QObject
 {
     Q_OBJECT

@@ -36,14 +36,14 @@ public:
     enum class Refusal {
         /// The window that the user came from has been closed.
         WindowClosed,
-        /// The window lost the keyboard or does not accept the keys.
+        /// The window lost the focus or does not accept the keys.
         NotTaken,
     };
 
     explicit PasteBack(const Needs &needs);
 
     /// Copies `text` to the pasteboard, hides this program and returns. Pastes as soon as the window that the
-    /// user came from has the keyboard again. If that takes more than 1 second, pastes into the application
+    /// user came from has the focus again. If that takes more than 1 second, pastes into the application
     /// that is in front then, unless it is or may be a terminal. Never pastes into this program, into another
     /// window if the one that the user came from is closed, or where the text would be taken for a password.
     /// A second call replaces one that is still waiting.

@@ -25,7 +25,7 @@ struct AccessibleElement
     friend bool operator==(const AccessibleElement &, const AccessibleElement &) = default;
 };
 
-/// What is known about the text that is selected in the window with the keyboard.
+/// What is known about the text that is selected in the window with the focus.
 struct SelectedText
 {
     enum class Finding {
@@ -56,7 +56,7 @@ class Accessibility : public QObject
 
 public:
     enum class ElementAttribute {
-        /// Of the system-wide element or an application: the element that has the keyboard. The application's
+        /// Of the system-wide element or an application: the element that has the focus. The application's
         /// own element if it offers no elements at all; nullopt if it could not be determined.
         FocusedElement,
         Parent,
@@ -96,7 +96,7 @@ public:
     virtual QCoro::Task<std::optional<QString>> copyString(AccessibleElement element,
                                                            StringAttribute attribute) = 0;
 
-    /// Reads what is selected in the window that has the keyboard at the time of the call. Never returns the
+    /// Reads what is selected in the window that has the focus at the time of the call. Never returns the
     /// content of a password field or content that its owner marks as secret. Takes at most 1.2 s, plus the
     /// transfer of a long text as long as that makes progress.
     virtual QCoro::Task<SelectedText> selectedText() = 0;

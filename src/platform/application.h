@@ -13,19 +13,19 @@ class Application : public QObject
     Q_OBJECT
 
 public:
-    /// Whether one of this program's windows has the keyboard.
+    /// Whether one of this program's windows has the focus.
     [[nodiscard]] virtual bool isActive() const = 0;
 
     /// Whether `hide` was called and `unhide` was not called since. The program starts unhidden, with no
     /// window shown.
     [[nodiscard]] virtual bool isHidden() const = 0;
 
-    /// Hides all windows of the program except notices, and gives the keyboard back to the window that had it
+    /// Hides all windows of the program except notices, and gives the focus back to the window that had it
     /// before `activate`, if that window is on the current workspace. A key that is still down does not reach
     /// that window. Does nothing if already hidden.
     virtual void hide() = 0;
 
-    /// Whether `hide` is complete: the window that had the keyboard before `activate` has it again or, if
+    /// Whether `hide` is complete: the window that had the focus before `activate` has it again or, if
     /// that window no longer exists, another application has it.
     [[nodiscard]] virtual bool isAway() const = 0;
 
@@ -36,7 +36,7 @@ public:
     /// Ends the hidden state. Does not show any window.
     virtual void unhide() = 0;
 
-    /// Whether any key is down now, whichever window has the keyboard. Does not say which key.
+    /// Whether any key is down now, whichever window has the focus. Does not say which key.
     [[nodiscard]] virtual bool isAnyKeyDown() const = 0;
 
     /// Holds back what is typed until it is known which window should receive it: `holdKeys` keeps it for a
@@ -50,7 +50,7 @@ public:
     /// keyboard to, and remembers the other application's window that has it. Must be called before a window
     /// is shown, because showing it may already give it the keyboard. If no `activate` follows, ends by
     /// itself after a moment. Returns false if the platform cannot do this, or if one of this program's
-    /// windows already has the keyboard.
+    /// windows already has the focus.
     virtual bool holdKeys() = 0;
 
     /// Gives the keyboard to `window`, which must be shown or about to be shown.
@@ -58,7 +58,7 @@ public:
 
     /// Gives the keyboard back to the window, of this or another program, that had it before `window` was
     /// activated. Hides nothing. A key that is still down does not reach that window. Does nothing if
-    /// `window` does not have the keyboard.
+    /// `window` does not have the focus.
     virtual void giveKeyboardBack(QWindow &window) = 0;
 
 Q_SIGNALS:

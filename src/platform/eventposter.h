@@ -18,14 +18,14 @@ public:
         PasteUnlessTerminal,
     };
 
-    /// A window that had the keyboard, by the platform's own number.
+    /// A window that had the focus, by the platform's own number.
     enum class Target : quint64 {
         None = 0
     };
 
     virtual ~EventPoster() = default;
 
-    /// Returns the window that has the keyboard now; while a hot key is handled, the one that had it at the
+    /// Returns the window that has the focus now; while a hot key is handled, the one that had it at the
     /// press. `None` on an empty desktop.
     [[nodiscard]] virtual Target target() = 0;
 
@@ -34,7 +34,7 @@ public:
     /// keys only; they apply again to what the user types next.
     ///
     /// Returns false, with nothing posted, if
-    /// - `target` does not, or no longer, have the keyboard;
+    /// - `target` does not, or no longer, have the focus;
     /// - another program has grabbed the keyboard, as a menu or a screen lock does;
     /// - the keys would mean something else there (Copy interrupts a terminal), or the window does not
     ///   answer;

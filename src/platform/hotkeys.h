@@ -26,7 +26,7 @@ struct KeyCombination
     friend bool operator==(const KeyCombination &, const KeyCombination &) = default;
 };
 
-/// Key combinations that reach Vesk, and nobody else, whichever application has the keyboard.
+/// Key combinations that reach Vesk, and nobody else, whichever application has the focus.
 class HotKeys : public QObject
 {
     Q_OBJECT

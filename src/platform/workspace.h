@@ -30,7 +30,7 @@ class Workspace : public QObject
     Q_OBJECT
 
 public:
-    /// Returns the application whose window has the keyboard now, possibly this program. Nullopt on an empty
+    /// Returns the application whose window has the focus now, possibly this program. Nullopt on an empty
     /// desktop, or if the window's application is not known.
     [[nodiscard]] virtual std::optional<RunningApplication> frontmostApplication() const = 0;
 

@@ -10,7 +10,7 @@ namespace vesk {
 
 namespace {
 
-// English is the language of the sources; its file has the plurals alone.
+// English is the language of the sources, so its file contains only plurals.
 const auto kEnglish = u"en"_s;
 
 QString fileOf(const QString &language)
@@ -18,7 +18,7 @@ QString fileOf(const QString &language)
     return u":/vesk/translations/vesk_%1.qm"_s.arg(language);
 }
 
-/// The name of the translation for "de-AT": "de-AT", or else "de"; empty if there is neither.
+/// The name of the translation for "de-AT": "de-AT", otherwise "de"; empty if there is neither.
 QString findFor(QString language)
 {
     if (language == "C"_L1)

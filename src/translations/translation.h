@@ -7,17 +7,17 @@
 
 namespace vesk {
 
-/// The program's texts in the user's language. Made in main(), right after the application object and
-/// before any text is asked for; the texts stay translated for as long as it lives.
+/// The program's texts in the user's language. Created in main() right after the application object, before
+/// any text is needed; texts are translated as long as it lives.
 class Translation final
 {
 public:
-    /// Takes the first of `languages` that Vesk has (names such as "de-AT", best first), and English if it
-    /// has none. Where the language is not that of the desktop's formats, numbers and dates follow it, so
-    /// that a text is in one language.
+    /// Uses the first of `languages` that Vesk supports (names such as "de-AT", best first), and English if
+    /// it supports none. If that is not the language of the desktop's formats, numbers and dates follow it,
+    /// so that each text is in one language.
     explicit Translation(const QStringList &languages = QLocale().uiLanguages());
 
-    /// What the texts are in.
+    /// The language of the texts.
     [[nodiscard]] const QLocale &language() const { return m_language; }
 
 private:

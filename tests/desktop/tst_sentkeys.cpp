@@ -242,7 +242,7 @@ void TestSentKeys::keysGoToTheWindowOfThePressOnly()
     const Keys keys{XK_Super_L, XK_Alt_L, XK_n};
     for (const xcb_keysym_t key : keys)
         keyboard.press(key);
-    // Vesk has received the key once it gives the keyboard back.
+    // Vesk has received the key once it gives the focus back.
     if (!change.endsWith("at once"_L1)) {
         VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [&] { return other->grabKeyboard(); }));
         if (change != "keyboard grabbed"_L1)

@@ -16,7 +16,7 @@ struct AtSpiFocus
     std::optional<AtSpiReference> object;
     /// Whether the object has a text. Containers claim the keyboard together with what they contain.
     bool isText = false;
-    /// Whether all objects that can have the keyboard were seen.
+    /// Whether all objects that can have the focus were seen.
     bool isComplete = false;
 };
 
@@ -25,7 +25,7 @@ struct AtSpiFocus
 QCoro::Task<std::optional<AtSpiReference>> searchShownPage(AtSpiQuestion question,
                                                            AtSpiReference application);
 
-/// Searches an application, its active window first, for the object with the keyboard: with the application's
+/// Searches an application, its active window first, for the object with the focus: with the application's
 /// own search if its toolkit has one, otherwise object by object.
 QCoro::Task<AtSpiFocus> searchFocus(AtSpiQuestion question, AtSpiReference application);
 

@@ -40,10 +40,10 @@ public:
     void setFocusedWindowTitle(qint64 processIdentifier, const QString &title);
     /// Adds an element, or replaces the one with the same name.
     void setElement(const AccessibleElement &name, const Element &element);
-    /// Sets the element that has the keyboard, for the system-wide element and for the element's application;
+    /// Sets the element that has the focus, for the system-wide element and for the element's application;
     /// nullopt for none.
     void setFocusedElement(const std::optional<AccessibleElement> &name) { m_focused = name; }
-    /// Sets what is selected in the element that has the keyboard.
+    /// Sets what is selected in the element that has the focus.
     void setSelectedText(const SelectedText &selected) { m_selected = selected; }
     /// Sets the page that every application shows; nullopt for none.
     void setShownPage(const std::optional<AccessibleElement> &name) { m_shownPage = name; }

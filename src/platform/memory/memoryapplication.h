@@ -31,7 +31,7 @@ public:
     void resignActive();
     /// Sets whether the window manager has given the keyboard back to the previous window.
     void setAway(bool isAway) { m_isAway = isAway; }
-    /// Simulates that the window that had the keyboard is closed.
+    /// Simulates that the window that had the focus is closed.
     void closePreviousWindow() { m_isPreviousWindowClosed = true; }
     /// Whether typed keys are being held back by `expectKeys`.
     [[nodiscard]] bool expectsKeys() const { return m_expectsKeys; }

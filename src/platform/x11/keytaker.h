@@ -26,13 +26,13 @@ enum class KeyTaker {
     Emacs,
     /// Asks for a password. Must not get any keys from Vesk.
     PasswordPrompt,
-    /// Shows the screen of another machine, where anything may have the keyboard and the clipboard may be
+    /// Shows the screen of another machine, where anything may have the focus and the clipboard may be
     /// different.
     OtherMachine,
 };
 
 /// Returns what has the keyboard in a window. `entry` is the desktop entry of the window's application, null
-/// if it has none. `role` is the role of the object with the keyboard, nullopt if it is not known.
+/// if it has none. `role` is the role of the object with the focus, nullopt if it is not known.
 [[nodiscard]] KeyTaker keyTakerOf(const WindowIdentity &window, const DesktopEntry *entry,
                                   const std::optional<QString> &role = std::nullopt);
 

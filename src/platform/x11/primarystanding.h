@@ -42,7 +42,7 @@ public:
     [[nodiscard]] bool isInside(xcb_window_t window) const;
 
     /// Whether the application of this window has claimed PRIMARY since the last press that may have changed
-    /// the selection, and since the window got the keyboard. False if any of these times is not known.
+    /// the selection, and since the window got the focus. False if any of these times is not known.
     [[nodiscard]] bool isFresh(xcb_window_t window) const;
 
     /// The same for an application that cannot be asked anything better, such as a terminal. If it owns

@@ -32,10 +32,9 @@ public:
     /// keyboard layout when held together would switch it again.
     [[nodiscard]] bool canPlay() const;
 
-    /// Plays the keys with these keysyms, modifiers first. The server must be grabbed. Keys that are held
-    /// back must be let go of in `letGo`, which is called at the last moment: whatever the user presses
-    /// from then on may come before the keys. Returns false, with nothing played, if the keyboard has no
-    /// such key.
+    /// Sends the keys with these keysyms, modifiers first. The server must be grabbed. Held-back keys must be
+    /// released in `letGo`, which is called at the last moment: whatever the user presses after that may
+    /// arrive before these keys. Returns false, with nothing sent, if the keyboard has no such key.
     bool play(
         const QList<uint32_t> &keysyms, const std::function<void()> &letGo = [] {});
 

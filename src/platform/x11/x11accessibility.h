@@ -13,17 +13,18 @@ class RawInput;
 class X11Connection;
 class X11Workspace;
 
-/// Other applications' texts, by the accessibility bus and the X11 selection, and neither without the user's
-/// consent. Toolkits put even a password's clear text into the X11 selection, and leave it there. So that
-/// counts by itself only where nothing else can be asked, in terminals and Emacs, and in pages and the like
-/// if it was claimed outside of a password field for sure. Elsewhere the bus must name the same text.
+/// Reads other applications' texts using the accessibility bus and the X11 selection, both only with the
+/// user's consent. Toolkits put even a password's clear text into the X11 selection, and leave it there.
+/// Therefore the selection is trusted on its own only where nothing else can be asked (in terminals and
+/// Emacs), and in pages and the like if it was certainly claimed outside a password field. Elsewhere the bus
+/// must report the same text.
 class X11Accessibility final : public Accessibility
 {
     Q_OBJECT
 
 public:
-    /// All of it must outlive this object. `deadlines` are those of each of the two questions by which a
-    /// selected text is read; they are longer if something was selected a moment before.
+    /// All must outlive this object. `deadlines` apply to each of the two questions with which a selected
+    /// text is read; they are longer if something was selected a moment before.
     X11Accessibility(X11Connection &connection, RawInput &input, X11Workspace &workspace, Consent &consent,
                      const AtSpiQuestion::Deadlines &deadlines = {});
 
@@ -37,22 +38,22 @@ public:
     QCoro::Task<SelectedText> selectedText() override;
 
 Q_SIGNALS:
-    /// The user should be shown the question for consent.
+    /// The question for consent must be shown to the user.
     void trustAsked();
 
 private:
-    /// Listens to other applications and the keyboard exactly while the user agrees.
+    /// Listens to other applications and the keyboard only while the user agrees.
     void followConsent();
-    /// What is selected in a terminal or the like; `own` is what the bus says about that, and `isSilent`
-    /// whether a question was left without an answer.
+    /// What is selected in a terminal or the like; `own` is what the bus reports, and `isSilent` whether a
+    /// question was left unanswered.
     QCoro::Task<SelectedText> terminalText(xcb_window_t window, std::optional<AtSpiSelection> own,
                                            bool isSilent);
-    /// The text of a claim that was not made out of a password field, if the element that has the keyboard is
-    /// no field; else nullopt.
+    /// The text of a claim that was not made from a password field, if the focused element is not a field;
+    /// otherwise nullopt.
     QCoro::Task<std::optional<QString>> harmlessText(AtSpiQuestion question, AccessibleElement element);
-    /// `own` is what the bus says is selected; `isClaimed` as in `SelectedText`.
+    /// `own` is what the bus reports as selected; `isClaimed` is as in `SelectedText`.
     QCoro::Task<SelectedText> confirmedText(AtSpiSelection own, bool isClaimed);
-    /// Remembers whether PRIMARY was claimed out of a password field.
+    /// Records whether PRIMARY was claimed from a password field.
     QCoro::Task<> noteOrigin();
     [[nodiscard]] bool isPrimarySecret() const { return m_secret == m_primary.claim().number; }
 
@@ -63,8 +64,8 @@ private:
     PrimaryStanding m_standing;
     AtSpi m_atSpi;
     const AtSpiQuestion::Deadlines m_deadlines;
-    /// Number of the last claim that was made while a password field had the keyboard, and of the last that
-    /// was made while something else had it for sure.
+    /// The number of the last claim made while a password field had the focus, and of the last made while
+    /// something else certainly had it.
     std::optional<quint64> m_secret;
     std::optional<quint64> m_harmless;
 };

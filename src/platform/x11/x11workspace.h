@@ -25,7 +25,7 @@ public:
     bool openUrl(const QUrl &url) override;
     bool openApplication(const QString &bundleIdentifier) override;
 
-    /// The window that has the keyboard; nullopt for the desktop itself, or if the window has gone (window
+    /// The window that has the focus; nullopt for the desktop itself, or if the window has gone (window
     /// managers may leave its number behind).
     [[nodiscard]] std::optional<xcb_window_t> activeWindow() const;
     /// The same, according to the events handled so far. While a key press is handled, this is the window of
@@ -50,7 +50,7 @@ public:
     [[nodiscard]] const DesktopEntries &entries() const { return m_entries; }
     /// Title of a window; empty if it has none.
     [[nodiscard]] QString titleOf(xcb_window_t window) const;
-    /// Server time at which the active window got the keyboard; 0 if that was before Vesk started.
+    /// Server time at which the active window got the focus; 0 if that was before Vesk started.
     [[nodiscard]] xcb_timestamp_t activationTime() const { return m_activationTime; }
     /// Reads the desktop entries now instead of when they are first needed.
     void warmUp() const;
