@@ -18,11 +18,11 @@ class TestAppUpdater : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void tells_data();
-    void tells();
+    void describesTheResult_data();
+    void describesTheResult();
 };
 
-void TestAppUpdater::tells_data()
+void TestAppUpdater::describesTheResult_data()
 {
     QTest::addColumn<Outcome>("outcome");
     QTest::addColumn<QString>("version");
@@ -47,7 +47,7 @@ void TestAppUpdater::tells_data()
                                << u"Vesk: Could not check for updates"_s << QStringList();
 }
 
-void TestAppUpdater::tells()
+void TestAppUpdater::describesTheResult()
 {
     QFETCH(Outcome, outcome);
     QFETCH(QString, version);

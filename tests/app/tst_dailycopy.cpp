@@ -22,12 +22,12 @@ class TestDailyCopy : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void leadsBackToTheNotes();
-    void saysWhenNoCopyCanBeMade();
-    void lostStoreIsWrittenAnewByItself();
+    void damagedStoreIsRestoredFromItsCopy();
+    void failedCopyIsReported();
+    void lostStoreIsRewrittenUnprompted();
 };
 
-void TestDailyCopy::leadsBackToTheNotes()
+void TestDailyCopy::damagedStoreIsRestoredFromItsCopy()
 {
     const QTemporaryDir home;
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
@@ -69,7 +69,7 @@ void TestDailyCopy::leadsBackToTheNotes()
     QVERIFY(describeStoreFailure(locked, path, clock.now()).details.isEmpty());
 }
 
-void TestDailyCopy::saysWhenNoCopyCanBeMade()
+void TestDailyCopy::failedCopyIsReported()
 {
     const QTemporaryDir home;
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
@@ -93,7 +93,7 @@ void TestDailyCopy::saysWhenNoCopyCanBeMade()
 }
 
 /// The user changes nothing, and Vesk may be killed.
-void TestDailyCopy::lostStoreIsWrittenAnewByItself()
+void TestDailyCopy::lostStoreIsRewrittenUnprompted()
 {
     const QTemporaryDir home;
     const QString path = home.filePath(u"Vesk/Notes.store"_s);

@@ -55,7 +55,7 @@ private Q_SLOTS:
     void textThatIsNotPastedIsReported_data();
     void textThatIsNotPastedIsReported();
     void twoTextsInARowAreNotPastedTwice();
-    void endOfTheProgramWhileWaiting();
+    void programMayEndWhileWaiting();
 };
 
 void TestPasteBack::pastesOnceAnotherApplicationIsFrontmost()
@@ -195,7 +195,7 @@ void TestPasteBack::twoTextsInARowAreNotPastedTwice()
     QCOMPARE(world.poster.posted(), QList{Command::Paste});
 }
 
-void TestPasteBack::endOfTheProgramWhileWaiting()
+void TestPasteBack::programMayEndWhileWaiting()
 {
     World world;
     world.pasteBack->pasteIntoPreviousApp(u"one"_s);

@@ -83,13 +83,13 @@ private Q_SLOTS:
     void copies_data();
     void copies();
     void pastedTextStaysVesksOwn();
-    void leavesTheUsersContent_data();
-    void leavesTheUsersContent();
+    void restoresTheUsersClipboard_data();
+    void restoresTheUsersClipboard();
     void ignoredKeysLeaveThePasteboardAlone();
     void lateCopyBringsBackTheNewest();
     void lateCopy_data();
     void lateCopy();
-    void endOfTheProgramWhileWaiting();
+    void programMayEndWhileWaiting();
 };
 
 void TestSyntheticCopy::copies_data()
@@ -129,7 +129,7 @@ void TestSyntheticCopy::copies()
     QCOMPARE(world.poster.posted(), QList{Command::Copy});
 }
 
-void TestSyntheticCopy::leavesTheUsersContent_data()
+void TestSyntheticCopy::restoresTheUsersClipboard_data()
 {
     QTest::addColumn<int>("posted");
     QTest::addColumn<QString>("answer");
@@ -211,7 +211,7 @@ void TestSyntheticCopy::leavesTheUsersContent_data()
     });
 }
 
-void TestSyntheticCopy::leavesTheUsersContent()
+void TestSyntheticCopy::restoresTheUsersClipboard()
 {
     QFETCH(const int, posted);
     QFETCH(const QString, answer);
@@ -309,7 +309,7 @@ void TestSyntheticCopy::lateCopy()
     QCOMPARE(world.pasteboard.items(), isUndone ? world.users : copied);
 }
 
-void TestSyntheticCopy::endOfTheProgramWhileWaiting()
+void TestSyntheticCopy::programMayEndWhileWaiting()
 {
     World world;
     world.ask();

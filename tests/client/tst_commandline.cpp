@@ -24,10 +24,10 @@ private Q_SLOTS:
     void understands();
     void refuses_data();
     void refuses();
-    void isToldEverywhere_data();
-    void isToldEverywhere();
+    void isDocumentedEverywhere_data();
+    void isDocumentedEverywhere();
     void listsNewestFirst();
-    void tellsOfKeys();
+    void listsKeys();
 };
 
 void TestCommandLine::understands_data()
@@ -94,7 +94,7 @@ void TestCommandLine::refuses()
     QVERIFY2(parsed.error.contains(named), qPrintable(parsed.error));
 }
 
-void TestCommandLine::isToldEverywhere_data()
+void TestCommandLine::isDocumentedEverywhere_data()
 {
     QTest::addColumn<QString>("file");
     for (const char *file :
@@ -103,7 +103,7 @@ void TestCommandLine::isToldEverywhere_data()
 }
 
 /// The commands and options in the help are also in the manual page and the completions.
-void TestCommandLine::isToldEverywhere()
+void TestCommandLine::isDocumentedEverywhere()
 {
     QFETCH(QString, file);
     QString text = QString::fromUtf8(contentsOf(QStringLiteral(VESK_PACKAGING "/") + file));
@@ -160,7 +160,7 @@ void TestCommandLine::listsNewestFirst()
     QCOMPARE(array.at(1).toObject(), expected);
 }
 
-void TestCommandLine::tellsOfKeys()
+void TestCommandLine::listsKeys()
 {
     const auto key = [](const QString &command, const QString &keys, const QString &state,
                         const QStringList &takenBy = {}) {

@@ -47,9 +47,9 @@ private Q_SLOTS:
     void addsAndListsWithoutARunningVesk();
     void addsThroughTheRunningVesk();
     void addsTwoAtOnceWithoutARunningVesk();
-    void refusesWhatIsNoText();
+    void refusesInvalidTexts();
     void refusesTooLongATextOverTheBus();
-    void aLostStoreIsNotBegunAnew();
+    void missingStoreIsNotCreatedAnew();
     void anotherSessionHasTheNotes();
     void startsInTheBackgroundAndInFront();
     void commandsStartVeskAndEndIt();
@@ -153,7 +153,7 @@ void TestCommands::refusesTooLongATextOverTheBus()
     QCOMPARE(m_desktop->notes().texts().size(), 1);
 }
 
-void TestCommands::aLostStoreIsNotBegunAnew()
+void TestCommands::missingStoreIsNotCreatedAnew()
 {
     QCOMPARE(vesk(u"add kept"_s).code, 0);
     const QString store = m_desktop->notes().path();
@@ -198,7 +198,7 @@ void TestCommands::anotherSessionHasTheNotes()
     QCOMPARE(m_desktop->notes().texts(), (QStringList{u"here"_s, u"here again"_s, u"there"_s}));
 }
 
-void TestCommands::refusesWhatIsNoText()
+void TestCommands::refusesInvalidTexts()
 {
     QString long17MiB = u"head -c 17825792 /dev/zero | tr '\\0' x | \"$VESK\" add -"_s;
     const std::pair<QString, int> commands[] = {

@@ -33,10 +33,10 @@ private Q_SLOTS:
     void init() {} // The functions differ in what their desktops lack.
     void cleanup();
     void clipboardsOwnerHangs();
-    void applicationHangsAndGoesOnLater();
+    void applicationHangsAndRecovers();
     void applicationEndsWhileItIsRead_data();
     void applicationEndsWhileItIsRead();
-    void nothingIsInFront();
+    void noApplicationIsInFront();
     void accessibilityBusIsMissing();
     void screenIsLocked();
     void soundServerHangs();
@@ -165,7 +165,7 @@ void TestFaults::clipboardsOwnerHangs()
     QCOMPARE(complaint(), QString());
 }
 
-void TestFaults::applicationHangsAndGoesOnLater()
+void TestFaults::applicationHangsAndRecovers()
 {
     QCOMPARE(setUp(), QString());
     VERIFY_ON(*m_desktop, m_editor->selectLine(1));
@@ -213,7 +213,7 @@ void TestFaults::applicationEndsWhileItIsRead()
     QVERIFY(texts.size() == 1 || texts.constLast() == m_lines.at(1));
 }
 
-void TestFaults::nothingIsInFront()
+void TestFaults::noApplicationIsInFront()
 {
     QCOMPARE(setUp(), QString());
     const Window window = m_editor->window();

@@ -23,11 +23,11 @@ private Q_SLOTS:
     void eachKeyDoesItsOwn();
     void layouts_data();
     void layouts();
-    void takenCombinationIsNamedAndTakenBack();
+    void takenCombinationIsReportedAndReclaimed();
     void usersOwnCombinationWorks();
     void letterHeldLongerThanItsModifiersTypesNothing();
-    void twoAtOnce_data();
-    void twoAtOnce();
+    void secondPressMeanwhileIsIgnored_data();
+    void secondPressMeanwhileIsIgnored();
     void cardThatIsEditedLosesNothing();
     void whatIsTypedFromThePressOnReachesThePanel();
 
@@ -136,7 +136,7 @@ void TestGlobalKeys::layouts()
 }
 
 /// Another program grabs the combination first, and releases it later.
-void TestGlobalKeys::takenCombinationIsNamedAndTakenBack()
+void TestGlobalKeys::takenCombinationIsReportedAndReclaimed()
 {
     QVERIFY(m_vesk->quit());
     std::unique_ptr<DisplayConnection> other = DisplayConnection::open(m_desktop->displayName());
@@ -201,7 +201,7 @@ void TestGlobalKeys::letterHeldLongerThanItsModifiersTypesNothing()
     QCOMPARE(m_editor->text(), u'n' + m_lines.join(u'\n') + u'\n');
 }
 
-void TestGlobalKeys::twoAtOnce_data()
+void TestGlobalKeys::secondPressMeanwhileIsIgnored_data()
 {
     QTest::addColumn<QList<Keys>>("taps");
     QTest::addColumn<bool>("hasPanel");
@@ -212,7 +212,7 @@ void TestGlobalKeys::twoAtOnce_data()
 }
 
 /// A second capture right after the first is ignored, but still kept from the editor.
-void TestGlobalKeys::twoAtOnce()
+void TestGlobalKeys::secondPressMeanwhileIsIgnored()
 {
     QFETCH(const QList<Keys>, taps);
     QFETCH(const bool, hasPanel);

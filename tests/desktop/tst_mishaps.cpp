@@ -44,9 +44,9 @@ private Q_SLOTS:
     void endedWhileTypingLosesNothing_data();
     void endedWhileTypingLosesNothing();
     void keyUpBeforeItsPressIsHeardFiresAgain();
-    void unusableStoreIsSaidAndLeftAlone();
+    void unusableStoreIsReportedAndLeftAlone();
     void scriptAddsWhileTheUserWrites();
-    void fullDiskIsSaidAndNothingIsLost();
+    void fullDiskIsReportedAndNothingIsLost();
 
 private:
     [[nodiscard]] static int rounds();
@@ -215,7 +215,7 @@ void TestMishaps::keyUpBeforeItsPressIsHeardFiresAgain()
     }
 }
 
-void TestMishaps::unusableStoreIsSaidAndLeftAlone()
+void TestMishaps::unusableStoreIsReportedAndLeftAlone()
 {
     const QString store = m_desktop->notes().path();
     const QString rubbish = u"No database, but dear to someone.\n"_s.repeated(99);
@@ -284,7 +284,7 @@ void TestMishaps::scriptAddsWhileTheUserWrites()
 }
 
 /// A file size limit acts like a full disk.
-void TestMishaps::fullDiskIsSaidAndNothingIsLost()
+void TestMishaps::fullDiskIsReportedAndNothingIsLost()
 {
     QVERIFY(startVesk());
     const QString program = VirtualDesktop::veskProgram();

@@ -24,13 +24,13 @@ private Q_SLOTS:
     void heldKeyActsOnce_data();
     void heldKeyActsOnce();
     void heldReturnRepeatsLineBreaks();
-    void stepsToTakeBack_data();
-    void stepsToTakeBack();
-    void takingBackRestoresWhatWasSelected();
-    void erasingIsTakenBackExactly_data();
-    void erasingIsTakenBackExactly();
-    void anotherTextOfTheHostIsNoStep();
-    void noCharacterChangesByBeingShown();
+    void undoSteps_data();
+    void undoSteps();
+    void undoRestoresTheSelection();
+    void undoRestoresErasedTextExactly_data();
+    void undoRestoresErasedTextExactly();
+    void textSetByTheHostIsNotUndone();
+    void displayingChangesNoCharacter();
     void lineWithAPictureCharacterIsPainted();
     void foreignLineBreakIsOneCharacter();
     void pasteIsPlainText();
@@ -228,7 +228,7 @@ void NoteEditorTest::heldReturnRepeatsLineBreaks()
     QCOMPARE(fixture.text(), u"• a\n\n\n"_s);
 }
 
-void NoteEditorTest::stepsToTakeBack_data()
+void NoteEditorTest::undoSteps_data()
 {
     QTest::addColumn<QStringList>("keys");
     QTest::addColumn<QStringList>("texts");
@@ -246,7 +246,7 @@ void NoteEditorTest::stepsToTakeBack_data()
                                << QStringList{u"• a\n• "_s, u"• a"_s, u"• "_s, u"-"_s, QString()};
 }
 
-void NoteEditorTest::stepsToTakeBack()
+void NoteEditorTest::undoSteps()
 {
     QFETCH(QStringList, keys);
     QFETCH(QStringList, texts);
@@ -267,7 +267,7 @@ void NoteEditorTest::stepsToTakeBack()
     }
 }
 
-void NoteEditorTest::takingBackRestoresWhatWasSelected()
+void NoteEditorTest::undoRestoresTheSelection()
 {
     EditorFixture fixture;
     fixture.load(u"☐ one\ntwo three"_s);
@@ -285,7 +285,7 @@ void NoteEditorTest::takingBackRestoresWhatWasSelected()
     QCOMPARE(fixture.caret(), 6);
 }
 
-void NoteEditorTest::erasingIsTakenBackExactly_data()
+void NoteEditorTest::undoRestoresErasedTextExactly_data()
 {
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("key");
@@ -299,7 +299,7 @@ void NoteEditorTest::erasingIsTakenBackExactly_data()
         << u"ab|\n☐ חלב"_s << u"\x7f"_s << u"ab|☐ חלב"_s;
 }
 
-void NoteEditorTest::erasingIsTakenBackExactly()
+void NoteEditorTest::undoRestoresErasedTextExactly()
 {
     QFETCH(QString, before);
     QFETCH(QString, key);
@@ -320,7 +320,7 @@ void NoteEditorTest::erasingIsTakenBackExactly()
     QTEST(after.insert(fixture.caret(), u'|'), "after");
 }
 
-void NoteEditorTest::anotherTextOfTheHostIsNoStep()
+void NoteEditorTest::textSetByTheHostIsNotUndone()
 {
     EditorFixture fixture;
     QSignalSpy edits(fixture.editor, SIGNAL(edited(QString)));
@@ -336,7 +336,7 @@ void NoteEditorTest::anotherTextOfTheHostIsNoStep()
     QCOMPARE(edits.count(), 3);
 }
 
-void NoteEditorTest::noCharacterChangesByBeingShown()
+void NoteEditorTest::displayingChangesNoCharacter()
 {
     QString text = u"a\u00a0b \t \n\r\nx\u2028y\u2029z\u0085\ufffc\ufdd0\ufdd1\ufeff\u200b\u200d"
                    "e\u0301 👩\u200d💻 \u202eabc\u202c \u000b\u000c\r\r\n  "_s;

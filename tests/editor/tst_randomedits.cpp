@@ -34,8 +34,8 @@ class RandomEditsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void looksFollowAndAllIsTakenBack_data();
-    void looksFollowAndAllIsTakenBack();
+    void formatsFollowAndEverythingIsUndone_data();
+    void formatsFollowAndEverythingIsUndone();
 
 private:
     void act(int kind);
@@ -150,7 +150,7 @@ int RandomEditsTest::findWrongLooks() const
     return start == text.size() + 1 ? -1 : m_fixture->document().blockCount();
 }
 
-void RandomEditsTest::looksFollowAndAllIsTakenBack_data()
+void RandomEditsTest::formatsFollowAndEverythingIsUndone_data()
 {
     QTest::addColumn<quint32>("seed");
     // VESK_EDITOR_SEEDS=400 requests a longer run.
@@ -159,7 +159,7 @@ void RandomEditsTest::looksFollowAndAllIsTakenBack_data()
         QTest::addRow("seed %d", seed) << static_cast<quint32>(seed);
 }
 
-void RandomEditsTest::looksFollowAndAllIsTakenBack()
+void RandomEditsTest::formatsFollowAndEverythingIsUndone()
 {
     QFETCH(quint32, seed);
     m_random.seed(seed);

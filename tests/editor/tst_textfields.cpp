@@ -138,8 +138,8 @@ private Q_SLOTS:
     void undoOfPasteAndCut();
     void textOfTheProgramIsNotUndone_data() { types(); }
     void textOfTheProgramIsNotUndone();
-    void keysAreTheInputMethodsWhileItComposes_data() { types(); }
-    void keysAreTheInputMethodsWhileItComposes();
+    void inputMethodGetsTheKeysWhileComposing_data() { types(); }
+    void inputMethodGetsTheKeysWhileComposing();
     void eachParagraphHasItsDirection();
 
 private:
@@ -482,7 +482,7 @@ void TextFieldsTest::textOfTheProgramIsNotUndone()
     QCOMPARE(window.text(), QString());
 }
 
-void TextFieldsTest::keysAreTheInputMethodsWhileItComposes()
+void TextFieldsTest::inputMethodGetsTheKeysWhileComposing()
 {
     QFETCH(const QString, type);
     Window window(type);

@@ -91,7 +91,7 @@ private Q_SLOTS:
     static void layoutDecides_data();
     static void layoutDecides();
     static void fileIsFollowed();
-    static void changedPlacesWork();
+    static void swappedCombinationsWork();
     static void doubleShiftCanBeAnything();
     static void lettersFollowTheLayout();
 };
@@ -194,7 +194,7 @@ void TestUsersKeys::fileIsFollowed()
     QVERIFY(world.press(combinationOf(Command::Toggle)).isEmpty());
 }
 
-void TestUsersKeys::changedPlacesWork()
+void TestUsersKeys::swappedCombinationsWork()
 {
     World world;
     world.replace(u"toggle=Super+Alt+N\ncapture=Super+Alt+T"_s);

@@ -25,12 +25,12 @@ private Q_SLOTS:
     void writesARecordThatCameBack();
     void agreesWithTheFileAfterRandomChanges();
     void orderFollowsWritingOnly();
-    void tellsOfARemovalBeforeTheRecordIsGone();
-    void retriesMoreAndMoreSeldom();
+    void reportsARemovalBeforeTheRecordIsDeleted();
+    void retriesAtGrowingIntervals();
     void saveFromElsewhereEndsTheRetries();
     void mayDieWhileItWaitsForARetry();
-    void triesOnceMoreAtTheEnd();
-    void oneRecordThatIsRefusedHoldsBackNoOther();
+    void closingTriesOnceMore();
+    void refusedRecordDoesNotHoldUpOthers();
 
 private:
     /// Makes every insertion of a note with this text fail, because of something in the file.
@@ -280,7 +280,7 @@ void TestNotesStore::orderFollowsWritingOnly()
     QCOMPARE(notes.first(), &older);
 }
 
-void TestNotesStore::tellsOfARemovalBeforeTheRecordIsGone()
+void TestNotesStore::reportsARemovalBeforeTheRecordIsDeleted()
 {
     Note &note = m_fixture->addNote(u"a"_s);
     QVERIFY(m_fixture->store->save());
@@ -296,7 +296,7 @@ void TestNotesStore::tellsOfARemovalBeforeTheRecordIsGone()
     QVERIFY(m_fixture->rows().isEmpty());
 }
 
-void TestNotesStore::retriesMoreAndMoreSeldom()
+void TestNotesStore::retriesAtGrowingIntervals()
 {
     makeFail(u"a"_s);
     m_fixture->addNote(u"a"_s);
@@ -350,14 +350,14 @@ void TestNotesStore::mayDieWhileItWaitsForARetry()
     QCOMPARE(m_fixture->clock.sleeperCount(), 0);
 }
 
-void TestNotesStore::triesOnceMoreAtTheEnd()
+void TestNotesStore::closingTriesOnceMore()
 {
     m_fixture->addNote(u"never saved"_s);
     m_fixture->close();
     QCOMPARE(m_fixture->rows(), QStringList{u"never saved"_s});
 }
 
-void TestNotesStore::oneRecordThatIsRefusedHoldsBackNoOther()
+void TestNotesStore::refusedRecordDoesNotHoldUpOthers()
 {
     NotesStore &store = *m_fixture->store;
     makeFail(u"refused"_s);

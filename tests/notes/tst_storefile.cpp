@@ -90,11 +90,11 @@ private Q_SLOTS:
     void leavesAnExistingFolderAsItIs();
     void isMadeFromAnEmptyFile();
     void isMadeDespiteAHalfMadeOne();
-    void isReadWithTheJournalOfACrash();
+    void isReadWithTheJournalLeftByACrash();
     void refuses_data();
     void refuses();
-    void isNotBegunAnewBesideACopy_data();
-    void isNotBegunAnewBesideACopy();
+    void isNotCreatedAnewIfThereIsACopy_data();
+    void isNotCreatedAnewIfThereIsACopy();
     void refusesWhatItMayNotWrite();
     void refusesALockedFile_data();
     void refusesALockedFile();
@@ -180,7 +180,7 @@ void TestStoreFile::isMadeDespiteAHalfMadeOne()
     QCOMPARE(files, (QStringList{u"Notes.lock"_s, u"Notes.store"_s}));
 }
 
-void TestStoreFile::isReadWithTheJournalOfACrash()
+void TestStoreFile::isReadWithTheJournalLeftByACrash()
 {
     makeStore();
     copyCrashed(m_fixture->path(), [](SQLite::Database &connection) {
@@ -324,7 +324,7 @@ void TestStoreFile::refuses()
     QVERIFY(bytesOf(m_fixture->journalPath()) == journal);
 }
 
-void TestStoreFile::isNotBegunAnewBesideACopy_data()
+void TestStoreFile::isNotCreatedAnewIfThereIsACopy_data()
 {
     QTest::addColumn<bool>("isEmpty");
     QTest::addColumn<QString>("copy");
@@ -334,7 +334,7 @@ void TestStoreFile::isNotBegunAnewBesideACopy_data()
     QTest::newRow("empty, and only an older copy is left") << true << u"Notes.copy.12"_s;
 }
 
-void TestStoreFile::isNotBegunAnewBesideACopy()
+void TestStoreFile::isNotCreatedAnewIfThereIsACopy()
 {
     QFETCH(bool, isEmpty);
     QFETCH(QString, copy);

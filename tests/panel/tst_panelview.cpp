@@ -33,7 +33,7 @@ private Q_SLOTS:
     void tabKeyGoesAround();
     void buttonIsPressedByReturn();
     void bannerFollowsTrust();
-    void unsavedChangesAreSaidUntilTheyAreSaved();
+    void unsavedChangesAreReportedUntilSaved();
 };
 
 void PanelViewTest::init()
@@ -287,7 +287,7 @@ void PanelViewTest::bannerFollowsTrust()
     QTRY_VERIFY(!button(u"Open Settings"_s));
 }
 
-void PanelViewTest::unsavedChangesAreSaidUntilTheyAreSaved()
+void PanelViewTest::unsavedChangesAreReportedUntilSaved()
 {
     QVERIFY(store().save());
     const auto banner = [this] {

@@ -55,7 +55,7 @@ private Q_SLOTS:
     void applicationIsWoken();
     void selectedText_data();
     void selectedText();
-    void selectionWithAPartThatDoesNotAnswerIsNone();
+    void selectionWithASilentPartIsRejected();
     void terminalInAPageIsATerminal_data();
     void terminalInAPageIsATerminal();
     void applicationOffTheBusStandsForItself();
@@ -313,7 +313,7 @@ void TestAtSpi::selectedText()
     QCOMPARE(selectionOf(u"editor"_s), expected);
 }
 
-void TestAtSpi::selectionWithAPartThatDoesNotAnswerIsNone()
+void TestAtSpi::selectionWithASilentPartIsRejected()
 {
     // One block of many does not answer: the others alone are not the selection.
     const int count = 20;

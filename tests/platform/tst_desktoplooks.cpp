@@ -19,7 +19,7 @@ private Q_SLOTS:
     void fontsAreReadByFamilyAndSize();
     void settingsAreReadInBothByteOrders_data();
     void settingsAreReadInBothByteOrders();
-    void brokenSettingsGiveWhatIsWhole();
+    void truncatedSettingsYieldCompleteEntries();
     void themesTellTheirColors_data();
     void themesTellTheirColors();
 
@@ -106,7 +106,7 @@ void DesktopLooksTest::settingsAreReadInBothByteOrders()
     QVERIFY(!looks.textFont && !looks.cursorBlinks);
 }
 
-void DesktopLooksTest::brokenSettingsGiveWhatIsWhole()
+void DesktopLooksTest::truncatedSettingsYieldCompleteEntries()
 {
     const QByteArray whole = sample(QDataStream::LittleEndian);
     qsizetype known = 0;

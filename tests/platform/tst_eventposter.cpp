@@ -29,8 +29,8 @@ class TestEventPoster : public X11Test
 private Q_SLOTS:
     void initTestCase();
     void cleanupTestCase();
-    void takersAreTold_data();
-    void takersAreTold();
+    void applicationsAreClassified_data();
+    void applicationsAreClassified();
     void heldLetterIsWaitedFor();
     void letterThatStaysDownIsGivenUp();
     void otherWindowGetsNoKeys();
@@ -79,7 +79,7 @@ void TestEventPoster::cleanupTestCase()
     X11Test::cleanupTestCase();
 }
 
-void TestEventPoster::takersAreTold_data()
+void TestEventPoster::applicationsAreClassified_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("category");
@@ -110,7 +110,7 @@ void TestEventPoster::takersAreTold_data()
     row("picture in a page", u"Chromium"_s, u"WebBrowser"_s, u"canvas"_s, u"v"_s);
 }
 
-void TestEventPoster::takersAreTold()
+void TestEventPoster::applicationsAreClassified()
 {
     QFETCH(const QString, name);
     QFETCH(const QString, category);

@@ -19,7 +19,7 @@ class TestIniDefaults : public QObject
 
 private Q_SLOTS:
     void choiceOfAnotherProcessArrives();
-    void fileThatCannotBeWrittenIsSaid();
+    void unwritableFileIsReported();
     void numbersAreKept();
     void isForItsUserOnly_data();
     void isForItsUserOnly();
@@ -41,7 +41,7 @@ void TestIniDefaults::choiceOfAnotherProcessArrives()
     }
 }
 
-void TestIniDefaults::fileThatCannotBeWrittenIsSaid()
+void TestIniDefaults::unwritableFileIsReported()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"Vesk.conf"_s);

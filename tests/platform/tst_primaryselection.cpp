@@ -24,7 +24,7 @@ private Q_SLOTS:
     void ownerThatChangesWhileItIsReadGivesNothing();
     void lateAnswerIsNotTakenForTheNext();
     void readingGivenUpLetsTheOwnerFinish();
-    void ownerThatDripsIsGivenUp();
+    void drippingOwnerIsAbandoned();
     void longAnswerIsReadNoFurtherThanTheLimit_data();
     void longAnswerIsReadNoFurtherThanTheLimit();
 };
@@ -110,7 +110,7 @@ void TestPrimarySelection::readingGivenUpLetsTheOwnerFinish()
 }
 
 /// Each byte arrives in time, but there is no last one.
-void TestPrimarySelection::ownerThatDripsIsGivenUp()
+void TestPrimarySelection::drippingOwnerIsAbandoned()
 {
     const SelectionOwner owner("x", SelectionOwner::Manner::Drips);
     PrimarySelection primary(*m_connection);

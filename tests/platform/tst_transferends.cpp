@@ -23,10 +23,10 @@ class TestTransferEnds : public X11Test
 private Q_SLOTS:
     void readingEndsHoweverMuchItMayCost_data();
     void readingEndsHoweverMuchItMayCost();
-    void silentOwnerIsLeftAtLast();
-    void drippingOwnerIsLeftAtLast();
-    void readerThatTakesNothingIsLeftAtLast();
-    void slowReaderIsLeftAtLast();
+    void silentOwnerIsAbandoned();
+    void drippingOwnerIsAbandoned();
+    void stalledReaderIsAbandoned();
+    void slowReaderIsAbandoned();
 
 private:
     /// Lets time pass and handles everything that this causes.
@@ -89,7 +89,7 @@ void TestTransferEnds::readingEndsHoweverMuchItMayCost()
     QCOMPARE(lingering(), 0);
 }
 
-void TestTransferEnds::silentOwnerIsLeftAtLast()
+void TestTransferEnds::silentOwnerIsAbandoned()
 {
     const SelectionOwner owner(QByteArray(1'000'000, 'x'), SelectionOwner::Manner::StallsHalfway);
     giveUp(owner);
@@ -99,7 +99,7 @@ void TestTransferEnds::silentOwnerIsLeftAtLast()
     QCOMPARE(lingering(), 0);
 }
 
-void TestTransferEnds::drippingOwnerIsLeftAtLast()
+void TestTransferEnds::drippingOwnerIsAbandoned()
 {
     const SelectionOwner owner("x", SelectionOwner::Manner::Drips);
     giveUp(owner);
@@ -126,7 +126,7 @@ std::unique_ptr<SelectionSender> TestTransferEnds::sendTo(const X11Connection &r
     return sender;
 }
 
-void TestTransferEnds::readerThatTakesNothingIsLeftAtLast()
+void TestTransferEnds::stalledReaderIsAbandoned()
 {
     const std::unique_ptr<X11Connection> reader = X11Connection::open().connection;
     // At the slowest rate this would take far longer.
@@ -138,7 +138,7 @@ void TestTransferEnds::readerThatTakesNothingIsLeftAtLast()
 }
 
 /// Never silent for long, but far slower than any line.
-void TestTransferEnds::slowReaderIsLeftAtLast()
+void TestTransferEnds::slowReaderIsAbandoned()
 {
     const std::unique_ptr<X11Connection> reader = X11Connection::open().connection;
     // 10 s, plus 3 s for each piece.

@@ -19,8 +19,8 @@ class TestVeskServices : public QObject
 private Q_SLOTS:
     void selectionGoesWhereTheKeySays_data();
     void selectionGoesWhereTheKeySays();
-    void commandsKeepTheirDistance_data();
-    void commandsKeepTheirDistance();
+    void repeatedCommandsAreIgnored_data();
+    void repeatedCommandsAreIgnored();
     void sourceIsOfTheKeyPress();
     void tooLongTextIsRefused_data() { commands(); }
     void tooLongTextIsRefused();
@@ -32,8 +32,8 @@ private Q_SLOTS:
     void sameKeyClosesTheBox();
     void trustWithdrawnWhileReading();
     void panelKeysWaitForAReadingNoLongerThanASecond();
-    void clipboardThatCannotBeKeptIsToldOf_data() { commands(); }
-    void clipboardThatCannotBeKeptIsToldOf();
+    void unrestorableClipboardIsReported_data() { commands(); }
+    void unrestorableClipboardIsReported();
     void doubleShiftIsHeardOnlyWithTrust();
     void keysAreLeftToTheApplicationsThatTheUserNames();
 
@@ -109,7 +109,7 @@ void TestVeskServices::selectionGoesWhereTheKeySays()
     QVERIFY2(!world.box.isExpected(), "What is typed is kept from the application.");
 }
 
-void TestVeskServices::commandsKeepTheirDistance_data()
+void TestVeskServices::repeatedCommandsAreIgnored_data()
 {
     QTest::addColumn<Command>("first");
     QTest::addColumn<Command>("second");
@@ -130,7 +130,7 @@ void TestVeskServices::commandsKeepTheirDistance_data()
     QTest::newRow("prompt, prompt") << Command::SavePrompt << Command::SavePrompt << 2000ms << true;
 }
 
-void TestVeskServices::commandsKeepTheirDistance()
+void TestVeskServices::repeatedCommandsAreIgnored()
 {
     QFETCH(const Command, first);
     QFETCH(const Command, second);
@@ -306,7 +306,7 @@ void TestVeskServices::trustWithdrawnWhileReading()
     QCOMPARE(world.accessibility.askCount(), 1);
 }
 
-void TestVeskServices::clipboardThatCannotBeKeptIsToldOf()
+void TestVeskServices::unrestorableClipboardIsReported()
 {
     QFETCH(const Command, command);
     const QString reason =

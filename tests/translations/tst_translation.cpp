@@ -83,8 +83,8 @@ private Q_SLOTS:
 
     void everyMessageIsTranslated_data();
     void everyMessageIsTranslated();
-    void firstLanguageThatThereIsIsTaken_data();
-    void firstLanguageThatThereIsIsTaken();
+    void firstSupportedLanguageIsUsed_data();
+    void firstSupportedLanguageIsUsed();
     void numbersAndDatesFollowTheTexts();
 };
 
@@ -125,7 +125,7 @@ void TranslationTest::everyMessageIsTranslated()
     }
 }
 
-void TranslationTest::firstLanguageThatThereIsIsTaken_data()
+void TranslationTest::firstSupportedLanguageIsUsed_data()
 {
     QTest::addColumn<QStringList>("languages");
     QTest::addColumn<QLocale::Language>("taken");
@@ -136,7 +136,7 @@ void TranslationTest::firstLanguageThatThereIsIsTaken_data()
     QTest::newRow("none at all") << QStringList{} << QLocale::English;
 }
 
-void TranslationTest::firstLanguageThatThereIsIsTaken()
+void TranslationTest::firstSupportedLanguageIsUsed()
 {
     QFETCH(QStringList, languages);
     QFETCH(QLocale::Language, taken);
