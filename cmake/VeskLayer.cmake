@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 #
-# One layer of the house: a static library whose headers are seen, and whose symbols are linked,
-# only where the layer is named under USES.
+# A layer is a static library whose headers are visible, and whose symbols are linked, only where the layer is
+# named under USES.
 
 # Options for compiling our own code: warnings and Qt's strict definitions.
 function(vesk_compile_options target)
@@ -42,11 +42,10 @@ endfunction()
 # vesk_layer(<name> SOURCES <file>... [USES <layer>...] [LIBRARIES <library>...]
 #            [QML_URI <uri> QML_FILES <file>... [QML_USES <uri>...]])
 #
-# Makes the library vesk_<name>. SOURCES lists headers too. USES are other layers, LIBRARIES are
-# foreign targets; both are handed on to users. With QML_URI the layer has a QML module of its own;
-# QML_USES are the modules of the types that its own C++ types have for properties.
-# Besides, an executable links the whole of the layer with nothing but what it declares, so that a
-# dependency that is not declared does not link.
+# Creates the library vesk_<name>. SOURCES includes headers. USES are other layers, LIBRARIES are other
+# targets; both are passed on to users. With QML_URI the layer has its own QML module; QML_USES are the
+# modules of the types that properties of its C++ types have. In addition, an executable links the whole layer
+# with only what it declares, so that an undeclared dependency does not link.
 function(vesk_layer name)
     cmake_parse_arguments(arg "" "QML_URI" "SOURCES;USES;LIBRARIES;QML_FILES;QML_USES" ${ARGN})
     set(target vesk_${name})

@@ -2,8 +2,8 @@
 
 # vesk_test(<name> SOURCES <file>... [USES <layer>...] [LIBRARIES <library>...])
 #
-# Makes the test tst_<name> of one folder of tests/ and registers it; it runs offscreen
-# and paints without a graphics card, as tests/unit.env says.
+# Creates the test tst_<name> in a folder of tests/ and registers it. It runs offscreen and renders without a
+# GPU, as set in tests/unit.env.
 function(vesk_test name)
     cmake_parse_arguments(arg "" "" "SOURCES;USES;LIBRARIES" ${ARGN})
     set(target tst_${name})

@@ -1,9 +1,9 @@
 # shellcheck shell=bash
 # SPDX-License-Identifier: MIT
 #
-# Sourced by ./dev: sees to it that the packages of tools/packages.txt are there.
+# Sourced by ./dev: makes sure that the packages in tools/packages.txt are installed.
 
-# The lines of the named groups, each a package or several alternatives.
+# The lines of the named groups; each is a package or several alternatives.
 packages_of() {
     local group='' line
     while IFS= read -r line; do
@@ -17,7 +17,7 @@ packages_of() {
     done <tools/packages.txt | sort -u
 }
 
-# Of the lines on standard input, those of which no alternative is installed.
+# The lines on standard input of which no alternative is installed.
 not_installed() {
     local lines line name installed found
     mapfile -t lines
@@ -34,7 +34,7 @@ not_installed() {
     done
 }
 
-# Of each line on standard input, the first alternative that the package lists know.
+# For each line on standard input, the first alternative that the package lists know.
 choose() {
     local line name chosen
     while IFS= read -r line; do
@@ -44,7 +44,7 @@ choose() {
                 chosen=$name
             fi
         done
-        # An unknown one is left to apt-get, which says so.
+        # Leave an unknown package to apt-get, which reports it.
         printf '%s\n' "${chosen:-${line%% *}}"
     done
 }
@@ -60,19 +60,19 @@ as_root() {
     fi
 }
 
-# True if package lists are there and younger than a day.
+# Succeeds if package lists exist and are younger than a day.
 has_fresh_lists() {
     [[ -n $(find /var/lib/apt/lists -maxdepth 1 -name '*Packages*' -mtime -1 -print -quit 2>/dev/null) ]]
 }
 
-# Asks whether to install packages, unless nobody is there to answer or the answer was given before.
+# Asks whether to install packages, unless nobody can answer or the answer is already known.
 may_install() {
     local answer
     [[ ${VESK_PACKAGES:-} != install && -t 0 ]] || return 0
     read -r -p 'Install them? [Y/n] ' answer && [[ ${answer,,} =~ ^(y|yes|)$ ]]
 }
 
-# need <group>...: installs what is missing of these groups; ends the run if it cannot.
+# need <group>...: installs missing packages of these groups; exits if it cannot.
 need() {
     [[ ${VESK_PACKAGES:-} != skip ]] || return 0
     local missing names
@@ -87,6 +87,6 @@ need() {
     may_install || exit 1
     has_fresh_lists || as_root apt-get update || exit 1
     mapfile -t names < <(choose <<<"$missing")
-    # Another run may be installing packages at this moment.
+    # Another run may be installing packages right now.
     as_root apt-get install --yes --no-install-recommends -o DPkg::Lock::Timeout=600 "${names[@]}" || exit 1
 }
