@@ -12,7 +12,7 @@ namespace vesk {
 class Accessibility;
 class Clock;
 
-/// Returns the address of the web page that contains the element with the keyboard in this process. Nullopt
+/// Returns the address of the web page that contains the element with the focus in this process. Nullopt
 /// if the element is not in a page, the scheme is neither http nor https, or the answer takes more than 300
 /// ms. Both objects must outlive the wait.
 QCoro::Task<std::optional<QString>> readPageAddress(Accessibility *accessibility, Clock *clock,

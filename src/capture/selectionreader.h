@@ -71,7 +71,7 @@ public:
     /// reading, or if it only repeats the application's name.
     [[nodiscard]] std::optional<SourceAtPress> readSource() const;
 
-    /// Returns the address of the web page that has the keyboard in this process; nullopt if there is none,
+    /// Returns the address of the web page that has the focus in this process; nullopt if there is none,
     /// it is neither http nor https, or the answer takes more than 300 ms. May run while the selection is
     /// read.
     QCoro::Task<std::optional<QString>> readPageAddress(qint64 processIdentifier);

@@ -81,7 +81,7 @@ public:
     /// `trustChanged` is emitted.
     virtual void askForTrust() = 0;
 
-    /// Returns the title of the window that has the keyboard in the application with this process identifier;
+    /// Returns the title of the window that has the focus in the application with this process identifier;
     /// nullopt if there is no such window or it has no title. Synchronous, because it must be read at the key
     /// press.
     [[nodiscard]] virtual std::optional<QString> focusedWindowTitle(qint64 processIdentifier) const = 0;

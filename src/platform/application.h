@@ -29,7 +29,7 @@ public:
     /// that window no longer exists, another application has it.
     [[nodiscard]] virtual bool isAway() const = 0;
 
-    /// Whether the window that `hide` should have given the keyboard back to is closed, however long ago.
+    /// Whether the window that `hide` should have given the focus back to is closed, however long ago.
     /// False if there was no such window.
     [[nodiscard]] virtual bool isPreviousWindowClosed() const = 0;
 
@@ -48,15 +48,15 @@ public:
 
     /// Holds back the keys that are typed from now on for the window that `activate` is about to give the
     /// keyboard to, and remembers the other application's window that has it. Must be called before a window
-    /// is shown, because showing it may already give it the keyboard. If no `activate` follows, ends by
+    /// is shown, because showing it may already give it the focus. If no `activate` follows, ends by
     /// itself after a moment. Returns false if the platform cannot do this, or if one of this program's
     /// windows already has the focus.
     virtual bool holdKeys() = 0;
 
-    /// Gives the keyboard to `window`, which must be shown or about to be shown.
+    /// Gives the focus to `window`, which must be shown or about to be shown.
     virtual void activate(QWindow &window) = 0;
 
-    /// Gives the keyboard back to the window, of this or another program, that had it before `window` was
+    /// Gives the focus back to the window, of this or another program, that had it before `window` was
     /// activated. Hides nothing. A key that is still down does not reach that window. Does nothing if
     /// `window` does not have the focus.
     virtual void giveKeyboardBack(QWindow &window) = 0;
@@ -64,7 +64,7 @@ public:
 Q_SIGNALS:
     /// Emitted after the program was hidden.
     void didHide();
-    /// Emitted when a window of another application has taken the keyboard from this program, or the user has
+    /// Emitted when a window of another application has taken the focus from this program, or the user has
     /// switched to another workspace while this program had a window on the screen.
     void didResignActive();
     /// Emitted when the user has started the program again; the second process has already exited.

@@ -15,9 +15,9 @@ class Windows : public QObject
 
 public:
     enum class Kind {
-        /// Takes the keyboard, stays above other windows, is on every workspace, and is not in the task list.
+        /// Takes the focus, stays above other windows, is on every workspace, and is not in the task list.
         Panel,
-        /// Takes neither the keyboard nor clicks, is above everything, and is on every workspace.
+        /// Takes neither the focus nor clicks, is above everything, and is on every workspace.
         Notice,
     };
 

@@ -9,12 +9,12 @@
 
 namespace vesk {
 
-/// The result of a search for the object with the keyboard in an application.
+/// The result of a search for the object with the focus in an application.
 struct AtSpiFocus
 {
     /// Nullopt if no object that was seen claims the keyboard.
     std::optional<AtSpiReference> object;
-    /// Whether the object has a text. Containers claim the keyboard together with what they contain.
+    /// Whether the object has a text. Containers claim the focus together with what they contain.
     bool isText = false;
     /// Whether all objects that can have the focus were seen.
     bool isComplete = false;

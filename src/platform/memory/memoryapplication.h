@@ -8,7 +8,7 @@
 
 namespace vesk {
 
-/// This program without any others. It hides and shows its real windows; a test can take the keyboard away.
+/// This program without any others. It hides and shows its real windows; a test can take the focus away.
 class MemoryApplication final : public Application
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ public:
 
     /// Simulates the user switching to another application.
     void resignActive();
-    /// Sets whether the window manager has given the keyboard back to the previous window.
+    /// Sets whether the window manager has given the focus back to the previous window.
     void setAway(bool isAway) { m_isAway = isAway; }
     /// Simulates that the window that had the focus is closed.
     void closePreviousWindow() { m_isPreviousWindowClosed = true; }

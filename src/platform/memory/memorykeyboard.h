@@ -79,7 +79,7 @@ public:
         m_clock = &clock;
         m_delay = delay;
     }
-    /// Gives the keyboard to another window.
+    /// Gives the focus to another window.
     void setTarget(Target target) { m_target = target; }
     /// Sets whether commands can be posted. If not, `post` returns false.
     void setAllowed(bool isAllowed) { m_isAllowed = isAllowed; }

@@ -10,8 +10,8 @@ namespace vesk {
 
 class X11Connection;
 
-/// Prevents a key that was pressed in one of Vesk's windows from reaching the window that gets the keyboard
-/// next: the server repeats a held key for whoever has the keyboard. The grabs belong to a separate
+/// Prevents a key that was pressed in one of Vesk's windows from reaching the window that gets the focus
+/// next: the server repeats a held key for whichever window has the focus. The grabs belong to a separate
 /// connection and end with it, whatever hot keys Vesk has on the same keys.
 class HeldKeyGuard final : public QObject
 {
@@ -22,7 +22,7 @@ public:
     ~HeldKeyGuard() override;
 
     /// Guards the keys that are down now and would be repeated, until all of them are up. Must be called
-    /// before another window gets the keyboard.
+    /// before another window gets the focus.
     void begin();
 
 private:

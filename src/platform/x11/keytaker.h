@@ -31,7 +31,7 @@ enum class KeyTaker {
     OtherMachine,
 };
 
-/// Returns what has the keyboard in a window. `entry` is the desktop entry of the window's application, null
+/// Returns what has the focus in a window. `entry` is the desktop entry of the window's application, null
 /// if it has none. `role` is the role of the object with the focus, nullopt if it is not known.
 [[nodiscard]] KeyTaker keyTakerOf(const WindowIdentity &window, const DesktopEntry *entry,
                                   const std::optional<QString> &role = std::nullopt);

@@ -19,7 +19,7 @@ void setCardinal(QWindow &window, const char *property, quint32 value);
 void addStates(QWindow &window, const QList<const char *> &states);
 /// Cuts a window to these rectangles, in pixels of the server. An empty list removes the cut.
 void setShape(QWindow &window, const QList<xcb_rectangle_t> &rectangles);
-/// Asks the window manager to give the keyboard to a window of any application.
+/// Asks the window manager to focus a window of any application.
 void requestActivation(xcb_window_t window, xcb_timestamp_t time);
 
 } // namespace vesk::ownwindows
