@@ -46,7 +46,7 @@ std::optional<Qt::KeyboardModifier> findModifier(QStringView name)
     return found == kModifierNames.end() ? std::nullopt : std::optional(found->modifier);
 }
 
-/// Identifiers that are separated by commas or spaces; the ending of a desktop entry is left out.
+/// Identifiers separated by commas or spaces, without the suffix of a desktop entry.
 QStringList applicationsIn(const QString &text)
 {
     static const QRegularExpression separators(u"[,\\s]+"_s);

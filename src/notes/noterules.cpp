@@ -5,7 +5,7 @@ namespace vesk::noterules {
 
 namespace {
 
-/// The note changed last among those with checkboxes; null if none has any.
+/// The most recently changed note that has checkboxes; null if there is none.
 Note *findLastChecklist(NotesStore &store)
 {
     for (qsizetype i = 0; i < store.notes().count(); ++i) {
@@ -28,7 +28,7 @@ Kept insert(NotesStore &store, const Clock &clock, const QString &text,
     return save(store, Outcome::Added);
 }
 
-/// What keeps a text from being added, if anything does.
+/// The reason why a text cannot be added, if there is one.
 std::optional<Kept> refuse(const QString &text)
 {
     if (text.isEmpty())
@@ -42,7 +42,7 @@ std::optional<Kept> refuse(const QString &text)
 
 bool isTooLong(const QString &text)
 {
-    // Three bytes is the most that one unit takes, so most texts need not be converted.
+    // A UTF-16 unit takes at most three bytes, so most texts need not be converted.
     return text.size() > kMaximumBytes / 3 && text.toUtf8().size() > kMaximumBytes;
 }
 
@@ -80,7 +80,7 @@ Kept keepSelection(NotesStore &store, const Clock &clock, const QString &text,
         return save(store, Outcome::Appended, title);
     }
     const QString kept = isChecklist ? markup::checklist(text) : text;
-    // Stored texts are well-formed, so the new one is compared as it would be stored.
+    // Stored texts are well formed, so compare the new text in the form in which it would be stored.
     const Note *newest = store.notes().first();
     if (newest && target != Target::LastChecklist && newest->text() == markup::wellFormed(kept))
         return save(store, Outcome::AlreadyThere);

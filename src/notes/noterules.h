@@ -3,10 +3,10 @@
 
 #include "notes/notesstore.h"
 
-/// How notes come into the store, whoever brings them.
+/// How notes are added to the store, wherever they come from.
 namespace vesk::noterules {
 
-/// The longest text that is added at once, in bytes of UTF-8.
+/// The longest text that can be added at once, in bytes of UTF-8.
 inline constexpr qsizetype kMaximumBytes = qsizetype{16} * 1024 * 1024;
 
 /// Whether the text has more than `kMaximumBytes`.
@@ -15,22 +15,22 @@ inline constexpr qsizetype kMaximumBytes = qsizetype{16} * 1024 * 1024;
 /// Where the selected text goes.
 enum class Target {
     NewNote,
-    /// The note changed last, or a new one if there is none.
+    /// The most recently changed note, or a new one if there is none.
     LastNote,
     /// A new note with a checkbox for each line.
     NewChecklist,
-    /// The checklist changed last, as checkboxes; or a new one if there is none.
+    /// The most recently changed checklist, as checkboxes; or a new one if there is none.
     LastChecklist,
 };
 
 enum class Outcome {
-    /// There is a new note.
+    /// A new note was added.
     Added,
-    /// A note has become longer.
+    /// The text was appended to a note.
     Appended,
     /// The newest note already has exactly this text.
     AlreadyThere,
-    /// There was nothing but white space. Nothing has changed.
+    /// The text was only white space. Nothing has changed.
     Empty,
     /// Nothing has changed.
     TooLong,
@@ -39,19 +39,19 @@ enum class Outcome {
 struct Kept
 {
     Outcome outcome;
-    /// Why the store is not written yet; it goes on trying. Empty if it is written, or nothing has changed.
+    /// Why the store is not written yet; it keeps trying. Empty if it is written, or nothing has changed.
     QString problem = {};
-    /// The title that the longer note had before. Empty if it had none, or no note has become longer.
+    /// The previous title of the note that was appended to. Empty if it had none, or nothing was appended.
     QString appendedTo = {};
 };
 
-/// Adds a note with the text, without white space at its ends. Saves.
+/// Adds a note with the text, trimmed of white space. Saves.
 [[nodiscard]] Kept add(NotesStore &store, const Clock &clock, const QString &text);
 
-/// The same for a text that was typed with signs such as "[ ]", which become checkboxes and bullets.
+/// The same for a typed text, in which signs such as "[ ]" become checkboxes and bullets.
 [[nodiscard]] Kept addTyped(NotesStore &store, const Clock &clock, const QString &text);
 
-/// Keeps a selection, which has no white space at its ends. Saves.
+/// Keeps a selection, which must already be trimmed. Saves.
 [[nodiscard]] Kept keepSelection(NotesStore &store, const Clock &clock, const QString &text,
                                  const std::optional<CaptureSource> &source, Target target);
 

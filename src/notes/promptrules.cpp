@@ -19,7 +19,7 @@ Kept insert(NotesStore &store, const Clock &clock, const QString &text, Prompt::
 
 Kept keepSelection(NotesStore &store, const Clock &clock, const QString &text)
 {
-    // Stored texts are well-formed, so the new one is compared as it would be stored.
+    // Stored texts are well formed, so compare the new text in the form in which it would be stored.
     const Prompt *newest = store.prompts().first();
     if (newest != nullptr && newest->text() == markup::wellFormed(text))
         return {.outcome = Outcome::AlreadyThere};
@@ -35,7 +35,7 @@ void clearDone(NotesStore &store)
 {
     for (Prompt *prompt : store.donePrompts())
         store.remove(*prompt);
-    // What is not deleted in the file yet is deleted by a later save.
+    // What is not deleted from the file now will be by a later save.
     static_cast<void>(store.save());
 }
 

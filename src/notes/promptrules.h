@@ -3,7 +3,7 @@
 
 #include "notes/noterules.h"
 
-/// How prompts come into the store and leave it.
+/// How prompts are added to the store and removed from it.
 namespace vesk::promptrules {
 
 using noterules::Kept;
@@ -12,7 +12,7 @@ using noterules::Outcome;
 /// Keeps a selection as a prompt, unless the newest prompt has exactly this text. Saves.
 [[nodiscard]] Kept keepSelection(NotesStore &store, const Clock &clock, const QString &text);
 
-/// Adds a prompt that was typed, without white space at its ends. Saves.
+/// Adds a typed prompt, trimmed of white space. Saves.
 [[nodiscard]] Kept addTyped(NotesStore &store, const Clock &clock, const QString &text);
 
 /// Deletes every done prompt. Saves.

@@ -46,10 +46,10 @@ public:
     /// See `expectKeys`, without which it does nothing.
     virtual void expectNoKeys() = 0;
 
-    /// Holds back the keys that are typed from now on for the window that `activate` is about to give the
-    /// keyboard to, and remembers the other application's window that has it. Must be called before a window
-    /// is shown, because showing it may already give it the focus. If no `activate` follows, ends by
-    /// itself after a moment. Returns false if the platform cannot do this, or if one of this program's
+    /// Holds back the keys that are typed from now on for the window that `activate` is about to focus, and
+    /// remembers the other application's window that has the focus. Must be called before a window is shown,
+    /// because showing it may already focus it. If no `activate` follows, ends by itself after a moment.
+    /// Returns false if the platform cannot do this, or if one of this program's
     /// windows already has the focus.
     virtual bool holdKeys() = 0;
 
