@@ -84,8 +84,8 @@
 <context>
     <name>Client</name>
     <message>
-        <source>Vesk needs the session&apos;s message bus, and there is none: run this in your desktop&apos;s session.</source>
-        <translation>Vesk braucht den Nachrichtenbus der Sitzung, und es gibt keinen: Rufen Sie dies in der Sitzung Ihrer Arbeitsumgebung auf.</translation>
+        <source>There is no session bus. Run this command in your desktop session.</source>
+        <translation>Es gibt keinen Sitzungsbus. Führen Sie diesen Befehl in der Sitzung Ihrer Arbeitsumgebung aus.</translation>
     </message>
 </context>
 <context>
@@ -139,6 +139,10 @@
     <message>
         <source>Select All</source>
         <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
     </message>
 </context>
 <context>
@@ -195,7 +199,7 @@
     </message>
     <message>
         <source>Delete</source>
-        <translation>Entf</translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -548,8 +552,8 @@
         <translation>nicht erlaubt</translation>
     </message>
     <message>
-        <source>The choice could not be written to %1.</source>
-        <translation>Die Wahl konnte nicht in %1 geschrieben werden.</translation>
+        <source>The setting could not be written to %1.</source>
+        <translation>Die Einstellung konnte nicht in %1 geschrieben werden.</translation>
     </message>
 </context>
 <context>
@@ -567,12 +571,12 @@
         <translation>Nicht jetzt</translation>
     </message>
     <message>
-        <source>When you press one of Vesk’s keys, Vesk reads the text that is selected, or was copied a moment before, and where it is: the application, its window’s title and, in a browser, the page’s address. At other times it only notices when a key or button is pressed (not which one), when something is selected, and whether a password field has the keyboard, to tell what is selected now from what was and to leave passwords alone. It sends nothing anywhere.
+        <source>When you press one of Vesk’s keys, Vesk reads the text that is selected, or was copied a moment before, and where it is: the application, its window’s title and, in a browser, the page’s address. At other times it only notices when a key or button is pressed (not which one), when something is selected, and whether a password field has the keyboard. It needs this to tell a current selection from an old one and to leave passwords alone. It sends nothing anywhere.
 
-Applications that are open already may have to be started again before Vesk can read them.</source>
-        <translation>Wenn Sie eine von Vesks Tasten drücken, liest Vesk den Text, der markiert ist oder eben kopiert wurde, und wo er steht: die Anwendung, den Titel ihres Fensters und im Browser die Adresse der Seite. Sonst bemerkt Vesk nur, wann eine Taste oder ein Knopf gedrückt wird (nicht welche), wann etwas markiert wird und ob ein Passwortfeld die Tastatur hat, um die jetzige Markierung von einer früheren zu unterscheiden und Passwörter nicht anzurühren. Vesk sendet nichts irgendwohin.
+You may have to restart applications that are already open before Vesk can read them.</source>
+        <translation>Wenn Sie eine von Vesks Tasten drücken, liest Vesk den Text, der markiert ist oder eben kopiert wurde, und wo er steht: die Anwendung, den Titel ihres Fensters und im Browser die Adresse der Seite. Sonst bemerkt Vesk nur, wann eine Taste oder ein Knopf gedrückt wird (nicht welche), wann etwas markiert wird und ob ein Passwortfeld die Tastatur hat. Vesk braucht das, um die jetzige Markierung von einer früheren zu unterscheiden und Passwörter nicht anzurühren. Vesk sendet nichts irgendwohin.
 
-Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevor Vesk sie lesen kann.</translation>
+Vielleicht müssen Sie Anwendungen, die schon offen sind, neu starten, bevor Vesk sie lesen kann.</translation>
     </message>
 </context>
 <context>
@@ -606,14 +610,6 @@ Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevo
         <translation>Später</translation>
     </message>
     <message>
-        <source>Your system does not update this Vesk</source>
-        <translation>Ihr System aktualisiert dieses Vesk nicht</translation>
-    </message>
-    <message>
-        <source>It was not installed as a package. A newer version is where this one came from.</source>
-        <translation>Es wurde nicht als Paket installiert. Eine neuere Version gibt es dort, wo diese herkommt.</translation>
-    </message>
-    <message>
         <source>Could not check for updates</source>
         <translation>Die Suche nach Updates ging nicht</translation>
     </message>
@@ -625,6 +621,14 @@ Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevo
         <source>Your system can install version %1 with your package manager.</source>
         <translation>Ihr System kann Version %1 mit der Paketverwaltung installieren.</translation>
     </message>
+    <message>
+        <source>Your system does not update this copy of Vesk</source>
+        <translation>Ihr System aktualisiert diese Kopie von Vesk nicht</translation>
+    </message>
+    <message>
+        <source>It was not installed as a package. Look for a newer version where you got this one.</source>
+        <translation>Sie wurde nicht als Paket installiert. Suchen Sie dort, woher Sie diese Version haben, nach einer neueren.</translation>
+    </message>
 </context>
 <context>
     <name>vesk::CanberraSounds</name>
@@ -635,18 +639,6 @@ Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevo
 </context>
 <context>
     <name>vesk::Client</name>
-    <message>
-        <source>The text is longer than the %1 MB that a note may have.</source>
-        <translation>Der Text ist länger als die %1 MB, die eine Notiz haben darf.</translation>
-    </message>
-    <message>
-        <source>Standard output takes no more: %1.</source>
-        <translation>Die Standardausgabe nimmt nichts mehr an: %1.</translation>
-    </message>
-    <message>
-        <source>Standard input cannot be read.</source>
-        <translation>Die Standardeingabe kann nicht gelesen werden.</translation>
-    </message>
     <message>
         <source>Standard input is not plain text in UTF-8.</source>
         <translation>Die Standardeingabe ist kein reiner Text in UTF-8.</translation>
@@ -668,12 +660,24 @@ Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevo
         <translation>%1 konnte nicht gestartet werden: %2.</translation>
     </message>
     <message>
-        <source>Vesk is not running, so none of these works now.</source>
-        <translation>Vesk läuft nicht, daher wirkt im Moment keine davon.</translation>
+        <source>The text is too long: a note can have up to %1 MB.</source>
+        <translation>Der Text ist zu lang: Eine Notiz kann bis zu %1 MB haben.</translation>
     </message>
     <message>
-        <source>The note was not kept: other commands are writing to the notes all the time.</source>
-        <translation>Die Notiz wurde nicht behalten: Andere Befehle schreiben fortwährend in die Notizen.</translation>
+        <source>Could not write to standard output: %1.</source>
+        <translation>In die Standardausgabe konnte nicht geschrieben werden: %1.</translation>
+    </message>
+    <message>
+        <source>Vesk is not running, so none of these keys work now.</source>
+        <translation>Vesk läuft nicht, daher wirkt im Moment keine dieser Tasten.</translation>
+    </message>
+    <message>
+        <source>Could not read standard input.</source>
+        <translation>Die Standardeingabe konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The note was not saved, because other commands kept writing to the notes.</source>
+        <translation>Die Notiz wurde nicht gespeichert, weil andere Befehle fortwährend in die Notizen schrieben.</translation>
     </message>
 </context>
 <context>
@@ -790,10 +794,6 @@ Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevo
         <translation>einem anderen Programm</translation>
     </message>
     <message>
-        <source>%1 has these keys. Free them there, or choose others in %2.</source>
-        <translation>Diese Tasten sind belegt von %1. Geben Sie sie dort frei oder wählen Sie andere in %2.</translation>
-    </message>
-    <message>
         <source>Switched off in %1.</source>
         <translation>Abgeschaltet in %1.</translation>
     </message>
@@ -824,112 +824,131 @@ Anwendungen, die schon offen sind, müssen vielleicht neu gestartet werden, bevo
         </translation>
     </message>
     <message>
-        <source>Another program has these keys. Free them there, or choose others in %1.</source>
-        <translation>Ein anderes Programm hat diese Tasten. Geben Sie sie dort frei oder wählen Sie andere in %1.</translation>
+        <source>Another program uses these keys. Free them there, or choose others in %1.</source>
+        <translation>Ein anderes Programm benutzt diese Tasten. Geben Sie sie dort frei oder wählen Sie andere in %1.</translation>
+    </message>
+    <message>
+        <source>%1 uses these keys. Free them there, or choose others in %2.</source>
+        <translation>Diese Tasten sind belegt von %1. Geben Sie sie dort frei oder wählen Sie andere in %2.</translation>
     </message>
 </context>
 <context>
     <name>vesk::CommandLine</name>
     <message>
-        <source>keep TEXT as a note; &quot;vesk add -&quot; takes it from standard input</source>
-        <translation>TEXT als Notiz speichern; „vesk add -“ nimmt ihn von der Standardeingabe</translation>
-    </message>
-    <message>
         <source>print the notes, newest first</source>
         <translation>die Notizen ausgeben, die neueste zuerst</translation>
-    </message>
-    <message>
-        <source>whether Vesk may read what is selected in other applications</source>
-        <translation>ob Vesk lesen darf, was in anderen Anwendungen markiert ist</translation>
     </message>
     <message>
         <source>start without showing the panel</source>
         <translation>starten, ohne das Panel anzuzeigen</translation>
     </message>
     <message>
-        <source>draw the windows by the GPU (only at the start)</source>
-        <translation>die Fenster mit der GPU zeichnen (nur beim Start)</translation>
-    </message>
-    <message>
-        <source>print this</source>
-        <translation>dies ausgeben</translation>
-    </message>
-    <message>
         <source>print the version</source>
         <translation>die Version ausgeben</translation>
-    </message>
-    <message>
-        <source>There is no option %1.</source>
-        <translation>Es gibt keine Option %1.</translation>
-    </message>
-    <message>
-        <source>What is to be added? Give the text, or - to take it from standard input.</source>
-        <translation>Was soll hinzugefügt werden? Geben Sie den Text an, oder - für die Standardeingabe.</translation>
-    </message>
-    <message>
-        <source>Put the text into quotes, so that it is one argument.</source>
-        <translation>Setzen Sie den Text in Anführungszeichen, damit er ein einziges Argument ist.</translation>
-    </message>
-    <message>
-        <source>There is no command %1.</source>
-        <translation>Es gibt keinen Befehl %1.</translation>
-    </message>
-    <message>
-        <source>%1 takes one option at most.</source>
-        <translation>%1 nimmt höchstens eine Option.</translation>
-    </message>
-    <message>
-        <source>%1 does not know %2.</source>
-        <translation>%1 kennt %2 nicht.</translation>
-    </message>
-    <message>
-        <source>Usage: vesk [command]
-
-Keeps what you select, anywhere. Without a command: starts Vesk, or shows the panel of the Vesk that
-runs.</source>
-        <translation>Aufruf: vesk [Befehl]
-
-Hält fest, was Sie markieren, überall. Ohne Befehl: startet Vesk oder zeigt das Panel des Vesk, das
-läuft.</translation>
-    </message>
-    <message>
-        <source>Commands for the running Vesk, which is started in the background if none runs:</source>
-        <translation>Befehle für das laufende Vesk; läuft keines, wird es im Hintergrund gestartet:</translation>
-    </message>
-    <message>
-        <source>Commands that need no running Vesk:</source>
-        <translation>Befehle, die kein laufendes Vesk brauchen:</translation>
     </message>
     <message>
         <source>Options:</source>
         <translation>Optionen:</translation>
     </message>
     <message>
-        <source>Exit status: 0 done, 1 failed (standard error says why), 2 wrong use.</source>
-        <translation>Rückgabewert: 0 erledigt, 1 fehlgeschlagen (die Standardfehlerausgabe sagt warum), 2 falscher Aufruf.</translation>
+        <source>save TEXT as a note; &quot;vesk add -&quot; reads standard input</source>
+        <translation>TEXT als Notiz speichern; „vesk add -“ liest die Standardeingabe</translation>
     </message>
     <message>
-        <source>print the keys that work everywhere, and whether they do</source>
-        <translation>die überall wirkenden Tasten ausgeben, und ob sie wirken</translation>
+        <source>print the global keys and whether they work</source>
+        <translation>die globalen Tasten ausgeben, und ob sie wirken</translation>
+    </message>
+    <message>
+        <source>allow or forbid Vesk to read selected text</source>
+        <translation>Vesk erlauben oder verbieten, markierten Text zu lesen</translation>
+    </message>
+    <message>
+        <source>draw windows with the GPU (only when Vesk starts)</source>
+        <translation>Fenster mit der GPU zeichnen (nur beim Start von Vesk)</translation>
+    </message>
+    <message>
+        <source>print this help</source>
+        <translation>diese Hilfe ausgeben</translation>
+    </message>
+    <message>
+        <source>Unknown option: %1</source>
+        <translation>Unbekannte Option: %1</translation>
+    </message>
+    <message>
+        <source>add: The text is missing. Give a text, or - to read standard input.</source>
+        <translation>add: Der Text fehlt. Geben Sie einen Text an, oder - für die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>add: Too many arguments. Put the text in quotes.</source>
+        <translation>add: Zu viele Argumente. Setzen Sie den Text in Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>Unknown command: %1</source>
+        <translation>Unbekannter Befehl: %1</translation>
+    </message>
+    <message>
+        <source>%1: Only one option is allowed.</source>
+        <translation>%1: Nur eine Option ist erlaubt.</translation>
+    </message>
+    <message>
+        <source>%1: Unknown option %2</source>
+        <translation>%1: Unbekannte Option %2</translation>
+    </message>
+    <message>
+        <source>Usage: vesk [command]
+
+Saves what you select in any application. Without a command, starts Vesk, or shows its
+panel if it is already running.</source>
+        <translation>Aufruf: vesk [Befehl]
+
+Speichert, was Sie in einer beliebigen Anwendung markieren. Ohne Befehl: startet Vesk oder
+zeigt sein Panel, wenn es schon läuft.</translation>
+    </message>
+    <message>
+        <source>Commands for the running Vesk, which is started in the background if necessary:</source>
+        <translation>Befehle für das laufende Vesk, das bei Bedarf im Hintergrund gestartet wird:</translation>
+    </message>
+    <message>
+        <source>Commands that work without a running Vesk:</source>
+        <translation>Befehle, die ohne laufendes Vesk wirken:</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 success, 1 failure (standard error says why), 2 wrong usage.</source>
+        <translation>Rückgabewert: 0 Erfolg, 1 Fehler (die Standardfehlerausgabe sagt warum), 2 falscher Aufruf.</translation>
     </message>
 </context>
 <context>
     <name>vesk::DailyCopy</name>
     <message>
-        <source>The notes file is damaged, so no copy of it was made. Quit and start Vesk for advice.</source>
-        <translation>Die Notizdatei ist beschädigt, deshalb wurde keine Kopie gemacht. Beenden Sie Vesk und starten Sie es neu, um Rat zu erhalten.</translation>
-    </message>
-    <message>
         <source>Vesk cannot keep a copy of your notes: the disk is too full.</source>
         <translation>Vesk kann keine Kopie Ihrer Notizen anlegen: Der Datenträger ist zu voll.</translation>
     </message>
     <message>
-        <source>Vesk cannot keep a copy of your notes: it may not write into their folder.</source>
-        <translation>Vesk kann keine Kopie Ihrer Notizen anlegen: Es darf nicht in deren Ordner schreiben.</translation>
+        <source>The notes file is damaged, so Vesk did not copy it. Quit Vesk and start it again for advice.</source>
+        <translation>Die Notizdatei ist beschädigt, deshalb hat Vesk sie nicht kopiert. Beenden Sie Vesk und starten Sie es neu, um Rat zu erhalten.</translation>
     </message>
     <message>
-        <source>Vesk cannot keep a copy of your notes: making it failed.</source>
-        <translation>Vesk kann keine Kopie Ihrer Notizen anlegen: Es ist fehlgeschlagen.</translation>
+        <source>Vesk cannot keep a copy of your notes: it has no permission to write to their folder.</source>
+        <translation>Vesk kann keine Kopie Ihrer Notizen anlegen: Es hat keine Berechtigung, in deren Ordner zu schreiben.</translation>
+    </message>
+    <message>
+        <source>Vesk cannot keep a copy of your notes: copying them failed.</source>
+        <translation>Vesk kann keine Kopie Ihrer Notizen anlegen: Das Kopieren ist fehlgeschlagen.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::Database</name>
+    <message>
+        <source>Another file was put in the place of the notes file while Vesk was running. Vesk leaves it alone and keeps your notes in “%1” instead.</source>
+        <translation>Während Vesk lief, wurde eine andere Datei an die Stelle der Notizdatei gesetzt. Vesk lässt sie unberührt und bewahrt Ihre Notizen stattdessen in „%1“ auf.</translation>
+    </message>
+    <message>
+        <source>The notes file was moved to “%1” while Vesk was running. Vesk has written all your notes to a new file in the old place, and the moved one no longer changes.</source>
+        <translation>Die Notizdatei wurde nach „%1“ verschoben, während Vesk lief. Vesk hat alle Ihre Notizen in eine neue Datei an der alten Stelle geschrieben, und die verschobene ändert sich nicht mehr.</translation>
+    </message>
+    <message>
+        <source>The notes file was deleted or moved away while Vesk was running. Vesk has written all your notes to a new file in its place.</source>
+        <translation>Die Notizdatei wurde gelöscht oder verschoben, während Vesk lief. Vesk hat alle Ihre Notizen in eine neue Datei an ihrer Stelle geschrieben.</translation>
     </message>
 </context>
 <context>
@@ -1120,52 +1139,52 @@ läuft.</translation>
 <context>
     <name>vesk::KeySettings</name>
     <message>
-        <source>There is no key in it.</source>
-        <translation>Darin steht keine Taste.</translation>
-    </message>
-    <message>
-        <source>“%1” is no modifier; there are Super, Alt, Ctrl and Shift.</source>
-        <translation>„%1“ ist keine Umschalttaste; es gibt Super, Alt, Ctrl und Shift.</translation>
-    </message>
-    <message>
-        <source>After the modifiers a key is missing.</source>
-        <translation>Nach den Umschalttasten fehlt eine Taste.</translation>
-    </message>
-    <message>
-        <source>There is no key “%1”.</source>
-        <translation>Es gibt keine Taste „%1“.</translation>
-    </message>
-    <message>
-        <source>It needs Super, Alt or Ctrl, or every application would lose this key.</source>
-        <translation>Es braucht Super, Alt oder Ctrl, sonst ginge diese Taste allen Anwendungen verloren.</translation>
-    </message>
-    <message>
-        <source>“%1” is no command with “=” and a combination behind it.</source>
-        <translation>„%1“ ist kein Befehl mit „=“ und einer Kombination dahinter.</translation>
-    </message>
-    <message>
-        <source>No key has a command “%1”.</source>
-        <translation>Keine Taste hat einen Befehl „%1“.</translation>
-    </message>
-    <message>
         <source>Keys.conf, line %1: %2</source>
         <translation>Keys.conf, Zeile %1: %2</translation>
-    </message>
-    <message>
-        <source>%1 “%2” stays at %3.</source>
-        <translation>%1 „%2“ bleibt bei %3.</translation>
-    </message>
-    <message>
-        <source>“%1” was in line %2 already, which holds.</source>
-        <translation>„%1“ stand schon in Zeile %2, und diese gilt.</translation>
     </message>
     <message>
         <source>Only save-prompt can be Shift tapped twice.</source>
         <translation>Nur save-prompt kann zweimal Shift sein.</translation>
     </message>
     <message>
-        <source>%1 is the combination of “%2”.</source>
-        <translation>%1 ist die Kombination von „%2“.</translation>
+        <source>The combination is empty.</source>
+        <translation>Die Kombination ist leer.</translation>
+    </message>
+    <message>
+        <source>“%1” is not a modifier. The modifiers are Super, Alt, Ctrl and Shift.</source>
+        <translation>„%1“ ist keine Sondertaste. Die Sondertasten sind Super, Alt, Ctrl und Shift.</translation>
+    </message>
+    <message>
+        <source>The key after the modifiers is missing.</source>
+        <translation>Die Taste nach den Sondertasten fehlt.</translation>
+    </message>
+    <message>
+        <source>Unknown key: “%1”.</source>
+        <translation>Unbekannte Taste: „%1“.</translation>
+    </message>
+    <message>
+        <source>The combination needs Super, Alt or Ctrl, or no application could use this key.</source>
+        <translation>Die Kombination braucht Super, Alt oder Ctrl, sonst könnte keine Anwendung diese Taste benutzen.</translation>
+    </message>
+    <message>
+        <source>“%1” does not have the form “command = combination”.</source>
+        <translation>„%1“ hat nicht die Form „Befehl = Kombination“.</translation>
+    </message>
+    <message>
+        <source>Unknown command: “%1”.</source>
+        <translation>Unbekannter Befehl: „%1“.</translation>
+    </message>
+    <message>
+        <source>%1 “%2” keeps %3.</source>
+        <translation>%1 „%2“ behält %3.</translation>
+    </message>
+    <message>
+        <source>“%1” is already set in line %2, which applies.</source>
+        <translation>„%1“ ist schon in Zeile %2 festgelegt, und diese gilt.</translation>
+    </message>
+    <message>
+        <source>%1 is already used for “%2”.</source>
+        <translation>%1 wird schon für „%2“ benutzt.</translation>
     </message>
 </context>
 <context>
@@ -1206,32 +1225,32 @@ läuft.</translation>
 <context>
     <name>vesk::Main</name>
     <message>
-        <source>Vesk is running already, and does not answer.</source>
-        <translation>Vesk läuft bereits und antwortet nicht.</translation>
-    </message>
-    <message>
-        <source>Vesk needs the session&apos;s message bus, and there is none.</source>
-        <translation>Vesk braucht den Nachrichtenbus der Sitzung, und es gibt keinen.</translation>
-    </message>
-    <message>
         <source>Vesk cannot start: %1</source>
         <translation>Vesk kann nicht starten: %1</translation>
-    </message>
-    <message>
-        <source>Vesk needs an X11 desktop, and this is a Wayland desktop without an X server. Log in to a session of X11, or use the commands that need none: vesk add and vesk list.</source>
-        <translation>Vesk braucht eine X11-Arbeitsumgebung, und dies ist eine mit Wayland ohne X-Server. Melden Sie sich in einer X11-Sitzung an, oder nutzen Sie die Befehle, die keine brauchen: vesk add und vesk list.</translation>
-    </message>
-    <message>
-        <source>Vesk needs an X11 desktop, and there is no X server at &quot;%1&quot;. The commands vesk add and vesk list need none.</source>
-        <translation>Vesk braucht eine X11-Arbeitsumgebung, und bei „%1“ ist kein X-Server. Die Befehle vesk add und vesk list brauchen keinen.</translation>
     </message>
     <message>
         <source>Vesk cannot start</source>
         <translation>Vesk kann nicht starten</translation>
     </message>
     <message>
-        <source>Vesk could not open the notes store and is about to end.</source>
+        <source>Vesk could not open the notes store and is about to quit.</source>
         <translation>Vesk konnte den Notizspeicher nicht öffnen und beendet sich gleich.</translation>
+    </message>
+    <message>
+        <source>Vesk is already running but does not respond.</source>
+        <translation>Vesk läuft bereits, antwortet aber nicht.</translation>
+    </message>
+    <message>
+        <source>Vesk needs a session bus, and there is none.</source>
+        <translation>Vesk braucht einen Sitzungsbus, und es gibt keinen.</translation>
+    </message>
+    <message>
+        <source>Vesk needs an X11 desktop, and this is a Wayland desktop without an X server. Log in to an X11 session, or use the commands that work without one: vesk add and vesk list.</source>
+        <translation>Vesk braucht eine X11-Arbeitsumgebung, und dies ist eine mit Wayland ohne X-Server. Melden Sie sich in einer X11-Sitzung an, oder nutzen Sie die Befehle, die ohne sie auskommen: vesk add und vesk list.</translation>
+    </message>
+    <message>
+        <source>Vesk needs an X11 desktop, and there is no X server at &quot;%1&quot;. The commands vesk add and vesk list work without one.</source>
+        <translation>Vesk braucht eine X11-Arbeitsumgebung, und bei „%1“ ist kein X-Server. Die Befehle vesk add und vesk list kommen ohne ihn aus.</translation>
     </message>
 </context>
 <context>
@@ -1269,6 +1288,13 @@ läuft.</translation>
     <message>
         <source>Earlier</source>
         <translation>Früher</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::NotesStore</name>
+    <message>
+        <source>Notes that Vesk kept when the notes file was replaced are in “%1”. To get them back, quit Vesk and put that file in the place of “%2”.</source>
+        <translation>Notizen, die Vesk aufbewahrt hat, als die Notizdatei ersetzt wurde, sind in „%1“. Um sie zurückzubekommen, beenden Sie Vesk und setzen Sie diese Datei an die Stelle von „%2“.</translation>
     </message>
 </context>
 <context>
@@ -1326,32 +1352,32 @@ läuft.</translation>
 <context>
     <name>vesk::Remote</name>
     <message>
-        <source>No temporary file could be made in %1.</source>
-        <translation>In %1 konnte keine temporäre Datei angelegt werden.</translation>
-    </message>
-    <message>
         <source>%1 could not be started.</source>
         <translation>%1 konnte nicht gestartet werden.</translation>
     </message>
     <message>
-        <source>Vesk ended as soon as it was started.</source>
-        <translation>Vesk endete gleich nach dem Start.</translation>
+        <source>Could not create a temporary file in %1.</source>
+        <translation>In %1 konnte keine temporäre Datei angelegt werden.</translation>
     </message>
     <message>
-        <source>Vesk was started, and does not answer yet.</source>
-        <translation>Vesk wurde gestartet und antwortet noch nicht.</translation>
+        <source>Vesk quit as soon as it was started.</source>
+        <translation>Vesk hat sich gleich nach dem Start beendet.</translation>
     </message>
     <message>
-        <source>Vesk was told to quit, and has not ended yet.</source>
-        <translation>Vesk sollte sich beenden und läuft noch.</translation>
+        <source>Vesk was started but does not respond yet.</source>
+        <translation>Vesk wurde gestartet, antwortet aber noch nicht.</translation>
     </message>
     <message>
-        <source>Vesk is running, and does not answer.</source>
-        <translation>Vesk läuft und antwortet nicht.</translation>
+        <source>Vesk was told to quit but is still running.</source>
+        <translation>Vesk sollte sich beenden, läuft aber noch.</translation>
     </message>
     <message>
-        <source>The Vesk that is running does not know this command: it is of another version. Quit it and start it again.</source>
-        <translation>Das laufende Vesk kennt diesen Befehl nicht: Es ist von einer anderen Version. Beenden Sie es und starten Sie es neu.</translation>
+        <source>Vesk is running but does not respond.</source>
+        <translation>Vesk läuft, antwortet aber nicht.</translation>
+    </message>
+    <message>
+        <source>The running Vesk is another version, which does not have this command. Quit it and start it again.</source>
+        <translation>Das laufende Vesk ist eine andere Version, die diesen Befehl nicht hat. Beenden Sie es und starten Sie es neu.</translation>
     </message>
 </context>
 <context>
@@ -1365,12 +1391,12 @@ läuft.</translation>
         <translation>Der Text ist zu lang für eine Notiz.</translation>
     </message>
     <message>
-        <source>This Vesk cannot do that.</source>
-        <translation>Dieses Vesk kann das nicht.</translation>
+        <source>The note was added but is not on the disk yet. Do not add it again. %1</source>
+        <translation>Die Notiz wurde hinzugefügt, ist aber noch nicht auf dem Datenträger. Fügen Sie sie nicht noch einmal hinzu. %1</translation>
     </message>
     <message>
-        <source>The note is not on the disk yet; do not add it again. %1</source>
-        <translation>Die Notiz ist noch nicht auf dem Datenträger; fügen Sie sie nicht noch einmal hinzu. %1</translation>
+        <source>This Vesk does not support that command.</source>
+        <translation>Dieses Vesk unterstützt den Befehl nicht.</translation>
     </message>
 </context>
 <context>
@@ -1388,39 +1414,39 @@ läuft.</translation>
         <translation>Nicht gespeichert: Die Notizdatei ist schreibgeschützt. Vesk versucht es weiter.</translation>
     </message>
     <message>
-        <source>Not saved: Vesk may not write the notes file. Vesk keeps trying.</source>
-        <translation>Nicht gespeichert: Vesk darf die Notizdatei nicht schreiben. Vesk versucht es weiter.</translation>
-    </message>
-    <message>
         <source>Not saved: another program is using the notes file. Vesk keeps trying.</source>
         <translation>Nicht gespeichert: Ein anderes Programm benutzt die Notizdatei. Vesk versucht es weiter.</translation>
-    </message>
-    <message>
-        <source>Not saved: the notes file was moved or replaced while Vesk was running.</source>
-        <translation>Nicht gespeichert: Die Notizdatei wurde verschoben oder ersetzt, während Vesk lief.</translation>
     </message>
     <message>
         <source>Not saved: the notes file is damaged. Copy your latest notes elsewhere.</source>
         <translation>Nicht gespeichert: Die Notizdatei ist beschädigt. Kopieren Sie Ihre neuesten Notizen anderswohin.</translation>
     </message>
+    <message>
+        <source>Not saved: the notes file cannot be written (%1). Vesk keeps trying.</source>
+        <translation>Nicht gespeichert: Die Notizdatei kann nicht geschrieben werden (%1). Vesk versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>Not saved: Vesk has no permission to write the notes file. Vesk keeps trying.</source>
+        <translation>Nicht gespeichert: Vesk hat keine Berechtigung, die Notizdatei zu schreiben. Vesk versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>Not saved: the notes file is gone, and a new one cannot be made (%1). Vesk keeps trying.</source>
+        <translation>Nicht gespeichert: Die Notizdatei ist verschwunden, und eine neue kann nicht angelegt werden (%1). Vesk versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>Not saved: the folder of the notes file cannot be reached. Vesk keeps trying.</source>
+        <translation>Nicht gespeichert: Der Ordner der Notizdatei ist nicht erreichbar. Vesk versucht es weiter.</translation>
+    </message>
     <message numerus="yes">
-        <source>%Ln notes or prompts cannot be saved (%1). All others are.</source>
+        <source>%Ln notes or prompts cannot be saved (%1). All others are saved.</source>
         <translation>
             <numerusform>Eine Notiz oder ein Prompt kann nicht gespeichert werden (%1). Alle anderen sind gespeichert.</numerusform>
             <numerusform>%Ln Notizen oder Prompts können nicht gespeichert werden (%1). Alle anderen sind gespeichert.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Not saved: the notes file cannot be written (%1). Vesk keeps trying.</source>
-        <translation>Nicht gespeichert: Die Notizdatei kann nicht geschrieben werden (%1). Vesk versucht es weiter.</translation>
-    </message>
 </context>
 <context>
     <name>vesk::StoreAdvice</name>
-    <message>
-        <source>To begin with no notes instead, move the files “%1*”, and what is left of the store, to another folder.</source>
-        <translation>Um stattdessen ohne Notizen zu beginnen, verschieben Sie die Dateien „%1*“ und was vom Speicher übrig ist in einen anderen Ordner.</translation>
-    </message>
     <message>
         <source>The copy of your notes, “%1”, cannot be read either.</source>
         <translation>Auch die Kopie Ihrer Notizen, „%1“, kann nicht gelesen werden.</translation>
@@ -1430,8 +1456,12 @@ läuft.</translation>
         <translation>Es gibt eine Kopie Ihrer Notizen vom %1: „%2“.</translation>
     </message>
     <message>
-        <source>To go on with the copy, run this command in a terminal and start Vesk again. What is left of the store is kept in the folder “damaged” beside it.</source>
-        <translation>Um mit der Kopie weiterzuarbeiten, führen Sie diesen Befehl in einem Terminal aus und starten Sie Vesk neu. Was vom Speicher übrig ist, wird daneben im Ordner „damaged“ aufbewahrt.</translation>
+        <source>To start without notes instead, move the files “%1*” and what is left of the store to another folder.</source>
+        <translation>Um stattdessen ohne Notizen zu beginnen, verschieben Sie die Dateien „%1*“ und was vom Speicher übrig ist in einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>To use the copy, run this command in a terminal and start Vesk again. What is left of the store is kept in the folder “damaged” beside it.</source>
+        <translation>Um die Kopie zu benutzen, führen Sie diesen Befehl in einem Terminal aus und starten Sie Vesk neu. Was vom Speicher übrig ist, wird daneben im Ordner „damaged“ aufbewahrt.</translation>
     </message>
 </context>
 <context>
@@ -1461,16 +1491,8 @@ läuft.</translation>
         <translation>Die Datei „%1“ fehlt oder ist leer, ihr Journal „%2“ aber nicht.</translation>
     </message>
     <message>
-        <source>The file “%1” is empty, but there is a copy of it from before.</source>
-        <translation>Die Datei „%1“ ist leer, aber es gibt eine frühere Kopie davon.</translation>
-    </message>
-    <message>
         <source>The file “%1” is missing, but there is a copy of it.</source>
         <translation>Die Datei „%1“ fehlt, aber es gibt eine Kopie davon.</translation>
-    </message>
-    <message>
-        <source>The file “%1” is a database of another program.</source>
-        <translation>Die Datei „%1“ ist eine Datenbank eines anderen Programms.</translation>
     </message>
     <message>
         <source>The file “%1” cannot be created (%2).</source>
@@ -1501,8 +1523,16 @@ läuft.</translation>
         <translation>Die Datei „%1“ ist beschädigt.</translation>
     </message>
     <message>
-        <source>The file “%1” was written by a newer Vesk (version %2 of the store; this one knows version %3).</source>
-        <translation>Die Datei „%1“ wurde von einem neueren Vesk geschrieben (Version %2 des Speichers; dieses kennt Version %3).</translation>
+        <source>The file “%1” is empty, but there is an earlier copy of it.</source>
+        <translation>Die Datei „%1“ ist leer, aber es gibt eine frühere Kopie davon.</translation>
+    </message>
+    <message>
+        <source>The file “%1” is the database of another program.</source>
+        <translation>Die Datei „%1“ ist die Datenbank eines anderen Programms.</translation>
+    </message>
+    <message>
+        <source>The file “%1” was written by a newer Vesk (store version %2; this Vesk supports version %3).</source>
+        <translation>Die Datei „%1“ wurde von einem neueren Vesk geschrieben (Speicherversion %2; dieses Vesk unterstützt Version %3).</translation>
     </message>
 </context>
 <context>
@@ -1520,12 +1550,12 @@ läuft.</translation>
         <translation>Die Notizen sind in einem anderen Programm offen, das die Datei „%1“ gesperrt hat.</translation>
     </message>
     <message>
-        <source>Vesk is running in another session (process %1 on %2), and the notes can only be open once. Quit it there first.</source>
-        <translation>Vesk läuft in einer anderen Sitzung (Prozess %1 auf %2), und die Notizen können nur einmal offen sein. Beenden Sie es dort zuerst.</translation>
-    </message>
-    <message>
         <source>Another command, process %1 on %2, is writing to the notes.</source>
         <translation>Ein anderer Befehl, Prozess %1 auf %2, schreibt gerade in die Notizen.</translation>
+    </message>
+    <message>
+        <source>Vesk is running in another session (process %1 on %2), and only one Vesk can have the notes open. Quit it there first.</source>
+        <translation>Vesk läuft in einer anderen Sitzung (Prozess %1 auf %2), und nur ein Vesk kann die Notizen offen haben. Beenden Sie es dort zuerst.</translation>
     </message>
 </context>
 <context>
@@ -1554,7 +1584,7 @@ läuft.</translation>
 <context>
     <name>vesk::VeskApp</name>
     <message>
-        <source>Vesk is ending.</source>
+        <source>Vesk is quitting.</source>
         <translation>Vesk beendet sich.</translation>
     </message>
 </context>

@@ -41,10 +41,10 @@
 <context>
     <name>vesk::SaveProblem</name>
     <message numerus="yes">
-        <source>%Ln notes or prompts cannot be saved (%1). All others are.</source>
+        <source>%Ln notes or prompts cannot be saved (%1). All others are saved.</source>
         <translation>
-            <numerusform>One note or prompt cannot be saved (%1). All others are.</numerusform>
-            <numerusform>%Ln notes or prompts cannot be saved (%1). All others are.</numerusform>
+            <numerusform>One note or prompt cannot be saved (%1). All others are saved.</numerusform>
+            <numerusform>%Ln notes or prompts cannot be saved (%1). All others are saved.</numerusform>
         </translation>
     </message>
 </context>

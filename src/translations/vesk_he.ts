@@ -84,8 +84,8 @@
 <context>
     <name>Client</name>
     <message>
-        <source>Vesk needs the session&apos;s message bus, and there is none: run this in your desktop&apos;s session.</source>
-        <translation>‏Vesk זקוק לאפיק ההודעות של ההפעלה, ואין כזה: יש להריץ זאת בתוך ההפעלה של שולחן העבודה.</translation>
+        <source>There is no session bus. Run this command in your desktop session.</source>
+        <translation>אין אפיק הפעלה. יש להריץ את הפקודה הזו בתוך ההפעלה של שולחן העבודה.</translation>
     </message>
 </context>
 <context>
@@ -139,6 +139,10 @@
     <message>
         <source>Select All</source>
         <translation>בחירת הכול</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>מחיקה</translation>
     </message>
 </context>
 <context>
@@ -195,7 +199,7 @@
     </message>
     <message>
         <source>Delete</source>
-        <translation>Delete</translation>
+        <translation>מחיקה</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -548,8 +552,8 @@
         <translation>אסור</translation>
     </message>
     <message>
-        <source>The choice could not be written to %1.</source>
-        <translation>לא ניתן לכתוב את הבחירה אל %1.</translation>
+        <source>The setting could not be written to %1.</source>
+        <translation>לא ניתן לכתוב את ההגדרה אל ⁦%1⁩.</translation>
     </message>
 </context>
 <context>
@@ -567,10 +571,10 @@
         <translation>לא עכשיו</translation>
     </message>
     <message>
-        <source>When you press one of Vesk’s keys, Vesk reads the text that is selected, or was copied a moment before, and where it is: the application, its window’s title and, in a browser, the page’s address. At other times it only notices when a key or button is pressed (not which one), when something is selected, and whether a password field has the keyboard, to tell what is selected now from what was and to leave passwords alone. It sends nothing anywhere.
+        <source>When you press one of Vesk’s keys, Vesk reads the text that is selected, or was copied a moment before, and where it is: the application, its window’s title and, in a browser, the page’s address. At other times it only notices when a key or button is pressed (not which one), when something is selected, and whether a password field has the keyboard. It needs this to tell a current selection from an old one and to leave passwords alone. It sends nothing anywhere.
 
-Applications that are open already may have to be started again before Vesk can read them.</source>
-        <translation>כשמקישים על אחד ממקשי Vesk, הוא קורא את הטקסט שמסומן, או שהועתק רגע קודם, והיכן הוא נמצא: היישום, כותרת החלון שלו, ובדפדפן גם כתובת הדף. בזמנים אחרים הוא רק מבחין מתי מקש או לחצן נלחצים (ולא איזה מהם), מתי משהו מסומן, ואם המקלדת נמצאת בשדה סיסמה, כדי להבדיל בין מה שמסומן עכשיו למה שסומן קודם וכדי לא לגעת בסיסמאות. הוא לא שולח דבר לשום מקום.
+You may have to restart applications that are already open before Vesk can read them.</source>
+        <translation>כשמקישים על אחד ממקשי Vesk, הוא קורא את הטקסט שמסומן, או שהועתק רגע קודם, והיכן הוא נמצא: היישום, כותרת החלון שלו, ובדפדפן גם כתובת הדף. בזמנים אחרים הוא רק מבחין מתי מקש או לחצן נלחצים (ולא איזה מהם), מתי משהו מסומן, ואם המקלדת נמצאת בשדה סיסמה. הוא זקוק לכך כדי להבדיל בין מה שמסומן עכשיו למה שסומן קודם וכדי לא לגעת בסיסמאות. הוא לא שולח דבר לשום מקום.
 
 ייתכן שצריך להפעיל מחדש יישומים שכבר פתוחים כדי ש־Vesk יוכל לקרוא אותם.</translation>
     </message>
@@ -606,14 +610,6 @@ Applications that are open already may have to be started again before Vesk can 
         <translation>מאוחר יותר</translation>
     </message>
     <message>
-        <source>Your system does not update this Vesk</source>
-        <translation>המערכת לא מעדכנת את Vesk הזה</translation>
-    </message>
-    <message>
-        <source>It was not installed as a package. A newer version is where this one came from.</source>
-        <translation>הוא לא הותקן כחבילה. גרסה חדשה יותר נמצאת במקום שממנו הגיעה הגרסה הזו.</translation>
-    </message>
-    <message>
         <source>Could not check for updates</source>
         <translation>לא ניתן היה לחפש עדכונים</translation>
     </message>
@@ -625,6 +621,14 @@ Applications that are open already may have to be started again before Vesk can 
         <source>Your system can install version %1 with your package manager.</source>
         <translation>המערכת יכולה להתקין את גרסה %1 באמצעות מנהל החבילות.</translation>
     </message>
+    <message>
+        <source>Your system does not update this copy of Vesk</source>
+        <translation>המערכת לא מעדכנת את העותק הזה של Vesk</translation>
+    </message>
+    <message>
+        <source>It was not installed as a package. Look for a newer version where you got this one.</source>
+        <translation>הוא לא הותקן כחבילה. כדאי לחפש גרסה חדשה יותר במקום שממנו הגיעה הגרסה הזו.</translation>
+    </message>
 </context>
 <context>
     <name>vesk::CanberraSounds</name>
@@ -635,18 +639,6 @@ Applications that are open already may have to be started again before Vesk can 
 </context>
 <context>
     <name>vesk::Client</name>
-    <message>
-        <source>The text is longer than the %1 MB that a note may have.</source>
-        <translation>הטקסט ארוך מ־%1 MB, הגודל המרבי של פתק.</translation>
-    </message>
-    <message>
-        <source>Standard output takes no more: %1.</source>
-        <translation>הפלט התקני לא מקבל עוד: %1.</translation>
-    </message>
-    <message>
-        <source>Standard input cannot be read.</source>
-        <translation>לא ניתן לקרוא את הקלט התקני.</translation>
-    </message>
     <message>
         <source>Standard input is not plain text in UTF-8.</source>
         <translation>הקלט התקני אינו טקסט פשוט בקידוד UTF-8.</translation>
@@ -668,12 +660,24 @@ Applications that are open already may have to be started again before Vesk can 
         <translation>לא ניתן להפעיל את %1: %2.</translation>
     </message>
     <message>
-        <source>Vesk is not running, so none of these works now.</source>
-        <translation>Vesk אינו פועל, ולכן אף אחד מהצירופים אינו פועל כעת.</translation>
+        <source>The text is too long: a note can have up to %1 MB.</source>
+        <translation>הטקסט ארוך מדי: הגודל המרבי של פתק הוא %1 MB.</translation>
     </message>
     <message>
-        <source>The note was not kept: other commands are writing to the notes all the time.</source>
-        <translation>הפתק לא נשמר: פקודות אחרות כותבות כל הזמן אל הפתקים.</translation>
+        <source>Could not write to standard output: %1.</source>
+        <translation>לא ניתן לכתוב אל הפלט התקני: %1.</translation>
+    </message>
+    <message>
+        <source>Vesk is not running, so none of these keys work now.</source>
+        <translation>‏Vesk אינו פועל, ולכן אף אחד מהצירופים האלה אינו פועל כעת.</translation>
+    </message>
+    <message>
+        <source>Could not read standard input.</source>
+        <translation>לא ניתן לקרוא את הקלט התקני.</translation>
+    </message>
+    <message>
+        <source>The note was not saved, because other commands kept writing to the notes.</source>
+        <translation>הפתק לא נשמר, כי פקודות אחרות כתבו ללא הפסקה אל הפתקים.</translation>
     </message>
 </context>
 <context>
@@ -790,10 +794,6 @@ Applications that are open already may have to be started again before Vesk can 
         <translation>תוכנית אחרת</translation>
     </message>
     <message>
-        <source>%1 has these keys. Free them there, or choose others in %2.</source>
-        <translation>המקשים האלה תפוסים על ידי %1. אפשר לשחרר אותם שם או לבחור אחרים ב־⁦%2⁩.</translation>
-    </message>
-    <message>
         <source>Switched off in %1.</source>
         <translation>כבוי ב־⁦%1⁩.</translation>
     </message>
@@ -824,112 +824,131 @@ Applications that are open already may have to be started again before Vesk can 
         </translation>
     </message>
     <message>
-        <source>Another program has these keys. Free them there, or choose others in %1.</source>
-        <translation>המקשים האלה תפוסים על ידי תוכנית אחרת. אפשר לשחרר אותם שם או לבחור אחרים ב־%1.</translation>
+        <source>Another program uses these keys. Free them there, or choose others in %1.</source>
+        <translation>המקשים האלה תפוסים על ידי תוכנית אחרת. אפשר לשחרר אותם שם או לבחור אחרים ב־⁦%1⁩.</translation>
+    </message>
+    <message>
+        <source>%1 uses these keys. Free them there, or choose others in %2.</source>
+        <translation>המקשים האלה תפוסים על ידי %1. אפשר לשחרר אותם שם או לבחור אחרים ב־⁦%2⁩.</translation>
     </message>
 </context>
 <context>
     <name>vesk::CommandLine</name>
     <message>
-        <source>keep TEXT as a note; &quot;vesk add -&quot; takes it from standard input</source>
-        <translation>שמירת TEXT כפתק; ‏&quot;vesk add -&quot; לוקח אותו מהקלט התקני</translation>
-    </message>
-    <message>
         <source>print the notes, newest first</source>
         <translation>הדפסת הפתקים, החדש ביותר ראשון</translation>
-    </message>
-    <message>
-        <source>whether Vesk may read what is selected in other applications</source>
-        <translation>האם מותר ל־Vesk לקרוא את מה שמסומן ביישומים אחרים</translation>
     </message>
     <message>
         <source>start without showing the panel</source>
         <translation>הפעלה בלי להציג את הלוח</translation>
     </message>
     <message>
-        <source>draw the windows by the GPU (only at the start)</source>
-        <translation>ציור החלונות בעזרת המעבד הגרפי (רק בהפעלה)</translation>
-    </message>
-    <message>
-        <source>print this</source>
-        <translation>הדפסת טקסט זה</translation>
-    </message>
-    <message>
         <source>print the version</source>
         <translation>הדפסת הגרסה</translation>
-    </message>
-    <message>
-        <source>There is no option %1.</source>
-        <translation>אין אפשרות בשם %1.</translation>
-    </message>
-    <message>
-        <source>What is to be added? Give the text, or - to take it from standard input.</source>
-        <translation>מה להוסיף? יש לתת את הטקסט, או - כדי לקחת אותו מהקלט התקני.</translation>
-    </message>
-    <message>
-        <source>Put the text into quotes, so that it is one argument.</source>
-        <translation>יש לשים את הטקסט במירכאות, כדי שיהיה ארגומנט אחד.</translation>
-    </message>
-    <message>
-        <source>There is no command %1.</source>
-        <translation>אין פקודה בשם %1.</translation>
-    </message>
-    <message>
-        <source>%1 takes one option at most.</source>
-        <translation>%1 מקבלת לכל היותר אפשרות אחת.</translation>
-    </message>
-    <message>
-        <source>%1 does not know %2.</source>
-        <translation>%1 לא מכירה את %2.</translation>
-    </message>
-    <message>
-        <source>Usage: vesk [command]
-
-Keeps what you select, anywhere. Without a command: starts Vesk, or shows the panel of the Vesk that
-runs.</source>
-        <translation>שימוש: vesk [command]
-
-שומר כל מה שמסמנים, בכל מקום. בלי פקודה: מפעיל את Vesk, או מציג את הלוח של Vesk שכבר
-פועל.</translation>
-    </message>
-    <message>
-        <source>Commands for the running Vesk, which is started in the background if none runs:</source>
-        <translation>פקודות ל־Vesk הפועל, שמופעל ברקע אם אינו פועל:</translation>
-    </message>
-    <message>
-        <source>Commands that need no running Vesk:</source>
-        <translation>פקודות שאינן זקוקות ל־Vesk פועל:</translation>
     </message>
     <message>
         <source>Options:</source>
         <translation>אפשרויות:</translation>
     </message>
     <message>
-        <source>Exit status: 0 done, 1 failed (standard error says why), 2 wrong use.</source>
-        <translation>ערך חזרה: 0 בוצע, 1 נכשל (פלט השגיאה אומר מדוע), 2 שימוש שגוי.</translation>
+        <source>save TEXT as a note; &quot;vesk add -&quot; reads standard input</source>
+        <translation>שמירת TEXT כפתק; ‏&quot;vesk add -&quot; קורא את הקלט התקני</translation>
     </message>
     <message>
-        <source>print the keys that work everywhere, and whether they do</source>
-        <translation>הדפסת המקשים שפועלים בכל מקום, והאם הם פועלים</translation>
+        <source>print the global keys and whether they work</source>
+        <translation>הדפסת המקשים הגלובליים, והאם הם פועלים</translation>
+    </message>
+    <message>
+        <source>allow or forbid Vesk to read selected text</source>
+        <translation>מתן או שלילה של הרשאה ל־Vesk לקרוא טקסט מסומן</translation>
+    </message>
+    <message>
+        <source>draw windows with the GPU (only when Vesk starts)</source>
+        <translation>ציור חלונות בעזרת המעבד הגרפי (רק בהפעלת Vesk)</translation>
+    </message>
+    <message>
+        <source>print this help</source>
+        <translation>הדפסת עזרה זו</translation>
+    </message>
+    <message>
+        <source>Unknown option: %1</source>
+        <translation>אפשרות לא מוכרת: ⁦%1⁩</translation>
+    </message>
+    <message>
+        <source>add: The text is missing. Give a text, or - to read standard input.</source>
+        <translation>‏add: חסר הטקסט. יש לתת טקסט, או - כדי לקרוא את הקלט התקני.</translation>
+    </message>
+    <message>
+        <source>add: Too many arguments. Put the text in quotes.</source>
+        <translation>‏add: יותר מדי ארגומנטים. יש לשים את הטקסט במירכאות.</translation>
+    </message>
+    <message>
+        <source>Unknown command: %1</source>
+        <translation>פקודה לא מוכרת: ⁦%1⁩</translation>
+    </message>
+    <message>
+        <source>%1: Only one option is allowed.</source>
+        <translation>‏%1: מותרת רק אפשרות אחת.</translation>
+    </message>
+    <message>
+        <source>%1: Unknown option %2</source>
+        <translation>‏%1: אפשרות לא מוכרת ⁦%2⁩</translation>
+    </message>
+    <message>
+        <source>Usage: vesk [command]
+
+Saves what you select in any application. Without a command, starts Vesk, or shows its
+panel if it is already running.</source>
+        <translation>שימוש: vesk [command]
+
+שומר כל מה שמסמנים, בכל יישום. בלי פקודה: מפעיל את Vesk, או מציג את הלוח שלו אם הוא
+כבר פועל.</translation>
+    </message>
+    <message>
+        <source>Commands for the running Vesk, which is started in the background if necessary:</source>
+        <translation>פקודות ל־Vesk הפועל, שמופעל ברקע במקרה הצורך:</translation>
+    </message>
+    <message>
+        <source>Commands that work without a running Vesk:</source>
+        <translation>פקודות שפועלות גם כש־Vesk אינו פועל:</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 success, 1 failure (standard error says why), 2 wrong usage.</source>
+        <translation>ערך חזרה: 0 הצלחה, 1 כישלון (פלט השגיאה אומר מדוע), 2 שימוש שגוי.</translation>
     </message>
 </context>
 <context>
     <name>vesk::DailyCopy</name>
     <message>
-        <source>The notes file is damaged, so no copy of it was made. Quit and start Vesk for advice.</source>
-        <translation>קובץ הפתקים פגום, ולכן לא נוצר עותק שלו. יש לצאת מ־Vesk ולהפעיל אותו שוב כדי לקבל הנחיות.</translation>
-    </message>
-    <message>
         <source>Vesk cannot keep a copy of your notes: the disk is too full.</source>
         <translation>‏Vesk לא יכול לשמור עותק של הפתקים: הכונן מלא מדי.</translation>
     </message>
     <message>
-        <source>Vesk cannot keep a copy of your notes: it may not write into their folder.</source>
+        <source>The notes file is damaged, so Vesk did not copy it. Quit Vesk and start it again for advice.</source>
+        <translation>קובץ הפתקים פגום, ולכן Vesk לא העתיק אותו. יש לצאת מ־Vesk ולהפעיל אותו שוב כדי לקבל הסבר מה לעשות.</translation>
+    </message>
+    <message>
+        <source>Vesk cannot keep a copy of your notes: it has no permission to write to their folder.</source>
         <translation>‏Vesk לא יכול לשמור עותק של הפתקים: אין לו הרשאת כתיבה בתיקייה שלהם.</translation>
     </message>
     <message>
-        <source>Vesk cannot keep a copy of your notes: making it failed.</source>
-        <translation>‏Vesk לא יכול לשמור עותק של הפתקים: יצירתו נכשלה.</translation>
+        <source>Vesk cannot keep a copy of your notes: copying them failed.</source>
+        <translation>‏Vesk לא יכול לשמור עותק של הפתקים: ההעתקה נכשלה.</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::Database</name>
+    <message>
+        <source>Another file was put in the place of the notes file while Vesk was running. Vesk leaves it alone and keeps your notes in “%1” instead.</source>
+        <translation>קובץ אחר הושם במקום קובץ הפתקים בזמן ש־Vesk פעל. Vesk לא נוגע בו, ושומר את הפתקים במקום זאת ב־“⁦%1⁩”.</translation>
+    </message>
+    <message>
+        <source>The notes file was moved to “%1” while Vesk was running. Vesk has written all your notes to a new file in the old place, and the moved one no longer changes.</source>
+        <translation>קובץ הפתקים הועבר אל “⁦%1⁩” בזמן ש־Vesk פעל. Vesk כתב את כל הפתקים לקובץ חדש במקום הישן, והקובץ שהועבר אינו משתנה עוד.</translation>
+    </message>
+    <message>
+        <source>The notes file was deleted or moved away while Vesk was running. Vesk has written all your notes to a new file in its place.</source>
+        <translation>קובץ הפתקים נמחק או הועבר למקום אחר בזמן ש־Vesk פעל. Vesk כתב את כל הפתקים לקובץ חדש במקומו.</translation>
     </message>
 </context>
 <context>
@@ -1120,52 +1139,52 @@ runs.</source>
 <context>
     <name>vesk::KeySettings</name>
     <message>
-        <source>There is no key in it.</source>
-        <translation>אין בו מקש.</translation>
-    </message>
-    <message>
-        <source>“%1” is no modifier; there are Super, Alt, Ctrl and Shift.</source>
-        <translation>&quot;%1&quot; אינו מקש צירוף; יש Super, Alt, Ctrl ו־Shift.</translation>
-    </message>
-    <message>
-        <source>After the modifiers a key is missing.</source>
-        <translation>אחרי מקשי הצירוף חסר מקש.</translation>
-    </message>
-    <message>
-        <source>There is no key “%1”.</source>
-        <translation>אין מקש בשם &quot;%1&quot;.</translation>
-    </message>
-    <message>
-        <source>It needs Super, Alt or Ctrl, or every application would lose this key.</source>
-        <translation>נדרש Super, Alt או Ctrl, אחרת כל היישומים יאבדו את המקש הזה.</translation>
-    </message>
-    <message>
-        <source>“%1” is no command with “=” and a combination behind it.</source>
-        <translation>&quot;%1&quot; אינו פקודה עם &quot;=&quot; וצירוף אחריה.</translation>
-    </message>
-    <message>
-        <source>No key has a command “%1”.</source>
-        <translation>לאף מקש אין פקודה בשם &quot;%1&quot;.</translation>
-    </message>
-    <message>
         <source>Keys.conf, line %1: %2</source>
         <translation>‏Keys.conf, שורה %1: %2</translation>
-    </message>
-    <message>
-        <source>%1 “%2” stays at %3.</source>
-        <translation>‏%1 &quot;%2&quot; נשאר %3.</translation>
-    </message>
-    <message>
-        <source>“%1” was in line %2 already, which holds.</source>
-        <translation>&quot;%1&quot; כבר הופיע בשורה %2, והיא הקובעת.</translation>
     </message>
     <message>
         <source>Only save-prompt can be Shift tapped twice.</source>
         <translation>רק save-prompt יכול להיות הקשה כפולה על Shift.</translation>
     </message>
     <message>
-        <source>%1 is the combination of “%2”.</source>
-        <translation>‏%1 הוא הצירוף של &quot;%2&quot;.</translation>
+        <source>The combination is empty.</source>
+        <translation>הצירוף ריק.</translation>
+    </message>
+    <message>
+        <source>“%1” is not a modifier. The modifiers are Super, Alt, Ctrl and Shift.</source>
+        <translation>‏&quot;%1&quot; אינו מקש צירוף. מקשי הצירוף הם Super, Alt, Ctrl ו־Shift.</translation>
+    </message>
+    <message>
+        <source>The key after the modifiers is missing.</source>
+        <translation>חסר המקש שאחרי מקשי הצירוף.</translation>
+    </message>
+    <message>
+        <source>Unknown key: “%1”.</source>
+        <translation>מקש לא מוכר: &quot;⁦%1⁩&quot;.</translation>
+    </message>
+    <message>
+        <source>The combination needs Super, Alt or Ctrl, or no application could use this key.</source>
+        <translation>הצירוף צריך Super, Alt או Ctrl, אחרת אף יישום לא יוכל להשתמש במקש הזה.</translation>
+    </message>
+    <message>
+        <source>“%1” does not have the form “command = combination”.</source>
+        <translation>‏&quot;⁦%1⁩&quot; אינו בצורה &quot;⁦command = combination⁩&quot;.</translation>
+    </message>
+    <message>
+        <source>Unknown command: “%1”.</source>
+        <translation>פקודה לא מוכרת: &quot;⁦%1⁩&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 “%2” keeps %3.</source>
+        <translation>‏%1 &quot;%2&quot; נשאר %3.</translation>
+    </message>
+    <message>
+        <source>“%1” is already set in line %2, which applies.</source>
+        <translation>‏&quot;%1&quot; כבר נקבע בשורה %2, והיא הקובעת.</translation>
+    </message>
+    <message>
+        <source>%1 is already used for “%2”.</source>
+        <translation>‏%1 כבר משמש עבור &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>
@@ -1206,32 +1225,32 @@ runs.</source>
 <context>
     <name>vesk::Main</name>
     <message>
-        <source>Vesk is running already, and does not answer.</source>
-        <translation>‏Vesk כבר פועל ואינו משיב.</translation>
-    </message>
-    <message>
-        <source>Vesk needs the session&apos;s message bus, and there is none.</source>
-        <translation>‏Vesk זקוק לאפיק ההודעות של ההפעלה, ואין כזה.</translation>
-    </message>
-    <message>
         <source>Vesk cannot start: %1</source>
         <translation>לא ניתן להפעיל את Vesk: %1</translation>
-    </message>
-    <message>
-        <source>Vesk needs an X11 desktop, and this is a Wayland desktop without an X server. Log in to a session of X11, or use the commands that need none: vesk add and vesk list.</source>
-        <translation>‏Vesk זקוק לשולחן עבודה של X11, וזהו שולחן עבודה של Wayland בלי שרת X. אפשר להיכנס להפעלה של X11, או להשתמש בפקודות שאינן זקוקות לה: vesk add ו־vesk list.</translation>
-    </message>
-    <message>
-        <source>Vesk needs an X11 desktop, and there is no X server at &quot;%1&quot;. The commands vesk add and vesk list need none.</source>
-        <translation>‏Vesk זקוק לשולחן עבודה של X11, ואין שרת X ב־&quot;%1&quot;. הפקודות vesk add ו־vesk list אינן זקוקות לו.</translation>
     </message>
     <message>
         <source>Vesk cannot start</source>
         <translation>לא ניתן להפעיל את Vesk</translation>
     </message>
     <message>
-        <source>Vesk could not open the notes store and is about to end.</source>
+        <source>Vesk could not open the notes store and is about to quit.</source>
         <translation>‏Vesk לא הצליח לפתוח את מאגר הפתקים ועומד להיסגר.</translation>
+    </message>
+    <message>
+        <source>Vesk is already running but does not respond.</source>
+        <translation>‏Vesk כבר פועל אך אינו משיב.</translation>
+    </message>
+    <message>
+        <source>Vesk needs a session bus, and there is none.</source>
+        <translation>‏Vesk זקוק לאפיק הפעלה, ואין כזה.</translation>
+    </message>
+    <message>
+        <source>Vesk needs an X11 desktop, and this is a Wayland desktop without an X server. Log in to an X11 session, or use the commands that work without one: vesk add and vesk list.</source>
+        <translation>‏Vesk זקוק לשולחן עבודה של X11, וזהו שולחן עבודה של Wayland בלי שרת X. אפשר להיכנס להפעלה של X11, או להשתמש בפקודות שפועלות בלעדיה: vesk add ו־vesk list.</translation>
+    </message>
+    <message>
+        <source>Vesk needs an X11 desktop, and there is no X server at &quot;%1&quot;. The commands vesk add and vesk list work without one.</source>
+        <translation>‏Vesk זקוק לשולחן עבודה של X11, ואין שרת X ב־&quot;⁦%1⁩&quot;. הפקודות vesk add ו־vesk list פועלות בלעדיו.</translation>
     </message>
 </context>
 <context>
@@ -1269,6 +1288,13 @@ runs.</source>
     <message>
         <source>Earlier</source>
         <translation>קודם לכן</translation>
+    </message>
+</context>
+<context>
+    <name>vesk::NotesStore</name>
+    <message>
+        <source>Notes that Vesk kept when the notes file was replaced are in “%1”. To get them back, quit Vesk and put that file in the place of “%2”.</source>
+        <translation>פתקים ש־Vesk שמר כשקובץ הפתקים הוחלף נמצאים ב־“⁦%1⁩”. כדי לקבל אותם בחזרה, יש לצאת מ־Vesk ולשים את הקובץ הזה במקום “⁦%2⁩”.</translation>
     </message>
 </context>
 <context>
@@ -1326,32 +1352,32 @@ runs.</source>
 <context>
     <name>vesk::Remote</name>
     <message>
-        <source>No temporary file could be made in %1.</source>
-        <translation>לא ניתן ליצור קובץ זמני ב־%1.</translation>
-    </message>
-    <message>
         <source>%1 could not be started.</source>
         <translation>לא ניתן להפעיל את %1.</translation>
     </message>
     <message>
-        <source>Vesk ended as soon as it was started.</source>
-        <translation>‏Vesk הסתיים מיד אחרי שהופעל.</translation>
+        <source>Could not create a temporary file in %1.</source>
+        <translation>לא ניתן ליצור קובץ זמני ב־⁦%1⁩.</translation>
     </message>
     <message>
-        <source>Vesk was started, and does not answer yet.</source>
-        <translation>‏Vesk הופעל ועדיין אינו משיב.</translation>
+        <source>Vesk quit as soon as it was started.</source>
+        <translation>‏Vesk נסגר מיד אחרי שהופעל.</translation>
     </message>
     <message>
-        <source>Vesk was told to quit, and has not ended yet.</source>
-        <translation>‏Vesk התבקש לצאת ועדיין לא הסתיים.</translation>
+        <source>Vesk was started but does not respond yet.</source>
+        <translation>‏Vesk הופעל אך עדיין אינו משיב.</translation>
     </message>
     <message>
-        <source>Vesk is running, and does not answer.</source>
-        <translation>‏Vesk פועל ואינו משיב.</translation>
+        <source>Vesk was told to quit but is still running.</source>
+        <translation>‏Vesk התבקש לצאת אך עדיין פועל.</translation>
     </message>
     <message>
-        <source>The Vesk that is running does not know this command: it is of another version. Quit it and start it again.</source>
-        <translation>‏Vesk הפועל לא מכיר את הפקודה הזו: הוא מגרסה אחרת. יש לצאת ממנו ולהפעיל אותו שוב.</translation>
+        <source>Vesk is running but does not respond.</source>
+        <translation>‏Vesk פועל אך אינו משיב.</translation>
+    </message>
+    <message>
+        <source>The running Vesk is another version, which does not have this command. Quit it and start it again.</source>
+        <translation>‏Vesk הפועל הוא מגרסה אחרת, שאין בה הפקודה הזו. יש לצאת ממנו ולהפעיל אותו שוב.</translation>
     </message>
 </context>
 <context>
@@ -1365,12 +1391,12 @@ runs.</source>
         <translation>הטקסט ארוך מדי לפתק.</translation>
     </message>
     <message>
-        <source>This Vesk cannot do that.</source>
-        <translation>‏Vesk הזה לא יכול לעשות זאת.</translation>
+        <source>The note was added but is not on the disk yet. Do not add it again. %1</source>
+        <translation>הפתק נוסף אך עדיין לא נכתב לכונן. אין להוסיף אותו שוב. %1</translation>
     </message>
     <message>
-        <source>The note is not on the disk yet; do not add it again. %1</source>
-        <translation>הפתק עדיין לא נכתב לכונן; אין להוסיף אותו שוב. %1</translation>
+        <source>This Vesk does not support that command.</source>
+        <translation>‏Vesk הזה אינו תומך בפקודה הזו.</translation>
     </message>
 </context>
 <context>
@@ -1388,39 +1414,39 @@ runs.</source>
         <translation>לא נשמר: קובץ הפתקים לקריאה בלבד. Vesk ממשיך לנסות.</translation>
     </message>
     <message>
-        <source>Not saved: Vesk may not write the notes file. Vesk keeps trying.</source>
-        <translation>לא נשמר: ל־Vesk אין הרשאה לכתוב את קובץ הפתקים. Vesk ממשיך לנסות.</translation>
-    </message>
-    <message>
         <source>Not saved: another program is using the notes file. Vesk keeps trying.</source>
         <translation>לא נשמר: תוכנה אחרת משתמשת בקובץ הפתקים. Vesk ממשיך לנסות.</translation>
-    </message>
-    <message>
-        <source>Not saved: the notes file was moved or replaced while Vesk was running.</source>
-        <translation>לא נשמר: קובץ הפתקים הועבר או הוחלף בזמן ש־Vesk פעל.</translation>
     </message>
     <message>
         <source>Not saved: the notes file is damaged. Copy your latest notes elsewhere.</source>
         <translation>לא נשמר: קובץ הפתקים פגום. יש להעתיק את הפתקים האחרונים למקום אחר.</translation>
     </message>
+    <message>
+        <source>Not saved: the notes file cannot be written (%1). Vesk keeps trying.</source>
+        <translation>לא נשמר: אי אפשר לכתוב את קובץ הפתקים (%1). Vesk ממשיך לנסות.</translation>
+    </message>
+    <message>
+        <source>Not saved: Vesk has no permission to write the notes file. Vesk keeps trying.</source>
+        <translation>לא נשמר: ל־Vesk אין הרשאה לכתוב את קובץ הפתקים. Vesk ממשיך לנסות.</translation>
+    </message>
+    <message>
+        <source>Not saved: the notes file is gone, and a new one cannot be made (%1). Vesk keeps trying.</source>
+        <translation>לא נשמר: קובץ הפתקים נעלם, ואי אפשר ליצור קובץ חדש (%1). Vesk ממשיך לנסות.</translation>
+    </message>
+    <message>
+        <source>Not saved: the folder of the notes file cannot be reached. Vesk keeps trying.</source>
+        <translation>לא נשמר: אי אפשר להגיע לתיקייה של קובץ הפתקים. Vesk ממשיך לנסות.</translation>
+    </message>
     <message numerus="yes">
-        <source>%Ln notes or prompts cannot be saved (%1). All others are.</source>
+        <source>%Ln notes or prompts cannot be saved (%1). All others are saved.</source>
         <translation>
             <numerusform>אי אפשר לשמור פתק או הנחיה (%1). כל השאר נשמרו.</numerusform>
             <numerusform>אי אפשר לשמור %Ln פתקים או הנחיות (%1). כל השאר נשמרו.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Not saved: the notes file cannot be written (%1). Vesk keeps trying.</source>
-        <translation>לא נשמר: אי אפשר לכתוב את קובץ הפתקים (%1). Vesk ממשיך לנסות.</translation>
-    </message>
 </context>
 <context>
     <name>vesk::StoreAdvice</name>
-    <message>
-        <source>To begin with no notes instead, move the files “%1*”, and what is left of the store, to another folder.</source>
-        <translation>כדי להתחיל במקום זאת ללא פתקים, יש להעביר את הקבצים “⁦%1*⁩” ואת מה שנותר מהמאגר לתיקייה אחרת.</translation>
-    </message>
     <message>
         <source>The copy of your notes, “%1”, cannot be read either.</source>
         <translation>גם את העותק של הפתקים, “⁦%1⁩”, אי אפשר לקרוא.</translation>
@@ -1430,8 +1456,12 @@ runs.</source>
         <translation>יש עותק של הפתקים, שנוצר ב־%1: “⁦%2⁩”.</translation>
     </message>
     <message>
-        <source>To go on with the copy, run this command in a terminal and start Vesk again. What is left of the store is kept in the folder “damaged” beside it.</source>
-        <translation>כדי להמשיך עם העותק, יש להריץ את הפקודה הזו במסוף ולהפעיל את Vesk שוב. מה שנותר מהמאגר נשמר בתיקייה “⁦damaged⁩” לידו.</translation>
+        <source>To start without notes instead, move the files “%1*” and what is left of the store to another folder.</source>
+        <translation>כדי להתחיל במקום זאת ללא פתקים, יש להעביר את הקבצים “⁦%1*⁩” ואת מה שנותר מהמאגר לתיקייה אחרת.</translation>
+    </message>
+    <message>
+        <source>To use the copy, run this command in a terminal and start Vesk again. What is left of the store is kept in the folder “damaged” beside it.</source>
+        <translation>כדי להשתמש בעותק, יש להריץ את הפקודה הזו במסוף ולהפעיל את Vesk שוב. מה שנותר מהמאגר נשמר בתיקייה “⁦damaged⁩” לידו.</translation>
     </message>
 </context>
 <context>
@@ -1461,16 +1491,8 @@ runs.</source>
         <translation>הקובץ “⁦%1⁩” חסר או ריק, אבל היומן שלו “⁦%2⁩” אינו ריק.</translation>
     </message>
     <message>
-        <source>The file “%1” is empty, but there is a copy of it from before.</source>
-        <translation>הקובץ “⁦%1⁩” ריק, אבל יש עותק קודם שלו.</translation>
-    </message>
-    <message>
         <source>The file “%1” is missing, but there is a copy of it.</source>
         <translation>הקובץ “⁦%1⁩” חסר, אבל יש עותק שלו.</translation>
-    </message>
-    <message>
-        <source>The file “%1” is a database of another program.</source>
-        <translation>הקובץ “⁦%1⁩” הוא מסד נתונים של תוכנה אחרת.</translation>
     </message>
     <message>
         <source>The file “%1” cannot be created (%2).</source>
@@ -1501,8 +1523,16 @@ runs.</source>
         <translation>הקובץ “⁦%1⁩” פגום.</translation>
     </message>
     <message>
-        <source>The file “%1” was written by a newer Vesk (version %2 of the store; this one knows version %3).</source>
-        <translation>הקובץ “⁦%1⁩” נכתב על ידי גרסה חדשה יותר של Vesk (גרסה %2 של המאגר; גרסה זו מכירה את גרסה %3).</translation>
+        <source>The file “%1” is empty, but there is an earlier copy of it.</source>
+        <translation>הקובץ “⁦%1⁩” ריק, אבל יש עותק קודם שלו.</translation>
+    </message>
+    <message>
+        <source>The file “%1” is the database of another program.</source>
+        <translation>הקובץ “⁦%1⁩” הוא מסד הנתונים של תוכנה אחרת.</translation>
+    </message>
+    <message>
+        <source>The file “%1” was written by a newer Vesk (store version %2; this Vesk supports version %3).</source>
+        <translation>הקובץ “⁦%1⁩” נכתב על ידי גרסה חדשה יותר של Vesk (גרסת מאגר %2; גרסה זו של Vesk תומכת בגרסה %3).</translation>
     </message>
 </context>
 <context>
@@ -1520,12 +1550,12 @@ runs.</source>
         <translation>הפתקים פתוחים בתוכנה אחרת, שנעלה את הקובץ “⁦%1⁩”.</translation>
     </message>
     <message>
-        <source>Vesk is running in another session (process %1 on %2), and the notes can only be open once. Quit it there first.</source>
-        <translation>‏Vesk פועל בהפעלה אחרת (תהליך %1 על ⁦%2⁩), והפתקים יכולים להיות פתוחים רק במקום אחד. יש לצאת ממנו שם קודם.</translation>
-    </message>
-    <message>
         <source>Another command, process %1 on %2, is writing to the notes.</source>
         <translation>פקודה אחרת, תהליך %1 על ⁦%2⁩, כותבת כעת אל הפתקים.</translation>
+    </message>
+    <message>
+        <source>Vesk is running in another session (process %1 on %2), and only one Vesk can have the notes open. Quit it there first.</source>
+        <translation>‏Vesk פועל בהפעלה אחרת (תהליך %1 על ⁦%2⁩), ורק Vesk אחד יכול להחזיק את הפתקים פתוחים. יש לצאת ממנו שם קודם.</translation>
     </message>
 </context>
 <context>
@@ -1554,7 +1584,7 @@ runs.</source>
 <context>
     <name>vesk::VeskApp</name>
     <message>
-        <source>Vesk is ending.</source>
+        <source>Vesk is quitting.</source>
         <translation>‏Vesk נסגר.</translation>
     </message>
 </context>
