@@ -105,7 +105,7 @@ void ComponentsTest::everyAccentCanBeRead_data()
     QTest::newRow("deep navy") << QColor(0x0b, 0x10, 0x40);
     QTest::newRow("white") << QColor(Qt::white);
     QTest::newRow("black") << QColor(Qt::black);
-    QTest::newRow("none: the own blue") << QColor();
+    QTest::newRow("no accent colour: Vesk's own blue") << QColor();
 }
 
 void ComponentsTest::everyAccentCanBeRead()

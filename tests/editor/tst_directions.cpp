@@ -58,8 +58,8 @@ void DirectionsTest::paragraphsBeginAtTheirSide_data()
     QTest::newRow("an isolate does not count")
         << left << u"\u2066Qt\u2069 בעברית\n\u2067ב\u2069 a"_s << u"RL"_s;
     QTest::newRow("no letter: as the one before") << left << u"☐ חלב\n☐ 123\n\n☐ \nabc\n456"_s << u"RRRRLL"_s;
-    QTest::newRow("none before: as the interface") << right << u"☐ 123\n\nabc\n☐ "_s << u"RRLL"_s;
-    QTest::newRow("none before, the other way") << left << u"☐ 123\n\nחלב\n☐ "_s << u"LLRR"_s;
+    QTest::newRow("no direction before: follows the interface") << right << u"☐ 123\n\nabc\n☐ "_s << u"RRLL"_s;
+    QTest::newRow("no direction before, opposite interface") << left << u"☐ 123\n\nחלב\n☐ "_s << u"LLRR"_s;
 }
 
 void DirectionsTest::paragraphsBeginAtTheirSide()

@@ -35,7 +35,7 @@ void TestDoubleShiftMonitor::taps_data()
     QTest::newRow("releases 401 ms apart") << u"sS...s._S"_s << 0;
     QTest::newRow("first tap held long") << u"s..........S.sS"_s << 1;
     QTest::newRow("second tap held too long") << u"sSs.....S"_s << 0;
-    QTest::newRow("slow second tap begins anew") << u"sS....s.S.s.S"_s << 1;
+    QTest::newRow("slow second tap starts over") << u"sS....s.S.s.S"_s << 1;
     QTest::newRow("three quick taps") << u"sS.sS.sS"_s << 1;
     QTest::newRow("four quick taps") << u"sS.sS.sS.sS"_s << 2;
     QTest::newRow("a letter between") << u"sS.x.sS"_s << 0;

@@ -63,7 +63,7 @@ void TestMarkup::derivedValues_data()
     QTest::newRow("asterisks only: an empty title, but the title line") << u"****\nb"_s << u""_s << u"b"_s;
     QTest::newRow("empty display in the preview keeps its separator") << u"a\n**\nb"_s << u"a"_s << u" · b"_s;
     QTest::newRow("carriage return stays") << u"a\r\nb\r"_s << u"a\r"_s << u"b\r"_s;
-    QTest::newRow("a carriage return is no empty line") << u"\r\na"_s << u"\r"_s << u"a"_s;
+    QTest::newRow("a carriage return is not an empty line") << u"\r\na"_s << u"\r"_s << u"a"_s;
     QTest::newRow("U+2028 separates no lines") << u"a\u2028b"_s << u"a\u2028b"_s << u""_s;
     QTest::newRow("Unicode spaces are trimmed") << u"\u3000\u00A0a\u2003\u202F"_s << u"a"_s << u""_s;
     QTest::newRow("zero width space is not") << u"\u200Ba"_s << u"\u200Ba"_s << u""_s;
@@ -124,7 +124,7 @@ void TestMarkup::toggledItem_data()
     QTest::newRow("most negative line number") << groceries << -kHuge - 1 << groceries;
     QTest::newRow("empty text") << u""_s << qsizetype{0} << u""_s;
     // Unlike in the list of items.
-    QTest::newRow("another space is no indentation") << u"\u00A0☐ a"_s << qsizetype{0} << u"\u00A0☐ a"_s;
+    QTest::newRow("other spaces are not indentation") << u"\u00A0☐ a"_s << qsizetype{0} << u"\u00A0☐ a"_s;
     QTest::newRow("box with nothing after it") << u"☐ "_s << qsizetype{0} << u"☑ "_s;
     QTest::newRow("space of the box in the next line") << u"☐\n x"_s << qsizetype{0} << u"☐\n x"_s;
     QTest::newRow("second box stays") << u"☐ ☐ a"_s << qsizetype{0} << u"☑ ☐ a"_s;

@@ -125,7 +125,7 @@ void TestStoreCopy::staysAsItIs_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::newRow("an index of the store is damaged") << u"index"_s;
-    QTest::newRow("the store holds nothing") << u"empty"_s;
+    QTest::newRow("the store is empty") << u"empty"_s;
     QTest::newRow("the store is of a newer version") << u"newer"_s;
     QTest::newRow("the store is gone") << u"gone"_s;
     QTest::newRow("the disk is full") << u"full"_s;

@@ -111,7 +111,7 @@ void PanelModelTest::draftGoesByTab_data()
 
     QTest::newRow("note") << Tab::Notes << u" tea\n[] milk\n"_s << Tab::Notes << u"tea\n\u2610 milk"_s
                           << QString();
-    QTest::newRow("a word is no checklist")
+    QTest::newRow("a word is not a checklist")
         << Tab::Checklists << u"tea"_s << Tab::Notes << u"tea"_s << QString();
     QTest::newRow("checklist") << Tab::Checklists << u"tea\n[] milk"_s << Tab::Checklists
                                << u"tea\n\u2610 milk"_s << QString();

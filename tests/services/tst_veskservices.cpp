@@ -83,7 +83,8 @@ void TestVeskServices::selectionGoesWhereTheKeySays_data()
         {u"Shop\n☑ y\n☐ milk\n☐ bread"_s, u"☐ x"_s}, u"Added to “Shop”"_s);
     row("add, an older one has boxes", {u"☐ x"_s, u"☐ y"_s, u"plain"_s}, Command::AddToChecklist, u"z"_s,
         {u"☐ y\n☐ z"_s, u"plain"_s, u"☐ x"_s}, u"Added to “y”"_s);
-    row("add, none has boxes", {u"plain"_s}, Command::AddToChecklist, lines, {boxes, u"plain"_s}, saved);
+    row("add, no note has checkboxes", {u"plain"_s}, Command::AddToChecklist, lines, {boxes, u"plain"_s},
+        saved);
     row("add what is there", {boxes}, Command::AddToChecklist, u"milk"_s, {boxes + u"\n☐ milk"_s},
         u"Added to “milk”"_s);
 }

@@ -132,7 +132,7 @@ void TranslationTest::firstSupportedLanguageIsUsed_data()
     QTest::newRow("of a country") << QStringList{u"de-Latn-AT"_s} << QLocale::German;
     QTest::newRow("second choice") << QStringList{u"tlh"_s, u"he-IL"_s, u"de"_s} << QLocale::Hebrew;
     QTest::newRow("English before another") << QStringList{u"en-US"_s, u"de"_s} << QLocale::English;
-    QTest::newRow("none that there is") << QStringList{u"tlh"_s} << QLocale::English;
+    QTest::newRow("no supported language") << QStringList{u"tlh"_s} << QLocale::English;
     QTest::newRow("none at all") << QStringList{} << QLocale::English;
 }
 
