@@ -30,8 +30,8 @@ public:
 
     /// Shows a question that the user has asked for, or brings it forward.
     void showAsked(MessageWindow &window) { show(window, MessageWindow::Arrival::Asked); }
-    /// Shows a question that opens by itself, once the keyboard is quiet or after 10 s. Keys that are typed in
-    /// its first moments are ignored.
+    /// Shows a question that opens by itself, once the keyboard is quiet or after 10 s. Keys that are typed
+    /// in its first moments are ignored.
     void showUnasked(MessageWindow &window) { show(window, MessageWindow::Arrival::Unasked); }
     /// Hides the question and gives the focus back to the window that had it.
     void hide(MessageWindow &window);
