@@ -63,6 +63,8 @@ std::optional<StoreTrouble> Database::emptyJournal(Finding finding)
         SQLite::Statement checkpoint(m_connection, "PRAGMA wal_checkpoint(TRUNCATE)");
         if (checkpoint.executeStep() && checkpoint.getColumn(0).getInt() != 0)
             return StoreTrouble{.kind = StoreTrouble::Kind::InUse, .detail = u"the journal is being read"_s};
+        // Ours, not somebody else's: the file may come back to its place.
+        rememberFile();
     } catch (const SQLite::Exception &error) {
         return troubleOf(error);
     }
