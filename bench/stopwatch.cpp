@@ -103,9 +103,8 @@ std::optional<double> Stopwatch::floor()
     const std::optional<double> time = until([&] { return !isBlack({50, 50}); });
     release();
     xcb_destroy_window(x, window);
-    const bool isGone = m_desktop.display().waitUntil(std::chrono::seconds{1}, [&] {
-        return isBlack({50, 50});
-    });
+    const bool isGone =
+        m_desktop.display().waitUntil(std::chrono::seconds{1}, [&] { return isBlack({50, 50}); });
     return isGone ? time : std::nullopt;
 }
 

@@ -31,7 +31,7 @@ QString accessibilityAddress(const QString &sessionAddress)
 
 AccessibleBus::AccessibleBus(const QString &sessionAddress)
     : m_bus(
-        QDBusConnection::connectToBus(accessibilityAddress(sessionAddress), QUuid::createUuid().toString()))
+          QDBusConnection::connectToBus(accessibilityAddress(sessionAddress), QUuid::createUuid().toString()))
 {
 }
 

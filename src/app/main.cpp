@@ -171,9 +171,9 @@ int refuseWithoutServer(int argc, char *argv[])
     const bool isWayland = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
     const QString message =
         isWayland
-            ? Texts::tr(
-                "Vesk needs an X11 desktop, and this is a Wayland desktop without an X server. Log in to an "
-                "X11 session, or use the commands that work without one: vesk add and vesk list.")
+            ? Texts::tr("Vesk needs an X11 desktop, and this is a Wayland desktop without an X server. Log "
+                        "in to an "
+                        "X11 session, or use the commands that work without one: vesk add and vesk list.")
             : Texts::tr(
                   "Vesk needs an X11 desktop, and there is no X server at \"%1\". The commands vesk add and "
                   "vesk list work without one.")

@@ -37,9 +37,7 @@ QuitSignals::QuitSignals()
         // Not quit(), which asks the windows to close; the panel would refuse and merely hide.
         QCoreApplication::exit(0);
     });
-    struct sigaction action
-    {
-    };
+    struct sigaction action{};
     action.sa_handler = onSignal;
     action.sa_flags = SA_RESTART;
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})

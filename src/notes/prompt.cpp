@@ -9,12 +9,12 @@ namespace vesk {
 
 Prompt::Prompt(const Clock &clock, const QString &text, Origin origin)
     : Prompt(Fields{
-        .id = QUuid::createUuid(),
-        .text = text,
-        .isDone = false,
-        .createdAt = clock.now(),
-        .isCaptured = origin == Origin::Captured,
-    })
+          .id = QUuid::createUuid(),
+          .text = text,
+          .isDone = false,
+          .createdAt = clock.now(),
+          .isCaptured = origin == Origin::Captured,
+      })
 {
 }
 

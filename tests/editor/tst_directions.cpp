@@ -53,12 +53,12 @@ void DirectionsTest::paragraphsBeginAtTheirSide_data()
     QTest::newRow("the same in another interface")
         << right << u"Buy milk\n☐ לקנות חלב\n☑ شراء الحليب\n# כותרת\n• one\n**שלום**"_s << u"LRRRLR"_s;
     QTest::newRow("first letter") << left << u"☐ Qt בעברית\n☐ עברית in Qt\n12 קניות\n(a) ב"_s << u"LRRL"_s;
-    QTest::newRow("first letter, beyond the basic plane")
-        << left << u"☐ 𞤀𞤁\n☐ 𝐀 ב"_s << u"RL"_s;
+    QTest::newRow("first letter, beyond the basic plane") << left << u"☐ 𞤀𞤁\n☐ 𝐀 ב"_s << u"RL"_s;
     QTest::newRow("an isolate does not count")
         << left << u"\u2066Qt\u2069 בעברית\n\u2067ב\u2069 a"_s << u"RL"_s;
     QTest::newRow("no letter: as the one before") << left << u"☐ חלב\n☐ 123\n\n☐ \nabc\n456"_s << u"RRRRLL"_s;
-    QTest::newRow("no direction before: follows the interface") << right << u"☐ 123\n\nabc\n☐ "_s << u"RRLL"_s;
+    QTest::newRow("no direction before: follows the interface")
+        << right << u"☐ 123\n\nabc\n☐ "_s << u"RRLL"_s;
     QTest::newRow("no direction before, opposite interface") << left << u"☐ 123\n\nחלב\n☐ "_s << u"LLRR"_s;
 }
 

@@ -239,8 +239,8 @@ void NoteEditorTest::undoSteps_data()
     QTest::newRow("erased at once") << QStringList{u"abc\b\b"_s} << QStringList{u"abc"_s, QString()};
     QTest::newRow("emoji in a word") << QStringList{u"a😀b c"_s} << QStringList{u"a😀b "_s, QString()};
     QTest::newRow("joiner in a word") << QStringList{u"می\u200cخ"_s} << QStringList{QString()};
-    QTest::newRow("emoji erased one by one") << QStringList{u"😀👍🏽"_s, u"\b"_s, u"\b"_s}
-                                             << QStringList{u"😀"_s, u"😀👍🏽"_s, QString()};
+    QTest::newRow("emoji erased one by one")
+        << QStringList{u"😀👍🏽"_s, u"\b"_s, u"\b"_s} << QStringList{u"😀"_s, u"😀👍🏽"_s, QString()};
     QTest::newRow("trigger") << QStringList{u"[ ] a"_s} << QStringList{u"☐ "_s, u"[ ]"_s, u"[ "_s, QString()};
     QTest::newRow("next item") << QStringList{u"- a\nb"_s}
                                << QStringList{u"• a\n• "_s, u"• a"_s, u"• "_s, u"-"_s, QString()};

@@ -63,11 +63,11 @@ State RandomEditsTest::state() const
 
 void RandomEditsTest::act(int kind)
 {
-    static const QStringList kLetters{u"a"_s, u"b"_s, u"-"_s, u"*"_s,    u"["_s,     u"x"_s,
-                                      u"]"_s, u"#"_s, u"é"_s, u"1"_s,    u"ב"_s,     u"م"_s,
+    static const QStringList kLetters{u"a"_s,  u"b"_s,  u"-"_s,  u"*"_s,  u"["_s,     u"x"_s,
+                                      u"]"_s,  u"#"_s,  u"é"_s,  u"1"_s,  u"ב"_s,     u"م"_s,
                                       u"😀"_s, u"😁"_s, u"👍"_s, u"🏽"_s, u"\u0301"_s};
-    static const QStringList kCommits{u"👍🏽"_s, u"你好"_s, u"😁"_s,  u"😀"_s,
-                                      u"שלום"_s,     u" "_s,    u"\n"_s, u"a 👩‍🚀"_s};
+    static const QStringList kCommits{u"👍🏽"_s, u"你好"_s, u"😁"_s, u"😀"_s,
+                                      u"שלום"_s, u" "_s,    u"\n"_s, u"a 👩‍🚀"_s};
     static const QStringList kPastes{u"- one\n[ ] two"_s, u"# head"_s,  u"**bold** x"_s,
                                      u"☑ done\n"_s,       u"\n\n"_s,    u"•\u00a0x\u2028☐ y"_s,
                                      u"\ufffc\ufdd0"_s,   u"☐ חלב\n"_s, u"مرحبا a\n12"_s};

@@ -98,8 +98,7 @@ Contents TestDurability::contents() const
 void TestDurability::change(std::mt19937 &random)
 {
     NotesStore &store = *m_fixture->store;
-    const auto any = [&](auto &query) -> auto &
-    {
+    const auto any = [&](auto &query) -> auto & {
         return query.at(qsizetype(random() % size_t(query.count())));
     };
     // Some texts need several pages.

@@ -86,7 +86,7 @@ QCoro::Task<bool> EmacsSelection::hasRegion()
         co_return false;
     // Some commands, such as Control-G, end the region without a claim.
     const bool isLatest = m_press.time == 0 || isAtOrAfter(m_primary.claim().time, m_press.time);
-    co_return isLatest &&m_hasRegion;
+    co_return (isLatest && m_hasRegion);
 }
 
 bool EmacsSelection::isFromDeselecting() const

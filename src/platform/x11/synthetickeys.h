@@ -35,8 +35,7 @@ public:
     /// Sends the keys with these keysyms, modifiers first. The server must be grabbed. Held-back keys must be
     /// released in `letGo`, which is called at the last moment: whatever the user presses after that may
     /// arrive before these keys. Returns false, with nothing sent, if the keyboard has no such key.
-    bool play(
-        const QList<uint32_t> &keysyms, const std::function<void()> &letGo = [] {});
+    bool play(const QList<uint32_t> &keysyms, const std::function<void()> &letGo = [] {});
 
 private:
     using Keys = QList<xcb_keycode_t>;
