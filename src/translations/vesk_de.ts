@@ -1221,6 +1221,10 @@ zeigt sein Panel, wenn es schon läuft.</translation>
         <source>none</source>
         <translation>keine</translation>
     </message>
+    <message>
+        <source>%1, not in %2</source>
+        <translation>%1, nicht in %2</translation>
+    </message>
 </context>
 <context>
     <name>vesk::Main</name>
@@ -1317,6 +1321,13 @@ zeigt sein Panel, wenn es schon läuft.</translation>
     </message>
 </context>
 <context>
+    <name>vesk::PanelModel</name>
+    <message>
+        <source>This text is too long for a note.</source>
+        <translation>Dieser Text ist zu lang für eine Notiz.</translation>
+    </message>
+</context>
+<context>
     <name>vesk::PromptListModel</name>
     <message>
         <source>Follow-up prompts</source>
@@ -1347,6 +1358,10 @@ zeigt sein Panel, wenn es schon läuft.</translation>
     <message>
         <source>Quick Note</source>
         <translation>Schnellnotiz</translation>
+    </message>
+    <message>
+        <source>This text is too long for a note.</source>
+        <translation>Dieser Text ist zu lang für eine Notiz.</translation>
     </message>
 </context>
 <context>

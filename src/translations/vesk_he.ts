@@ -1221,6 +1221,10 @@ panel if it is already running.</source>
         <source>none</source>
         <translation>ללא</translation>
     </message>
+    <message>
+        <source>%1, not in %2</source>
+        <translation>%1, לא ב־⁦%2⁩</translation>
+    </message>
 </context>
 <context>
     <name>vesk::Main</name>
@@ -1317,6 +1321,13 @@ panel if it is already running.</source>
     </message>
 </context>
 <context>
+    <name>vesk::PanelModel</name>
+    <message>
+        <source>This text is too long for a note.</source>
+        <translation>הטקסט הזה ארוך מדי לפתק.</translation>
+    </message>
+</context>
+<context>
     <name>vesk::PromptListModel</name>
     <message>
         <source>Follow-up prompts</source>
@@ -1347,6 +1358,10 @@ panel if it is already running.</source>
     <message>
         <source>Quick Note</source>
         <translation>פתק מהיר</translation>
+    </message>
+    <message>
+        <source>This text is too long for a note.</source>
+        <translation>הטקסט הזה ארוך מדי לפתק.</translation>
     </message>
 </context>
 <context>
