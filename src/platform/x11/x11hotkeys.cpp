@@ -160,7 +160,7 @@ void X11HotKeys::onEvent(const xcb_generic_event_t *event)
     if (type == XCB_KEY_PRESS) {
         onPress(key);
     } else if (type == XCB_KEY_RELEASE && key.detail == m_held.key) {
-        m_releaseTime = key.time;
+        recordRelease(key.detail, key.time);
         // A repeated key only appears to be released; this one may really be released before the grab is
         // given back.
         if (!m_guards.isEmpty() && !keysDown(m_connection).test(m_held.key))
@@ -176,10 +176,13 @@ void X11HotKeys::onPress(const xcb_key_press_event_t &press)
         xcb_ungrab_keyboard(m_connection.xcb(), press.time);
         m_connection.flush();
     }
+    // A press that the server held back arrives later than its own release, which raw input reports at once.
+    QList<xcb_timestamp_t> &releases = m_releases[press.detail];
     const bool isRepetition =
-        press.detail == m_held.key
-        && (!m_releaseTime || !isAtOrAfter(press.time, *m_releaseTime + kRepetitionMilliseconds));
-    m_releaseTime.reset();
+        press.detail == m_held.key && std::ranges::none_of(releases, [&press](xcb_timestamp_t time) {
+            return isAtOrAfter(press.time, time + kRepetitionMilliseconds);
+        });
+    releases.removeIf([&press](xcb_timestamp_t time) { return isAtOrAfter(press.time, time); });
     if (isRepetition) {
         // A key held this long may well outlast its modifiers, and the next repeat may arrive before we learn
         // that one of them was released.
@@ -204,15 +207,23 @@ void X11HotKeys::onPress(const xcb_key_press_event_t &press)
 
 void X11HotKeys::onKeyReleased(xcb_keycode_t key, xcb_timestamp_t time)
 {
+    recordRelease(key, time);
     if (key == m_held.key) {
-        m_releaseTime = time;
         endGuard();
         return;
     }
-    const bool isDown = m_held.key != 0 && !m_releaseTime;
+    const bool isDown = m_held.key != 0 && m_releases.value(m_held.key).isEmpty();
     const uint8_t bits = m_input.modifiers().bitsOf(m_input.modifiers().modifiersOf(key));
     if (isDown && (bits & m_held.modifiers) != 0)
         guardHeldKey();
+}
+
+void X11HotKeys::recordRelease(xcb_keycode_t key, xcb_timestamp_t time)
+{
+    // Only the first and the last one decide anything.
+    QList<xcb_timestamp_t> &releases = m_releases[key];
+    releases.resize(std::min(releases.size(), qsizetype{1}));
+    releases.append(time);
 }
 
 void X11HotKeys::guardHeldKey()

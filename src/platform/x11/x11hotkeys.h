@@ -58,6 +58,7 @@ private:
     void onPress(const xcb_key_press_event_t &press);
     void onKeyReleased(xcb_keycode_t key, xcb_timestamp_t time);
 
+    void recordRelease(xcb_keycode_t key, xcb_timestamp_t time);
     /// Keeps the held key from the application, even after some of its modifiers are released.
     void guardHeldKey();
     void endGuard();
@@ -71,9 +72,10 @@ private:
     QList<Grab> m_guards;
     /// The last press that was acted on; its key is 0 before the first.
     Grab m_held;
-    /// When the held key was released, or seemed to be; nullopt since its last press. The release arrives as
-    /// an event of the grab or as raw input, depending on whether the grab was given back by then.
-    std::optional<xcb_timestamp_t> m_releaseTime;
+    /// When each key was released, or seemed to be, since its last press: the first time and the last. A
+    /// release arrives as an event of the grab or as raw input, depending on whether the grab was given back
+    /// by then.
+    QHash<xcb_keycode_t, QList<xcb_timestamp_t>> m_releases;
 };
 
 } // namespace vesk
