@@ -66,16 +66,18 @@ void TextTransfer::dropAt(qsizetype position)
 QCoro::Task<> TextTransfer::insertFrom(Pasteboard &pasteboard, Selection place, Then then)
 {
     const QPointer<TextTransfer> self(this);
-    // Sends the held input on when it is destroyed, after the text was inserted.
-    HeldInput held(*m_edit.item());
     // Follows other changes that happen before the owner of the text has answered.
     QTextCursor span(&m_text.document());
     span.setPosition(static_cast<int>(place.start()));
     span.setPosition(static_cast<int>(place.end()), QTextCursor::KeepAnchor);
+    // Before input is held, which would also hold back the commit.
+    m_edit.endComposing();
+    // Sends the held input on when it is destroyed, after the text was inserted.
+    HeldInput held(*m_edit.item());
     const std::optional<QString> text = co_await pasteboard.string(Pasteboard::Patience::Long);
     if (!text)
         held.dropPastes();
-    if (self.isNull() || !text || text->isEmpty() || m_edit.isComposing())
+    if (self.isNull() || !text || text->isEmpty())
         co_return;
     const qsizetype start = span.selectionStart();
     const qsizetype end = span.selectionEnd();

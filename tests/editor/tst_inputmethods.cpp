@@ -24,6 +24,8 @@ private Q_SLOTS:
     void surrogatePairIsNeverTornApart();
     void replacedTextIsOneStep_data();
     void replacedTextIsOneStep();
+    void textThatArrivesWhileComposingIsInserted_data();
+    void textThatArrivesWhileComposingIsInserted();
 
 private:
     static void undo(EditorFixture &fixture) { fixture.press(Qt::Key_Z, Qt::ControlModifier); }
@@ -237,6 +239,40 @@ void InputMethodsTest::replacedTextIsOneStep()
     QCOMPARE(fixture.caret(), caret);
     redo(fixture);
     QTEST(fixture.text(), "after");
+}
+
+void InputMethodsTest::textThatArrivesWhileComposingIsInserted_data()
+{
+    QTest::addColumn<int>("dropPosition");
+    QTest::addColumn<QString>("after");
+    QTest::newRow("pasted") << -1 << u"one niX two"_s;
+    QTest::newRow("dropped before it") << 0 << u"Xone ni two"_s;
+    QTest::newRow("dropped after it") << 8 << u"one ni twoX"_s;
+}
+
+void InputMethodsTest::textThatArrivesWhileComposingIsInserted()
+{
+    QFETCH(const int, dropPosition);
+    for (const bool isLate : {false, true}) {
+        MemoryClock clock;
+        EditorFixture fixture;
+        fixture.load(u"one  two"_s);
+        fixture.select(4, 4);
+        fixture.compose(u"ni"_s);
+        MemoryPasteboard &source = dropPosition < 0 ? fixture.pasteboard : fixture.dragged;
+        source.setString(u"X"_s);
+        if (isLate)
+            source.setDelay(clock, std::chrono::seconds(1));
+        NoteTextView &view = *fixture.controller.textView();
+        view.setDropPosition(dropPosition);
+        if (dropPosition < 0)
+            view.paste();
+        else
+            view.drop();
+        clock.advance(std::chrono::seconds(1));
+        QTRY_VERIFY(fixture.text().contains(u'X'));
+        QTEST(fixture.text(), "after");
+    }
 }
 
 QTEST_MAIN(InputMethodsTest)
