@@ -142,7 +142,7 @@ void TranslationTest::firstSupportedLanguageIsUsed()
     QFETCH(QLocale::Language, taken);
     const Translation translation(languages);
     QCOMPARE(translation.language().language(), taken);
-    const QString quit = QCoreApplication::translate("vesk::DesktopMenus", "Quit");
+    const QString quit = QCoreApplication::translate("vesk::Command", "Quit");
     QCOMPARE(quit == u"Quit", taken == QLocale::English);
     // English has a file too, for the singular forms.
     const QString one = QCoreApplication::translate("SectionHeader", "%Ln items", nullptr, 1);
