@@ -2,8 +2,9 @@
 #include "movableclock.h"
 
 #include <atomic>
+#include <ctime>
+
 #include <sys/syscall.h>
-#include <time.h>
 #include <unistd.h>
 
 namespace {
@@ -13,6 +14,7 @@ std::atomic<std::chrono::nanoseconds> g_advanced{};
 } // namespace
 
 /// Replaces the C library's function, for all libraries too.
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): the library's names are reserved.
 extern "C" __attribute__((visibility("default"))) int clock_gettime(clockid_t clock, timespec *time) noexcept
 {
     const long result = ::syscall(SYS_clock_gettime, clock, time);
