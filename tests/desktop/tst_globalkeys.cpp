@@ -305,7 +305,8 @@ void TestGlobalKeys::whatIsTypedFromThePressOnReachesThePanel()
                               kBound, [&] { return m_desktop->notes().texts().value(1) == words; }));
     togglePanel();
     VERIFY_ON(*m_desktop, m_desktop->windows().waitActive(m_editor->window(), kBound));
-    QVERIFY(isEditorUntouched());
+    // FIXME: Control-A and Control-C do not always reach the editor here, so its text is read from the bus.
+    QCOMPARE(m_editor->shownText(), m_lines.join(u'\n') + u'\n');
 }
 
 DESKTOP_TEST_MAIN(TestGlobalKeys)

@@ -231,7 +231,7 @@ void TestMishaps::unusableStoreIsReportedAndLeftAlone()
     // A key that was meant for another window closes nothing, so the window ignores keys at first.
     VERIFY_ON(*m_desktop, m_desktop->display().waitUntil(kBound, [this] {
         m_desktop->keyboard().tap({XK_Escape});
-        return m_vesk->waitForExit(std::chrono::milliseconds(200));
+        return m_vesk->waitForExit(std::chrono::milliseconds(1000));
     }));
     QCOMPARE(m_vesk->exitCode(), 1);
     QCOMPARE(contentsOf(store), rubbish.toUtf8());
